@@ -1,0 +1,61 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <utility>
+
+namespace platform {
+
+/// An open file of the host system, closed when the object goes. Paths are host paths.
+class FileHandle {
+  public:
+    FileHandle() = default;
+    FileHandle(FileHandle&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
+    FileHandle& operator=(FileHandle&& other) noexcept {
+        std::swap(descriptor_, other.descriptor_);
+        return *this;
+    }
+    FileHandle(const FileHandle&) = delete;
+    FileHandle& operator=(const FileHandle&) = delete;
+    ~FileHandle();
+
+    /// Opens an existing file for reading; a closed handle when that fails.
+    static FileHandle openForReading(const std::string& path);
+
+    /// Opens a file for writing and empties it; creates a missing one only when `create` says so. A closed
+    /// handle when that fails.
+    static FileHandle openForWriting(const std::string& path, bool create);
+
+    /// Creates a file that must not exist yet; a closed handle when that fails.
+    static FileHandle createNew(const std::string& path);
+
+    explicit operator bool() const { return descriptor_ >= 0; }
+
+    /// Reads up to `size` bytes where the last read ended; 0 at the end of the file, nothing on failure (a
+    /// folder opens, but cannot be read).
+    std::optional<std::size_t> read(void* buffer, std::size_t size);
+
+    /// Reads on to the end of the file, `limit` bytes at most; nothing on failure.
+    std::optional<std::string> readAll(std::size_t limit);
+
+    /// Writes all bytes; false when that fails at any of them.
+    bool write(const void* bytes, std::size_t size);
+
+    /// Makes sure that what was written has reached the medium.
+    bool sync();
+
+    /// Closes the file; false when the host reports a late write error. A closed handle stays closed, with
+    /// true.
+    bool close();
+
+    /// The host's file descriptor, −1 when closed.
+    int descriptor() const { return descriptor_; }
+
+  private:
+    explicit FileHandle(int descriptor) : descriptor_(descriptor) {}
+
+    int descriptor_ = -1;
+};
+
+}  // namespace platform

@@ -1,0 +1,102 @@
+#include "platform/machine/Machine.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdlib>
+#include <system_error>
+#include <thread>
+
+#include "platform/registry/RegFile.h"
+
+namespace platform {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* configName = "machine.json";
+constexpr const char* registryName = "registry.reg";
+
+Machine* currentMachine = nullptr;
+
+std::vector<Drive> drivesOf(const fs::path& folder, const MachineConfig& config) {
+    std::vector<Drive> drives;
+    for (const auto& [letter, drive] : config.drives)
+        drives.push_back({letter, drive.type, folder / drive.folder});
+    return drives;
+}
+
+/// Nothing at all is as good as a file without content; only what is there can be damaged.
+template <typename T>
+Loaded<T> loadIfThere(const fs::path& path, Loaded<T> (*load)(const fs::path&)) {
+    std::error_code error;
+    const auto type = fs::symlink_status(path, error).type();
+    return type == fs::file_type::not_found ? Loaded<T>::success(T{}) : load(path);
+}
+
+std::string withoutLastSlash(std::string path) {
+    if (path.ends_with('\\')) path.pop_back();
+    return path;
+}
+
+}  // namespace
+
+Loaded<std::unique_ptr<Machine>> Machine::open(const fs::path& folder) {
+    using Result = Loaded<std::unique_ptr<Machine>>;
+    std::error_code error;
+    if (!fs::is_directory(folder, error)) return Result::failure(folder.string() + ": no such folder");
+    auto config = loadIfThere(folder / configName, loadMachineConfig);
+    if (!config) return Result::failure(std::move(config.error));
+    auto registry = loadIfThere(folder / registryName, loadRegFile);
+    if (!registry) return Result::failure(std::move(registry.error));
+    return Result::success(
+        std::make_unique<Machine>(folder, std::move(*config.value), std::move(*registry.value)));
+}
+
+Machine::Machine(const fs::path& folder, MachineConfig config, Registry registry)
+    : folder_(fs::absolute(folder)),
+      config_(std::move(config)),
+      files_(drivesOf(folder_, config_)),
+      registry_(std::move(registry)) {}
+
+int Machine::metric(SystemMetric metric) const {
+    if (metric == SM_CXSCREEN) return config_.screen.width;
+    if (metric == SM_CYSCREEN) return config_.screen.height;
+    const auto row = std::find_if(metricNames.begin(), metricNames.end(),
+                                  [metric](const MetricName& name) { return name.metric == metric; });
+    if (row == metricNames.end()) return 0;
+    const auto given = config_.metrics.find(row->name);
+    return given == config_.metrics.end() ? row->standard : given->second;
+}
+
+std::string Machine::tempFolder() const { return withoutLastSlash(config_.temp) + '\\'; }
+
+std::string Machine::systemFolder() const { return withoutLastSlash(config_.system); }
+
+std::optional<std::string> Machine::findLibrary(std::string_view name) const {
+    if (name.find_first_of("\\/:") != name.npos) return std::string(name);
+    const std::string& program = config_.program;
+    for (const auto& folder : {program.substr(0, program.find_last_of('\\')), systemFolder()}) {
+        std::string path = folder + '\\' + std::string(name);
+        if (files_.exists(path)) return path;
+    }
+    return std::nullopt;
+}
+
+void Machine::sleep(std::uint32_t milliseconds) {
+    trace_.record(TraceSleep{milliseconds});
+    if (!virtualTime_) std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+}
+
+bool Machine::flushRegistry() const { return saveRegFile(registry_, folder_ / registryName); }
+
+Machine& machine() {
+    if (!currentMachine) std::abort();
+    return *currentMachine;
+}
+
+void setMachine(Machine* current) { currentMachine = current; }
+
+bool hasMachine() { return currentMachine != nullptr; }
+
+}  // namespace platform

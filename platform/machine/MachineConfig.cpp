@@ -1,0 +1,231 @@
+#include "platform/machine/MachineConfig.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <nlohmann/json.hpp>
+#include <utility>
+
+#include "platform/files/FileHandle.h"
+#include "platform/files/ReplaceFile.h"
+#include "platform/text/CodePage1253.h"
+
+namespace platform {
+
+namespace {
+
+// Ordered, so that a written file shows its fields in the order in which they are described.
+using Json = nlohmann::ordered_json;
+
+constexpr std::size_t largestFile = 1 << 20;
+constexpr int largestExtent = 32767;
+
+constexpr std::array<std::pair<std::string_view, DriveType>, 6> driveTypeNames = {{
+    {"unknown", DriveType::unknown},
+    {"removable", DriveType::removable},
+    {"fixed", DriveType::fixed},
+    {"remote", DriveType::remote},
+    {"cdrom", DriveType::cdrom},
+    {"ramdisk", DriveType::ramdisk},
+}};
+
+/// Reads fields of JSON objects and remembers the first thing that is wrong.
+class FieldReader {
+  public:
+    bool failed() const { return !problem_.empty(); }
+    const std::string& problem() const { return problem_; }
+    void fail(std::string problem) {
+        if (!failed()) problem_ = std::move(problem);
+    }
+
+    bool isObject(const Json& value, const std::string& name) {
+        if (!value.is_object()) fail(name + " must be an object");
+        return value.is_object();
+    }
+
+    /// The field of an object, or null when it is not there.
+    static const Json* field(const Json& object, const char* key) {
+        const auto found = object.find(key);
+        return found == object.end() ? nullptr : &*found;
+    }
+
+    void readInteger(const Json& value, const std::string& name, int smallest, int largest, int& target) {
+        const bool fits = value.is_number_integer() && value >= smallest && value <= largest;
+        if (fits) {
+            target = value.get<int>();
+        } else {
+            fail(name + " must be a whole number from " + std::to_string(smallest) + " to " +
+                 std::to_string(largest));
+        }
+    }
+
+    void readInteger(const Json& object, const char* key, const std::string& parent, int smallest,
+                     int largest, int& target) {
+        if (const Json* value = field(object, key)) {
+            readInteger(*value, parent + "." + key, smallest, largest, target);
+        }
+    }
+
+    /// A text in code page 1253.
+    void readText(const Json& object, const char* key, std::string& target) {
+        const Json* value = field(object, key);
+        if (!value) return;
+        if (!value->is_string()) return fail(std::string(key) + " must be a text");
+        auto text = fromUtf8Strict(value->get_ref<const std::string&>());
+        if (!text) return fail(std::string(key) + " has a character outside code page 1253");
+        target = std::move(*text);
+    }
+
+  private:
+    std::string problem_;
+};
+
+void readScreen(FieldReader& reader, const Json& root, ScreenConfig& screen) {
+    const Json* object = FieldReader::field(root, "screen");
+    if (!object || !reader.isObject(*object, "screen")) return;
+    reader.readInteger(*object, "width", "screen", 1, largestExtent, screen.width);
+    reader.readInteger(*object, "height", "screen", 1, largestExtent, screen.height);
+    reader.readInteger(*object, "bitsPerPixel", "screen", 1, 32, screen.bitsPerPixel);
+}
+
+void readMetrics(FieldReader& reader, const Json& root, MachineConfig& config) {
+    const Json* object = FieldReader::field(root, "metrics");
+    if (!object || !reader.isObject(*object, "metrics")) return;
+    for (const auto& [name, value] : object->items()) {
+        reader.readInteger(value, "metrics." + name, 0, largestExtent, config.metrics[name]);
+    }
+}
+
+std::optional<DriveType> driveTypeByName(std::string_view name) {
+    const auto found = std::find_if(driveTypeNames.begin(), driveTypeNames.end(),
+                                    [name](const auto& row) { return row.first == name; });
+    return found == driveTypeNames.end() ? std::nullopt : std::optional(found->second);
+}
+
+std::string_view driveTypeName(DriveType type) {
+    const auto found = std::find_if(driveTypeNames.begin(), driveTypeNames.end(),
+                                    [type](const auto& row) { return row.second == type; });
+    return found == driveTypeNames.end() ? "unknown" : found->first;
+}
+
+void readDrive(FieldReader& reader, const Json& object, const std::string& name, DriveConfig& drive) {
+    if (!reader.isObject(object, name)) return;
+    if (const Json* type = FieldReader::field(object, "type")) {
+        const auto known =
+            type->is_string() ? driveTypeByName(type->get_ref<const std::string&>()) : std::nullopt;
+        if (!known)
+            return reader.fail(name +
+                               ".type must be one of removable, fixed, remote, cdrom, ramdisk, unknown");
+        drive.type = *known;
+    }
+    if (const Json* folder = FieldReader::field(object, "folder")) {
+        if (!folder->is_string()) return reader.fail(name + ".folder must be a text");
+        drive.folder = folder->get_ref<const std::string&>();
+    }
+}
+
+void readDrives(FieldReader& reader, const Json& root, MachineConfig& config) {
+    const Json* object = FieldReader::field(root, "drives");
+    if (!object || !reader.isObject(*object, "drives")) return;
+    for (const auto& [name, value] : object->items()) {
+        if (name.size() != 1 || name[0] < 'A' || name[0] > 'Z') {
+            return reader.fail("drives: \"" + name + "\" is not a drive letter from A to Z");
+        }
+        if (value.is_null()) {
+            config.drives.erase(name[0]);
+            continue;
+        }
+        const std::string usualFolder{lower(name[0])};
+        DriveConfig& drive =
+            config.drives.try_emplace(name[0], DriveConfig{DriveType::fixed, usualFolder}).first->second;
+        readDrive(reader, value, "drives." + name, drive);
+    }
+}
+
+void readPrinter(FieldReader& reader, const Json& root, MachineConfig& config) {
+    const Json* object = FieldReader::field(root, "printer");
+    if (!object || object->is_null() || !reader.isObject(*object, "printer")) return;
+    constexpr int most = std::numeric_limits<int>::max();
+    PrinterConfig& printer = config.printer.emplace();
+    reader.readInteger(*object, "horzres", "printer", 1, most, printer.horzres);
+    reader.readInteger(*object, "vertres", "printer", 1, most, printer.vertres);
+    reader.readInteger(*object, "logpixelsy", "printer", 1, most, printer.logpixelsy);
+}
+
+MachineConfig readConfig(FieldReader& reader, const Json& root) {
+    MachineConfig config;
+    if (!reader.isObject(root, "the whole")) return config;
+    readScreen(reader, root, config.screen);
+    readMetrics(reader, root, config);
+    readDrives(reader, root, config);
+    reader.readText(root, "program", config.program);
+    reader.readText(root, "temp", config.temp);
+    reader.readText(root, "system", config.system);
+    readPrinter(reader, root, config);
+    return config;
+}
+
+Json drivesToJson(const MachineConfig& config) {
+    Json object = Json::object();
+    // Left out, drive C: would be there again when the file is read.
+    if (!config.drives.contains('C')) object["C"] = nullptr;
+    for (const auto& [letter, drive] : config.drives) {
+        object[std::string{letter}] = {{"type", driveTypeName(drive.type)},
+                                       {"folder", drive.folder.string()}};
+    }
+    return object;
+}
+
+Json toJson(const MachineConfig& config) {
+    Json root;
+    const ScreenConfig& screen = config.screen;
+    root["screen"] = {
+        {"width", screen.width}, {"height", screen.height}, {"bitsPerPixel", screen.bitsPerPixel}};
+    root["metrics"] = Json::object();
+    for (const auto& [name, value] : config.metrics) root["metrics"][name] = value;
+    root["drives"] = drivesToJson(config);
+    root["program"] = toUtf8(config.program);
+    root["temp"] = toUtf8(config.temp);
+    root["system"] = toUtf8(config.system);
+    root["printer"] = nullptr;
+    if (const auto& printer = config.printer) {
+        root["printer"] = {{"horzres", printer->horzres},
+                           {"vertres", printer->vertres},
+                           {"logpixelsy", printer->logpixelsy}};
+    }
+    return root;
+}
+
+}  // namespace
+
+Loaded<MachineConfig> parseMachineConfig(std::string_view json, std::string_view name) {
+    const std::string prefix = std::string(name) + ": ";
+    Json root;
+    try {
+        root = Json::parse(json);
+    } catch (const Json::parse_error& error) {
+        return Loaded<MachineConfig>::failure(prefix + "not JSON: " + error.what());
+    }
+    FieldReader reader;
+    MachineConfig config = readConfig(reader, root);
+    if (reader.failed()) return Loaded<MachineConfig>::failure(prefix + reader.problem());
+    return Loaded<MachineConfig>::success(std::move(config));
+}
+
+Loaded<MachineConfig> loadMachineConfig(const std::filesystem::path& path) {
+    FileHandle file = FileHandle::openForReading(path);
+    const auto text = file ? file.readAll(largestFile + 1) : std::nullopt;
+    if (!text) return Loaded<MachineConfig>::failure(path.string() + ": cannot be read");
+    if (text->size() > largestFile) return Loaded<MachineConfig>::failure(path.string() + ": too long");
+    return parseMachineConfig(*text, path.string());
+}
+
+bool saveMachineConfig(const MachineConfig& config, const std::filesystem::path& path) {
+    try {
+        return replaceFile(path, toJson(config).dump(2) + "\n");
+    } catch (const Json::type_error&) {
+        return false;  // a folder's name is not UTF-8, so JSON cannot hold it
+    }
+}
+
+}  // namespace platform

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/files/DriveType.h"
+#include "platform/files/Loaded.h"
+
+namespace platform {
+
+/// The screen.
+struct ScreenConfig {
+    int width = 1024;
+    int height = 768;
+    int bitsPerPixel = 32;
+
+    bool operator==(const ScreenConfig&) const = default;
+};
+
+/// A drive as the settings name it.
+struct DriveConfig {
+    DriveType type = DriveType::fixed;
+    std::filesystem::path folder;  ///< absolute, or relative to the machine folder
+
+    bool operator==(const DriveConfig&) const = default;
+};
+
+/// A printer: its page in device pixels and its vertical resolution in pixels per inch.
+struct PrinterConfig {
+    int horzres = 4800;
+    int vertres = 6800;
+    int logpixelsy = 600;
+
+    bool operator==(const PrinterConfig&) const = default;
+};
+
+/// What machine.json tells of a machine; every field of the file may be left out. Texts are code page 1253.
+struct MachineConfig {
+    ScreenConfig screen;
+    std::map<std::string, int, std::less<>>
+        metrics;  ///< the metrics given, by name; others have their standard value
+    std::map<char, DriveConfig> drives = {{'C', {DriveType::fixed, "c"}}};  ///< by letter, 'A' to 'Z'
+    std::string program = "C:\\Kalyxo\\kalyxo.exe";
+    std::string temp = "C:\\Temp\\";
+    std::string system = "C:\\Windows\\System";
+    std::optional<PrinterConfig> printer;
+
+    bool operator==(const MachineConfig&) const = default;
+};
+
+/// Reads machine.json text. Drives add to the drive C: that there is by default; a drive that is null is
+/// taken away. Unknown fields are passed over. The error text starts with `name` and says what is wrong: not
+/// JSON, a field of a wrong type or out of range, a drive letter that is not A to Z, an unknown drive type.
+Loaded<MachineConfig> parseMachineConfig(std::string_view json, std::string_view name);
+
+/// Reads a machine.json file.
+Loaded<MachineConfig> loadMachineConfig(const std::filesystem::path& path);
+
+/// Writes a machine.json file all at once; false when that fails, with the old file as it was.
+bool saveMachineConfig(const MachineConfig& config, const std::filesystem::path& path);
+
+}  // namespace platform

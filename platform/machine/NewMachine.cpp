@@ -1,0 +1,136 @@
+#include "platform/machine/NewMachine.h"
+
+#include <system_error>
+
+#include "platform/files/FileSystem.h"
+#include "platform/files/ReplaceFile.h"
+#include "platform/machine/Machine.h"
+#include "platform/text/CodePage1253.h"
+
+namespace platform {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+using Problem = std::optional<std::string>;
+
+std::string parentFolder(const std::string& dosPath) { return dosPath.substr(0, dosPath.find_last_of('\\')); }
+
+Problem cannotMake(const std::string& what) { return what + ": cannot be made"; }
+
+MachineConfig completeConfig(const NewMachineOptions& options) {
+    MachineConfig config = options.config;
+    for (const auto& row : metricNames) config.metrics.try_emplace(std::string(row.name), row.standard);
+    if (!options.discFolder.empty()) {
+        std::error_code ignored;
+        config.drives['D'] = {DriveType::cdrom, fs::absolute(options.discFolder, ignored).lexically_normal()};
+    }
+    return config;
+}
+
+/// Makes the host folders that are drives inside the machine folder.
+Problem makeDriveFolders(const fs::path& folder, const MachineConfig& config) {
+    std::error_code error;
+    fs::create_directories(folder, error);
+    if (error) return cannotMake(folder.string());
+    for (const auto& [letter, drive] : config.drives) {
+        if (drive.folder.is_absolute()) continue;
+        fs::create_directories(folder / drive.folder, error);
+        if (error) return cannotMake((folder / drive.folder).string());
+    }
+    return std::nullopt;
+}
+
+Problem writeFile(const FileSystem& files, const NewMachineFile& file) {
+    if (!files.createFolders(parentFolder(file.path)) || !replaceFile(files, file.path, file.content)) {
+        return cannotMake(toUtf8(file.path));
+    }
+    return std::nullopt;
+}
+
+Problem makeFolders(Machine& machine, const NewMachineOptions& options) {
+    std::vector<std::string> folders = {machine.tempFolder(), machine.systemFolder()};
+    if (!options.modulesTo.empty()) folders.push_back(options.modulesTo);
+    for (const auto& folder : folders) {
+        if (!machine.files().createFolders(folder)) return cannotMake(toUtf8(folder));
+    }
+    return std::nullopt;
+}
+
+bool isModule(const fs::directory_entry& entry) {
+    std::error_code ignored;
+    return entry.is_regular_file(ignored) && equalsNoCase(entry.path().extension().string(), ".ocx");
+}
+
+Problem copyModules(const FileSystem& files, const NewMachineOptions& options) {
+    if (options.modulesFrom.empty()) return std::nullopt;
+    const auto target = files.nativePath(options.modulesTo);
+    std::size_t copied = 0;
+    std::error_code error;
+    for (fs::directory_iterator it(options.modulesFrom, error), end; !error && it != end;
+         it.increment(error)) {
+        if (!isModule(*it)) continue;
+        if (!target || !copyFileOver(it->path(), *target / it->path().filename())) {
+            return it->path().string() + ": cannot be copied to " + toUtf8(options.modulesTo);
+        }
+        ++copied;
+    }
+    if (error || copied == 0) return options.modulesFrom.string() + ": no component modules there";
+    return std::nullopt;
+}
+
+void fillSettings(Registry& registry, const NewMachineOptions& options) {
+    if (options.settingsKey.empty()) return;
+    auto key = registry.createKey(HKEY_LOCAL_MACHINE, options.settingsKey);
+    if (!key) return;
+    for (const auto& [name, value] : options.settings) {
+        if (const auto* text = std::get_if<std::string>(&value)) {
+            key->setString(name, *text);
+        } else {
+            key->setDword(name, std::get<std::uint32_t>(value));
+        }
+    }
+}
+
+void registerComponents(Registry& registry, const NewMachineOptions& options) {
+    for (const auto& component : options.components) {
+        auto key =
+            registry.createKey(HKEY_CLASSES_ROOT, "CLSID\\{" + component.classId + "}\\InprocServer32");
+        if (key) key->setString("", options.modulesTo + '\\' + component.file);
+    }
+}
+
+Problem fillDrives(Machine& machine, const NewMachineOptions& options) {
+    const NewMachineFile program{machine.programPath(),
+                                 "This file stands for the program on this machine.\r\n"};
+    if (auto problem = writeFile(machine.files(), program)) return problem;
+    if (auto problem = makeFolders(machine, options)) return problem;
+    if (auto problem = copyModules(machine.files(), options)) return problem;
+    for (const auto& file : options.files) {
+        if (auto problem = writeFile(machine.files(), file)) return problem;
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<std::string> makeMachine(const fs::path& folder, const NewMachineOptions& options) {
+    std::error_code error;
+    if (!options.discFolder.empty() && !fs::is_directory(options.discFolder, error)) {
+        return options.discFolder.string() + ": no such folder";
+    }
+    const MachineConfig config = completeConfig(options);
+    if (auto problem = makeDriveFolders(folder, config)) return problem;
+    if (!saveMachineConfig(config, folder / "machine.json"))
+        return cannotMake((folder / "machine.json").string());
+
+    Machine machine(folder, config, Registry());
+    if (auto problem = fillDrives(machine, options)) return problem;
+    fillSettings(machine.registry(), options);
+    registerComponents(machine.registry(), options);
+    if (!machine.flushRegistry()) return cannotMake((folder / "registry.reg").string());
+    return std::nullopt;
+}
+
+}  // namespace platform

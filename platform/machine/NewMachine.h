@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "platform/machine/MachineConfig.h"
+
+namespace platform {
+
+/// A component module and the class it serves.
+struct NewMachineComponent {
+    std::string file;     ///< file name of the module
+    std::string classId;  ///< class identifier without braces
+};
+
+/// A file to be written on the new machine.
+struct NewMachineFile {
+    std::string path;     ///< DOS path
+    std::string content;  ///< byte for byte
+};
+
+/// What a new machine gets. Texts are code page 1253, paths DOS paths unless said otherwise.
+struct NewMachineOptions {
+    MachineConfig config;               ///< written to machine.json with the compact disc added
+    std::filesystem::path discFolder;   ///< host folder that is the compact disc D:; none when empty
+    std::filesystem::path modulesFrom;  ///< host folder whose *.ocx files are copied; none when empty
+    std::string modulesTo;              ///< folder on the machine that receives them
+    std::string settingsKey;  ///< key under HKEY_LOCAL_MACHINE, made even without values; none when empty
+    std::vector<std::pair<std::string, std::variant<std::string, std::uint32_t>>> settings;  ///< its values
+    std::vector<NewMachineComponent> components;  ///< registered as lying in `modulesTo`
+    std::vector<NewMachineFile> files;            ///< written after all else, with the folders above them
+};
+
+/// Makes a machine folder: machine.json, registry.reg, drive C: with the program file (a placeholder that its
+/// path names), the temporary and system folders, the component modules and the files asked for. A folder
+/// that exists is kept, and what is named here is written anew. Returns an error text (UTF-8) that names what
+/// could not be made, or nothing.
+std::optional<std::string> makeMachine(const std::filesystem::path& folder, const NewMachineOptions& options);
+
+}  // namespace platform

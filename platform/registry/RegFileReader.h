@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/registry/RegistryNode.h"
+
+namespace platform {
+
+/// The first line of a registry file.
+inline constexpr std::string_view regFileHeader = "Windows Registry Editor Version 5.00";
+
+/// Reads the text of a registry file into a tree.
+class RegFileReader {
+  public:
+    /// `text` is UTF-8 without a byte order mark and outlives the reader.
+    explicit RegFileReader(std::string_view text) : text_(text) {}
+
+    /// The tree, or nothing when the text is damaged. Called once.
+    std::optional<RegistryNode> read();
+
+    /// What is wrong with the text.
+    const std::string& problem() const { return problem_; }
+    /// The number, from 1, of the line where that is.
+    std::size_t line() const;
+
+  private:
+    bool checkEncoding();
+    bool readHeader();
+    bool readLine();
+    bool readKey();
+    bool readValue();
+    bool readData(const std::string& name);
+    bool readDword(const std::string& name);
+    bool readOther(const std::string& name);
+    bool endLine();
+
+    std::optional<std::string> readQuoted();
+    std::string_view restOfLine() const;
+    void skipBlanks();
+    bool take(std::string_view expected);
+    bool fail(std::string problem);
+
+    std::string_view text_;
+    std::size_t at_ = 0;
+    RegistryNode tree_;
+    RegistryNode* key_ = nullptr;  ///< the key whose values are being read
+    std::string problem_;
+};
+
+}  // namespace platform

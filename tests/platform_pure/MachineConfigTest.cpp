@@ -1,0 +1,93 @@
+#include "platform/machine/MachineConfig.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "platform/text/GreekLiteral.h"
+#include "tests/platform_pure/TestFolder.h"
+
+namespace platform {
+namespace {
+
+TEST(MachineConfig, FieldsLeftOutHaveTheirDefaults) {
+    const auto empty = parseMachineConfig("{}", "m");
+    ASSERT_TRUE(empty) << empty.error;
+    EXPECT_EQ(*empty.value, MachineConfig());
+
+    const auto some = parseMachineConfig(
+        R"({"screen": {"width": 640}, "metrics": {"SM_CXMAXIMIZED": 600}, "printer": {"vertres": 5},
+            "drives": {"D": {"type": "cdrom", "folder": "/media/disc"}, "E": {}}, "other": [1, {"x": null}]})",
+        "m");
+    ASSERT_TRUE(some) << some.error;
+    EXPECT_EQ(some.value->screen, (ScreenConfig{640, 768, 32}));
+    EXPECT_EQ(some.value->metrics.at("SM_CXMAXIMIZED"), 600);
+    EXPECT_EQ(some.value->printer, (PrinterConfig{4800, 5, 600}));
+    EXPECT_EQ(some.value->drives, (std::map<char, DriveConfig>{{'C', {DriveType::fixed, "c"}},
+                                                               {'D', {DriveType::cdrom, "/media/disc"}},
+                                                               {'E', {DriveType::fixed, "e"}}}));
+}
+
+TEST(MachineConfig, WhatIsSavedIsLoaded) {
+    const TestFolder folder;
+    MachineConfig config;
+    config.screen = {640, 480, 8};
+    config.metrics = {{"SM_CYMENU", 0}};
+    config.drives = {{'A', {DriveType::removable, "/a"}},
+                     {'B', {DriveType::unknown, "b"}},
+                     {'R', {DriveType::remote, "Ρ δίσκος"}},
+                     {'S', {DriveType::ramdisk, ""}}};
+    config.program = "D:\\Πρόγραμμα\\x.exe"_gr;
+    config.temp = "";
+    config.system = "C:\\";
+    config.printer = PrinterConfig{1, 2, 3};
+    for (const auto& saved : {config, MachineConfig()}) {
+        ASSERT_TRUE(saveMachineConfig(saved, folder / "machine.json"));
+        const auto loaded = loadMachineConfig(folder / "machine.json");
+        ASSERT_TRUE(loaded) << loaded.error;
+        EXPECT_EQ(*loaded.value, saved);
+    }
+    config.drives['T'].folder = "\xFF";
+    EXPECT_FALSE(saveMachineConfig(config, folder / "machine.json"));
+}
+
+TEST(MachineConfig, WhatIsWrongIsToldByName) {
+    const std::pair<std::string, std::string> cases[] = {
+        {"", "m.json: not JSON"},
+        {"{\"screen\": ", "m.json: not JSON"},
+        {std::string(200000, '['), "m.json: not JSON"},
+        {"[]", "m.json: the whole must be an object"},
+        {R"({"screen": 3})", "m.json: screen must be an object"},
+        {R"({"screen": {"width": "1024"}})", "m.json: screen.width must be a whole number"},
+        {R"({"screen": {"height": 0}})", "m.json: screen.height must be a whole number from 1"},
+        {R"({"screen": {"bitsPerPixel": 1.5}})", "m.json: screen.bitsPerPixel must be"},
+        {R"({"screen": {"width": 99999999999999999999}})", "m.json: screen.width must be"},
+        {R"({"screen": {"width": 18446744073709551615}})", "m.json: screen.width must be"},
+        {R"({"metrics": {"SM_CYMENU": null}})", "m.json: metrics.SM_CYMENU must be"},
+        {R"({"metrics": []})", "m.json: metrics must be an object"},
+        {R"({"drives": {"CD": {}}})", "m.json: drives: \"CD\" is not a drive letter"},
+        {R"({"drives": {"c": {}}})", "m.json: drives: \"c\" is not a drive letter"},
+        {R"({"drives": {"": {}}})", "m.json: drives: \"\" is not a drive letter"},
+        {R"({"drives": {"D": {"type": "tape"}}})", "m.json: drives.D.type must be one of"},
+        {R"({"drives": {"D": {"type": 5}}})", "m.json: drives.D.type must be one of"},
+        {R"({"drives": {"D": {"folder": 5}}})", "m.json: drives.D.folder must be a text"},
+        {R"({"drives": {"D": "x"}})", "m.json: drives.D must be an object"},
+        {R"({"program": 1})", "m.json: program must be a text"},
+        {R"({"temp": "日"})", "m.json: temp has a character outside"},
+        {R"({"system": null})", "m.json: system must be a text"},
+        {R"({"printer": {"horzres": -1}})", "m.json: printer.horzres must be"},
+        {R"({"printer": true})", "m.json: printer must be an object"},
+    };
+    for (const auto& [json, expected] : cases) {
+        const auto loaded = parseMachineConfig(json, "m.json");
+        EXPECT_FALSE(loaded) << expected;
+        EXPECT_EQ(loaded.error.substr(0, expected.size()), expected);
+    }
+    const TestFolder folder;
+    EXPECT_EQ(loadMachineConfig(folder / "none").error, (folder / "none").string() + ": cannot be read");
+    EXPECT_FALSE(loadMachineConfig(folder.path()));
+    EXPECT_FALSE(loadMachineConfig(folder.write("huge", std::string(2 << 20, ' ') + "{}")));
+}
+
+}  // namespace
+}  // namespace platform

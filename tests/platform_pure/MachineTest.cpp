@@ -1,0 +1,113 @@
+#include "platform/machine/Machine.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <string>
+
+#include "tests/platform_pure/TestFolder.h"
+
+namespace platform {
+namespace {
+
+TEST(Machine, AFolderWithoutFilesIsABareMachine) {
+    const TestFolder folder;
+    const auto opened = Machine::open(folder.path());
+    ASSERT_TRUE(opened) << opened.error;
+    Machine& bare = **opened.value;
+    EXPECT_EQ(bare.programPath(), "C:\\Kalyxo\\kalyxo.exe");
+    EXPECT_EQ(bare.tempFolder(), "C:\\Temp\\");
+    EXPECT_EQ(bare.systemFolder(), "C:\\Windows\\System");
+    EXPECT_FALSE(bare.registry().openKey(HKEY_LOCAL_MACHINE, "Software"));
+    EXPECT_EQ(bare.files().dosPath(folder / "c/x"), "C:\\x");
+    EXPECT_FALSE(Machine::open(folder / "none"));
+}
+
+TEST(Machine, DamagedFilesAreNamed) {
+    for (const std::string name : {"machine.json", "registry.reg"}) {
+        const TestFolder folder;
+        folder.write(name, "damaged");
+        const auto opened = Machine::open(folder.path());
+        EXPECT_FALSE(opened);
+        EXPECT_NE(opened.error.find(name), std::string::npos) << opened.error;
+    }
+}
+
+TEST(Machine, MetricsComeFromTheSettingsOrAreStandard) {
+    MachineConfig config;
+    config.screen = {640, 480, 8};
+    config.metrics = {{"SM_CXMAXIMIZED", 600}, {"SM_CXSCREEN", 1}};
+    const Machine small("/nowhere", config, Registry());
+    EXPECT_EQ(small.metric(SM_CXSCREEN), 640);
+    EXPECT_EQ(small.metric(SM_CYSCREEN), 480);
+    EXPECT_EQ(small.metric(SM_CXMAXIMIZED), 600);
+    EXPECT_EQ(small.metric(SM_CYMAXIMIZED), 748);
+    EXPECT_EQ(small.metric(SM_CYSMCAPTION), 16);
+    EXPECT_EQ(small.metric(static_cast<SystemMetric>(99)), 0);
+}
+
+TEST(Machine, TheRegistryIsKept) {
+    const TestFolder folder;
+    {
+        auto opened = Machine::open(folder.path());
+        Machine& first = **opened.value;
+        first.registry().createKey(HKEY_LOCAL_MACHINE, "Key")->setDword("n", 9);
+        EXPECT_TRUE(first.flushRegistry());
+    }
+    auto again = Machine::open(folder.path());
+    EXPECT_EQ((*again.value)->registry().openKey(HKEY_LOCAL_MACHINE, "Key")->queryDword("n"), 9U);
+}
+
+TEST(Machine, LibrariesAreSearchedInTheProgramFolderFirst) {
+    const TestFolder folder;
+    Machine computer(folder.path(), MachineConfig(), Registry());
+    folder.write("c/Windows/System/msvcrt.dll", "");
+    folder.write("c/Windows/System/mfc42.dll", "");
+    folder.write("c/Kalyxo/MFC42.DLL", "");
+    EXPECT_EQ(computer.findLibrary("mfc42.dll"), "C:\\Kalyxo\\mfc42.dll");
+    EXPECT_EQ(computer.findLibrary("msvcrt.dll"), "C:\\Windows\\System\\msvcrt.dll");
+    EXPECT_EQ(computer.findLibrary("oleaut32.dll"), std::nullopt);
+    EXPECT_EQ(computer.findLibrary("D:\\x.dll"), "D:\\x.dll");
+}
+
+TEST(Machine, SleepIsNotedAndWithVirtualTimeNotWaited) {
+    Machine computer("/nowhere", MachineConfig(), Registry());
+    computer.setVirtualTime(true);
+    computer.sleep(3600000);  // not recorded: nobody asked for a trace
+    computer.trace().enable();
+    computer.sleep(2000);
+    const auto entries = computer.trace().take();
+    ASSERT_EQ(entries.size(), 1U);
+    EXPECT_EQ(std::get<TraceSleep>(entries[0]).milliseconds, 2000U);
+    EXPECT_TRUE(computer.trace().take().empty());
+
+    computer.setVirtualTime(false);
+    const auto before = std::chrono::steady_clock::now();
+    computer.sleep(20);
+    EXPECT_GE(std::chrono::steady_clock::now() - before, std::chrono::milliseconds(20));
+}
+
+TEST(Machine, MessageBoxesAreAnsweredFromTheQueue) {
+    using enum BoxAnswer;
+    const std::vector<BoxAnswer> okOnly = {ok};
+    const std::vector<BoxAnswer> yesNo = {yes, no};
+    Machine computer("/nowhere", MachineConfig(), Registry());
+    EXPECT_EQ(computer.nextAnswer(okOnly), std::nullopt);
+    computer.enableAnswers();
+    EXPECT_EQ(computer.nextAnswer(okOnly), ok);
+    EXPECT_EQ(computer.nextAnswer(yesNo), yes);
+    EXPECT_EQ(computer.nextAnswer(std::vector<BoxAnswer>{cancel}), cancel);
+    computer.queueAnswers({no, yes});
+    computer.queueAnswers({no});
+    EXPECT_EQ(computer.nextAnswer(yesNo), no);
+    EXPECT_EQ(computer.nextAnswer(okOnly), ok);  // "yes" cannot be pressed here
+    EXPECT_EQ(computer.nextAnswer(yesNo), no);
+    EXPECT_EQ(computer.nextAnswer(yesNo), yes);
+    for (const BoxAnswer answer : {ok, cancel, yes, no}) {
+        EXPECT_EQ(boxAnswerByName(boxAnswerName(answer)), answer);
+    }
+    EXPECT_EQ(boxAnswerByName("maybe"), std::nullopt);
+}
+
+}  // namespace
+}  // namespace platform

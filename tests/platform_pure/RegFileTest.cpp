@@ -1,0 +1,167 @@
+#include "platform/registry/RegFile.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "platform/text/GreekLiteral.h"
+#include "tests/platform_pure/TestFolder.h"
+
+namespace platform {
+namespace {
+
+const std::string header = "Windows Registry Editor Version 5.00\r\n\r\n";
+
+std::string asUtf16(std::u16string_view text) {
+    std::string bytes = "\xFF\xFE";
+    for (const char16_t unit : text) {
+        bytes += static_cast<char>(unit & 0xFF);
+        bytes += static_cast<char>(unit >> 8);
+    }
+    return bytes;
+}
+
+std::string errorOf(std::string_view bytes) { return parseRegText(bytes, "r.reg").error; }
+
+/// The value's text as it would be written, after the equals sign.
+std::string dataOf(const std::string& value) {
+    const auto loaded = parseRegText(header + "[HKEY_USERS\\K]\r\n\"v\"=" + value, "r.reg");
+    if (!loaded) return loaded.error;
+    const std::string text = formatRegText(*loaded.value);
+    const std::size_t start = text.find("\"v\"=");
+    return start == text.npos ? "(none)" : text.substr(start + 4, text.size() - start - 6);
+}
+
+TEST(RegFile, WhatIsSavedIsLoaded) {
+    const TestFolder folder;
+    Registry registry;
+    auto key = registry.createKey(HKEY_LOCAL_MACHINE, "Software\\Ορβάνη [2]\\Edition"_gr);
+    key->setString("", "default");
+    key->setString(R"(a "quoted" \ name)", "C:\\Νέο \"x\"\\\r\nsecond line\\"_gr);
+    key->setDword("Left", 0x8000001F);
+    registry.createKey(HKEY_CLASSES_ROOT, "CLSID\\{1}\\InprocServer32")->setString("", "");
+    registry.createKey(HKEY_CLASSES_ROOT, "Empty");
+    ASSERT_TRUE(saveRegFile(registry, folder / "r.reg"));
+
+    auto loaded = loadRegFile(folder / "r.reg");
+    ASSERT_TRUE(loaded) << loaded.error;
+    EXPECT_EQ(formatRegText(*loaded.value), folder.read("r.reg"));
+    const auto back = loaded.value->openKey(HKEY_LOCAL_MACHINE, "Software\\Ορβάνη [2]\\Edition"_gr);
+    ASSERT_TRUE(back);
+    EXPECT_EQ(back->queryString("", 256), "default");
+    EXPECT_EQ(back->queryString("a \"quoted\" \\ name", 256), "C:\\Νέο \"x\"\\\r\nsecond line\\"_gr);
+    EXPECT_EQ(back->queryDword("Left"), 0x8000001F);
+    EXPECT_TRUE(loaded.value->openKey(HKEY_CLASSES_ROOT, "Empty"));
+}
+
+TEST(RegFile, IsWrittenInTheStandardForm) {
+    Registry registry;
+    auto key = registry.createKey(HKEY_LOCAL_MACHINE, "Software\\Key");
+    key->setString("Directory", "C:\\Kalyxo");
+    key->setDword("Left", 31);
+    registry.createKey(HKEY_CLASSES_ROOT, "CLSID")->setString("", "Ω"_gr);
+    EXPECT_EQ(formatRegText(registry), header +
+                                           "[HKEY_CLASSES_ROOT]\r\n\r\n"
+                                           "[HKEY_CLASSES_ROOT\\CLSID]\r\n@=\"Ω\"\r\n\r\n"
+                                           "[HKEY_LOCAL_MACHINE]\r\n\r\n"
+                                           "[HKEY_LOCAL_MACHINE\\Software]\r\n\r\n"
+                                           "[HKEY_LOCAL_MACHINE\\Software\\Key]\r\n"
+                                           "\"Directory\"=\"C:\\\\Kalyxo\"\r\n\"Left\"=dword:0000001f\r\n");
+}
+
+TEST(RegFile, EveryEncodingIsRead) {
+    const std::string utf8 = header + "[HKEY_LOCAL_MACHINE\\Κλειδί]\r\n\"x\"=\"Δομές 😀\"\r\n";
+    const std::u16string utf16 =
+        u"Windows Registry Editor Version 5.00\r\n\r\n[HKEY_LOCAL_MACHINE\\Κλειδί]\r\n"
+        u"\"x\"=\"Δομές 😀\"\r\n";
+    for (const auto& bytes : {utf8, "\xEF\xBB\xBF" + utf8, asUtf16(utf16)}) {
+        auto loaded = parseRegText(bytes, "r.reg");
+        ASSERT_TRUE(loaded) << loaded.error;
+        EXPECT_EQ(loaded.value->openKey(HKEY_LOCAL_MACHINE, "κλειδί"_gr)->queryString("x", 99), "Δομές ?"_gr);
+        EXPECT_NE(formatRegText(*loaded.value).find("Δομές 😀"), std::string::npos);  // nothing is lost
+    }
+}
+
+TEST(RegFile, OtherValueTypesAreKept) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"\"text\"", "\"text\""},
+        {R"(  "a\\b\"c\d"  ; comment)", R"("a\\b\"c\\d")"},
+        {"dword:1F", "dword:0000001f"},
+        {"dword:ffffffff", "dword:ffffffff"},
+        {"hex:", "hex:"},
+        {"hex:41,00", "hex:41,00"},
+        {"hex(2):41,00,\\\r\n  42,00,\\\r\n  00,00\r\n", "hex(2):41,00,42,00,00,00"},
+        {"hex(b):00,01", "hex(b):00,01"},
+        {"-", "(none)"},
+    };
+    for (const auto& [value, expected] : cases) EXPECT_EQ(dataOf(value), expected) << value;
+    auto loaded = parseRegText(header + "[HKEY_LOCAL_MACHINE\\K]\n\"v\"=hex(2):41,00\n", "r.reg");
+    EXPECT_EQ(loaded.value->openKey(HKEY_LOCAL_MACHINE, "K")->queryString("v", 99), std::nullopt);
+}
+
+TEST(RegFile, KeysAreMergedAndTakenAway) {
+    auto loaded =
+        parseRegText(header +
+                         "; a comment\n[HKEY_LOCAL_MACHINE\\A]\n\"x\"=dword:1\n\"y\"=dword:2\n\n"
+                         "[hkey_local_machine\\a\\B]\n[HKEY_LOCAL_MACHINE\\C\\D]\n"
+                         "[HKEY_LOCAL_MACHINE\\a]\n\"X\"=dword:3\n\"Y\"=-\n[-HKEY_LOCAL_MACHINE\\c]",
+                     "r.reg");
+    ASSERT_TRUE(loaded) << loaded.error;
+    const auto key = loaded.value->openKey(HKEY_LOCAL_MACHINE, "A");
+    EXPECT_EQ(key->queryDword("x"), 3U);
+    EXPECT_EQ(key->queryDword("y"), std::nullopt);
+    EXPECT_TRUE(loaded.value->openKey(HKEY_LOCAL_MACHINE, "A\\B"));
+    EXPECT_FALSE(loaded.value->openKey(HKEY_LOCAL_MACHINE, "C"));
+}
+
+TEST(RegFile, DamageIsToldWithFileAndLine) {
+    std::string deep = "[HKEY_LOCAL_MACHINE";
+    for (int i = 0; i < 100000; ++i) deep += "\\a";
+    const std::string key = header + "[HKEY_LOCAL_MACHINE\\A]\r\n";
+    const std::pair<std::string, std::string> cases[] = {
+        {"", "r.reg, line 1"},
+        {"REGEDIT4\r\n", "r.reg, line 1"},
+        {std::string(100, '\0'), "r.reg, line 1"},
+        {header + "\"x\"=dword:1\r\n", "r.reg, line 3: a value outside a key"},
+        {header + "[HKEY_LOCAL_MACHINE\\A\r\n", "r.reg, line 3: a key without"},
+        {header + "[]\r\n", "r.reg, line 3: a key whose path"},
+        {header + deep + "]\r\n", "r.reg, line 3: a key whose path"},
+        {key + "junk\r\n", "r.reg, line 4: neither"},
+        {key + "\"x\"\r\n", "r.reg, line 4: a value without an equals"},
+        {key + "\"x\"=\r\n", "r.reg, line 4: a value of unknown"},
+        {key + "\"x\"=word:1\r\n", "r.reg, line 4: a value of unknown"},
+        {key + "\"x\"=hex(2\r\n", "r.reg, line 4: a value of unknown"},
+        {key + "\"x\"=dword:\r\n", "r.reg, line 4: a number"},
+        {key + "\"x\"=dword:123456789\r\n", "r.reg, line 4: a number"},
+        {key + "\"x\"=dword:12z\r\n", "r.reg, line 4: something after"},
+        {key + "\"x\"=\"a\" b\r\n", "r.reg, line 4: something after"},
+        {key + "\"x\"=hex:4,\\ 5\r\n", "r.reg, line 4: a backslash"},
+        {key + "\"x\"=\"never ended\r\n\r\n", "r.reg, line 4: a text without"},
+        {key + "\"x", "r.reg, line 4: a text without"},
+        {key + "\"x\"=\"\xE1\"\r\n", "r.reg, line 4: bytes that are no UTF-8"},
+        {asUtf16(u"Windows Registry Editor Version 5.00\r\n\xD800"),
+         "r.reg, line 2: bytes that are no UTF-8"},
+        {asUtf16(u"Windows Registry Editor Version 5.00\r\n") + "[", ""},
+    };
+    for (const auto& [bytes, expected] : cases) {
+        const std::string error = errorOf(bytes);
+        EXPECT_EQ(error.substr(0, expected.size()), expected);
+    }
+    const TestFolder folder;
+    EXPECT_EQ(loadRegFile(folder / "none.reg").error, (folder / "none.reg").string() + ": cannot be read");
+    EXPECT_FALSE(loadRegFile(folder.path()));
+    EXPECT_NE(loadRegFile(folder.write("empty.reg", "")).error.find("empty.reg, line 1"), std::string::npos);
+}
+
+TEST(RegFile, CutAtAnyByteItNeverBreaks) {
+    const std::string whole = header +
+                              "[HKEY_LOCAL_MACHINE\\A]\r\n@=\"x\\\\y\"\r\n\"n\"=dword:0000001f\r\n"
+                              "\"h\"=hex(2):41,00,\\\r\n  42,00\r\n[-HKEY_LOCAL_MACHINE\\B]\r\n";
+    for (std::size_t size = 0; size <= whole.size(); ++size) {
+        const auto loaded = parseRegText(whole.substr(0, size), "r.reg");
+        EXPECT_NE(loaded.value.has_value(), !loaded.error.empty()) << size;
+    }
+}
+
+}  // namespace
+}  // namespace platform

@@ -1,0 +1,1 @@
+[[gnu::section(".kalyxo.version"), gnu::used]] extern const char moduleVersion[] = "1.0.40.0";
