@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/automation/RequestPolicy.h"
+
+namespace platform {
+
+/// The one policy of the process for all browser controls, and the one place where refusals are logged.
+class BrowserPolicy {
+  public:
+    static BrowserPolicy& instance();
+
+    /// See RequestPolicy::setAllowedFolders.
+    void setAllowedFolders(std::vector<std::string> folders) {
+        policy_.setAllowedFolders(std::move(folders));
+    }
+
+    /// See RequestPolicy::allows; a refusal is logged under the category `platform.browser`.
+    bool admit(std::string_view page, std::string_view request) const;
+
+  private:
+    BrowserPolicy() = default;
+
+    RequestPolicy policy_;
+};
+
+}  // namespace platform

@@ -1,0 +1,56 @@
+#include "platform/automation/BrowserProcess.h"
+
+#include <unistd.h>
+
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QLoggingCategory>
+#include <QWebEngineUrlScheme>
+#include <cstdio>
+
+namespace platform {
+
+namespace {
+
+constexpr const char* sandboxVariable = "QTWEBENGINE_DISABLE_SANDBOX";
+constexpr const char* flagsVariable = "QTWEBENGINE_CHROMIUM_FLAGS";
+
+void registerDriveSchemes() {
+    for (char letter = 'a'; letter <= 'z'; ++letter) {
+        QWebEngineUrlScheme scheme(QByteArray(1, letter));
+        scheme.setSyntax(QWebEngineUrlScheme::Syntax::Path);
+        scheme.setFlags(QWebEngineUrlScheme::LocalScheme | QWebEngineUrlScheme::LocalAccessAllowed |
+                        QWebEngineUrlScheme::CorsEnabled);
+        QWebEngineUrlScheme::registerScheme(scheme);
+    }
+}
+
+void switchSandboxOffForRoot() {
+    if (geteuid() != 0 || qEnvironmentVariableIsSet(sandboxVariable)) return;
+    qputenv(sandboxVariable, "1");
+    std::fputs("Started as root: the browser engine runs without its sandbox.\n", stderr);
+}
+
+void setEngineFlags() {
+    // No name resolves, so that no request that the policy does not see can reach the network either.
+    QByteArray flags =
+        "--disable-background-networking --disable-component-update --disable-domain-reliability "
+        "--disable-sync --no-pings --log-level=3 --host-resolver-rules=\"MAP * ~NOTFOUND\"";
+    const QByteArray platformName = qgetenv("QT_QPA_PLATFORM");
+    if (platformName.startsWith("offscreen") || platformName.startsWith("minimal")) flags += " --disable-gpu";
+    const QByteArray given = qgetenv(flagsVariable);
+    qputenv(flagsVariable, given.isEmpty() ? flags : given + ' ' + flags);
+}
+
+}  // namespace
+
+void prepareProcess() {
+    registerDriveSchemes();
+    switchSandboxOffForRoot();
+    setEngineFlags();
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    // The engine lists its graphics set-up at every start without a screen.
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext*=false"));
+}
+
+}  // namespace platform

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "platform/automation/Variant.h"
+#include "platform/handles/WindowTable.h"
+
+class QWidget;
+
+namespace platform {
+
+class FileSystem;
+
+/// Type of an argument or result in a control's description.
+enum class TypeCode { none, i2, i4, boolean, text, variant, booleanRef, dispatch };
+
+/// One operation of a control, as a type library would tell it.
+struct OperationInfo {
+    std::int32_t dispid;
+    InvokeKind kind;
+    std::string_view name;
+    std::span<const TypeCode> arguments;
+};
+
+/// One event of a control.
+struct EventInfo {
+    std::int32_t dispid;
+    std::string_view name;
+    std::span<const TypeCode> arguments;
+};
+
+/// What a control can ask of its host. It outlives the control.
+class ControlSite {
+  public:
+    virtual ~ControlSite() = default;
+    /// Raises an event; its handlers run before this returns.
+    virtual void raiseEvent(std::int32_t dispid, std::span<Variant> arguments) = 0;
+    /// Gives a child widget of the control a window handle and a receiver of sent messages.
+    virtual HWND registerWindow(QWidget& widget, std::string className, MessageProc proc) = 0;
+    virtual LRESULT sendMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) = 0;
+    /// The machine's drives and files.
+    virtual const FileSystem& files() const = 0;
+};
+
+/// A control that runs in the program's process. It owns its widget, whose parent is the host's.
+class Control {
+  public:
+    virtual ~Control() = default;
+    virtual QWidget& widget() = 0;
+    virtual std::span<const OperationInfo> operations() const = 0;
+    virtual std::span<const EventInfo> events() const = 0;
+    /// Carries out an operation; nothing when there is no such operation or an argument has another
+    /// type or the number of arguments differs.
+    virtual std::optional<Variant> invoke(std::int32_t dispid, InvokeKind kind,
+                                          std::span<const Variant> arguments) = 0;
+    /// True while the control does something that it will finish by itself, such as loading a page.
+    virtual bool busy() const { return false; }
+};
+
+using ControlFactory = std::unique_ptr<Control> (*)(ControlSite& site, QWidget* parent);
+
+}  // namespace platform

@@ -1,0 +1,124 @@
+#include "platform/automation/ControlHost.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QPointer>
+#include <QTimer>
+#include <QWidget>
+#include <utility>
+
+#include "platform/automation/ControlLibrary.h"
+#include "platform/automation/QtChild.h"
+#include "platform/automation/WebBrowserControl.h"
+#include "platform/machine/Machine.h"
+#include "platform/text/CodePage1253.h"
+
+namespace platform {
+
+namespace {
+
+/// Keeps a control's widget as large as the window that hosts it.
+class Filling : public QObject {
+  public:
+    Filling(QWidget& container, QWidget* filling) : QObject(filling), filling_(*filling) {
+        container.installEventFilter(this);
+        filling->setGeometry(container.rect());
+        filling->show();
+    }
+
+    bool eventFilter(QObject* container, QEvent* event) override {
+        if (event->type() == QEvent::Resize) filling_.setGeometry(static_cast<QWidget*>(container)->rect());
+        return false;
+    }
+
+  private:
+    QWidget& filling_;
+};
+
+std::unique_ptr<Control> makeControl(std::string_view classId, ControlSite& site, QWidget* container) {
+    if (equalsNoCase(classId, WebBrowserControl::classId)) {
+        return std::make_unique<WebBrowserControl>(site, container);
+    }
+    const ControlModule* module = loadRegisteredClass(classId);
+    return module ? module->create(site, container) : nullptr;
+}
+
+}  // namespace
+
+/// What lives on while an event is under way, although the host has gone: the control that raised it, and
+/// the site that it talks to.
+struct ControlHost::Hosted : ControlSite, std::enable_shared_from_this<Hosted> {
+    explicit Hosted(EventHandler given) : handler(std::move(given)) {}
+
+    void raiseEvent(std::int32_t dispid, std::span<Variant> arguments) override {
+        if (!handler) return;
+        const auto alive = shared_from_this();
+        const EventHandler called = handler;
+        ++raising;
+        called(dispid, arguments);
+        --raising;
+        // The control's own code is still on the stack: it is destroyed once that has returned.
+        if (closed) QTimer::singleShot(0, QCoreApplication::instance(), [alive] {});
+    }
+
+    HWND registerWindow(QWidget& widget, std::string className, MessageProc proc) override {
+        return WindowTable::instance().add({&widget, std::move(className), 0, std::move(proc)});
+    }
+
+    LRESULT sendMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override {
+        return WindowTable::instance().send(window, message, wParam, lParam);
+    }
+
+    const FileSystem& files() const override { return machine().files(); }
+
+    void close() {
+        closed = true;
+        handler = nullptr;
+        if (raising > 0 && control) {
+            // Its window may go before it does.
+            control->widget().hide();
+            control->widget().setParent(nullptr);
+        } else {
+            control.reset();
+        }
+    }
+
+    EventHandler handler;
+    std::unique_ptr<Control> control;
+    int raising = 0;
+    bool closed = false;
+};
+
+std::unique_ptr<ControlHost> ControlHost::create(std::string_view classId, QWidget* container,
+                                                 EventHandler handler) {
+    const auto hosted = std::make_shared<Hosted>(std::move(handler));
+    hosted->control = makeControl(classId, *hosted, container);
+    if (!hosted->control) return nullptr;
+    makeQtChild<Filling>(*container, &hosted->control->widget());
+    QObject::connect(container, &QObject::destroyed, &hosted->control->widget(),
+                     [weak = std::weak_ptr(hosted)] {
+                         if (const auto still = weak.lock()) still->close();
+                     });
+    return std::unique_ptr<ControlHost>(new ControlHost(hosted));
+}
+
+ControlHost::ControlHost(std::shared_ptr<Hosted> hosted) : hosted_(std::move(hosted)) {}
+
+ControlHost::~ControlHost() { hosted_->close(); }
+
+Control& ControlHost::control() { return *hosted_->control; }
+
+const Control& ControlHost::control() const { return *hosted_->control; }
+
+std::optional<Variant> ControlHost::invoke(std::int32_t dispid, InvokeKind kind,
+                                           std::span<const Variant> arguments) {
+    const auto alive = hosted_;
+    return alive->control ? alive->control->invoke(dispid, kind, arguments) : std::nullopt;
+}
+
+void ControlHost::raiseEvent(std::int32_t dispid, std::span<Variant> arguments) {
+    const auto alive = hosted_;
+    alive->raiseEvent(dispid, arguments);
+}
+
+}  // namespace platform

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+class QUrl;
+
+/// Addresses of pages. The program and the content write DOS paths (`D:\a.htm`, `c:/cache/1.htm`); the
+/// engine takes them for URLs whose scheme is the drive letter (`d:/a.htm`), which resolve relative links
+/// only when written with forward slashes.
+namespace platform {
+
+/// Whether the URL's scheme is a drive letter.
+bool isDriveUrl(const QUrl& url);
+
+/// The URL of an address in code page 1253: a DOS path, whose part from `#` on is the fragment, or any
+/// other URL text. Forward slashes, everything escaped that would not be part of the path.
+QUrl urlOfAddress(std::string_view address);
+
+/// A drive URL with forward slashes, which are its path's only form here; others stay as they are.
+QUrl normalisedUrl(const QUrl& url);
+
+/// The DOS path that a drive URL names, in code page 1253 with backslashes; its query and fragment are left
+/// out. Nothing for other URLs and for names that the code page cannot write.
+std::optional<std::string> dosPathOfUrl(const QUrl& url);
+
+/// The address as the program is told it: a drive URL in DOS form (`C:\Kalyxo\cache\1.htm#top`), any other
+/// as it is.
+std::string addressOfUrl(const QUrl& url);
+
+}  // namespace platform

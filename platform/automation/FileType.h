@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+/// The extension of a file's name in lower case, without its full stop; empty when it has none.
+std::string extensionOf(std::string_view path);
+
+/// The media type of a file by its extension. A file without one is a page; an unknown extension is
+/// "application/octet-stream".
+std::string_view mediaTypeOf(std::string_view path);
+
+/// Whether the first bytes of a page say in which character set it is written: by a byte order mark or
+/// within the first kilobyte, where browsers look for it.
+bool declaresCharset(std::string_view head);
+
+}  // namespace platform

@@ -1,0 +1,97 @@
+#include "platform/automation/PageQuestions.h"
+
+#include <QEventLoop>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QTimer>
+#include <QVariant>
+#include <QWebEnginePage>
+#include <QWebEngineScript>
+#include <chrono>
+#include <cmath>
+#include <memory>
+#include <utility>
+
+#include "platform/text/CodePage1253.h"
+
+namespace platform {
+
+namespace {
+
+constexpr std::chrono::seconds answerTime{5};
+
+/// Calls `ask` with a function that takes the answer, and waits for it.
+template <class Answer, class Ask>
+Answer await(Ask ask) {
+    struct Wait {
+        QEventLoop loop;
+        Answer answer{};
+        bool answered = false;
+    };
+    // Shared with the answering function, which may be called after the time is over.
+    const auto wait = std::make_shared<Wait>();
+    ask([wait](const Answer& answer) {
+        wait->answer = answer;
+        wait->answered = true;
+        wait->loop.quit();
+    });
+    if (!wait->answered) {
+        QTimer::singleShot(answerTime, &wait->loop, &QEventLoop::quit);
+        wait->loop.exec();
+    }
+    return wait->answer;
+}
+
+QVariant evaluate(QWebEnginePage& page, const QString& script) {
+    return await<QVariant>(
+        [&](auto answer) { page.runJavaScript(script, QWebEngineScript::ApplicationWorld, answer); });
+}
+
+/// A JavaScript string literal.
+QString quoted(std::string_view text) {
+    const QJsonArray array{QString::fromStdString(toUtf8(text))};
+    const QString json = QString::fromUtf8(QJsonDocument(array).toJson(QJsonDocument::Compact));
+    return json.mid(1, json.size() - 2);
+}
+
+/// A list of left, top, right, bottom in the page's units.
+std::optional<CRect> rectangle(const QVariant& value, double scale) {
+    const QVariantList sides = value.toList();
+    if (sides.size() != 4) return std::nullopt;
+    const auto side = [&](int i) { return static_cast<int>(std::lround(sides[i].toDouble() * scale)); };
+    return CRect{side(0), side(1), side(2), side(3)};
+}
+
+}  // namespace
+
+QString textOf(QWebEnginePage& page) {
+    return await<QString>([&](auto answer) { page.toPlainText(answer); });
+}
+
+QString htmlOf(QWebEnginePage& page) {
+    return await<QString>([&](auto answer) { page.toHtml(answer); });
+}
+
+std::optional<CRect> findLinkOf(QWebEnginePage& page, std::string_view linkText) {
+    // Of a link broken over lines the first line's box is taken, since the middle of the whole may be empty.
+    static constexpr auto script = QLatin1StringView(
+        "(() => { const link = [...document.links].find(a => a.textContent.trim() === (%1).trim());"
+        "if (!link) return null;"
+        "link.scrollIntoView({block: 'nearest', behavior: 'instant'});"
+        "const box = link.getClientRects()[0];"
+        "return box ? [box.left, box.top, box.right, box.bottom] : null; })()");
+    return rectangle(evaluate(page, QString(script).arg(quoted(linkText))), page.zoomFactor());
+}
+
+std::vector<CRect> embeddedFramesOf(QWebEnginePage& page) {
+    static constexpr auto script = QLatin1StringView(
+        "[...document.querySelectorAll('embed')].map(e => e.getBoundingClientRect())"
+        ".map(b => [b.left, b.top, b.right, b.bottom])");
+    std::vector<CRect> frames;
+    for (const QVariant& value : evaluate(page, script).toList()) {
+        if (const auto frame = rectangle(value, page.zoomFactor())) frames.push_back(*frame);
+    }
+    return frames;
+}
+
+}  // namespace platform

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "platform/windows/Geometry.h"
+
+class QWebEnginePage;
+
+/// Questions about a page that the engine answers later: each runs the event loop until the answer is
+/// there, five seconds at most, and gives an empty answer after that. Rectangles are in the widget that
+/// shows the page.
+namespace platform {
+
+QString textOf(QWebEnginePage& page);
+QString htmlOf(QWebEnginePage& page);
+
+/// Scrolls the first link with this text (code page 1253, blanks at its ends apart) into view and says
+/// where it is.
+std::optional<CRect> findLinkOf(QWebEnginePage& page, std::string_view linkText);
+
+/// The frames of embedded files, in the order of the page.
+std::vector<CRect> embeddedFramesOf(QWebEnginePage& page);
+
+}  // namespace platform

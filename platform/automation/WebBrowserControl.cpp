@@ -1,0 +1,127 @@
+#include "platform/automation/WebBrowserControl.h"
+
+#include <QPointer>
+#include <QUrl>
+
+#include "platform/automation/BrowserPolicy.h"
+#include "platform/automation/DosUrl.h"
+#include "platform/automation/PageQuestions.h"
+#include "platform/automation/WebPage.h"
+#include "platform/automation/WebView.h"
+#include "platform/machine/Machine.h"
+#include "platform/text/CodePage1253.h"
+
+namespace platform {
+
+namespace {
+
+constexpr std::int32_t beforeNavigateEvent = 100;
+constexpr std::int32_t copyCommand = 12;
+
+constexpr std::array operationTable = {
+    Method<104, &WebBrowserControl::navigate>("Navigate"),
+    Method<105, &WebBrowserControl::refresh>("Refresh2"),
+    PropertyGet<203, &WebBrowserControl::document>("Document"),
+};
+constexpr auto operationInfos = describe(operationTable);
+
+constexpr std::array beforeNavigateTypes = {TypeCode::text,    TypeCode::i4,   TypeCode::text,
+                                            TypeCode::variant, TypeCode::text, TypeCode::booleanRef};
+constexpr std::array<EventInfo, 1> eventInfos = {
+    {{beforeNavigateEvent, "BeforeNavigate", beforeNavigateTypes}}};
+
+/// The page as an automation object; it does nothing once the page is gone.
+class Document : public Dispatch {
+  public:
+    explicit Document(WebPage& page) : page_(&page) {}
+
+    bool exec(std::int32_t command) override {
+        if (!page_ || command != copyCommand) return false;
+        page_->triggerAction(QWebEnginePage::Copy);
+        return true;
+    }
+
+  private:
+    QPointer<WebPage> page_;
+};
+
+void record(TraceEntry entry) {
+    if (hasMachine()) machine().trace().record(std::move(entry));
+}
+
+std::string toText(const QString& unicode) { return fromUtf8(unicode.toStdString()); }
+
+}  // namespace
+
+WebBrowserControl::WebBrowserControl(ControlSite& site, QWidget* parent)
+    : site_(site),
+      view_(std::make_unique<WebView>(parent)),
+      page_(std::make_unique<WebPage>(
+          [this](const QUrl& asking, const QUrl& url) { return passes(asking, url); }, nullptr)) {
+    view_->setPage(page_.get());
+}
+
+WebBrowserControl::~WebBrowserControl() = default;
+
+QWidget& WebBrowserControl::widget() { return *view_; }
+
+std::span<const OperationInfo> WebBrowserControl::operations() const { return operationInfos; }
+
+std::span<const EventInfo> WebBrowserControl::events() const { return eventInfos; }
+
+std::optional<Variant> WebBrowserControl::invoke(std::int32_t dispid, InvokeKind kind,
+                                                 std::span<const Variant> arguments) {
+    return dispatch(*this, operationTable, dispid, kind, arguments);
+}
+
+bool WebBrowserControl::busy() const { return page_->busy(); }
+
+void WebBrowserControl::navigate(const std::string& address, const Variant& flags, const Variant&,
+                                 const Variant&, const Variant&) {
+    const auto* number = flags.get<std::int32_t>();
+    record(TraceNavigate{controlId(), address, number ? *number : 0});
+    page_->navigate(urlOfAddress(address));
+}
+
+void WebBrowserControl::refresh(const Variant&) { page_->reload(); }
+
+std::shared_ptr<Dispatch> WebBrowserControl::document() { return std::make_shared<Document>(*page_); }
+
+bool WebBrowserControl::passes(const QUrl& asking, const QUrl& url) {
+    const std::string address = addressOfUrl(url);
+    bool cancel = false;
+    std::array arguments = {Variant(address), Variant(std::int32_t{0}), Variant(std::string()),
+                            Variant(),        Variant(std::string()),   Variant(&cancel)};
+    site_.raiseEvent(beforeNavigateEvent, arguments);
+    if (!cancel && BrowserPolicy::instance().admit(addressOfUrl(asking), address)) return true;
+    record(TraceRefused{address});
+    return false;
+}
+
+int WebBrowserControl::controlId() const {
+    const WindowTable& windows = WindowTable::instance();
+    const WindowEntry* entry = windows.find(windows.nearestHandle(view_.get()));
+    return entry ? entry->id : 0;
+}
+
+std::string WebBrowserControl::url() const { return addressOfUrl(page_->url()); }
+
+std::string WebBrowserControl::title() const { return toText(page_->title()); }
+
+std::string WebBrowserControl::text() { return toText(textOf(*page_)); }
+
+std::string WebBrowserControl::html() { return toText(htmlOf(*page_)); }
+
+std::optional<CRect> WebBrowserControl::findLink(std::string_view linkText) {
+    return findLinkOf(*page_, linkText);
+}
+
+bool WebBrowserControl::clickLink(std::string_view linkText) {
+    const auto link = findLink(linkText);
+    if (link) view_->click({(link->left + link->right) / 2, (link->top + link->bottom) / 2});
+    return link.has_value();
+}
+
+std::vector<CRect> WebBrowserControl::embeddedFrames() { return embeddedFramesOf(*page_); }
+
+}  // namespace platform

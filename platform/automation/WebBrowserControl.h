@@ -1,0 +1,59 @@
+#pragma once
+
+#include <array>
+#include <memory>
+#include <string>
+
+#include "platform/automation/DispatchMap.h"
+#include "platform/automation/WebPageInspector.h"
+
+class QUrl;
+
+namespace platform {
+
+class WebPage;
+class WebView;
+
+/// The web browser control. Addresses are code page 1253: DOS paths (`D:\a.htm`, `c:/cache/1.htm`) or URLs.
+class WebBrowserControl : public Control, public WebPageInspector {
+  public:
+    /// The control's published class id.
+    static constexpr std::string_view classId = "EAB22AC3-30C1-11CF-A7EB-0000C05BAE0B";
+
+    WebBrowserControl(ControlSite& site, QWidget* parent);
+    ~WebBrowserControl() override;
+
+    QWidget& widget() override;
+    std::span<const OperationInfo> operations() const override;
+    std::span<const EventInfo> events() const override;
+    std::optional<Variant> invoke(std::int32_t dispid, InvokeKind kind,
+                                  std::span<const Variant> arguments) override;
+    bool busy() const override;
+
+    std::string url() const override;
+    std::string title() const override;
+    std::string text() override;
+    std::string html() override;
+    std::optional<CRect> findLink(std::string_view linkText) override;
+    bool clickLink(std::string_view linkText) override;
+    std::vector<CRect> embeddedFrames() override;
+
+    /// Goes to an address after raising `BeforeNavigate`. The flags are recorded; frame, post data and
+    /// headers are not used.
+    void navigate(const std::string& address, const Variant& flags, const Variant& frame,
+                  const Variant& postData, const Variant& headers);
+    /// Loads the page again, whatever the level.
+    void refresh(const Variant& level);
+    /// The document: its command 12 copies the selection; command 6, printing, it cannot do, nor any other.
+    std::shared_ptr<Dispatch> document();
+
+  private:
+    bool passes(const QUrl& asking, const QUrl& url);
+    int controlId() const;
+
+    ControlSite& site_;
+    std::unique_ptr<WebView> view_;
+    std::unique_ptr<WebPage> page_;  // goes before its view, which does not own it
+};
+
+}  // namespace platform

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QTimer>
+#include <QUrl>
+#include <QWebEnginePage>
+#include <functional>
+#include <memory>
+
+namespace platform {
+
+/// A page of the engine whose every change of address, by the program or by the page, first passes a gate.
+///
+/// The engine asks whether a navigation may go on while it is inside its own work; a dialog shown at that
+/// moment could load nothing. So a page's request is refused there, put to the gate once the engine has
+/// returned, and carried out as a navigation of our own.
+class WebPage : public QWebEnginePage {
+    Q_OBJECT
+
+  public:
+    /// Says whether a navigation may go on that the page at `asking` wants; that address is empty when it is
+    /// the program that wants it. The gate may run an event loop.
+    using Gate = std::function<bool(const QUrl& asking, const QUrl& url)>;
+
+    WebPage(Gate gate, QObject* parent);
+
+    /// Asks the gate at once, and goes to the address if it lets it pass.
+    void navigate(const QUrl& url);
+    /// Loads the page again, without asking the gate.
+    void reload();
+
+    /// Whether a navigation waits or a page is being loaded; a page that leads on to another at once counts
+    /// as loading until that other one has come.
+    bool busy() const { return waiting_ > 0 || loading_; }
+
+  protected:
+    bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) override;
+
+  private:
+    void requestLater(const QUrl& url);
+    void go(const QUrl& asking, const QUrl& url);
+    void finished();
+    void startLoading();
+    void settle(bool leadsOn);
+
+    Gate gate_;
+    QTimer redirectLimit_;
+    int waiting_ = 0;  // navigations asked for by the page and not yet put to the gate
+    // A new one for each load: the engine's answers about an earlier page, or to a page that has gone since,
+    // are told from it.
+    std::shared_ptr<int> load_ = std::make_shared<int>();
+    bool loading_ = false;
+};
+
+}  // namespace platform

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/windows/Geometry.h"
+
+namespace platform {
+
+/// What a browser control shows, for whoever looks at it from outside; reached from a Control by
+/// `dynamic_cast`. Texts are code page 1253, with `?` for what that cannot write. Operations that ask the
+/// engine run the event loop until it has answered, five seconds at most.
+class WebPageInspector {
+  public:
+    virtual ~WebPageInspector() = default;
+
+    /// The page's address, drive URLs in DOS form; empty when none is shown.
+    virtual std::string url() const = 0;
+    virtual std::string title() const = 0;
+    /// The page's text as laid out, followed by that of its frames.
+    virtual std::string text() = 0;
+    virtual std::string html() = 0;
+
+    /// Scrolls the page's first link with this text (blanks at its ends apart) into view; its rectangle in
+    /// the control's client area, nothing when there is none.
+    virtual std::optional<CRect> findLink(std::string_view linkText) = 0;
+    /// Clicks that link with the mouse; false when there is none.
+    virtual bool clickLink(std::string_view linkText) = 0;
+
+    /// The frames that embedded files are shown in, as laid out, in the control's client area and in the
+    /// order of the page.
+    virtual std::vector<CRect> embeddedFrames() = 0;
+};
+
+}  // namespace platform

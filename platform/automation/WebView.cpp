@@ -1,0 +1,69 @@
+#include "platform/automation/WebView.h"
+
+#include <QCoreApplication>
+#include <QMouseEvent>
+#include <QPalette>
+#include <QShortcut>
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "platform/automation/QtChild.h"
+
+namespace platform {
+
+namespace {
+
+/// The zoom factors that the keys go through.
+constexpr std::array<double, 11> zoomSteps = {0.5, 0.67, 0.75, 0.9, 1.0, 1.1, 1.25, 1.5, 1.75, 2.0, 2.5};
+
+}  // namespace
+
+WebView::WebView(QWidget* parent) : QWebEngineView(parent) {
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setAcceptDrops(false);
+    QPalette colours = palette();
+    colours.setColor(QPalette::Window, Qt::white);
+    colours.setColor(QPalette::Base, Qt::white);
+    colours.setColor(QPalette::Text, Qt::black);
+    setPalette(colours);
+    addZoomKeys();
+}
+
+void WebView::click(CPoint point) {
+    // The engine's own widget, which takes the input.
+    QWidget* const target = focusProxy();
+    if (!target) return;
+    const QPointF local = target->mapFrom(this, QPointF(point.x, point.y));
+    const QPointF global = target->mapToGlobal(local);
+    const auto send = [&](QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons held) {
+        QMouseEvent event(type, local, global, button, held, Qt::NoModifier);
+        QCoreApplication::sendEvent(target, &event);
+    };
+    send(QEvent::MouseMove, Qt::NoButton, Qt::NoButton);
+    send(QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+    send(QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
+}
+
+void WebView::addZoomKeys() {
+    const auto add = [this](const QKeySequence& keys, auto action) {
+        auto& shortcut = makeQtChild<QShortcut>(keys, this);
+        shortcut.setContext(Qt::WidgetWithChildrenShortcut);
+        connect(&shortcut, &QShortcut::activated, this, action);
+    };
+    add(Qt::CTRL | Qt::Key_Plus, [this] { zoomBy(1); });
+    add(Qt::CTRL | Qt::Key_Equal, [this] { zoomBy(1); });
+    add(Qt::CTRL | Qt::Key_Minus, [this] { zoomBy(-1); });
+    add(Qt::CTRL | Qt::Key_0, [this] { setZoomFactor(1.0); });
+}
+
+void WebView::zoomBy(int steps) {
+    const auto nearest = std::min_element(zoomSteps.begin(), zoomSteps.end(), [this](double a, double b) {
+        return std::abs(a - zoomFactor()) < std::abs(b - zoomFactor());
+    });
+    const auto wanted = nearest - zoomSteps.begin() + steps;
+    const auto last = static_cast<std::ptrdiff_t>(zoomSteps.size()) - 1;
+    setZoomFactor(zoomSteps[static_cast<std::size_t>(std::clamp<std::ptrdiff_t>(wanted, 0, last))]);
+}
+
+}  // namespace platform

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <Qt>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "platform/framework/Resources.h"
+
+namespace platform {
+
+/// The key combinations of the program and their commands.
+class AcceleratorTable {
+  public:
+    explicit AcceleratorTable(std::span<const Accelerator> accelerators);
+
+    /// The command of a virtual key with these modifiers.
+    std::optional<UINT> find(UINT key, Qt::KeyboardModifiers modifiers) const;
+
+  private:
+    struct Row {
+        UINT key;
+        Qt::KeyboardModifiers modifiers;
+        UINT command;
+    };
+    std::vector<Row> rows_;
+};
+
+}  // namespace platform

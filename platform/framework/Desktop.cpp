@@ -1,0 +1,43 @@
+#include "platform/framework/Desktop.h"
+
+#include <QApplication>
+#include <QScreen>
+
+#include "platform/automation/BrowserProcess.h"
+
+namespace platform {
+
+namespace {
+
+/// A maximised window's borders, left and right or top and bottom.
+constexpr int maximisedBorders = 8;
+
+std::unique_ptr<QApplication> makeApplication(int& argc, char** argv) {
+    prepareProcess();
+    return std::make_unique<QApplication>(argc, argv);
+}
+
+}  // namespace
+
+Desktop::Desktop(int& argc, char** argv) : application_(makeApplication(argc, argv)) {
+    // The name under which the desktop knows the program's windows.
+    QGuiApplication::setDesktopFileName(QStringLiteral("kalyxo"));
+}
+
+Desktop::~Desktop() = default;
+
+ScreenConfig Desktop::screen() const {
+    const QScreen* const first = QGuiApplication::primaryScreen();
+    if (!first) return {};
+    return {first->size().width(), first->size().height(), first->depth()};
+}
+
+std::map<std::string, int, std::less<>> Desktop::metrics() const {
+    const QScreen* const first = QGuiApplication::primaryScreen();
+    if (!first) return {};
+    const QSize free = first->availableSize();
+    return {{"SM_CXMAXIMIZED", free.width() + maximisedBorders},
+            {"SM_CYMAXIMIZED", free.height() + maximisedBorders}};
+}
+
+}  // namespace platform

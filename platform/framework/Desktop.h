@@ -1,0 +1,33 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+
+#include "platform/machine/MachineConfig.h"
+
+class QApplication;
+
+namespace platform {
+
+/// The connection to the user's desktop: the process made ready for windows and the web browser. Stands
+/// before any window and outlives all of them; one in a process.
+class Desktop {
+  public:
+    /// Takes its own arguments off the list, which lives on.
+    Desktop(int& argc, char** argv);
+    ~Desktop();
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+
+    /// The first screen.
+    ScreenConfig screen() const;
+    /// The metrics that follow from it, by name: the size of a maximised window, whose borders lie outside.
+    std::map<std::string, int, std::less<>> metrics() const;
+
+  private:
+    std::unique_ptr<QApplication> application_;
+};
+
+}  // namespace platform

@@ -1,0 +1,69 @@
+#include "platform/framework/FramePlacement.h"
+
+#include <QEvent>
+#include <QWidget>
+#include <QWindow>
+
+namespace platform {
+
+namespace {
+
+/// How long a window manager may take to tell a frame's width.
+constexpr int settleMs = 100;
+
+}  // namespace
+
+FramePlacement::FramePlacement(QWidget& widget) : widget_(widget) {
+    // Makes the native window: some window systems know the frame from then on.
+    widget_.winId();
+    widget_.windowHandle()->installEventFilter(this);
+}
+
+void FramePlacement::place(const QRect& outer) {
+    const bool settled = isNormal() && widget_.windowHandle()->isExposed();
+    if (!isNormal()) widget_.setWindowState(Qt::WindowNoState);
+    wanted_ = outer;
+    putRight();
+    // A settled window may be in the user's hands the next moment.
+    if (settled) wanted_.reset();
+}
+
+void FramePlacement::remember() {
+    if (isNormal() && !wanted_) wanted_ = present();
+}
+
+QRect FramePlacement::outer() const { return wanted_ && isNormal() ? *wanted_ : present(); }
+
+bool FramePlacement::eventFilter(QObject*, QEvent* event) {
+    const bool mayKnowFrame = event->type() == QEvent::Expose || event->type() == QEvent::WindowStateChange;
+    if (!mayKnowFrame || !wanted_ || !isNormal() || !widget_.windowHandle()->isExposed()) return false;
+    putRight();
+    settling_.start(settleMs, this);
+    return false;
+}
+
+void FramePlacement::timerEvent(QTimerEvent*) {
+    settling_.stop();
+    if (!wanted_ || !isNormal()) return;
+    putRight();
+    wanted_.reset();
+}
+
+bool FramePlacement::isNormal() const {
+    return !(widget_.windowState() & (Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen));
+}
+
+QRect FramePlacement::present() const {
+    // The native window is ahead of the widget, which learns of changes through events.
+    const QWindow& window = *widget_.windowHandle();
+    return window.geometry().marginsAdded(window.frameMargins());
+}
+
+void FramePlacement::putRight() {
+    if (present() == *wanted_) return;
+    widget_.setGeometry(wanted_->marginsRemoved(widget_.windowHandle()->frameMargins()));
+    // Some window systems move what would lie beside the screen, unless the frame itself is placed.
+    if (present() != *wanted_) widget_.windowHandle()->setFramePosition(wanted_->topLeft());
+}
+
+}  // namespace platform

@@ -1,0 +1,92 @@
+#include "platform/framework/FrameWidget.h"
+
+#include <QCloseEvent>
+#include <QDir>
+#include <QIcon>
+#include <QWindow>
+
+#include "platform/framework/FrameWnd.h"
+#include "platform/framework/LightPalette.h"
+#include "platform/framework/MenuBuilder.h"
+#include "platform/framework/Resources.h"
+#include "platform/windows/PaintQueue.h"
+#include "platform/windows/QtConvert.h"
+
+namespace platform {
+
+namespace {
+
+QIcon programIcon() {
+    const QDir folder(QStringLiteral(":/icon"));
+    QIcon icon;
+    for (const QString& file : folder.entryList({toQt(Resources().iconName) + "-*.png"})) {
+        icon.addFile(folder.filePath(file));
+    }
+    return icon;
+}
+
+}  // namespace
+
+FrameWidget::FrameWidget(CFrameWnd& owner)
+    : WindowWidget(owner, nullptr, 0), menuBar_(this), placement_(*this) {
+    setPalette(lightPalette());
+    setWindowIcon(programIcon());
+    buildMenuBar(menuBar_, handle());
+}
+
+QRect FrameWidget::clientArea() const { return rect().adjusted(0, menuHeight(), 0, 0); }
+
+int FrameWidget::menuHeight() const {
+    return menuBar_.actions().isEmpty() ? 0 : menuBar_.heightForWidth(width());
+}
+
+void FrameWidget::place(const QRect& outer) {
+    placement_.place(outer);
+    // The first WM_SIZE comes when the window is first shown.
+    if (shown_) sizeChanged();
+}
+
+void FrameWidget::showAs(int showCommand) {
+    const Qt::WindowStates state = windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized);
+    if (showCommand == SW_SHOWMINIMIZED || showCommand == SW_SHOWMAXIMIZED) placement_.remember();
+    if (showCommand == SW_SHOWNORMAL) setWindowState(state);
+    if (showCommand == SW_SHOWMINIMIZED) setWindowState(windowState() | Qt::WindowMinimized);
+    if (showCommand == SW_SHOWMAXIMIZED) setWindowState(state | Qt::WindowMaximized);
+    setVisible(showCommand != SW_HIDE);
+}
+
+UINT FrameWidget::sizeType() const {
+    if (windowState() & Qt::WindowMinimized) return SIZE_MINIMIZED;
+    return windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen) ? SIZE_MAXIMIZED : SIZE_RESTORED;
+}
+
+void FrameWidget::fitContent() { menuBar_.setGeometry(0, 0, width(), menuHeight()); }
+
+void FrameWidget::changeEvent(QEvent* event) {
+    WindowWidget::changeEvent(event);
+    if (event->type() != QEvent::WindowStateChange || !shown_) return;
+    // When another size is on its way, its resize event tells both.
+    const bool resizes = sizeType() != SIZE_MINIMIZED && windowHandle()->size() != size();
+    if (!resizes) sizeChanged();
+}
+
+void FrameWidget::closeEvent(QCloseEvent* event) {
+    // The program decides whether and when the window goes.
+    event->ignore();
+    send(WM_CLOSE);
+}
+
+void FrameWidget::resizeEvent(QResizeEvent*) {
+    if (shown_) sizeChanged();
+    // Qt paints right after a resize; what it shows is to be of the new size already.
+    deliverScheduledPaints();
+}
+
+void FrameWidget::showEvent(QShowEvent* event) {
+    WindowWidget::showEvent(event);
+    if (event->spontaneous()) return;
+    shown_ = true;
+    sizeChanged();
+}
+
+}  // namespace platform

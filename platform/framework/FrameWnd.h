@@ -1,0 +1,66 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "platform/windows/Wnd.h"
+
+namespace platform {
+
+class CDocument;
+class CView;
+struct CRuntimeClass;
+
+/// Control id of the view inside its frame.
+inline constexpr UINT AFX_IDW_PANE_FIRST = 0xE900;
+
+/// A menu item as it stands when its menu is opened.
+struct MenuItemState {
+    std::string_view text;  ///< empty for a separator
+    UINT id = 0;
+    bool enabled = false;
+    bool checked = false;
+};
+
+/// The top-level window of a single-document program: menu bar, accelerators and the view.
+class CFrameWnd : public CWnd {
+  public:
+    CFrameWnd();
+    ~CFrameWnd() override;
+    const MessageMap* GetMessageMap() const override;
+
+    /// Creates the window hidden, with menu, accelerators and a view of the given class.
+    bool LoadFrame(const CRuntimeClass& viewClass, CDocument& document);
+    /// Runs the view's first update, then shows the frame with the application's show command.
+    void InitialUpdateFrame();
+
+    CView* GetActiveView() const { return m_view.get(); }
+
+    /// Adjusts style, position and size before the window is made; false refuses.
+    virtual bool PreCreateWindow(CREATESTRUCT& cs);
+    virtual void ActivateFrame(int showCommand);
+
+    /// Routes to the view and its document, then the frame, then the application.
+    bool OnCmdMsg(UINT id, CommandMessage what, CCmdUI* ui) override;
+    /// Carries a command out if its rule allows it; whether it was carried out.
+    bool RunCommand(UINT id);
+    /// The enabling rule's result; a command that nothing handles is disabled.
+    CCmdUI UpdateCommand(UINT id);
+    /// Items of the menu with this index, each rule run now.
+    std::vector<MenuItemState> MenuState(std::size_t menu);
+
+  protected:
+    int OnCreate(CREATESTRUCT& cs);
+    void OnSize(UINT type, int width, int height);
+    void OnDestroy();
+    void OnClose();
+    bool OnCommand(WPARAM wParam, LPARAM lParam) override;
+
+  private:
+    void OnAppExit();
+    std::unique_ptr<CView> m_view;
+    const CRuntimeClass* m_viewClass = nullptr;
+    CDocument* m_document = nullptr;
+};
+
+}  // namespace platform

@@ -1,0 +1,83 @@
+#include <QApplication>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <vector>
+
+#include "platform/framework/LightPalette.h"
+#include "platform/framework/Resources.h"
+#include "platform/framework/WinApp.h"
+#include "platform/handles/WindowTable.h"
+#include "platform/machine/Machine.h"
+#include "platform/windows/QtConvert.h"
+
+namespace platform {
+
+namespace {
+
+std::vector<BoxAnswer> buttonsOf(BoxButtons buttons) {
+    if (buttons == BoxButtons::yesNo) return {BoxAnswer::yes, BoxAnswer::no};
+    return {BoxAnswer::ok};
+}
+
+QString buttonText(BoxAnswer answer) {
+    switch (answer) {
+        case BoxAnswer::yes:
+            return QStringLiteral("Ναι");
+        case BoxAnswer::no:
+            return QStringLiteral("Όχι");
+        case BoxAnswer::cancel:
+            return QStringLiteral("Άκυρο");
+        default:
+            return QStringLiteral("ΟΚ");
+    }
+}
+
+/// The window before which a box stands: the active one, else the frame if it is on show, else none.
+QWidget* windowBehind() {
+    if (QWidget* const active = QApplication::activeWindow()) return active;
+    const WindowTable& table = WindowTable::instance();
+    for (const HWND window : table.all()) {
+        QWidget* const widget = table.widget(window);
+        if (widget->isWindow() && widget->isVisible()) return widget;
+    }
+    return nullptr;
+}
+
+/// Shows the box and waits for the user. Closing it without a button counts as its last button.
+BoxAnswer show(std::string_view text, std::string_view caption, const std::vector<BoxAnswer>& buttons) {
+    // On the heap: the window it belongs to may go while the box is up.
+    QPointer<QMessageBox> box = new QMessageBox(windowBehind());
+    box->setPalette(lightPalette());
+    box->setWindowTitle(toQt(caption));
+    box->setTextFormat(Qt::PlainText);
+    box->setText(toQt(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    std::vector<QAbstractButton*> widgets;
+    for (const BoxAnswer answer : buttons) {
+        widgets.push_back(box->addButton(buttonText(answer), QMessageBox::AcceptRole));
+    }
+    box->setDefaultButton(static_cast<QPushButton*>(widgets.front()));
+    box->setEscapeButton(widgets.back());
+    box->exec();
+    if (!box) return buttons.back();
+    BoxAnswer answer = buttons.back();
+    for (std::size_t i = 0; i < buttons.size(); ++i) {
+        if (widgets[i] == box->clickedButton()) answer = buttons[i];
+    }
+    delete box;
+    return answer;
+}
+
+}  // namespace
+
+BoxAnswer AfxMessageBox(std::string_view text, BoxButtons kind) {
+    const std::vector<BoxAnswer> buttons = buttonsOf(kind);
+    const std::string_view caption = LoadString(AFX_IDS_APP_TITLE);
+    const auto ready = hasMachine() ? machine().nextAnswer(buttons) : std::nullopt;
+    const BoxAnswer answer = ready ? *ready : show(text, caption, buttons);
+    if (hasMachine())
+        machine().trace().record(TraceBox{std::string(text), std::string(caption), buttons, answer});
+    return answer;
+}
+
+}  // namespace platform

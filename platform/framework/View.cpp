@@ -1,0 +1,23 @@
+#include "platform/framework/View.h"
+
+#include "platform/framework/Document.h"
+#include "platform/windows/MessageMap.h"
+
+namespace platform {
+
+const MessageMap* CView::GetMessageMap() const {
+    static constexpr MessageMapEntry entries[] = {OnMessage<WM_PAINT, &CView::OnPaint>()};
+    static const MessageMap map{CWnd::GetMessageMap(), entries};
+    return &map;
+}
+
+bool CView::OnCmdMsg(UINT id, CommandMessage what, CCmdUI* ui) {
+    return CWnd::OnCmdMsg(id, what, ui) || (m_pDocument && m_pDocument->OnCmdMsg(id, what, ui));
+}
+
+void CView::OnPaint() {
+    CPaintDC dc(*this);
+    OnDraw(dc);
+}
+
+}  // namespace platform

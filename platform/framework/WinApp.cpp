@@ -1,0 +1,69 @@
+#include "platform/framework/WinApp.h"
+
+#include <cstdlib>
+
+#include "platform/framework/AcceleratorTable.h"
+#include "platform/framework/Document.h"
+#include "platform/framework/FrameWnd.h"
+#include "platform/framework/View.h"
+#include "platform/handles/WindowTable.h"
+#include "platform/machine/Machine.h"
+#include "platform/windows/MessageFilter.h"
+#include "platform/windows/WindowWidget.h"
+
+namespace platform {
+
+namespace {
+
+CWinApp* application = nullptr;
+
+/// The command that a key stands for; dialogs have no accelerators.
+std::optional<UINT> acceleratorCommand(const CFrameWnd* frame, HWND window, UINT key) {
+    const QWidget* const widget = WindowTable::instance().widget(window);
+    if (!frame || !widget || widget->window() != WindowWidget::of(*frame)) return std::nullopt;
+    return AcceleratorTable(Resources().accelerators).find(key, inputModifiers());
+}
+
+}  // namespace
+
+CWinApp::CWinApp() {
+    application = this;
+    setInputHooks({
+        .preTranslate = [this](const MSG& message) { return PreTranslateMessage(message); },
+        .claimsKey = [this](HWND window,
+                            UINT key) { return acceleratorCommand(GetMainWnd(), window, key).has_value(); },
+    });
+}
+
+CWinApp::~CWinApp() {
+    m_template.reset();
+    setInputHooks({});
+    application = nullptr;
+}
+
+CWinApp& CWinApp::instance() {
+    if (!application) std::abort();
+    return *application;
+}
+
+bool CWinApp::PreTranslateMessage(const MSG& message) {
+    if (message.message != WM_KEYDOWN) return false;
+    CFrameWnd* const frame = GetMainWnd();
+    const auto command = acceleratorCommand(frame, message.hwnd, static_cast<UINT>(message.wParam));
+    return command && frame->RunCommand(*command);
+}
+
+void CWinApp::AddDocTemplate(std::unique_ptr<CSingleDocTemplate> documentTemplate) {
+    m_template = std::move(documentTemplate);
+}
+
+bool CWinApp::ProcessShellCommand() { return m_template && m_template->OpenNewDocument(); }
+
+CFrameWnd* CWinApp::GetMainWnd() const {
+    CFrameWnd* const frame = m_template ? m_template->GetFrame() : nullptr;
+    return frame && frame->GetSafeHwnd() != 0 ? frame : nullptr;
+}
+
+bool AfxOleInit() { return hasMachine(); }
+
+}  // namespace platform

@@ -1,0 +1,30 @@
+#include <QImage>
+
+#include "platform/windows/DC.h"
+
+namespace platform {
+
+bool CBitmap::LoadBitmap(UINT id) {
+    const QImage image(QStringLiteral(":/bitmap/%1.png").arg(id));
+    if (image.isNull()) return false;
+    image_ = std::make_shared<QImage>(image.convertToFormat(QImage::Format_RGB32));
+    return true;
+}
+
+int CBitmap::Width() const { return image_ ? image_->width() : 0; }
+
+int CBitmap::Height() const { return image_ ? image_->height() : 0; }
+
+CBrush CBrush::solid(COLORREF colour) {
+    CBrush brush;
+    brush.colour_ = colour;
+    return brush;
+}
+
+CBrush CBrush::pattern(const CBitmap& bitmap) {
+    CBrush brush;
+    brush.pattern_ = bitmap.image_;
+    return brush;
+}
+
+}  // namespace platform

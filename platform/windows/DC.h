@@ -1,0 +1,100 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "platform/windows/Geometry.h"
+#include "platform/windows/Messages.h"
+
+class QImage;
+
+namespace platform {
+
+class CWnd;
+
+/// A bitmap resource of the program, or a bitmap to draw on.
+class CBitmap {
+  public:
+    /// Loads bitmap resource `id`; false when there is none.
+    bool LoadBitmap(UINT id);
+    bool loaded() const { return image_ != nullptr; }
+    int Width() const;
+    int Height() const;
+
+  private:
+    friend class CDC;
+    friend class CBrush;
+    std::shared_ptr<QImage> image_;
+};
+
+/// What areas are filled with.
+class CBrush {
+  public:
+    static CBrush solid(COLORREF colour);
+    /// Repeats the bitmap from the origin of the target.
+    static CBrush pattern(const CBitmap& bitmap);
+
+  private:
+    friend class CDC;
+    COLORREF colour_ = 0;
+    std::shared_ptr<QImage> pattern_;
+};
+
+/// The information header of a device-independent bitmap, as it stands in files.
+struct BITMAPINFOHEADER {
+    std::uint32_t biSize = 40;
+    std::int32_t biWidth = 0;
+    std::int32_t biHeight = 0;
+    std::uint16_t biPlanes = 1;
+    std::uint16_t biBitCount = 24;
+    std::uint32_t biCompression = 0;
+    std::uint32_t biSizeImage = 0;
+    std::int32_t biXPelsPerMeter = 0;
+    std::int32_t biYPelsPerMeter = 0;
+    std::uint32_t biClrUsed = 0;
+    std::uint32_t biClrImportant = 0;
+};
+
+/// Draws on a window's picture or on a bitmap, at any time. Windows keep what is drawn.
+class CDC {
+  public:
+    class Target;
+
+    /// A context without anything to draw on.
+    CDC();
+    CDC(CDC&&) noexcept;
+    CDC& operator=(CDC&&) noexcept;
+    virtual ~CDC();
+
+    /// A context to draw bitmaps from; select a bitmap into it.
+    static CDC CreateCompatibleDC(const CDC& like);
+    /// Makes the bitmap what this memory context draws on and copies from.
+    void SelectObject(const CBitmap& bitmap);
+
+    void BitBlt(int x, int y, int width, int height, const CDC& source, int sourceX, int sourceY);
+    void StretchBlt(int x, int y, int width, int height, const CDC& source, int sourceX, int sourceY,
+                    int sourceWidth, int sourceHeight);
+    void FillSolidRect(const CRect& rect, COLORREF colour);
+    void FillRect(const CRect& rect, const CBrush& brush);
+    /// Draws a whole 24-bit bottom-up picture with its top-left corner at (x, y). `pixels` holds
+    /// height rows of width × 3 bytes rounded up to a multiple of 4.
+    void SetDIBitsToDevice(int x, int y, const BITMAPINFOHEADER& header, const std::uint8_t* pixels);
+
+  protected:
+    explicit CDC(std::unique_ptr<Target> target);
+    std::unique_ptr<Target> target_;
+};
+
+/// Draws on a window's client area outside a paint message; the window shows it at once.
+class CClientDC : public CDC {
+  public:
+    explicit CClientDC(CWnd& window);
+};
+
+/// Draws on a window's client area in answer to a paint message and marks it as painted.
+class CPaintDC : public CDC {
+  public:
+    explicit CPaintDC(CWnd& window);
+};
+
+}  // namespace platform

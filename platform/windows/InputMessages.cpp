@@ -1,0 +1,88 @@
+#include "platform/windows/InputMessages.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+#include "platform/handles/WindowTable.h"
+#include "platform/windows/CursorShape.h"
+#include "platform/windows/MouseCapture.h"
+#include "platform/windows/QtConvert.h"
+#include "platform/windows/VirtualKeys.h"
+#include "platform/windows/WindowWidget.h"
+
+namespace platform {
+
+namespace {
+
+/// Key states that mouse messages carry.
+constexpr WPARAM leftButtonDown = 0x01;
+constexpr WPARAM rightButtonDown = 0x02;
+constexpr WPARAM shiftDown = 0x04;
+constexpr WPARAM controlDown = 0x08;
+
+UINT buttonMessage(QEvent::Type type, Qt::MouseButton button) {
+    if (type == QEvent::MouseMove) return WM_MOUSEMOVE;
+    if (button == Qt::LeftButton) {
+        if (type == QEvent::MouseButtonRelease) return WM_LBUTTONUP;
+        return type == QEvent::MouseButtonDblClick ? WM_LBUTTONDBLCLK : WM_LBUTTONDOWN;
+    }
+    if (button != Qt::RightButton) return 0;
+    return type == QEvent::MouseButtonRelease ? WM_RBUTTONUP : WM_RBUTTONDOWN;
+}
+
+WPARAM keyStates(const QMouseEvent& event) {
+    WPARAM states = 0;
+    if (event.buttons() & Qt::LeftButton) states |= leftButtonDown;
+    if (event.buttons() & Qt::RightButton) states |= rightButtonDown;
+    if (event.modifiers() & Qt::ShiftModifier) states |= shiftDown;
+    if (event.modifiers() & Qt::ControlModifier) states |= controlDown;
+    return states;
+}
+
+QPoint clientPosition(QPoint global, const QWidget* window) {
+    if (!window) return global;
+    const auto* const own = dynamic_cast<const WindowWidget*>(window);
+    return window->mapFromGlobal(global) - (own ? own->clientArea().topLeft() : QPoint());
+}
+
+std::optional<MSG> mouseMessage(const QMouseEvent& event, HWND window) {
+    const UINT message = buttonMessage(event.type(), event.button());
+    if (message == 0) return std::nullopt;
+    const QPoint position =
+        clientPosition(event.globalPosition().toPoint(), WindowTable::instance().widget(window));
+    return MSG{window, message, keyStates(event), packPoint(fromQt(position))};
+}
+
+std::optional<MSG> keyMessage(const QKeyEvent& event, HWND window) {
+    const UINT key = virtualKey(event.key());
+    if (key == 0) return std::nullopt;
+    return MSG{window, event.type() == QEvent::KeyPress ? WM_KEYDOWN : WM_KEYUP, key, 0};
+}
+
+}  // namespace
+
+std::optional<MSG> inputMessage(const QEvent& event, QWidget& receiver) {
+    return inputMessageFor(event, WindowTable::instance().nearestHandle(&receiver));
+}
+
+std::optional<MSG> inputMessageFor(const QEvent& event, HWND window) {
+    switch (event.type()) {
+        case QEvent::MouseMove:
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+            return mouseMessage(static_cast<const QMouseEvent&>(event), window);
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+            return keyMessage(static_cast<const QKeyEvent&>(event), window);
+        default:
+            return std::nullopt;
+    }
+}
+
+void deliverInput(const MSG& message) {
+    if (message.message == WM_MOUSEMOVE && capturingWindow() == 0) askForCursor(message.hwnd);
+    WindowTable::instance().send(message.hwnd, message.message, message.wParam, message.lParam);
+}
+
+}  // namespace platform

@@ -1,0 +1,165 @@
+#include "platform/windows/MessageFilter.h"
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QWindow>
+#include <utility>
+
+#include "platform/handles/WindowTable.h"
+#include "platform/windows/InputMessages.h"
+#include "platform/windows/InputRoute.h"
+#include "platform/windows/MouseCapture.h"
+#include "platform/windows/PaintQueue.h"
+#include "platform/windows/VirtualKeys.h"
+#include "platform/windows/WindowWidget.h"
+
+namespace platform {
+
+namespace {
+
+InputHooks currentHooks;
+Qt::KeyboardModifiers currentModifiers;
+
+bool swallows(const std::optional<MSG>& message) {
+    return message && currentHooks.preTranslate && currentHooks.preTranslate(*message);
+}
+
+bool isMouse(QEvent::Type type) {
+    return type == QEvent::MouseMove || type == QEvent::MouseButtonPress ||
+           type == QEvent::MouseButtonRelease || type == QEvent::MouseButtonDblClick;
+}
+
+bool isKey(QEvent::Type type) { return type == QEvent::KeyPress || type == QEvent::KeyRelease; }
+
+bool isBlockedByDialog(const QWidget& window) {
+    const QWidget* const modal = QApplication::activeModalWidget();
+    return modal && modal != &window && !modal->isAncestorOf(&window);
+}
+
+/// The message goes where the mouse was captured; true when it was.
+bool deliverCaptured(const QEvent& event) {
+    const HWND window = capturingWindow();
+    if (window == 0) return false;
+    const std::optional<MSG> message = inputMessageFor(event, window);
+    if (message && !swallows(message)) deliverInput(*message);
+    return true;
+}
+
+class MessageFilter : public QObject {
+  public:
+    explicit MessageFilter(QApplication& application) : QObject(&application) {
+        application.installEventFilter(this);
+        connect(&application, &QApplication::focusChanged, this, &MessageFilter::focusMoved);
+    }
+
+    bool eventFilter(QObject* receiver, QEvent* event) override {
+        const QEvent::Type type = event->type();
+        if (receiver->isWidgetType()) {
+            if (type == QEvent::UpdateRequest) deliverScheduledPaints();
+            return atWidget(static_cast<QWidget&>(*receiver), *event);
+        }
+        if (!receiver->isWindowType()) return false;
+        if (type == QEvent::Expose || type == QEvent::Paint || type == QEvent::UpdateRequest) {
+            deliverScheduledPaints();
+        }
+        if (!isMouse(type)) return false;
+        auto& mouse = static_cast<QMouseEvent&>(*event);
+        if (type == QEvent::MouseMove || type == QEvent::MouseButtonRelease) return followsTakenPress(mouse);
+        return pressAtWindow(static_cast<QWindow&>(*receiver), mouse);
+    }
+
+  private:
+    /// A press is looked at before Qt moves the focus to the widget: a press that is swallowed moves nothing.
+    bool pressAtWindow(QWindow& window, const QMouseEvent& event) {
+        // The web engine has windows of its own inside of widgets; and Qt keeps the press that became a
+        // double click from the widgets.
+        if (!window.inherits("QWidgetWindow") || event.flags() & Qt::MouseEventCreatedDoubleClick)
+            return false;
+        QWidget* const top = QWidget::find(window.winId());
+        if (!top || QApplication::activePopupWidget() || isBlockedByDialog(*top)) return false;
+        route_.arriveAtWindow(event);
+        currentModifiers = event.modifiers();
+        QWidget* const child = top->childAt(event.position().toPoint());
+        const bool taken = deliverCaptured(event) || swallowsInput(event, child ? *child : *top);
+        taken_.setFlag(event.button(), taken);
+        return taken;
+    }
+
+    /// Qt knows nothing of a press that was taken, so that moves and the release after it reach no widget.
+    bool followsTakenPress(const QMouseEvent& event) {
+        const bool follows =
+            event.type() == QEvent::MouseMove ? taken_ != Qt::NoButton : taken_.testFlag(event.button());
+        if (event.type() == QEvent::MouseButtonRelease) taken_.setFlag(event.button(), false);
+        currentModifiers = event.modifiers();
+        return follows && deliverCaptured(event);
+    }
+
+    bool atWidget(QWidget& widget, QEvent& event) {
+        const QEvent::Type type = event.type();
+        if (type == QEvent::ContextMenu) return isUnwantedMenu(event);
+        if (type == QEvent::ShortcutOverride) return claim(widget, static_cast<QKeyEvent&>(event));
+        if (!isMouse(type) && !isKey(type)) return false;
+        const bool popup = QApplication::activePopupWidget();
+        if (isKey(type) && popup) return false;
+        auto& input = static_cast<QInputEvent&>(event);
+        if (!route_.arriveAtWidget(input, widget)) return false;
+        currentModifiers = input.modifiers();
+        const bool taken =
+            (isMouse(type) && !popup && deliverCaptured(event)) || swallowsInput(event, widget);
+        if (taken) event.accept();
+        return taken;
+    }
+
+    /// Asks about input at a widget; the menu that Qt derives from a press of the right button then goes the
+    /// same way.
+    bool swallowsInput(const QEvent& event, QWidget& widget) {
+        const std::optional<MSG> message = inputMessage(event, widget);
+        const bool swallowed = swallows(message);
+        if (message && message->message == WM_RBUTTONDOWN) menuSwallowed_ = swallowed;
+        return swallowed;
+    }
+
+    bool isUnwantedMenu(const QEvent& event) const {
+        return menuSwallowed_ &&
+               static_cast<const QContextMenuEvent&>(event).reason() == QContextMenuEvent::Mouse;
+    }
+
+    static bool claim(QWidget& widget, QKeyEvent& event) {
+        const UINT key = virtualKey(event.key());
+        currentModifiers = event.modifiers();
+        const HWND window = WindowTable::instance().nearestHandle(&widget);
+        if (key == 0 || !currentHooks.claimsKey || !currentHooks.claimsKey(window, key)) return false;
+        event.accept();
+        return true;
+    }
+
+    static void focusMoved(const QWidget* from, const QWidget* to) {
+        const WindowTable& table = WindowTable::instance();
+        const HWND left = table.nearestHandle(from);
+        const HWND entered = table.nearestHandle(to);
+        WindowWidget* const old = WindowWidget::find(table.handleOf(from));
+        if (old) old->send(WM_KILLFOCUS, static_cast<WPARAM>(entered));
+        WindowWidget* const now = WindowWidget::find(table.handleOf(to));
+        if (now) now->send(WM_SETFOCUS, static_cast<WPARAM>(left));
+    }
+
+    InputRoute route_;
+    Qt::MouseButtons taken_;
+    bool menuSwallowed_ = false;
+};
+
+}  // namespace
+
+void setInputHooks(InputHooks hooks) { currentHooks = std::move(hooks); }
+
+void installMessageFilter() {
+    static QPointer<MessageFilter> filter;
+    if (!filter && qApp) filter = new MessageFilter(*qApp);
+}
+
+Qt::KeyboardModifiers inputModifiers() { return currentModifiers; }
+
+}  // namespace platform

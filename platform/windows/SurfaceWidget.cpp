@@ -1,0 +1,71 @@
+#include "platform/windows/SurfaceWidget.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <utility>
+
+#include "platform/windows/DC.h"
+#include "platform/windows/InputMessages.h"
+#include "platform/windows/PaintQueue.h"
+
+namespace platform {
+
+SurfaceWidget::SurfaceWidget(CWnd& owner, QWidget* parent, int controlId)
+    : WindowWidget(owner, parent, controlId) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMouseTracking(true);
+}
+
+SurfaceWidget* SurfaceWidget::of(const CWnd& window) {
+    return dynamic_cast<SurfaceWidget*>(WindowWidget::of(window));
+}
+
+void SurfaceWidget::invalidate(bool erase) {
+    invalid_ = true;
+    erase_ = erase_ || erase;
+    schedulePaint(*this);
+}
+
+void SurfaceWidget::validate() { invalid_ = erase_ = false; }
+
+void SurfaceWidget::deliverPaint() {
+    if (!invalid_ || !owner() || !isVisible() || picture().isNull()) return;
+    invalid_ = false;
+    if (std::exchange(erase_, false)) {
+        CClientDC dc(*owner());
+        send(WM_ERASEBKGND, reinterpret_cast<WPARAM>(static_cast<CDC*>(&dc)));
+    }
+    send(WM_PAINT);
+}
+
+void SurfaceWidget::fitContent() {
+    if (surface_.resize(clientArea().size(), devicePixelRatioF())) invalidate(true);
+}
+
+bool SurfaceWidget::event(QEvent* event) {
+    const std::optional<MSG> message = inputMessage(*event, *this);
+    if (!message) return WindowWidget::event(event);
+    event->accept();
+    if (event->type() == QEvent::MouseButtonPress) focusClicked();
+    deliverInput(*message);
+    return true;
+}
+
+void SurfaceWidget::focusClicked() {
+    if (!focusOnClick_) return;
+    const QWidget* const focus = window()->focusWidget();
+    if (!focus || (focus != this && !isAncestorOf(focus))) setFocus(Qt::MouseFocusReason);
+}
+
+void SurfaceWidget::paintEvent(QPaintEvent*) {
+    // The ratio changes when the window comes to another screen.
+    if (!picture().isNull() && picture().devicePixelRatio() != devicePixelRatioF()) fitContent();
+    QPainter(this).drawImage(0, 0, picture());
+}
+
+void SurfaceWidget::showEvent(QShowEvent* event) {
+    WindowWidget::showEvent(event);
+    invalidate(true);
+}
+
+}  // namespace platform

@@ -1,0 +1,53 @@
+#include "platform/windows/WindowDestruction.h"
+
+#include <vector>
+
+#include "platform/handles/WindowTable.h"
+#include "platform/windows/WindowWidget.h"
+
+namespace platform {
+
+namespace {
+
+/// The windows with an object just below this one, in the order of their creation.
+std::vector<HWND> childrenOf(const WindowWidget& window) {
+    const WindowTable& table = WindowTable::instance();
+    std::vector<HWND> children;
+    for (const HWND handle : table.all()) {
+        const WindowWidget* const widget = WindowWidget::find(handle);
+        if (widget && table.nearestHandle(widget->parentWidget()) == window.handle()) {
+            children.push_back(handle);
+        }
+    }
+    return children;
+}
+
+/// Handlers may destroy windows of the tree themselves, so each is looked up anew.
+void announce(HWND handle) {
+    WindowWidget* const window = WindowWidget::find(handle);
+    if (!window || window->ending) return;
+    window->ending = true;
+    window->send(WM_DESTROY);
+    if (!WindowWidget::find(handle)) return;
+    for (const HWND child : childrenOf(*window)) announce(child);
+}
+
+void endTree(WindowWidget& window) {
+    for (const HWND handle : childrenOf(window)) endTree(*WindowWidget::find(handle));
+    window.end();
+}
+
+}  // namespace
+
+bool destroyWindow(WindowWidget& window) {
+    if (window.ending) return false;
+    const HWND handle = window.handle();
+    announce(handle);
+    WindowWidget* const left = WindowWidget::find(handle);
+    if (!left) return true;
+    moveFocusOut(*left);
+    endTree(*left);
+    return true;
+}
+
+}  // namespace platform

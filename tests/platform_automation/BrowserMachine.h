@@ -1,0 +1,78 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <QTemporaryDir>
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/automation/ControlHost.h"
+#include "platform/automation/WebPageInspector.h"
+#include "platform/machine/Machine.h"
+
+/// A machine with drives C: and D: and a browser window of 640 × 480 on it. Texts and paths are UTF-8 here.
+class BrowserMachine : public testing::Test {
+  protected:
+    BrowserMachine();
+    ~BrowserMachine() override;
+
+    /// Writes a file in code page 1253, and the folders above it.
+    void write(const std::string& dosPath, const std::string& text);
+    /// Copies one of the files of the tests.
+    void copyData(const std::string& name, const std::string& dosPath);
+    /// A picture of one colour.
+    void writePicture(const std::string& dosPath, int width, int height, QColor colour);
+
+    void makeBrowser();
+    void closeBrowser() { host_.reset(); }
+    /// Navigates as the program does, and waits for the page.
+    void open(const std::string& address, std::int32_t flags = 0);
+    /// The same without waiting.
+    void navigate(const std::string& address, std::int32_t flags = 0);
+    /// Clicks a link, and waits for what comes of it.
+    bool click(const std::string& linkText);
+    /// Runs the event loop until nothing is being loaded any more.
+    void waitForPage();
+    void run(int milliseconds);
+    /// Runs the event loop until it is so, ten seconds at most; whether it came so.
+    bool runUntil(const std::function<bool()>& condition);
+
+    platform::ControlHost& host() { return *host_; }
+    platform::WebPageInspector& page();
+    std::string url() { return utf8(page().url()); }
+    std::string title() { return utf8(page().title()); }
+    /// The page's text, its blanks and line ends as one blank each.
+    std::string text();
+    QImage picture();
+    /// How many pixels of the area are so, or near this colour.
+    int count(const platform::CRect& area, const std::function<bool(QColor)>& counts);
+    int count(const platform::CRect& area, QColor colour);
+
+    /// The widget that takes mouse and keyboard for the page.
+    QWidget* input() { return host_->control().widget().focusProxy(); }
+    void doubleClick(QPoint point);
+
+    std::vector<platform::TraceEntry> takeTrace() { return machine_->trace().take(); }
+    /// Addresses of the navigations that were cancelled since the last call.
+    std::vector<std::string> takeRefused();
+
+    static std::string utf8(std::string_view text);
+    static std::string cp1253(std::string_view text);
+
+    /// Addresses told by BeforeNavigate; those that `refuses` likes are cancelled.
+    std::vector<std::string> asked;
+    std::function<bool(const std::string&)> refuses = [](const std::string&) { return false; };
+    QWidget window;
+
+  private:
+    std::string hostPath(const std::string& dosPath) const;
+
+    QTemporaryDir folder_;
+    std::unique_ptr<platform::Machine> machine_;
+    std::unique_ptr<platform::ControlHost> host_;
+};

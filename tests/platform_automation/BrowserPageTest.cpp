@@ -1,0 +1,152 @@
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QTest>
+
+#include "platform/automation/WebBrowserControl.h"
+#include "tests/platform_automation/BrowserMachine.h"
+
+using namespace platform;
+
+namespace {
+
+const std::string page1253 =
+    "<HTML><HEAD><META HTTP-EQUIV=\"Content-Type\" CONTENT=\"text/html; charset=windows-1253\">";
+
+TEST_F(BrowserMachine, ShowsAPreparedPageWithItsPicturesAndStyle) {
+    write("D:\\style\\kalyxo.css", "H1 { color: #0000ff; } P { margin-left: 300px; }");
+    writePicture("D:\\images\\x.gif", 60, 40, Qt::red);
+    write("C:\\Kalyxo\\cache\\1.htm",
+          page1253 +
+              "<TITLE>Δομές</TITLE><LINK REL=\"stylesheet\" HREF=\"D:\\style\\kalyxo.css\"></HEAD>"
+              "<BODY BGCOLOR=\"#FFFFFF\"><H1>Χημικοί δεσμοί</H1><P><IMG SRC=\"D:\\images\\X.GIF\"></P>"
+              "<A HREF=\"2.htm\">επόμενη</A> <A HREF=\"D:\\Αρχείο 1.htm\">αρχείο</A></BODY></HTML>");
+    // Neither of these says in which character set it is.
+    write("C:\\Kalyxo\\cache\\2.htm", "<TITLE>Άλλη</TITLE><P>Ά ά Ϊ ΐ</P><A HREF=\"1.htm\">πίσω</A>");
+    write("D:\\Αρχείο 1.htm", "<TITLE>Αρχείο</TITLE>ώς");
+
+    open("c:/Kalyxo/cache/1.htm", 14);
+    EXPECT_EQ(url(), "C:\\Kalyxo\\cache\\1.htm");
+    EXPECT_EQ(title(), "Δομές");
+    EXPECT_EQ(text(), "Χημικοί δεσμοί επόμενη αρχείο");
+    EXPECT_EQ(count({300, 0, 640, 480}, Qt::red), 60 * 40);
+    EXPECT_GT(count({0, 0, 640, 60}, Qt::blue), 100);
+    EXPECT_NE(page().html().find("<h1>"), std::string::npos);
+
+    ASSERT_TRUE(click("επόμενη"));
+    EXPECT_EQ(url(), "C:\\Kalyxo\\cache\\2.htm");
+    EXPECT_EQ(text(), "Ά ά Ϊ ΐ πίσω");
+    ASSERT_TRUE(click("πίσω"));
+    ASSERT_TRUE(click("αρχείο"));
+    EXPECT_EQ(url(), "D:\\Αρχείο 1.htm");
+    EXPECT_EQ(title() + ' ' + text(), "Αρχείο ώς");
+}
+
+TEST_F(BrowserMachine, FollowsTheRedirectPageBeforeItIsIdle) {
+    write("C:\\Kalyxo\\cache\\redirect.htm",
+          "<HTML><HEAD><META HTTP-EQUIV=\"Refresh\" Content=\"0; URL=C:\\Kalyxo\\cache\\1.htm\"></HEAD>"
+          "<BODY BGCOLOR=\"#949494\"></BODY></HTML>");
+    write("C:\\Kalyxo\\cache\\1.htm", "<TITLE>1</TITLE><A HREF=\"2.htm\">2</A>");
+    write("C:\\Kalyxo\\cache\\2.htm", "<TITLE>2</TITLE>");
+    open("C:\\Kalyxo\\cache\\redirect.htm");
+    EXPECT_EQ(url(), "C:\\Kalyxo\\cache\\1.htm");
+    EXPECT_EQ(asked,
+              (std::vector<std::string>{"C:\\Kalyxo\\cache\\redirect.htm", "C:\\Kalyxo\\cache\\1.htm"}));
+    // Relative links start at the page, although the redirect was written with backslashes.
+    ASSERT_TRUE(click("2"));
+    EXPECT_EQ(title(), "2");
+}
+
+TEST_F(BrowserMachine, SaysThatAPageIsMissing) {
+    write("D:\\a.htm", "<TITLE>a</TITLE><IMG SRC=\"nix.gif\"><IFRAME SRC=\"nix.htm\"></IFRAME>");
+    open("D:\\nix.htm");
+    EXPECT_EQ(title(), "Η σελίδα δεν βρέθηκε");
+    EXPECT_EQ(text(), "Η σελίδα δεν βρέθηκε D:\\nix.htm");
+    open("Q:\\a.htm");
+    EXPECT_EQ(text(), "Η σελίδα δεν βρέθηκε Q:\\a.htm");
+    open("about:blank");
+    EXPECT_EQ(asked.back(), "about:blank");
+    EXPECT_EQ(text(), "");
+    open("D:\\");
+    EXPECT_EQ(title(), "Η σελίδα δεν βρέθηκε");
+    open("D:\\a.htm");
+    EXPECT_EQ(title(), "a");
+    EXPECT_EQ(text(), "Η σελίδα δεν βρέθηκε D:\\nix.htm") << "in the page's frame";
+}
+
+TEST_F(BrowserMachine, LoadsThePageAgainOnRefresh) {
+    write("D:\\a.htm", "<TITLE>one</TITLE>");
+    open("D:\\a.htm");
+    write("D:\\a.htm", "<TITLE>two</TITLE>");
+    const std::array level = {Variant(std::int16_t{0})};
+    ASSERT_TRUE(host().invoke(105, InvokeKind::method, level));
+    EXPECT_TRUE(host().control().busy());
+    waitForPage();
+    EXPECT_EQ(title(), "two");
+}
+
+TEST_F(BrowserMachine, ShowsTheLastOfQuickNavigations) {
+    for (const std::string name : {"1", "2", "3"})
+        write("D:\\" + name + ".htm", "<TITLE>" + name + "</TITLE>");
+    for (const int pause : {0, 5, 30}) {
+        navigate("D:\\1.htm");
+        run(pause);
+        navigate("D:\\2.htm");
+        run(pause);
+        open("D:\\3.htm");
+        EXPECT_EQ(title(), "3") << pause << " ms between";
+        EXPECT_EQ(url(), "D:\\3.htm");
+    }
+}
+
+TEST_F(BrowserMachine, OpensNewWindowsInTheSameView) {
+    write("D:\\a.htm", "<A HREF=\"b.htm\" TARGET=\"_blank\">b</A>");
+    write("D:\\b.htm", "<TITLE>b</TITLE>");
+    open("D:\\a.htm");
+    ASSERT_TRUE(click("b"));
+    EXPECT_EQ(url(), "D:\\b.htm");
+    EXPECT_EQ(asked.back(), "D:\\b.htm");
+}
+
+TEST_F(BrowserMachine, ZoomsWithTheKeys) {
+    writePicture("D:\\x.png", 40, 40, Qt::red);
+    write("D:\\a.htm", "<BODY STYLE=\"margin:0\"><IMG SRC=\"x.png\" STYLE=\"display:block\"></BODY>");
+    open("D:\\a.htm");
+    const auto redAfter = [&](Qt::Key key) {
+        QTest::keyClick(input(), key, Qt::ControlModifier);
+        return count({0, 0, 640, 480}, Qt::red);
+    };
+    host().control().widget().setFocus();
+    EXPECT_EQ(count({0, 0, 640, 480}, Qt::red), 1600);
+    EXPECT_GT(redAfter(Qt::Key_Plus), 1800);
+    EXPECT_EQ(redAfter(Qt::Key_0), 1600);
+    EXPECT_LT(redAfter(Qt::Key_Minus), 1500);
+}
+
+TEST_F(BrowserMachine, CopiesTheSelectionThroughItsDocument) {
+    write("D:\\a.htm", "<BODY>Χημεία</BODY>");
+    open("D:\\a.htm");
+    QGuiApplication::clipboard()->clear();
+    const auto result = host().invoke(203, InvokeKind::propertyGet, {});
+    ASSERT_TRUE(result && result->get<std::shared_ptr<Dispatch>>());
+    const auto document = *result->get<std::shared_ptr<Dispatch>>();
+    host().control().widget().setFocus();
+    QTest::keyClick(input(), Qt::Key_A, Qt::ControlModifier);
+    run(200);
+    EXPECT_TRUE(document->exec(12));
+    EXPECT_TRUE(runUntil([] { return QGuiApplication::clipboard()->text() == QStringLiteral("Χημεία"); }));
+    EXPECT_FALSE(document->exec(6));
+    closeBrowser();
+    EXPECT_FALSE(document->exec(12)) << "the page is gone";
+}
+
+TEST_F(BrowserMachine, RefusesCallsThatItDoesNotKnow) {
+    makeBrowser();
+    const std::array text = {Variant(std::string("D:\\a.htm"))};
+    EXPECT_FALSE(host().invoke(104, InvokeKind::method, text)) << "arguments missing";
+    EXPECT_FALSE(host().invoke(203, InvokeKind::method, {})) << "a property, not a method";
+    EXPECT_FALSE(host().invoke(999, InvokeKind::method, {}));
+    EXPECT_FALSE(host().control().busy());
+    EXPECT_EQ(page().url(), "");
+}
+
+}  // namespace

@@ -1,0 +1,142 @@
+#include "platform/automation/ControlLibrary.h"
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+#include <QTest>
+#include <QWidget>
+#include <filesystem>
+#include <fstream>
+
+#include "platform/automation/ControlHost.h"
+#include "platform/machine/Machine.h"
+
+using namespace platform;
+
+namespace {
+
+constexpr const char* testId = "0A1B2C3D-0000-4000-8000-00000000ABCD";
+constexpr const char* otherInterfaceId = "0A1B2C3D-0000-4000-8000-00000000EEEE";
+
+/// A machine whose drive C: has the test modules in C:\ActiveX.
+class ControlLibrary : public testing::Test {
+  protected:
+    ControlLibrary() {
+        machine_.trace().enable();
+        setMachine(&machine_);
+        const std::filesystem::path modules =
+            std::filesystem::path(folder_.path().toStdString()) / "c/ActiveX";
+        std::filesystem::create_directories(modules);
+        std::filesystem::copy(MODULES, modules, std::filesystem::copy_options::recursive);
+        std::ofstream(modules / "text.ocx") << "not a module";
+        std::ofstream(modules.parent_path() / "file.txt") << "content";
+    }
+    ~ControlLibrary() override { setMachine(nullptr); }
+
+    std::optional<std::string> server(const std::string& id) {
+        const auto key =
+            machine_.registry().openKey(HKEY_CLASSES_ROOT, "CLSID\\{" + id + "}\\InprocServer32");
+        return key ? key->queryString("", 256) : std::nullopt;
+    }
+    void enter(const std::string& id, const std::string& path) {
+        machine_.registry()
+            .createKey(HKEY_CLASSES_ROOT, "CLSID\\{" + id + "}\\InprocServer32")
+            ->setString("", path);
+    }
+    std::unique_ptr<ControlHost> make(const std::string& id, ControlHost::EventHandler handler = {}) {
+        return ControlHost::create(id, &window_, std::move(handler));
+    }
+    std::unique_ptr<ControlHost> makeTestControl(ControlHost::EventHandler handler = {}) {
+        enter(testId, "C:\\ActiveX\\TestControl.ocx");
+        return make(testId, std::move(handler));
+    }
+    template <class R, class... A>
+    static R call(ControlHost& host, std::int32_t dispid, A... arguments) {
+        const std::vector<Variant> packed{Variant(arguments)...};
+        const auto result = host.invoke(dispid, InvokeKind::method, packed);
+        const R* value = result ? result->get<R>() : nullptr;
+        return value ? *value : R{};
+    }
+
+    QTemporaryDir folder_;
+    Machine machine_{folder_.path().toStdString(), MachineConfig{}, Registry{}};
+    QWidget window_;
+};
+
+TEST_F(ControlLibrary, RegistersAModuleUnderItsDosPath) {
+    EXPECT_TRUE(registerModule("C:\\ActiveX\\testcontrol.OCX"));
+    EXPECT_EQ(server(testId), "C:\\ActiveX\\testcontrol.OCX");
+    const auto trace = machine_.trace().take();
+    ASSERT_EQ(trace.size(), 1U);
+    EXPECT_EQ(std::get<TraceRegister>(trace[0]).path, "C:\\ActiveX\\testcontrol.OCX");
+    EXPECT_TRUE(make("0a1b2c3d-0000-4000-8000-00000000abcd")) << "in small letters";
+}
+
+TEST_F(ControlLibrary, PassesOverWhatIsNoModule) {
+    for (const char* path : {"C:\\ActiveX\\nix.ocx", "C:\\ActiveX\\text.ocx", "C:\\ActiveX", "Q:\\x.ocx", "",
+                             "TestControl.ocx", "C:\\ActiveX\\NoRegistration.ocx"}) {
+        EXPECT_FALSE(registerModule(path)) << path;
+        enter(testId, path);
+        EXPECT_FALSE(make(testId)) << path;
+    }
+    EXPECT_TRUE(machine_.trace().take().empty());
+}
+
+TEST_F(ControlLibrary, RefusesOtherInterfacesAndOtherClasses) {
+    EXPECT_FALSE(make(testId)) << "not registered";
+    EXPECT_TRUE(registerModule("C:\\ActiveX\\OtherInterface.ocx"));
+    EXPECT_FALSE(make(otherInterfaceId));
+    enter(otherInterfaceId, "C:\\ActiveX\\TestControl.ocx");
+    EXPECT_FALSE(make(otherInterfaceId)) << "the module serves another class";
+}
+
+TEST_F(ControlLibrary, CallsAControlAndFillsItsWindow) {
+    window_.resize(300, 200);
+    window_.show();
+    const auto host = makeTestControl();
+    ASSERT_TRUE(host);
+    EXPECT_EQ(host->control().widget().size(), QSize(300, 200));
+    window_.resize(320, 240);
+    EXPECT_EQ(host->control().widget().size(), QSize(320, 240));
+    EXPECT_EQ(*host->invoke(1, InvokeKind::propertyGet, {})->get<std::string>(), "1.2.3");
+    EXPECT_EQ(call<std::string>(*host, 3, std::string("C:\\FILE.TXT")), "content");
+    const HWND handle = call<std::int32_t>(*host, 4);
+    EXPECT_EQ(WindowTable::instance().send(handle, 18871), 18872);
+    EXPECT_EQ(WindowTable::instance().find(handle)->className, "Edit");
+}
+
+TEST_F(ControlLibrary, TakesTheHandlersAnswerBack) {
+    std::vector<std::int32_t> numbers;
+    const auto host = makeTestControl([&](std::int32_t dispid, std::span<Variant> arguments) {
+        EXPECT_EQ(dispid, 7);
+        numbers.push_back(*arguments[0].get<std::int32_t>());
+        **arguments[1].get<bool*>() = numbers.back() == 2;
+    });
+    EXPECT_EQ(call<std::int32_t>(*host, 2, std::int32_t{1}), 1);
+    EXPECT_EQ(call<std::int32_t>(*host, 2, std::int32_t{2}), 101);
+    EXPECT_EQ(numbers, (std::vector<std::int32_t>{1, 2}));
+}
+
+TEST_F(ControlLibrary, LetsAHandlerDestroyTheControl) {
+    std::unique_ptr<ControlHost> host;
+    int events = 0;
+    host = makeTestControl([&](std::int32_t, std::span<Variant>) {
+        ++events;
+        host.reset();
+    });
+    EXPECT_EQ(call<std::int32_t>(*host, 2, std::int32_t{1}), 1);
+    EXPECT_FALSE(host);
+    QTest::qWait(20);
+    EXPECT_EQ(events, 1) << "the control's last event is not told";
+    EXPECT_TRUE(window_.findChildren<QWidget*>().isEmpty());
+}
+
+TEST_F(ControlLibrary, SurvivesTheEndOfItsWindow) {
+    enter(testId, "C:\\ActiveX\\TestControl.ocx");
+    auto window = std::make_unique<QWidget>();
+    const auto host = ControlHost::create(testId, window.get(), {});
+    window.reset();
+    EXPECT_FALSE(host->invoke(1, InvokeKind::propertyGet, {}));
+}
+
+}  // namespace

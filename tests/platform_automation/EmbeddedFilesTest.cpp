@@ -1,0 +1,132 @@
+#include <QTest>
+
+#include "tests/platform_automation/BrowserMachine.h"
+
+using namespace platform;
+
+namespace {
+
+const std::string water =
+    "Water\n\n\n  3  2  0  0  0  0  0  0  0  0999 V2000\n"
+    "    0.0000    0.0000    0.0000 O   0  0\n"
+    "    0.7572    0.5858    0.0000 H   0  0\n"
+    "   -0.7572    0.5858    0.0000 H   0  0\n"
+    "  1  2  1  0\n  1  3  1  0\nM  END\n";
+
+/// A page of one embedded file, at the page's top left corner.
+std::string embedding(const std::string& attributes) {
+    return "<BODY STYLE=\"margin:0\"><EMBED SRC=" + attributes + "></BODY>";
+}
+
+constexpr CRect whole{0, 0, 640, 480};
+
+/// The colours of oxygen and nitrogen, in any shade.
+bool isRed(QColor colour) { return colour.red() > 80 && colour.red() > 3 * colour.green(); }
+bool isBlue(QColor colour) { return colour.blue() > 80 && colour.blue() > 2 * colour.red(); }
+
+TEST_F(BrowserMachine, DrawsAMolecule) {
+    write("C:\\Kalyxo\\cache\\chime.mol", water);
+    write("C:\\Kalyxo\\cache\\1.htm",
+          embedding("\"chime.mol\" TYPE=\"chemical/x-mdl-molfile\" WIDTH=340 HEIGHT=290\nSPIN=true"));
+    open("C:\\Kalyxo\\cache\\1.htm");
+    EXPECT_EQ(page().embeddedFrames(), std::vector{CRect::at(0, 0, 340, 290)});
+    EXPECT_GT(count(CRect::at(0, 0, 340, 290), Qt::black), 50000);
+    EXPECT_GT(count(CRect::at(0, 0, 340, 290), isRed), 3000);
+    EXPECT_EQ(count({340, 290, 640, 480}, Qt::white), 300 * 190);
+    const QImage before = picture();
+    EXPECT_NE(picture(), before) << "it spins";
+}
+
+TEST_F(BrowserMachine, HandsTheEmbeddingsAttributesToTheMolecule) {
+    write("D:\\mol\\x.mol", water);
+    write("D:\\a.htm", embedding("\"D:\\mol\\x.mol\" WIDTH=640 HEIGHT=480 BGCOLOR=\"#204060\" SPIN=false"));
+    open("D:\\a.htm");
+    EXPECT_GT(count(whole, QColor(0x20, 0x40, 0x60)), 150000);
+    EXPECT_GT(count(whole, isRed), 6000);
+    const QImage before = picture();
+    EXPECT_EQ(picture(), before);
+}
+
+TEST_F(BrowserMachine, ShowsTheMoleculeThatIsInTheFileNow) {
+    write("C:\\cache\\1.htm", embedding("chime.mol WIDTH=340 HEIGHT=290"));
+    write("C:\\cache\\2.htm", embedding("chime.mol WIDTH=340 HEIGHT=290"));
+    write("C:\\cache\\chime.mol", water);
+    open("C:\\cache\\1.htm");
+    EXPECT_TRUE(runUntil([&] { return count(whole, isRed) > 3000; }));
+    write("C:\\cache\\chime.mol", "\n\n\n  1  0\n    0.0000    0.0000    0.0000 N\n");
+    open("C:\\cache\\2.htm");
+    EXPECT_TRUE(runUntil([&] { return count(whole, isBlue) > 3000; }));
+    EXPECT_EQ(count(whole, isRed), 0);
+}
+
+TEST_F(BrowserMachine, TurnsAMoleculeWithTheMouse) {
+    write("D:\\x.mol", water);
+    write("D:\\a.htm", embedding("x.mol WIDTH=640 HEIGHT=480"));
+    open("D:\\a.htm");
+    EXPECT_TRUE(runUntil([&] { return count(whole, isRed) > 6000; }));
+    const QImage before = picture();
+    QTest::mousePress(input(), Qt::LeftButton, {}, {300, 200});
+    QTest::mouseMove(input(), {320, 220}, 50);
+    QTest::mouseMove(input(), {400, 260}, 50);
+    QTest::mouseRelease(input(), Qt::LeftButton, {}, {400, 260}, 50);
+    const QImage turned = picture();
+    EXPECT_NE(turned, before);
+    EXPECT_EQ(picture(), turned) << "it stays where it was left";
+    doubleClick({400, 260});
+    EXPECT_TRUE(runUntil([&] { return picture() == before; })) << "a double click resets it";
+}
+
+TEST_F(BrowserMachine, SaysThatAMoleculeCannotBeRead) {
+    const std::vector<std::string> broken = {
+        "",
+        "not a molecule",
+        "\n\n\n999999  0  0  0  0  0  0  0  0  0999 V2000\n",
+        water.substr(0, 150),
+        "\n\n\n  1  1\n    0.0000    0.0000    0.0000 O\n  1  2  1\n",
+        "\n\n\n  1  0\n    x         0.0000    0.0000 O\n",
+    };
+    for (std::size_t i = 0; i < broken.size(); ++i) {
+        write("D:\\x.mol", broken[i]);
+        write("D:\\a.htm", embedding("x.mol WIDTH=340 HEIGHT=290"));
+        open("D:\\a.htm");
+        const std::string message = "Το αρχείο του μορίου δεν μπορεί να διαβαστεί.";
+        EXPECT_TRUE(runUntil([&] { return text() == message; })) << "molecule " << i;
+    }
+}
+
+TEST_F(BrowserMachine, PlaysAVideoAboveItsStrip) {
+    copyData("film.webm", "D:\\video\\x.webm");
+    write("D:\\a.htm", embedding("\"D:\\video\\x.webm\" WIDTH=320 HEIGHT=258"));
+    write("D:\\b.htm", embedding("\"D:\\video\\x.webm\" WIDTH=320 HEIGHT=258 AUTOPLAY=TRUE SCALE=2"));
+    const QColor blue(0x20, 0x50, 0xe0);
+    const QColor red(0xe0, 0x30, 0x20);
+    const QColor strip(0x26, 0x32, 0x3f);
+    open("D:\\a.htm");
+    EXPECT_TRUE(runUntil([&] { return count(CRect::at(0, 0, 160, 240), blue) > 36000; }))
+        << "the first picture";
+    EXPECT_GT(count(CRect::at(160, 0, 160, 240), red), 36000);
+    EXPECT_GT(count(CRect::at(0, 240, 320, 18), strip), 2000);
+    EXPECT_EQ(count(CRect::at(0, 0, 320, 240), strip), 0);
+    EXPECT_EQ(text(), "0:00");
+    run(1500);
+    EXPECT_EQ(text(), "0:00") << "it waits to be played";
+    QTest::mouseClick(input(), Qt::LeftButton, {}, {13, 249});
+    EXPECT_TRUE(runUntil([&] { return text() == "0:01"; })) << "the strip's first button plays it";
+    open("D:\\b.htm");
+    EXPECT_TRUE(runUntil([&] { return text() == "0:01"; })) << "it plays by itself";
+}
+
+TEST_F(BrowserMachine, SaysThatAVideoCannotBeShown) {
+    write("D:\\x.webm", "not a video");
+    write("D:\\a.htm", embedding("x.webm WIDTH=320 HEIGHT=258"));
+    open("D:\\a.htm");
+    EXPECT_TRUE(runUntil([&] { return text() == "Το βίντεο δεν μπορεί να προβληθεί."; }));
+}
+
+TEST_F(BrowserMachine, SaysThatAnEmbeddedFileIsMissing) {
+    write("D:\\a.htm", embedding("nix.mol WIDTH=340 HEIGHT=290"));
+    open("D:\\a.htm");
+    EXPECT_EQ(text(), "Η σελίδα δεν βρέθηκε D:\\nix.mol");
+}
+
+}  // namespace

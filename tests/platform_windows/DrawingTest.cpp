@@ -1,0 +1,115 @@
+#include <QImage>
+#include <limits>
+
+#include "platform/windows/DC.h"
+#include "tests/platform_windows/TestProgram.h"
+
+namespace windows_test {
+
+using namespace platform;
+
+namespace {
+
+constexpr COLORREF red = RGB(255, 0, 0);
+
+/// A window of 20 by 10 pixels that is drawn on from outside.
+class DrawingTest : public ProgramTest {
+  protected:
+    void SetUp() override {
+        open();
+        window_ = child("canvas", CRect::at(0, 0, 20, 10));
+    }
+    CClientDC dc() { return CClientDC(*window_); }
+    CDC bitmapDC(UINT id) {
+        CBitmap bitmap;
+        EXPECT_TRUE(bitmap.LoadBitmap(id));
+        CDC memory = CDC::CreateCompatibleDC(dc());
+        memory.SelectObject(bitmap);
+        return memory;
+    }
+    std::string row(int y, int from, int to) {
+        std::string colours;
+        for (int x = from; x < to; ++x) colours += shownColour(*window_, x, y) + " ";
+        return colours;
+    }
+    std::unique_ptr<TestWnd> window_;
+};
+
+TEST_F(DrawingTest, CopiesBitmapsPixelByPixel) {
+    CDC source = bitmapDC(1);
+    dc().BitBlt(2, 3, 2, 2, source, 1, 0);
+    EXPECT_EQ(row(3, 1, 5), "ffffff 00ff00 0000ff ffffff ");
+    EXPECT_EQ(row(4, 1, 5), "ffffff 000000 000000 ffffff ");
+}
+
+TEST_F(DrawingTest, StretchesWithoutBlending) {
+    CDC source = bitmapDC(1);
+    dc().StretchBlt(0, 0, 6, 1, source, 0, 0, 3, 1);
+    EXPECT_EQ(row(0, 0, 7), "ff0000 ff0000 00ff00 00ff00 0000ff 0000ff ffffff ");
+}
+
+TEST_F(DrawingTest, CopiesOnlyWhatTheSourceHas) {
+    CDC source = bitmapDC(1);
+    dc().FillSolidRect({0, 0, 20, 10}, red);
+    dc().BitBlt(0, 0, 6, 1, source, 3, 0);
+    EXPECT_EQ(row(0, 0, 3), "ffffff ff0000 ff0000 ");
+    dc().BitBlt(4, 0, 4, 1, source, -2, 0);
+    EXPECT_EQ(row(0, 4, 9), "ff0000 ff0000 ff0000 00ff00 ff0000 ");
+}
+
+TEST_F(DrawingTest, DrawsNothingWhereThereIsNothingToDraw) {
+    CDC source = bitmapDC(1);
+    CDC canvas = dc();
+    canvas.FillSolidRect({0, 0, 20, 10}, red);
+    canvas.BitBlt(0, 0, 0, 5, source, 0, 0);
+    canvas.StretchBlt(0, 0, -3, 5, source, 0, 0, 2, 2);
+    canvas.StretchBlt(0, 0, 3, 5, source, 0, 0, 0, 2);
+    canvas.BitBlt(0, 0, 5, 5, CDC(), 0, 0);
+    canvas.FillSolidRect({5, 5, 2, 2}, RGB(0, 0, 0));
+    CDC().FillSolidRect({0, 0, 5, 5}, 0);
+    EXPECT_EQ(row(0, 0, 3), "ff0000 ff0000 ff0000 ");
+    EXPECT_FALSE(CBitmap().LoadBitmap(99));
+}
+
+TEST_F(DrawingTest, CopiesAPictureOntoItself) {
+    CDC canvas = dc();
+    canvas.BitBlt(0, 0, 4, 1, bitmapDC(1), 0, 0);
+    canvas.BitBlt(1, 0, 4, 1, canvas, 0, 0);
+    EXPECT_EQ(row(0, 0, 5), "ff0000 ff0000 00ff00 0000ff ffffff ");
+}
+
+TEST_F(DrawingTest, FillsWithThePatternFromTheOrigin) {
+    CBitmap checker;
+    ASSERT_TRUE(checker.LoadBitmap(2));
+    dc().FillRect({1, 0, 5, 1}, CBrush::pattern(checker));
+    EXPECT_EQ(row(0, 1, 5), "ffffff 000000 ffffff 000000 ");
+}
+
+TEST_F(DrawingTest, DrawsBottomUpRowsWithTheirPadding) {
+    // Two rows of three pixels: 9 bytes and 3 of padding each.
+    const std::vector<std::uint8_t> pixels = {255, 0, 0,   255, 0,   0, 255, 0,   0,   9, 9, 9,
+                                              0,   0, 255, 0,   255, 0, 255, 255, 255, 9, 9, 9};
+    BITMAPINFOHEADER header;
+    header.biWidth = 3;
+    header.biHeight = 2;
+    dc().SetDIBitsToDevice(4, 2, header, pixels.data());
+    EXPECT_EQ(row(2, 4, 7), "ff0000 00ff00 ffffff ");
+    EXPECT_EQ(row(3, 4, 7), "0000ff 0000ff 0000ff ");
+}
+
+TEST_F(DrawingTest, DrawsNoPictureOfAnImpossibleSize) {
+    constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max();
+    const std::uint8_t pixel[4] = {};
+    for (const auto& [width, height] : {std::pair{0, 1}, {1, 0}, {-1, 1}, {1, -1}, {most, most}, {most, 1}}) {
+        BITMAPINFOHEADER header;
+        header.biWidth = width;
+        header.biHeight = height;
+        dc().SetDIBitsToDevice(0, 0, header, pixel);
+    }
+    dc().SetDIBitsToDevice(0, 0, {.biWidth = 1, .biHeight = 1}, nullptr);
+    EXPECT_EQ(shownColour(*window_, 0, 0), "ffffff");
+}
+
+}  // namespace
+
+}  // namespace windows_test

@@ -1,0 +1,113 @@
+#include <QWidget>
+
+#include "platform/handles/WindowTable.h"
+#include "tests/platform_windows/TestProgram.h"
+
+namespace windows_test {
+
+using namespace platform;
+
+namespace {
+
+class FocusTest : public ProgramTest {
+  protected:
+    void SetUp() override { open(); }
+    std::vector<std::string> focus() { return log().lines({"FOCUS"}); }
+};
+
+TEST_F(FocusTest, TheViewHasItFirst) { EXPECT_EQ(GetFocus(), view().GetSafeHwnd()); }
+
+TEST_F(FocusTest, BothWindowsAreToldOfEachOther) {
+    const auto window = child("child", CRect::at(0, 0, 50, 50));
+    HWND left = 0, entered = 0;
+    window->hook = [&](UINT message, WPARAM wParam, LPARAM) -> std::optional<LRESULT> {
+        if (message == WM_SETFOCUS) left = static_cast<HWND>(wParam);
+        return std::nullopt;
+    };
+    view().hook = [&](UINT message, WPARAM wParam, LPARAM) -> std::optional<LRESULT> {
+        if (message == WM_KILLFOCUS) entered = static_cast<HWND>(wParam);
+        return std::nullopt;
+    };
+    log().clear();
+    window->SetFocus();
+    EXPECT_EQ(focus(), (std::vector<std::string>{"view WM_KILLFOCUS", "child WM_SETFOCUS"}));
+    EXPECT_EQ(left, view().GetSafeHwnd());
+    EXPECT_EQ(entered, window->GetSafeHwnd());
+    EXPECT_EQ(GetFocus(), window->GetSafeHwnd());
+}
+
+TEST_F(FocusTest, AWindowThatIsHiddenOrGoesLeavesItToItsParent) {
+    const auto window = child("child", CRect::at(0, 0, 50, 50));
+    QWidget other(&widgetOf(view()));
+    other.setFocusPolicy(Qt::StrongFocus);
+    other.show();
+    window->SetFocus();
+    log().clear();
+    window->ShowWindow(SW_HIDE);
+    EXPECT_EQ(focus(), (std::vector<std::string>{"child WM_KILLFOCUS", "view WM_SETFOCUS"}));
+    window->ShowWindow(SW_SHOW);
+    window->SetFocus();
+    log().clear();
+    window->DestroyWindow();
+    EXPECT_EQ(focus(), (std::vector<std::string>{"child WM_KILLFOCUS", "view WM_SETFOCUS"}));
+    settle();
+    EXPECT_EQ(GetFocus(), view().GetSafeHwnd());
+}
+
+TEST_F(FocusTest, AClickOnTheViewTakesItOnlyFromOutside) {
+    const auto window = child("child", CRect::at(0, 0, 50, 50));
+    window->SetFocus();
+    press(view(), 100, 100);
+    EXPECT_EQ(GetFocus(), window->GetSafeHwnd()) << "the view's own child keeps it";
+    release(view(), 100, 100);
+    widgetOf(frame()).setFocus();
+    press(view(), 50, 100);
+    release(view(), 50, 100);
+    EXPECT_EQ(GetFocus(), view().GetSafeHwnd());
+}
+
+TEST_F(FocusTest, KeysGoToTheFocusWindowAlone) {
+    const auto window = child("child", CRect::at(0, 0, 50, 50));
+    window->SetFocus();
+    log().clear();
+    const std::vector<std::pair<Qt::Key, int>> keys = {
+        {Qt::Key_Return, 13}, {Qt::Key_Enter, 13},  {Qt::Key_Escape, 27}, {Qt::Key_Left, 37},
+        {Qt::Key_Down, 40},   {Qt::Key_Delete, 46}, {Qt::Key_Tab, 9},     {Qt::Key_C, 'C'},
+        {Qt::Key_7, '7'},     {Qt::Key_F5, 116},    {Qt::Key(0x3A8), 'C'}};
+    std::vector<std::string> expected;
+    for (const auto& [key, number] : keys) {
+        pressKey(key);
+        expected.push_back("child WM_KEYDOWN " + std::to_string(number));
+    }
+    EXPECT_EQ(log().lines({"WM_KEYDOWN"}), expected);
+    EXPECT_EQ(GetFocus(), window->GetSafeHwnd());
+}
+
+TEST_F(FocusTest, TimersTickUntilTheyAreKilled) {
+    view().SetTimer(1, 10);
+    view().SetTimer(2, 10);
+    settleFor(60);
+    EXPECT_GE(log().count("view WM_TIMER 1"), 2U);
+    EXPECT_GE(log().count("view WM_TIMER 2"), 2U);
+    view().KillTimer(1);
+    log().clear();
+    settleFor(60);
+    EXPECT_EQ(log().count("view WM_TIMER 1"), 0U);
+    EXPECT_GE(log().count("view WM_TIMER 2"), 2U);
+}
+
+TEST_F(FocusTest, ATimerHandlerMayEndItsTimerOrItsWindow) {
+    const auto window = child("child", CRect::at(0, 0, 50, 50));
+    window->SetTimer(1, 5);
+    window->hook = [&](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
+        if (message == WM_TIMER) window->DestroyWindow();
+        return std::nullopt;
+    };
+    settleFor(40);
+    EXPECT_EQ(log().count("child WM_TIMER"), 1U);
+    EXPECT_EQ(window->GetSafeHwnd(), 0);
+}
+
+}  // namespace
+
+}  // namespace windows_test

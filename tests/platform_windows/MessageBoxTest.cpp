@@ -1,0 +1,89 @@
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+
+#include "platform/framework/Resources.h"
+#include "platform/text/GreekLiteral.h"
+#include "tests/platform_windows/TestProgram.h"
+
+namespace windows_test {
+
+using namespace platform;
+using namespace platform::literals;
+
+namespace {
+
+class MessageBoxTest : public ProgramTest {
+  protected:
+    std::vector<TraceBox> boxes() {
+        std::vector<TraceBox> found;
+        for (TraceEntry& entry : machine_.trace().take()) {
+            if (auto* const box = std::get_if<TraceBox>(&entry)) found.push_back(std::move(*box));
+        }
+        return found;
+    }
+};
+
+TEST_F(MessageBoxTest, TakesTheAnswersThatAreReady) {
+    machine_.queueAnswers({BoxAnswer::no});
+    EXPECT_EQ(AfxMessageBox("Να διαγραφεί;"_gr, BoxButtons::yesNo), BoxAnswer::no);
+    EXPECT_EQ(AfxMessageBox("b", BoxButtons::yesNo), BoxAnswer::yes);
+    EXPECT_EQ(AfxMessageBox("c"), BoxAnswer::ok);
+    const std::vector<TraceBox> told = boxes();
+    ASSERT_EQ(told.size(), 3U);
+    EXPECT_EQ(told[0].text, "Να διαγραφεί;"_gr);
+    EXPECT_EQ(told[0].caption, "Δοκιμή"_gr);
+    EXPECT_EQ(told[0].buttons, (std::vector{BoxAnswer::yes, BoxAnswer::no}));
+    EXPECT_EQ(told[0].answer, BoxAnswer::no);
+    EXPECT_EQ(told[2].buttons, std::vector{BoxAnswer::ok});
+    EXPECT_EQ(told[2].answer, BoxAnswer::ok);
+}
+
+/// A machine that does not answer: the box is shown.
+class ShownBoxTest : public MessageBoxTest {
+  protected:
+    ShownBoxTest() : silent_(::testing::TempDir(), MachineConfig(), Registry()) { setMachine(&silent_); }
+
+    /// Runs `answer` once the box is up.
+    void whenShown(std::function<void(QMessageBox&)> answer) {
+        QTimer::singleShot(0, [answer] {
+            auto* const box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            answer(*box);
+        });
+    }
+    Machine silent_;
+};
+
+TEST_F(ShownBoxTest, ShowsTitleTextAndGreekButtons) {
+    QString title, text;
+    QStringList buttons;
+    whenShown([&](QMessageBox& box) {
+        title = box.windowTitle();
+        text = box.text();
+        for (const QAbstractButton* button : box.buttons()) buttons << button->text();
+        box.buttons().front()->click();
+    });
+    EXPECT_EQ(AfxMessageBox("Μία <b>\r\nδύο"_gr, BoxButtons::yesNo), BoxAnswer::yes);
+    EXPECT_EQ(title, QStringLiteral("Δοκιμή"));
+    EXPECT_EQ(text, QStringLiteral("Μία <b>\nδύο"));
+    EXPECT_EQ(buttons, (QStringList{QStringLiteral("Ναι"), QStringLiteral("Όχι")}));
+}
+
+TEST_F(ShownBoxTest, ClosingItCountsAsTheLastButton) {
+    whenShown([](QMessageBox& box) { box.close(); });
+    EXPECT_EQ(AfxMessageBox("a", BoxButtons::yesNo), BoxAnswer::no);
+    whenShown([](QMessageBox& box) { box.close(); });
+    EXPECT_EQ(AfxMessageBox("a"), BoxAnswer::ok);
+}
+
+TEST_F(ShownBoxTest, SurvivesTheEndOfTheFrameItStandsBefore) {
+    open();
+    whenShown([&](QMessageBox&) { frame().DestroyWindow(); });
+    EXPECT_EQ(AfxMessageBox("a"), BoxAnswer::ok);
+}
+
+}  // namespace
+
+}  // namespace windows_test

@@ -1,0 +1,116 @@
+#include "tests/platform_windows/TestProgram.h"
+
+namespace windows_test {
+
+using namespace platform;
+
+namespace {
+
+constexpr COLORREF red = RGB(255, 0, 0);
+
+class PaintTest : public ProgramTest {
+  protected:
+    std::vector<std::string> paints() { return log().lines({"WM_PAINT", "WM_ERASEBKGND"}); }
+};
+
+TEST_F(PaintTest, WhatIsDrawnOutsideOfPaintingIsShownAndStays) {
+    open();
+    log().clear();
+    CClientDC(view()).FillSolidRect({10, 10, 20, 20}, red);
+    settle();
+    EXPECT_EQ(shownColour(view(), 15, 15), "ff0000");
+    EXPECT_EQ(shownColour(view(), 25, 15), "ffffff");
+    widgetOf(view()).update();
+    settle();
+    EXPECT_EQ(shownColour(view(), 15, 15), "ff0000");
+    EXPECT_TRUE(paints().empty());
+}
+
+TEST_F(PaintTest, AResizeKeepsThePictureUntilTheWholeIsPaintedAnew) {
+    open();
+    const auto window = child("child", CRect::at(0, 0, 50, 50));
+    window->hook = [&](UINT message, WPARAM, LPARAM) {
+        return message == WM_ERASEBKGND ? std::optional<LRESULT>(1) : std::nullopt;
+    };
+    CClientDC(*window).FillSolidRect({0, 0, 50, 50}, red);
+    log().clear();
+    window->MoveWindow(CRect::at(0, 0, 80, 30));
+    settle();
+    EXPECT_EQ(log().lines(),
+              (std::vector<std::string>{"child WM_SIZE 0 80x30", "child WM_ERASEBKGND", "child WM_PAINT"}));
+    EXPECT_EQ(shownColour(*window, 49, 29), "ff0000");
+    EXPECT_EQ(shownColour(*window, 60, 10), "ffffff");
+    log().clear();
+    window->MoveWindow(CRect::at(5, 5, 80, 30));
+    settle();
+    EXPECT_TRUE(log().lines().empty()) << "a move alone changes nothing inside";
+}
+
+TEST_F(PaintTest, InvalidationEndsWithOnePaint) {
+    open();
+    view().draw = [](CDC& dc) { dc.FillSolidRect({0, 0, 1000, 1000}, red); };
+    log().clear();
+    view().Invalidate(false);
+    view().Invalidate(false);
+    EXPECT_TRUE(paints().empty()) << "painting waits for the program to be idle";
+    settle();
+    EXPECT_EQ(paints(), std::vector<std::string>{"view WM_PAINT"});
+    log().clear();
+    view().Invalidate(false);
+    view().Invalidate();
+    settle();
+    EXPECT_EQ(paints(), (std::vector<std::string>{"view WM_ERASEBKGND", "view WM_PAINT"}));
+    settleFor(100);
+    EXPECT_EQ(paints().size(), 2U);
+    EXPECT_EQ(shownColour(view(), 3, 3), "ff0000");
+}
+
+TEST_F(PaintTest, APaintContextMarksTheWindowAsPainted) {
+    open();
+    log().clear();
+    view().Invalidate();
+    { CPaintDC dc(view()); }
+    settle();
+    EXPECT_TRUE(paints().empty());
+}
+
+TEST_F(PaintTest, AHiddenWindowIsPaintedWhenItIsShown) {
+    open();
+    const auto window = child("child", CRect::at(0, 0, 50, 50));
+    window->ShowWindow(SW_HIDE);
+    log().clear();
+    window->Invalidate();
+    settle();
+    EXPECT_TRUE(paints().empty());
+    window->ShowWindow(SW_SHOW);
+    settle();
+    EXPECT_EQ(paints(), (std::vector<std::string>{"child WM_ERASEBKGND", "child WM_PAINT"}));
+}
+
+TEST_F(PaintTest, APaintHandlerMayMoveAndRepaintOtherWindows) {
+    open();
+    const auto window = child("child", CRect::at(0, 0, 50, 50));
+    view().draw = [&](CDC&) {
+        window->MoveWindow(CRect::at(0, 0, 60, 60));
+        window->Invalidate();
+    };
+    log().clear();
+    view().Invalidate();
+    settle();
+    EXPECT_EQ(log().count("child WM_SIZE 0 60x60"), 1U);
+    EXPECT_EQ(log().count("child WM_PAINT"), 1U);
+    EXPECT_EQ(log().count("view WM_PAINT"), 1U);
+}
+
+TEST_F(PaintTest, WithoutAHandlerTheBackgroundIsWhite) {
+    open();
+    const auto window = child("child", CRect::at(0, 0, 50, 50));
+    CClientDC(*window).FillSolidRect({0, 0, 50, 50}, red);
+    window->Invalidate();
+    settle();
+    EXPECT_EQ(shownColour(*window, 10, 10), "ffffff");
+}
+
+}  // namespace
+
+}  // namespace windows_test
