@@ -1,0 +1,26 @@
+#include "formats/ElementIndex.h"
+
+#include "formats/RecordFields.h"
+
+namespace formats {
+
+std::vector<ElementPageRecord> decodeElementIndex(std::string_view image) {
+    std::vector<ElementPageRecord> records;
+    records.reserve(image.size() / kElementPageRecordSize);
+    for (; image.size() >= kElementPageRecordSize; image.remove_prefix(kElementPageRecordSize)) {
+        records.push_back({readInteger<std::uint8_t>(image, 0), readInteger<std::int32_t>(image, 1)});
+    }
+    return records;
+}
+
+std::string encodeElementIndex(std::span<const ElementPageRecord> records) {
+    std::string image;
+    image.reserve(records.size() * kElementPageRecordSize);
+    for (const ElementPageRecord& record : records) {
+        appendInteger(image, record.elementKey);
+        appendInteger(image, record.pageId);
+    }
+    return image;
+}
+
+}  // namespace formats

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace formats {
+
+/// One of the seven sections of the content.
+struct Section {
+    /// 1 to 7, as stored in index files and bookmarks.
+    std::int16_t code;
+    /// Names the section's page title file `<key>.dat`.
+    std::string_view key;
+    /// Shown to the reader; code page 1253.
+    std::string_view displayName;
+    /// Page number (and page id) of the section's start page.
+    std::int32_t startPage;
+};
+
+/// The sections in the order of their codes.
+std::span<const Section, 7> sectionTable();
+
+/// Null when the code belongs to no section.
+const Section* sectionByCode(std::int16_t code);
+
+/// Null when the key belongs to no section; keys are compared byte for byte.
+const Section* sectionByKey(std::string_view key);
+
+}  // namespace formats
