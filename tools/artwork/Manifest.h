@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QMap>
+#include <QPoint>
+#include <QSize>
+#include <QString>
+#include <QStringList>
+#include <optional>
+#include <variant>
+#include <vector>
+
+#include "tools/artwork/Failure.h"
+
+namespace artwork {
+
+/// How the pixels of a picture are stored.
+enum class PixelFormat {
+    Rgb,   ///< 24 bits, no alpha
+    Rgba,  ///< 32 bits with alpha
+    Mono,  ///< 1 bit, black and white
+};
+
+/// One picture to draw.
+struct Picture {
+    QString output;  ///< relative to the output folder; the suffix chooses PNG or BMP
+    QString source;  ///< SVG file, relative to the manifest
+    QSize size;      ///< pixels, 1 … 4096 each way
+    PixelFormat format = PixelFormat::Rgb;
+    QString colours;                ///< colour set laid over "base"; empty for none
+    std::optional<QPoint> hotSpot;  ///< of a cursor; kept in the PNG as the text "HotSpot"
+};
+
+/// Colour set name → colour name → SVG paint ("#3a7aa0", "none").
+using Palette = QMap<QString, QMap<QString, QString>>;
+
+/// The list of pictures, the folder it lies in, and the colours it names.
+struct Manifest {
+    QString folder;
+    Palette palette;
+    std::vector<Picture> pictures;
+};
+
+/// Reads `manifest.json` and the palette file it names.
+std::variant<Manifest, Failure> readManifest(const QString& path);
+
+}  // namespace artwork

@@ -1,0 +1,55 @@
+#include "tools/artwork/PictureWriter.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QImage>
+#include <QImageWriter>
+#include <QPainter>
+#include <QSvgRenderer>
+
+namespace artwork {
+namespace {
+
+QImage draw(QSvgRenderer& renderer, const Picture& picture) {
+    QImage image(picture.size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(picture.format == PixelFormat::Rgba ? Qt::transparent : Qt::black);
+    QPainter painter(&image);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                           QPainter::SmoothPixmapTransform);
+    renderer.render(&painter, QRectF(QPointF(0, 0), QSizeF(picture.size)));
+    painter.end();
+    return image;
+}
+
+QImage stored(const QImage& image, PixelFormat format) {
+    switch (format) {
+        case PixelFormat::Rgb:
+            return image.convertToFormat(QImage::Format_RGB888);
+        case PixelFormat::Rgba:
+            return image.convertToFormat(QImage::Format_ARGB32);
+        case PixelFormat::Mono:
+            return image.convertToFormat(QImage::Format_Mono, Qt::ThresholdDither);
+    }
+    return image;
+}
+
+}  // namespace
+
+std::optional<Failure> writePicture(const Picture& picture, const QByteArray& svg, const QString& folder) {
+    QSvgRenderer renderer;
+    if (!renderer.load(svg)) return Failure{picture.source, QStringLiteral("cannot be drawn as SVG Tiny")};
+    if (!renderer.viewBoxF().isValid()) return Failure{picture.source, QStringLiteral("no viewBox")};
+
+    QImage image = stored(draw(renderer, picture), picture.format);
+    if (picture.hotSpot)
+        image.setText("HotSpot", QStringLiteral("%1 %2").arg(picture.hotSpot->x()).arg(picture.hotSpot->y()));
+
+    const QString path = folder + "/" + picture.output;
+    if (!QDir().mkpath(QFileInfo(path).absolutePath()))
+        return Failure{path, QStringLiteral("its folder cannot be made")};
+    QImageWriter writer(path);
+    if (!writer.write(image)) return Failure{path, writer.errorString()};
+    return std::nullopt;
+}
+
+}  // namespace artwork

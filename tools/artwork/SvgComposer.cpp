@@ -1,0 +1,133 @@
+#include "tools/artwork/SvgComposer.h"
+
+#include <QDomDocument>
+#include <QFile>
+#include <QFileInfo>
+#include <QFontDatabase>
+#include <QRegularExpression>
+#include <optional>
+#include <utility>
+
+namespace artwork {
+namespace {
+
+constexpr int kDeepestNesting = 8;
+
+using Colours = QMap<QString, QString>;
+using Problem = std::optional<Failure>;
+
+std::variant<QDomDocument, Failure> load(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) return Failure{path, file.errorString()};
+    QDomDocument document;
+    QString message;
+    int line = 0;
+    if (!document.setContent(&file, false, &message, &line))
+        return Failure{path, QStringLiteral("line %1: %2").arg(line).arg(message)};
+    if (document.documentElement().tagName() != "svg")
+        return Failure{path, QStringLiteral("not an SVG file")};
+    return document;
+}
+
+/// One walk over a source and all that it brings in.
+class Walk {
+  public:
+    Walk(const Palette& palette, QDomDocument document)
+        : m_palette(palette), m_document(std::move(document)) {}
+
+    Problem resolve(QDomElement element, const QString& path, const Colours& colours, int depth) {
+        if (Problem problem = paint(element, path, colours)) return problem;
+        if (Problem problem = checkFont(element, path)) return problem;
+        for (QDomElement child = element.firstChildElement(); !child.isNull();) {
+            const QDomElement next = child.nextSiblingElement();
+            const QString href = child.attribute("xlink:href");
+            const bool external = child.tagName() == "use" && href.endsWith(".svg");
+            Problem problem =
+                external ? include(child, href, path, colours, depth) : resolve(child, path, colours, depth);
+            if (problem) return problem;
+            child = next;
+        }
+        return std::nullopt;
+    }
+
+    Colours coloursOf(const QString& set) const {
+        Colours colours = m_palette.value("base");
+        colours.insert(m_palette.value(set));
+        return colours;
+    }
+
+  private:
+    Problem include(QDomElement use, const QString& href, const QString& from, const Colours& colours,
+                    int depth) {
+        if (depth >= kDeepestNesting) return Failure{from, "too many files inside one another at " + href};
+        const QString path = QFileInfo(from).absolutePath() + "/" + href;
+        auto loaded = load(path);
+        if (const auto* failure = std::get_if<Failure>(&loaded)) return *failure;
+        const QDomElement root = std::get<QDomDocument>(loaded).documentElement();
+
+        const QStringList box = root.attribute("viewBox").split(' ');
+        if (box.size() != 4 || box[2].toDouble() <= 0 || box[3].toDouble() <= 0)
+            return Failure{path, QStringLiteral("no usable viewBox")};
+        QDomElement group = m_document.createElement("g");
+        const double sx = use.attribute("width", box[2]).toDouble() / box[2].toDouble();
+        const double sy = use.attribute("height", box[3]).toDouble() / box[3].toDouble();
+        group.setAttribute("transform", QStringLiteral("translate(%1 %2) scale(%3 %4)")
+                                            .arg(use.attribute("x", "0"), use.attribute("y", "0"))
+                                            .arg(sx)
+                                            .arg(sy));
+        copyInto(group, root);
+
+        const QString set = use.attribute("data-colours");
+        if (!set.isEmpty() && !m_palette.contains(set)) return Failure{from, "no colour set " + set};
+        use.parentNode().replaceChild(group, use);
+        return resolve(group, path, set.isEmpty() ? colours : coloursOf(set), depth + 1);
+    }
+
+    void copyInto(QDomElement group, const QDomElement& root) {
+        for (const char* inherited : {"fill", "stroke", "stroke-width", "stroke-linecap", "stroke-linejoin"})
+            if (root.hasAttribute(inherited)) group.setAttribute(inherited, root.attribute(inherited));
+        for (QDomNode node = root.firstChild(); !node.isNull(); node = node.nextSibling())
+            group.appendChild(m_document.importNode(node, true));
+    }
+
+    static Problem paint(QDomElement element, const QString& path, const Colours& colours) {
+        static const QRegularExpression variable(R"(^var\(--([a-z0-9-]+)\)$)");
+        const QDomNamedNodeMap attributes = element.attributes();
+        for (int i = 0; i < attributes.count(); ++i) {
+            QDomAttr attribute = attributes.item(i).toAttr();
+            const auto match = variable.match(attribute.value());
+            if (!match.hasMatch()) continue;
+            const auto colour = colours.constFind(match.captured(1));
+            if (colour == colours.constEnd()) return Failure{path, "no colour " + match.captured(1)};
+            attribute.setValue(*colour);
+        }
+        return std::nullopt;
+    }
+
+    // A missing font would be replaced silently, and texts would no longer fit their places.
+    static Problem checkFont(const QDomElement& element, const QString& path) {
+        const QString family = element.attribute("font-family");
+        if (family.isEmpty() || QFontDatabase::hasFamily(family)) return std::nullopt;
+        return Failure{path, "font not installed: " + family};
+    }
+
+    const Palette& m_palette;
+    QDomDocument m_document;
+};
+
+}  // namespace
+
+SvgComposer::SvgComposer(const Palette& palette, QString colours)
+    : m_palette(palette), m_colours(std::move(colours)) {}
+
+std::variant<QByteArray, Failure> SvgComposer::compose(const QString& path) const {
+    auto loaded = load(path);
+    if (const auto* failure = std::get_if<Failure>(&loaded)) return *failure;
+    auto& document = std::get<QDomDocument>(loaded);
+    Walk walk(m_palette, document);
+    if (Problem problem = walk.resolve(document.documentElement(), path, walk.coloursOf(m_colours), 0))
+        return *problem;
+    return document.toByteArray(-1);
+}
+
+}  // namespace artwork

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <variant>
+
+#include "tools/artwork/Failure.h"
+#include "tools/artwork/Manifest.h"
+
+namespace artwork {
+
+/// Turns an artwork source into one self-contained SVG Tiny document.
+///
+/// Two things are resolved, both ordinary SVG 2 that browsers and editors know as well:
+/// - `<use xlink:href="../pictograms/react.svg" x y width height>` is replaced by that file's contents,
+/// scaled
+///   from its view box; `data-colours="SET"` on it draws them in another colour set;
+/// - `var(--name)` in an attribute is replaced by the colour of that name.
+class SvgComposer {
+  public:
+    /// `colours` names the set laid over "base"; empty for "base" alone.
+    SvgComposer(const Palette& palette, QString colours);
+
+    /// The composed document of the file `path`.
+    std::variant<QByteArray, Failure> compose(const QString& path) const;
+
+  private:
+    const Palette& m_palette;
+    QString m_colours;
+};
+
+}  // namespace artwork

@@ -1,0 +1,48 @@
+/// render-artwork MANIFEST FOLDER: draws every picture of the manifest into the folder.
+/// Exit status: 0 all drawn, 1 a picture failed, 2 wrong arguments or manifest.
+
+#include <QGuiApplication>
+#include <QTextStream>
+
+#include "tools/artwork/Manifest.h"
+#include "tools/artwork/PictureWriter.h"
+#include "tools/artwork/SvgComposer.h"
+
+namespace {
+
+void report(const artwork::Failure& failure) {
+    QTextStream(stderr) << "render-artwork: " << failure.file << ": " << failure.reason << '\n';
+}
+
+std::optional<artwork::Failure> render(const artwork::Manifest& manifest, const artwork::Picture& picture,
+                                       const QString& folder) {
+    const artwork::SvgComposer composer(manifest.palette, picture.colours);
+    const auto svg = composer.compose(manifest.folder + "/" + picture.source);
+    if (const auto* failure = std::get_if<artwork::Failure>(&svg)) return *failure;
+    return artwork::writePicture(picture, std::get<QByteArray>(svg), folder);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");  // fonts are needed, a display is not
+    const QGuiApplication application(argc, argv);
+    const QStringList arguments = QGuiApplication::arguments();
+    if (arguments.size() != 3) {
+        QTextStream(stderr) << "usage: render-artwork MANIFEST FOLDER\n";
+        return 2;
+    }
+    const auto manifest = artwork::readManifest(arguments[1]);
+    if (const auto* failure = std::get_if<artwork::Failure>(&manifest)) {
+        report(*failure);
+        return 2;
+    }
+    int status = 0;
+    for (const artwork::Picture& picture : std::get<artwork::Manifest>(manifest).pictures) {
+        if (const auto failure = render(std::get<artwork::Manifest>(manifest), picture, arguments[2])) {
+            report(*failure);
+            status = 1;
+        }
+    }
+    return status;
+}
