@@ -1,0 +1,88 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+
+#include "formats/BrowseIndex.h"
+#include "formats/ElementIndex.h"
+#include "formats/PageNumber.h"
+#include "formats/SectionTitles.h"
+#include "formats/TitleLists.h"
+#include "tools/contentc/Content.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string dataFile(std::string name) {
+    std::ranges::replace(name, '\\', '/');
+    std::ifstream stream(fs::path(CONTENT_DATA) / name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+class BundledContent : public testing::Test {
+  protected:
+    BundledContent() {
+        contentc::Diagnostics diagnostics;
+        content = contentc::readContent(contentc::readSourceTree({CONTENT_SOURCES, {}, {}}, diagnostics),
+                                        diagnostics);
+    }
+
+    contentc::Content content;
+};
+
+TEST_F(BundledContent, EveryPageHasItsFileAtItsPath) {
+    ASSERT_GE(content.pages.size(), 7U);
+    for (const contentc::PageSource& page : content.pages) {
+        const std::string bytes = dataFile(*formats::pagePath(page.number));
+        EXPECT_NE(bytes.find("</HTML>\r\n"), std::string::npos) << page.place.file;
+        EXPECT_EQ(bytes.find("{{"), std::string::npos) << page.place.file;
+    }
+    EXPECT_NE(dataFile("a.htm"), "");
+}
+
+TEST_F(BundledContent, EveryPageHasItsTitleInItsTitleFileAndInTheBrowseIndex) {
+    const auto index = formats::decodeBrowseIndex(dataFile("select.ndx"));
+    ASSERT_TRUE(index);
+    for (const contentc::PageSource& page : content.pages) {
+        if (page.kind == contentc::PageKind::Entry) {
+            const std::string list(*formats::titleListFile(formats::listNumberOf(page.number)));
+            EXPECT_EQ(formats::entryTitle(dataFile(list), formats::entryNumberOf(page.number)),
+                      page.title.text);
+            const auto place = formats::findEntry(*index, page.number);
+            ASSERT_TRUE(place) << page.place.file;
+            EXPECT_EQ(place->topic->pageId, page.topic);
+            EXPECT_EQ(place->entry->title, page.title.text);
+        } else {
+            const auto titles =
+                formats::decodeSectionTitles(dataFile(std::string(page.section->key) + ".dat"));
+            const formats::SectionTitleRecord record{page.title.text, page.number};
+            EXPECT_EQ(std::ranges::count(titles, record), 1) << page.place.file;
+            const formats::BrowseTopic* topic = formats::findTopic(*index, page.number);
+            ASSERT_TRUE(topic) << page.place.file;
+            EXPECT_EQ(topic->title, page.title.text);
+        }
+    }
+}
+
+TEST_F(BundledContent, EveryElementLeadsToATitledPage) {
+    const auto elements = formats::decodeElementIndex(dataFile("ptable.ndx"));
+    const auto titles = formats::decodeSectionTitles(dataFile("elemcomp.dat"));
+    EXPECT_EQ(elements.size(), content.elements.size());
+    EXPECT_FALSE(elements.empty());
+    for (const formats::ElementPageRecord& element : elements) {
+        EXPECT_NE(std::ranges::find(titles, element.pageId, &formats::SectionTitleRecord::pageId),
+                  titles.end())
+            << int{element.elementKey};
+    }
+}
+
+TEST_F(BundledContent, HasTheMainMenuPictures) {
+    for (const char* name :
+         {"mainmenu", "pte", "da", "cm", "struct", "ca", "ec", "source", "history", "concepts"}) {
+        EXPECT_TRUE(dataFile("images\\" + std::string(name) + ".bmp").starts_with("BM")) << name;
+    }
+}
+
+}  // namespace

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "tools/contentc/ContentCompiler.h"
+
+/// A temporary folder with content sources that compile without a message; tests change files and compile.
+class ContentFolder {
+  public:
+    ContentFolder();
+    ~ContentFolder();
+    ContentFolder(const ContentFolder&) = delete;
+    ContentFolder& operator=(const ContentFolder&) = delete;
+
+    /// The folder of the sources; beside it tests may write what they like.
+    std::filesystem::path sources() const { return m_root / "content"; }
+    std::filesystem::path beside(const std::string& name) const { return m_root / name; }
+
+    void write(const std::string& file, const std::string& text) const;
+    void remove(const std::string& file) const { std::filesystem::remove_all(sources() / file); }
+
+    /// Compiles; afterwards `messages` holds what there was to say, with files named as in the sources.
+    std::optional<contentc::OutputFiles> compile();
+    /// The bytes of one compiled file; empty when there is none.
+    std::string compiled(const std::string& path);
+
+    std::vector<std::string> messages;
+
+  private:
+    std::filesystem::path m_root;
+};
+
+/// The whole file; empty when it cannot be read.
+std::string readAll(const std::filesystem::path& file);
+
+/// The files below a folder with their bytes, as `path: bytes`, sorted.
+std::vector<std::string> listAll(const std::filesystem::path& folder);

@@ -1,0 +1,99 @@
+#include "tools/contentc/ContentChecks.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+#include <utility>
+
+#include "formats/TitleLists.h"
+
+namespace contentc {
+namespace {
+
+bool hasTopic(const Content& content, const formats::Section& section, std::int32_t pageId) {
+    return std::ranges::any_of(content.pages, [&](const PageSource& page) {
+        return page.section == &section && page.kind != PageKind::Entry && page.number == pageId;
+    });
+}
+
+void checkStartPages(const Content& content, const std::filesystem::path& root, Diagnostics& diagnostics) {
+    for (const formats::Section& section : formats::sectionTable()) {
+        if (hasTopic(content, section, section.startPage)) continue;
+        const std::string name = std::to_string(section.startPage) + ".page";
+        diagnostics.error({(root / "pages" / section.key / name).generic_string()},
+                          "start page of the section missing");
+    }
+}
+
+void checkTopics(const Content& content, Diagnostics& diagnostics) {
+    for (const PageSource& page : content.pages) {
+        if (page.kind != PageKind::Entry || page.topic == 0) continue;
+        if (hasTopic(content, *page.section, page.topic)) continue;
+        diagnostics.error(page.topicPlace, "section '" + std::string(page.section->key) + "' has no topic " +
+                                               std::to_string(page.topic));
+    }
+}
+
+// Several list numbers may share one title list, where the entry number alone selects the title.
+void checkSharedEntries(const Content& content, Diagnostics& diagnostics) {
+    std::map<std::pair<std::string_view, std::int32_t>, const PageSource*> entries;
+    for (const PageSource& page : content.pages) {
+        const auto file = formats::titleListFile(formats::listNumberOf(page.number));
+        if (page.kind != PageKind::Entry || !file) continue;
+        const std::int32_t entry = formats::entryNumberOf(page.number);
+        const auto [first, isNew] = entries.try_emplace({*file, entry}, &page);
+        if (isNew || first->second->title.text == page.title.text) continue;
+        diagnostics.error(page.title.place, "entry " + std::to_string(entry) + " of '" + std::string(*file) +
+                                                "' has another title in " + first->second->place.file);
+    }
+}
+
+void checkElements(const Content& content, Diagnostics& diagnostics) {
+    for (const ElementLine& element : content.elements) {
+        if (elementPage(content, element)) continue;
+        diagnostics.error(element.place,
+                          "section 'elemcomp' has no page " + std::to_string(element.record.pageId));
+    }
+}
+
+void checkTerms(const References& references, const Content& content, Diagnostics& diagnostics) {
+    std::set<std::string_view> known;
+    std::set<std::string_view> used;
+    for (const TermSource& term : content.terms) known.insert(term.key);
+    for (const Reference& reference : references.terms) {
+        used.insert(reference.name);
+        if (known.contains(reference.name)) continue;
+        diagnostics.error(reference.place, "no glossary term has the key '" + reference.name + '\'');
+    }
+    for (const TermSource& term : content.terms) {
+        if (!used.contains(term.key)) diagnostics.warning(term.place, "no page uses this term");
+    }
+}
+
+}  // namespace
+
+void checkContent(const Content& content, const std::filesystem::path& root, Diagnostics& diagnostics) {
+    checkStartPages(content, root, diagnostics);
+    checkTopics(content, diagnostics);
+    checkSharedEntries(content, diagnostics);
+    checkElements(content, diagnostics);
+}
+
+void checkReferences(const References& references, const Content& content, const OutputFiles& outputs,
+                     Diagnostics& diagnostics) {
+    checkTerms(references, content, diagnostics);
+    for (const Reference& video : references.videos) {
+        if (outputs.contains("video\\" + video.name + ".webm")) continue;
+        diagnostics.error(video.place, "no video is named '" + video.name + '\'');
+    }
+    for (const Reference& molecule : references.molecules) {
+        if (outputs.contains("mol\\" + molecule.name + ".mol")) continue;
+        diagnostics.error(molecule.place, "no molecule is named '" + molecule.name + '\'');
+    }
+    for (const Reference& path : references.dataPaths) {
+        if (path.name.empty() || outputs.contains(path.name)) continue;
+        diagnostics.error(path.place, "the data folder has no file " + inQuotes(path.name));
+    }
+}
+
+}  // namespace contentc

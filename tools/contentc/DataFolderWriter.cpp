@@ -1,0 +1,108 @@
+#include "tools/contentc/DataFolderWriter.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <fstream>
+#include <system_error>
+#include <utility>
+
+namespace contentc {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string describe(const fs::path& path, const std::string& fault) {
+    return path.generic_string() + ": " + fault;
+}
+
+fs::path siblingOf(const fs::path& folder, const std::string& suffix) {
+    fs::path sibling = folder;
+    return sibling += suffix + std::to_string(::getpid());
+}
+
+/// Removes a folder, with all in it, at the start and at the end of its life.
+class TemporaryFolder {
+  public:
+    explicit TemporaryFolder(fs::path path) : m_path(std::move(path)) { remove(); }
+    ~TemporaryFolder() { remove(); }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    const fs::path& path() const { return m_path; }
+
+  private:
+    void remove() const {
+        std::error_code ignored;
+        fs::remove_all(m_path, ignored);
+    }
+
+    fs::path m_path;
+};
+
+fs::path nativePath(const fs::path& folder, std::string dosPath) {
+    std::ranges::replace(dosPath, '\\', '/');
+    return folder / dosPath;
+}
+
+std::string writeFile(const fs::path& path, const std::string& bytes) {
+    std::error_code failed;
+    fs::create_directories(path.parent_path(), failed);
+    if (failed) return describe(path.parent_path(), failed.message());
+    std::ofstream stream(path, std::ios::binary | std::ios::trunc);
+    stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    stream.close();
+    return stream ? "" : describe(path, "cannot be written");
+}
+
+std::string writeAll(const OutputFiles& files, const fs::path& folder) {
+    for (const auto& [key, file] : files.files()) {
+        std::string fault = writeFile(nativePath(folder, file.path), file.bytes);
+        if (!fault.empty()) return fault;
+    }
+    return {};
+}
+
+/// Replacing a folder deletes what is in it: only what was made by this writer may go.
+bool mayReplace(const fs::path& folder) {
+    std::error_code failed;
+    if (!fs::exists(fs::symlink_status(folder, failed))) return true;
+    if (!fs::is_directory(folder, failed)) return false;
+    return fs::is_empty(folder, failed) || fs::is_regular_file(folder / "a.htm", failed);
+}
+
+/// The former folder is removed only after the new one stands in its place.
+std::string moveInto(const fs::path& made, const fs::path& folder) {
+    const fs::path former = siblingOf(folder, ".old-");
+    std::error_code failed;
+    const bool hadFolder = fs::exists(folder, failed);
+    if (hadFolder) fs::rename(folder, former, failed);
+    if (failed) return describe(folder, failed.message());
+    fs::rename(made, folder, failed);
+    std::error_code ignored;
+    if (!failed) {
+        fs::remove_all(former, ignored);
+        return {};
+    }
+    if (hadFolder) fs::rename(former, folder, ignored);
+    return describe(folder, failed.message());
+}
+
+}  // namespace
+
+std::string writeDataFolder(const OutputFiles& files, const fs::path& folder) {
+    std::error_code failed;
+    fs::path target = fs::weakly_canonical(fs::absolute(folder, failed), failed);
+    if (failed) return describe(folder, failed.message());
+    if (!target.has_filename()) target = target.parent_path();
+    if (!mayReplace(target)) return describe(folder, "is in use by something other than a data folder");
+    fs::create_directories(target.parent_path(), failed);
+    if (failed) return describe(target.parent_path(), failed.message());
+
+    const TemporaryFolder made(siblingOf(target, ".new-"));
+    std::string fault = writeAll(files, made.path());
+    if (fault.empty()) fault = moveInto(made.path(), target);
+    return fault;
+}
+
+}  // namespace contentc

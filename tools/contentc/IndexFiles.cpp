@@ -1,0 +1,106 @@
+#include "tools/contentc/IndexFiles.h"
+
+#include <algorithm>
+#include <map>
+#include <optional>
+
+#include "formats/BrowseIndex.h"
+#include "formats/ElementIndex.h"
+#include "formats/SectionTitles.h"
+#include "formats/TitleLists.h"
+
+namespace contentc {
+namespace {
+
+class IndexFileMaker {
+  public:
+    IndexFileMaker(const Content& content, OutputFiles& outputs, Diagnostics& diagnostics)
+        : m_content(content), m_outputs(outputs), m_diagnostics(diagnostics) {}
+
+    void addSectionTitles() {
+        for (const formats::Section& section : formats::sectionTable()) {
+            std::vector<formats::SectionTitleRecord> records;
+            for (const PageSource* topic : topicsOf(m_content, section)) {
+                records.push_back({topic->title.text, topic->number});
+            }
+            if (section.key == "elemcomp") addElementTitles(records);
+            add(std::string(section.key) + ".dat", formats::encodeSectionTitles(records));
+        }
+    }
+
+    void addTitleLists() {
+        std::map<std::string_view, std::vector<std::string>> lists;
+        for (const formats::TitleList& list : formats::titleListTable()) lists[list.fileName];
+        for (const PageSource& page : m_content.pages) {
+            const auto file = formats::titleListFile(formats::listNumberOf(page.number));
+            if (page.kind != PageKind::Entry || !file) continue;
+            const auto entry = static_cast<std::size_t>(formats::entryNumberOf(page.number));
+            std::vector<std::string>& titles = lists[*file];
+            if (titles.size() < entry) titles.resize(entry);
+            titles[entry - 1] = page.title.text;
+        }
+        for (const auto& [file, titles] : lists) add(std::string(file), formats::encodeTitleList(titles));
+    }
+
+    void addElementIndex() {
+        std::vector<formats::ElementPageRecord> records;
+        for (const ElementLine& element : m_content.elements) records.push_back(element.record);
+        add(std::string(formats::kElementIndexFile), formats::encodeElementIndex(records));
+    }
+
+    void addBrowseIndex() {
+        formats::BrowseIndex index;
+        for (const formats::Section& section : formats::sectionTable()) {
+            index.sections.push_back({section.code, browseTopics(section)});
+        }
+        add(std::string(formats::kBrowseIndexFile), formats::encodeBrowseIndex(index));
+    }
+
+  private:
+    // The periodic table opens the page of an element by its page id, even where the page is an entry.
+    void addElementTitles(std::vector<formats::SectionTitleRecord>& records) const {
+        for (const ElementLine& element : m_content.elements) {
+            const PageSource* page = elementPage(m_content, element);
+            if (!page || page->kind != PageKind::Entry) continue;
+            const formats::SectionTitleRecord record{page->title.text, page->number};
+            if (std::ranges::find(records, record) == records.end()) records.push_back(record);
+        }
+    }
+
+    std::vector<formats::BrowseTopic> browseTopics(const formats::Section& section) const {
+        std::vector<formats::BrowseTopic> topics;
+        for (const PageSource* page : topicsOf(m_content, section)) {
+            formats::BrowseTopic topic{page->number, page->number, page->title.text, {}};
+            for (const PageSource* entry : entriesOf(m_content, *page)) {
+                topic.entries.push_back({entry->number, entry->title.text});
+            }
+            topics.push_back(std::move(topic));
+        }
+        return topics;
+    }
+
+    void add(const std::string& name, std::optional<std::string> image) {
+        const SourcePlace place{name};
+        if (!image) {
+            m_diagnostics.error(place, "the content does not fit into the file");
+        } else {
+            m_outputs.add(name, std::move(*image), place, m_diagnostics);
+        }
+    }
+
+    const Content& m_content;
+    OutputFiles& m_outputs;
+    Diagnostics& m_diagnostics;
+};
+
+}  // namespace
+
+void addIndexFiles(const Content& content, OutputFiles& outputs, Diagnostics& diagnostics) {
+    IndexFileMaker maker(content, outputs, diagnostics);
+    maker.addSectionTitles();
+    maker.addTitleLists();
+    maker.addElementIndex();
+    maker.addBrowseIndex();
+}
+
+}  // namespace contentc

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "tools/contentc/Content.h"
+#include "tools/contentc/OutputFiles.h"
+
+namespace contentc {
+
+/// Adds the index files of checked content: the sections' page titles, the title lists, the periodic table's
+/// index and the browse selection's index.
+void addIndexFiles(const Content& content, OutputFiles& outputs, Diagnostics& diagnostics);
+
+}  // namespace contentc

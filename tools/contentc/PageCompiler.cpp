@@ -1,0 +1,143 @@
+#include "tools/contentc/PageCompiler.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "tools/contentc/MarkupCompiler.h"
+#include "tools/contentc/MoleculeLayout.h"
+
+namespace contentc {
+namespace {
+
+constexpr std::string_view kVideoMarker = "\x04..";
+// A small video of 320 × 240 pixels with its control strip of 18.
+constexpr std::string_view kVideoAttributes = "WIDTH=320 HEIGHT=258 AUTOPLAY=FALSE";
+constexpr std::string_view kMoleculeMarker = "\x03..";
+
+std::string escapeHtml(std::string_view text) {
+    std::string escaped;
+    for (const char c : text) {
+        switch (c) {
+            case '&':
+                escaped += "&amp;";
+                break;
+            case '<':
+                escaped += "&lt;";
+                break;
+            case '>':
+                escaped += "&gt;";
+                break;
+            case '"':
+                escaped += "&quot;";
+                break;
+            default:
+                escaped += c;
+        }
+    }
+    return escaped;
+}
+
+class PageCompilation {
+  public:
+    PageCompilation(const PageSource& page, References& references, Diagnostics& diagnostics)
+        : m_page(page), m_references(references), m_diagnostics(diagnostics) {}
+
+    std::vector<TextLine> compile(const PageScaffold& scaffold) {
+        const std::vector<TextLine> body = compileBody();
+        MarkupCompiler markup(scaffoldMarks(), isPrepared(), m_references, m_diagnostics);
+        std::vector<TextLine> lines;
+        for (const TextLine& line : scaffold.head) lines.push_back(markup.compile(line));
+        lines.insert(lines.end(), body.begin(), body.end());
+        for (const TextLine& line : scaffold.foot) lines.push_back(markup.compile(line));
+        return lines;
+    }
+
+  private:
+    bool isPrepared() const { return m_page.kind != PageKind::Plain; }
+
+    MarkValues bodyMarks() const {
+        // A plain page lies in the data folder itself, so that its relative addresses start there.
+        return {{"data", isPrepared() ? std::string(kDataFolderMarker) : ""}};
+    }
+
+    MarkValues scaffoldMarks() const {
+        MarkValues marks = bodyMarks();
+        marks["title"] = escapeHtml(m_page.title.text);
+        if (m_page.section) {
+            marks["section"] = m_page.section->key;
+            marks["sectionname"] = m_page.section->displayName;
+        }
+        if (m_page.scaffold == PageTemplate::Molecule) {
+            marks["molfile"] = std::string(kMoleculeMarker) + "mol\\" + m_molecule.value_or("") + ".mol";
+        }
+        return marks;
+    }
+
+    std::vector<TextLine> compileBody() {
+        MarkupCompiler markup(bodyMarks(), isPrepared(), m_references, m_diagnostics);
+        std::vector<TextLine> lines;
+        for (const TextLine& line : m_page.body) {
+            if (const auto video = nameInMarkLine(line.text, "video")) {
+                lines.push_back(videoLine(*video, line.place));
+            } else if (const auto molecule = nameInMarkLine(line.text, "molecule")) {
+                setMolecule(*molecule, line.place);
+            } else {
+                lines.push_back(markup.compile(line));
+            }
+        }
+        if (m_page.scaffold == PageTemplate::Molecule && !m_molecule) {
+            m_diagnostics.error(m_page.place,
+                                "a page of template 'molecule' needs a line '{{molecule NAME}}'");
+        }
+        return lines;
+    }
+
+    TextLine videoLine(std::string_view name, const SourcePlace& place) {
+        if (!isPrepared()) m_diagnostics.error(place, "a video works only on a page of a section");
+        m_references.videos.push_back({place, std::string(name)});
+        std::string line = "<EMBED SRC=\"";
+        line.append(kVideoMarker).append("video\\").append(name).append(".webm\" ");
+        return {line.append(kVideoAttributes) + ">", place};
+    }
+
+    void setMolecule(std::string_view name, const SourcePlace& place) {
+        if (m_page.scaffold != PageTemplate::Molecule) {
+            m_diagnostics.error(place, "a molecule needs the header line 'template: molecule'");
+        } else if (m_molecule) {
+            m_diagnostics.error(place, "a second molecule on the page");
+        }
+        m_references.molecules.push_back({place, std::string(name)});
+        m_molecule = name;
+    }
+
+    const PageSource& m_page;
+    References& m_references;
+    Diagnostics& m_diagnostics;
+    std::optional<std::string> m_molecule;
+};
+
+std::string joinLines(const std::vector<TextLine>& lines, Diagnostics& diagnostics) {
+    std::string bytes;
+    for (const TextLine& line : lines) {
+        if (line.text.size() > kLongestPageLine) {
+            diagnostics.error(line.place, "line has " + std::to_string(line.text.size()) +
+                                              " bytes, at most " + std::to_string(kLongestPageLine) +
+                                              " are allowed");
+        }
+        bytes.append(line.text).append("\r\n");
+    }
+    return bytes;
+}
+
+}  // namespace
+
+std::string compilePage(const PageSource& page, const PageScaffold& scaffold, References& references,
+                        Diagnostics& diagnostics) {
+    const std::vector<TextLine> lines = PageCompilation(page, references, diagnostics).compile(scaffold);
+    const bool hasScaffold = !scaffold.head.empty();
+    if (page.scaffold == PageTemplate::Molecule && hasScaffold)
+        checkMoleculeLayout(lines, page.place, diagnostics);
+    return joinLines(lines, diagnostics);
+}
+
+}  // namespace contentc
