@@ -1,0 +1,15 @@
+# Warnings, sanitizers and the compiler cache: the one place where flags stand.
+option(KALYXO_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+
+add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+if(KALYXO_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
+    # The checks that the sanitizers add make the compiler see variants read before they are set.
+    add_compile_options(-Wno-maybe-uninitialized)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+
+find_program(CCACHE ccache)
+if(CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()

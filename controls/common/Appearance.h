@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QString>
+#include <optional>
+
+#include "controls/common/Element.h"
+
+/// Colours and fonts of the components. They are all their own, so that they look the same under any theme of
+/// the desktop.
+namespace controls::appearance {
+
+inline constexpr QColor paper{0xFF, 0xFF, 0xFF};
+inline constexpr QColor ground{0xF3, 0xF6, 0xF9};
+inline constexpr QColor text{0x1C, 0x27, 0x33};
+inline constexpr QColor muted{0x52, 0x60, 0x70};
+inline constexpr QColor line{0xD0, 0xDA, 0xE3};
+inline constexpr QColor deep{0x1F, 0x4E, 0x6B};
+inline constexpr QColor accent{0x3A, 0x7A, 0xA0};
+inline constexpr QColor warm{0xE0, 0xA0, 0x30};
+inline constexpr QColor stripe{0xF1, 0xF6, 0xFA};
+inline constexpr QColor selected{0xD3, 0xE5, 0xF0};
+
+/// The two colours of a family: `fill` is light enough for dark text, `edge` is its strong companion.
+struct FamilyColors {
+    QColor fill;
+    QColor edge;
+};
+FamilyColors familyColors(Family family);
+
+QFont font(int pixels, QFont::Weight weight = QFont::Normal);
+
+/// The largest font of at most `pixels` in which the words fit `width`, narrowed letters included; nothing
+/// when they do not even fit at `leastPixels`.
+std::optional<QFont> fittingFont(const QString& words, int width, int pixels, int leastPixels,
+                                 QFont::Weight weight = QFont::Normal);
+
+}  // namespace controls::appearance

@@ -1,0 +1,89 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace controls {
+
+/// The families of elements, in the order of the legend.
+enum class Family : std::uint8_t {
+    alkaliMetal,
+    alkalineEarth,
+    transition,
+    lanthanide,
+    actinide,
+    postTransition,
+    metalloid,
+    nonmetal,
+    halogen,
+    nobleGas
+};
+inline constexpr int familyCount = 10;
+
+/// The subshell that is filled last.
+enum class Block : std::uint8_t { s, p, d, f };
+
+/// State of matter at 25 °C and one atmosphere.
+enum class Matter : std::uint8_t { solid, liquid, gas, unknown };
+
+/// A measured value in the digits that are known of it, such as "20.180"; empty when it is not known.
+struct Figure {
+    std::string_view digits;  ///< decimal digits with at most one point
+
+    constexpr bool known() const { return !digits.empty(); }
+    std::optional<double> value() const;
+    /// How many digits stand after the point.
+    int decimals() const;
+    /// The digits with the decimal comma that Greek uses; empty when not known.
+    std::string withComma() const;
+};
+
+/// Stands as the year of an element that was known in antiquity.
+inline constexpr std::int16_t antiquity = 0;
+
+/// One chemical element. Texts are in code page 1253.
+struct Element {
+    int number;  ///< atomic number, 1 to 118
+    std::string_view symbol;
+    std::string_view greekName;
+    std::string_view englishName;
+    Family family;
+    Figure mass;               ///< relative atomic mass; or a mass number, see hasStandardMass
+    Figure meltingPoint;       ///< K
+    Figure boilingPoint;       ///< K, for arsenic the point of sublimation
+    Figure density;            ///< g/cm³: solids and liquids near 20 °C, gases at 0 °C and one atmosphere
+    Figure electronegativity;  ///< Pauling's scale
+    std::int16_t discovered;   ///< year, or `antiquity`
+
+    /// 1 to 7.
+    int period() const;
+    /// 1 to 18, or 0 for lanthanides and actinides, which belong to none.
+    int group() const;
+    Block block() const;
+    Matter matter() const;
+    /// False when an element has no standard atomic mass, as it does not occur with a fixed mixture of
+    /// isotopes; `mass` is then the mass number of the longest-lived one.
+    bool hasStandardMass() const { return mass.decimals() > 0; }
+    /// The relative atomic mass with decimal comma, a mass number in brackets.
+    std::string massText() const;
+};
+
+inline constexpr int elementCount = 118;
+
+/// All elements by atomic number.
+std::span<const Element, elementCount> elements();
+
+/// The element with an atomic number, or null outside 1 to 118.
+const Element* findElement(int number);
+
+/// The Greek name of a family.
+std::string_view familyName(Family family);
+
+/// The family with a code of 1 to 10 (the legend's order), nothing for another code.
+std::optional<Family> familyOfCode(int code);
+inline constexpr int familyCode(Family family) { return static_cast<int>(family) + 1; }
+
+}  // namespace controls

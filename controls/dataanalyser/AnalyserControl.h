@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QPointer>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "controls/dataanalyser/AnalyserPane.h"
+#include "controls/dataanalyser/StateBlocks.h"
+#include "platform/automation/Control.h"
+
+namespace controls::dataanalyser {
+
+/// The class id of the data analyser.
+inline constexpr std::string_view classId = "5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E103";
+
+/// The data analyser as its host sees it; README.md tells what each value of its state means.
+class AnalyserControl : public platform::Control {
+  public:
+    explicit AnalyserControl(QWidget* parent);
+    ~AnalyserControl() override;
+    AnalyserControl(const AnalyserControl&) = delete;
+    AnalyserControl& operator=(const AnalyserControl&) = delete;
+
+    QWidget& widget() override;
+    std::span<const platform::OperationInfo> operations() const override;
+    std::span<const platform::EventInfo> events() const override { return {}; }
+    std::optional<platform::Variant> invoke(std::int32_t dispid, platform::InvokeKind kind,
+                                            std::span<const platform::Variant> arguments) override;
+
+    /// @name Operations, called through `invoke`.
+    /// @{
+    std::string version() const;
+    std::int16_t viewMode() const;
+    void putViewMode(std::int16_t mode);
+    std::int16_t sortColumn() const;
+    void putSortColumn(std::int16_t code);
+    std::int32_t cursor() const;
+    void putCursor(std::int32_t number);
+    bool descending() const;
+    void putDescending(bool descending);
+    bool inCelsius() const;
+    void putInCelsius(bool celsius);
+    std::int16_t graphKind() const;
+    void putGraphKind(std::int16_t kind);
+    std::int32_t selectionSize() const;
+    std::int16_t topElement() const;
+    void initialise(std::int32_t hostCode, const std::string& dataFolder);
+    void copyAllData();
+    void copySelection();
+    std::int16_t family() const;
+    void setFamily(std::int16_t code);
+    std::int32_t columnsLocation();
+    void setColumnsLocation(std::int32_t location);
+    std::int32_t selectionLocation();
+    void setSelection(std::int32_t size, std::int16_t topElement, std::int32_t location);
+    std::int32_t columnWidth(std::int16_t index) const;
+    void setColumnWidth(std::int16_t index, std::int32_t pixels);
+    std::int16_t copyGraph();
+    void printView();
+    /// @}
+
+    const StateBlocks& blocks() const { return blocks_; }
+
+  private:
+    ElementView& table() const { return pane_->table(); }
+    void setOrder(const RowOrder& order) { pane_->setOrder(order); }
+
+    // The parent that the host gave it may destroy it first.
+    QPointer<AnalyserPane> pane_;
+    StateBlocks blocks_;
+    bool takesWidths_ = true;
+};
+
+/// Makes the control of a module.
+std::unique_ptr<platform::Control> createAnalyserControl(platform::ControlSite& site, QWidget* parent);
+
+}  // namespace controls::dataanalyser

@@ -1,0 +1,88 @@
+#include "controls/dataanalyser/ElementHeader.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+#include "controls/common/Appearance.h"
+
+namespace controls::dataanalyser {
+
+namespace {
+
+constexpr int headerHeight = 54;
+constexpr int arrowSpace = 10;
+constexpr int fontPixels = 12;
+constexpr int leastFontPixels = 9;
+constexpr int textFlags = Qt::AlignCenter | Qt::TextWordWrap;
+
+/// With soft hyphens where words too long for a narrow column may be parted, and units kept together.
+QString withBreaks(QString words) {
+    words.replace(QLatin1Char('/'), QStringLiteral("\u2060/\u2060"));
+    words.replace(QStringLiteral("Έτος ανακάλυψης"), QStringLiteral("Έτος\nανακά\u00ADλυψης"));
+    words.replace(QStringLiteral("Ηλεκτραρνητικότητα"), QStringLiteral("Ηλεκτρ\u00ADαρνητι\u00ADκότητα"));
+    return words;
+}
+
+QRect textArea(const QRect& section) { return section.adjusted(2, 2, -3, -arrowSpace); }
+
+bool fits(const QString& words, const QSize& area, int pixels) {
+    const QFontMetrics metrics(appearance::font(pixels, QFont::DemiBold));
+    const QSize needed = metrics.boundingRect(QRect({}, area), textFlags, words).size();
+    return needed.width() <= area.width() && needed.height() <= area.height();
+}
+
+void paintArrow(QPainter& painter, const QRect& area, bool descending) {
+    constexpr int half = 4;
+    const QPointF middle(area.center().x(), area.bottom() - arrowSpace / 2);
+    const double tip = descending ? half / 2.0 : -half / 2.0;
+    QPainterPath arrow(middle + QPointF(0, tip));
+    arrow.lineTo(middle + QPointF(-half, -tip));
+    arrow.lineTo(middle + QPointF(half, -tip));
+    arrow.closeSubpath();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(arrow, appearance::warm);
+}
+
+}  // namespace
+
+ElementHeader::ElementHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
+    setSectionsClickable(true);
+    setHighlightSections(false);
+    setSortIndicatorShown(true);
+    setMinimumSectionSize(24);
+    setAccessibleName(QStringLiteral("Επικεφαλίδες στηλών"));
+}
+
+QSize ElementHeader::sizeHint() const { return {QHeaderView::sizeHint().width(), headerHeight}; }
+
+QString ElementHeader::text(int section) const {
+    return withBreaks(model()->headerData(section, Qt::Horizontal, Qt::DisplayRole).toString());
+}
+
+int ElementHeader::commonPixels() const {
+    int pixels = fontPixels;
+    for (int section = 0; section < count(); ++section) {
+        const QSize area = textArea(QRect(0, 0, sectionSize(section), height())).size();
+        while (pixels > leastFontPixels && !fits(text(section), area, pixels)) --pixels;
+    }
+    return pixels;
+}
+
+void ElementHeader::paintEvent(QPaintEvent* event) {
+    pixels_ = commonPixels();
+    QHeaderView::paintEvent(event);
+}
+
+void ElementHeader::paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const {
+    painter->save();
+    const bool sorted = sortIndicatorSection() == logicalIndex;
+    painter->fillRect(rect, sorted ? appearance::deep.lighter(125) : appearance::deep);
+    painter->fillRect(QRect(rect.right(), rect.top() + 8, 1, rect.height() - 16), appearance::accent);
+    painter->setFont(appearance::font(pixels_, QFont::DemiBold));
+    painter->setPen(appearance::paper);
+    painter->drawText(textArea(rect), textFlags, text(logicalIndex));
+    if (sorted) paintArrow(*painter, rect, sortIndicatorOrder() == Qt::DescendingOrder);
+    painter->restore();
+}
+
+}  // namespace controls::dataanalyser

@@ -1,0 +1,22 @@
+#include "controls/dataanalyser/AnalyserControl.h"
+#include "platform/automation/ControlModule.h"
+
+// The version that the file tells; the first three numbers are those that the component reports.
+__attribute__((section(".kalyxo.version"), used)) const char versionText[] = "1.0.40.0";
+
+extern "C" {
+
+__attribute__((visibility("default"))) void DllRegisterServer(platform::ModuleRegistrar& registrar);
+__attribute__((visibility("default"))) const platform::ControlModule* DllGetClassObject();
+
+void DllRegisterServer(platform::ModuleRegistrar& registrar) {
+    registrar.registerClass(controls::dataanalyser::classId);
+}
+
+const platform::ControlModule* DllGetClassObject() {
+    static constexpr platform::ControlModule module{.classId = controls::dataanalyser::classId,
+                                                    .create = controls::dataanalyser::createAnalyserControl};
+    return &module;
+}
+
+}  // extern "C"

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QPalette>
+#include <QString>
+#include <cstdint>
+
+#include "controls/common/Appearance.h"
+
+/// What the browse selection adds to the look that all components share.
+namespace controls::select::appearance {
+
+using controls::appearance::accent;
+using controls::appearance::deep;
+using controls::appearance::muted;
+using controls::appearance::paper;
+using controls::appearance::selected;
+using controls::appearance::text;
+
+inline constexpr QColor entryText{0x33, 0x47, 0x5B};
+inline constexpr QColor hover{0xE8, 0xF1, 0xF6};
+inline constexpr QColor found{0xFF, 0xE4, 0x9C};
+
+/// The accent of a section, the same as on its pages; the general accent for an unknown code.
+QColor sectionAccent(std::int16_t code);
+
+/// The font of the list and the field.
+QFont font(QFont::Weight weight = QFont::Normal);
+
+QPalette palette();
+QString styleSheet();
+
+}  // namespace controls::select::appearance

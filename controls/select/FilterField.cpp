@@ -1,0 +1,91 @@
+#include "controls/select/FilterField.h"
+
+#include <QAction>
+#include <QIcon>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPixmap>
+
+#include "controls/select/Appearance.h"
+
+namespace controls::select {
+
+namespace {
+
+constexpr int maxTyped = 100;
+constexpr int iconSize = 16;
+// Below this the text needs the room.
+constexpr int narrowWidth = 150;
+
+QPixmap drawGlass(int scale) {
+    QPixmap pixmap(iconSize * scale, iconSize * scale);
+    pixmap.fill(Qt::transparent);
+    pixmap.setDevicePixelRatio(scale);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(appearance::accent, 1.6, Qt::SolidLine, Qt::RoundCap));
+    painter.drawEllipse(QRectF(2.5, 2.5, 8, 8));
+    painter.drawLine(QPointF(9.6, 9.6), QPointF(13.5, 13.5));
+    return pixmap;
+}
+
+QIcon glassIcon() {
+    QIcon icon;
+    for (const int scale : {1, 2, 3}) icon.addPixmap(drawGlass(scale));
+    return icon;
+}
+
+}  // namespace
+
+FilterField::FilterField(QWidget* parent)
+    : QLineEdit(parent), glass_(addAction(glassIcon(), QLineEdit::LeadingPosition)) {
+    setObjectName(QStringLiteral("filterField"));
+    setFont(appearance::font());
+    setPlaceholderText(QStringLiteral("Βρες θέμα…"));
+    setAccessibleName(QStringLiteral("Αναζήτηση θέματος"));
+    setAccessibleDescription(
+        QStringLiteral("Στενεύει τη λίστα των θεμάτων· Enter ανοίγει το πρώτο που βρέθηκε"));
+    setClearButtonEnabled(true);
+    setMaxLength(maxTyped);
+    setContextMenuPolicy(Qt::NoContextMenu);
+}
+
+platform::LRESULT FilterField::receive(platform::UINT message) {
+    switch (message) {
+        case platform::WM_CUT:
+            cut();
+            break;
+        case platform::WM_COPY:
+            copy();
+            break;
+        case platform::WM_PASTE:
+            paste();
+            break;
+        default:
+            break;
+    }
+    return 0;
+}
+
+void FilterField::takeTyping(const QString& text) {
+    setFocus();
+    end(false);
+    insert(text);
+}
+
+void FilterField::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && !text().isEmpty()) {
+        clear();
+    } else if (event->key() == Qt::Key_Down || event->key() == Qt::Key_PageDown) {
+        emit leftAtBottom();
+    } else {
+        QLineEdit::keyPressEvent(event);
+    }
+}
+
+void FilterField::resizeEvent(QResizeEvent* event) {
+    QLineEdit::resizeEvent(event);
+    glass_->setVisible(width() >= narrowWidth);
+}
+
+}  // namespace controls::select

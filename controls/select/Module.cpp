@@ -1,0 +1,22 @@
+#include "controls/select/SelectControl.h"
+#include "platform/automation/ControlModule.h"
+
+// The version that the file tells; the first three numbers are those of the `Version` property.
+__attribute__((section(".kalyxo.version"), used)) const char versionText[] = "1.0.40.0";
+
+extern "C" {
+
+__attribute__((visibility("default"))) void DllRegisterServer(platform::ModuleRegistrar& registrar);
+__attribute__((visibility("default"))) const platform::ControlModule* DllGetClassObject();
+
+void DllRegisterServer(platform::ModuleRegistrar& registrar) {
+    registrar.registerClass(controls::select::classId);
+}
+
+const platform::ControlModule* DllGetClassObject() {
+    static constexpr platform::ControlModule module{.classId = controls::select::classId,
+                                                    .create = controls::select::createSelectControl};
+    return &module;
+}
+
+}  // extern "C"

@@ -1,0 +1,213 @@
+#include "controls/select/SelectPane.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "controls/common/QtText.h"
+#include "controls/select/Appearance.h"
+#include "controls/select/FilterField.h"
+#include "controls/select/TopicModel.h"
+#include "controls/select/TopicView.h"
+#include "formats/SectionTable.h"
+
+namespace controls::select {
+
+namespace {
+
+constexpr int sideMargin = 8;
+constexpr int ruleHeight = 2;
+
+QLabel* makeLabel(const char* name, QWidget* parent) {
+    auto* label = new QLabel(parent);
+    label->setObjectName(QString::fromLatin1(name));
+    label->setFont(appearance::font());
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    return label;
+}
+
+}  // namespace
+
+SelectPane::SelectPane(BrowseSelection& selection, ChoiceHandler onChoice, QWidget* parent)
+    : QWidget(parent),
+      selection_(selection),
+      onChoice_(std::move(onChoice)),
+      model_(new TopicModel(selection, this)),
+      sectionName_(makeLabel("sectionName", this)),
+      rule_(new QWidget(this)),
+      field_(new FilterField(this)),
+      view_(new TopicView(*model_, this)),
+      emptyNote_(makeLabel("emptyNote", this)) {
+    setObjectName(QStringLiteral("selectPane"));
+    setAttribute(Qt::WA_StyledBackground);
+    setPalette(appearance::palette());
+    setStyleSheet(appearance::styleSheet());
+    setFocusProxy(field_);
+    rule_->setFixedHeight(ruleHeight);
+    rule_->setAutoFillBackground(true);
+    emptyNote_->setAlignment(Qt::AlignTop | Qt::AlignHCenter);
+
+    auto* fieldRow = new QVBoxLayout;
+    fieldRow->setContentsMargins(sideMargin, sideMargin, sideMargin, sideMargin);
+    fieldRow->addWidget(field_);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(sectionName_);
+    column->addWidget(rule_);
+    column->addLayout(fieldRow);
+    column->addWidget(view_, 1);
+    column->addWidget(emptyNote_, 1);
+    connectParts();
+    updateHeader();
+    updateEmptyNote();
+}
+
+void SelectPane::connectParts() {
+    connect(field_, &QLineEdit::textChanged, this, &SelectPane::narrow);
+    connect(field_, &QLineEdit::returnPressed, this, &SelectPane::openFirst);
+    connect(field_, &FilterField::leftAtBottom, this, &SelectPane::enterList);
+    connect(view_, &TopicView::chosen, this,
+            [this](const QModelIndex& index) { choose(model_->rowOf(index)); });
+    connect(view_, &TopicView::typed, field_, &FilterField::takeTyping);
+    connect(view_, &TopicView::leftAtTop, field_, [this] { field_->setFocus(); });
+    connect(view_, &TopicView::escaped, field_, &QLineEdit::clear);
+    connect(view_, &TopicView::erased, field_, [this] {
+        field_->setFocus();
+        field_->backspace();
+    });
+    connect(view_, &QTreeView::expanded, this, [this](const QModelIndex& index) {
+        selection_.list().setOpened(model_->rowOf(index).topic, true);
+    });
+    connect(view_, &QTreeView::collapsed, this, [this](const QModelIndex& index) {
+        selection_.list().setOpened(model_->rowOf(index).topic, false);
+    });
+}
+
+template <class Change>
+void SelectPane::relist(Change&& change) {
+    model_->reset(std::forward<Change>(change));
+    const TopicList& list = selection_.list();
+    int line = 0;
+    for (const TopicList::ListedTopic& listed : list.topics()) {
+        if (list.opened(listed.topic)) view_->expand(model_->index(line, 0));
+        ++line;
+    }
+    updateEmptyNote();
+}
+
+void SelectPane::setIndex(formats::BrowseIndex index) {
+    relist([&] { selection_.setIndex(std::move(index)); });
+    field_->clear();
+    updateHeader();
+}
+
+void SelectPane::setSection(std::int16_t code) {
+    if (code == selection_.section()) {
+        selection_.setSection(code);
+    } else {
+        relist([&] { selection_.setSection(code); });
+        field_->clear();
+        updateHeader();
+    }
+    markMoved();
+}
+
+ChoiceEvents SelectPane::showPlace(const Place& place) {
+    if (const std::int16_t section = selection_.sectionOf(place); section != selection_.section())
+        setSection(section);
+    ChoiceEvents answer = selection_.show(place);
+    markMoved();
+    return answer;
+}
+
+void SelectPane::narrow(const QString& text) {
+    relist([&] { selection_.list().narrow(fromQt(text)); });
+    view_->scrollToTop();
+    if (const QModelIndex shown = shownIndex(); shown.isValid()) view_->reveal(shown);
+    // What Enter opens must be in sight, even if the place on show is then not.
+    if (const auto match = selection_.list().firstMatch()) {
+        const QModelIndex index = model_->indexOf(*match);
+        view_->setCurrentIndex(index);
+        view_->scrollTo(index);
+    }
+}
+
+void SelectPane::openFirst() {
+    if (selection_.list().narrowed()) {
+        if (const auto match = selection_.list().firstMatch()) choose(*match);
+    } else if (const QModelIndex current = view_->currentIndex(); current.isValid()) {
+        choose(model_->rowOf(current));
+    }
+}
+
+void SelectPane::choose(const Row& row) {
+    const ChoiceEvents events = selection_.choose(row);
+    markMoved();
+    onChoice_(events);
+}
+
+void SelectPane::enterList() {
+    if (model_->rowCount() == 0) return;
+    view_->setFocus();
+}
+
+void SelectPane::markMoved() {
+    const auto shown = selection_.shownRow();
+    if (shown && selection_.list().contains(*shown) && selection_.list().opened(shown->topic)) {
+        view_->expand(model_->indexOf({shown->topic, std::nullopt}));
+    }
+    view_->remeasure();
+    revealLater();
+}
+
+// A host that returns to a place sets the section first and asks for the place right after: only where that
+// ends is of interest.
+void SelectPane::revealLater() {
+    if (std::exchange(revealPending_, true)) return;
+    QMetaObject::invokeMethod(this, &SelectPane::revealShown, Qt::QueuedConnection);
+}
+
+void SelectPane::revealShown() {
+    revealPending_ = false;
+    const auto shown = selection_.shownRow();
+    if (!shown) return;
+    if (!selection_.list().contains(*shown)) field_->clear();
+    view_->reveal(shownIndex());
+}
+
+QModelIndex SelectPane::shownIndex() const {
+    const auto shown = selection_.shownRow();
+    if (!shown) return {};
+    const QModelIndex topic = model_->indexOf({shown->topic, std::nullopt});
+    return view_->isExpanded(topic) ? model_->indexOf(*shown) : topic;
+}
+
+void SelectPane::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    revealLater();
+}
+
+void SelectPane::updateHeader() {
+    const formats::Section* section = formats::sectionByCode(selection_.section());
+    const QColor accent = appearance::sectionAccent(selection_.section());
+    const QString name = section ? toQt(section->displayName) : QString();
+    sectionName_->setText(name);
+    sectionName_->setStyleSheet(QStringLiteral("color: ") + accent.name());
+    rule_->setStyleSheet(QStringLiteral("background: ") + accent.name());
+    view_->setAccent(accent);
+    view_->setAccessibleName(section ? QStringLiteral("Θέματα της ενότητας ") + name
+                                     : QStringLiteral("Θέματα"));
+}
+
+void SelectPane::updateEmptyNote() {
+    const bool empty = model_->rowCount() == 0;
+    emptyNote_->setText(selection_.list().narrowed() ? QStringLiteral("Δεν βρέθηκε θέμα")
+                        : selection_.section() != 0  ? QStringLiteral("Δεν υπάρχουν θέματα")
+                                                     : QString());
+    emptyNote_->setVisible(empty);
+    view_->setVisible(!empty);
+}
+
+}  // namespace controls::select

@@ -1,0 +1,166 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "controls/common/Element.h"
+#include "controls/common/ElementSearch.h"
+#include "controls/common/TypeAhead.h"
+#include "platform/text/GreekLiteral.h"
+
+namespace controls {
+namespace {
+
+using namespace platform::literals;
+
+int numberOf(std::string_view symbol) {
+    const auto found = std::ranges::find(elements(), symbol, &Element::symbol);
+    return found == elements().end() ? 0 : found->number;
+}
+
+TEST(ElementData, NumbersRunFrom1To118AndNoSymbolOrNameOccursTwice) {
+    std::set<std::string_view> symbols;
+    std::set<std::string_view> names;
+    int expected = 1;
+    for (const Element& element : elements()) {
+        EXPECT_EQ(element.number, expected++);
+        EXPECT_TRUE(symbols.insert(element.symbol).second) << element.symbol;
+        EXPECT_TRUE(names.insert(element.greekName).second) << element.englishName;
+        EXPECT_TRUE(names.insert(element.englishName).second) << element.englishName;
+    }
+}
+
+TEST(ElementData, MassesAscendExceptWhereNatureDoesNot) {
+    std::vector<std::string> pairs;
+    for (int number = 2; number <= elementCount; ++number) {
+        const Element& before = *findElement(number - 1);
+        const Element& element = *findElement(number);
+        if (*element.mass.value() < *before.mass.value()) {
+            pairs.push_back(std::string(before.symbol) + '-' + std::string(element.symbol));
+        }
+    }
+    EXPECT_EQ(pairs, (std::vector<std::string>{"Ar-K", "Co-Ni", "Te-I", "Th-Pa", "U-Np", "Pu-Am", "Bh-Hs"}));
+}
+
+TEST(ElementData, FiguresAreWellFormedAndPlausible) {
+    for (const Element& element : elements()) {
+        SCOPED_TRACE(element.symbol);
+        for (const Figure* figure : {&element.mass, &element.meltingPoint, &element.boilingPoint,
+                                     &element.density, &element.electronegativity}) {
+            EXPECT_EQ(figure->known(), figure->value().has_value());
+            EXPECT_EQ(figure->digits.find_first_not_of("0123456789."), std::string_view::npos);
+            if (figure->known()) {
+                EXPECT_GT(*figure->value(), 0);
+            }
+        }
+        EXPECT_LE(element.electronegativity.value().value_or(0), 3.98);
+        EXPECT_LT(element.density.value().value_or(0), 23);
+        const auto melting = element.meltingPoint.value();
+        const auto boiling = element.boilingPoint.value();
+        // Arsenic goes over into gas before it would melt.
+        if (melting && boiling && element.symbol != "As") {
+            EXPECT_LT(*melting, *boiling);
+        }
+        EXPECT_TRUE(element.discovered == antiquity ||
+                    (element.discovered >= 1250 && element.discovered <= 2010));
+    }
+}
+
+TEST(ElementData, GasesAreAsDenseAsTheGasLawTells) {
+    constexpr double litresPerMole = 22.414;
+    int gases = 0;
+    for (const Element& element : elements()) {
+        if (element.matter() != Matter::gas) continue;
+        ++gases;
+        const bool diatomic = element.family != Family::nobleGas;
+        const double expected = *element.mass.value() * (diatomic ? 2 : 1) / litresPerMole / 1000;
+        EXPECT_NEAR(*element.density.value(), expected, expected * 0.02) << element.symbol;
+    }
+    EXPECT_EQ(gases, 11);
+}
+
+TEST(ElementData, PlaceInTheTable) {
+    struct Case {
+        std::string_view symbol;
+        int period, group;
+        Block block;
+    };
+    for (const auto& [symbol, period, group, block] : std::vector<Case>{{"H", 1, 1, Block::s},
+                                                                        {"He", 1, 18, Block::s},
+                                                                        {"Be", 2, 2, Block::s},
+                                                                        {"B", 2, 13, Block::p},
+                                                                        {"Ar", 3, 18, Block::p},
+                                                                        {"Sc", 4, 3, Block::d},
+                                                                        {"Zn", 4, 12, Block::d},
+                                                                        {"Xe", 5, 18, Block::p},
+                                                                        {"Ba", 6, 2, Block::s},
+                                                                        {"La", 6, 0, Block::f},
+                                                                        {"Lu", 6, 0, Block::f},
+                                                                        {"Hf", 6, 4, Block::d},
+                                                                        {"Rn", 6, 18, Block::p},
+                                                                        {"Ac", 7, 0, Block::f},
+                                                                        {"Lr", 7, 0, Block::f},
+                                                                        {"Rf", 7, 4, Block::d},
+                                                                        {"Nh", 7, 13, Block::p},
+                                                                        {"Og", 7, 18, Block::p}}) {
+        const Element& element = *findElement(numberOf(symbol));
+        EXPECT_EQ(std::tuple(element.period(), element.group(), element.block()),
+                  std::tuple(period, group, block))
+            << symbol;
+    }
+    EXPECT_EQ(findElement(0), nullptr);
+    EXPECT_EQ(findElement(119), nullptr);
+}
+
+TEST(ElementData, MatterAtRoomTemperature) {
+    std::string liquids;
+    int unknown = 0;
+    for (const Element& element : elements()) {
+        if (element.matter() == Matter::liquid) liquids += element.symbol;
+        if (element.matter() == Matter::unknown) ++unknown;
+    }
+    EXPECT_EQ(liquids, "BrHg");
+    EXPECT_EQ(unknown, 118 - 103);
+}
+
+TEST(ElementData, MassTextHasCommaOrBrackets) {
+    EXPECT_EQ(findElement(10)->massText(), "20,180");
+    EXPECT_EQ(findElement(43)->massText(), "[97]");
+    EXPECT_EQ(findElement(92)->massText(), "238,03");
+}
+
+TEST(ElementSearch, SymbolThenStartOfANameInEitherLanguage) {
+    struct Case {
+        std::string_view typed, symbol;
+    };
+    for (const auto& [typed, symbol] : std::vector<Case>{{"h", "H"},
+                                                         {"HE", "He"},
+                                                         {"hel", "He"},
+                                                         {"co", "Co"},
+                                                         {"cop", "Cu"},
+                                                         {"σιδ"_gr, "Fe"},
+                                                         {"ΣΊΔΗΡΟΣ"_gr, "Fe"},
+                                                         {"ηλιο"_gr, "He"},
+                                                         {"αινσταινιο"_gr, "Es"},
+                                                         {"ogan", "Og"},
+                                                         {"d", "Dy"}}) {
+        EXPECT_EQ(findElementByStart(typed), numberOf(symbol)) << typed;
+    }
+    EXPECT_EQ(findElementByStart(""), 0);
+    EXPECT_EQ(findElementByStart("qq"), 0);
+}
+
+TEST(TypeAhead, LettersOfOneWordBelongTogetherUntilAPause) {
+    TypeAhead typing;
+    EXPECT_EQ(typing.type("c", 5000), numberOf("C"));
+    EXPECT_EQ(typing.type("a", 5400), numberOf("Ca"));
+    EXPECT_EQ(typing.type("a", 5400 + TypeAhead::pauseMilliseconds + 1), numberOf("Al"));
+    EXPECT_EQ(typing.type("x", 6500), numberOf("Xe")) << "a letter that leads nowhere starts a new word";
+    EXPECT_EQ(typing.type("q", 6600), 0);
+}
+
+}  // namespace
+}  // namespace controls

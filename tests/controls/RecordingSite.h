@@ -1,0 +1,66 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <initializer_list>
+#include <utility>
+#include <vector>
+
+#include "platform/automation/Control.h"
+
+/// Host of a control under test: notes the events raised, and calls operations by id.
+class RecordingSite : public platform::ControlSite {
+  public:
+    struct Event {
+        std::int32_t dispid;
+        std::vector<platform::Variant> arguments;
+    };
+
+    void raiseEvent(std::int32_t dispid, std::span<platform::Variant> arguments) override {
+        events.push_back({dispid, {arguments.begin(), arguments.end()}});
+    }
+    platform::HWND registerWindow(QWidget&, std::string, platform::MessageProc) override { return 1; }
+    platform::LRESULT sendMessage(platform::HWND, platform::UINT, platform::WPARAM,
+                                  platform::LPARAM) override {
+        return 0;
+    }
+    // No component under test reads files.
+    const platform::FileSystem& files() const override { std::abort(); }
+
+    std::vector<Event> events;
+};
+
+template <class... A>
+std::optional<platform::Variant> invoke(platform::Control& control, std::int32_t dispid,
+                                        platform::InvokeKind kind, A&&... arguments) {
+    const std::vector<platform::Variant> values{platform::Variant(std::forward<A>(arguments))...};
+    return control.invoke(dispid, kind, values);
+}
+
+template <class... A>
+void call(platform::Control& control, std::int32_t dispid, A&&... arguments) {
+    const auto result = invoke(control, dispid, platform::InvokeKind::method, std::forward<A>(arguments)...);
+    ASSERT_TRUE(result && result->empty()) << "operation " << dispid;
+}
+
+/// The result of an operation, which must be of this type.
+template <class R, class... A>
+R ask(platform::Control& control, std::int32_t dispid, platform::InvokeKind kind, A&&... arguments) {
+    const std::optional<platform::Variant> result =
+        invoke(control, dispid, kind, std::forward<A>(arguments)...);
+    const R* value = result ? result->get<R>() : nullptr;
+    EXPECT_NE(value, nullptr) << "operation " << dispid;
+    return value ? *value : R();
+}
+
+template <class R>
+R property(platform::Control& control, std::int32_t dispid) {
+    return ask<R>(control, dispid, platform::InvokeKind::propertyGet);
+}
+
+template <class T>
+void put(platform::Control& control, std::int32_t dispid, T value) {
+    const auto result = invoke(control, dispid, platform::InvokeKind::propertyPut, value);
+    ASSERT_TRUE(result && result->empty()) << "property " << dispid;
+}

@@ -1,0 +1,195 @@
+#include "controls/select/SelectControl.h"
+
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QWidget>
+
+#include "formats/SectionTitles.h"
+#include "formats/TitleLists.h"
+#include "platform/automation/ControlModule.h"
+#include "platform/files/FileVersion.h"
+#include "tests/select/SelectHost.h"
+
+using namespace platform::literals;
+using Lines = std::vector<std::string>;
+
+namespace {
+
+constexpr std::int32_t getPageTitle = 2;
+constexpr std::int32_t getItemTitle = 4;
+constexpr std::int32_t setSection = 5;
+constexpr std::int32_t showItem = 6;
+constexpr std::int32_t getAuxHandle = 7;
+constexpr std::int32_t getEditWindow = 8;
+
+TEST(SelectControl, OffersItsOperationsByNumberKindAndType) {
+    SelectHost host;
+    std::string table;
+    for (const auto& operation : host.control->operations()) {
+        table += std::to_string(operation.dispid) + std::string(operation.name);
+        for (const auto type : operation.arguments)
+            table += type == platform::TypeCode::i2        ? " I2"
+                     : type == platform::TypeCode::i4      ? " I4"
+                     : type == platform::TypeCode::text    ? " text"
+                     : type == platform::TypeCode::boolean ? " BOOL"
+                                                           : " ?";
+        table += '\n';
+    }
+    EXPECT_EQ(table,
+              "1Version\n2GetPageTitle I4\n3Initialise I2 text I4\n4GetItemTitle I4\n5SetSection I2\n"
+              "6ShowItem I4 I4 BOOL\n7GetAuxHandle\n8GetEditWindow\n");
+    const auto version = host.control->invoke(1, platform::InvokeKind::propertyGet, {});
+    ASSERT_TRUE(version);
+    EXPECT_EQ(*version->get<std::string>(), "1.0.40");
+    EXPECT_FALSE(host.control->invoke(1, platform::InvokeKind::method, {}));
+    EXPECT_FALSE(host.control->invoke(9, platform::InvokeKind::method, {}));
+}
+
+TEST(SelectControl, AnswersBeforeShowItemReturns) {
+    SelectHost host;
+    host.initialise();
+    EXPECT_EQ(host.takeEvents(), Lines{}) << "setting a section opens nothing";
+    host.call(showItem, 410010, 0, false);
+    EXPECT_EQ(host.takeEvents(), Lines{"page 410011 410010"});
+    host.call(showItem, 410010, 10011, false);
+    EXPECT_EQ(host.takeEvents(), Lines{"item 10011"});
+    host.call(showItem, 410555, 0, false);
+    EXPECT_EQ(host.takeEvents(), Lines{"page 410555 410555"});
+    host.call(showItem, 320010, 80001, false);
+    EXPECT_EQ(host.takeEvents(), Lines{"item 80001"});
+    EXPECT_EQ(host.pane().view().model()->rowCount(), 2) << "the other section is listed";
+}
+
+// As a host does it that goes back: the section, then once or twice the place.
+TEST(SelectControl, AnswersEachTimeWhenAPlaceIsAskedForTwice) {
+    SelectHost host;
+    host.initialise();
+    for (const std::int32_t page : {410000, 410020}) {
+        host.call(setSection, sample::elements);
+        host.call(showItem, page, 0, false);
+        host.call(showItem, page, 0, false);
+        const std::string answer = "page " + std::to_string(page) + ' ' + std::to_string(page);
+        EXPECT_EQ(host.takeEvents(), (Lines{answer, answer}));
+    }
+}
+
+TEST(SelectControl, WorksBeforeItIsInitialised) {
+    SelectHost host;
+    host.call(setSection, sample::elements);
+    host.call(showItem, 410010, 0, false);
+    EXPECT_EQ(host.takeEvents(), Lines{"page 410010 410010"});
+    EXPECT_EQ(host.text(getPageTitle, 410010), "");
+    host.sendMessage(*host.call(getAuxHandle).get<std::int32_t>(), controls::select::enterPressedMessage, 0,
+                     0);
+    EXPECT_EQ(host.takeEvents(), Lines{});
+}
+
+class WithoutIndex : public testing::TestWithParam<const char*> {};
+
+TEST_P(WithoutIndex, ListsThePagesOfTheTitleFiles) {
+    SelectHost host{std::string_view(GetParam())};
+    const formats::SectionTitleRecord records[] = {{std::string("Τα αλκάλια"_gr), 410010}};
+    host.data.write("elemcomp.dat", *formats::encodeSectionTitles(records));
+    const std::string titles[] = {std::string("Υδρογόνο"_gr), std::string("Ήλιο"_gr)};
+    host.data.write("elem.ttl", *formats::encodeTitleList(titles));
+    host.initialise();
+
+    EXPECT_EQ(host.pane().view().model()->index(0, 0).data().toString(), "Τα αλκάλια");
+    EXPECT_EQ(host.text(getPageTitle, 410010), "Τα αλκάλια"_gr);
+    EXPECT_EQ(host.text(getPageTitle, 410020), "");
+    EXPECT_EQ(host.text(getItemTitle, 10002), "Ήλιο"_gr);
+    for (const std::int32_t unknown : {10003, 10000, 30001, 20001, -10001}) {
+        EXPECT_EQ(host.text(getItemTitle, unknown), "") << unknown;
+    }
+    host.call(showItem, 410010, 10002, false);
+    host.call(showItem, 410020, 0, false);
+    EXPECT_EQ(host.takeEvents(), (Lines{"item 10002", "page 410020 410020"}));
+}
+
+INSTANTIATE_TEST_SUITE_P(SelectControl, WithoutIndex,
+                         testing::Values("", "KSEL", "no index at all, but some text"));
+
+TEST(SelectControl, TitlesComeFromTheIndexFirst) {
+    SelectHost host;
+    const formats::SectionTitleRecord records[] = {{"other", 410030}, {"hidden", 410099}};
+    host.data.write("elemcomp.dat", *formats::encodeSectionTitles(records));
+    host.data.write("elem.ttl", *formats::encodeTitleList(std::vector<std::string>(10, "other")));
+    host.initialise();
+    EXPECT_EQ(host.text(getPageTitle, 410030), "Νερό"_gr);
+    EXPECT_EQ(host.text(getPageTitle, 410099), "hidden");
+    EXPECT_EQ(host.text(getItemTitle, 10003), "Λίθιο"_gr);
+    EXPECT_EQ(host.text(getItemTitle, 10004), "other");
+    host.call(showItem, 410020, 20001, false);
+    EXPECT_EQ(host.text(getItemTitle, 0), "Οξέα, ΆΛΑΤΑ και βάσεις"_gr) << "the page on show";
+}
+
+TEST(SelectControl, TheFieldTakesCutCopyAndPaste) {
+    SelectHost host;
+    const platform::HWND edit = *host.call(getEditWindow).get<std::int32_t>();
+    auto& field = host.pane().field();
+    field.setText("οξύ");
+    field.selectAll();
+    host.sendMessage(edit, platform::WM_COPY, 0, 0);
+    EXPECT_EQ(QApplication::clipboard()->text(), "οξύ");
+    host.sendMessage(edit, platform::WM_PASTE, 0, 0);
+    host.sendMessage(edit, platform::WM_PASTE, 0, 0);
+    EXPECT_EQ(field.text(), "οξύοξύ");
+    field.setSelection(0, 4);
+    host.sendMessage(edit, platform::WM_CUT, 0, 0);
+    EXPECT_EQ(field.text(), "ξύ");
+    EXPECT_EQ(QApplication::clipboard()->text(), "οξύο");
+}
+
+TEST(SelectControl, EnterMessageOpensTheFirstMatchElseTheSelectedLine) {
+    SelectHost host;
+    host.initialise();
+    const platform::HWND aux = *host.call(getAuxHandle).get<std::int32_t>();
+    const auto enter = [&] { host.sendMessage(aux, controls::select::enterPressedMessage, 0, 0); };
+    host.pane().field().setText("ΝΑΤΡ");
+    enter();
+    EXPECT_EQ(host.takeEvents(), (Lines{"page 410011 410010", "item 10011"}));
+    host.pane().field().setText("ψψψ");
+    enter();
+    EXPECT_EQ(host.takeEvents(), Lines{});
+    host.pane().field().clear();
+    enter();
+    EXPECT_EQ(host.takeEvents(), Lines{"item 10011"}) << "the place on show is selected again";
+    host.sendMessage(aux, platform::WM_PASTE, 0, 0);
+    EXPECT_EQ(host.takeEvents(), Lines{});
+}
+
+TEST(SelectControl, SurvivesTheWindowThatHoldsItsWidget) {
+    SelectHost host;
+    auto window = std::make_unique<QWidget>();
+    const auto control = controls::select::createSelectControl(host, window.get());
+    window.reset();
+    EXPECT_FALSE(control->invoke(setSection, platform::InvokeKind::method,
+                                 std::array{platform::Variant(std::int16_t{1})}));
+}
+
+TEST(SelectModule, OffersTheControlUnderItsClassAndVersion) {
+    struct Registrar : platform::ModuleRegistrar {
+        void registerClass(std::string_view classId) override { registered += classId; }
+        std::string registered;
+    };
+    void* library = ::dlopen(SELECT_MODULE, RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
+    ASSERT_TRUE(library) << ::dlerror();
+    const auto registerServer =
+        reinterpret_cast<platform::RegisterServerFunction>(::dlsym(library, platform::registerServerName));
+    const auto classObject =
+        reinterpret_cast<platform::ClassObjectFunction>(::dlsym(library, platform::classObjectName));
+    ASSERT_TRUE(registerServer && classObject);
+    Registrar registrar;
+    registerServer(registrar);
+    EXPECT_EQ(registrar.registered, "5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E102");
+    EXPECT_EQ(registrar.registered, classObject()->classId);
+    SelectHost host;
+    const auto control = classObject()->create(host, nullptr);
+    const std::string version =
+        *control->invoke(1, platform::InvokeKind::propertyGet, {})->get<std::string>();
+    EXPECT_EQ(platform::fileVersionText(SELECT_MODULE), version + ".0");
+}
+
+}  // namespace
