@@ -1,0 +1,109 @@
+#include "src/app/KalyxoApp.h"
+
+#include <memory>
+
+#include "platform/framework/Resources.h"
+#include "platform/machine/Machine.h"
+#include "platform/text/GreekLiteral.h"
+#include "src/app/MainFrame.h"
+#include "src/content/KalyxoDoc.h"
+#include "src/content/KalyxoView.h"
+#include "src/resources/ResourceIds.h"
+
+namespace kalyxo {
+
+using namespace platform;
+
+namespace {
+
+/// Sent to the browse selection in place of Enter in its text field.
+constexpr UINT kEnterInSelectEdit = 18871;
+constexpr std::uint32_t kStartUpWaitMs = 2000;
+constexpr std::size_t kLongestDirectory = 256;
+
+CSize screenSize() { return {machine().metric(SM_CXSCREEN), machine().metric(SM_CYSCREEN)}; }
+
+}  // namespace
+
+const CRuntimeClass CKalyxoApp::runtimeClass{"CKalyxoApp"};
+
+CKalyxoApp& TheApp() { return static_cast<CKalyxoApp&>(CWinApp::instance()); }
+
+bool CKalyxoApp::InitInstance() {
+    if (!ReadRegistrySettings()) return false;
+    if (!AfxOleInit()) {
+        AfxMessageBox(LoadString(IDS_OLE_INIT_FAILED));
+        return false;
+    }
+    if (!SetUpDataPaths()) return false;
+    addDocTemplate();
+    chooseFirstShow();
+    if (!ProcessShellCommand()) return false;
+    warnOfFewColours();
+    machine().sleep(kStartUpWaitMs);
+    return true;
+}
+
+bool CKalyxoApp::ReadRegistrySettings() {
+    const std::optional<RegistryKey> key =
+        machine().registry().openKey(HKEY_LOCAL_MACHINE, SettingsKeyPath());
+    if (!key) {
+        AfxMessageBox(LoadString(IDS_REGISTRY_UNREADABLE));
+        return false;
+    }
+    const ProgramLocation location =
+        LocateProgram(machine().programPath(), key->queryString("Directory", kLongestDirectory));
+    m_strProgramFolder = location.folder;
+    m_bOutsideInstallFolder = location.outsideInstallFolder;
+    const WindowLayout layout = ReadLayout(*key, screenSize());
+    m_nSplitterPos = layout.splitterPos;
+    m_nFrameState = layout.frameState;
+    m_rcFrame = layout.frame;
+    return true;
+}
+
+bool CKalyxoApp::SetUpDataPaths() {
+    // Without a folder chooser every question counts as cancelled.
+    const FolderChooser cancelled = [](FolderPurpose) { return std::optional<std::string>(); };
+    std::optional<DataPaths> paths =
+        FindDataPaths(machine().files(), {m_strProgramFolder, machine().tempFolder()}, cancelled);
+    if (!paths) return false;
+    m_strDataFolder = std::move(paths->dataFolder);
+    m_strBookmarkFile = std::move(paths->bookmarkFile);
+    return true;
+}
+
+void CKalyxoApp::addDocTemplate() {
+    AddDocTemplate(std::make_unique<CSingleDocTemplate>(CKalyxoDoc::runtimeClass, CMainFrame::runtimeClass,
+                                                        CKalyxoView::runtimeClass));
+}
+
+void CKalyxoApp::chooseFirstShow() {
+    m_nCmdShow = IsSmallScreen(screenSize()) ? SW_SHOWMAXIMIZED : SW_SHOWNORMAL;
+}
+
+void CKalyxoApp::warnOfFewColours() {
+    const std::string warning = ColourDepthWarning(machine().screen().bitsPerPixel);
+    if (!warning.empty()) AfxMessageBox(warning);
+}
+
+bool CKalyxoApp::PreTranslateMessage(const MSG& message) {
+    if (message.message == WM_RBUTTONDOWN || message.message == WM_RBUTTONUP) return true;
+    if (message.message == WM_KEYDOWN && message.wParam == VK_RETURN && m_hwndSelectEdit != 0 &&
+        message.hwnd == m_hwndSelectEdit) {
+        platform::SendMessage(m_hwndSelectTarget, kEnterInSelectEdit);
+        return true;
+    }
+    return CWinApp::PreTranslateMessage(message);
+}
+
+std::string ColourDepthWarning(int bitsPerPixel) {
+    constexpr int enough = 16;
+    if (bitsPerPixel >= enough) return {};
+    return std::string("Η οθόνη σας απεικονίζει μόνο "_gr) + (bitsPerPixel == 8 ? "256" : "16") +
+           std::string(
+               " χρώματα.\r\nΓια καλύτερα αποτελέσματα προτείνεται να ρυθμίσετε την οθόνη σας ώστε να "
+               "απεικονίζει χιλιάδες ή εκατομμύρια χρώματα."_gr);
+}
+
+}  // namespace kalyxo

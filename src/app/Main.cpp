@@ -1,0 +1,38 @@
+#include "platform/framework/Desktop.h"
+#include "platform/framework/Resources.h"
+#include "platform/framework/Run.h"
+#include "platform/text/CodePage1253.h"
+#include "platform/text/GreekLiteral.h"
+#include "src/app/KalyxoApp.h"
+#include "src/app/OwnMachine.h"
+#include "src/resources/ResourceTable.h"
+
+namespace {
+
+using namespace platform::literals;
+
+constexpr int kNoMachine = 1;
+
+/// `problem` names the file, in UTF-8.
+void tellNoMachine(const std::string& problem) {
+    platform::AfxMessageBox(std::string("Το Kalyxo δεν μπορεί να ξεκινήσει.\r\n\r\n"_gr) +
+                            platform::fromUtf8(problem) +
+                            std::string("\r\n\r\nΔιορθώστε ή διαγράψτε το αρχείο και ξεκινήστε πάλι."_gr));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    platform::SetResources(kalyxo::ProgramResources());
+    const platform::Desktop desktop(argc, argv);
+    const auto opened = kalyxo::OpenOwnMachine(kalyxo::OwnMachineFolder(),
+                                               kalyxo::FindInstalledFiles(kalyxo::RunningProgramsFolder()),
+                                               {desktop.screen(), desktop.metrics()});
+    if (!opened) {
+        tellNoMachine(opened.error);
+        return kNoMachine;
+    }
+    platform::setMachine(opened.value->get());
+    kalyxo::CKalyxoApp program;
+    return platform::RunProgram(program);
+}

@@ -1,0 +1,84 @@
+#include "src/app/MainFrame.h"
+
+#include <algorithm>
+
+#include "platform/framework/Resources.h"
+#include "platform/machine/Machine.h"
+#include "platform/windows/MessageMap.h"
+#include "src/app/KalyxoApp.h"
+#include "src/content/KalyxoView.h"
+#include "src/resources/ResourceIds.h"
+
+namespace kalyxo {
+
+using namespace platform;
+
+const CRuntimeClass CMainFrame::runtimeClass = MakeRuntimeClass<CMainFrame>("CMainFrame");
+
+const MessageMap* CMainFrame::GetMessageMap() const {
+    static constexpr MessageMapEntry entries[] = {
+        OnMessage<WM_CREATE, &CMainFrame::OnCreate>(),
+        OnMessage<WM_SIZE, &CMainFrame::OnSize>(),
+        OnMessage<WM_DESTROY, &CMainFrame::OnDestroy>(),
+    };
+    static const MessageMap map{CFrameWnd::GetMessageMap(), entries};
+    return &map;
+}
+
+bool CMainFrame::PreCreateWindow(CREATESTRUCT& cs) {
+    cs.style &= ~FWS_ADDTOTITLE;
+    CKalyxoApp& app = TheApp();
+    if (app.m_nCmdShow != SW_SHOWMAXIMIZED) {
+        if (app.m_nFrameState == kFrameMaximised) app.m_nCmdShow = SW_SHOWMAXIMIZED;
+        const CRect& frame = app.m_rcFrame;
+        cs.x = frame.left;
+        cs.y = frame.top;
+        cs.cx = frame.Width();
+        cs.cy = frame.Height();
+        cs.defaultPlacement = false;
+    }
+    return CFrameWnd::PreCreateWindow(cs);
+}
+
+void CMainFrame::ActivateFrame(int showCommand) {
+    SetWindowText(LoadString(IDS_APP_TITLE));
+    CFrameWnd::ActivateFrame(showCommand);
+}
+
+int CMainFrame::OnCreate(CREATESTRUCT& cs) { return CFrameWnd::OnCreate(cs) < 0 ? -1 : 0; }
+
+void CMainFrame::OnSize(UINT type, int width, int height) {
+    CFrameWnd::OnSize(type, width, height);
+    if (type == SIZE_MINIMIZED) {
+        auto* view = static_cast<CKalyxoView*>(GetActiveView());
+        if (view != nullptr) view->Components().periodicTable.Redraw();
+    } else if (type != SIZE_MAXIMIZED) {
+        keepLeastSize();
+    }
+}
+
+void CMainFrame::keepLeastSize() {
+    const CRect frame = GetWindowRect();
+    const CRect enlarged =
+        WithLeastFrameSize(frame, {machine().metric(SM_CXMAXIMIZED), machine().metric(SM_CYMAXIMIZED)});
+    if (enlarged != frame) MoveWindow(enlarged);
+}
+
+CRect WithLeastFrameSize(const CRect& frame, CSize maximised) {
+    const int width = std::max(frame.Width(), std::min(640, maximised.cx - 8));
+    const int height = std::max(frame.Height(), std::min(480, maximised.cy - 8));
+    return CRect::at(frame.left, frame.top, width, height);
+}
+
+void CMainFrame::OnDestroy() {
+    CFrameWnd::OnDestroy();
+    if (IsIconic()) return;
+    CKalyxoApp& app = TheApp();
+    app.m_nFrameState = IsZoomed() ? kFrameMaximised : kFrameNormal;
+    if (app.m_nFrameState == kFrameNormal) app.m_rcFrame = GetWindowRect();
+    if (WriteLayout(machine().registry(), {app.m_nSplitterPos, app.m_nFrameState, app.m_rcFrame})) {
+        machine().flushRegistry();
+    }
+}
+
+}  // namespace kalyxo

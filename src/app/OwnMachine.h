@@ -1,0 +1,33 @@
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <string>
+
+#include "platform/files/Loaded.h"
+#include "platform/machine/Machine.h"
+#include "src/app/InstalledFiles.h"
+
+namespace kalyxo {
+
+/// The screen that the program finds at this start.
+struct PresentScreen {
+    platform::ScreenConfig screen;
+    std::map<std::string, int, std::less<>> metrics;  ///< those that follow from the screen, by name
+};
+
+/// The user's machine folder: `kalyxo` in $XDG_DATA_HOME or, without it, in ~/.local/share. Empty when
+/// neither is known.
+std::filesystem::path OwnMachineFolder();
+
+/// Opens the user's machine. At the first start it is made from what is installed, with the host's whole file
+/// system as drive Z:. At every start the screen's measures are those of the present screen, component
+/// modules that differ from the installed ones are replaced, and a compact disc whose folder is gone is the
+/// installed content. The error names the file that is damaged, which is left as it is, or what could not be
+/// made.
+platform::Loaded<std::unique_ptr<platform::Machine>> OpenOwnMachine(const std::filesystem::path& folder,
+                                                                    const InstalledFiles& installed,
+                                                                    const PresentScreen& present);
+
+}  // namespace kalyxo

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string_view>
+
+#include "platform/windows/Wnd.h"
+
+namespace kalyxo {
+
+/// Gives a wrapper class its class id, its name and the Create call that makes the control.
+template <class Wrapper>
+class Component : public platform::CWnd {
+  public:
+    const platform::CRuntimeClass& GetRuntimeClass() const override {
+        static constexpr platform::CRuntimeClass runtimeClass{Wrapper::kName};
+        return runtimeClass;
+    }
+    static constexpr std::string_view GetClsid() { return Wrapper::kClass; }
+
+    /// Makes the control's window in `parent`; false when the class cannot be created.
+    bool Create(std::string_view windowName, platform::DWORD style, const platform::CRect& rect,
+                platform::CWnd& parent, platform::UINT id) {
+        return CreateControl(Wrapper::kClass, windowName, style, rect, parent, id);
+    }
+
+  protected:
+    template <class R, class... A>
+    R Method(std::int32_t dispid, A&&... arguments) {
+        return Invoke<R>(dispid, platform::InvokeKind::method, std::forward<A>(arguments)...);
+    }
+    template <class R>
+    R Get(std::int32_t dispid) {
+        return Invoke<R>(dispid, platform::InvokeKind::propertyGet);
+    }
+};
+
+}  // namespace kalyxo

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+
+#include "src/components/ClassIds.h"
+#include "src/components/Component.h"
+
+namespace kalyxo {
+
+/// The molecule controller; made by the program only to read its version.
+class CMolCtrl : public Component<CMolCtrl> {
+  public:
+    static constexpr std::string_view kName = "CMolCtrl";
+    static constexpr std::string_view kClass = kMolCtrlClass;
+
+    std::string Version() { return Get<std::string>(1); }
+};
+
+/// The molecule zoom; made by the program only to read its version.
+class CKzZoom : public Component<CKzZoom> {
+  public:
+    static constexpr std::string_view kName = "CKzZoom";
+    static constexpr std::string_view kClass = kKzZoomClass;
+
+    std::string GetVersion() { return Method<std::string>(1); }
+};
+
+}  // namespace kalyxo

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+
+#include "src/components/ClassIds.h"
+#include "src/components/Component.h"
+
+namespace kalyxo {
+
+/// The periodic table.
+class CPeriodTable : public Component<CPeriodTable> {
+  public:
+    static constexpr std::string_view kName = "CPeriodTable";
+    static constexpr std::string_view kClass = kPeriodTableClass;
+
+    std::string Version() { return Get<std::string>(1); }
+    bool SetDataFolder(const std::string& dataFolder) { return Method<bool>(2, dataFolder); }
+    void Redraw() { Method<void>(3); }
+};
+
+}  // namespace kalyxo

@@ -1,0 +1,145 @@
+#pragma once
+
+#include <optional>
+
+#include "platform/framework/View.h"
+#include "src/components/ElementIndex.h"
+#include "src/content/ContentMode.h"
+#include "src/content/History.h"
+#include "src/content/HostedComponents.h"
+#include "src/content/MainMenuScreen.h"
+#include "src/content/PageCache.h"
+#include "src/content/PagePreparer.h"
+#include "src/content/SectionBar.h"
+#include "src/display/SplitterBar.h"
+
+namespace kalyxo {
+
+/// The one content window: the section bar above, and below it the main menu, a component, or a page beside
+/// its topics. It turns messages, commands and component events into calls of the objects it owns.
+class CKalyxoView : public platform::CView {
+  public:
+    CKalyxoView();
+    ~CKalyxoView() override;
+
+    static const platform::CRuntimeClass runtimeClass;
+    const platform::CRuntimeClass& GetRuntimeClass() const override { return runtimeClass; }
+    const platform::MessageMap* GetMessageMap() const override;
+    const platform::EventSinkMap* GetEventSinkMap() const override;
+
+    bool OnCommand(platform::WPARAM wParam, platform::LPARAM lParam) override;
+    void OnInitialUpdate() override;
+    void OnDraw(platform::CDC& dc) override;
+
+    /// Shows a section in page mode and, unless `pageNumber` is 0, opens that page.
+    void OpenSection(std::int16_t sectionCode, std::int32_t pageNumber);
+    /// Prepares a page, shows it and records the current address in the history.
+    void OpenPage(std::int32_t pageNumber);
+    void GoBack();
+    void GoForward();
+    void ShowMainMenu();
+    void ShowPeriodicTable();
+    void ShowDataAnalyser();
+
+    ContentMode Mode() const { return m_mode; }
+    /// What page mode shows; keeps its last value in the other modes.
+    const PageAddress& Address() const { return m_address; }
+    const History& Places() const { return m_history; }
+    const SectionBar& Bar() const { return m_bar; }
+    const MainMenuScreen& Menu() const { return m_menu; }
+    const PageContents& Contents() const { return m_contents; }
+    const PageCache& Cache() const { return m_cache; }
+    bool StartupFailed() const { return m_bStartupFailed; }
+    HostedComponents& Components() { return m_components; }
+    CSplitterBar& Splitter() { return m_splitter; }
+
+  private:
+    // Window messages
+    void OnSize(platform::UINT type, int width, int height);
+    bool OnSetCursor();
+    void OnLButtonDown(platform::UINT flags, platform::CPoint point);
+    bool OnEraseBkgnd(platform::CDC& dc);
+    void OnMouseMove(platform::UINT flags, platform::CPoint point);
+    void OnTimer(platform::UINT id);
+    void OnDestroy();
+
+    // Commands and their rules
+    template <std::size_t Slot>
+    void OnSection();
+    template <std::size_t Slot>
+    void OnUpdateSection(platform::CCmdUI& ui);
+    void OnCut();
+    void OnCopy();
+    void OnPaste();
+    void OnCopyAllData();
+    void OnCopySelected();
+    void OnCopyGraph();
+    void OnUpdateCopy(platform::CCmdUI& ui);
+    void OnUpdateCutAndPaste(platform::CCmdUI& ui);
+    void OnUpdateCopyAllData(platform::CCmdUI& ui);
+    void OnUpdateCopySelected(platform::CCmdUI& ui);
+    void OnUpdateCopyGraph(platform::CCmdUI& ui);
+    void OnUpdateBack(platform::CCmdUI& ui);
+    void OnUpdateForward(platform::CCmdUI& ui);
+    void OnUpdatePeriodicTable(platform::CCmdUI& ui);
+    void OnUpdateDataAnalyser(platform::CCmdUI& ui);
+
+    // Component events
+    bool OnPageChosen(std::int32_t pageNumber, std::int32_t pageId);
+    bool OnItemChosen(std::int32_t itemCode);
+    bool OnElementChosen(std::int16_t elementKey);
+    bool OnBeforeNavigate(const std::string& url, std::int32_t flags, const std::string& frame,
+                          const platform::Variant& postData, const std::string& headers, bool* cancel);
+
+    // Start-up
+    void readyBrowser();
+    CacheLocation cacheLocation() const;
+    bool createComponents();
+    void tellOutdatedComponents();
+    void openCache();
+    void loadElementIndex();
+    void loadPictures();
+
+    // Navigation
+    void replayHistory();
+    void restorePage(const PageAddress& place);
+    void recordHistory(const PageAddress& place) { m_history.Record(place); }
+    void showPreparedPage(const std::string& target);
+    void openSectionOfSlot(int slot);
+
+    // Modes and panes
+    void selectSlot(int slot);
+    void hideComponentOfMode();
+    void leaveMode();
+    void enterPageMode(std::int16_t sectionCode);
+    void layOutPage();
+    void placeWhole(platform::CWnd& component);
+    void splitterMoved();
+    platform::CSize clientSize() const;
+
+    // Hovering
+    bool hitTestBar(platform::CPoint point);
+    bool isUnder(platform::CPoint point) const;
+    void paintMainMenu(platform::CDC& dc);
+    void hoverMainMenu(platform::CPoint point);
+    bool focusIsInSelectEdit() const;
+
+    ContentMode m_mode = ContentMode::MainMenu;
+    PageAddress m_address;
+    History m_history;
+    PageContents m_contents;
+    SectionBar m_bar;
+    MainMenuScreen m_menu;
+    PageCache m_cache;
+    std::optional<PagePreparer> m_preparer;
+    ElementIndex m_elements;
+    HostedComponents m_components;
+    CSplitterBar m_splitter;
+    platform::CCursor m_handCursor;
+    bool m_bLayoutPending = false;
+    /// Until the first paint neither navigations nor the mouse are looked at.
+    bool m_bInterceptionSuppressed = true;
+    bool m_bStartupFailed = false;
+};
+
+}  // namespace kalyxo

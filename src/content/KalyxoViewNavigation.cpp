@@ -1,0 +1,115 @@
+#include "formats/PageNumber.h"
+#include "formats/SectionTable.h"
+#include "platform/framework/WinApp.h"
+#include "src/app/KalyxoApp.h"
+#include "src/content/GlossaryMarkup.h"
+#include "src/content/KalyxoView.h"
+
+/// How the view comes to a page: sections, events of the components, and the history.
+namespace kalyxo {
+
+using namespace platform;
+
+void CKalyxoView::OpenSection(std::int16_t sectionCode, std::int32_t pageNumber) {
+    const bool needLayout = m_mode != ContentMode::Page;
+    enterPageMode(sectionCode);
+    // The page is opened before the panes are laid out.
+    if (pageNumber > 0) OpenPage(pageNumber);
+    if (needLayout) layOutPage();
+}
+
+void CKalyxoView::openSectionOfSlot(int slot) {
+    const std::int16_t code = SectionCommands()[static_cast<std::size_t>(slot)].code;
+    const std::int32_t startPage = formats::sectionByCode(code)->startPage;
+    m_address.pageId = startPage;
+    m_address.itemCode = 0;
+    OpenSection(code, startPage);
+}
+
+void CKalyxoView::OpenPage(std::int32_t pageNumber) {
+    if (!m_preparer) return;  // a start that failed has no cache
+    recordHistory(m_address);
+    // A number that names no file is reported like a page that is missing.
+    const std::string source =
+        TheApp().m_strDataFolder + formats::pagePath(pageNumber).value_or(std::to_string(pageNumber));
+    const std::string target = m_cache.NextTarget();
+    switch (m_preparer->Prepare(source, target, m_contents)) {
+        case PrepareResult::prepared:
+            break;
+        case PrepareResult::noSource:
+            AfxMessageBox("ERROR: Can't open " + source);
+            break;
+        case PrepareResult::noTarget:
+            AfxMessageBox("Unable to create temporary file");
+            break;
+    }
+    showPreparedPage(target);
+}
+
+void CKalyxoView::showPreparedPage(const std::string& target) {
+    const std::string redirect = m_contents.video ? m_cache.WriteRedirect(target) : std::string();
+    m_components.browser.Navigate(redirect.empty() ? target : redirect,
+                                  Variant(CWebBrowser::kNoHistoryNoCache));
+    m_cache.DeleteOldPages();
+}
+
+bool CKalyxoView::OnPageChosen(std::int32_t pageNumber, std::int32_t pageId) {
+    m_address.pageId = pageId;
+    m_address.itemCode = 0;
+    OpenPage(pageNumber);
+    return true;
+}
+
+bool CKalyxoView::OnItemChosen(std::int32_t itemCode) {
+    m_address.itemCode = itemCode;
+    OpenPage(itemCode);
+    return true;
+}
+
+bool CKalyxoView::OnElementChosen(std::int16_t elementKey) {
+    constexpr std::int16_t elementsAndCompounds = 6;
+    const std::optional<std::int32_t> page = m_elements.PageOf(elementKey);
+    if (m_mode != ContentMode::PeriodicTable || !page) return true;
+    OpenSection(elementsAndCompounds, 0);
+    m_components.select.ShowItem(*page, 0, false);
+    return true;
+}
+
+bool CKalyxoView::OnBeforeNavigate(const std::string& url, std::int32_t, const std::string&, const Variant&,
+                                   const std::string&, bool* cancel) {
+    if (!m_bInterceptionSuppressed && IsGlossaryLink(url)) *cancel = true;
+    return true;
+}
+
+void CKalyxoView::GoBack() {
+    if (m_history.StepBack()) replayHistory();
+}
+
+void CKalyxoView::GoForward() {
+    if (m_history.StepForward()) replayHistory();
+}
+
+void CKalyxoView::replayHistory() {
+    const History::Replay replay(m_history);
+    const PageAddress place = m_history.Current();
+    if (place.sectionCode == kPeriodicTableCode) {
+        ShowPeriodicTable();
+    } else if (place.sectionCode == kDataAnalyserCode) {
+        ShowDataAnalyser();
+    } else if (SlotOfSection(place.sectionCode) >= 0) {
+        restorePage(place);
+    }
+}
+
+void CKalyxoView::restorePage(const PageAddress& place) {
+    m_address = place;
+    if (IsSectionStartPage(place.pageId)) {
+        OpenSection(place.sectionCode, place.pageId);
+    } else {
+        OpenSection(place.sectionCode, 0);
+        m_components.select.ShowItem(place.pageId, place.itemCode, false);
+    }
+    m_components.select.ShowItem(place.pageId, place.itemCode, false);
+}
+
+}  // namespace kalyxo

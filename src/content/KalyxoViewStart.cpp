@@ -1,0 +1,78 @@
+#include "platform/automation/BrowserPolicy.h"
+#include "platform/automation/PluginTypes.h"
+#include "platform/framework/Resources.h"
+#include "platform/framework/WinApp.h"
+#include "platform/machine/Machine.h"
+#include "src/app/KalyxoApp.h"
+#include "src/content/KalyxoView.h"
+#include "src/resources/ResourceIds.h"
+
+/// The view's first update.
+namespace kalyxo {
+
+using namespace platform;
+
+void CKalyxoView::OnInitialUpdate() {
+    CView::OnInitialUpdate();
+    m_handCursor = CCursor::resource(IDC_HAND_CURSOR);
+    SetTimer(1, 250);
+    readyBrowser();
+    if (!createComponents()) {
+        m_bStartupFailed = true;
+        return;
+    }
+    m_components.browser.Navigate(TheApp().m_strDataFolder + "a.htm");
+    openCache();
+    loadElementIndex();
+    loadPictures();
+    tellOutdatedComponents();
+}
+
+void CKalyxoView::readyBrowser() {
+    BrowserPolicy::instance().setAllowedFolders({TheApp().m_strDataFolder, cacheLocation().folder});
+    for (const char* video : {"webm", "mp4"}) PluginTypes::instance().add(video, ":/plugins/video.html");
+    PluginTypes::instance().add("mol", ":/plugins/molecule.html");
+}
+
+CacheLocation CKalyxoView::cacheLocation() const {
+    const CKalyxoApp& app = TheApp();
+    return LocateCache(app.m_strProgramFolder, machine().tempFolder(), app.m_bOutsideInstallFolder);
+}
+
+bool CKalyxoView::createComponents() {
+    CKalyxoApp& app = TheApp();
+    const ComponentSurroundings surroundings{app.m_strProgramFolder, app.m_strDataFolder};
+    const std::optional<std::string> failure = m_components.Create(*this, surroundings, app.m_versions);
+    if (failure) {
+        AfxMessageBox(*failure);
+        return false;
+    }
+    app.m_hwndSelectEdit = m_components.select.GetEditWindow();
+    app.m_hwndSelectTarget = m_components.select.GetAuxHandle();
+    return true;
+}
+
+void CKalyxoView::tellOutdatedComponents() {
+    for (const std::string_view key : OutdatedComponents(TheApp().m_versions)) {
+        AfxMessageBox(std::string(key).append(LoadString(IDS_COMPONENT_OUTDATED)));
+    }
+}
+
+void CKalyxoView::openCache() {
+    m_cache.Open(cacheLocation());
+    m_preparer.emplace(machine().files(), TheApp().m_strDataFolder, m_cache.Folder());
+}
+
+void CKalyxoView::loadElementIndex() {
+    if (!m_elements.Load(machine().files(), TheApp().m_strDataFolder)) {
+        AfxMessageBox("Can't open ptable.ndx");
+    }
+}
+
+void CKalyxoView::loadPictures() {
+    m_menu.LoadPictures(machine().files(), TheApp().m_strDataFolder + "images\\", [](PictureResult result) {
+        AfxMessageBox(result == PictureResult::outOfMemory ? "Out of memory" : "BMP file error");
+    });
+}
+
+}  // namespace kalyxo

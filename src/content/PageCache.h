@@ -1,0 +1,56 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace platform {
+class FileSystem;
+}
+
+namespace kalyxo {
+
+/// Where the cache folder lies.
+struct CacheLocation {
+    std::string folder;  ///< ends with a backslash
+    bool removeAtEnd = false;
+};
+
+/// In the program folder, or in the temporary folder when the program runs outside its installed folder, where
+/// it is removed at the end.
+CacheLocation LocateCache(std::string_view programFolder, std::string_view tempFolder,
+                          bool outsideInstallFolder);
+
+/// The folder of prepared pages: its numbered files, the redirect page, and their deletion.
+class PageCache {
+  public:
+    explicit PageCache(const platform::FileSystem& files) : m_files(files) {}
+
+    /// Fixes the place and creates the folder; a failure shows with the first page.
+    void Open(CacheLocation location);
+
+    const std::string& Folder() const { return m_location.folder; }
+    /// Path for the next prepared page.
+    std::string NextTarget();
+    /// Writes the page that sends the browser on to `target`; its path, empty when it cannot be written.
+    std::string WriteRedirect(std::string_view target) const;
+
+    /// Deletes all but the twenty newest pages.
+    void DeleteOldPages();
+    /// Deletes everything that was written.
+    void DeleteAll();
+
+    int NextNumber() const { return m_nNext; }
+    int OldestNumber() const { return m_nOldest; }
+
+  private:
+    std::string numbered(int number) const;
+    std::string redirectPath() const;
+    void deletePagesBelow(int limit);
+
+    const platform::FileSystem& m_files;
+    CacheLocation m_location;
+    int m_nNext = 1;
+    int m_nOldest = 1;
+};
+
+}  // namespace kalyxo

@@ -1,0 +1,74 @@
+#include "src/display/Picture.h"
+
+#include <array>
+#include <cstring>
+#include <new>
+#include <optional>
+
+#include "platform/files/BinaryFile.h"
+
+namespace kalyxo {
+
+using platform::BinaryFile;
+using platform::BITMAPINFOHEADER;
+
+namespace {
+
+/// Offsets in a BMP file.
+constexpr std::uint64_t kPixelOffsetAt = 10;
+constexpr std::uint64_t kHeaderAt = 14;
+static_assert(sizeof(BITMAPINFOHEADER) == 40, "the header is read as it stands in the file");
+
+template <class T>
+bool readAt(const BinaryFile& file, std::uint64_t offset, T& value) {
+    return file.readAt(offset, std::as_writable_bytes(std::span(&value, 1))) == sizeof(T);
+}
+
+/// Bytes of the pixel block, or nothing when the picture is of a kind that is not drawn or the file is too
+/// short for it.
+std::optional<std::uint64_t> pixelBytes(const BITMAPINFOHEADER& header, std::uint64_t available) {
+    if (header.biBitCount != 24 || header.biCompression != 0) return std::nullopt;
+    if (header.biWidth <= 0 || header.biHeight <= 0) return std::nullopt;
+    // Both factors stay below 2^33, so the comparison is made by division, where nothing can overflow.
+    const std::uint64_t stride = PictureStride(static_cast<std::uint32_t>(header.biWidth));
+    const auto rows = static_cast<std::uint64_t>(header.biHeight);
+    if (rows > available / stride) return std::nullopt;
+    return rows * stride;
+}
+
+}  // namespace
+
+PictureResult Picture::Load(const platform::FileSystem& files, std::string_view path) {
+    const std::optional<BinaryFile> file = BinaryFile::open(files, path);
+    if (!file) return PictureResult::missing;
+    m_pixels.clear();
+    std::uint32_t pixelOffset = 0;
+    BITMAPINFOHEADER header;
+    if (!readAt(*file, kPixelOffsetAt, pixelOffset) || !readAt(*file, kHeaderAt, header) ||
+        pixelOffset > file->size()) {
+        return PictureResult::fileError;
+    }
+    const std::optional<std::uint64_t> bytes = pixelBytes(header, file->size() - pixelOffset);
+    if (!bytes) return PictureResult::fileError;
+    try {
+        m_pixels.resize(*bytes);
+    } catch (const std::bad_alloc&) {
+        return PictureResult::outOfMemory;
+    }
+    if (file->readAt(pixelOffset, std::as_writable_bytes(std::span(m_pixels))) != *bytes) {
+        m_pixels.clear();
+        return PictureResult::fileError;
+    }
+    m_header = header;
+    return PictureResult::loaded;
+}
+
+platform::CSize Picture::Size() const {
+    return Loaded() ? platform::CSize{m_header.biWidth, m_header.biHeight} : platform::CSize{};
+}
+
+void Picture::Draw(platform::CDC& dc, int x, int y) const {
+    if (Loaded()) dc.SetDIBitsToDevice(x, y, m_header, m_pixels.data());
+}
+
+}  // namespace kalyxo

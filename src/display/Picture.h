@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+#include "platform/windows/DC.h"
+
+namespace platform {
+class FileSystem;
+}
+
+namespace kalyxo {
+
+/// How loading a picture ended.
+enum class PictureResult { loaded, missing, outOfMemory, fileError };
+
+/// A 24-bit bottom-up bitmap from a BMP file, ready to be drawn as it is.
+class Picture {
+  public:
+    /// Loads a BMP file. Pictures of another depth, compressed, top-down, or with fewer bytes than their
+    /// header says are file errors. A missing file leaves the picture as it was; any other failure leaves it
+    /// without pixels.
+    PictureResult Load(const platform::FileSystem& files, std::string_view path);
+
+    bool Loaded() const { return !m_pixels.empty(); }
+    /// Size in pixels; 0 × 0 while nothing is loaded.
+    platform::CSize Size() const;
+
+    /// Draws the whole picture with its top-left corner at (x, y); nothing while it has no pixels.
+    void Draw(platform::CDC& dc, int x, int y) const;
+
+  private:
+    platform::BITMAPINFOHEADER m_header;
+    std::vector<std::uint8_t> m_pixels;
+};
+
+/// Length of a row in bytes: three a pixel, rounded up to a multiple of 4.
+constexpr std::uint64_t PictureStride(std::uint32_t width) {
+    return (std::uint64_t{width} * 3 + 3) / 4 * 4;
+}
+
+}  // namespace kalyxo

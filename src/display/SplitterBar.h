@@ -1,0 +1,55 @@
+#pragma once
+
+#include "platform/windows/Wnd.h"
+
+namespace kalyxo {
+
+/// The bar between two panes. The user drags it within a range; when the button is released it tells its
+/// parent with WM_COMMAND, wParam = position, lParam = its control id. The parent lays out the panes.
+class CSplitterBar : public platform::CWnd {
+  public:
+    static constexpr int kThickness = 7;
+
+    CSplitterBar();
+    const platform::CRuntimeClass& GetRuntimeClass() const override;
+    const platform::MessageMap* GetMessageMap() const override;
+
+    /// Makes the window at (x, y); the coordinate along the moving axis is first brought into [min, max]. A
+    /// horizontal bar moves up and down, a vertical one left and right.
+    bool Create(int x, int y, int length, bool horizontal, int min, int max, platform::CWnd& parent);
+
+    /// Coordinate along the moving axis in the parent's client area; −1 before creation.
+    int GetPos() const { return m_nPos; }
+    /// Changes the range; a bar outside of it is pulled in, and the parent told.
+    void SetRange(int min, int max);
+    /// Changes the length without moving the bar.
+    void SetLength(int length);
+
+  private:
+    void OnPaint();
+    bool OnSetCursor();
+    void OnLButtonDown(platform::UINT flags, platform::CPoint point);
+    void OnLButtonUp(platform::UINT flags, platform::CPoint point);
+    void OnMouseMove(platform::UINT flags, platform::CPoint point);
+
+    int along(platform::CPoint p) const { return m_bHorizontal ? p.y : p.x; }
+    platform::CRect barRect(int length) const;
+    int currentLength() const;
+    void moveTo(int position);
+    void notifyParent();
+    void paintRaised(platform::CDC& dc) const;
+    void paintDragged(platform::CDC& dc) const;
+
+    int m_nPos = -1;
+    int m_nFixed = 0;
+    int m_nGrab = 0;
+    platform::CBitmap m_pattern;
+    int m_nMin = 0;
+    int m_nMax = 0;
+    bool m_bHorizontal = false;
+    platform::CWnd* m_pParent = nullptr;
+    bool m_bDragging = false;
+    platform::CCursor m_cursor;
+};
+
+}  // namespace kalyxo

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/windows/Messages.h"
+
+namespace kalyxo {
+
+/// String table ids.
+inline constexpr platform::UINT IDS_OLE_INIT_FAILED = 100;
+inline constexpr platform::UINT IDS_SETTINGS_KEY = 201;
+inline constexpr platform::UINT IDS_APP_TITLE = 57344;
+inline constexpr platform::UINT IDS_REGISTRY_UNREADABLE = 61216;
+inline constexpr platform::UINT IDS_NO_BROWSER = 61218;
+inline constexpr platform::UINT IDS_COMPONENT_OUTDATED = 61226;
+inline constexpr platform::UINT IDS_NO_PERIODIC_TABLE = 61229;
+
+/// Bitmap ids.
+inline constexpr platform::UINT IDB_SPLITTER_PATTERN = 133;
+inline constexpr platform::UINT IDB_BAR_SHADOW = 188;
+inline constexpr platform::UINT IDB_BAR_SELECTED = 195;
+inline constexpr platform::UINT IDB_BAR_HOVER = 196;
+inline constexpr platform::UINT IDB_BAR_NORMAL = 197;
+
+/// Cursor ids.
+inline constexpr platform::UINT IDC_RESIZE_HORIZONTAL = 131;
+inline constexpr platform::UINT IDC_RESIZE_VERTICAL = 132;
+inline constexpr platform::UINT IDC_HAND_CURSOR = 145;
+
+}  // namespace kalyxo

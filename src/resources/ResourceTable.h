@@ -1,0 +1,10 @@
+#pragma once
+
+#include "platform/framework/Resources.h"
+
+namespace kalyxo {
+
+/// Menu, accelerators and texts of the program.
+const platform::ResourceTable& ProgramResources();
+
+}  // namespace kalyxo

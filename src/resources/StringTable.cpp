@@ -1,0 +1,34 @@
+#include "src/resources/StringTable.h"
+
+#include <array>
+
+#include "platform/text/GreekLiteral.h"
+#include "src/resources/ResourceIds.h"
+
+namespace kalyxo {
+
+using namespace platform::literals;
+using platform::StringResource;
+
+namespace {
+
+constexpr std::array kStrings = {
+    StringResource{IDS_OLE_INIT_FAILED,
+                   "OLE initialization failed.  Make sure that the OLE libraries are the correct version."},
+    StringResource{IDS_SETTINGS_KEY, "Software\\Orvane\\Kalyxo Greek\\"},
+    StringResource{IDS_APP_TITLE, "Kalyxo"},
+    StringResource{IDS_REGISTRY_UNREADABLE,
+                   "Δεν είναι δυνατή η λήψη πληροφοριών από το μητρώο. "
+                   "Παρακαλώ κάντε νέα εγκατάσταση και δοκιμάστε ξανά."_gr},
+    StringResource{IDS_NO_BROWSER, "Δεν έχει γίνει σωστά η εγκατάσταση του Internet Explorer"_gr},
+    StringResource{IDS_COMPONENT_OUTDATED,
+                   ".OCX έχει λήξει η προθεσμία χρήσης και ίσως να δημιουργήσει προβλήματα εφόσον εκτελείται."
+                   "\r\n\r\nΠαρακαλώ κάντε νέα εγκατάσταση και ξαναπροσπαθήστε."_gr},
+    StringResource{IDS_NO_PERIODIC_TABLE, "Δεν είναι δυνατό να φορτωθεί ο Περιοδικός Πίνακας."_gr},
+};
+
+}  // namespace
+
+std::span<const StringResource> StringTable() { return kStrings; }
+
+}  // namespace kalyxo

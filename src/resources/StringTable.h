@@ -1,0 +1,12 @@
+#pragma once
+
+#include <span>
+
+#include "platform/framework/Resources.h"
+
+namespace kalyxo {
+
+/// The texts that the program shows by id.
+std::span<const platform::StringResource> StringTable();
+
+}  // namespace kalyxo

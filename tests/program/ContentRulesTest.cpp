@@ -1,0 +1,168 @@
+#include <gtest/gtest.h>
+
+#include "src/components/ElementIndex.h"
+#include "src/content/BarLayout.h"
+#include "src/content/History.h"
+#include "src/content/HostedComponents.h"
+#include "src/content/MainMenuLayout.h"
+#include "src/content/PageCache.h"
+#include "src/display/Picture.h"
+#include "tests/program/TestFolders.h"
+
+namespace kalyxo {
+namespace {
+
+using platform::CPoint;
+
+TEST(HistoryTest, KeepsTheLastFifty) {
+    History history;
+    for (int page = 1; page <= 51; ++page) history.Record({1, page, 0});
+    EXPECT_EQ(history.At(0).pageId, 2);
+    int steps = 0;
+    while (history.StepBack()) ++steps;
+    EXPECT_EQ(steps, 49);
+}
+
+TEST(HistoryTest, ANewPlaceEndsForward) {
+    History history;
+    EXPECT_FALSE(history.StepBack() || history.StepForward());
+    for (int page = 1; page <= 3; ++page) history.Record({1, page, 0});
+    history.StepBack();
+    EXPECT_TRUE(history.CanGoForward());
+    {
+        const History::Replay replay(history);
+        history.Record({1, 9, 0});
+    }
+    EXPECT_EQ(history.Current().pageId, 2);
+    history.Record({1, 4, 0});
+    EXPECT_FALSE(history.CanGoForward());
+    EXPECT_EQ(history.LastIndex(), 2);
+}
+
+TEST(BarLayoutTest, FindsTheSlotUnderAPoint) {
+    BarLayout bar;
+    bar.SetWidth(800);
+    const struct {
+        CPoint p;
+        int slot;
+    } cases[] = {{{0, 10}, -1},   {{1, 0}, 0},    {{51, 10}, 0},  {{52, 10}, 1},   {{467, 45}, 8},
+                 {{468, 10}, -1}, {{689, 10}, -1}, {{690, 10}, 9}, {{741, 10}, 9},  {{742, 10}, 10},
+                 {{799, 10}, 10}, {{800, 10}, -1}, {{10, 46}, -1}, {{10, -1}, -1}};
+    for (const auto& c : cases) EXPECT_EQ(bar.SlotAt(c.p), c.slot) << c.p.x << "," << c.p.y;
+    bar.SetWidth(636);
+    EXPECT_EQ(bar.Place(9, true).x, 526);
+    EXPECT_EQ(bar.Place(10, false).x, 578);
+    EXPECT_EQ(bar.Place(11, false).width, 58);
+}
+
+TEST(MainMenuLayoutTest, AreasIncludeTheirBounds) {
+    EXPECT_EQ(MainMenuLayout::ItemAt({40, 239}), 0);
+    EXPECT_EQ(MainMenuLayout::ItemAt({98, 291}), 0);
+    EXPECT_EQ(MainMenuLayout::ItemAt({99, 291}), -1);
+    EXPECT_EQ(MainMenuLayout::ItemAt({587, 213}), 7);
+    EXPECT_EQ(MainMenuLayout::ItemAt({-9999, 0}), -1);
+}
+
+TEST(MainMenuLayoutTest, ThePictureIsCentredBelowTheBar) {
+    EXPECT_EQ(MainMenuLayout::Origin({1000, 700}, {628, 384}), (CPoint{186, 183}));
+    EXPECT_EQ(MainMenuLayout::Origin({600, 300}, {628, 384}), (CPoint{-14, 50}));
+}
+
+TEST(PageCacheTest, KeepsTwentyPagesAndDeletesAllAtTheEnd) {
+    TestDrives drives;
+    PageCache cache(drives.files);
+    cache.Open(LocateCache("C:\\Kalyxo", "C:\\", true));
+    EXPECT_EQ(cache.Folder(), "C:\\klyx\\");
+    for (int i = 1; i <= 25; ++i) {
+        drives.put(cache.NextTarget(), "page");
+        cache.DeleteOldPages();
+    }
+    EXPECT_FALSE(drives.has("C:\\klyx\\5.htm"));
+    EXPECT_TRUE(drives.has("C:\\klyx\\6.htm"));
+    for (const char* name : {"bigvid.htm", "chime.mol"}) drives.put(cache.Folder() + name, "x");
+    EXPECT_EQ(drives.get(cache.WriteRedirect("C:\\klyx\\25.htm")),
+              "<HTML><HEAD><META HTTP-EQUIV=\"Refresh\" Content=\"0; URL=C:\\klyx\\25.htm\"></HEAD>"
+              "<BODY BGCOLOR=\"#949494\"></BODY></HTML>");
+    cache.DeleteAll();
+    EXPECT_FALSE(drives.has("C:\\klyx"));
+}
+
+TEST(PageCacheTest, InsideTheInstalledFolderTheFolderStays) {
+    TestDrives drives;
+    drives.put("C:\\Kalyxo\\kalyxo.exe", "");
+    PageCache cache(drives.files);
+    cache.Open(LocateCache("C:\\Kalyxo", "C:\\", false));
+    cache.DeleteAll();
+    EXPECT_TRUE(drives.has("C:\\Kalyxo\\cache"));
+    PageCache nowhere(drives.files);
+    nowhere.Open({"C:\\no\\such\\", false});
+    EXPECT_EQ(nowhere.WriteRedirect("x"), "");
+}
+
+TEST(ElementIndexTest, TheFirstRecordOfAKeyCounts) {
+    TestDrives drives;
+    ElementIndex index;
+    EXPECT_FALSE(index.Load(drives.files, "D:\\"));
+    drives.put("D:\\ptable.ndx", std::string("\x01\x0A\x00\x00\x00\xFF\x0B\x00\x00\x00\x01", 11));
+    EXPECT_TRUE(index.Load(drives.files, "D:\\"));
+    EXPECT_EQ(index.Count(), 2U);
+    EXPECT_EQ(index.PageOf(1), 10);
+    EXPECT_EQ(index.PageOf(255), 11);
+    EXPECT_FALSE(index.PageOf(-1) || index.PageOf(257) || index.PageOf(2));
+}
+
+TEST(ComponentVersionsTest, AreComparedAsText) {
+    EXPECT_TRUE(OutdatedComponents({"1.0.023", "1.0.21", "1.0.100", "1.0.012", "1.0.010"}).empty());
+    EXPECT_EQ(OutdatedComponents({"1.0.022", "", "1.0.03", "1.0.0", "0"}),
+              (std::vector<std::string_view>{"KZDATAAN", "KYPT", "KZSELECT", "KYMOL", "KZZOOM"}));
+}
+
+/// The bytes of a BMP file with `pixelBytes` bytes of pixels.
+std::string bitmap(std::int32_t width, std::int32_t height, std::uint16_t bits, std::size_t pixelBytes,
+                   std::uint32_t offset = 54) {
+    std::string file(54, '\0');
+    const auto put = [&](std::size_t at, auto value) {
+        file.replace(at, sizeof(value), std::string(reinterpret_cast<const char*>(&value), sizeof(value)));
+    };
+    put(10, offset);
+    put(14, std::uint32_t{40});
+    put(18, width);
+    put(22, height);
+    put(28, bits);
+    return file + std::string(pixelBytes, '\x7F');
+}
+
+TEST(PictureTest, TakesOnlyWholeBottomUp24BitPictures) {
+    TestDrives drives;
+    constexpr std::int32_t most = 0x7FFFFFFF;
+    const struct {
+        const char* what;
+        std::string file;
+        PictureResult result;
+    } cases[] = {
+        {"padded rows", bitmap(10, 2, 24, 64), PictureResult::loaded},
+        {"one byte short", bitmap(10, 2, 24, 63), PictureResult::fileError},
+        {"empty file", "", PictureResult::fileError},
+        {"cut header", bitmap(10, 2, 24, 0).substr(0, 30), PictureResult::fileError},
+        {"top-down", bitmap(10, -2, 24, 64), PictureResult::fileError},
+        {"8-bit", bitmap(10, 2, 8, 64), PictureResult::fileError},
+        {"no width", bitmap(0, 2, 24, 64), PictureResult::fileError},
+        {"absurd size", bitmap(most, most, 24, 64), PictureResult::fileError},
+        {"width whose stride wraps in 32 bits", bitmap(0x55555556, 1, 24, 64), PictureResult::fileError},
+        {"pixels beyond the file", bitmap(1, 1, 24, 4, 0xFFFFFFF0U), PictureResult::fileError},
+    };
+    for (const auto& c : cases) {
+        drives.put("D:\\p.bmp", c.file);
+        Picture picture;
+        EXPECT_EQ(picture.Load(drives.files, "D:\\p.bmp"), c.result) << c.what;
+        EXPECT_EQ(picture.Loaded(), c.result == PictureResult::loaded) << c.what;
+    }
+    Picture picture;
+    drives.put("D:\\p.bmp", bitmap(10, 2, 24, 64));
+    picture.Load(drives.files, "D:\\p.bmp");
+    EXPECT_EQ(picture.Load(drives.files, "D:\\none.bmp"), PictureResult::missing);
+    EXPECT_TRUE(picture.Loaded());
+}
+
+}  // namespace
+}  // namespace kalyxo
