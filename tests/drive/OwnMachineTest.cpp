@@ -1,0 +1,123 @@
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <fstream>
+#include <iterator>
+
+#include "platform/framework/Resources.h"
+#include "src/app/OwnMachine.h"
+#include "src/app/Settings.h"
+#include "src/resources/ResourceTable.h"
+
+namespace kalyxo {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kModule = "ActiveX/kyptgk.ocx";
+constexpr const char* kCopiedModule = "own/c/Kalyxo/ActiveX/kyptgk.ocx";
+
+/// What is installed, and a place for the user's machine.
+class OwnMachine : public testing::Test {
+  protected:
+    OwnMachine() : m_root(fs::temp_directory_path() / ("own-machine-" + std::to_string(::getpid()))) {
+        platform::SetResources(ProgramResources());
+        write(kModule, "version one");
+        write("content/data/a.htm", "<HTML>");
+        write("bin/kalyxo", "");
+    }
+    ~OwnMachine() override { fs::remove_all(m_root); }
+
+    void write(const std::string& name, const std::string& bytes) const {
+        fs::create_directories((m_root / name).parent_path());
+        std::ofstream(m_root / name, std::ios::binary) << bytes;
+    }
+    std::string read(const std::string& name) const {
+        std::ifstream in(m_root / name, std::ios::binary);
+        return {std::istreambuf_iterator<char>(in), {}};
+    }
+    platform::Loaded<std::unique_ptr<platform::Machine>> open() const {
+        const PresentScreen present{{1280, 800, 24}, {{"SM_CXMAXIMIZED", 1288}}};
+        return OpenOwnMachine(m_root / "own", FindInstalledFiles(m_root / "bin"), present);
+    }
+
+    fs::path m_root;
+};
+
+TEST_F(OwnMachine, FirstStartNeedsNoQuestion) {
+    const auto opened = open();
+    ASSERT_TRUE(opened) << opened.error;
+    platform::Machine& machine = **opened.value;
+    EXPECT_TRUE(machine.files().exists("D:\\a.htm"));
+    EXPECT_TRUE(machine.files().exists("Z:\\etc"));
+    EXPECT_EQ(machine.files().readAll("C:\\Kalyxo\\ActiveX\\kyptgk.ocx", 100), "version one");
+    const auto key = machine.registry().openKey(platform::HKEY_LOCAL_MACHINE, SettingsKeyPath());
+    ASSERT_TRUE(key);
+    EXPECT_EQ(key->queryString("Directory", 256), "C:\\Kalyxo");
+    EXPECT_TRUE(machine.registry().openKey(platform::HKEY_CLASSES_ROOT,
+                                           "CLSID\\{5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E101}\\InprocServer32"));
+    const std::string ini = machine.files().readAll("C:\\Kalyxo\\cset.ini", 1000).value_or("");
+    EXPECT_NE(ini.find("DataPath=D:\\\r\n"), std::string::npos);
+    EXPECT_NE(ini.find("Bookmark=C:\\Kalyxo\\bookmark.dat\r\n"), std::string::npos);
+}
+
+TEST_F(OwnMachine, LaterStartsFollowScreenModulesAndContentAndKeepTheRest) {
+    ASSERT_TRUE(open());
+    write("own/c/Kalyxo/bookmark.dat", "kept");
+    write(kModule, "version two");
+    fs::rename(m_root / "content", m_root / "elsewhere");
+    write("share/kalyxo/content/a.htm", "<HTML>");
+
+    const auto opened = open();
+    ASSERT_TRUE(opened) << opened.error;
+    EXPECT_EQ((*opened.value)->screen().width, 1280);
+    EXPECT_EQ((*opened.value)->metric(platform::SM_CXMAXIMIZED), 1288);
+    EXPECT_EQ(read(kCopiedModule), "version two");
+    EXPECT_TRUE((*opened.value)->files().exists("D:\\a.htm"));
+    EXPECT_EQ(read("own/c/Kalyxo/bookmark.dat"), "kept");
+}
+
+TEST_F(OwnMachine, MakingThatWasBrokenOffIsTakenUpAgain) {
+    for (const char* missing : {"own/registry.reg", "own/machine.json"}) {
+        ASSERT_TRUE(open());
+        fs::remove(m_root / missing);
+        fs::remove(m_root / kCopiedModule);
+        const auto opened = open();
+        ASSERT_TRUE(opened) << opened.error;
+        EXPECT_TRUE((*opened.value)->registry().openKey(platform::HKEY_LOCAL_MACHINE, SettingsKeyPath()));
+        EXPECT_TRUE((*opened.value)->files().exists("D:\\a.htm")) << missing;
+        EXPECT_EQ(read(kCopiedModule), "version one");
+    }
+}
+
+TEST_F(OwnMachine, DamagedFilesAreNamedAndLeft) {
+    for (const char* name : {"own/machine.json", "own/registry.reg"}) {
+        ASSERT_TRUE(open());
+        write(name, "neither JSON nor registry");
+        const auto opened = open();
+        EXPECT_FALSE(opened) << name;
+        EXPECT_NE(opened.error.find((m_root / name).string()), std::string::npos) << opened.error;
+        EXPECT_EQ(read(name), "neither JSON nor registry");
+        fs::remove_all(m_root / "own");
+    }
+}
+
+TEST_F(OwnMachine, NothingInstalledIsAnError) {
+    fs::remove_all(m_root / "ActiveX");
+    write("ActiveX/readme.txt", "");
+    EXPECT_FALSE(open());
+}
+
+TEST_F(OwnMachine, LiesInTheUsersDataFolder) {
+    ::setenv("XDG_DATA_HOME", "/data", 1);
+    EXPECT_EQ(OwnMachineFolder(), "/data/kalyxo");
+    ::setenv("XDG_DATA_HOME", "relative/counts/as/unset", 1);
+    ::setenv("HOME", "/home/x", 1);
+    EXPECT_EQ(OwnMachineFolder(), "/home/x/.local/share/kalyxo");
+    ::unsetenv("XDG_DATA_HOME");
+    ::unsetenv("HOME");
+    EXPECT_EQ(OwnMachineFolder(), "");
+}
+
+}  // namespace
+}  // namespace kalyxo

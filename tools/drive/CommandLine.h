@@ -1,0 +1,35 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+
+namespace drive {
+
+/// Run a script on a machine.
+struct RunScript {
+    std::filesystem::path machine;
+    std::optional<std::filesystem::path> script;  ///< standard input when there is none
+};
+
+/// Make a machine folder.
+struct NewMachine {
+    std::filesystem::path machine;
+    std::filesystem::path data;
+    bool outside = false;
+    bool bare = false;
+};
+
+/// What the arguments ask for, or why they are wrong.
+using Task = std::variant<RunScript, NewMachine, std::string>;
+
+/// Reads the arguments behind the program's name; options in any order.
+Task taskOf(std::span<const char* const> arguments);
+
+/// How the program is called.
+std::string_view usage();
+
+}  // namespace drive

@@ -1,0 +1,16 @@
+#include "tools/drive/CommandTable.h"
+
+#include <algorithm>
+
+namespace drive {
+
+const Command* findCommand(std::string_view name) {
+    for (const auto commands : {programCommands(), inputCommands(), frameCommands(), stateCommands(),
+                                pictureCommands(), pageCommands(), componentCommands(), dialogCommands()}) {
+        const auto found = std::ranges::find(commands, name, &Command::name);
+        if (found != commands.end()) return &*found;
+    }
+    return nullptr;
+}
+
+}  // namespace drive

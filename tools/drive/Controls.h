@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/windows/Messages.h"
+
+namespace platform {
+class ControlHost;
+class WebPageInspector;
+}  // namespace platform
+
+namespace drive {
+
+/// The host of the control in this window, null when it holds none.
+platform::ControlHost* controlIn(platform::HWND window);
+
+/// The web browser that is on show, null when there is none.
+platform::WebPageInspector* browser();
+
+/// Whether a hosted control does something that it will finish by itself.
+bool anyControlBusy();
+
+}  // namespace drive

@@ -1,0 +1,97 @@
+#include <QWidget>
+#include <algorithm>
+#include <array>
+
+#include "tools/drive/Act.h"
+#include "tools/drive/CommandTable.h"
+#include "tools/drive/Keyboard.h"
+#include "tools/drive/Numbers.h"
+#include "tools/drive/Pointer.h"
+#include "tools/drive/Windows.h"
+
+/// Mouse and keyboard.
+namespace drive {
+
+using platform::CPoint;
+using platform::HWND;
+
+namespace {
+
+/// A point of a window's client area.
+struct Spot {
+    HWND window = 0;
+    CPoint point;
+};
+
+/// Reads `X Y [WINDOW]` from an argument on; fails the act when that is no spot.
+std::optional<Spot> spotOf(Act& act, std::size_t first) {
+    const std::optional<int> x = number<int>(act.word(first));
+    const std::optional<int> y = number<int>(act.word(first + 1));
+    const WindowChoice choice = chooseWindow(act.count() > first + 2 ? &act.word(first + 2) : nullptr);
+    if (!x || !y) act.fail("X and Y are whole numbers");
+    if (!choice.error.empty()) act.fail(choice.error);
+    if (!x || !y || choice.window == 0) return std::nullopt;
+    return Spot{choice.window, {*x, *y}};
+}
+
+struct MouseAction {
+    std::string_view name;
+    void (*perform)(Pointer&);
+};
+
+constexpr std::array<MouseAction, 6> kMouseActions = {{
+    {"move", [](Pointer&) {}},
+    {"down", [](Pointer& pointer) { pointer.press(Qt::LeftButton); }},
+    {"up", [](Pointer& pointer) { pointer.release(Qt::LeftButton); }},
+    {"double", [](Pointer& pointer) { pointer.pressAgain(); }},
+    {"rdown", [](Pointer& pointer) { pointer.press(Qt::RightButton); }},
+    {"rup", [](Pointer& pointer) { pointer.release(Qt::RightButton); }},
+}};
+
+void mouse(Act& act, Program&) {
+    const auto action = std::ranges::find(kMouseActions, act.word(0), &MouseAction::name);
+    if (action == kMouseActions.end()) return act.fail("the mouse cannot " + act.word(0));
+    const std::optional<Spot> spot = spotOf(act, 1);
+    if (!spot) return;
+    Pointer::instance().moveTo(spot->window, spot->point);
+    action->perform(Pointer::instance());
+}
+
+void click(Act& act, Program&) {
+    const std::optional<Spot> spot = spotOf(act, 0);
+    if (!spot) return;
+    Pointer& pointer = Pointer::instance();
+    pointer.moveTo(spot->window, spot->point);
+    pointer.press(Qt::LeftButton);
+    pointer.release(Qt::LeftButton);
+}
+
+void key(Act& act, Program&) {
+    const std::optional<KeyStroke> stroke = keyStrokeOf(act.word(0));
+    if (!stroke) return act.fail("no key is named " + act.word(0));
+    if (act.count() == 1) return strikeKey(*stroke, 0);
+    const WindowChoice choice = chooseWindow(&act.word(1));
+    if (choice.window == 0) return act.fail(choice.error);
+    strikeKey(*stroke, choice.window);
+}
+
+void type(Act& act, Program&) { typeText(act.word(0)); }
+
+void focus(Act& act, Program&) {
+    const WindowChoice choice = chooseWindow(&act.word(0));
+    if (choice.window == 0) return act.fail(choice.error);
+    QWidget& widget = widgetOf(choice.window);
+    widget.activateWindow();
+    widget.setFocus(Qt::OtherFocusReason);
+}
+
+constexpr Command kCommands[] = {
+    {"mouse", 3, 4, mouse}, {"click", 2, 3, click}, {"key", 1, 2, key},
+    {"type", 1, 1, type},   {"focus", 1, 1, focus},
+};
+
+}  // namespace
+
+std::span<const Command> inputCommands() { return kCommands; }
+
+}  // namespace drive

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <Qt>
+#include <optional>
+#include <string_view>
+
+namespace drive {
+
+/// A key and the modifiers held with it.
+struct KeyStroke {
+    Qt::Key key = Qt::Key_unknown;
+    Qt::KeyboardModifiers modifiers;
+};
+
+/// Reads a key's name, such as `Enter`, `Delete`, `F6`, `a` or `Ctrl+Shift+C`; names in any letter case.
+/// Nothing for a name that is no key.
+std::optional<KeyStroke> keyStrokeOf(std::string_view name);
+
+}  // namespace drive

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <Qt>
+
+#include "platform/windows/Messages.h"
+
+namespace drive {
+
+/// The mouse of the scripted desktop. What it does arrives as events of the window system, one at a time, so
+/// that a press that opens a dialog does not keep the release behind.
+class Pointer {
+  public:
+    static Pointer& instance();
+
+    /// Moves to a point of the window's client area and stays there.
+    void moveTo(platform::HWND window, platform::CPoint p);
+    void press(Qt::MouseButton button);
+    void release(Qt::MouseButton button);
+    /// The second press of a double click.
+    void pressAgain();
+
+  private:
+    Pointer() = default;
+};
+
+}  // namespace drive

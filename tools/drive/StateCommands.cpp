@@ -1,0 +1,118 @@
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QImage>
+#include <QMimeData>
+
+#include "src/app/KalyxoApp.h"
+#include "src/content/KalyxoView.h"
+#include "tools/drive/Act.h"
+#include "tools/drive/CommandTable.h"
+#include "tools/drive/Program.h"
+#include "tools/drive/Windows.h"
+
+/// What the program knows, and what is on its clipboard.
+namespace drive {
+
+using namespace kalyxo;
+
+namespace {
+
+const char* modeName(ContentMode mode) {
+    switch (mode) {
+        case ContentMode::PeriodicTable:
+            return "PeriodicTable";
+        case ContentMode::Page:
+            return "Page";
+        case ContentMode::DataAnalyser:
+            return "DataAnalyser";
+        case ContentMode::MainMenu:
+            break;
+    }
+    return "MainMenu";
+}
+
+Json historyJson(const History& history) {
+    Json entries = Json::array();
+    for (int i = 0; i <= history.LastIndex(); ++i) {
+        const PageAddress& place = history.At(i);
+        entries.push_back(
+            {{"section", place.sectionCode}, {"pageId", place.pageId}, {"itemCode", place.itemCode}});
+    }
+    return {
+        {"current", history.CurrentIndex()}, {"last", history.LastIndex()}, {"entries", std::move(entries)}};
+}
+
+void tellState(Act& act) {
+    const CKalyxoView* view = Program::view();
+    if (view == nullptr) return act.fail("there is no main window");
+    act.set("mode", modeName(view->Mode()));
+    act.set("section", view->Address().sectionCode);
+    act.set("pageId", view->Address().pageId);
+    act.set("itemCode", view->Address().itemCode);
+    act.set("selectedSlot", view->Bar().Selected());
+    act.set("hoveredSlot", view->Bar().Hovered());
+    act.set("hotItem", view->Menu().HotItem());
+    act.set("video", view->Contents().video);
+    act.set("molecule", view->Contents().molecule);
+    act.set("history", historyJson(view->Places()));
+    act.set("nextCache", view->Cache().NextNumber());
+    act.set("oldestCache", view->Cache().OldestNumber());
+    act.set("startupFailed", view->StartupFailed());
+    act.set("bookmarks", Json::array());
+    act.set("currentFolder", -1);
+}
+
+void tellApp(Act& act) {
+    const CKalyxoApp& app = TheApp();
+    act.set("programFolder", text(app.m_strProgramFolder));
+    act.set("dataFolder", text(app.m_strDataFolder));
+    act.set("bookmarkFile", text(app.m_strBookmarkFile));
+    act.set("outsideInstallFolder", app.m_bOutsideInstallFolder);
+    act.set("splitterPos", app.m_nSplitterPos);
+    act.set("frameRect", rectangle(app.m_rcFrame));
+    act.set("frameState", app.m_nFrameState);
+    act.set("versions", {{"periodic", text(app.m_versions.periodic)},
+                         {"select", text(app.m_versions.select)},
+                         {"dataAn", text(app.m_versions.dataAn)},
+                         {"molCtrl", text(app.m_versions.molCtrl)},
+                         {"zoom", text(app.m_versions.zoom)}});
+}
+
+/// The clipboard's formats under the platform's names; others under their own.
+Json formatNames(const QMimeData& held) {
+    Json names = Json::array();
+    if (held.hasText()) names.push_back("CF_TEXT");
+    if (held.hasImage()) names.push_back("CF_BITMAP");
+    for (const QString& format : held.formats()) {
+        if (!format.startsWith("text/plain") && !format.contains("image"))
+            names.push_back(format.toStdString());
+    }
+    return names;
+}
+
+void tellClipboard(Act& act) {
+    const QMimeData* held = QGuiApplication::clipboard()->mimeData();
+    const QImage picture = held == nullptr ? QImage() : qvariant_cast<QImage>(held->imageData());
+    act.set("formats", held == nullptr ? Json::array() : formatNames(*held));
+    act.set("text", held == nullptr ? std::string() : held->text().toStdString());
+    act.set("width", picture.width());
+    act.set("height", picture.height());
+}
+
+template <void (*Tell)(Act&)>
+void whenIdle(Act& act, Program&) {
+    act.whenIdle(Tell);
+}
+
+constexpr Command kCommands[] = {
+    {"state", 0, 0, whenIdle<tellState>},
+    {"app", 0, 0, whenIdle<tellApp>},
+    {"windows", 0, 0, whenIdle<[](Act& act) { act.set("windows", windowTree()); }>},
+    {"clipboard", 0, 0, whenIdle<tellClipboard>},
+};
+
+}  // namespace
+
+std::span<const Command> stateCommands() { return kCommands; }
+
+}  // namespace drive

@@ -1,0 +1,98 @@
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <QApplication>
+#include <array>
+#include <cstdio>
+#include <span>
+
+#include "platform/automation/BrowserProcess.h"
+#include "platform/framework/Resources.h"
+#include "platform/framework/Run.h"
+#include "platform/machine/Machine.h"
+#include "src/app/InstalledFiles.h"
+#include "src/app/KalyxoApp.h"
+#include "src/app/MachineSetup.h"
+#include "src/resources/ResourceTable.h"
+#include "tools/drive/CommandLine.h"
+#include "tools/drive/Death.h"
+#include "tools/drive/Screen.h"
+#include "tools/drive/Session.h"
+
+namespace drive {
+namespace {
+
+constexpr int kWrong = 2;
+
+int complain(const std::string& problem) {
+    std::fprintf(stderr, "kalyxo-drive: %s\n", problem.c_str());
+    return kWrong;
+}
+
+int carryOut(const std::string& problem) {
+    complain(problem);
+    std::fputs(std::string(usage()).c_str(), stderr);
+    return kWrong;
+}
+
+int carryOut(const NewMachine& task) {
+    const kalyxo::InstalledFiles installed = kalyxo::FindInstalledFiles(kalyxo::RunningProgramsFolder());
+    if (installed.modules.empty()) return complain("the component modules are not where they belong");
+    const auto problem = platform::makeMachine(
+        task.machine, kalyxo::NewMachineOptions(task.data, installed.modules,
+                                                {.outside = task.outside, .bare = task.bare}));
+    return problem ? complain(*problem) : 0;
+}
+
+/// The screen is the machine's, unless the caller names another.
+std::string screenChoice(const platform::ScreenConfig& screen) {
+    constexpr const char* variable = "QT_QPA_PLATFORM";
+    if (!qEnvironmentVariableIsSet(variable)) qputenv(variable, "offscreen");
+    const QByteArray chosen = qgetenv(variable);
+    return chosen == "offscreen" ? unseenScreen(screen) : chosen.toStdString();
+}
+
+int runSession(int script) {
+    kalyxo::CKalyxoApp program;
+    Session session(script, program);
+    session.begin();
+    const int status = QCoreApplication::exec();
+    // A program that still runs stops where it stands, as when the machine is switched off.
+    if (session.programRuns()) ::_exit(status);
+    return status;
+}
+
+int carryOut(const RunScript& task) {
+    const int script = task.script ? ::open(task.script->c_str(), O_RDONLY | O_CLOEXEC) : STDIN_FILENO;
+    if (script < 0) return complain(task.script->string() + ": cannot be read");
+    auto machine = platform::Machine::open(task.machine);
+    if (!machine) return complain(machine.error);
+    platform::Machine& opened = **machine.value;
+    opened.trace().enable();
+    opened.enableAnswers();
+    opened.setVirtualTime(true);
+    platform::setMachine(&opened);
+
+    std::string screen = screenChoice(opened.screen());
+    std::string name = "kalyxo-drive";
+    std::string option = "-platform";
+    std::array arguments = {name.data(), option.data(), screen.data()};
+    int count = static_cast<int>(arguments.size());
+    platform::prepareProcess();
+    QApplication application(count, arguments.data());
+    QApplication::setQuitOnLastWindowClosed(false);
+    const int status = runSession(script);
+    platform::setMachine(nullptr);
+    return status;
+}
+
+}  // namespace
+}  // namespace drive
+
+int main(int argc, char** argv) {
+    drive::reportDeath();
+    platform::SetResources(kalyxo::ProgramResources());
+    const drive::Task task =
+        drive::taskOf(std::span<const char* const>(argv, static_cast<std::size_t>(argc)).subspan(1));
+    return std::visit([](const auto& what) { return drive::carryOut(what); }, task);
+}
