@@ -1,0 +1,100 @@
+#include "bench/ChildProcess.h"
+
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <map>
+
+namespace {
+
+using Pipe = std::array<int, 2>;
+
+Pipe makePipe() {
+    Pipe ends{-1, -1};
+    if (::pipe(ends.data()) != 0) std::abort();
+    return ends;
+}
+
+/// Parent of each running process.
+std::multimap<pid_t, pid_t> childrenByParent() {
+    std::multimap<pid_t, pid_t> children;
+    for (const auto& entry : std::filesystem::directory_iterator("/proc")) {
+        const std::string name = entry.path().filename();
+        if (name.find_first_not_of("0123456789") != std::string::npos) continue;
+        std::ifstream stat(entry.path() / "stat");
+        std::string text;
+        std::getline(stat, text);
+        // The command's name stands in brackets and may hold blanks.
+        const std::size_t bracket = text.rfind(')');
+        if (bracket == std::string::npos || bracket + 4 > text.size()) continue;
+        children.emplace(std::stoi(text.substr(bracket + 4)), std::stoi(name));
+    }
+    return children;
+}
+
+std::size_t proportionalBytes(pid_t pid) {
+    std::ifstream rollup("/proc/" + std::to_string(pid) + "/smaps_rollup");
+    std::string word;
+    while (rollup >> word) {
+        std::size_t kilobytes = 0;
+        if (word == "Pss:" && rollup >> kilobytes) return kilobytes * 1024;
+    }
+    return 0;
+}
+
+std::size_t treeBytes(pid_t pid, const std::multimap<pid_t, pid_t>& children) {
+    std::size_t total = proportionalBytes(pid);
+    const auto [first, last] = children.equal_range(pid);
+    for (auto at = first; at != last; ++at) total += treeBytes(at->second, children);
+    return total;
+}
+
+}  // namespace
+
+ChildProcess::ChildProcess(const std::vector<std::string>& arguments) {
+    const Pipe input = makePipe();
+    const Pipe output = makePipe();
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_adddup2(&actions, input[0], STDIN_FILENO);
+    posix_spawn_file_actions_adddup2(&actions, output[1], STDOUT_FILENO);
+    for (const int end : {input[0], input[1], output[0], output[1]}) {
+        posix_spawn_file_actions_addclose(&actions, end);
+    }
+    std::vector<char*> argv;
+    for (const std::string& argument : arguments) argv.push_back(const_cast<char*>(argument.c_str()));
+    argv.push_back(nullptr);
+    if (::posix_spawn(&m_pid, argv[0], &actions, nullptr, argv.data(), environ) != 0) m_pid = -1;
+    posix_spawn_file_actions_destroy(&actions);
+    ::close(input[0]);
+    ::close(output[1]);
+    m_input.reset(::fdopen(input[1], "w"));
+    m_output.reset(::fdopen(output[0], "r"));
+}
+
+ChildProcess::~ChildProcess() {
+    m_input.reset();
+    if (m_pid <= 0) return;
+    ::kill(m_pid, SIGTERM);
+    ::waitpid(m_pid, nullptr, 0);
+}
+
+void ChildProcess::writeLine(const std::string& line) {
+    std::fprintf(m_input.get(), "%s\n", line.c_str());
+    std::fflush(m_input.get());
+}
+
+std::string ChildProcess::readLine() {
+    char* line = nullptr;
+    std::size_t room = 0;
+    const ssize_t length = ::getline(&line, &room, m_output.get());
+    const std::unique_ptr<char, void (*)(void*)> owner(line, &std::free);
+    return length > 0 ? std::string(line, static_cast<std::size_t>(length)) : std::string();
+}
+
+std::size_t ChildProcess::memory() const { return treeBytes(m_pid, childrenByParent()); }

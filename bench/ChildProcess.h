@@ -1,0 +1,32 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <cstddef>
+#include <cstdio>
+#include <memory>
+#include <string>
+#include <vector>
+
+/// A program started with pipes to its standard input and output; ended with the object.
+class ChildProcess {
+  public:
+    /// `arguments[0]` is the program's path.
+    explicit ChildProcess(const std::vector<std::string>& arguments);
+    ~ChildProcess();
+    ChildProcess(const ChildProcess&) = delete;
+    ChildProcess& operator=(const ChildProcess&) = delete;
+
+    void writeLine(const std::string& line);
+    /// The next line of its output; empty at the end.
+    std::string readLine();
+
+    /// Memory of the process and all its descendants, shared pages divided among their users, in bytes.
+    std::size_t memory() const;
+
+  private:
+    using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
+    pid_t m_pid = -1;
+    File m_input{nullptr, &std::fclose};
+    File m_output{nullptr, &std::fclose};
+};

@@ -1,0 +1,11 @@
+# Fails when a source file below FOLDER has a line that matches PATTERN.
+file(GLOB_RECURSE files ${FOLDER}/*.h ${FOLDER}/*.cpp)
+if(NOT files)
+    message(FATAL_ERROR "no source files below ${FOLDER}")
+endif()
+foreach(file IN LISTS files)
+    file(STRINGS ${file} found REGEX "${PATTERN}")
+    if(found)
+        message(SEND_ERROR "${file}: ${found}")
+    endif()
+endforeach()
