@@ -26,6 +26,20 @@ fs::path newFolder() {
     return ::mkdtemp(name.data()) == nullptr ? fs::path() : fs::path(name);
 }
 
+/// The folder again, its files as links: a scenario pays nothing for the content that it leaves as it is.
+void linkFolder(const fs::path& from, const fs::path& to) {
+    std::error_code error;
+    fs::create_directories(to, error);
+    for (fs::directory_iterator at(from, error), end; !error && at != end; at.increment(error)) {
+        const fs::path copy = to / at->path().filename();
+        if (at->is_directory()) {
+            linkFolder(at->path(), copy);
+        } else {
+            fs::create_symlink(at->path(), copy, error);
+        }
+    }
+}
+
 std::string bytesOf(const fs::path& file) {
     std::ifstream in(file, std::ios::binary);
     return {std::istreambuf_iterator<char>(in), {}};
@@ -82,15 +96,12 @@ Problem checkCount(const fs::path& folder, const FileCheck& check) {
 
 }  // namespace
 
-ScenarioMachine::ScenarioMachine(fs::path driver, fs::path content)
+ScenarioMachine::ScenarioMachine(fs::path driver, const fs::path& content)
     : m_driver(std::move(driver)),
       m_root(newFolder()),
       m_machine(m_root / "machine"),
       m_data(m_root / "data") {
-    std::error_code error;
-    // Links, so that a scenario costs nothing for the content that it leaves as it is.
-    fs::copy(fs::absolute(content), m_data, fs::copy_options::recursive | fs::copy_options::create_symlinks,
-             error);
+    linkFolder(fs::absolute(content), m_data);
 }
 
 ScenarioMachine::~ScenarioMachine() {

@@ -14,7 +14,7 @@ namespace scenario {
 class ScenarioMachine {
   public:
     /// `driver` makes the machine when it is first needed.
-    ScenarioMachine(std::filesystem::path driver, std::filesystem::path content);
+    ScenarioMachine(std::filesystem::path driver, const std::filesystem::path& content);
     ~ScenarioMachine();
     ScenarioMachine(const ScenarioMachine&) = delete;
     ScenarioMachine& operator=(const ScenarioMachine&) = delete;
