@@ -15,12 +15,14 @@ namespace platform {
 namespace {
 
 constexpr const char* barStyle =
-    "QMenuBar { background: #F4F7F9; color: #1c2733; border: none; border-bottom: 1px solid #D8E0E6; }"
-    "QMenuBar::item { background: transparent; padding: 4px 9px; }"
+    "QMenuBar { background: #F4F7F9; color: #1c2733; border: none; border-bottom: 1px solid #D8E0E6;"
+    " font: 13px 'Liberation Sans'; }"
+    "QMenuBar::item { background: transparent; padding: 3px 9px 4px; }"
     "QMenuBar::item:selected, QMenuBar::item:pressed { background: #D3E5F0; color: #1c2733; }";
 
 constexpr const char* menuStyle =
-    "QMenu { background: #FFFFFF; color: #1c2733; border: 1px solid #B4C0CA; padding: 3px 0; }"
+    "QMenu { background: #FFFFFF; color: #1c2733; border: 1px solid #B4C0CA; padding: 3px 0;"
+    " font: 13px 'Liberation Sans'; }"
     "QMenu::item { padding: 4px 28px 4px 28px; }"
     "QMenu::item:selected { background: #D3E5F0; color: #1c2733; }"
     "QMenu::item:disabled { background: transparent; color: #8A97A3; }"

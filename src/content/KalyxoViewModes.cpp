@@ -51,6 +51,7 @@ void CKalyxoView::layOutPage() {
     m_components.browser.MoveWindow(panes.browser(width));
     m_components.select.MoveWindow(panes.browseSelection(width));
     m_components.select.ShowWindow(SW_SHOW);
+    m_bLayoutPending = false;
 }
 
 void CKalyxoView::placeWhole(CWnd& component) {
