@@ -1,7 +1,9 @@
 #include "controls/select/SelectPane.h"
 
 #include <QLabel>
+#include <QTimer>
 #include <QVBoxLayout>
+#include <memory>
 #include <utility>
 
 #include "controls/common/QtText.h"
@@ -18,13 +20,11 @@ namespace {
 constexpr int sideMargin = 8;
 constexpr int ruleHeight = 2;
 
-QLabel* makeLabel(const char* name, QWidget* parent) {
-    auto* label = new QLabel(parent);
-    label->setObjectName(QString::fromLatin1(name));
-    label->setFont(appearance::font());
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
+void setUp(QLabel& label, const char* name) {
+    label.setObjectName(QString::fromLatin1(name));
+    label.setFont(appearance::font());
+    label.setTextFormat(Qt::PlainText);
+    label.setWordWrap(true);
 }
 
 }  // namespace
@@ -34,34 +34,41 @@ SelectPane::SelectPane(BrowseSelection& selection, ChoiceHandler onChoice, QWidg
       selection_(selection),
       onChoice_(std::move(onChoice)),
       model_(new TopicModel(selection, this)),
-      sectionName_(makeLabel("sectionName", this)),
+      sectionName_(new QLabel(this)),
       rule_(new QWidget(this)),
       field_(new FilterField(this)),
       view_(new TopicView(*model_, this)),
-      emptyNote_(makeLabel("emptyNote", this)) {
+      emptyNote_(new QLabel(this)) {
     setObjectName(QStringLiteral("selectPane"));
     setAttribute(Qt::WA_StyledBackground);
     setPalette(appearance::palette());
     setStyleSheet(appearance::styleSheet());
     setFocusProxy(field_);
+    setUp(*sectionName_, "sectionName");
+    setUp(*emptyNote_, "emptyNote");
     rule_->setFixedHeight(ruleHeight);
     rule_->setAutoFillBackground(true);
     emptyNote_->setAlignment(Qt::AlignTop | Qt::AlignHCenter);
 
-    auto* fieldRow = new QVBoxLayout;
+    layOutParts();
+    connectParts();
+    updateHeader();
+    updateEmptyNote();
+}
+
+void SelectPane::layOutParts() {
+    auto fieldRow = std::make_unique<QVBoxLayout>();
     fieldRow->setContentsMargins(sideMargin, sideMargin, sideMargin, sideMargin);
     fieldRow->addWidget(field_);
-    auto* column = new QVBoxLayout(this);
+    auto column = std::make_unique<QVBoxLayout>();
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(sectionName_);
     column->addWidget(rule_);
-    column->addLayout(fieldRow);
+    column->addLayout(fieldRow.release());
     column->addWidget(view_, 1);
     column->addWidget(emptyNote_, 1);
-    connectParts();
-    updateHeader();
-    updateEmptyNote();
+    setLayout(column.release());
 }
 
 void SelectPane::connectParts() {
@@ -166,7 +173,7 @@ void SelectPane::markMoved() {
 // ends is of interest.
 void SelectPane::revealLater() {
     if (std::exchange(revealPending_, true)) return;
-    QMetaObject::invokeMethod(this, &SelectPane::revealShown, Qt::QueuedConnection);
+    QTimer::singleShot(0, this, &SelectPane::revealShown);
 }
 
 void SelectPane::revealShown() {

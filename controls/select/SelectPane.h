@@ -40,6 +40,7 @@ class SelectPane : public QWidget {
     void showEvent(QShowEvent* event) override;
 
   private:
+    void layOutParts();
     void connectParts();
     template <class Change>
     void relist(Change&& change);

@@ -84,8 +84,8 @@ TopicDelegate::TitleFont& TopicDelegate::fontOf(const QModelIndex& index) const 
 QRect TopicDelegate::titleRect(const QModelIndex& index, const QRect& row) const {
     const int indent = TopicModel::isTopic(index) ? topicIndent : entryIndent;
     const int padding = paddingOf(index);
-    return QRect(indent, row.top() + padding, std::max(view_.width() - indent - rightMargin, 1),
-                 row.height() - 2 * padding);
+    return {indent, row.top() + padding, std::max(view_.width() - indent - rightMargin, 1),
+            row.height() - 2 * padding};
 }
 
 QSize TopicDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex& index) const {

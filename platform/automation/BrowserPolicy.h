@@ -14,9 +14,7 @@ class BrowserPolicy {
     static BrowserPolicy& instance();
 
     /// See RequestPolicy::setAllowedFolders.
-    void setAllowedFolders(std::vector<std::string> folders) {
-        policy_.setAllowedFolders(std::move(folders));
-    }
+    void setAllowedFolders(const std::vector<std::string>& folders) { policy_.setAllowedFolders(folders); }
 
     /// See RequestPolicy::allows; a refusal is logged under the category `platform.browser`.
     bool admit(std::string_view page, std::string_view request) const;
