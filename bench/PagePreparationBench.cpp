@@ -86,7 +86,7 @@ void PreparationOfPages(benchmark::State& state) {
     for (auto _ : state) {
         for (int i = 0; i < kPages; ++i) {
             const std::string number = std::to_string(i);
-            if (preparer.Prepare("D:\\" + number, "C:\\" + number + ".htm", contents) !=
+            if (preparer.PreparePage("D:\\" + number, "C:\\" + number + ".htm", contents) !=
                 kalyxo::PrepareResult::prepared) {
                 state.SkipWithError("a page was not prepared");
                 return;

@@ -36,11 +36,11 @@ void CKalyxoView::OnDraw(CDC& dc) {
         return;
     }
     if (m_mode == ContentMode::MainMenu) {
-        paintMainMenu(dc);
+        PaintMainMenu(dc);
         m_bar.SetSelected(kMainMenuSlot);
         OnTimer(kTimerId);
     } else {
-        m_bar.Draw(dc);
+        m_bar.DrawBar(dc);
         m_components.select.Invalidate();
         if (m_bLayoutPending) {
             splitterMoved();
@@ -50,9 +50,9 @@ void CKalyxoView::OnDraw(CDC& dc) {
     m_bInterceptionSuppressed = false;
 }
 
-void CKalyxoView::paintMainMenu(CDC& dc) {
+void CKalyxoView::PaintMainMenu(CDC& dc) {
     if (m_bStartupFailed) return;
-    m_bar.Draw(dc);
+    m_bar.DrawBar(dc);
     m_menu.Paint(dc, clientSize());
 }
 
@@ -114,7 +114,7 @@ CSize CKalyxoView::clientSize() const {
 
 bool CKalyxoView::isUnder(CPoint point) const { return WindowFromPoint(ClientToScreen(point)) == this; }
 
-bool CKalyxoView::hitTestBar(CPoint point) {
+bool CKalyxoView::HitTestBar(CPoint point) {
     const int slot = isUnder(point) ? m_bar.Layout().SlotAt(point) : -1;
     CClientDC dc(*this);
     m_bar.Hover(slot, dc);
@@ -123,7 +123,7 @@ bool CKalyxoView::hitTestBar(CPoint point) {
 
 void CKalyxoView::OnMouseMove(UINT, CPoint point) {
     if (m_bInterceptionSuppressed) return;
-    const bool offBar = hitTestBar(point);
+    const bool offBar = HitTestBar(point);
     if (m_mode == ContentMode::MainMenu) hoverMainMenu(offBar && isUnder(point) ? point : CPoint{-1, -1});
 }
 
@@ -134,7 +134,7 @@ void CKalyxoView::hoverMainMenu(CPoint point) {
     CClientDC dc(*this);
     if (former >= 0) {
         m_menu.ClearHotItem();
-        paintMainMenu(dc);
+        PaintMainMenu(dc);
     }
     if (item >= 0) m_menu.Highlight(dc, item);
 }
@@ -176,7 +176,7 @@ void CKalyxoView::OnDestroy() {
     if (m_bStartupFailed) return;
     m_components.browser.DestroyWindow();
     KillTimer(kTimerId);
-    m_cache.DeleteAll();
+    m_cache.CleanCache(true);
 }
 
 bool CKalyxoView::focusIsInSelectEdit() const {

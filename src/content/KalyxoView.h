@@ -95,16 +95,16 @@ class CKalyxoView : public platform::CView {
     void readyBrowser();
     CacheLocation cacheLocation() const;
     bool createComponents();
-    void tellOutdatedComponents();
+    void CheckComponentVersions();
     void openCache();
-    void loadElementIndex();
+    void LoadElementIndex();
     void loadPictures();
 
     // Navigation
-    void replayHistory();
+    void ReplayHistory();
     void restorePage(const PageAddress& place);
-    void recordHistory(const PageAddress& place) { m_history.Record(place); }
-    void showPreparedPage(const std::string& target);
+    void RecordHistory(const PageAddress& place) { m_history.Record(place); }
+    void ShowPreparedPage(const std::string& target);
     void openSectionOfSlot(int slot);
 
     // Modes and panes
@@ -118,9 +118,9 @@ class CKalyxoView : public platform::CView {
     platform::CSize clientSize() const;
 
     // Hovering
-    bool hitTestBar(platform::CPoint point);
+    bool HitTestBar(platform::CPoint point);
     bool isUnder(platform::CPoint point) const;
-    void paintMainMenu(platform::CDC& dc);
+    void PaintMainMenu(platform::CDC& dc);
     void hoverMainMenu(platform::CPoint point);
     bool focusIsInSelectEdit() const;
 

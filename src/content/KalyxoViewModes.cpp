@@ -66,7 +66,7 @@ void CKalyxoView::ShowMainMenu() {
     m_mode = ContentMode::MainMenu;
     CClientDC dc(*this);
     dc.FillSolidRect(PaneLayout{clientSize()}.whole(), RGB(0, 0, 0));
-    paintMainMenu(dc);
+    PaintMainMenu(dc);
 }
 
 void CKalyxoView::ShowPeriodicTable() {
@@ -74,7 +74,7 @@ void CKalyxoView::ShowPeriodicTable() {
     if (m_mode != ContentMode::PeriodicTable) leaveMode();
     m_mode = ContentMode::PeriodicTable;
     m_menu.ClearHotItem();
-    recordHistory({kPeriodicTableCode, 0, 0});
+    RecordHistory({kPeriodicTableCode, 0, 0});
     m_components.periodicTable.Redraw();
     placeWhole(m_components.periodicTable);
 }
@@ -85,7 +85,7 @@ void CKalyxoView::ShowDataAnalyser() {
     leaveMode();
     m_mode = ContentMode::DataAnalyser;
     m_menu.ClearHotItem();
-    recordHistory({kDataAnalyserCode, 0, 0});
+    RecordHistory({kDataAnalyserCode, 0, 0});
     placeWhole(m_components.dataAnalyser);
 }
 

@@ -4,6 +4,7 @@
 #include "src/app/KalyxoApp.h"
 #include "src/content/GlossaryMarkup.h"
 #include "src/content/KalyxoView.h"
+#include "src/content/LastPreparedPage.h"
 
 /// How the view comes to a page: sections, events of the components, and the history.
 namespace kalyxo {
@@ -28,13 +29,14 @@ void CKalyxoView::openSectionOfSlot(int slot) {
 
 void CKalyxoView::OpenPage(std::int32_t pageNumber) {
     if (!m_preparer) return;  // a start that failed has no cache
-    recordHistory(m_address);
+    RecordHistory(m_address);
     // A number that names no file is reported like a page that is missing.
     const std::string source =
         TheApp().m_strDataFolder + formats::pagePath(pageNumber).value_or(std::to_string(pageNumber));
     const std::string target = m_cache.NextTarget();
-    switch (m_preparer->Prepare(source, target, m_contents)) {
+    switch (m_preparer->PreparePage(source, target, m_contents)) {
         case PrepareResult::prepared:
+            LastPreparedPage() = target;
             break;
         case PrepareResult::noSource:
             AfxMessageBox("ERROR: Can't open " + source);
@@ -43,14 +45,14 @@ void CKalyxoView::OpenPage(std::int32_t pageNumber) {
             AfxMessageBox("Unable to create temporary file");
             break;
     }
-    showPreparedPage(target);
+    ShowPreparedPage(target);
 }
 
-void CKalyxoView::showPreparedPage(const std::string& target) {
+void CKalyxoView::ShowPreparedPage(const std::string& target) {
     const std::string redirect = m_contents.video ? m_cache.WriteRedirect(target) : std::string();
     m_components.browser.Navigate(redirect.empty() ? target : redirect,
                                   Variant(CWebBrowser::kNoHistoryNoCache));
-    m_cache.DeleteOldPages();
+    m_cache.CleanCache(false);
 }
 
 bool CKalyxoView::OnPageChosen(std::int32_t pageNumber, std::int32_t pageId) {
@@ -82,14 +84,14 @@ bool CKalyxoView::OnBeforeNavigate(const std::string& url, std::int32_t, const s
 }
 
 void CKalyxoView::GoBack() {
-    if (m_history.StepBack()) replayHistory();
+    if (m_history.StepBack()) ReplayHistory();
 }
 
 void CKalyxoView::GoForward() {
-    if (m_history.StepForward()) replayHistory();
+    if (m_history.StepForward()) ReplayHistory();
 }
 
-void CKalyxoView::replayHistory() {
+void CKalyxoView::ReplayHistory() {
     const History::Replay replay(m_history);
     const PageAddress place = m_history.Current();
     if (place.sectionCode == kPeriodicTableCode) {

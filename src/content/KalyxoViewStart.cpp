@@ -23,9 +23,9 @@ void CKalyxoView::OnInitialUpdate() {
     }
     m_components.browser.Navigate(TheApp().m_strDataFolder + "a.htm");
     openCache();
-    loadElementIndex();
+    LoadElementIndex();
     loadPictures();
-    tellOutdatedComponents();
+    CheckComponentVersions();
 }
 
 void CKalyxoView::readyBrowser() {
@@ -52,7 +52,7 @@ bool CKalyxoView::createComponents() {
     return true;
 }
 
-void CKalyxoView::tellOutdatedComponents() {
+void CKalyxoView::CheckComponentVersions() {
     for (const std::string_view key : OutdatedComponents(TheApp().m_versions)) {
         AfxMessageBox(std::string(key).append(LoadString(IDS_COMPONENT_OUTDATED)));
     }
@@ -63,7 +63,7 @@ void CKalyxoView::openCache() {
     m_preparer.emplace(machine().files(), TheApp().m_strDataFolder, m_cache.Folder());
 }
 
-void CKalyxoView::loadElementIndex() {
+void CKalyxoView::LoadElementIndex() {
     if (!m_elements.Load(machine().files(), TheApp().m_strDataFolder)) {
         AfxMessageBox("Can't open ptable.ndx");
     }

@@ -36,10 +36,9 @@ std::string PageCache::WriteRedirect(std::string_view target) const {
     return redirectPath();
 }
 
-void PageCache::DeleteOldPages() { deletePagesBelow(m_nNext - kPagesKept); }
-
-void PageCache::DeleteAll() {
-    deletePagesBelow(m_nNext);
+void PageCache::CleanCache(bool final) {
+    deletePagesBelow(final ? m_nNext : m_nNext - kPagesKept);
+    if (!final) return;
     m_files.deleteFile(redirectPath());
     m_files.deleteFile(m_location.folder + "bigvid.htm");
     m_files.deleteFile(m_location.folder + "chime.mol");

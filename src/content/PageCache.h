@@ -34,10 +34,8 @@ class PageCache {
     /// Writes the page that sends the browser on to `target`; its path, empty when it cannot be written.
     std::string WriteRedirect(std::string_view target) const;
 
-    /// Deletes all but the twenty newest pages.
-    void DeleteOldPages();
-    /// Deletes everything that was written.
-    void DeleteAll();
+    /// Deletes all but the twenty newest pages; at the end everything that was written.
+    void CleanCache(bool final);
 
     int NextNumber() const { return m_nNext; }
     int OldestNumber() const { return m_nOldest; }

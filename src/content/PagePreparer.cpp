@@ -53,7 +53,7 @@ void rewriteLines(TextReader& source, TextWriter& target, const LineRewriter& re
 PagePreparer::PagePreparer(const platform::FileSystem& files, std::string dataFolder, std::string cacheFolder)
     : m_files(files), m_strDataFolder(std::move(dataFolder)), m_strCacheFolder(std::move(cacheFolder)) {}
 
-PrepareResult PagePreparer::Prepare(const std::string& source, const std::string& target,
+PrepareResult PagePreparer::PreparePage(const std::string& source, const std::string& target,
                                     PageContents& contents) const {
     std::optional<TextReader> reader = TextReader::open(m_files, source);
     if (!reader) return PrepareResult::noSource;

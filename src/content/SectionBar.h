@@ -17,7 +17,7 @@ class SectionBar {
     int Selected() const { return m_nSelected; }
     int Hovered() const { return m_nHovered; }
 
-    void Draw(platform::CDC& dc) const;
+    void DrawBar(platform::CDC& dc) const;
     /// Selects a slot, ends the hovering of any other, and redraws what changes.
     void Select(int slot, platform::CDC& dc);
     /// Selects without drawing, for a bar that is about to be drawn whole.
@@ -27,7 +27,7 @@ class SectionBar {
 
   private:
     const platform::CBitmap& strip(int slot) const;
-    void drawSlot(platform::CDC& dc, int slot) const;
+    void DrawBarSlot(platform::CDC& dc, int slot) const;
 
     BarLayout m_layout;
     platform::CBitmap m_normal;

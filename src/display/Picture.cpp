@@ -38,7 +38,7 @@ std::optional<std::uint64_t> pixelBytes(const BITMAPINFOHEADER& header, std::uin
 
 }  // namespace
 
-PictureResult Picture::Load(const platform::FileSystem& files, std::string_view path) {
+PictureResult Picture::LoadPicture(const platform::FileSystem& files, std::string_view path) {
     const std::optional<BinaryFile> file = BinaryFile::open(files, path);
     if (!file) return PictureResult::missing;
     m_pixels.clear();
@@ -67,7 +67,7 @@ platform::CSize Picture::Size() const {
     return Loaded() ? platform::CSize{m_header.biWidth, m_header.biHeight} : platform::CSize{};
 }
 
-void Picture::Draw(platform::CDC& dc, int x, int y) const {
+void Picture::DrawPicture(platform::CDC& dc, int x, int y) const {
     if (Loaded()) dc.SetDIBitsToDevice(x, y, m_header, m_pixels.data());
 }
 

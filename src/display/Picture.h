@@ -21,14 +21,14 @@ class Picture {
     /// Loads a BMP file. Pictures of another depth, compressed, top-down, or with fewer bytes than their
     /// header says are file errors. A missing file leaves the picture as it was; any other failure leaves it
     /// without pixels.
-    PictureResult Load(const platform::FileSystem& files, std::string_view path);
+    PictureResult LoadPicture(const platform::FileSystem& files, std::string_view path);
 
     bool Loaded() const { return !m_pixels.empty(); }
     /// Size in pixels; 0 × 0 while nothing is loaded.
     platform::CSize Size() const;
 
     /// Draws the whole picture with its top-left corner at (x, y); nothing while it has no pixels.
-    void Draw(platform::CDC& dc, int x, int y) const;
+    void DrawPicture(platform::CDC& dc, int x, int y) const;
 
   private:
     platform::BITMAPINFOHEADER m_header;

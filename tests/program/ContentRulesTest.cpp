@@ -75,7 +75,7 @@ TEST(PageCacheTest, KeepsTwentyPagesAndDeletesAllAtTheEnd) {
     EXPECT_EQ(cache.Folder(), "C:\\klyx\\");
     for (int i = 1; i <= 25; ++i) {
         drives.put(cache.NextTarget(), "page");
-        cache.DeleteOldPages();
+        cache.CleanCache(false);
     }
     EXPECT_FALSE(drives.has("C:\\klyx\\5.htm"));
     EXPECT_TRUE(drives.has("C:\\klyx\\6.htm"));
@@ -83,7 +83,7 @@ TEST(PageCacheTest, KeepsTwentyPagesAndDeletesAllAtTheEnd) {
     EXPECT_EQ(drives.get(cache.WriteRedirect("C:\\klyx\\25.htm")),
               "<HTML><HEAD><META HTTP-EQUIV=\"Refresh\" Content=\"0; URL=C:\\klyx\\25.htm\"></HEAD>"
               "<BODY BGCOLOR=\"#949494\"></BODY></HTML>");
-    cache.DeleteAll();
+    cache.CleanCache(true);
     EXPECT_FALSE(drives.has("C:\\klyx"));
 }
 
@@ -92,7 +92,7 @@ TEST(PageCacheTest, InsideTheInstalledFolderTheFolderStays) {
     drives.put("C:\\Kalyxo\\kalyxo.exe", "");
     PageCache cache(drives.files);
     cache.Open(LocateCache("C:\\Kalyxo", "C:\\", false));
-    cache.DeleteAll();
+    cache.CleanCache(true);
     EXPECT_TRUE(drives.has("C:\\Kalyxo\\cache"));
     PageCache nowhere(drives.files);
     nowhere.Open({"C:\\no\\such\\", false});
@@ -154,13 +154,13 @@ TEST(PictureTest, TakesOnlyWholeBottomUp24BitPictures) {
     for (const auto& c : cases) {
         drives.put("D:\\p.bmp", c.file);
         Picture picture;
-        EXPECT_EQ(picture.Load(drives.files, "D:\\p.bmp"), c.result) << c.what;
+        EXPECT_EQ(picture.LoadPicture(drives.files, "D:\\p.bmp"), c.result) << c.what;
         EXPECT_EQ(picture.Loaded(), c.result == PictureResult::loaded) << c.what;
     }
     Picture picture;
     drives.put("D:\\p.bmp", bitmap(10, 2, 24, 64));
-    picture.Load(drives.files, "D:\\p.bmp");
-    EXPECT_EQ(picture.Load(drives.files, "D:\\none.bmp"), PictureResult::missing);
+    picture.LoadPicture(drives.files, "D:\\p.bmp");
+    EXPECT_EQ(picture.LoadPicture(drives.files, "D:\\none.bmp"), PictureResult::missing);
     EXPECT_TRUE(picture.Loaded());
 }
 

@@ -13,7 +13,7 @@ class PagePreparation : public testing::Test {
     std::string prepare(const std::string& page, const std::string& dataFolder = "D:\\") {
         drives.put("D:\\page", page);
         const PagePreparer preparer(drives.files, dataFolder, "C:\\");
-        EXPECT_EQ(preparer.Prepare("D:\\page", "C:\\1.htm", contents), PrepareResult::prepared);
+        EXPECT_EQ(preparer.PreparePage("D:\\page", "C:\\1.htm", contents), PrepareResult::prepared);
         return drives.get("C:\\1.htm");
     }
 
@@ -93,9 +93,9 @@ TEST_F(PagePreparation, TakesLinesOfAnyLength) {
 TEST_F(PagePreparation, FailuresLeaveTheFlagsAndWriteNothing) {
     prepare("<EMBED SRC=\"\x04..v.webm\">\n");
     const PagePreparer preparer(drives.files, "D:\\", "C:\\");
-    EXPECT_EQ(preparer.Prepare("D:\\missing", "C:\\2.htm", contents), PrepareResult::noSource);
+    EXPECT_EQ(preparer.PreparePage("D:\\missing", "C:\\2.htm", contents), PrepareResult::noSource);
     EXPECT_FALSE(drives.has("C:\\2.htm"));
-    EXPECT_EQ(preparer.Prepare("D:\\page", "C:\\no\\such\\folder\\2.htm", contents), PrepareResult::noTarget);
+    EXPECT_EQ(preparer.PreparePage("D:\\page", "C:\\no\\such\\folder\\2.htm", contents), PrepareResult::noTarget);
     EXPECT_TRUE(contents.video);
 }
 
