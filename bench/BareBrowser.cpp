@@ -7,6 +7,7 @@
 /// The measure for start time and memory: a program that does nothing but show a page in a browser window. It
 /// says so on its standard output and then waits to be ended.
 int main(int argc, char** argv) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     if (geteuid() == 0) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
     QApplication application(argc, argv);
     QWebEngineView view;

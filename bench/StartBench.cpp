@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <string_view>
 #include <thread>
 
 #include "bench/ChildProcess.h"
@@ -42,14 +43,15 @@ double secondsSince(Clock::time_point start) {
     return std::chrono::duration<double>(Clock::now() - start).count();
 }
 
-/// Starts a program, times it until its first line of output, and counts its memory three seconds later.
+/// Starts a program, times it until its first line of output, which must hold `sign`, and counts its memory
+/// three seconds later.
 template <class Start>
-void measureStart(benchmark::State& state, Start start) {
+void measureStart(benchmark::State& state, Start start, std::string_view sign) {
     double megabytes = 0;
     for (auto _ : state) {
         const Clock::time_point begin = Clock::now();
         const std::unique_ptr<ChildProcess> child = start();
-        if (child->readLine().empty()) {
+        if (child->readLine().find(sign) == std::string::npos) {
             state.SkipWithError("the program did not start");
             return;
         }
@@ -61,17 +63,21 @@ void measureStart(benchmark::State& state, Start start) {
 }
 
 void StartOfBareBrowser(benchmark::State& state) {
-    measureStart(state, [] { return std::make_unique<ChildProcess>(std::vector{kBin + "/bare-browser"}); });
+    measureStart(
+        state, [] { return std::make_unique<ChildProcess>(std::vector{kBin + "/bare-browser"}); }, "shown");
 }
 BENCHMARK(StartOfBareBrowser)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(5);
 
 void StartOfKalyxo(benchmark::State& state) {
     const TestMachine& machine = TestMachine::instance();
-    measureStart(state, [&] {
-        auto child = std::make_unique<ChildProcess>(machine.driver());
-        child->writeLine("start");
-        return child;
-    });
+    measureStart(
+        state,
+        [&] {
+            auto child = std::make_unique<ChildProcess>(machine.driver());
+            child->writeLine("start");
+            return child;
+        },
+        "\"running\":true");
 }
 BENCHMARK(StartOfKalyxo)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(5);
 

@@ -64,8 +64,7 @@ std::int16_t BrowseSelection::sectionOf(const Place& place) const {
     return section_;
 }
 
-ChoiceEvents BrowseSelection::show(Place place) {
-    place.itemCode = std::max(place.itemCode, 0);
+ChoiceEvents BrowseSelection::show(const Place& place) {
     if (const std::int16_t section = sectionOf(place); section != section_) setSection(section);
     ChoiceEvents events = answerTo(place, currentSection());
     if (!events.empty()) {

@@ -37,7 +37,7 @@ class BrowseSelection {
 
     /// Shows a place that the host asks for, in its section and with its topic opened. A negative item code
     /// stands for the topic's own page.
-    ChoiceEvents show(Place place);
+    ChoiceEvents show(const Place& place);
 
     /// Shows the line that the reader has chosen, which must be a line of the section.
     ChoiceEvents choose(const Row& row);

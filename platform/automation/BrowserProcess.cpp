@@ -32,10 +32,12 @@ void switchSandboxOffForRoot() {
 }
 
 void setEngineFlags() {
-    // No name resolves, so that no request that the policy does not see can reach the network either.
+    // No name resolves, so that no request that the policy does not see can reach the network either. All
+    // pages come from the same hands: one process draws them, instead of a new one for each that is opened.
     QByteArray flags =
         "--disable-background-networking --disable-component-update --disable-domain-reliability "
-        "--disable-sync --no-pings --log-level=3 --host-resolver-rules=\"MAP * ~NOTFOUND\"";
+        "--disable-sync --no-pings --log-level=3 --host-resolver-rules=\"MAP * ~NOTFOUND\" "
+        "--renderer-process-limit=1";
     const QByteArray platformName = qgetenv("QT_QPA_PLATFORM");
     if (platformName.startsWith("offscreen") || platformName.startsWith("minimal")) flags += " --disable-gpu";
     const QByteArray given = qgetenv(flagsVariable);

@@ -37,7 +37,7 @@ class Document : public Dispatch {
 
     bool exec(std::int32_t command) override {
         if (!page_ || command != copyCommand) return false;
-        page_->triggerAction(QWebEnginePage::Copy);
+        page_->copySelection();
         return true;
     }
 

@@ -1,6 +1,8 @@
 #include "platform/automation/WebPage.h"
 
+#include <QClipboard>
 #include <QColor>
+#include <QGuiApplication>
 #include <QMetaObject>
 #include <QPointer>
 #include <QWebEngineNewWindowRequest>
@@ -18,6 +20,8 @@ namespace {
 
 /// How long a page that says it leads on to another may take to do so.
 constexpr std::chrono::seconds redirectTime{2};
+/// How long a copy may take to arrive.
+constexpr std::chrono::milliseconds copyTime{500};
 
 /// Whether the page refreshes itself within a second.
 constexpr auto leadsOnScript = QLatin1StringView(
@@ -31,6 +35,9 @@ WebPage::WebPage(Gate gate, QObject* parent)
     setBackgroundColor(Qt::white);
     redirectLimit_.setSingleShot(true);
     redirectLimit_.setInterval(redirectTime);
+    copyLimit_.setSingleShot(true);
+    copyLimit_.setInterval(copyTime);
+    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &copyLimit_, &QTimer::stop);
     connect(&redirectLimit_, &QTimer::timeout, this, [this] { loading_ = false; });
     connect(this, &QWebEnginePage::loadFinished, this, &WebPage::finished);
     connect(this, &QWebEnginePage::renderProcessTerminated, this, [this] { loading_ = false; });
@@ -52,6 +59,12 @@ void WebPage::go(const QUrl& asking, const QUrl& url) {
 void WebPage::reload() {
     startLoading();
     triggerAction(Reload);
+}
+
+void WebPage::copySelection() {
+    triggerAction(Copy);
+    // The engine copies in a process of its own; the clipboard tells when that is done.
+    if (hasSelection()) copyLimit_.start();
 }
 
 void WebPage::startLoading() {

@@ -27,10 +27,12 @@ class WebPage : public QWebEnginePage {
     void navigate(const QUrl& url);
     /// Loads the page again, without asking the gate.
     void reload();
+    /// Puts the selection on the clipboard, a moment later.
+    void copySelection();
 
-    /// Whether a navigation waits or a page is being loaded; a page that leads on to another at once counts
-    /// as loading until that other one has come.
-    bool busy() const { return waiting_ > 0 || loading_; }
+    /// Whether a navigation waits, a page is being loaded or the selection copied; a page that leads on to
+    /// another at once counts as loading until that other one has come.
+    bool busy() const { return waiting_ > 0 || copyLimit_.isActive() || loading_; }
 
   protected:
     bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) override;
@@ -44,7 +46,8 @@ class WebPage : public QWebEnginePage {
 
     Gate gate_;
     QTimer redirectLimit_;
-    int waiting_ = 0;  // navigations asked for by the page and not yet put to the gate
+    QTimer copyLimit_;  // runs while the engine copies
+    int waiting_ = 0;   // navigations asked for by the page and not yet put to the gate
     // A new one for each load: the engine's answers about an earlier page, or to a page that has gone since,
     // are told from it.
     std::shared_ptr<int> load_ = std::make_shared<int>();

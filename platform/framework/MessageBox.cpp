@@ -1,13 +1,12 @@
-#include <QApplication>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 #include <vector>
 
 #include "platform/framework/LightPalette.h"
+#include "platform/framework/OwnerWindow.h"
 #include "platform/framework/Resources.h"
 #include "platform/framework/WinApp.h"
-#include "platform/handles/WindowTable.h"
 #include "platform/machine/Machine.h"
 #include "platform/windows/QtConvert.h"
 
@@ -33,21 +32,10 @@ QString buttonText(BoxAnswer answer) {
     }
 }
 
-/// The window before which a box stands: the active one, else the frame if it is on show, else none.
-QWidget* windowBehind() {
-    if (QWidget* const active = QApplication::activeWindow()) return active;
-    const WindowTable& table = WindowTable::instance();
-    for (const HWND window : table.all()) {
-        QWidget* const widget = table.widget(window);
-        if (widget->isWindow() && widget->isVisible()) return widget;
-    }
-    return nullptr;
-}
-
 /// Shows the box and waits for the user. Closing it without a button counts as its last button.
 BoxAnswer show(std::string_view text, std::string_view caption, const std::vector<BoxAnswer>& buttons) {
     // On the heap: the window it belongs to may go while the box is up.
-    QPointer<QMessageBox> box = new QMessageBox(windowBehind());
+    QPointer<QMessageBox> box = new QMessageBox(ownerWindow());
     box->setPalette(lightPalette());
     box->setWindowTitle(toQt(caption));
     box->setTextFormat(Qt::PlainText);

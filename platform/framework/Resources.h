@@ -3,6 +3,7 @@
 #include <span>
 #include <string_view>
 
+#include "platform/framework/DialogTemplate.h"
 #include "platform/windows/Geometry.h"
 #include "platform/windows/Messages.h"
 
@@ -46,6 +47,7 @@ struct ResourceTable {
     std::span<const StringResource> strings;
     std::span<const CursorResource> cursors;
     std::string_view iconName;
+    std::span<const DialogTemplate> dialogs{};
 };
 
 /// Makes the table known to the platform; before any window exists.

@@ -91,6 +91,8 @@ void WindowWidget::leave() {
 }
 
 void moveFocusOut(QWidget& widget) {
+    // The focus of the window behind is still where it was.
+    if (widget.isWindow()) return;
     const QWidget* const focus = widget.window()->focusWidget();
     if (!focus || (focus != &widget && !widget.isAncestorOf(focus))) return;
     QWidget* const above =

@@ -5,9 +5,12 @@
 #include "platform/framework/Resources.h"
 #include "platform/machine/Machine.h"
 #include "platform/text/GreekLiteral.h"
+#include "platform/windows/MessageMap.h"
+#include "src/app/AboutDlg.h"
 #include "src/app/MainFrame.h"
 #include "src/content/KalyxoDoc.h"
 #include "src/content/KalyxoView.h"
+#include "src/resources/CommandIds.h"
 #include "src/resources/ResourceIds.h"
 
 namespace kalyxo {
@@ -28,6 +31,12 @@ CSize screenSize() { return {machine().metric(SM_CXSCREEN), machine().metric(SM_
 const CRuntimeClass CKalyxoApp::runtimeClass{"CKalyxoApp"};
 
 CKalyxoApp& TheApp() { return static_cast<CKalyxoApp&>(CWinApp::instance()); }
+
+const MessageMap* CKalyxoApp::GetMessageMap() const {
+    static constexpr MessageMapEntry entries[] = {OnCommandId<&CKalyxoApp::OnAppAbout>(ID_APP_ABOUT)};
+    static const MessageMap map{CWinApp::GetMessageMap(), entries};
+    return &map;
+}
 
 bool CKalyxoApp::InitInstance() {
     if (!ReadRegistrySettings()) return false;
@@ -86,6 +95,8 @@ void CKalyxoApp::warnOfFewColours() {
     const std::string warning = ColourDepthWarning(machine().screen().bitsPerPixel);
     if (!warning.empty()) AfxMessageBox(warning);
 }
+
+void CKalyxoApp::OnAppAbout() { CAboutDlg(m_versions).DoModal(); }
 
 bool CKalyxoApp::PreTranslateMessage(const MSG& message) {
     if (message.message == WM_RBUTTONDOWN || message.message == WM_RBUTTONUP) return true;

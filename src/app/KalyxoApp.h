@@ -15,6 +15,7 @@ class CKalyxoApp : public platform::CWinApp {
   public:
     static const platform::CRuntimeClass runtimeClass;
     const platform::CRuntimeClass& GetRuntimeClass() const override { return runtimeClass; }
+    const platform::MessageMap* GetMessageMap() const override;
 
     bool InitInstance() override;
     /// Swallows right clicks everywhere, and turns Enter in the browse selection's text field into a message
@@ -33,6 +34,7 @@ class CKalyxoApp : public platform::CWinApp {
     std::string m_strBookmarkFile;
 
   private:
+    void OnAppAbout();
     bool ReadRegistrySettings();
     bool SetUpDataPaths();
     void addDocTemplate();

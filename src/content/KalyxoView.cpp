@@ -16,6 +16,8 @@ namespace {
 
 constexpr UINT kTimerId = 1;
 constexpr COLORREF kBlack = RGB(0, 0, 0);
+/// Shows between the panes while the splitter is dragged away from them.
+constexpr COLORREF kBetweenPanes = RGB(255, 255, 255);
 
 /// Identifiers that components and the splitter put into the second parameter of WM_COMMAND.
 constexpr LPARAM kShowEnlargedView = 9821;
@@ -41,6 +43,7 @@ void CKalyxoView::OnDraw(CDC& dc) {
         OnTimer(kTimerId);
     } else {
         m_bar.DrawBar(dc);
+        if (m_mode == ContentMode::Page) dc.FillSolidRect(PaneLayout{clientSize()}.whole(), kBetweenPanes);
         m_components.select.Invalidate();
         if (m_bLayoutPending) {
             splitterMoved();

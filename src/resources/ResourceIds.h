@@ -13,12 +13,24 @@ inline constexpr platform::UINT IDS_NO_BROWSER = 61218;
 inline constexpr platform::UINT IDS_COMPONENT_OUTDATED = 61226;
 inline constexpr platform::UINT IDS_NO_PERIODIC_TABLE = 61229;
 
+/// Dialog ids.
+inline constexpr platform::UINT IDD_ABOUT = 100;
+
+/// Controls of the About box.
+inline constexpr int IDC_VERSION_DATA_ANALYSER = 1005;
+inline constexpr int IDC_VERSION_SELECT = 1006;
+inline constexpr int IDC_VERSION_PERIODIC_TABLE = 1007;
+inline constexpr int IDC_VERSION_MOLECULE_CONTROLLER = 1008;
+inline constexpr int IDC_VERSION_MOLECULE_ZOOM = 1020;
+
 /// Bitmap ids.
 inline constexpr platform::UINT IDB_SPLITTER_PATTERN = 133;
 inline constexpr platform::UINT IDB_BAR_SHADOW = 188;
 inline constexpr platform::UINT IDB_BAR_SELECTED = 195;
 inline constexpr platform::UINT IDB_BAR_HOVER = 196;
 inline constexpr platform::UINT IDB_BAR_NORMAL = 197;
+inline constexpr platform::UINT IDB_ABOUT_PICTURE = 204;
+inline constexpr platform::UINT IDB_ABOUT_LOGO = 205;
 
 /// Cursor ids.
 inline constexpr platform::UINT IDC_RESIZE_HORIZONTAL = 131;

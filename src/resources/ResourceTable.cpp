@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "src/resources/DialogTable.h"
 #include "src/resources/MenuTable.h"
 #include "src/resources/ResourceIds.h"
 #include "src/resources/StringTable.h"
@@ -25,6 +26,7 @@ const platform::ResourceTable& ProgramResources() {
         .strings = StringTable(),
         .cursors = kCursors,
         .iconName = "kalyxo",
+        .dialogs = DialogTable(),
     };
     return table;
 }

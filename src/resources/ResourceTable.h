@@ -4,7 +4,7 @@
 
 namespace kalyxo {
 
-/// Menu, accelerators and texts of the program.
+/// Menu, accelerators, dialogs and texts of the program.
 const platform::ResourceTable& ProgramResources();
 
 }  // namespace kalyxo

@@ -19,6 +19,7 @@ TEST(ScriptWords, SplitsALine) {
         {"", Words{}},
         {" \t\r", Words{}},
         {"start", Words{"start"}},
+        {"\xEF\xBB\xBFstart", Words{"start"}},
         {"  click 26\t20  frame\r", Words{"click", "26", "20", "frame"}},
         {"type \"Άτομα και ιόντα\"", Words{"type", "Άτομα και ιόντα"}},
         {R"(type "ένα \"δύο\" τρία")", Words{"type", "ένα \"δύο\" τρία"}},

@@ -15,6 +15,8 @@ using namespace platform::literals;
 inline constexpr std::int16_t history = 5;
 inline constexpr std::int16_t elements = 6;
 
+inline std::string text(std::string_view cp1253) { return std::string(cp1253); }
+
 inline formats::BrowseTopic topic(std::int32_t pageId, std::int32_t pageNumber, std::string_view title,
                                   std::vector<formats::BrowseEntry> entries = {}) {
     return {pageId, pageNumber, std::string(title), std::move(entries)};

@@ -90,9 +90,9 @@ class WithoutIndex : public testing::TestWithParam<const char*> {};
 
 TEST_P(WithoutIndex, ListsThePagesOfTheTitleFiles) {
     SelectHost host{std::string_view(GetParam())};
-    const formats::SectionTitleRecord records[] = {{std::string("Τα αλκάλια"_gr), 410010}};
+    const formats::SectionTitleRecord records[] = {{sample::text("Τα αλκάλια"_gr), 410010}};
     host.data.write("elemcomp.dat", *formats::encodeSectionTitles(records));
-    const std::string titles[] = {std::string("Υδρογόνο"_gr), std::string("Ήλιο"_gr)};
+    const std::string titles[] = {sample::text("Υδρογόνο"_gr), sample::text("Ήλιο"_gr)};
     host.data.write("elem.ttl", *formats::encodeTitleList(titles));
     host.initialise();
 
@@ -115,10 +115,13 @@ TEST(SelectControl, TitlesComeFromTheIndexFirst) {
     SelectHost host;
     const formats::SectionTitleRecord records[] = {{"other", 410030}, {"hidden", 410099}};
     host.data.write("elemcomp.dat", *formats::encodeSectionTitles(records));
+    const formats::SectionTitleRecord foreign[] = {{"foreign", 170099}, {"foreign", 410099}};
+    host.data.write("react.dat", *formats::encodeSectionTitles(foreign));
     host.data.write("elem.ttl", *formats::encodeTitleList(std::vector<std::string>(10, "other")));
     host.initialise();
     EXPECT_EQ(host.text(getPageTitle, 410030), "Νερό"_gr);
     EXPECT_EQ(host.text(getPageTitle, 410099), "hidden");
+    EXPECT_EQ(host.text(getPageTitle, 170099), "foreign");
     EXPECT_EQ(host.text(getItemTitle, 10003), "Λίθιο"_gr);
     EXPECT_EQ(host.text(getItemTitle, 10004), "other");
     host.call(showItem, 410020, 20001, false);

@@ -140,6 +140,8 @@ TEST_F(SelectPaneTest, ClicksChooseAndTheMarkerOnlyOpens) {
     click(topic(2), 60);
     EXPECT_TRUE(view().isExpanded(topic(2)));
     EXPECT_EQ(host_.takeEvents(), Lines{"page 410020 410020"});
+    click(topic(2), 5);
+    EXPECT_EQ(host_.takeEvents(), Lines{}) << "the line that the last click chose";
 }
 
 TEST_F(SelectPaneTest, TheMarkSurvivesNarrowing) {
@@ -152,6 +154,16 @@ TEST_F(SelectPaneTest, TheMarkSurvivesNarrowing) {
     press(Qt::Key_Escape);
     EXPECT_EQ(marked(), QStringList{"Νάτριο"});
     EXPECT_TRUE(inSight(view().currentIndex()));
+}
+
+TEST_F(SelectPaneTest, APlaceOpensItsTopicInTheNarrowedListToo) {
+    type("αλκαλ");
+    EXPECT_FALSE(view().isExpanded(topic(0)));
+    host_.call(6, 410010, 10003, false);
+    settle();
+    EXPECT_EQ(marked(), QStringList{"Λίθιο"});
+    press(Qt::Key_Escape);
+    EXPECT_EQ(marked(), QStringList{"Λίθιο"});
 }
 
 TEST_F(SelectPaneTest, APlaceThatTheNarrowedListHidesEndsTheNarrowing) {

@@ -1,8 +1,10 @@
 #include "tools/drive/Controls.h"
 
+#include <QApplication>
 #include <algorithm>
 
 #include "platform/automation/WebPageInspector.h"
+#include "platform/framework/Dialog.h"
 #include "platform/handles/WindowTable.h"
 #include "platform/windows/ControlContainer.h"
 #include "src/resources/CommandIds.h"
@@ -12,6 +14,11 @@
 namespace drive {
 
 using namespace platform;
+
+CDialog* activeDialog() {
+    const HWND window = WindowTable::instance().handleOf(QApplication::activeModalWidget());
+    return dynamic_cast<CDialog*>(CWnd::FromHandle(window));
+}
 
 ControlHost* controlIn(HWND window) { return controlHostOf(window); }
 

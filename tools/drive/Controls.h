@@ -3,11 +3,15 @@
 #include "platform/windows/Messages.h"
 
 namespace platform {
+class CDialog;
 class ControlHost;
 class WebPageInspector;
 }  // namespace platform
 
 namespace drive {
+
+/// The dialog that waits for the user, null when there is none.
+platform::CDialog* activeDialog();
 
 /// The host of the control in this window, null when it holds none.
 platform::ControlHost* controlIn(platform::HWND window);

@@ -1,4 +1,5 @@
-#include <QWidget>
+#include <QApplication>
+#include <QCursor>
 #include <algorithm>
 #include <array>
 
@@ -6,6 +7,7 @@
 #include "tools/drive/CommandTable.h"
 #include "tools/drive/Keyboard.h"
 #include "tools/drive/Numbers.h"
+#include "tools/drive/PageFrame.h"
 #include "tools/drive/Pointer.h"
 #include "tools/drive/Windows.h"
 
@@ -34,6 +36,22 @@ std::optional<Spot> spotOf(Act& act, std::size_t first) {
     return Spot{choice.window, {*x, *y}};
 }
 
+/// A page that has not drawn by then does not react to the input.
+constexpr std::chrono::milliseconds kReactionLimit{250};
+
+/// Input goes on its way in events; behind them, has the answer wait until the web page that receives them,
+/// if one does, has reacted. `receiver` is asked then.
+void awaitReaction(Act& act, QWidget* (*receiver)()) {
+    const auto hold = std::make_shared<Act::Hold>(act);
+    const auto behindInput = [hold, receiver] {
+        QWebEngineView* page = pageAround(receiver());
+        if (page != nullptr) afterNextFrame(*page, kReactionLimit, [hold] {});
+    };
+    QMetaObject::invokeMethod(qApp, behindInput, Qt::QueuedConnection);
+}
+
+QWidget* widgetAtPointer() { return QApplication::widgetAt(QCursor::pos()); }
+
 struct MouseAction {
     std::string_view name;
     void (*perform)(Pointer&);
@@ -55,6 +73,7 @@ void mouse(Act& act, Program&) {
     if (!spot) return;
     Pointer::instance().moveTo(spot->window, spot->point);
     action->perform(Pointer::instance());
+    awaitReaction(act, &widgetAtPointer);
 }
 
 void click(Act& act, Program&) {
@@ -64,18 +83,22 @@ void click(Act& act, Program&) {
     pointer.moveTo(spot->window, spot->point);
     pointer.press(Qt::LeftButton);
     pointer.release(Qt::LeftButton);
+    awaitReaction(act, &widgetAtPointer);
 }
 
 void key(Act& act, Program&) {
     const std::optional<KeyStroke> stroke = keyStrokeOf(act.word(0));
     if (!stroke) return act.fail("no key is named " + act.word(0));
-    if (act.count() == 1) return strikeKey(*stroke, 0);
-    const WindowChoice choice = chooseWindow(&act.word(1));
-    if (choice.window == 0) return act.fail(choice.error);
+    const WindowChoice choice = act.count() == 1 ? WindowChoice() : chooseWindow(&act.word(1));
+    if (!choice.error.empty()) return act.fail(choice.error);
     strikeKey(*stroke, choice.window);
+    awaitReaction(act, &QApplication::focusWidget);
 }
 
-void type(Act& act, Program&) { typeText(act.word(0)); }
+void type(Act& act, Program&) {
+    typeText(act.word(0));
+    awaitReaction(act, &QApplication::focusWidget);
+}
 
 void focus(Act& act, Program&) {
     const WindowChoice choice = chooseWindow(&act.word(0));

@@ -7,7 +7,7 @@
 #include "tools/drive/Act.h"
 #include "tools/drive/CommandTable.h"
 #include "tools/drive/Numbers.h"
-#include "tools/drive/PageFrames.h"
+#include "tools/drive/PageFrame.h"
 #include "tools/drive/Windows.h"
 
 /// What is on show. Pictures are taken of the top-level window, so that what lies over a window is in them.
@@ -21,12 +21,11 @@ namespace {
 QImage shown(HWND window, const CRect& onScreen) {
     QWidget& top = *widgetOf(window).window();
     const QRect part(top.mapFromGlobal(toQt(onScreen.TopLeft())), QSize(onScreen.Width(), onScreen.Height()));
-    awaitPageFrames(top, part);
+    awaitFrames(top, part);
     return top.grab(part).toImage();
 }
 
-/// The window that the act's argument names; fails the act when there is none. Nothing is kept open while the
-/// picture is taken that the event loop could close, so the act is held instead.
+/// The window that the act's argument names; fails the act when there is none.
 HWND windowFor(Act& act, std::size_t index) {
     const WindowChoice choice = chooseWindow(act.count() > index ? &act.word(index) : nullptr);
     if (choice.window == 0) act.fail(choice.error);

@@ -7,11 +7,14 @@
 #include <QWidget>
 #include <map>
 
+#include "platform/framework/Dialog.h"
+#include "platform/framework/DialogControls.h"
 #include "platform/handles/WindowTable.h"
 #include "platform/windows/QtConvert.h"
 #include "platform/windows/Wnd.h"
 #include "src/app/MainFrame.h"
 #include "src/content/KalyxoView.h"
+#include "tools/drive/Controls.h"
 #include "tools/drive/Program.h"
 
 namespace drive {
@@ -39,6 +42,10 @@ HWND find(NamedWindow name) {
 }
 
 HWND find(ControlName name) {
+    if (const CDialog* dialog = activeDialog()) {
+        const QWidget* control = dialogControl(dialog->GetSafeHwnd(), name.id);
+        if (control != nullptr) return table().handleOf(control);
+    }
     const HWND view = find(NamedWindow::view);
     if (view == 0) return 0;
     for (const HWND window : table().all()) {
@@ -57,6 +64,13 @@ QString textOf(const QWidget& widget) {
     if (const auto* label = qobject_cast<const QLabel*>(&widget)) return label->text();
     if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) return combo->currentText();
     return widget.windowTitle();
+}
+
+/// The window that holds another; dialogs belong to nothing.
+HWND parentOf(HWND window) {
+    const QWidget& widget = *table().widget(window);
+    const bool standsAlone = widget.isWindow() && widget.windowType() != Qt::Popup;
+    return standsAlone ? 0 : table().nearestHandle(widget.parentWidget());
 }
 
 using Children = std::multimap<HWND, HWND>;
@@ -105,9 +119,7 @@ CRect outerRect(HWND window) {
 
 Json windowTree() {
     Children children;
-    for (const HWND window : table().all()) {
-        children.emplace(table().nearestHandle(table().widget(window)->parentWidget()), window);
-    }
+    for (const HWND window : table().all()) children.emplace(parentOf(window), window);
     Json tree = Json::array();
     const auto [first, last] = children.equal_range(0);
     for (auto at = first; at != last; ++at) tree.push_back(windowJson(at->second, children));

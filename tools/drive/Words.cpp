@@ -5,6 +5,8 @@ namespace drive {
 namespace {
 
 constexpr std::string_view kBlanks = " \t\r\n";
+/// Some editors begin a UTF-8 file with it.
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 bool isBlank(char c) { return kBlanks.find(c) != std::string_view::npos; }
 
@@ -39,6 +41,7 @@ std::string takePlain(std::string_view& rest) {
 std::optional<std::vector<std::string>> splitWords(std::string_view line) {
     std::vector<std::string> words;
     std::string_view rest = line;
+    if (rest.starts_with(kByteOrderMark)) rest.remove_prefix(kByteOrderMark.size());
     while (true) {
         const std::size_t start = rest.find_first_not_of(kBlanks);
         if (start == std::string_view::npos || rest[start] == '#') return words;

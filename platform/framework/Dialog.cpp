@@ -1,0 +1,90 @@
+#include "platform/framework/Dialog.h"
+
+#include <QPointer>
+#include <algorithm>
+
+#include "platform/framework/DialogControls.h"
+#include "platform/framework/DialogWidget.h"
+#include "platform/framework/LightPalette.h"
+#include "platform/framework/OwnerWindow.h"
+#include "platform/framework/Resources.h"
+#include "platform/windows/MessageMap.h"
+
+namespace platform {
+
+namespace {
+
+constexpr int noDialog = -1;
+constexpr WPARAM escapeKey = 27;
+
+const DialogTemplate* findTemplate(UINT id) {
+    const auto dialogs = Resources().dialogs;
+    const auto found = std::ranges::find(dialogs, id, &DialogTemplate::id);
+    return found == dialogs.end() ? nullptr : &*found;
+}
+
+COLORREF background() {
+    const QColor colour = lightPalette().color(QPalette::Window);
+    return RGB(static_cast<unsigned>(colour.red()), static_cast<unsigned>(colour.green()),
+               static_cast<unsigned>(colour.blue()));
+}
+
+}  // namespace
+
+const MessageMap* CDialog::GetMessageMap() const {
+    static constexpr MessageMapEntry entries[] = {
+        OnCommandId<&CDialog::ok>(IDOK),
+        OnCommandId<&CDialog::cancel>(IDCANCEL),
+    };
+    static const MessageMap map{CWnd::GetMessageMap(), entries};
+    return &map;
+}
+
+int CDialog::DoModal() {
+    const DialogTemplate* const drawnUp = findTemplate(m_nTemplate);
+    if (!drawnUp || GetSafeHwnd() != 0) return noDialog;
+    m_nResult = IDCANCEL;
+    const QPointer<QWidget> owner = ownerWindow();
+    auto* const widget = new DialogWidget(*this, *drawnUp, owner);
+    if (OnInitDialog()) widget->focusFirstControl();
+    widget->runModal();
+    DestroyWindow();
+    if (owner) owner->activateWindow();
+    return m_nResult;
+}
+
+void CDialog::EndDialog(int result) {
+    auto* const widget = dynamic_cast<DialogWidget*>(WindowWidget::of(*this));
+    if (!widget) return;
+    m_nResult = result;
+    widget->finish();
+}
+
+void CDialog::SetDlgItemText(int id, std::string_view text) {
+    if (QWidget* const control = dialogControl(GetSafeHwnd(), id)) setControlText(*control, text);
+}
+
+std::string CDialog::GetDlgItemText(int id) const {
+    const QWidget* const control = dialogControl(GetSafeHwnd(), id);
+    return control ? controlText(*control) : std::string();
+}
+
+LRESULT CDialog::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_ERASEBKGND:
+            if (wParam == 0) return 0;
+            reinterpret_cast<CDC*>(wParam)->FillSolidRect(GetClientRect(), background());
+            return 1;
+        case WM_KEYDOWN:
+            if (wParam == VK_RETURN) pushDefaultButton(GetSafeHwnd());
+            if (wParam == escapeKey) SendMessage(WM_COMMAND, IDCANCEL);
+            return 0;
+        case WM_CLOSE:
+            SendMessage(WM_COMMAND, IDCANCEL);
+            return 0;
+        default:
+            return CWnd::DefWindowProc(message, wParam, lParam);
+    }
+}
+
+}  // namespace platform

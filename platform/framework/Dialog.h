@@ -1,0 +1,49 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/framework/DialogTemplate.h"
+#include "platform/windows/Wnd.h"
+
+namespace platform {
+
+/// A dialog made from a template of the program's resources. Buttons send their ids as commands; Enter
+/// pushes the button with the focus, else the default button, and Escape or closing the window is the
+/// command IDCANCEL.
+class CDialog : public CWnd {
+  public:
+    explicit CDialog(UINT templateId) : m_nTemplate(templateId) {}
+    const MessageMap* GetMessageMap() const override;
+
+    /// Shows the dialog in the middle of its owner (the active window, else the frame) and returns when it is
+    /// ended: what EndDialog was given, or IDCANCEL when its window went without that, or −1 when there is no
+    /// such template or the dialog is open already.
+    int DoModal();
+    /// Ends DoModal.
+    void EndDialog(int result);
+
+    UINT GetTemplateId() const { return m_nTemplate; }
+
+    /// Both do nothing, or give nothing, when there is no control of this id.
+    void SetDlgItemText(int id, std::string_view text);
+    std::string GetDlgItemText(int id) const;
+
+  protected:
+    /// The controls are there and nothing is on show yet. True gives the focus to the first control that
+    /// takes it, false leaves it.
+    virtual bool OnInitDialog() { return true; }
+    virtual void OnOK() { EndDialog(IDOK); }
+    virtual void OnCancel() { EndDialog(IDCANCEL); }
+
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+  private:
+    void ok() { OnOK(); }
+    void cancel() { OnCancel(); }
+
+    UINT m_nTemplate;
+    int m_nResult = IDCANCEL;
+};
+
+}  // namespace platform

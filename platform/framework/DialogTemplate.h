@@ -1,0 +1,57 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "platform/windows/Geometry.h"
+#include "platform/windows/Messages.h"
+
+namespace platform {
+
+/// The ids of the buttons that every dialog knows, and what DoModal returns for them.
+inline constexpr int IDOK = 1;
+inline constexpr int IDCANCEL = 2;
+/// The id of controls that nobody asks for.
+inline constexpr int IDC_STATIC = -1;
+
+enum class DialogControlKind { pushButton, defaultPushButton, staticText, bitmap };
+
+/// A control of a template.
+struct DialogControl {
+    DialogControlKind kind = DialogControlKind::staticText;
+    int id = IDC_STATIC;
+    CRect rect;             ///< dialog units; a bitmap takes its own size instead
+    std::string_view text;  ///< code page 1253
+    UINT bitmap = 0;        ///< resource id, for bitmaps only
+};
+
+/// A dialog as it is drawn up: its controls in the order of the tabulator.
+struct DialogTemplate {
+    UINT id = 0;
+    std::string_view caption;  ///< code page 1253
+    CSize size;                ///< client area, dialog units
+    std::span<const DialogControl> controls;
+};
+
+/// Pixels of one dialog unit times 4 across and times 8 down: the letters of "MS Sans Serif" of 8 points.
+inline constexpr CSize dialogBaseUnits{6, 13};
+
+/// a × b ÷ c for a positive c, rounded to the nearest, halves away from zero.
+constexpr int MulDiv(int a, int b, int c) {
+    const auto product = static_cast<long long>(a) * b;
+    return static_cast<int>((product < 0 ? product - c / 2 : product + c / 2) / c);
+}
+
+/// A size in dialog units as pixels.
+constexpr CSize dialogPixels(CSize units) {
+    return {MulDiv(units.cx, dialogBaseUnits.cx, 4), MulDiv(units.cy, dialogBaseUnits.cy, 8)};
+}
+
+/// A rectangle in dialog units as pixels: corner and size each for itself.
+constexpr CRect dialogPixels(const CRect& units) {
+    const CSize corner = dialogPixels(CSize{units.left, units.top});
+    const CSize size = dialogPixels(CSize{units.Width(), units.Height()});
+    return CRect::at(corner.cx, corner.cy, size.cx, size.cy);
+}
+
+}  // namespace platform

@@ -1,0 +1,10 @@
+#pragma once
+
+class QWidget;
+
+namespace platform {
+
+/// The window before which a dialog or box stands: the active one, else the first that is on show, else none.
+QWidget* ownerWindow();
+
+}  // namespace platform

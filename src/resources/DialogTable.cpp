@@ -1,0 +1,66 @@
+#include "src/resources/DialogTable.h"
+
+#include <array>
+
+#include "platform/text/GreekLiteral.h"
+#include "src/resources/ResourceIds.h"
+
+namespace kalyxo {
+
+using namespace platform::literals;
+using platform::CRect;
+using platform::DialogControl;
+using platform::DialogTemplate;
+using platform::IDC_STATIC;
+using platform::IDOK;
+using Kind = platform::DialogControlKind;
+
+namespace {
+
+constexpr DialogControl label(const CRect& rect, std::string_view text) {
+    return {Kind::staticText, IDC_STATIC, rect, text};
+}
+
+constexpr DialogControl bitmap(int x, int y, platform::UINT id) {
+    return {Kind::bitmap, IDC_STATIC, CRect::at(x, y, 0, 0), {}, id};
+}
+
+/// The lines of the About box with a component's version.
+constexpr int kVersionLine = 9;
+constexpr int versionTop(int line) { return 27 + line * kVersionLine; }
+
+constexpr DialogControl versionLabel(int line, std::string_view text) {
+    return label(CRect::at(50, versionTop(line), 70, 8), text);
+}
+
+constexpr DialogControl version(int line, int id) {
+    return {Kind::staticText, id, CRect::at(121, versionTop(line), 34, 8), "?"};
+}
+
+constexpr std::array kAbout = {
+    DialogControl{Kind::defaultPushButton, IDOK, CRect::at(160, 57, 50, 14), "OK"},
+    bitmap(7, 7, IDB_ABOUT_PICTURE),
+    bitmap(145, 7, IDB_ABOUT_LOGO),
+    label(CRect::at(50, 7, 90, 8), "Kalyxo v1.1"),
+    label(CRect::at(50, 16, 90, 8), "© Orvane"_gr),
+    versionLabel(0, "Data Analyser :"),
+    version(0, IDC_VERSION_DATA_ANALYSER),
+    versionLabel(1, "Periodic Table :"),
+    version(1, IDC_VERSION_PERIODIC_TABLE),
+    versionLabel(2, "Browse Selection :"),
+    version(2, IDC_VERSION_SELECT),
+    versionLabel(3, "Mol Controller :"),
+    version(3, IDC_VERSION_MOLECULE_CONTROLLER),
+    versionLabel(4, "Molecule Zoom :"),
+    version(4, IDC_VERSION_MOLECULE_ZOOM),
+};
+
+constexpr std::array kDialogs = {
+    DialogTemplate{IDD_ABOUT, "Πληροφορίες για Kalyxo"_gr, {217, 78}, kAbout},
+};
+
+}  // namespace
+
+std::span<const DialogTemplate> DialogTable() { return kDialogs; }
+
+}  // namespace kalyxo

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <span>
+
+#include "platform/framework/DialogTemplate.h"
+
+namespace kalyxo {
+
+/// The program's dialogs.
+std::span<const platform::DialogTemplate> DialogTable();
+
+}  // namespace kalyxo

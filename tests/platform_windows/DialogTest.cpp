@@ -1,0 +1,205 @@
+#include "platform/framework/Dialog.h"
+
+#include <QApplication>
+#include <QTest>
+#include <QTimer>
+#include <array>
+
+#include "platform/framework/Resources.h"
+#include "platform/framework/Shell.h"
+#include "platform/handles/WindowTable.h"
+#include "platform/text/GreekLiteral.h"
+#include "platform/windows/MessageMap.h"
+#include "tests/platform_windows/TestProgram.h"
+
+namespace windows_test {
+
+using namespace platform;
+using namespace platform::literals;
+
+namespace {
+
+constexpr UINT idTemplate = 500;
+constexpr int idText = 1001;
+constexpr int idOther = 1002;
+
+constexpr std::array controls = {
+    DialogControl{DialogControlKind::staticText, idText, CRect::at(7, 7, 60, 8), "Αρχή"_gr},
+    DialogControl{DialogControlKind::defaultPushButton, IDOK, CRect::at(90, 7, 50, 14), "OK"},
+    DialogControl{DialogControlKind::pushButton, IDCANCEL, CRect::at(90, 24, 50, 14), "Άκυρο"_gr},
+    DialogControl{DialogControlKind::pushButton, idOther, CRect::at(90, 41, 50, 14), "Άλλο"_gr},
+    DialogControl{DialogControlKind::bitmap, IDC_STATIC, CRect::at(7, 20, 0, 0), {}, 1},
+};
+constexpr std::array dialogs = {DialogTemplate{idTemplate, "Διάλογος"_gr, {147, 62}, controls}};
+
+class TestDialog : public CDialog {
+  public:
+    explicit TestDialog(UINT id = idTemplate) : CDialog(id) {}
+    static constexpr CRuntimeClass runtimeClass{"TestDialog"};
+    const CRuntimeClass& GetRuntimeClass() const override { return runtimeClass; }
+    const MessageMap* GetMessageMap() const override {
+        static constexpr MessageMapEntry entries[] = {
+            OnMessage<WM_LBUTTONDOWN, &TestDialog::onClick>(),
+            OnCommandId<&TestDialog::onOther>(idOther),
+        };
+        static const MessageMap map{CDialog::GetMessageMap(), entries};
+        return &map;
+    }
+    bool endsAtOnce = false;
+
+  protected:
+    bool OnInitDialog() override {
+        SetDlgItemText(idText, "Τέλος"_gr);
+        SetDlgItemText(77, "nobody");
+        if (endsAtOnce) EndDialog(idOther);
+        return CDialog::OnInitDialog();
+    }
+
+  private:
+    void onClick(UINT, CPoint p) {
+        Log::instance().add("click " + std::to_string(p.x) + "," + std::to_string(p.y));
+    }
+    void onOther() { Log::instance().add("other"); }
+};
+
+class DialogTest : public ProgramTest {
+  protected:
+    DialogTest() {
+        ResourceTable resources = Resources();
+        resources.dialogs = dialogs;
+        SetResources(resources);
+    }
+
+    /// Shows the dialog before the frame and runs `use` once it is up.
+    int show(const std::function<void()>& use) {
+        if (!app().GetMainWnd()) open();
+        QTimer::singleShot(0, [&] {
+            settle();
+            use();
+        });
+        return dialog_.DoModal();
+    }
+    void key(Qt::Key key) {
+        QTest::sendKeyEvent(QTest::Click, widgetOf(dialog_).windowHandle(), key, QString(), Qt::NoModifier);
+    }
+    void click(int x, int y) {
+        press(dialog_, x, y);
+        release(dialog_, x, y);
+    }
+
+    TestDialog dialog_;
+};
+
+TEST(DialogUnits, BecomePixels) {
+    struct Case {
+        CSize units;
+        CSize pixels;
+    };
+    constexpr Case cases[] = {{{4, 8}, {6, 13}},       {{0, 0}, {0, 0}},     {{145, 7}, {218, 11}},
+                              {{1, 4}, {2, 7}},        {{-1, -4}, {-2, -7}}, {{347, 226}, {521, 367}},
+                              {{10000, 1}, {15000, 2}}};
+    for (const Case& row : cases) EXPECT_EQ(dialogPixels(row.units), row.pixels) << row.units.cx;
+    EXPECT_EQ(MulDiv(2000000, 3000, 4), 1500000000);
+}
+
+TEST_F(DialogTest, ShowsItsTemplateInTheMiddleOfTheFrame) {
+    show([&] {
+        const CRect place = dialog_.GetWindowRect();
+        EXPECT_EQ(dialog_.GetClientRect(), CRect(0, 0, 221, 101));
+        EXPECT_NEAR(place.left + place.right, 100 + 740, 2);
+        EXPECT_NEAR(place.top + place.bottom, 80 + 560, 2);
+        EXPECT_EQ(dialog_.GetWindowText(), "Διάλογος"_gr);
+        EXPECT_EQ(dialog_.GetDlgItemText(idText), "Τέλος"_gr);
+        EXPECT_EQ(dialog_.GetDlgItemText(IDCANCEL), "Άκυρο"_gr);
+        EXPECT_EQ(dialog_.GetDlgItemText(77), "");
+        const WindowEntry* focus = WindowTable::instance().find(GetFocus());
+        ASSERT_NE(focus, nullptr);
+        EXPECT_EQ(focus->id, IDOK);
+        EXPECT_EQ(focus->className, "Button");
+        EXPECT_EQ(focus->widget->geometry(), QRect(135, 11, 75, 23));
+        dialog_.EndDialog(IDOK);
+    });
+}
+
+TEST_F(DialogTest, EndsByButtonsKeysAndItsOwnCaption) {
+    const auto at = [&](int x, int y) { return [this, x, y] { click(x, y); }; };
+    struct Case {
+        const char* name;
+        std::function<void()> act;
+        int result;
+    };
+    const Case cases[] = {
+        {"OK", at(140, 20), IDOK},
+        {"Cancel", at(140, 45), IDCANCEL},
+        {"Enter", [&] { key(Qt::Key_Return); }, IDOK},
+        {"Escape", [&] { key(Qt::Key_Escape); }, IDCANCEL},
+        {"Enter on Cancel",
+         [&] {
+             key(Qt::Key_Tab);
+             key(Qt::Key_Enter);
+         },
+         IDCANCEL},
+        {"Enter in the empty",
+         [&] {
+             widgetOf(dialog_).setFocus();
+             key(Qt::Key_Return);
+         },
+         IDOK},
+        {"close", [&] { widgetOf(dialog_).close(); }, IDCANCEL},
+        {"value of its own", [&] { dialog_.EndDialog(42); }, 42},
+    };
+    for (const Case& row : cases) {
+        EXPECT_EQ(show(row.act), row.result) << row.name;
+        settle();
+        EXPECT_EQ(dialog_.GetSafeHwnd(), 0) << row.name;
+        EXPECT_EQ(GetFocus(), view().GetSafeHwnd()) << row.name;
+    }
+}
+
+TEST_F(DialogTest, ClicksAndButtonsReachItsMap) {
+    show([&] {
+        log().clear();
+        click(5, 90);
+        click(12, 14);  // on a text
+        click(12, 34);  // on a picture
+        click(140, 75);
+        EXPECT_EQ(log().lines({"click", "other"}),
+                  (std::vector<std::string>{"click 5,90", "click 12,14", "click 12,34", "other"}));
+        dialog_.EndDialog(IDOK);
+    });
+}
+
+TEST_F(DialogTest, KeepsTheFrameFromInput) {
+    show([&] {
+        log().clear();
+        press(view(), 3, 3);
+        release(view(), 3, 3);
+        EXPECT_EQ(log().count("view WM_LBUTTONDOWN"), 0U);
+        dialog_.EndDialog(IDOK);
+    });
+}
+
+TEST_F(DialogTest, EndsWithTheFrame) {
+    EXPECT_EQ(show([&] { frame().DestroyWindow(); }), IDCANCEL);
+    EXPECT_EQ(dialog_.GetSafeHwnd(), 0);
+}
+
+TEST_F(DialogTest, IsNotShownWhenItEndsAtOnceOrHasNoTemplate) {
+    dialog_.endsAtOnce = true;
+    EXPECT_EQ(dialog_.DoModal(), idOther);
+    EXPECT_EQ(TestDialog(501).DoModal(), -1);
+}
+
+TEST_F(DialogTest, ShellIsRecordedAndStartsNothingInVirtualTime) {
+    machine_.setVirtualTime(true);
+    ShellExecute("open", "notepad.exe", "M:\\1.htm", "c:\\");
+    const std::vector<TraceEntry> told = machine_.trace().take();
+    ASSERT_EQ(told.size(), 1U);
+    const auto* const shell = std::get_if<TraceShell>(told.data());
+    ASSERT_NE(shell, nullptr);
+    EXPECT_EQ(shell->file + "|" + shell->parameters + "|" + shell->folder, "notepad.exe|M:\\1.htm|c:\\");
+}
+
+}  // namespace
+
+}  // namespace windows_test
