@@ -37,6 +37,8 @@ FrameWidget::FrameWidget(CFrameWnd& owner)
 QRect FrameWidget::clientArea() const { return rect().adjusted(0, menuHeight(), 0, 0); }
 
 int FrameWidget::menuHeight() const {
+    // Before the first show the height is still that of the desktop's own font.
+    menuBar_.ensurePolished();
     return menuBar_.actions().isEmpty() ? 0 : menuBar_.heightForWidth(width());
 }
 

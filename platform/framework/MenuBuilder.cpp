@@ -14,9 +14,6 @@ namespace platform {
 
 namespace {
 
-/// Fixed, so that the client area does not depend on the desktop's fonts and style.
-constexpr int barHeight = 22;
-
 constexpr const char* barStyle =
     "QMenuBar { background: #F4F7F9; color: #1c2733; border: none; border-bottom: 1px solid #D8E0E6;"
     " font: 13px 'Liberation Sans'; }"
@@ -66,7 +63,6 @@ void buildMenuBar(QMenuBar& bar, HWND frame) {
     bar.setNativeMenuBar(false);
     bar.setPalette(lightPalette());
     bar.setStyleSheet(barStyle);
-    bar.setFixedHeight(barHeight);
     for (std::size_t i = 0; i < Resources().menu.size(); ++i) addMenu(bar, i, frame);
 }
 

@@ -10,10 +10,8 @@ namespace drive {
 namespace {
 
 /// Notes in order what happens, the idle moment among it.
-class IdleWatchTest : public testing::Test {
+class IdleWatchTest : public EventLoopTest {
   protected:
-    IdleWatchTest() { eventApplication(); }
-
     void later(std::function<void()> step) {
         QMetaObject::invokeMethod(&m_context, std::move(step), Qt::QueuedConnection);
     }

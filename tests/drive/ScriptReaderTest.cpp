@@ -13,10 +13,9 @@ namespace drive {
 namespace {
 
 /// A reader at one end of a pipe that takes every line but empty ones.
-class ScriptReaderTest : public testing::Test {
+class ScriptReaderTest : public EventLoopTest {
   protected:
     ScriptReaderTest() {
-        eventApplication();
         EXPECT_EQ(::pipe2(m_pipe.data(), O_CLOEXEC), 0);
         m_reader = std::make_unique<ScriptReader>(
             m_pipe[0], [this](const std::string& line) { return take(line); },
