@@ -53,6 +53,7 @@ void WebPage::go(const QUrl& asking, const QUrl& url) {
     const bool passed = gate_(asking, target);
     if (!alive || !passed) return;
     startLoading();
+    target_ = target;
     load(target);
 }
 
@@ -101,9 +102,12 @@ void WebPage::finished() {
 
 void WebPage::settle(bool leadsOn) {
     if (isLoading()) return;
-    if (leadsOn) {
+    // The end of an earlier load may be told after a later one was asked for.
+    const bool isEarlier = !target_.isEmpty() && normalisedUrl(url()) != target_;
+    if (leadsOn || isEarlier) {
         redirectLimit_.start();
     } else {
+        redirectLimit_.stop();
         loading_ = false;
     }
 }

@@ -51,6 +51,7 @@ class WebPage : public QWebEnginePage {
     // A new one for each load: the engine's answers about an earlier page, or to a page that has gone since,
     // are told from it.
     std::shared_ptr<int> load_ = std::make_shared<int>();
+    QUrl target_;  // of the load asked for last
     bool loading_ = false;
 };
 

@@ -27,7 +27,7 @@ constexpr DialogControl bitmap(int x, int y, platform::UINT id) {
 
 /// The lines of the About box with a component's version.
 constexpr int kVersionLine = 9;
-constexpr int versionTop(int line) { return 27 + line * kVersionLine; }
+constexpr int versionTop(int line) { return 30 + line * kVersionLine; }
 
 constexpr DialogControl versionLabel(int line, std::string_view text) {
     return label(CRect::at(50, versionTop(line), 70, 8), text);
@@ -38,8 +38,8 @@ constexpr DialogControl version(int line, int id) {
 }
 
 constexpr std::array kAbout = {
-    DialogControl{Kind::defaultPushButton, IDOK, CRect::at(160, 57, 50, 14), "OK"},
-    bitmap(7, 7, IDB_ABOUT_PICTURE),
+    DialogControl{Kind::defaultPushButton, IDOK, CRect::at(160, 60, 50, 14), "OK"},
+    bitmap(7, 9, IDB_ABOUT_PICTURE),
     bitmap(145, 7, IDB_ABOUT_LOGO),
     label(CRect::at(50, 7, 90, 8), "Kalyxo v1.1"),
     label(CRect::at(50, 16, 90, 8), "© Orvane"_gr),
@@ -56,7 +56,7 @@ constexpr std::array kAbout = {
 };
 
 constexpr std::array kDialogs = {
-    DialogTemplate{IDD_ABOUT, "Πληροφορίες για Kalyxo"_gr, {217, 78}, kAbout},
+    DialogTemplate{IDD_ABOUT, "Πληροφορίες για Kalyxo"_gr, {217, 81}, kAbout},
 };
 
 }  // namespace
