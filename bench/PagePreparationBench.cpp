@@ -12,7 +12,8 @@
 #include "platform/files/FileSystem.h"
 #include "src/content/PagePreparer.h"
 
-/// Preparing 2,000 pages of 8 KB on a memory file system, beside a plain read-and-write copy of the same files.
+/// Preparing 2,000 pages of 8 KB on a memory file system, beside a plain read-and-write copy of the same
+/// files.
 namespace {
 
 namespace fs = std::filesystem;
