@@ -48,6 +48,9 @@ QScrollBar::add-page, QScrollBar::sub-page { background: #f3f6f9; }
 QToolTip { background: #1f4e6b; color: #ffffff; border: 1px solid #1f4e6b; padding: 4px; }
 )";
 
+// What is made here belongs to its Qt parent.
+// NOLINTBEGIN(cppcoreguidelines-owning-memory)
+
 QButtonGroup* makeUnits(QWidget* parent) {
     auto* group = new QButtonGroup(parent);
     const auto add = [&](TemperatureUnit unit, const QString& sign, const QString& name) {
@@ -105,6 +108,8 @@ QWidget* AnalyserPane::makeStrip() {
     row->addLayout(buttons);
     return strip;
 }
+
+// NOLINTEND(cppcoreguidelines-owning-memory)
 
 QSize AnalyserPane::sizeHint() const { return {1016, 640}; }
 

@@ -33,7 +33,7 @@ bool fits(const QString& words, const QSize& area, int pixels) {
 
 void paintArrow(QPainter& painter, const QRect& area, bool descending) {
     constexpr int half = 4;
-    const QPointF middle(area.center().x(), area.bottom() - arrowSpace / 2);
+    const QPointF middle(area.center().x(), area.bottom() - arrowSpace / 2.0);
     const double tip = descending ? half / 2.0 : -half / 2.0;
     QPainterPath arrow(middle + QPointF(0, tip));
     arrow.lineTo(middle + QPointF(-half, -tip));

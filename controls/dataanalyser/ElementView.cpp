@@ -21,8 +21,7 @@ constexpr int rowPixels = 24;
 
 ElementView::ElementView(std::function<void()> copy, QWidget* parent)
     : QTableView(parent), copy_(std::move(copy)), elements_(new ElementModel(this)) {
-    setHorizontalHeader(new ElementHeader(this));
-    setItemDelegate(new RowDelegate(this));
+    setItemDelegate(new RowDelegate(this));  // NOLINT(cppcoreguidelines-owning-memory): its parent owns it
     setModel(elements_);
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
@@ -37,14 +36,20 @@ ElementView::ElementView(std::function<void()> copy, QWidget* parent)
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(rowPixels);
-    QHeaderView* headings = horizontalHeader();
+    setUpHeadings();
+    clock_.start();
+    setOrder({});
+}
+
+void ElementView::setUpHeadings() {
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): its parent owns it
+    auto* headings = new ElementHeader(this);
+    setHorizontalHeader(headings);
     connect(headings, &QHeaderView::sectionClicked, this, [this](int section) { sortBy(section); });
     connect(headings, &QHeaderView::sectionResized, this,
             [this](int section, int, int pixels) { setWidth(section, pixels); });
     connect(headings, &QHeaderView::sectionHandleDoubleClicked, this,
             [this](int section) { setWidth(section, ColumnWidths::automatic); });
-    clock_.start();
-    setOrder({});
 }
 
 void ElementView::setOrder(const RowOrder& order) {

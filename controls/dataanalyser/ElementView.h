@@ -47,6 +47,7 @@ class ElementView : public QTableView {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    void setUpHeadings();
     int numberAt(int row) const;
     void showWidths();
     void setWidth(int section, int pixels);

@@ -1,6 +1,7 @@
 #include "controls/dataanalyser/RowOrder.h"
 
 #include <algorithm>
+#include <compare>
 #include <string>
 #include <utility>
 
@@ -26,7 +27,7 @@ bool before(const SortKey& a, const SortKey& b, bool descending) {
     if (a.number.has_value() != b.number.has_value()) return a.number.has_value();
     if (!a.number) return false;
     const auto order = std::pair(*a.number, a.words) <=> std::pair(*b.number, b.words);
-    return descending ? order > 0 : order < 0;
+    return descending ? std::is_gt(order) : std::is_lt(order);
 }
 
 }  // namespace

@@ -32,7 +32,7 @@ QString matterText(Matter matter) {
 
 QString blockLetter(Block block) {
     constexpr const char* letters = "spdf";
-    return QString(QLatin1Char(letters[static_cast<int>(block)]));
+    return {QLatin1Char(letters[static_cast<int>(block)])};
 }
 
 void drawFitting(QPainter& painter, const QRect& area, const QString& text, int pixels,

@@ -12,9 +12,6 @@ namespace platform {
 
 class CFrameWnd;
 
-class CWinApp;
-int EndProgram(CWinApp& app);
-
 /// Buttons of a message box.
 enum class BoxButtons { ok, yesNo };
 

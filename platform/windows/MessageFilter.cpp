@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <QWindow>
+#include <memory>
 #include <utility>
 
 #include "platform/handles/WindowTable.h"
@@ -157,7 +158,7 @@ void setInputHooks(InputHooks hooks) { currentHooks = std::move(hooks); }
 
 void installMessageFilter() {
     static QPointer<MessageFilter> filter;
-    if (!filter && qApp) filter = new MessageFilter(*qApp);
+    if (!filter && qApp) filter = std::make_unique<MessageFilter>(*qApp).release();
 }
 
 Qt::KeyboardModifiers inputModifiers() { return currentModifiers; }

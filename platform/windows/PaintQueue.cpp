@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QPointer>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -17,9 +18,11 @@ const auto deliverEvent = static_cast<QEvent::Type>(QEvent::registerEventType())
 /// Lives as long as the application object.
 class PaintQueue : public QObject {
   public:
+    explicit PaintQueue(QObject* application) : QObject(application) {}
+
     static PaintQueue& instance() {
         static QPointer<PaintQueue> queue;
-        if (!queue) queue = new PaintQueue(qApp);
+        if (!queue) queue = std::make_unique<PaintQueue>(qApp).release();
         return *queue;
     }
 
@@ -28,7 +31,8 @@ class PaintQueue : public QObject {
             if (waiting == &widget) return;
         }
         if (waiting_.empty()) {
-            QCoreApplication::postEvent(this, new QEvent(deliverEvent), Qt::LowEventPriority);
+            QCoreApplication::postEvent(this, std::make_unique<QEvent>(deliverEvent).release(),
+                                        Qt::LowEventPriority);
         }
         waiting_.emplace_back(&widget);
     }
@@ -47,7 +51,6 @@ class PaintQueue : public QObject {
     }
 
   private:
-    explicit PaintQueue(QObject* application) : QObject(application) {}
     std::vector<QPointer<SurfaceWidget>> waiting_;
 };
 

@@ -23,9 +23,9 @@ class CKalyxoApp : public platform::CWinApp {
     bool PreTranslateMessage(const platform::MSG& message) override;
 
     bool m_bOutsideInstallFolder = false;
-    int m_nSplitterPos = 0;       ///< left edge of the splitter in view pixels
-    platform::CRect m_rcFrame;    ///< main frame, outer rectangle in screen pixels
-    int m_nFrameState = 0;        ///< kFrameNormal or kFrameMaximised
+    int m_nSplitterPos = 0;     ///< left edge of the splitter in view pixels
+    platform::CRect m_rcFrame;  ///< main frame, outer rectangle in screen pixels
+    int m_nFrameState = 0;      ///< kFrameNormal or kFrameMaximised
     platform::HWND m_hwndSelectTarget = 0;
     platform::HWND m_hwndSelectEdit = 0;
     std::string m_strProgramFolder;  ///< no trailing backslash

@@ -12,8 +12,8 @@ namespace kalyxo {
 /// Name of the enlarged page in the cache folder.
 inline constexpr std::string_view kEnlargedPage = "bigvid.htm";
 
-/// Writes the page that shows a video large. `videoText` begins with the video's address, which a double quote
-/// ends; without one nothing is written. A page that cannot be written is passed over.
+/// Writes the page that shows a video large. `videoText` begins with the video's address, which a double
+/// quote ends; without one nothing is written. A page that cannot be written is passed over.
 void WriteEnlargedVideoPage(const platform::FileSystem& files, const std::string& enlargedPage,
                             std::string_view videoText);
 

@@ -22,7 +22,8 @@ constexpr std::string_view kBody = "<BODY ";
 constexpr std::string_view kCredit = "2001 Orvane Press";
 
 /// Each text that is looked for in a line has a byte that is rare in pages; a line without any of these
-/// bytes needs no closer look. A hyphen or a "P" alone is common enough to be asked for together with another.
+/// bytes needs no closer look. A hyphen or a "P" alone is common enough to be asked for together with
+/// another.
 enum ByteTrait : std::uint8_t { kNone = 0, kAlways = 1, kHyphen = 2, kFive = 4, kLetterP = 8, kLetterO = 16 };
 
 constexpr std::array<std::uint8_t, 256> kTraits = [] {

@@ -11,8 +11,8 @@ namespace kalyxo {
 /// of the area are inclusive.
 struct MainMenuArea {
     int left, right, top, bottom;
-    std::string_view picture;                      ///< name of the preview's file
-    std::array<platform::CRect, 2> connectors;     ///< lines from the area to the panel
+    std::string_view picture;                   ///< name of the preview's file
+    std::array<platform::CRect, 2> connectors;  ///< lines from the area to the panel
 
     constexpr bool Contains(platform::CPoint p) const {
         return p.x >= left && p.x <= right && p.y >= top && p.y <= bottom;

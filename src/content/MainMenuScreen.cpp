@@ -19,7 +19,8 @@ constexpr std::array kLoadOrder = {7, 8, 0, 1, 3, 2, 4, 5, 6};
 void MainMenuScreen::LoadPictures(const platform::FileSystem& files, std::string_view folder,
                                   const Report& report) {
     const auto load = [&](Picture& picture, std::string_view name) {
-        const PictureResult result = picture.LoadPicture(files, std::string(folder).append(name).append(".bmp"));
+        const PictureResult result =
+            picture.LoadPicture(files, std::string(folder).append(name).append(".bmp"));
         if (result != PictureResult::loaded && result != PictureResult::missing) report(result);
     };
     load(m_background, MainMenuLayout::kPicture);

@@ -15,8 +15,8 @@ struct CacheLocation {
     bool removeAtEnd = false;
 };
 
-/// In the program folder, or in the temporary folder when the program runs outside its installed folder, where
-/// it is removed at the end.
+/// In the program folder, or in the temporary folder when the program runs outside its installed folder,
+/// where it is removed at the end.
 CacheLocation LocateCache(std::string_view programFolder, std::string_view tempFolder,
                           bool outsideInstallFolder);
 

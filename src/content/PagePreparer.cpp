@@ -54,7 +54,7 @@ PagePreparer::PagePreparer(const platform::FileSystem& files, std::string dataFo
     : m_files(files), m_strDataFolder(std::move(dataFolder)), m_strCacheFolder(std::move(cacheFolder)) {}
 
 PrepareResult PagePreparer::PreparePage(const std::string& source, const std::string& target,
-                                    PageContents& contents) const {
+                                        PageContents& contents) const {
     std::optional<TextReader> reader = TextReader::open(m_files, source);
     if (!reader) return PrepareResult::noSource;
     std::optional<TextWriter> writer = TextWriter::open(m_files, target);

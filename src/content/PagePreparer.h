@@ -26,7 +26,8 @@ class PagePreparer {
     PagePreparer(const platform::FileSystem& files, std::string dataFolder, std::string cacheFolder);
 
     /// Writes the page `source` as `target`. `contents` is set only when the page was prepared.
-    PrepareResult PreparePage(const std::string& source, const std::string& target, PageContents& contents) const;
+    PrepareResult PreparePage(const std::string& source, const std::string& target,
+                              PageContents& contents) const;
 
   private:
     const platform::FileSystem& m_files;

@@ -36,8 +36,6 @@ class Picture {
 };
 
 /// Length of a row in bytes: three a pixel, rounded up to a multiple of 4.
-constexpr std::uint64_t PictureStride(std::uint32_t width) {
-    return (std::uint64_t{width} * 3 + 3) / 4 * 4;
-}
+constexpr std::uint64_t PictureStride(std::uint32_t width) { return (std::uint64_t{width} * 3 + 3) / 4 * 4; }
 
 }  // namespace kalyxo

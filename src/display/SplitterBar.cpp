@@ -132,8 +132,8 @@ void CSplitterBar::notifyParent() {
 void CSplitterBar::paintRaised(CDC& dc) const {
     const CRect client = GetClientRect();
     for (int line = 0; line < kThickness; ++line) {
-        const CRect rect = m_bHorizontal ? CRect::at(0, line, client.Width(), 1)
-                                         : CRect::at(line, 0, 1, client.Height());
+        const CRect rect =
+            m_bHorizontal ? CRect::at(0, line, client.Width(), 1) : CRect::at(line, 0, 1, client.Height());
         dc.FillSolidRect(rect, kRaised[static_cast<std::size_t>(line)]);
     }
 }

@@ -71,19 +71,19 @@ constexpr std::array kHelp = {
 };
 
 constexpr std::array kMenu = {
-    Menu{"Αρχείο"_gr, kFile},          Menu{"Επεξεργασία"_gr, kEdit},       Menu{"Μετάβαση"_gr, kGo},
-    Menu{"Επιλογές"_gr, kOptions},     Menu{"Σελιδοδείκτης"_gr, kBookmark}, Menu{"Στο δίκτυο"_gr, kOnline},
+    Menu{"Αρχείο"_gr, kFile},      Menu{"Επεξεργασία"_gr, kEdit},       Menu{"Μετάβαση"_gr, kGo},
+    Menu{"Επιλογές"_gr, kOptions}, Menu{"Σελιδοδείκτης"_gr, kBookmark}, Menu{"Στο δίκτυο"_gr, kOnline},
     Menu{"Βοήθεια"_gr, kHelp},
 };
 
 constexpr std::array kAccelerators = {
-    Accelerator{"Ctrl+C", ID_EDIT_COPY},         Accelerator{"Ctrl+Ins", ID_EDIT_COPY},
-    Accelerator{"Ctrl+X", ID_EDIT_CUT},          Accelerator{"Shift+Del", ID_EDIT_CUT},
-    Accelerator{"Ctrl+V", ID_EDIT_PASTE},        Accelerator{"Shift+Ins", ID_EDIT_PASTE},
-    Accelerator{"Ctrl+Z", ID_EDIT_UNDO},         Accelerator{"Alt+Backspace", ID_EDIT_UNDO},
-    Accelerator{"Ctrl+N", ID_FILE_NEW},          Accelerator{"Ctrl+O", ID_FILE_OPEN},
-    Accelerator{"Ctrl+S", ID_FILE_SAVE},         Accelerator{"F6", ID_NEXT_PANE},
-    Accelerator{"Shift+F6", ID_PREV_PANE},       Accelerator{"Esc", ID_CANCEL_EDIT},
+    Accelerator{"Ctrl+C", ID_EDIT_COPY},   Accelerator{"Ctrl+Ins", ID_EDIT_COPY},
+    Accelerator{"Ctrl+X", ID_EDIT_CUT},    Accelerator{"Shift+Del", ID_EDIT_CUT},
+    Accelerator{"Ctrl+V", ID_EDIT_PASTE},  Accelerator{"Shift+Ins", ID_EDIT_PASTE},
+    Accelerator{"Ctrl+Z", ID_EDIT_UNDO},   Accelerator{"Alt+Backspace", ID_EDIT_UNDO},
+    Accelerator{"Ctrl+N", ID_FILE_NEW},    Accelerator{"Ctrl+O", ID_FILE_OPEN},
+    Accelerator{"Ctrl+S", ID_FILE_SAVE},   Accelerator{"F6", ID_NEXT_PANE},
+    Accelerator{"Shift+F6", ID_PREV_PANE}, Accelerator{"Esc", ID_CANCEL_EDIT},
 };
 
 }  // namespace

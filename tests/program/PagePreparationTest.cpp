@@ -35,16 +35,15 @@ TEST_F(PagePreparation, RewritesEachMarker) {
         {"marker as the last byte", "end\x05", "endD:\\x\\"},
         {"video, only the first", "<EMBED SRC=\"\x04..v.webm\" \x04..w>\n",
          "<EMBED SRC=\"D:\\x\\v.webm\" \x04..w>\r\n"},
-        {"body colours", "<BODY BGCOLOR=\"#FFFFFF\">\n",
-         "<BODY VLINK=\"#0059CA\" BGCOLOR=\"#FFFFFF\">\r\n"},
+        {"body colours", "<BODY BGCOLOR=\"#FFFFFF\">\n", "<BODY VLINK=\"#0059CA\" BGCOLOR=\"#FFFFFF\">\r\n"},
         {"body with own visited colour", "<BODY VLINK=\"#111111\" ALINK=\"#FFFFFF\">\n",
          "<BODY VLINK=\"#111111\" ALINK=\"#0059CA\">\r\n"},
         {"lower-case body stays", "<body ALINK=\"#FFFFFF\">\n", "<body ALINK=\"#FFFFFF\">\r\n"},
         {"capital alpha with tonos", "\xA2\xA2<\xA2>\n", "&#x0386;&#x0386;<&#x0386;>\r\n"},
         {"credit line", "<DIV ALIGN=right>2001 Orvane Press</DIV></DIV>\n", "2001 Orvane Press\r\n"},
-        {"other line with such a wrapper", "<DIV ALIGN=right>Press</DIV>\n", "<DIV ALIGN=right>Press</DIV>\r\n"},
-        {"term", "~G12345678water~G boils\n",
-         "<A HREF=\"pjqbhg12345678.htm\"><U>water</U></A> boils\r\n"},
+        {"other line with such a wrapper", "<DIV ALIGN=right>Press</DIV>\n",
+         "<DIV ALIGN=right>Press</DIV>\r\n"},
+        {"term", "~G12345678water~G boils\n", "<A HREF=\"pjqbhg12345678.htm\"><U>water</U></A> boils\r\n"},
         {"two terms", "~G12345678a~G,~G87654321b~G.\n",
          "<A HREF=\"pjqbhg12345678.htm\"><U>a</U></A>,<A HREF=\"pjqbhg87654321.htm\"><U>b</U></A>.\r\n"},
         {"term without end", "~G12345678water \x05..\n", "~G12345678water D:\\x\\\r\n"},
@@ -95,7 +94,8 @@ TEST_F(PagePreparation, FailuresLeaveTheFlagsAndWriteNothing) {
     const PagePreparer preparer(drives.files, "D:\\", "C:\\");
     EXPECT_EQ(preparer.PreparePage("D:\\missing", "C:\\2.htm", contents), PrepareResult::noSource);
     EXPECT_FALSE(drives.has("C:\\2.htm"));
-    EXPECT_EQ(preparer.PreparePage("D:\\page", "C:\\no\\such\\folder\\2.htm", contents), PrepareResult::noTarget);
+    EXPECT_EQ(preparer.PreparePage("D:\\page", "C:\\no\\such\\folder\\2.htm", contents),
+              PrepareResult::noTarget);
     EXPECT_TRUE(contents.video);
 }
 
@@ -111,9 +111,10 @@ TEST_F(PagePreparation, WritesTheEnlargedMoleculePage) {
     for (int line = 2; line <= 12; ++line) page += "head\n";
     page += "<EMBED SRC=\"\x03..m.mol\" WIDTH=340 HEIGHT=290\nspin\ndisplay=true>\nkept\n</TD>\nlost\n";
     prepare(page);
-    EXPECT_EQ(drives.get("C:\\bigvid.htm"),
-              "<HTML>\r\n<BODY BGCOLOR=\"#000000\">\r\n<EMBED SRC=\"D:\\m.mol\" WIDTH=640 HEIGHT=498\r\nspin\r\n"
-              "display=false\r\nkept\r\n</BODY></HTML>\r\n");
+    EXPECT_EQ(
+        drives.get("C:\\bigvid.htm"),
+        "<HTML>\r\n<BODY BGCOLOR=\"#000000\">\r\n<EMBED SRC=\"D:\\m.mol\" WIDTH=640 HEIGHT=498\r\nspin\r\n"
+        "display=false\r\nkept\r\n</BODY></HTML>\r\n");
     prepare("<HTML>\n\x03..m.mol\n");
     EXPECT_EQ(drives.get("C:\\bigvid.htm"), "<HTML>\r\n<BODY BGCOLOR=\"#000000\">\r\n\r\n</BODY></HTML>\r\n");
 }
