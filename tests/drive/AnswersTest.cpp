@@ -23,12 +23,12 @@ TEST(Answers, TraceTellsEachKindOfEntry) {
                   {std::int64_t{320010}, std::int64_t{0}, false},
                   std::monostate{}},
         TraceCall{1045, "CDataAnal", 2, TraceCallKind::get, "ViewMode", {}, std::int64_t{1}},
-        TraceNavigate{1025, "C:\\Kalyxo\\cache\\1.htm", 14},
+        TraceNavigate{1025, R"(C:\Kalyxo\cache\1.htm)", 14},
         TraceRefused{"D:\\pjqbhgatomo000.htm"},
         TraceSleep{2000},
         TraceShell{"open", "notepad.exe", "a.htm", "c:\\"},
         TracePrint{"page", 2, "print-1.pdf"},
-        TraceRegister{"C:\\Kalyxo\\ActiveX\\kyptgk.ocx"},
+        TraceRegister{R"(C:\Kalyxo\ActiveX\kyptgk.ocx)"},
         TraceClipboard{{"text", "bitmap"}},
     };
     const Json expected = Json::parse(R"([

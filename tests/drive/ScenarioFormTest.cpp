@@ -82,7 +82,7 @@ TEST(ScenarioForm, ReadsEachKindOfLine) {
 TEST(ScenarioForm, MistakesAreNotPassedOver) {
     for (const char* mistake :
          {"#= {\"running\"", "#=", "#! erase d/a.htm", "#! delete", "#! delete a b", "#! write d/a.htm",
-          "#$ edit {\"class\": \"Edit\"}", "#? exists a", "#? file", "#? count c"}) {
+          R"(#$ edit {"class": "Edit"})", "#? exists a", "#? file", "#? count c"}) {
         const Scenario scenario = parseScenario(mistake);
         EXPECT_EQ(scenario.mistakes.size(), 1U) << mistake;
         EXPECT_TRUE(scenario.steps.empty()) << mistake;

@@ -34,6 +34,7 @@ DriverProcess::DriverProcess(const std::vector<std::string>& arguments, const st
     std::array<int, 2> output{-1, -1};
     if (::pipe2(input.data(), O_CLOEXEC) != 0 || ::pipe2(output.data(), O_CLOEXEC) != 0) return;
     std::vector<char*> argv;
+    argv.reserve(arguments.size() + 1);
     for (const std::string& argument : arguments) argv.push_back(const_cast<char*>(argument.c_str()));
     argv.push_back(nullptr);
     // A driver that dies while a line is written shows by its missing answer.

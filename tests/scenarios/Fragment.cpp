@@ -56,9 +56,10 @@ std::optional<std::string> differenceInArray(const Place& place, const Json& ans
 std::optional<std::string> differenceInObject(const Place& place, const Json& answer, const Json& fragment) {
     if (!answer.is_object()) return told(place, answer, fragment);
     for (const auto& [key, wanted] : fragment.items()) {
+        const Place inner = Place(place).append(".").append(key);
         const auto held = answer.find(key);
-        if (held == answer.end()) return place + "." + key + " is missing in " + answer.dump();
-        if (auto found = differenceAt(place + "." + key, *held, wanted)) return found;
+        if (held == answer.end()) return Place(inner).append(" is missing in ").append(answer.dump());
+        if (auto found = differenceAt(inner, *held, wanted)) return found;
     }
     return std::nullopt;
 }

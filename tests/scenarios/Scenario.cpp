@@ -18,7 +18,7 @@ std::string_view trimmed(std::string_view text) {
 
 std::string takeWord(std::string_view& rest) {
     rest = trimmed(rest);
-    const std::string word(rest.substr(0, rest.find_first_of(kBlanks)));
+    std::string word(rest.substr(0, rest.find_first_of(kBlanks)));
     rest.remove_prefix(word.size());
     rest = trimmed(rest);
     return word;

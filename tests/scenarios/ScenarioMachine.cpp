@@ -19,7 +19,7 @@ using Problem = std::optional<std::string>;
 
 namespace {
 
-constexpr const char* kSettingsKey = "Software\\Orvane\\Kalyxo Greek\\Library Edition";
+constexpr const char* kSettingsKey = R"(Software\Orvane\Kalyxo Greek\Library Edition)";
 
 fs::path newFolder() {
     std::string name = (fs::temp_directory_path() / "kalyxo-scenario-XXXXXX").string();

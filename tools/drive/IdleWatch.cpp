@@ -33,6 +33,7 @@ void IdleWatch::begin() {
 
 /// Behind everything that waits: events are delivered by priority, so this one comes when there is no other.
 void IdleWatch::postRound() {
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the queue owns it
     QCoreApplication::postEvent(this, new QEvent(kRound), std::numeric_limits<int>::min());
 }
 

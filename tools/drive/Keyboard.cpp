@@ -47,7 +47,7 @@ void strike(KeyStroke stroke, const QString& text) {
     }
 }
 
-void strikeIn(QPointer<QWidget> widget, KeyStroke stroke) {
+void strikeIn(const QPointer<QWidget>& widget, KeyStroke stroke) {
     for (const auto action : {QTest::Press, QTest::Release}) {
         const auto send = [=] {
             if (widget) QTest::sendKeyEvent(action, widget, stroke.key, textOf(stroke), stroke.modifiers);

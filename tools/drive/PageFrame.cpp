@@ -82,6 +82,7 @@ QWebEngineView* pageAround(QWidget* widget) {
 }
 
 void afterNextFrame(QWebEngineView& view, std::chrono::milliseconds limit, std::function<void()> done) {
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the view owns it
     new FrameWait(view, limit, std::move(done));
 }
 

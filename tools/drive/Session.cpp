@@ -54,7 +54,7 @@ bool Session::takeLine(const std::string& line) {
     return true;
 }
 
-void Session::carryOut(std::shared_ptr<Act> act, const Command& command) {
+void Session::carryOut(const std::shared_ptr<Act>& act, const Command& command) {
     m_watch.begin();
     command.carryOut(*act, m_program);
 }

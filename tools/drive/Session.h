@@ -28,7 +28,7 @@ class Session : public QObject {
 
   private:
     bool takeLine(const std::string& line);
-    void carryOut(std::shared_ptr<Act> act, const Command& command);
+    void carryOut(const std::shared_ptr<Act>& act, const Command& command);
     bool isBusy() const;
     void answer();
     static void endOfScript(bool failed);
