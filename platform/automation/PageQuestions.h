@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -20,6 +21,10 @@ QString htmlOf(QWebEnginePage& page);
 /// Scrolls the first link with this text (code page 1253, blanks at its ends apart) into view and says
 /// where it is.
 std::optional<CRect> findLinkOf(QWebEnginePage& page, std::string_view linkText);
+
+/// Clicks with `click`, again when the engine lost it, and returns when the page has handled it: what the page
+/// asks for in answer has been asked for by then.
+void clickAndAwait(QWebEnginePage& page, const std::function<void()>& click);
 
 /// The frames of embedded files, in the order of the page.
 std::vector<CRect> embeddedFramesOf(QWebEnginePage& page);

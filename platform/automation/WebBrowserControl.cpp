@@ -118,8 +118,10 @@ std::optional<CRect> WebBrowserControl::findLink(std::string_view linkText) {
 
 bool WebBrowserControl::clickLink(std::string_view linkText) {
     const auto link = findLink(linkText);
-    if (link) view_->click({(link->left + link->right) / 2, (link->top + link->bottom) / 2});
-    return link.has_value();
+    if (!link) return false;
+    const CPoint middle{(link->left + link->right) / 2, (link->top + link->bottom) / 2};
+    clickAndAwait(*page_, [&] { view_->click(middle); });
+    return true;
 }
 
 std::vector<CRect> WebBrowserControl::embeddedFrames() { return embeddedFramesOf(*page_); }
