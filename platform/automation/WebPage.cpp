@@ -20,6 +20,10 @@ namespace {
 
 /// How long a page that says it leads on to another may take to do so.
 constexpr std::chrono::seconds redirectTime{2};
+/// How long the last of several quick loads may stay away after an earlier one came, before it is asked for
+/// again: the engine may lose a load that begins while it hands over the page of another.
+constexpr std::chrono::milliseconds missedTime{500};
+constexpr int missedTries = 3;
 /// How long a copy may take to arrive.
 constexpr std::chrono::milliseconds copyTime{500};
 
@@ -33,12 +37,11 @@ constexpr auto leadsOnScript = QLatin1StringView(
 WebPage::WebPage(Gate gate, QObject* parent)
     : QWebEnginePage(&browserProfile(), parent), gate_(std::move(gate)) {
     setBackgroundColor(Qt::white);
-    redirectLimit_.setSingleShot(true);
-    redirectLimit_.setInterval(redirectTime);
+    arrivalLimit_.setSingleShot(true);
     copyLimit_.setSingleShot(true);
     copyLimit_.setInterval(copyTime);
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &copyLimit_, &QTimer::stop);
-    connect(&redirectLimit_, &QTimer::timeout, this, [this] { loading_ = false; });
+    connect(&arrivalLimit_, &QTimer::timeout, this, &WebPage::giveUpWaiting);
     connect(this, &QWebEnginePage::loadFinished, this, &WebPage::finished);
     connect(this, &QWebEnginePage::renderProcessTerminated, this, [this] { loading_ = false; });
     connect(this, &QWebEnginePage::newWindowRequested, this,
@@ -53,6 +56,7 @@ void WebPage::go(const QUrl& asking, const QUrl& url) {
     const bool passed = gate_(asking, target);
     if (!alive || !passed) return;
     startLoading();
+    tries_ = missedTries;
     target_ = target;
     load(target);
 }
@@ -69,7 +73,7 @@ void WebPage::copySelection() {
 }
 
 void WebPage::startLoading() {
-    redirectLimit_.stop();
+    arrivalLimit_.stop();
     loading_ = true;
     load_ = std::make_shared<int>();
 }
@@ -86,7 +90,7 @@ void WebPage::requestLater(const QUrl& url) {
     ++waiting_;
     const auto request = [this, url] {
         --waiting_;
-        redirectLimit_.stop();
+        arrivalLimit_.stop();
         loading_ = isLoading();
         go(this->url(), url);
     };
@@ -102,12 +106,24 @@ void WebPage::finished() {
 
 void WebPage::settle(bool leadsOn) {
     if (isLoading()) return;
-    // The end of an earlier load may be told after a later one was asked for.
-    const bool isEarlier = !target_.isEmpty() && normalisedUrl(url()) != target_;
-    if (leadsOn || isEarlier) {
-        redirectLimit_.start();
+    if (missed()) {
+        arrivalLimit_.start(missedTime);
+    } else if (leadsOn) {
+        arrivalLimit_.start(redirectTime);
     } else {
-        redirectLimit_.stop();
+        arrivalLimit_.stop();
+        loading_ = false;
+    }
+}
+
+bool WebPage::missed() const { return !target_.isEmpty() && normalisedUrl(url()) != target_; }
+
+void WebPage::giveUpWaiting() {
+    if (missed() && tries_ > 0) {
+        --tries_;
+        load(target_);
+        arrivalLimit_.start(missedTime);
+    } else {
         loading_ = false;
     }
 }
