@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "formats/RecordFields.h"
 #include "platform/text/GreekLiteral.h"
 
@@ -31,7 +33,8 @@ std::string damaged(std::size_t offset, T value) {
     std::string image = *encodeBrowseIndex(sampleIndex());
     std::string bytes;
     formats::appendInteger(bytes, value);
-    return image.replace(offset, sizeof(T), bytes);
+    std::copy(bytes.begin(), bytes.end(), image.begin() + static_cast<std::ptrdiff_t>(offset));
+    return image;
 }
 
 /// The image of the sample with the texts before the last one run together with it.
