@@ -27,6 +27,12 @@ void setUp(QLabel& label, const char* name) {
     label.setWordWrap(true);
 }
 
+void recolour(QWidget& widget, QPalette::ColorRole role, const QColor& color) {
+    QPalette colors = widget.palette();
+    colors.setColor(role, color);
+    widget.setPalette(colors);
+}
+
 }  // namespace
 
 SelectPane::SelectPane(BrowseSelection& selection, ChoiceHandler onChoice, QWidget* parent)
@@ -42,7 +48,6 @@ SelectPane::SelectPane(BrowseSelection& selection, ChoiceHandler onChoice, QWidg
     setObjectName(QStringLiteral("selectPane"));
     setAttribute(Qt::WA_StyledBackground);
     setPalette(appearance::palette());
-    setStyleSheet(appearance::styleSheet());
     setFocusProxy(field_);
     setUp(*sectionName_, "sectionName");
     setUp(*emptyNote_, "emptyNote");
@@ -193,6 +198,8 @@ QModelIndex SelectPane::shownIndex() const {
 
 void SelectPane::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
+    // Costly, and not needed by a pane that nobody has seen yet.
+    if (styleSheet().isEmpty()) setStyleSheet(appearance::styleSheet());
     revealLater();
 }
 
@@ -201,8 +208,8 @@ void SelectPane::updateHeader() {
     const QColor accent = appearance::sectionAccent(selection_.section());
     const QString name = section ? toQt(section->displayName) : QString();
     sectionName_->setText(name);
-    sectionName_->setStyleSheet(QStringLiteral("color: ") + accent.name());
-    rule_->setStyleSheet(QStringLiteral("background: ") + accent.name());
+    recolour(*sectionName_, QPalette::WindowText, accent);
+    recolour(*rule_, QPalette::Window, accent);
     view_->setAccent(accent);
     view_->setAccessibleName(section ? QStringLiteral("Θέματα της ενότητας ") + name
                                      : QStringLiteral("Θέματα"));

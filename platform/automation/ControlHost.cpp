@@ -23,7 +23,8 @@ class Filling : public QObject {
     Filling(QWidget& container, QWidget* filling) : QObject(filling), filling_(*filling) {
         container.installEventFilter(this);
         filling->setGeometry(container.rect());
-        filling->show();
+        // In a container that is not on show yet it comes on show with it, and is laid out only then.
+        if (container.isVisible()) filling->show();
     }
 
     bool eventFilter(QObject* container, QEvent* event) override {

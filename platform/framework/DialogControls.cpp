@@ -30,7 +30,7 @@ QLabel* makeLabel(const DialogControl& control, QWidget& dialog) {
     // A click on it is one on the dialog.
     label->setAttribute(Qt::WA_TransparentForMouseEvents);
     if (control.kind == DialogControlKind::bitmap) {
-        label->setPixmap(QPixmap(QStringLiteral(":/bitmap/%1.png").arg(control.bitmap)));
+        label->setPixmap(QPixmap(QStringLiteral(":/bitmap/%1.png").arg(control.bitmap), "PNG"));
         return label;
     }
     label->setTextFormat(Qt::PlainText);

@@ -3,6 +3,8 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QIcon>
+#include <QPixmap>
+#include <QTimer>
 #include <QWindow>
 
 #include "platform/framework/FrameWnd.h"
@@ -20,7 +22,7 @@ QIcon programIcon() {
     const QDir folder(QStringLiteral(":/icon"));
     QIcon icon;
     for (const QString& file : folder.entryList({toQt(Resources().iconName) + "-*.png"})) {
-        icon.addFile(folder.filePath(file));
+        icon.addPixmap(QPixmap(folder.filePath(file), "PNG"));
     }
     return icon;
 }
@@ -30,7 +32,8 @@ QIcon programIcon() {
 FrameWidget::FrameWidget(CFrameWnd& owner)
     : WindowWidget(owner, nullptr, 0), menuBar_(this), placement_(*this) {
     setPalette(lightPalette());
-    setWindowIcon(programIcon());
+    // The first picture of the window does not wait for it.
+    QTimer::singleShot(0, this, [this] { setWindowIcon(programIcon()); });
     buildMenuBar(menuBar_, handle());
 }
 

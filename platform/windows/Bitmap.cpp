@@ -5,7 +5,8 @@
 namespace platform {
 
 bool CBitmap::LoadBitmap(UINT id) {
-    const QImage image(QStringLiteral(":/bitmap/%1.png").arg(id));
+    // The format is named, since asking for it loads every picture plug-in of the desktop.
+    const QImage image(QStringLiteral(":/bitmap/%1.png").arg(id), "PNG");
     if (image.isNull()) return false;
     image_ = std::make_shared<QImage>(image.convertToFormat(QImage::Format_RGB32));
     return true;

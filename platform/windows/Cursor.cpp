@@ -17,7 +17,7 @@ namespace {
 HWND askedWindow = 0;
 
 QCursor loadCursor(UINT id) {
-    const QPixmap shape(QStringLiteral(":/cursor/%1.png").arg(id));
+    const QPixmap shape(QStringLiteral(":/cursor/%1.png").arg(id), "PNG");
     if (shape.isNull()) return Qt::ArrowCursor;
     for (const CursorResource& cursor : Resources().cursors) {
         if (cursor.id == id) return QCursor(shape, cursor.hotSpot.x, cursor.hotSpot.y);

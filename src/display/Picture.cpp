@@ -41,7 +41,7 @@ std::optional<std::uint64_t> pixelBytes(const BITMAPINFOHEADER& header, std::uin
 PictureResult Picture::LoadPicture(const platform::FileSystem& files, std::string_view path) {
     const std::optional<BinaryFile> file = BinaryFile::open(files, path);
     if (!file) return PictureResult::missing;
-    m_pixels.clear();
+    m_pixels.reset();
     std::uint32_t pixelOffset = 0;
     BITMAPINFOHEADER header;
     if (!readAt(*file, kPixelOffsetAt, pixelOffset) || !readAt(*file, kHeaderAt, header) ||
@@ -51,12 +51,13 @@ PictureResult Picture::LoadPicture(const platform::FileSystem& files, std::strin
     const std::optional<std::uint64_t> bytes = pixelBytes(header, file->size() - pixelOffset);
     if (!bytes) return PictureResult::fileError;
     try {
-        m_pixels.resize(*bytes);
+        // Not set to zero first: the file's bytes come right after.
+        m_pixels = std::make_unique_for_overwrite<std::uint8_t[]>(*bytes);
     } catch (const std::bad_alloc&) {
         return PictureResult::outOfMemory;
     }
-    if (file->readAt(pixelOffset, std::as_writable_bytes(std::span(m_pixels))) != *bytes) {
-        m_pixels.clear();
+    if (file->readAt(pixelOffset, std::as_writable_bytes(std::span(m_pixels.get(), *bytes))) != *bytes) {
+        m_pixels.reset();
         return PictureResult::fileError;
     }
     m_header = header;
@@ -68,7 +69,7 @@ platform::CSize Picture::Size() const {
 }
 
 void Picture::DrawPicture(platform::CDC& dc, int x, int y) const {
-    if (Loaded()) dc.SetDIBitsToDevice(x, y, m_header, m_pixels.data());
+    if (Loaded()) dc.SetDIBitsToDevice(x, y, m_header, m_pixels.get());
 }
 
 }  // namespace kalyxo

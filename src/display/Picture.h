@@ -1,8 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string_view>
-#include <vector>
 
 #include "platform/windows/DC.h"
 
@@ -23,7 +23,7 @@ class Picture {
     /// without pixels.
     PictureResult LoadPicture(const platform::FileSystem& files, std::string_view path);
 
-    bool Loaded() const { return !m_pixels.empty(); }
+    bool Loaded() const { return m_pixels != nullptr; }
     /// Size in pixels; 0 × 0 while nothing is loaded.
     platform::CSize Size() const;
 
@@ -32,7 +32,7 @@ class Picture {
 
   private:
     platform::BITMAPINFOHEADER m_header;
-    std::vector<std::uint8_t> m_pixels;
+    std::unique_ptr<std::uint8_t[]> m_pixels;
 };
 
 /// Length of a row in bytes: three a pixel, rounded up to a multiple of 4.
