@@ -2,8 +2,8 @@
 
 #include <array>
 
-#include "platform/automation/ControlLibrary.h"
 #include "platform/framework/Resources.h"
+#include "src/components/ComponentCheck.h"
 #include "src/components/MoleculeComponents.h"
 #include "src/resources/CommandIds.h"
 #include "src/resources/ResourceIds.h"
@@ -99,10 +99,6 @@ std::vector<std::string_view> OutdatedComponents(const ComponentVersions& versio
         if (versions.*row.reported < row.minimum) keys.push_back(row.key);
     }
     return keys;
-}
-
-void RegisterComponentFile(std::string_view programFolder, std::string_view file) {
-    platform::registerModule(std::string(programFolder) + "\\ActiveX\\" + std::string(file));
 }
 
 }  // namespace kalyxo

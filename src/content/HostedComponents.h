@@ -45,8 +45,4 @@ class HostedComponents {
 /// the order in which the user is told.
 std::vector<std::string_view> OutdatedComponents(const ComponentVersions& versions);
 
-/// Registers a component file of the program folder's ActiveX folder; a file that does not load is passed
-/// over.
-void RegisterComponentFile(std::string_view programFolder, std::string_view file);
-
 }  // namespace kalyxo

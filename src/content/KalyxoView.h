@@ -94,6 +94,7 @@ class CKalyxoView : public platform::CView {
     // Start-up
     void readyBrowser();
     CacheLocation cacheLocation() const;
+    bool componentsAreUpToDate();
     bool createComponents();
     void CheckComponentVersions();
     void openCache();

@@ -4,6 +4,7 @@
 #include "platform/framework/WinApp.h"
 #include "platform/machine/Machine.h"
 #include "src/app/KalyxoApp.h"
+#include "src/components/ComponentCheck.h"
 #include "src/content/KalyxoView.h"
 #include "src/resources/ResourceIds.h"
 
@@ -17,7 +18,7 @@ void CKalyxoView::OnInitialUpdate() {
     m_handCursor = CCursor::resource(IDC_HAND_CURSOR);
     SetTimer(1, 250);
     readyBrowser();
-    if (!createComponents()) {
+    if (!componentsAreUpToDate() || !createComponents()) {
         m_bStartupFailed = true;
         return;
     }
@@ -26,6 +27,17 @@ void CKalyxoView::OnInitialUpdate() {
     LoadElementIndex();
     loadPictures();
     CheckComponentVersions();
+}
+
+/// Only a program outside its installed folder brings components of its own along.
+bool CKalyxoView::componentsAreUpToDate() {
+    if (!TheApp().m_bOutsideInstallFolder) return true;
+    const auto replaceOlder = [] {
+        return AfxMessageBox(LoadString(IDS_OLDER_VERSION), BoxButtons::yesNo) == BoxAnswer::yes;
+    };
+    const auto result = ComponentCheck(machine(), TheApp().m_strProgramFolder, replaceOlder).Run();
+    if (result == ComponentCheck::Result::registered) AfxMessageBox(LoadString(IDS_RUN_AGAIN));
+    return result == ComponentCheck::Result::upToDate;
 }
 
 void CKalyxoView::readyBrowser() {

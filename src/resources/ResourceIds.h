@@ -11,7 +11,9 @@ inline constexpr platform::UINT IDS_APP_TITLE = 57344;
 inline constexpr platform::UINT IDS_REGISTRY_UNREADABLE = 61216;
 inline constexpr platform::UINT IDS_NO_BROWSER = 61218;
 inline constexpr platform::UINT IDS_COMPONENT_OUTDATED = 61226;
+inline constexpr platform::UINT IDS_OLDER_VERSION = 61228;
 inline constexpr platform::UINT IDS_NO_PERIODIC_TABLE = 61229;
+inline constexpr platform::UINT IDS_RUN_AGAIN = 61230;
 
 /// Dialog ids.
 inline constexpr platform::UINT IDD_ABOUT = 100;

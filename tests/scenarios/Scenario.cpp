@@ -36,12 +36,15 @@ struct ChangeForm {
     bool value;
 };
 
-constexpr std::array<ChangeForm, 7> kChanges = {{
+constexpr std::array<ChangeForm, 10> kChanges = {{
     {"machine", 0, true},
     {"options", 0, true},
     {"setting", 1, true},
     {"write", 1, true},
     {"cut", 1, true},
+    {"copy", 2, false},
+    {"version", 1, true},
+    {"replace", 1, true},
     {"delete", 1, false},
     {"restart", 0, false},
 }};

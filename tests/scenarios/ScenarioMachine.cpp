@@ -7,6 +7,7 @@
 #include <iterator>
 #include <system_error>
 
+#include "platform/files/FileVersion.h"
 #include "platform/registry/RegFile.h"
 #include "platform/text/CodePage1253.h"
 #include "tests/scenarios/DriverProcess.h"
@@ -76,6 +77,26 @@ Problem mergeIntoJson(const fs::path& file, const Json& change) {
     return replaceWith(file, config.dump(2));
 }
 
+Problem copyOf(const fs::path& from, const fs::path& to) { return replaceWith(to, bytesOf(from)); }
+
+Problem replaceText(const fs::path& file, const std::string& former, const std::string& later) {
+    std::string bytes = bytesOf(file);
+    std::size_t at = bytes.find(former);
+    if (former.empty() || at == std::string::npos) return file.string() + " does not hold " + former;
+    for (; at != std::string::npos; at = bytes.find(former, at + later.size())) {
+        bytes.replace(at, former.size(), later);
+    }
+    return replaceWith(file, bytes);
+}
+
+/// The text stands in the file with its NUL, and keeps its length.
+Problem setVersion(const fs::path& file, std::string version) {
+    const auto former = platform::fileVersionText(file);
+    if (!former || version.size() > former->size()) return file.string() + " carries no longer version";
+    version.resize(former->size() + 1);
+    return replaceText(file, *former + '\0', version);
+}
+
 Problem checkContent(const fs::path& file, const FileCheck& check) {
     if (!check.value.is_string()) return "a text is needed to look for";
     const std::string wanted = check.value.get<std::string>();
@@ -136,6 +157,12 @@ Problem ScenarioMachine::changeFile(const MachineChange& change) {
     const fs::path file = hostPath(change.words[0]);
     if (change.what == "write") return replaceWith(file, platform::fromUtf8(change.value.get<std::string>()));
     if (!fs::exists(file)) return change.words[0] + " does not exist";
+    if (change.what == "copy") return copyOf(file, hostPath(change.words[1]));
+    if (change.what == "version") return setVersion(file, change.value.get<std::string>());
+    if (change.what == "replace") {
+        return replaceText(file, platform::fromUtf8(change.value.at(0).get<std::string>()),
+                           platform::fromUtf8(change.value.at(1).get<std::string>()));
+    }
     if (change.what == "cut")
         return replaceWith(file, bytesOf(file).substr(0, change.value.get<std::size_t>()));
     std::error_code error;

@@ -1,0 +1,102 @@
+#include "src/components/ComponentCheck.h"
+
+#include <array>
+#include <optional>
+
+#include "platform/automation/ControlLibrary.h"
+#include "platform/machine/Machine.h"
+#include "src/components/ClassIds.h"
+#include "src/components/FileVersionNumbers.h"
+
+namespace kalyxo {
+
+namespace {
+
+/// Longest path that is read from a registration, with its NUL.
+constexpr std::size_t kLongestPath = 256;
+
+/// Other libraries in use keep the former file open under this name.
+constexpr std::string_view kReplacedSuffix = ".klyx";
+
+/// The library whose replacement needs a new start, and those whose does not.
+constexpr std::string_view kFrameworkLibrary = "mfc42.dll";
+constexpr std::array<std::string_view, 3> kOtherLibraries = {"msvcrt.dll", "olepro32.dll", "oleaut32.dll"};
+
+struct ComponentFile {
+    std::string_view file;
+    std::string_view classId;
+};
+
+constexpr std::array<ComponentFile, 4> kOtherComponents = {{{kSelectFile, kSelectClass},
+                                                            {kMolCtrlFile, kMolCtrlClass},
+                                                            {kKzZoomFile, kKzZoomClass},
+                                                            {kDataAnalFile, kDataAnalClass}}};
+
+std::string suppliedFile(std::string_view programFolder, std::string_view name) {
+    return std::string(programFolder).append("\\ActiveX\\").append(name);
+}
+
+std::optional<std::string> registeredPath(platform::Machine& machine, std::string_view classId) {
+    const std::string path = "CLSID\\{" + std::string(classId) + "}\\InprocServer32";
+    const auto key = machine.registry().openKey(platform::HKEY_CLASSES_ROOT, path);
+    return key ? key->queryString("", kLongestPath) : std::nullopt;
+}
+
+}  // namespace
+
+void RegisterComponentFile(std::string_view programFolder, std::string_view file, bool fullPath) {
+    platform::registerModule(fullPath ? std::string(file) : suppliedFile(programFolder, file));
+}
+
+ComponentCheck::Result ComponentCheck::Run() {
+    updateSystemLibraries();
+    CheckComponentFile(kPeriodTableFile, kPeriodTableClass);
+    if (m_nReplaceDecision == ReplaceDecision::no) return Result::refused;
+    for (const ComponentFile& component : kOtherComponents) {
+        CheckComponentFile(component.file, component.classId);
+    }
+    if (m_bComponentsRegistered) return Result::registered;
+    return m_nReplaceDecision == ReplaceDecision::no ? Result::refused : Result::upToDate;
+}
+
+void ComponentCheck::updateSystemLibraries() {
+    UpdateSystemLibrary(kFrameworkLibrary);
+    const bool counted = m_bComponentsRegistered;
+    for (const std::string_view name : kOtherLibraries) UpdateSystemLibrary(name);
+    m_bComponentsRegistered = counted;
+}
+
+void ComponentCheck::UpdateSystemLibrary(std::string_view name) {
+    const std::string supplied = suppliedFile(m_programFolder, name);
+    if (GetFileVersionNumbers(m_machine, name) >= GetFileVersionNumbers(m_machine, supplied)) return;
+    const std::string target = m_machine.systemFolder().append("\\").append(name);
+    // Neither failure is told: the next start tries again.
+    m_machine.files().moveFile(target, target + std::string(kReplacedSuffix));
+    m_machine.files().copyFile(supplied, target);
+    RegisterComponentFile(m_programFolder, target, true);
+    m_bComponentsRegistered = true;
+}
+
+void ComponentCheck::CheckComponentFile(std::string_view file, std::string_view classId) {
+    const std::optional<std::string> registered = registeredPath(m_machine, classId);
+    if (!registered) {
+        // Never registered on this machine: done without a word, and the component can be made at once.
+        RegisterComponentFile(m_programFolder, file);
+        return;
+    }
+    const FileVersionNumbers installed = GetFileVersionNumbers(m_machine, *registered);
+    if (installed >= GetFileVersionNumbers(m_machine, suppliedFile(m_programFolder, file))) return;
+    if (installed.most != 0 && userKeepsOlder()) return;
+    m_nReplaceDecision = ReplaceDecision::yes;
+    RegisterComponentFile(m_programFolder, file);
+    m_bComponentsRegistered = true;
+}
+
+/// Asks once; any later older component goes by the first answer.
+bool ComponentCheck::userKeepsOlder() {
+    if (m_nReplaceDecision != ReplaceDecision::notAsked || m_replaceOlder()) return false;
+    m_nReplaceDecision = ReplaceDecision::no;
+    return true;
+}
+
+}  // namespace kalyxo
