@@ -29,6 +29,9 @@ class AnalyserControl : public platform::Control {
     std::optional<platform::Variant> invoke(std::int32_t dispid, platform::InvokeKind kind,
                                             std::span<const platform::Variant> arguments) override;
 
+    std::span<const std::byte> block(std::int32_t location) const override { return blocks_.at(location); }
+    std::int32_t keepBlock(std::span<const std::byte> bytes) override { return blocks_.keepHosts(bytes); }
+
     /// @name Operations, called through `invoke`.
     /// @{
     std::string version() const;
@@ -60,8 +63,6 @@ class AnalyserControl : public platform::Control {
     std::int16_t copyGraph();
     void printView();
     /// @}
-
-    const StateBlocks& blocks() const { return blocks_; }
 
   private:
     ElementView& table() const { return pane_->table(); }

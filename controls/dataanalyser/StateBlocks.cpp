@@ -34,7 +34,17 @@ Location StateBlocks::keepSelection(std::span<const int> numbers) {
     return selectionLocation;
 }
 
+Location StateBlocks::keepHosts(std::span<const std::byte> bytes) {
+    const std::size_t slot = nextHost_;
+    hosts_[slot].assign(bytes.begin(), bytes.end());
+    nextHost_ = (slot + 1) % hosts_.size();
+    return firstHostLocation + static_cast<Location>(slot);
+}
+
 std::span<const std::byte> StateBlocks::at(Location location) const {
+    for (std::size_t slot = 0; slot < hosts_.size(); ++slot) {
+        if (location == firstHostLocation + static_cast<Location>(slot)) return hosts_[slot];
+    }
     if (location == entryCountLocation) return entryCount_;
     if (location == selectionLocation) return selection_;
     return {};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -12,14 +13,19 @@ namespace controls::dataanalyser {
 using Location = std::int32_t;
 inline constexpr Location entryCountLocation = 1;
 inline constexpr Location selectionLocation = 2;
+inline constexpr Location firstHostLocation = 3;
 
-/// The two blocks of the analyser's state. A block keeps what was put in last; see README.md for the bytes.
+/// The two blocks of the analyser's state, each with what was put in last, and the blocks that a host handed
+/// over last; see README.md for the bytes.
 class StateBlocks {
   public:
     /// Notes the columns; each has one entry.
     Location keepColumns();
     /// Notes the selected elements.
     Location keepSelection(std::span<const int> numbers);
+
+    /// Keeps a copy of a host's block until two more have come.
+    Location keepHosts(std::span<const std::byte> bytes);
 
     /// The bytes at a location; empty when nothing is there.
     std::span<const std::byte> at(Location location) const;
@@ -32,6 +38,8 @@ class StateBlocks {
   private:
     std::vector<std::byte> entryCount_;
     std::vector<std::byte> selection_;
+    std::array<std::vector<std::byte>, 2> hosts_;
+    std::size_t nextHost_ = 0;
 };
 
 }  // namespace controls::dataanalyser

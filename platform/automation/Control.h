@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -61,6 +62,17 @@ class Control {
                                           std::span<const Variant> arguments) = 0;
     /// True while the control does something that it will finish by itself, such as loading a page.
     virtual bool busy() const { return false; }
+
+    /// @name Blocks of the control's memory, which operations carry as a location: the number of a block, 0
+    /// for none.
+    /// @{
+    /// The bytes at a location, valid until the next call of an operation or of `keepBlock`; empty when no
+    /// block is there.
+    virtual std::span<const std::byte> block(std::int32_t) const { return {}; }
+    /// Takes a copy of a host's block for the operations that follow, and gives its location. The blocks of
+    /// the last two calls at least are kept. 0 when the control takes none.
+    virtual std::int32_t keepBlock(std::span<const std::byte>) { return 0; }
+    /// @}
 };
 
 using ControlFactory = std::unique_ptr<Control> (*)(ControlSite& site, QWidget* parent);

@@ -117,6 +117,14 @@ std::optional<Variant> ControlHost::invoke(std::int32_t dispid, InvokeKind kind,
     return alive->control ? alive->control->invoke(dispid, kind, arguments) : std::nullopt;
 }
 
+std::span<const std::byte> ControlHost::block(std::int32_t location) const {
+    return hosted_->control ? hosted_->control->block(location) : std::span<const std::byte>();
+}
+
+std::int32_t ControlHost::keepBlock(std::span<const std::byte> bytes) {
+    return hosted_->control ? hosted_->control->keepBlock(bytes) : 0;
+}
+
 void ControlHost::raiseEvent(std::int32_t dispid, std::span<Variant> arguments) {
     const auto alive = hosted_;
     alive->raiseEvent(dispid, arguments);

@@ -36,6 +36,10 @@ class ControlHost {
     /// Calls an operation; see Control::invoke.
     std::optional<Variant> invoke(std::int32_t dispid, InvokeKind kind, std::span<const Variant> arguments);
 
+    /// See Control::block and Control::keepBlock; nothing and 0 once the control has gone.
+    std::span<const std::byte> block(std::int32_t location) const;
+    std::int32_t keepBlock(std::span<const std::byte> bytes);
+
     /// Raises an event as if the control did.
     void raiseEvent(std::int32_t dispid, std::span<Variant> arguments);
 

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -101,6 +103,13 @@ class CWnd : public CCmdTarget {
             return value ? *value : R{};
         }
     }
+
+    /// The bytes at a location in the hosted control's memory, valid until its next call; empty when no block
+    /// is there.
+    std::span<const std::byte> ControlBlock(std::int32_t location) const;
+    /// Hands the hosted control a block for the calls that follow; the location to name it by, 0 when it
+    /// takes none. Two blocks at least are kept at a time.
+    std::int32_t KeepControlBlock(std::span<const std::byte> bytes);
 
   private:
     friend class WindowWidget;

@@ -67,4 +67,14 @@ std::optional<Variant> CWnd::InvokeHelper(std::int32_t dispid, InvokeKind kind,
     return result;
 }
 
+std::span<const std::byte> CWnd::ControlBlock(std::int32_t location) const {
+    const ControlHost* const host = controlHostOf(m_hWnd);
+    return host ? host->block(location) : std::span<const std::byte>();
+}
+
+std::int32_t CWnd::KeepControlBlock(std::span<const std::byte> bytes) {
+    ControlHost* const host = controlHostOf(m_hWnd);
+    return host ? host->keepBlock(bytes) : 0;
+}
+
 }  // namespace platform

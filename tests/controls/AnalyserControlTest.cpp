@@ -47,14 +47,15 @@ class AnalyserControlTest : public testing::Test {
 struct State {
     std::int16_t mode, viewMode, option3, option7, value9;
     bool flag5, flag6;
-    std::int32_t option4, value8, entryCount, value11;
+    std::int32_t option4, value8;
+    std::vector<std::byte> columns, selection;
     std::vector<std::int32_t> entries;
 };
 
 /// The count that the block of entries begins with.
 std::int32_t countAt(const AnalyserControl& control, std::int32_t location) {
     std::int32_t count = 0;
-    const auto bytes = control.blocks().at(location);
+    const auto bytes = control.block(location);
     EXPECT_GE(bytes.size(), sizeof count);
     EXPECT_EQ(bytes.size() % sizeof count, 0U);
     if (bytes.size() >= sizeof count) std::memcpy(&count, bytes.data(), sizeof count);
@@ -62,11 +63,17 @@ std::int32_t countAt(const AnalyserControl& control, std::int32_t location) {
     return count;
 }
 
+std::vector<std::byte> bytesAt(const AnalyserControl& control, std::int32_t location) {
+    const auto bytes = control.block(location);
+    return {bytes.begin(), bytes.end()};
+}
+
 State capture(AnalyserControl& control) {
     State state{};
     state.mode = ask<std::int16_t>(control, 13, InvokeKind::method);
-    state.entryCount = ask<std::int32_t>(control, 14, InvokeKind::method);
-    for (std::int32_t i = 0; i < countAt(control, state.entryCount) - 1; ++i) {
+    const auto columns = ask<std::int32_t>(control, 14, InvokeKind::method);
+    state.columns = bytesAt(control, columns);
+    for (std::int32_t i = 0; i < countAt(control, columns) - 1; ++i) {
         state.entries.push_back(
             ask<std::int32_t>(control, 21, InvokeKind::method, static_cast<std::int16_t>(i)));
     }
@@ -78,7 +85,7 @@ State capture(AnalyserControl& control) {
     state.option7 = property<std::int16_t>(control, 7);
     state.value8 = property<std::int32_t>(control, 8);
     state.value9 = property<std::int16_t>(control, 9);
-    state.value11 = ask<std::int32_t>(control, 17, InvokeKind::method);
+    state.selection = bytesAt(control, ask<std::int32_t>(control, 17, InvokeKind::method));
     return state;
 }
 
@@ -89,8 +96,8 @@ void restore(AnalyserControl& control, const State& state) {
     put(control, 5, state.flag5);
     call(control, 15, state.mode);
     put(control, 7, state.option7);
-    call(control, 18, state.value8, state.value9, state.value11);
-    call(control, 16, state.entryCount);
+    call(control, 18, state.value8, state.value9, control.keepBlock(state.selection));
+    call(control, 16, control.keepBlock(state.columns));
     for (std::size_t i = 0; i < state.entries.size(); ++i) {
         call(control, 20, static_cast<std::int16_t>(i), state.entries[i]);
     }
