@@ -178,6 +178,8 @@ void CKalyxoView::OnLButtonDown(UINT, CPoint) {
 void CKalyxoView::OnDestroy() {
     if (m_bStartupFailed) return;
     m_components.browser.DestroyWindow();
+    SaveBookmarks();
+    m_bookmarks.Clear();
     KillTimer(kTimerId);
     m_cache.CleanCache(true);
 }

@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "platform/framework/View.h"
+#include "src/bookmarks/BookmarkList.h"
 #include "src/components/ElementIndex.h"
 #include "src/content/ContentMode.h"
 #include "src/content/History.h"
@@ -49,6 +50,8 @@ class CKalyxoView : public platform::CView {
     const MainMenuScreen& Menu() const { return m_menu; }
     const PageContents& Contents() const { return m_contents; }
     const PageCache& Cache() const { return m_cache; }
+    BookmarkList& Bookmarks() { return m_bookmarks; }
+    const BookmarkList& Bookmarks() const { return m_bookmarks; }
     bool StartupFailed() const { return m_bStartupFailed; }
     HostedComponents& Components() { return m_components; }
     CSplitterBar& Splitter() { return m_splitter; }
@@ -98,8 +101,12 @@ class CKalyxoView : public platform::CView {
     bool createComponents();
     void CheckComponentVersions();
     void openCache();
+    void LoadBookmarks();
     void LoadElementIndex();
     void loadPictures();
+
+    // Bookmarks
+    void SaveBookmarks();
 
     // Navigation
     void ReplayHistory();
@@ -133,6 +140,7 @@ class CKalyxoView : public platform::CView {
     MainMenuScreen m_menu;
     PageCache m_cache;
     std::optional<PagePreparer> m_preparer;
+    BookmarkList m_bookmarks;
     ElementIndex m_elements;
     HostedComponents m_components;
     CSplitterBar m_splitter;

@@ -24,6 +24,7 @@ void CKalyxoView::OnInitialUpdate() {
     }
     m_components.browser.Navigate(TheApp().m_strDataFolder + "a.htm");
     openCache();
+    LoadBookmarks();
     LoadElementIndex();
     loadPictures();
     CheckComponentVersions();

@@ -8,6 +8,8 @@ namespace kalyxo {
 inline constexpr platform::UINT IDS_OLE_INIT_FAILED = 100;
 inline constexpr platform::UINT IDS_SETTINGS_KEY = 201;
 inline constexpr platform::UINT IDS_APP_TITLE = 57344;
+inline constexpr platform::UINT IDS_BOOKMARKS_NOT_CREATED = 61204;
+inline constexpr platform::UINT IDS_BOOKMARKS_NOT_WRITTEN = 61205;
 inline constexpr platform::UINT IDS_REGISTRY_UNREADABLE = 61216;
 inline constexpr platform::UINT IDS_NO_BROWSER = 61218;
 inline constexpr platform::UINT IDS_COMPONENT_OUTDATED = 61226;

@@ -17,6 +17,10 @@ constexpr std::array kStrings = {
                    "OLE initialization failed.  Make sure that the OLE libraries are the correct version."},
     StringResource{IDS_SETTINGS_KEY, "Software\\Orvane\\Kalyxo Greek\\"},
     StringResource{IDS_APP_TITLE, "Kalyxo"},
+    StringResource{IDS_BOOKMARKS_NOT_CREATED, "Δεν είναι δυνατή η εγγραφή του αρχείου σελιδοδείκτη: "_gr},
+    StringResource{IDS_BOOKMARKS_NOT_WRITTEN,
+                   "Παρουσιάστηκε πρόβλημα κατά την εγγραφή του αρχείου σελιδοδεικτών – πιθανή αιτία ο μη "
+                   "επαρκής χώρος στο δίσκο"_gr},
     StringResource{IDS_REGISTRY_UNREADABLE,
                    "Δεν είναι δυνατή η λήψη πληροφοριών από το μητρώο. "
                    "Παρακαλώ κάντε νέα εγκατάσταση και δοκιμάστε ξανά."_gr},

@@ -6,6 +6,7 @@
 #include "src/app/KalyxoApp.h"
 #include "src/content/KalyxoView.h"
 #include "tools/drive/Act.h"
+#include "tools/drive/BookmarkJson.h"
 #include "tools/drive/CommandTable.h"
 #include "tools/drive/Program.h"
 #include "tools/drive/Windows.h"
@@ -58,8 +59,9 @@ void tellState(Act& act) {
     act.set("nextCache", view->Cache().NextNumber());
     act.set("oldestCache", view->Cache().OldestNumber());
     act.set("startupFailed", view->StartupFailed());
-    act.set("bookmarks", Json::array());
-    act.set("currentFolder", -1);
+    const auto folder = view->Bookmarks().CurrentFolderIndex();
+    act.set("bookmarks", bookmarksJson(view->Bookmarks()));
+    act.set("currentFolder", folder ? static_cast<int>(*folder) : -1);
 }
 
 void tellApp(Act& act) {

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "src/bookmarks/BookmarkRecords.h"
+
+namespace kalyxo {
+
+/// Records in the order of display: a folder, then the bookmarks in it, up to the next folder.
+using BookmarkArray = std::vector<std::unique_ptr<CBookmark>>;
+
+/// The user's bookmarks. Once loaded, the first record is a folder.
+class BookmarkList {
+  public:
+    const BookmarkArray& Records() const { return m_arrBookmarks; }
+    /// The folder that takes the next bookmark; null when there is none.
+    const CBookmark* CurrentFolder() const { return m_pCurrentFolder; }
+    /// The place of the current folder among the records.
+    std::optional<std::size_t> CurrentFolderIndex() const;
+    /// `folder` is a folder of the list, or null.
+    void SetCurrentFolder(const CBookmark* folder) { m_pCurrentFolder = folder; }
+
+    /// Makes it one empty folder with the default name.
+    void ResetBookmarks();
+    /// Takes other records, the first of them a folder, which becomes the current one.
+    void Replace(BookmarkArray records);
+    /// Makes it these records, each of them one of its own or of `added`, and none of them twice. All others
+    /// of both are freed, and when the current folder is among them there is none.
+    void Rearrange(std::span<const CBookmark* const> order, BookmarkArray added);
+    /// Frees the records.
+    void Clear();
+
+    /// Adds a bookmark at the end of the current folder, of the first when there is no current one.
+    void Add(std::unique_ptr<CBookmark> bookmark);
+
+    /// How many bookmarks of one kind there are, in all folders.
+    template <class Record>
+    std::size_t CountOf() const {
+        return static_cast<std::size_t>(std::ranges::count_if(
+            m_arrBookmarks, [](const auto& record) { return record->IsKindOf(Record::runtimeClass); }));
+    }
+
+  private:
+    BookmarkArray m_arrBookmarks;
+    const CBookmark* m_pCurrentFolder = nullptr;
+};
+
+}  // namespace kalyxo

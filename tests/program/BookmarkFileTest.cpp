@@ -1,0 +1,361 @@
+#include "src/bookmarks/BookmarkFile.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <sstream>
+
+#include "platform/text/GreekLiteral.h"
+#include "tests/program/TestFolders.h"
+
+namespace kalyxo {
+namespace {
+
+using namespace platform::literals;
+
+/// Bytes from hexadecimal pairs; what stands in single quotes is taken letter by letter.
+std::string bytes(const std::string& text) {
+    std::string result;
+    std::istringstream words(text);
+    for (std::string word; words >> word;) {
+        if (word.front() == '\'') {
+            result += word.substr(1, word.size() - 2);
+        } else {
+            result += static_cast<char>(std::stoi(word, nullptr, 16));
+        }
+    }
+    return result;
+}
+
+const std::string kFolderClass = "FF FF 01 00 09 00 'CBMFolder' ";
+const std::string kPageClass = "FF FF 01 00 09 00 'CBMBrowse' ";
+const std::string kTableClass = "FF FF 01 00 0B 00 'CBMPeriodic' ";
+const std::string kAnalyserClass = "FF FF 01 00 09 00 'CBMDataAn' ";
+const std::string kDefaultFile = bytes("01 00 00 00  01 00 00 00  01 00 " + kFolderClass +
+                                       "14 CF E9 20 F3 E5 EB E9 E4 EF E4 E5 DF EA F4 E5 F2 20 EC EF F5");
+
+template <class Record>
+Record& add(BookmarkArray& records, std::string_view name) {
+    auto record = std::make_unique<Record>();
+    record->name = name;
+    Record& added = *record;
+    records.push_back(std::move(record));
+    return added;
+}
+
+BookmarkArray recordsOfAllClasses() {
+    BookmarkArray records;
+    add<CBMFolder>(records, "Α"_gr);
+    auto& page = add<CBMBrowse>(records, "p");
+    page.pageId = 290123;
+    page.itemCode = -2;
+    page.sectionCode = 3;
+    auto& table = add<CBMPeriodic>(records, "t");
+    table.stateA = 0x01020304;
+    table.stateB = 5;
+    auto& analyser = add<CBMDataAn>(records, "d");
+    analyser.mode = 1;
+    analyser.viewMode = 2;
+    analyser.option3 = 3;
+    analyser.flag5 = 1;
+    analyser.flag6 = 0;
+    analyser.option4 = 4;
+    analyser.option7 = 7;
+    analyser.value8 = 2;
+    analyser.value9 = -1;
+    analyser.value11 = {std::byte{0xAB}, std::byte{0xCD}};
+    analyser.entryBlock = {3, 10, 20};
+    analyser.entries = {100, -100};
+    add<CBMFolder>(records, "");
+    add<CBMBrowse>(records, "q");
+    return records;
+}
+
+const std::string kFileOfAllClasses =
+    bytes("01 00 00 00  06 00 00 00  06 00 " +                                         //
+          kFolderClass + "01 C1 " +                                                    // class 1, record 2
+          kPageClass + "4B 6D 04 00  FE FF FF FF  03 00  01 'p' " +                    // 3, 4
+          kTableClass + "04 03 02 01  05 00 00 00  01 't' " +                          // 5, 6
+          kAnalyserClass + "01 'd'  01 00  02 00  01 00 00 00  03 00  00 00 00 00 " +  // 7, 8
+          "04 00 00 00  07 00  02 00 00 00  FF FF  AB CD " +                           //
+          "03 00 00 00  0A 00 00 00  14 00 00 00  64 00 00 00  9C FF FF FF " +         //
+          "01 80  00 " +                                                               // 9
+          "03 80  00 00 00 00  00 00 00 00  00 00  01 'q'");                           // 10
+
+TEST(BookmarkFile, EachRecordClassHasItsBytes) {
+    EXPECT_EQ(WriteBookmarks(recordsOfAllClasses()), kFileOfAllClasses);
+    const auto read = ReadBookmarks(kFileOfAllClasses);
+    ASSERT_TRUE(read);
+    EXPECT_EQ(WriteBookmarks(*read), kFileOfAllClasses);
+    const auto* analyser = dynamic_cast<const CBMDataAn*>(read->at(3).get());
+    ASSERT_TRUE(analyser);
+    EXPECT_EQ(analyser->flag5, 1);
+    EXPECT_EQ(analyser->entries, (std::vector<std::int32_t>{100, -100}));
+    EXPECT_EQ(analyser->value9, -1);
+}
+
+TEST(BookmarkFile, LongNamesHaveTheirLengthForms) {
+    const std::vector<std::pair<std::size_t, std::string>> forms = {
+        {254, "FE"}, {255, "FF FF 00"}, {0xFFFD, "FF FD FF"}, {0xFFFE, "FF FF FF FE FF 00 00"}};
+    for (const auto& [length, prefix] : forms) {
+        BookmarkArray records;
+        add<CBMFolder>(records, std::string(length, '\xE1'));
+        const std::string file = WriteBookmarks(records);
+        EXPECT_EQ(file.substr(0, 25 + bytes(prefix).size()),
+                  bytes("01 00 00 00  01 00 00 00  01 00 " + kFolderClass + prefix));
+        const auto read = ReadBookmarks(file);
+        ASSERT_TRUE(read) << length;
+        EXPECT_EQ(read->front()->name, records.front()->name);
+    }
+}
+
+TEST(BookmarkFile, ManyRecordsHaveTheLargeForms) {
+    BookmarkArray records;
+    add<CBMFolder>(records, "");
+    for (int i = 0; i < 0x7FFF - 4; ++i) add<CBMBrowse>(records, "");
+    add<CBMPeriodic>(records, "");  // gets the class index 0x7FFF
+    add<CBMPeriodic>(records, "");
+    const std::string file = WriteBookmarks(records);
+    const std::string tail = bytes("FF 7F FF 7F 00 80  00 00 00 00  00 00 00 00  00");
+    EXPECT_EQ(file.substr(file.size() - tail.size()), tail);
+    while (records.size() < 0xFFFF) add<CBMPeriodic>(records, "");
+    const std::string large = WriteBookmarks(records);
+    EXPECT_EQ(large.substr(0, 14), bytes("01 00 00 00  FF FF 00 00  FF FF FF FF 00 00"));
+    const auto read = ReadBookmarks(large);
+    ASSERT_TRUE(read);
+    EXPECT_EQ(WriteBookmarks(*read), large);
+}
+
+/// Lists of any records, the same at each run.
+class RandomLists {
+  public:
+    BookmarkArray next() {
+        BookmarkArray records;
+        add<CBMFolder>(records, name());
+        const int count = below(30);
+        for (int i = 0; i < count; ++i) addRecord(records);
+        return records;
+    }
+
+  private:
+    int below(int limit) { return std::uniform_int_distribution(0, limit - 1)(random_); }
+    std::int32_t any32() { return static_cast<std::int32_t>(random_()); }
+    std::int16_t any16() { return static_cast<std::int16_t>(random_()); }
+    std::string name() {
+        std::string text(static_cast<std::size_t>(below(8) == 0 ? below(70000) : below(300)), '\0');
+        for (char& c : text) c = static_cast<char>(random_());
+        return text;
+    }
+    void addRecord(BookmarkArray& records) {
+        switch (below(4)) {
+            case 0:
+                add<CBMFolder>(records, name());
+                break;
+            case 1: {
+                auto& page = add<CBMBrowse>(records, name());
+                page.itemCode = any32();
+                page.pageId = any32();
+                page.sectionCode = any16();
+                break;
+            }
+            case 2: {
+                auto& table = add<CBMPeriodic>(records, name());
+                table.stateA = any32();
+                table.stateB = any32();
+                break;
+            }
+            default:
+                addAnalyser(records);
+        }
+    }
+    void addAnalyser(BookmarkArray& records) {
+        auto& state = add<CBMDataAn>(records, name());
+        state.mode = any16();
+        state.viewMode = any16();
+        state.option3 = any16();
+        state.option4 = any32();
+        state.flag5 = below(2);
+        state.flag6 = below(2);
+        state.option7 = any16();
+        state.value9 = any16();
+        state.value8 = below(20) - 5;
+        for (int i = 0; i < state.value8; ++i) state.value11.push_back(static_cast<std::byte>(random_()));
+        state.entryBlock.front() = 1 + below(40);
+        for (int i = 1; i < state.entryBlock.front(); ++i) {
+            state.entryBlock.push_back(any32());
+            state.entries.push_back(any32());
+        }
+    }
+
+    std::mt19937 random_{20020611};
+};
+
+TEST(BookmarkFile, WhatIsWrittenIsReadBack) {
+    RandomLists lists;
+    for (int i = 0; i < 200; ++i) {
+        const BookmarkArray records = lists.next();
+        const std::string file = WriteBookmarks(records);
+        const auto read = ReadBookmarks(file);
+        ASSERT_TRUE(read) << "list " << i;
+        ASSERT_EQ(read->size(), records.size());
+        for (std::size_t r = 0; r < records.size(); ++r) ASSERT_EQ(read->at(r)->name, records[r]->name);
+        ASSERT_EQ(WriteBookmarks(*read), file) << "list " << i;
+    }
+}
+
+TEST(BookmarkFile, RefusesDamagedFiles) {
+    const std::string head = "01 00 00 00  02 00 00 00  02 00 " + kFolderClass + "01 'f' ";
+    const std::string analyser =
+        kAnalyserClass + "00  00 00 00 00  00 00 00 00  00 00  00 00 00 00  00 00 00 00  00 00 ";
+    const std::pair<const char*, std::string> cases[] = {
+        {"empty", ""},
+        {"version 2", "02 00 00 00  01 00 00 00  01 00 " + kFolderClass + "00"},
+        {"count 0", "01 00 00 00  00 00 00 00  01 00 " + kFolderClass + "00"},
+        {"both counts 0", "01 00 00 00  00 00 00 00  00 00"},
+        {"count -1", "01 00 00 00  FF FF FF FF  FF FF FF FF FF FF " + kFolderClass + "00"},
+        {"counts differ", "01 00 00 00  02 00 00 00  01 00 " + kFolderClass + "00"},
+        {"more records than bytes", "01 00 00 00  FF FF FF 7F  FF FF FF FF FF 7F " + kFolderClass + "00"},
+        {"name of 4 GB", "01 00 00 00  01 00 00 00  01 00 " + kFolderClass + "FF FF FF FF FF FF FF 'x'"},
+        {"Unicode name", "01 00 00 00  01 00 00 00  01 00 " + kFolderClass + "FF FE FF 01 'x' 00"},
+        {"no folder first", "01 00 00 00  01 00 00 00  01 00 " + kTableClass + "00 00 00 00 00 00 00 00 00"},
+        {"schema 2", "01 00 00 00  01 00 00 00  01 00 FF FF 02 00 09 00 'CBMFolder' 00"},
+        {"unknown class", head + "FF FF 01 00 06 00 'CBMFoo' 00"},
+        {"class name of 64 KB", head + "FF FF 01 00 FF FF 'CBMFolder' 00"},
+        {"null element", head + "00 00"},
+        {"reference to a record", head + "02 00"},
+        {"reference to a record, large form", head + "FF 7F 02 00 00 00"},
+        {"class index of a record", head + "02 80 00"},
+        {"class index of nothing", head + "FF 7F 09 00 00 80 00"},
+        {"K = 2,000,000,000", head + analyser + "00 00 00 00  00 00  00 94 35 77  00 00 00 00"},
+        {"K = 0", head + analyser + "00 00 00 00  00 00  00 00 00 00"},
+        {"K = -1", head + analyser + "00 00 00 00  00 00  FF FF FF FF"},
+        {"fewer entries than K - 1", head + analyser + "00 00 00 00  00 00  02 00 00 00  01 00 00 00  00"},
+        {"N = 2 GB", head + analyser + "FF FF FF 7F  00 00  01 00 00 00"},
+    };
+    for (const auto& [what, text] : cases) EXPECT_FALSE(ReadBookmarks(bytes(text))) << what;
+    EXPECT_TRUE(ReadBookmarks(bytes(head + analyser + "00 00 00 00  00 00  01 00 00 00")))
+        << "the rest is whole";
+    EXPECT_TRUE(ReadBookmarks(bytes(head + analyser + "FB FF FF FF  00 00  01 00 00 00"))) << "N below 0";
+    EXPECT_TRUE(ReadBookmarks(bytes(head + "FF 7F 01 00 00 80  01 'g'")))
+        << "a small index in the large form";
+}
+
+TEST(BookmarkFile, RefusesEachBeginningOfAFile) {
+    for (std::size_t length = 0; length < kFileOfAllClasses.size(); ++length) {
+        EXPECT_FALSE(ReadBookmarks(kFileOfAllClasses.substr(0, length))) << length;
+    }
+    EXPECT_TRUE(ReadBookmarks(kFileOfAllClasses + "more"));
+}
+
+class BookmarksOnDisk : public testing::Test {
+  protected:
+    BookmarkLoad load(const std::string& path) { return LoadBookmarks(drives_.files, path, list_); }
+    BookmarkSave save(const std::string& path) { return SaveBookmarks(drives_.files, path, list_.Records()); }
+
+    TestDrives drives_;
+    BookmarkList list_;
+};
+
+TEST_F(BookmarksOnDisk, NoFileGivesTheDefaultFolderAndItsFile) {
+    EXPECT_EQ(load("C:\\x\\y\\bookmark.dat"), BookmarkLoad::noFile);
+    EXPECT_EQ(list_.CurrentFolderIndex(), 0U);
+    EXPECT_EQ(save("C:\\x\\y\\bookmark.dat"), BookmarkSave::saved);
+    EXPECT_EQ(drives_.get("C:\\x\\y\\bookmark.dat"), kDefaultFile);
+    EXPECT_FALSE(drives_.has("C:\\x\\y\\bookmark.dat.bak"));
+}
+
+TEST_F(BookmarksOnDisk, DamagedFileStaysAndIsKeptAsACopy) {
+    drives_.put("C:\\b.dat", "broken");
+    EXPECT_EQ(load("C:\\b.dat"), BookmarkLoad::damaged);
+    EXPECT_EQ(list_.Records().size(), 1U);
+    EXPECT_EQ(drives_.get("C:\\b.dat"), "broken");
+    drives_.put("C:\\b.dat.bak", "older");
+    EXPECT_EQ(save("C:\\b.dat"), BookmarkSave::saved);
+    EXPECT_EQ(drives_.get("C:\\b.dat"), kDefaultFile);
+    EXPECT_EQ(drives_.get("C:\\b.dat.bak"), "broken");
+}
+
+TEST_F(BookmarksOnDisk, TooLargeFileIsDamaged) {
+    drives_.put("C:\\b.dat", kDefaultFile);
+    std::filesystem::resize_file(drives_.host("C:\\b.dat"), kLargestBookmarkFile + 1);
+    EXPECT_EQ(load("C:\\b.dat"), BookmarkLoad::damaged);
+}
+
+TEST_F(BookmarksOnDisk, CopyThatCannotBeMadeDoesNotMatter) {
+    drives_.put("C:\\b.dat", kFileOfAllClasses);
+    drives_.put("C:\\b.dat.bak\\in the way", "");
+    EXPECT_EQ(load("C:\\b.dat"), BookmarkLoad::loaded);
+    EXPECT_EQ(save("C:\\b.dat"), BookmarkSave::saved);
+    EXPECT_EQ(drives_.get("C:\\b.dat"), kFileOfAllClasses);
+}
+
+TEST_F(BookmarksOnDisk, FailuresOfTheMediumAreTold) {
+    list_.ResetBookmarks();
+    drives_.put("C:\\file", "");
+    EXPECT_EQ(save("C:\\file\\b.dat"), BookmarkSave::notCreated);
+    EXPECT_EQ(save("Q:\\b.dat"), BookmarkSave::notCreated);
+    EXPECT_EQ(save("b.dat"), BookmarkSave::notCreated);
+    // A device that is full at once.
+    std::filesystem::create_symlink("/dev/full", drives_.host("C:\\full.dat"));
+    EXPECT_EQ(save("C:\\full.dat"), BookmarkSave::notWritten);
+}
+
+TEST(BookmarkList, BookmarkGoesToTheEndOfTheCurrentFolder) {
+    const auto namesAfterAdding = [](std::optional<std::size_t> current) {
+        BookmarkArray records;
+        add<CBMFolder>(records, "A");
+        add<CBMPeriodic>(records, "a");
+        add<CBMFolder>(records, "B");
+        add<CBMFolder>(records, "C");
+        add<CBMPeriodic>(records, "c");
+        BookmarkList list;
+        list.Replace(std::move(records));
+        list.SetCurrentFolder(current ? list.Records()[*current].get() : nullptr);
+        auto added = std::make_unique<CBMPeriodic>();
+        added->name = "x";
+        list.Add(std::move(added));
+        std::string names;
+        for (const auto& record : list.Records()) names += record->name;
+        return names;
+    };
+    EXPECT_EQ(namesAfterAdding(0), "AaxBCc");
+    EXPECT_EQ(namesAfterAdding(2), "AaBxCc");
+    EXPECT_EQ(namesAfterAdding(3), "AaBCcx");
+    EXPECT_EQ(namesAfterAdding(std::nullopt), "AaxBCc");
+}
+
+TEST(BookmarkList, RearrangingFreesWhatIsLeftOut) {
+    BookmarkList list;
+    list.Replace(recordsOfAllClasses());
+    const CBookmark* const first = list.Records()[0].get();
+    const CBookmark* const second = list.Records()[4].get();
+    const CBookmark* const page = list.Records()[1].get();
+    BookmarkArray added;
+    const CBookmark* const renamed = &add<CBMFolder>(added, "new");
+    add<CBMFolder>(added, "made and deleted");
+    const std::vector<const CBookmark*> order{second, page, renamed};
+    list.SetCurrentFolder(second);
+    list.Rearrange(order, std::move(added));
+    EXPECT_EQ(list.Records().size(), 3U);
+    EXPECT_EQ(list.CurrentFolderIndex(), 0U);
+    list.SetCurrentFolder(first);
+    list.Rearrange(order, {});
+    EXPECT_EQ(list.CurrentFolder(), nullptr) << "it is no longer there";
+}
+
+TEST(BookmarkRecords, RenamedRecordIsTheSameButForItsName) {
+    const BookmarkArray originals = recordsOfAllClasses();
+    for (std::size_t i = 0; i < originals.size(); ++i) {
+        EXPECT_EQ(originals[i]->Renamed("other")->name, "other");
+        BookmarkArray expected;
+        BookmarkArray renamed;
+        add<CBMFolder>(expected, "");
+        add<CBMFolder>(renamed, "");
+        expected.push_back(std::move(recordsOfAllClasses()[i]));
+        renamed.push_back(originals[i]->Renamed(originals[i]->name));
+        EXPECT_EQ(WriteBookmarks(renamed), WriteBookmarks(expected)) << i;
+    }
+}
+
+}  // namespace
+}  // namespace kalyxo
