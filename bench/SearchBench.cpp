@@ -1,0 +1,209 @@
+#include <benchmark/benchmark.h>
+
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <string>
+
+#include "formats/SectionTitles.h"
+#include "formats/TitleLists.h"
+#include "formats/WordRecords.h"
+#include "src/search/ResultRows.h"
+
+/// Word searches over 1,000,000 occurrences on a memory file system, beside the plainest ways to scan the
+/// same file.
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::int32_t kRecords = 1'000'000;
+constexpr int kForms = 10;
+/// One record in so many is one of the forms, so that all of them together stay below the most hits.
+constexpr std::int32_t kRecordsPerHit = 2'600;
+constexpr std::int32_t kPages = 400;
+
+std::string formOf(std::int32_t number) { return "searched-form" + std::to_string(number); }
+
+/// A data folder, removed at the end.
+class IndexFolder {
+  public:
+    IndexFolder()
+        : m_root(fs::temp_directory_path() / ("kalyxo-bench-search-" + std::to_string(::getpid()))) {
+        fs::create_directories(m_root);
+        writeOccurrences();
+        writeAlternatives();
+        writeTitles();
+    }
+    ~IndexFolder() { fs::remove_all(m_root); }
+    IndexFolder(const IndexFolder&) = delete;
+    IndexFolder& operator=(const IndexFolder&) = delete;
+
+    fs::path file(std::string_view name) const { return m_root / name; }
+    platform::FileSystem drives() const {
+        return platform::FileSystem({{'D', platform::DriveType::cdrom, m_root}});
+    }
+
+    static const IndexFolder& instance() {
+        static const IndexFolder folder;
+        return folder;
+    }
+
+  private:
+    void write(std::string_view name, const std::string& bytes) const {
+        std::ofstream(file(name), std::ios::binary) << bytes;
+    }
+
+    /// Words of the lengths that a text has, many with the same beginning, the searched ones among them.
+    void writeOccurrences() const {
+        std::vector<formats::OccurrenceRecord> records;
+        for (std::int32_t i = 0; i < kRecords; ++i) {
+            const bool isHit = i % kRecordsPerHit == 0;
+            const std::int32_t hit = i / kRecordsPerHit;
+            records.push_back({isHit ? formOf(hit % kForms) : "search" + std::to_string(i % 50'000),
+                               isHit ? hit % kPages : i, isHit ? 10'001 + hit : 0, 2});
+        }
+        write("words.dat", *formats::encodeOccurrences(records));
+    }
+
+    void writeAlternatives() const {
+        std::vector<formats::AlternativeRecord> records;
+        for (std::int32_t i = 0; i < kForms; ++i) records.push_back({1, formOf(i)});
+        write("words.alt", *formats::encodeAlternatives(records));
+    }
+
+    void writeTitles() const {
+        std::vector<formats::SectionTitleRecord> pages;
+        std::vector<std::string> entries;
+        for (std::int32_t i = 0; i < kPages; ++i) {
+            pages.push_back({"The title of page " + std::to_string(i), i});
+            entries.push_back("The title of entry " + std::to_string(i));
+        }
+        write("struct.dat", *formats::encodeSectionTitles(pages));
+        write("elem.ttl", *formats::encodeTitleList(entries));
+    }
+
+    fs::path m_root;
+};
+
+/// The file mapped into memory and touched once.
+class MappedFile {
+  public:
+    explicit MappedFile(const fs::path& path) {
+        const int file = ::open(path.c_str(), O_RDONLY);
+        struct stat status {};
+        ::fstat(file, &status);
+        m_size = static_cast<std::size_t>(status.st_size);
+        void* const mapped = ::mmap(nullptr, m_size, PROT_READ, MAP_SHARED | MAP_POPULATE, file, 0);
+        ::close(file);
+        m_bytes = mapped == MAP_FAILED ? nullptr : static_cast<const char*>(mapped);
+    }
+    ~MappedFile() { ::munmap(const_cast<char*>(m_bytes), m_size); }
+    MappedFile(const MappedFile&) = delete;
+    MappedFile& operator=(const MappedFile&) = delete;
+
+    const char* bytes() const { return m_bytes; }
+    std::size_t size() const { return m_size; }
+
+  private:
+    const char* m_bytes = nullptr;
+    std::size_t m_size = 0;
+};
+
+/// The scan as plain C: the word and its NUL compared at the start of each record.
+int countPlainly(const char* bytes, std::size_t size, const char* word) {
+    const std::size_t length = std::strlen(word) + 1;
+    int found = 0;
+    for (const char* record = bytes; record + formats::kOccurrenceRecordSize <= bytes + size;
+         record += formats::kOccurrenceRecordSize) {
+        if (std::memcmp(record, word, length) == 0) ++found;
+    }
+    return found;
+}
+
+int countByFread(std::FILE* file, const char* word) {
+    char record[formats::kOccurrenceRecordSize];
+    int found = 0;
+    std::rewind(file);
+    while (std::fread(record, sizeof record, 1, file) == 1) {
+        if (std::strncmp(record, word, formats::kOccurrenceWordField) == 0) ++found;
+    }
+    return found;
+}
+
+void check(benchmark::State& state, std::size_t found, std::size_t expected) {
+    if (found != expected) state.SkipWithError("not all occurrences were found");
+}
+
+constexpr std::size_t kHitsOfAll = (kRecords + kRecordsPerHit - 1) / kRecordsPerHit;
+constexpr std::size_t kHitsOfOne = (kHitsOfAll + kForms - 1) / kForms;
+
+void MappedScanInPlainC(benchmark::State& state) {
+    const MappedFile file(IndexFolder::instance().file("words.dat"));
+    const std::string word = formOf(0);
+    int found = 0;
+    for (auto _ : state) found = countPlainly(file.bytes(), file.size(), word.c_str());
+    check(state, static_cast<std::size_t>(found), kHitsOfOne);
+}
+BENCHMARK(MappedScanInPlainC)->Unit(benchmark::kMillisecond);
+
+void FreadRecordByRecord(benchmark::State& state) {
+    const fs::path path = IndexFolder::instance().file("words.dat");
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"), &std::fclose);
+    const std::string word = formOf(0);
+    int found = 0;
+    for (auto _ : state) found = countByFread(file.get(), word.c_str());
+    check(state, static_cast<std::size_t>(found), kHitsOfOne);
+}
+BENCHMARK(FreadRecordByRecord)->Unit(benchmark::kMillisecond);
+
+void OneLookUp(benchmark::State& state) {
+    const platform::FileSystem files = IndexFolder::instance().drives();
+    kalyxo::SearchIndex index(files, "D:\\");
+    for (auto _ : state) {
+        index.ResetHits();
+        index.CollectHits(formOf(0));
+    }
+    check(state, index.HitCount(), kHitsOfOne);
+}
+BENCHMARK(OneLookUp)->Unit(benchmark::kMillisecond);
+
+/// A whole search with so many forms, its hits turned into rows.
+void SearchWithForms(benchmark::State& state) {
+    const platform::FileSystem files = IndexFolder::instance().drives();
+    kalyxo::SearchIndex index(files, "D:\\");
+    index.LoadAlternatives();
+    std::vector<std::string> words = index.ExpandAlternatives(formOf(0), true);
+    words.resize(static_cast<std::size_t>(state.range(0)));
+    std::size_t rows = 0;
+    for (auto _ : state) {
+        kalyxo::HitTitles titles(files, "D:\\");
+        rows = kalyxo::FindRows(index, words, titles).size();
+    }
+    check(state, rows, index.HitCount());
+    state.counters["rows"] = static_cast<double>(rows);
+}
+BENCHMARK(SearchWithForms)->Unit(benchmark::kMillisecond)->Arg(1)->Arg(5)->Arg(kForms);
+
+/// The titles and rows of 400 hits alone: all occurrences of one word at the beginning of the file.
+void FourHundredHitsIntoRows(benchmark::State& state) {
+    const platform::FileSystem files = IndexFolder::instance().drives();
+    std::size_t rows = 0;
+    for (auto _ : state) {
+        kalyxo::HitTitles titles(files, "D:\\");
+        kalyxo::ResultRows folded;
+        for (std::int32_t i = 0; i < kPages; ++i)
+            folded.Add(titles.MakeHitTexts({i, 10'001 + i, 2}), static_cast<std::size_t>(i));
+        rows = folded.Rows().size();
+    }
+    check(state, rows, kPages);
+}
+BENCHMARK(FourHundredHitsIntoRows)->Unit(benchmark::kMillisecond);
+
+}  // namespace

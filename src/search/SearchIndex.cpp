@@ -1,0 +1,38 @@
+#include "src/search/SearchIndex.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/files/BinaryFile.h"
+#include "src/search/IndexFileLimit.h"
+
+namespace kalyxo {
+
+SearchIndex::SearchIndex(const platform::FileSystem& files, std::string dataFolder)
+    : m_files(files), m_dataFolder(std::move(dataFolder)), m_occurrences(files, m_dataFolder) {
+    m_hits.reserve(MaxHits);
+}
+
+std::vector<std::string> SearchIndex::LoadWordIndex() const {
+    return formats::decodeWordIndex(
+        m_files.readAll(pathOf(formats::kWordIndexFile), kLargestIndexFile).value_or(""));
+}
+
+void SearchIndex::LoadAlternatives() { m_alternatives.Load(m_files, m_dataFolder); }
+
+bool SearchIndex::LoadFirstLetterTable() {
+    m_firstLetters.clear();
+    const auto file = platform::BinaryFile::open(m_files, pathOf(formats::kFirstLettersFile));
+    if (!file) return true;
+    std::string records(MaxFirstLetterRecords * formats::kFirstLetterRecordSize, '\0');
+    records.resize(file->readAt(0, std::as_writable_bytes(std::span(records))));
+    m_firstLetters = formats::decodeFirstLetters(records);
+    return file->size() / formats::kFirstLetterRecordSize <= MaxFirstLetterRecords;
+}
+
+std::vector<std::string> SearchIndex::ExpandAlternatives(std::string_view word, bool wanted) const {
+    if (!wanted) return {std::string(word)};
+    return m_alternatives.FormsOf(word);
+}
+
+}  // namespace kalyxo

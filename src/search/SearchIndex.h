@@ -1,0 +1,55 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "formats/WordRecords.h"
+#include "platform/files/FileSystem.h"
+#include "src/search/AlternativesTable.h"
+#include "src/search/OccurrenceFile.h"
+#include "src/search/SearchHit.h"
+
+namespace kalyxo {
+
+/// The word search's four files and the hits of the current search run. A file that is missing or cannot be
+/// read counts as empty. All words are code page 1253 and compared byte for byte.
+class SearchIndex {
+  public:
+    /// Most hits of one search run, over all of its words.
+    static constexpr std::size_t MaxHits = 400;
+    static constexpr std::size_t MaxFirstLetterRecords = 200;
+
+    /// Opens the occurrences of the data folder (which ends with a backslash) and keeps them open. `files`
+    /// must outlive the index.
+    SearchIndex(const platform::FileSystem& files, std::string dataFolder);
+
+    /// The vocabulary in file order.
+    std::vector<std::string> LoadWordIndex() const;
+    void LoadAlternatives();
+    /// False when the file has more records than the table has room for; the first ones are kept.
+    bool LoadFirstLetterTable();
+    const std::vector<formats::FirstLetterRecord>& FirstLetters() const { return m_firstLetters; }
+
+    /// The words that one search looks up: the chosen word, and when wanted the other forms of its group.
+    std::vector<std::string> ExpandAlternatives(std::string_view word, bool wanted) const;
+
+    /// Starts a search run without hits.
+    void ResetHits() { m_hits.clear(); }
+    /// Appends the occurrences of a word in file order; those beyond `MaxHits` are left out.
+    void CollectHits(std::string_view word) { m_occurrences.Collect(word, m_hits, MaxHits); }
+    std::size_t HitCount() const { return m_hits.size(); }
+    const SearchHit& HitAt(std::size_t i) const { return m_hits[i]; }
+
+  private:
+    std::string pathOf(std::string_view name) const { return std::string(m_dataFolder).append(name); }
+
+    const platform::FileSystem& m_files;
+    std::string m_dataFolder;
+    OccurrenceFile m_occurrences;
+    AlternativesTable m_alternatives;
+    std::vector<formats::FirstLetterRecord> m_firstLetters;
+    std::vector<SearchHit> m_hits;
+};
+
+}  // namespace kalyxo
