@@ -12,7 +12,7 @@ namespace {
 
 using namespace platform::literals;
 
-constexpr double roomTemperature = 298.15;
+constexpr int helium = 2;
 
 // Atomic number of the noble gas that ends each period; 0 stands before the first.
 constexpr std::array periodEnds{0, 2, 10, 18, 36, 54, 86, 118};
@@ -66,11 +66,15 @@ Block Element::block() const {
     return group() <= 12 ? Block::d : Block::p;
 }
 
-Matter Element::matter() const {
+Matter Element::matterAt(double kelvin) const {
     const auto melting = meltingPoint.value();
+    const auto boiling = boilingPoint.value();
+    if (boiling && kelvin >= *boiling) return Matter::gas;
     if (!melting) return Matter::unknown;
-    if (*melting > roomTemperature) return Matter::solid;
-    return boilingPoint.value().value_or(roomTemperature) > roomTemperature ? Matter::liquid : Matter::gas;
+    // Helium freezes under pressure only.
+    if (kelvin < *melting) return number == helium ? Matter::liquid : Matter::solid;
+    if (boiling) return *boiling < *melting ? Matter::solid : Matter::liquid;
+    return Matter::unknown;
 }
 
 std::string Element::massText() const {

@@ -26,7 +26,7 @@ inline constexpr int familyCount = 10;
 /// The subshell that is filled last.
 enum class Block : std::uint8_t { s, p, d, f };
 
-/// State of matter at 25 °C and one atmosphere.
+/// State of matter.
 enum class Matter : std::uint8_t { solid, liquid, gas, unknown };
 
 /// A measured value in the digits that are known of it, such as "20.180"; empty when it is not known.
@@ -44,6 +44,13 @@ struct Figure {
 /// Stands as the year of an element that was known in antiquity.
 inline constexpr std::int16_t antiquity = 0;
 
+/// 25 °C in K.
+inline constexpr double roomTemperature = 298.15;
+inline constexpr double zeroCelsius = 273.15;
+
+/// The last element of which atoms enough were there to measure how its electrons are arranged.
+inline constexpr int lastMeasuredConfiguration = 105;
+
 /// One chemical element. Texts are in code page 1253.
 struct Element {
     int number;  ///< atomic number, 1 to 118
@@ -56,14 +63,25 @@ struct Element {
     Figure boilingPoint;       ///< K, for arsenic the point of sublimation
     Figure density;            ///< g/cm³: solids and liquids near 20 °C, gases at 0 °C and one atmosphere
     Figure electronegativity;  ///< Pauling's scale
-    std::int16_t discovered;   ///< year, or `antiquity`
+    Figure ionisation;         ///< first ionisation energy, eV
+    Figure covalentRadius;     ///< pm
+    Figure crust;              ///< abundance in the Earth's crust, mg/kg
+    /// The subshells in the order in which the source writes them, after the symbol of the noble gas whose
+    /// electrons come first, such as "Ar 3d6 4s2".
+    std::string_view configuration;
+    std::int16_t discovered;  ///< year, or `antiquity`
 
     /// 1 to 7.
     int period() const;
     /// 1 to 18, or 0 for lanthanides and actinides, which belong to none.
     int group() const;
     Block block() const;
-    Matter matter() const;
+    /// The state at one atmosphere; unknown where it depends on a point that is not known.
+    Matter matterAt(double kelvin) const;
+    /// The state at 25 °C.
+    Matter matter() const { return matterAt(roomTemperature); }
+    /// True when `configuration` was calculated and not measured.
+    bool hasCalculatedConfiguration() const { return number > lastMeasuredConfiguration; }
     /// False when an element has no standard atomic mass, as it does not occur with a fixed mixture of
     /// isotopes; `mass` is then the mass number of the longest-lived one.
     bool hasStandardMass() const { return mass.decimals() > 0; }

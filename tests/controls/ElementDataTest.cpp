@@ -1,12 +1,15 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <numeric>
 #include <set>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "controls/common/ElectronShells.h"
 #include "controls/common/Element.h"
+#include "controls/common/ElementQuantity.h"
 #include "controls/common/ElementSearch.h"
 #include "controls/common/TypeAhead.h"
 #include "platform/text/GreekLiteral.h"
@@ -48,8 +51,9 @@ TEST(ElementData, MassesAscendExceptWhereNatureDoesNot) {
 TEST(ElementData, FiguresAreWellFormedAndPlausible) {
     for (const Element& element : elements()) {
         SCOPED_TRACE(element.symbol);
-        for (const Figure* figure : {&element.mass, &element.meltingPoint, &element.boilingPoint,
-                                     &element.density, &element.electronegativity}) {
+        for (const Figure* figure :
+             {&element.mass, &element.meltingPoint, &element.boilingPoint, &element.density,
+              &element.electronegativity, &element.ionisation, &element.covalentRadius, &element.crust}) {
             EXPECT_EQ(figure->known(), figure->value().has_value());
             EXPECT_EQ(figure->digits.find_first_not_of("0123456789."), std::string_view::npos);
             if (figure->known()) {
@@ -124,6 +128,77 @@ TEST(ElementData, MatterAtRoomTemperature) {
     }
     EXPECT_EQ(liquids, "BrHg");
     EXPECT_EQ(unknown, 118 - 103);
+}
+
+TEST(ElementData, MatterAtATemperature) {
+    struct Case {
+        std::string_view symbol;
+        double kelvin;
+        Matter matter;
+    };
+    for (const auto& [symbol, kelvin, matter] : std::vector<Case>{{"Fe", 0, Matter::solid},
+                                                                  {"Fe", 1810.9, Matter::solid},
+                                                                  {"Fe", 1811, Matter::liquid},
+                                                                  {"Fe", 3134, Matter::gas},
+                                                                  {"He", 0, Matter::liquid},
+                                                                  {"He", 4.22, Matter::gas},
+                                                                  {"As", 886, Matter::solid},
+                                                                  {"As", 887, Matter::gas},
+                                                                  {"As", 1100, Matter::gas},
+                                                                  {"Bk", 1200, Matter::solid},
+                                                                  {"Bk", 1300, Matter::unknown},
+                                                                  {"Og", 298, Matter::unknown},
+                                                                  {"W", 6000, Matter::gas}}) {
+        EXPECT_EQ(findElement(numberOf(symbol))->matterAt(kelvin), matter) << symbol << ' ' << kelvin;
+    }
+}
+
+TEST(ElementData, ConfigurationsHoldAsManyElectronsAsTheAtom) {
+    for (const Element& element : elements()) {
+        const auto subshells = subshellsOf(element);
+        const auto shells = shellsOf(element);
+        EXPECT_EQ(std::accumulate(shells.begin(), shells.end(), 0), element.number) << element.symbol;
+        EXPECT_EQ(static_cast<int>(shells.size()), element.symbol == "Pd" ? 4 : element.period());
+        for (const Subshell& subshell : subshells) {
+            const auto order = static_cast<int>(std::string_view("spdf").find(subshell.letter));
+            EXPECT_LT(order, subshell.shell) << element.symbol;
+            EXPECT_LE(subshell.electrons, 4 * order + 2) << element.symbol;
+        }
+    }
+    EXPECT_EQ(shellsOf(*findElement(26)), (std::vector<int>{2, 8, 14, 2}));
+    EXPECT_EQ(subshellsOf(*findElement(24)).back(), (Subshell{4, 's', 1}));
+}
+
+TEST(ElementData, ANonsensicalConfigurationHasNoShells) {
+    Element element = *findElement(26);
+    for (const std::string_view text :
+         {"", "Fe 3d6", "Kr 5s1", "Ar 3g2", "Ar 3d", "Ar 3dx", "Ar 9s2", "Ar  4s2"}) {
+        element.configuration = text;
+        EXPECT_TRUE(shellsOf(element).empty()) << text;
+    }
+}
+
+TEST(ElementData, TheCrustConsistsOfItsElements) {
+    double sum = 0;
+    for (const Element& element : elements()) sum += element.crust.value().value_or(0);
+    EXPECT_NEAR(sum, 1e6, 1e4);
+}
+
+TEST(ElementQuantity, ValueAndTextInTheSameUnit) {
+    const Element& iron = *findElement(26);
+    EXPECT_NEAR(*quantityValue(iron, Quantity::ionisation), 762.5, 0.05);
+    EXPECT_EQ(quantityText(iron, Quantity::ionisation), "762,5");
+    EXPECT_EQ(quantityText(*findElement(89), Quantity::ionisation), "499");
+    EXPECT_EQ(quantityText(iron, Quantity::covalentRadius), "132");
+    EXPECT_EQ(quantityText(iron, Quantity::discovery), "αρχαιότητα"_gr);
+    EXPECT_EQ(quantityText(iron, Quantity::density), "7,874");
+    EXPECT_EQ(quantityText(*findElement(118), Quantity::crust), "");
+    for (const Element& element : elements()) {
+        for (int code = 0; code < quantityCount; ++code) {
+            const auto quantity = static_cast<Quantity>(code);
+            EXPECT_EQ(quantityText(element, quantity).empty(), !quantityValue(element, quantity).has_value());
+        }
+    }
 }
 
 TEST(ElementData, MassTextHasCommaOrBrackets) {

@@ -1,0 +1,97 @@
+#include "tools/elementc/TableWriter.h"
+
+#include <algorithm>
+#include <array>
+
+namespace elementc {
+
+namespace {
+
+constexpr std::string_view head = R"(// Made by elementc; where each figure comes from: docs/third-party.md.
+#include <array>
+
+#include "controls/common/Element.h"
+#include "platform/text/GreekLiteral.h"
+
+namespace controls {
+
+namespace {
+
+using namespace platform::literals;
+using enum Family;
+
+constexpr std::array<Element, elementCount> table{{
+)";
+
+constexpr std::string_view tail = R"(}};
+
+}  // namespace
+
+std::span<const Element, elementCount> elements() { return table; }
+
+}  // namespace controls
+)";
+
+constexpr std::array<std::string_view, 6> required{"symbol", "Greek name", "name",
+                                                   "family", "mass",       "discovered"};
+
+// In the order in which an element has them.
+constexpr std::array<std::string_view, 8> figures{"mass",
+                                                  "melting",
+                                                  "boiling",
+                                                  "density g/cm³",
+                                                  "electronegativity",
+                                                  "ionisation",
+                                                  "covalent radius pm",
+                                                  "crust mg/kg"};
+
+bool isDecimal(std::string_view text) {
+    return text.find_first_not_of("0123456789.") == std::string_view::npos &&
+           std::ranges::count(text, '.') <= 1 && text != ".";
+}
+
+/// Whether a text can stand between quotes as it is.
+bool isPlain(std::string_view text) { return text.find_first_of("\"\\\n\r") == std::string_view::npos; }
+
+std::string faultOf(const Record& record) {
+    for (const std::string_view name : required) {
+        if (field(record, name).empty()) return "no " + std::string(name);
+    }
+    for (const std::string_view name : figures) {
+        if (!isDecimal(field(record, name))) return std::string(name) + " is no decimal number";
+    }
+    if (field(record, "discovered").find_first_not_of("0123456789") != std::string_view::npos) {
+        return "the year is no number";
+    }
+    const bool plain = std::ranges::all_of(record, [](const auto& each) { return isPlain(each.second); });
+    return plain ? std::string() : "a text with a quotation mark, backslash or line end";
+}
+
+std::string quoted(std::string_view text) { return '"' + std::string(text) + '"'; }
+
+std::string figure(std::string_view text) {
+    return '{' + (text.empty() ? std::string() : quoted(text)) + '}';
+}
+
+std::string line(int number, const Record& record) {
+    std::string text = "    {" + std::to_string(number) + ", " + quoted(field(record, "symbol")) + ", " +
+                       quoted(field(record, "Greek name")) + "_gr, " + quoted(field(record, "name")) + ", " +
+                       std::string(field(record, "family"));
+    for (const std::string_view name : figures) text += ", " + figure(field(record, name));
+    return text + ", " + quoted(field(record, "configuration")) + ", " +
+           std::string(field(record, "discovered")) + "},\n";
+}
+
+}  // namespace
+
+Outcome<std::string> writeTable(const Records& records) {
+    std::string text(head);
+    for (const auto& [number, record] : records) {
+        const std::string fault = faultOf(record);
+        if (!fault.empty()) return failed<std::string>("element " + std::to_string(number) + ": " + fault);
+        text += line(number, record);
+    }
+    return {text.append(tail)};
+}
+
+}  // namespace elementc
