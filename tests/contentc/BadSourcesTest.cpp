@@ -29,6 +29,29 @@ TEST_P(BadSources, AreReportedByLine) {
 }
 
 INSTANTIATE_TEST_SUITE_P(
+    DataSets, BadSources,
+    testing::Values(
+        BadSource{"datasets/gases.data",
+                  "number: 1\ntitle: T\ncolumn: text | N\ncolumn: number | V\n---\nα\t1\nβ\tδύο\nγ\n",
+                  {"datasets/gases.data:7: the row of 'β' has words where a number belongs",
+                   "datasets/gases.data:8: the row of 'γ' has not as many cells as there are columns"}},
+        BadSource{"datasets/gases.data",
+                  "number: 0\ntitle: T\ncolumn: text | N\ncolumn: number | V\n---\n",
+                  {"datasets/gases.data:1: no field with a right value",
+                   "datasets/gases.data:5: the head needs 'number', 'title', a first column of words, "
+                   "a column of numbers, and a 'graph' of such"}},
+        BadSource{"datasets/gases.txt", "", {"datasets/gases.txt:1: not a *.data file"}}));
+
+TEST(DataSets, OfOneNumberAreReported) {
+    ContentFolder content;
+    const std::string text = "number: 1\ntitle: T\ncolumn: text | N\ncolumn: number | V\n---\n";
+    content.write("datasets/gases.data", text);
+    content.write("datasets/salts.data", text);
+    EXPECT_FALSE(content.compile());
+    EXPECT_EQ(content.messages, Messages{"datasets/salts.data:1: another data set has the number 1 too"});
+}
+
+INSTANTIATE_TEST_SUITE_P(
     Headers, BadSources,
     testing::Values(BadSource{"pages/uses/400010.page",
                               "title: T\nkind: topic\n<P>",

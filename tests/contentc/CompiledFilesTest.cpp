@@ -36,6 +36,15 @@ TEST(CompiledFiles, PageIsItsScaffoldWithTheBodyInCodePage1253) {
                                                 "~G\r\n</BODY></HTML>\r\n");
 }
 
+TEST(CompiledFiles, DataSetKeepsItsLines) {
+    ContentFolder content;
+    content.write("datasets/gases.data",
+                  "number: 1\ntitle: Αέρια\ncolumn: text | N\ncolumn: number | V\n---\nήλιο\t4.003\n");
+    EXPECT_EQ(content.compiled("datasets\\gases.dat"),
+              greek("number: 1\r\ntitle: Αέρια\r\ncolumn: text | N\r\ncolumn: number | V\r\n---\r\n"
+                    "ήλιο\t4.003\r\n"));
+}
+
 TEST(CompiledFiles, MarksBecomeMarkers) {
     ContentFolder content;
     content.write("built/fire.webm", "video");

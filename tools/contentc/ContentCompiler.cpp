@@ -5,6 +5,7 @@
 #include "formats/PageNumber.h"
 #include "tools/contentc/Content.h"
 #include "tools/contentc/ContentChecks.h"
+#include "tools/contentc/DataSetSource.h"
 #include "tools/contentc/IndexFiles.h"
 #include "tools/contentc/PageCompiler.h"
 #include "tools/contentc/PageScaffold.h"
@@ -21,6 +22,7 @@ class ContentCompilation {
         addPages();
         addTerms();
         addStyle();
+        addDataSets(m_tree.dataSets, m_outputs, m_diagnostics);
         addCopies("images\\", m_tree.pictures);
         addCopies("mol\\", m_tree.molecules);
         addCopies("video\\", m_tree.videos);

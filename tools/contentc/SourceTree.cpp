@@ -88,6 +88,7 @@ SourceTree readSourceTree(const SourceFolders& folders, Diagnostics& diagnostics
     tree.elements = reader.readFileIfPresent(root / "elements.txt");
     tree.sections = reader.readSections(root / "pages");
     tree.terms = reader.readFilesStrictly(root / "glossary", ".term");
+    tree.dataSets = reader.readFilesStrictly(root / "datasets", ".data");
     tree.molecules = reader.readFiles(root / "molecules", {".mol"});
     tree.drawings = reader.readFiles(root / "pictures", {".svg"});
     tree.pictures = reader.readFiles(root / "pictures", {".png"});

@@ -39,6 +39,8 @@ struct SourceTree {
     std::optional<SourceFile> style;
     std::optional<SourceFile> elements;
     std::vector<SectionFolder> sections;
+    /// The data analyser's data sets.
+    std::vector<SourceFile> dataSets;
     std::vector<SourceFile> terms;
     std::vector<SourceFile> molecules;
     /// Drawings that have to be rendered beforehand; only their names count.
