@@ -12,6 +12,8 @@
 #include "platform/automation/Variant.h"
 #include "platform/handles/WindowTable.h"
 
+class QPainter;
+class QRect;
 class QWidget;
 
 namespace platform {
@@ -36,6 +38,9 @@ struct EventInfo {
     std::span<const TypeCode> arguments;
 };
 
+/// Draws a page that is printed.
+using PagePainter = std::function<void(QPainter& painter, const QRect& page, int dotsPerInch)>;
+
 /// What a control can ask of its host. It outlives the control.
 class ControlSite {
   public:
@@ -47,6 +52,10 @@ class ControlSite {
     virtual LRESULT sendMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) = 0;
     /// The machine's drives and files.
     virtual const FileSystem& files() const = 0;
+    /// Prints a document (its name in code page 1253) of one page, which the painter draws: in device pixels
+    /// from the printable corner, `dotsPerInch` to the inch. The user may be asked for a printer first. False
+    /// when nothing was printed, as by a host without printers.
+    virtual bool print(std::string_view, const PagePainter&) { return false; }
 };
 
 /// A control that runs in the program's process. It owns its widget, whose parent is the host's.

@@ -11,6 +11,7 @@
 #include "platform/automation/QtChild.h"
 #include "platform/automation/WebBrowserControl.h"
 #include "platform/machine/Machine.h"
+#include "platform/printing/PrintJob.h"
 #include "platform/text/CodePage1253.h"
 
 namespace platform {
@@ -71,6 +72,16 @@ struct ControlHost::Hosted : ControlSite, std::enable_shared_from_this<Hosted> {
     }
 
     const FileSystem& files() const override { return machine().files(); }
+
+    bool print(std::string_view document, const PagePainter& paint) override {
+        const auto alive = shared_from_this();
+        QWidget* const window = control ? control->widget().window() : nullptr;
+        const std::unique_ptr<PrintJob> job = PrintJob::begin(document, window);
+        if (!job) return false;
+        const PrinterConfig& page = job->page();
+        paint(job->painter(), QRect(0, 0, page.horzres, page.vertres), page.logpixelsy);
+        return true;
+    }
 
     void close() {
         closed = true;

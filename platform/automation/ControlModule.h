@@ -17,7 +17,7 @@ class ModuleRegistrar {
 /// What a loaded module offers: one control class.
 struct ControlModule {
     /// Changes whenever Control, ControlSite or Variant change; the host refuses other numbers.
-    static constexpr int currentInterface = 2;
+    static constexpr int currentInterface = 3;
     int interfaceVersion = currentInterface;
     std::string_view classId;
     ControlFactory create = nullptr;

@@ -22,8 +22,8 @@ QString htmlOf(QWebEnginePage& page);
 /// where it is.
 std::optional<CRect> findLinkOf(QWebEnginePage& page, std::string_view linkText);
 
-/// Clicks with `click`, again when the engine lost it, and returns when the page has handled it: what the page
-/// asks for in answer has been asked for by then.
+/// Clicks with `click`, again when the engine lost it, and returns when the page has handled it: what the
+/// page asks for in answer has been asked for by then.
 void clickAndAwait(QWebEnginePage& page, const std::function<void()>& click);
 
 /// The frames of embedded files, in the order of the page.

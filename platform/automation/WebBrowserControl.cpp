@@ -5,7 +5,9 @@
 
 #include "platform/automation/BrowserPolicy.h"
 #include "platform/automation/DosUrl.h"
+#include "platform/automation/PagePrinter.h"
 #include "platform/automation/PageQuestions.h"
+#include "platform/automation/QtChild.h"
 #include "platform/automation/WebPage.h"
 #include "platform/automation/WebView.h"
 #include "platform/machine/Machine.h"
@@ -16,6 +18,7 @@ namespace platform {
 namespace {
 
 constexpr std::int32_t beforeNavigateEvent = 100;
+constexpr std::int32_t printCommand = 6;
 constexpr std::int32_t copyCommand = 12;
 
 constexpr std::array operationTable = {
@@ -33,16 +36,23 @@ constexpr std::array<EventInfo, 1> eventInfos = {
 /// The page as an automation object; it does nothing once the page is gone.
 class Document : public Dispatch {
   public:
-    explicit Document(WebPage& page) : page_(&page) {}
+    Document(WebPage& page, PagePrinter& printer) : page_(&page), printer_(&printer) {}
 
     bool exec(std::int32_t command) override {
-        if (!page_ || command != copyCommand) return false;
-        page_->copySelection();
-        return true;
+        if (page_ && command == copyCommand) {
+            page_->copySelection();
+            return true;
+        }
+        if (printer_ && command == printCommand) {
+            printer_->print();
+            return true;
+        }
+        return false;
     }
 
   private:
     QPointer<WebPage> page_;
+    QPointer<PagePrinter> printer_;
 };
 
 void record(TraceEntry entry) {
@@ -56,6 +66,7 @@ std::string toText(const QString& unicode) { return fromUtf8(unicode.toStdString
 WebBrowserControl::WebBrowserControl(ControlSite& site, QWidget* parent)
     : site_(site),
       view_(std::make_unique<WebView>(parent)),
+      printer_(&makeQtChild<PagePrinter>(*view_)),
       page_(std::make_unique<WebPage>(
           [this](const QUrl& asking, const QUrl& url) { return passes(asking, url); }, nullptr)) {
     view_->setPage(page_.get());
@@ -74,7 +85,7 @@ std::optional<Variant> WebBrowserControl::invoke(std::int32_t dispid, InvokeKind
     return dispatch(*this, operationTable, dispid, kind, arguments);
 }
 
-bool WebBrowserControl::busy() const { return page_->busy(); }
+bool WebBrowserControl::busy() const { return page_->busy() || printer_->busy(); }
 
 void WebBrowserControl::navigate(const std::string& address, const Variant& flags, const Variant&,
                                  const Variant&, const Variant&) {
@@ -85,7 +96,9 @@ void WebBrowserControl::navigate(const std::string& address, const Variant& flag
 
 void WebBrowserControl::refresh(const Variant&) { page_->reload(); }
 
-std::shared_ptr<Dispatch> WebBrowserControl::document() { return std::make_shared<Document>(*page_); }
+std::shared_ptr<Dispatch> WebBrowserControl::document() {
+    return std::make_shared<Document>(*page_, *printer_);
+}
 
 bool WebBrowserControl::passes(const QUrl& asking, const QUrl& url) {
     const std::string address = addressOfUrl(url);

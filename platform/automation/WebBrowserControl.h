@@ -11,6 +11,7 @@ class QUrl;
 
 namespace platform {
 
+class PagePrinter;
 class WebPage;
 class WebView;
 
@@ -44,7 +45,7 @@ class WebBrowserControl : public Control, public WebPageInspector {
                   const Variant& postData, const Variant& headers);
     /// Loads the page again, whatever the level.
     void refresh(const Variant& level);
-    /// The document: its command 12 copies the selection; command 6, printing, it cannot do, nor any other.
+    /// The document: its command 6 prints the page, 12 copies the selection; it knows no other.
     std::shared_ptr<Dispatch> document();
 
   private:
@@ -53,6 +54,7 @@ class WebBrowserControl : public Control, public WebPageInspector {
 
     ControlSite& site_;
     std::unique_ptr<WebView> view_;
+    PagePrinter* printer_;           // the view's
     std::unique_ptr<WebPage> page_;  // goes before its view, which does not own it
 };
 

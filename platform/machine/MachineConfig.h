@@ -29,11 +29,15 @@ struct DriveConfig {
     bool operator==(const DriveConfig&) const = default;
 };
 
-/// A printer: its page in device pixels and its vertical resolution in pixels per inch.
+/// A printer: its page in device pixels and its vertical resolution in pixels per inch. It prints PDF files,
+/// into the machine folder if no other is given; or it stands for the default printer of the user's desktop,
+/// whose page is then its own. The latter two are not in machine.json.
 struct PrinterConfig {
     int horzres = 4800;
     int vertres = 6800;
     int logpixelsy = 600;
+    std::filesystem::path folder = {};
+    bool desktop = false;
 
     bool operator==(const PrinterConfig&) const = default;
 };

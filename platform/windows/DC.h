@@ -24,6 +24,7 @@ class CBitmap {
   private:
     friend class CDC;
     friend class CBrush;
+    friend class CPrinterDC;
     std::shared_ptr<QImage> image_;
 };
 

@@ -22,6 +22,7 @@ class CDataAnal : public Component<CDataAnal> {
     }
     void CopyAllData() { Method<void>(11); }
     void CopySelection() { Method<void>(12); }
+    void PrintView() { Method<void>(23); }
     std::int16_t CopyGraph() { return Method<std::int16_t>(22); }
 };
 

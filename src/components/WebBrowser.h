@@ -16,7 +16,8 @@ class CWebBrowser : public Component<CWebBrowser> {
 
     /// Flags of a navigation that leaves no trace in the browser's own history and caches.
     static constexpr std::int32_t kNoHistoryNoCache = 14;
-    /// Command of a document's command target.
+    /// Commands of a document's command target.
+    static constexpr std::int32_t kCommandPrint = 6;
     static constexpr std::int32_t kCommandCopy = 12;
 
     void Navigate(const std::string& url, const platform::Variant& flags = {}) {

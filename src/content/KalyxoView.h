@@ -71,8 +71,11 @@ class CKalyxoView : public platform::CView {
     void OnSection();
     template <std::size_t Slot>
     void OnUpdateSection(platform::CCmdUI& ui);
+    void OnPrint();
+    void OnUpdatePrint(platform::CCmdUI& ui);
     void OnCut();
     void OnCopy();
+    void execInDocument(std::int32_t command);
     void OnPaste();
     void OnCopyAllData();
     void OnCopySelected();

@@ -1,7 +1,11 @@
+#include "platform/framework/Resources.h"
+#include "platform/framework/WinApp.h"
 #include "platform/windows/MessageMap.h"
+#include "platform/windows/PrinterDC.h"
 #include "src/app/KalyxoApp.h"
 #include "src/content/KalyxoView.h"
 #include "src/resources/CommandIds.h"
+#include "src/resources/ResourceIds.h"
 
 /// The view's maps, and the commands with their rules.
 namespace kalyxo {
@@ -49,6 +53,8 @@ const MessageMap* CKalyxoView::GetMessageMap() const {
         OnUpdateId<&CKalyxoView::OnUpdateBack>(ID_BACK),
         OnCommandId<&CKalyxoView::GoForward>(ID_FORWARD),
         OnUpdateId<&CKalyxoView::OnUpdateForward>(ID_FORWARD),
+        OnCommandId<&CKalyxoView::OnPrint>(ID_FILE_PRINT),
+        OnUpdateId<&CKalyxoView::OnUpdatePrint>(ID_FILE_PRINT),
         OnCommandId<&CKalyxoView::OnCut>(ID_EDIT_CUT),
         OnUpdateId<&CKalyxoView::OnUpdateCutAndPaste>(ID_EDIT_CUT),
         OnCommandId<&CKalyxoView::OnCopy>(ID_EDIT_COPY),
@@ -85,6 +91,21 @@ void CKalyxoView::OnUpdatePeriodicTable(CCmdUI& ui) { ui.SetCheck(m_mode == Cont
 
 void CKalyxoView::OnUpdateDataAnalyser(CCmdUI& ui) { ui.SetCheck(m_mode == ContentMode::DataAnalyser); }
 
+void CKalyxoView::OnPrint() {
+    if (!HasPrinter()) {
+        AfxMessageBox(LoadString(IDS_NO_PRINTER));
+    } else if (m_mode == ContentMode::DataAnalyser) {
+        m_components.dataAnalyser.PrintView();
+    } else {
+        execInDocument(CWebBrowser::kCommandPrint);
+    }
+}
+
+void CKalyxoView::OnUpdatePrint(CCmdUI& ui) {
+    ui.Enable(m_mode == ContentMode::Page ||
+              (m_mode == ContentMode::DataAnalyser && m_components.dataAnalyser.GetViewMode() != 0));
+}
+
 void CKalyxoView::OnCut() {
     if (focusIsInSelectEdit()) platform::SendMessage(TheApp().m_hwndSelectEdit, WM_CUT);
 }
@@ -102,8 +123,12 @@ void CKalyxoView::OnCopy() {
         platform::SendMessage(TheApp().m_hwndSelectEdit, WM_COPY);
         return;
     }
+    execInDocument(CWebBrowser::kCommandCopy);
+}
+
+void CKalyxoView::execInDocument(std::int32_t command) {
     const std::shared_ptr<Dispatch> document = m_components.browser.Document();
-    if (document) document->exec(CWebBrowser::kCommandCopy);
+    if (document) document->exec(command);
 }
 
 void CKalyxoView::OnUpdateCopy(CCmdUI& ui) { ui.Enable(m_mode == ContentMode::Page); }

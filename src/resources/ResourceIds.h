@@ -16,6 +16,7 @@ inline constexpr platform::UINT IDS_COMPONENT_OUTDATED = 61226;
 inline constexpr platform::UINT IDS_OLDER_VERSION = 61228;
 inline constexpr platform::UINT IDS_NO_PERIODIC_TABLE = 61229;
 inline constexpr platform::UINT IDS_RUN_AGAIN = 61230;
+inline constexpr platform::UINT IDS_NO_PRINTER = 61232;
 
 /// Dialog ids.
 inline constexpr platform::UINT IDD_ABOUT = 100;

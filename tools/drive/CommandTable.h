@@ -27,6 +27,7 @@ std::span<const Command> programCommands();
 std::span<const Command> inputCommands();
 std::span<const Command> frameCommands();
 std::span<const Command> stateCommands();
+std::span<const Command> clipboardCommands();
 std::span<const Command> pictureCommands();
 std::span<const Command> pageCommands();
 std::span<const Command> componentCommands();

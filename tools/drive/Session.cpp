@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "tools/drive/Act.h"
+#include "tools/drive/ClipboardWatch.h"
 #include "tools/drive/CommandTable.h"
 #include "tools/drive/Controls.h"
 #include "tools/drive/Words.h"
@@ -26,7 +27,9 @@ Session::Session(int script, kalyxo::CKalyxoApp& application)
     : m_program(application),
       m_watch([this] { return isBusy(); }, [this] { answer(); }),
       m_reader(
-          script, [this](const std::string& line) { return takeLine(line); }, &Session::endOfScript) {}
+          script, [this](const std::string& line) { return takeLine(line); }, &Session::endOfScript) {
+    watchClipboard(*this);
+}
 
 Session::~Session() = default;
 

@@ -1,8 +1,3 @@
-#include <QClipboard>
-#include <QGuiApplication>
-#include <QImage>
-#include <QMimeData>
-
 #include "src/app/KalyxoApp.h"
 #include "src/content/KalyxoView.h"
 #include "tools/drive/Act.h"
@@ -11,7 +6,7 @@
 #include "tools/drive/Program.h"
 #include "tools/drive/Windows.h"
 
-/// What the program knows, and what is on its clipboard.
+/// What the program knows.
 namespace drive {
 
 using namespace kalyxo;
@@ -80,27 +75,6 @@ void tellApp(Act& act) {
                          {"zoom", text(app.m_versions.zoom)}});
 }
 
-/// The clipboard's formats under the platform's names; others under their own.
-Json formatNames(const QMimeData& held) {
-    Json names = Json::array();
-    if (held.hasText()) names.push_back("CF_TEXT");
-    if (held.hasImage()) names.push_back("CF_BITMAP");
-    for (const QString& format : held.formats()) {
-        if (!format.startsWith("text/plain") && !format.contains("image"))
-            names.push_back(format.toStdString());
-    }
-    return names;
-}
-
-void tellClipboard(Act& act) {
-    const QMimeData* held = QGuiApplication::clipboard()->mimeData();
-    const QImage picture = held == nullptr ? QImage() : qvariant_cast<QImage>(held->imageData());
-    act.set("formats", held == nullptr ? Json::array() : formatNames(*held));
-    act.set("text", held == nullptr ? std::string() : held->text().toStdString());
-    act.set("width", picture.width());
-    act.set("height", picture.height());
-}
-
 template <void (*Tell)(Act&)>
 void whenIdle(Act& act, Program&) {
     act.whenIdle(Tell);
@@ -110,7 +84,6 @@ constexpr Command kCommands[] = {
     {"state", 0, 0, whenIdle<tellState>},
     {"app", 0, 0, whenIdle<tellApp>},
     {"windows", 0, 0, whenIdle<[](Act& act) { act.set("windows", windowTree()); }>},
-    {"clipboard", 0, 0, whenIdle<tellClipboard>},
 };
 
 }  // namespace

@@ -1,0 +1,70 @@
+#include "platform/automation/PagePrinter.h"
+
+#include <QFile>
+#include <QPointer>
+#include <QPrinter>
+#include <QTimer>
+#include <QWebEngineView>
+#include <string>
+
+#include "platform/printing/PrintJob.h"
+#include "platform/text/CodePage1253.h"
+
+namespace platform {
+
+namespace {
+
+/// Pages of a PDF file as the engine writes it, where each page is an object of its own in plain text.
+int countPages(const QByteArray& pdf) {
+    const QByteArray page = "/Type /Page";
+    int count = 0;
+    for (qsizetype at = pdf.indexOf(page); at >= 0; at = pdf.indexOf(page, at + page.size())) {
+        const qsizetype behind = at + page.size();
+        if (behind >= pdf.size() || pdf[behind] != 's') ++count;
+    }
+    return count;
+}
+
+}  // namespace
+
+PagePrinter::PagePrinter(QWebEngineView& view) : QObject(&view), view_(view) {
+    connect(&view, &QWebEngineView::printFinished, this, [this] {
+        printing_ = false;
+        // The engine still has it in hand.
+        QTimer::singleShot(0, this, [this] { printer_.reset(); });
+    });
+}
+
+PagePrinter::~PagePrinter() = default;
+
+void PagePrinter::print() {
+    if (printing_ || printer_ || !hasPrinter()) return;
+    if (nextPrintFile().empty()) {
+        printOnPaper();
+    } else {
+        printToFile();
+    }
+}
+
+void PagePrinter::printToFile() {
+    printing_ = true;
+    const std::string title = fromUtf8(view_.title().toStdString());
+    view_.page()->printToPdf([this, title, alive = QPointer<PagePrinter>(this)](const QByteArray& pdf) {
+        const std::string file = nextPrintFile();
+        QFile out(QString::fromStdString(file));
+        if (!pdf.isEmpty() && out.open(QIODevice::WriteOnly) && out.write(pdf) == pdf.size()) {
+            recordPrint(title, countPages(pdf), file);
+        }
+        if (alive) printing_ = false;
+    });
+}
+
+void PagePrinter::printOnPaper() {
+    printer_ = choosePrinter(*view_.window());
+    if (!printer_) return;
+    printing_ = true;
+    printer_->setDocName(view_.title());
+    view_.print(printer_.get());
+}
+
+}  // namespace platform

@@ -1,0 +1,113 @@
+#include "platform/printing/PrintJob.h"
+
+#include <QMarginsF>
+#include <QPageLayout>
+#include <QPageSize>
+#include <QPdfWriter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <filesystem>
+#include <optional>
+#include <system_error>
+#include <utility>
+
+#include "platform/machine/Machine.h"
+#include "platform/text/CodePage1253.h"
+
+namespace platform {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+const PrinterConfig* pdfPrinter() {
+    const auto& printer = machine().printer();
+    return printer && !printer->desktop ? &*printer : nullptr;
+}
+
+QString unicode(std::string_view text) { return QString::fromStdString(toUtf8(text)); }
+
+std::unique_ptr<QPagedPaintDevice> makePdf(const std::string& file, const PrinterConfig& page,
+                                           std::string_view name) {
+    auto writer = std::make_unique<QPdfWriter>(QString::fromStdString(file));
+    writer->setTitle(unicode(name));
+    writer->setResolution(page.logpixelsy);
+    const auto inches = [&](int pixels) { return static_cast<double>(pixels) / page.logpixelsy; };
+    const QPageSize size(QSizeF(inches(page.horzres), inches(page.vertres)), QPageSize::Inch, QString(),
+                         QPageSize::ExactMatch);
+    writer->setPageLayout(QPageLayout(size, QPageLayout::Portrait, QMarginsF()));
+    return writer;
+}
+
+PrinterConfig pageOf(const QPrinter& printer) {
+    PrinterConfig page;
+    page.horzres = printer.width();
+    page.vertres = printer.height();
+    page.logpixelsy = printer.logicalDpiY();
+    return page;
+}
+
+std::unique_ptr<QPrinter> defaultPrinter() {
+    const QPrinterInfo info = QPrinterInfo::defaultPrinter();
+    return info.isNull() ? nullptr : std::make_unique<QPrinter>(info, QPrinter::HighResolution);
+}
+
+}  // namespace
+
+bool hasPrinter() {
+    const auto& printer = machine().printer();
+    return printer && (!printer->desktop || !QPrinterInfo::defaultPrinter().isNull());
+}
+
+std::unique_ptr<QPrinter> choosePrinter(QWidget& chooser) {
+    std::unique_ptr<QPrinter> printer = defaultPrinter();
+    if (!printer) return nullptr;
+    QPrintDialog dialog(printer.get(), &chooser);
+    return dialog.exec() == QDialog::Accepted ? std::move(printer) : nullptr;
+}
+
+std::unique_ptr<PrintJob> PrintJob::begin(std::string_view name, QWidget* chooser) {
+    if (!hasPrinter()) return nullptr;
+    std::unique_ptr<PrintJob> job;
+    if (const PrinterConfig* pdf = pdfPrinter()) {
+        const std::string file = nextPrintFile();
+        job.reset(new PrintJob(std::string(name), file, *pdf, makePdf(file, *pdf, name)));
+    } else {
+        std::unique_ptr<QPrinter> printer = chooser ? choosePrinter(*chooser) : defaultPrinter();
+        if (!printer) return nullptr;
+        printer->setDocName(unicode(name));
+        const PrinterConfig page = pageOf(*printer);
+        job.reset(new PrintJob(std::string(name), {}, page, std::move(printer)));
+    }
+    return job->painter_.isActive() ? std::move(job) : nullptr;
+}
+
+PrintJob::PrintJob(std::string name, std::string file, const PrinterConfig& page,
+                   std::unique_ptr<QPagedPaintDevice> device)
+    : name_(std::move(name)), file_(std::move(file)), page_(page), device_(std::move(device)) {
+    painter_.begin(device_.get());
+}
+
+PrintJob::~PrintJob() {
+    if (!painter_.isActive()) return;
+    painter_.end();
+    recordPrint(name_, 1, file_);
+}
+
+std::string nextPrintFile() {
+    const PrinterConfig* printer = pdfPrinter();
+    if (!printer) return {};
+    const fs::path folder = printer->folder.empty() ? machine().folder() : printer->folder;
+    std::error_code ignored;
+    for (int number = 1;; ++number) {
+        const fs::path file = folder / ("print-" + std::to_string(number) + ".pdf");
+        if (!fs::exists(file, ignored)) return file.string();
+    }
+}
+
+void recordPrint(std::string_view name, int pages, std::string_view file) {
+    machine().trace().record(TracePrint{std::string(name), pages, fs::path(file).filename().string()});
+}
+
+}  // namespace platform
