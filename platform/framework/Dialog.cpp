@@ -3,11 +3,14 @@
 #include <QPointer>
 #include <algorithm>
 
+#include "platform/framework/DataExchange.h"
 #include "platform/framework/DialogControls.h"
 #include "platform/framework/DialogWidget.h"
 #include "platform/framework/LightPalette.h"
 #include "platform/framework/OwnerWindow.h"
 #include "platform/framework/Resources.h"
+#include "platform/handles/WindowTable.h"
+#include "platform/windows/ControlText.h"
 #include "platform/windows/MessageMap.h"
 
 namespace platform {
@@ -67,6 +70,38 @@ void CDialog::SetDlgItemText(int id, std::string_view text) {
 std::string CDialog::GetDlgItemText(int id) const {
     const QWidget* const control = dialogControl(GetSafeHwnd(), id);
     return control ? controlText(*control) : std::string();
+}
+
+HWND CDialog::GetDlgItem(int id) const {
+    return WindowTable::instance().handleOf(dialogControl(GetSafeHwnd(), id));
+}
+
+void CDialog::EnableDlgItem(int id, bool enable) {
+    if (QWidget* const control = dialogControl(GetSafeHwnd(), id)) control->setEnabled(enable);
+}
+
+bool CDialog::IsDlgItemEnabled(int id) const {
+    const QWidget* const control = dialogControl(GetSafeHwnd(), id);
+    return control && control->isEnabled();
+}
+
+void CDialog::GotoDlgCtrl(int id) {
+    if (QWidget* const control = dialogControl(GetSafeHwnd(), id)) control->setFocus(Qt::OtherFocusReason);
+}
+
+bool CDialog::UpdateData(bool save) {
+    CDataExchange exchange(*this, save);
+    DoDataExchange(exchange);
+    return exchange.valid();
+}
+
+bool CDialog::OnInitDialog() {
+    UpdateData(false);
+    return true;
+}
+
+void CDialog::OnOK() {
+    if (UpdateData(true)) EndDialog(IDOK);
 }
 
 LRESULT CDialog::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {

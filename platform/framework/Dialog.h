@@ -8,6 +8,8 @@
 
 namespace platform {
 
+class CDataExchange;
+
 /// A dialog made from a template of the program's resources. Buttons send their ids as commands; Enter
 /// pushes the button with the focus, else the default button, and Escape or closing the window is the
 /// command IDCANCEL.
@@ -25,16 +27,29 @@ class CDialog : public CWnd {
 
     UINT GetTemplateId() const { return m_nTemplate; }
 
-    /// Both do nothing, or give nothing, when there is no control of this id.
+    /// All of these do nothing, or give nothing, when there is no control of this id.
     void SetDlgItemText(int id, std::string_view text);
     std::string GetDlgItemText(int id) const;
+    /// The control's window, 0 when there is none.
+    HWND GetDlgItem(int id) const;
+    void EnableDlgItem(int id, bool enable);
+    bool IsDlgItemEnabled(int id) const;
+    /// Gives a control the focus.
+    void GotoDlgCtrl(int id);
+
+    /// Carries values from the members to the controls, or back when `save`. False when one is not valid: the
+    /// user has been told and its control has the focus.
+    bool UpdateData(bool save);
 
   protected:
     /// The controls are there and nothing is on show yet. True gives the focus to the first control that
-    /// takes it, false leaves it.
-    virtual bool OnInitDialog() { return true; }
-    virtual void OnOK() { EndDialog(IDOK); }
+    /// takes it, false leaves it. The default carries the values of the members to the controls.
+    virtual bool OnInitDialog();
+    /// The default ends the dialog if the values of the controls are valid.
+    virtual void OnOK();
     virtual void OnCancel() { EndDialog(IDCANCEL); }
+    /// Names the members that belong to controls, by DDX_ and DDV_ calls.
+    virtual void DoDataExchange(CDataExchange&) {}
 
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 

@@ -1,9 +1,12 @@
 #include "platform/framework/DialogControls.h"
 
+#include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
 
 #include "platform/handles/WindowTable.h"
+#include "platform/windows/ControlFactory.h"
+#include "platform/windows/ControlLink.h"
 #include "platform/windows/QtConvert.h"
 
 namespace platform {
@@ -12,48 +15,98 @@ namespace {
 
 WindowTable& table() { return WindowTable::instance(); }
 
-QPushButton* makeButton(const DialogControl& control, QWidget& dialog) {
+QWidget& entered(ControlLink& link) { return *table().widget(link.handle()); }
+
+void sendClicks(QAbstractButton& button) {
+    QObject::connect(&button, &QAbstractButton::clicked, &button,
+                     [&button] { sendCommand(button, BN_CLICKED); });
+}
+
+QWidget& makeButton(const DialogControl& control, QWidget& dialog) {
     auto* const button = new QPushButton(toQt(control.text), &dialog);
     // Enter pushes the button with the focus.
     button->setAutoDefault(true);
     button->setDefault(control.kind == DialogControlKind::defaultPushButton);
-    QObject::connect(button, &QPushButton::clicked, &dialog, [&dialog, button] {
-        const HWND handle = table().handleOf(button);
-        const auto id = static_cast<WPARAM>(table().find(handle)->id);
-        table().send(table().handleOf(&dialog), WM_COMMAND, id & 0xFFFFU, handle);
-    });
-    return button;
+    sendClicks(*button);
+    return entered(ControlLink::enter(*button, "Button", control.id));
 }
 
-QLabel* makeLabel(const DialogControl& control, QWidget& dialog) {
+QWidget& makeCheckBox(const DialogControl& control, QWidget& dialog) {
+    auto* const box = new QCheckBox(toQt(control.text), &dialog);
+    if (control.style & BS_LEFTTEXT) box->setLayoutDirection(Qt::RightToLeft);
+    sendClicks(*box);
+    return entered(ControlLink::enter(*box, "Button", control.id));
+}
+
+QWidget& makeLabel(const DialogControl& control, QWidget& dialog) {
     auto* const label = new QLabel(&dialog);
     // A click on it is one on the dialog.
     label->setAttribute(Qt::WA_TransparentForMouseEvents);
     if (control.kind == DialogControlKind::bitmap) {
         label->setPixmap(QPixmap(QStringLiteral(":/bitmap/%1.png").arg(control.bitmap), "PNG"));
-        return label;
+    } else {
+        label->setTextFormat(Qt::PlainText);
+        label->setText(toQt(control.text));
+        label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+        label->setWordWrap(true);
     }
-    label->setTextFormat(Qt::PlainText);
-    label->setText(toQt(control.text));
-    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    label->setWordWrap(true);
-    return label;
+    return entered(ControlLink::enter(*label, "Static", control.id));
 }
 
-bool isButton(DialogControlKind kind) {
-    return kind == DialogControlKind::pushButton || kind == DialogControlKind::defaultPushButton;
+QWidget& makeControl(const DialogControl& control, QWidget& dialog) {
+    switch (control.kind) {
+        case DialogControlKind::edit:
+            return entered(makeEdit(control.style, dialog, control.id));
+        case DialogControlKind::checkBox:
+            return makeCheckBox(control, dialog);
+        case DialogControlKind::listBox:
+            return entered(makeListBox(control.style, dialog, control.id));
+        case DialogControlKind::comboBox:
+            return entered(makeComboBox(dialog, control.id));
+        case DialogControlKind::listView:
+            return entered(makeListView(control.style, dialog, control.id));
+        case DialogControlKind::treeView:
+            return entered(makeTreeView(dialog, control.id));
+        case DialogControlKind::pushButton:
+        case DialogControlKind::defaultPushButton:
+            return makeButton(control, dialog);
+        case DialogControlKind::staticText:
+        case DialogControlKind::bitmap:
+            break;
+    }
+    return makeLabel(control, dialog);
+}
+
+/// Whether it shows no text that says what it is for.
+bool needsName(DialogControlKind kind) {
+    using enum DialogControlKind;
+    return kind == edit || kind == listBox || kind == comboBox || kind == listView || kind == treeView;
+}
+
+void prepare(const DialogControl& control, QWidget& widget) {
+    QRect place = toQt(dialogPixels(control.rect));
+    if (control.kind == DialogControlKind::bitmap) place.setSize(widget.sizeHint());
+    // Its list drops down from a box of one line, however high the template draws it.
+    if (control.kind == DialogControlKind::comboBox) place.setHeight(widget.sizeHint().height());
+    widget.setGeometry(place);
+    widget.setVisible(control.style & WS_VISIBLE);
+    widget.setEnabled(!(control.style & WS_DISABLED));
+    const bool takesFocus = widget.focusPolicy() != Qt::NoFocus;
+    if (takesFocus && !(control.style & WS_TABSTOP)) widget.setFocusPolicy(Qt::ClickFocus);
 }
 
 }  // namespace
 
-void createControl(const DialogControl& control, QWidget& dialog) {
-    const bool button = isButton(control.kind);
-    QWidget* const widget = button ? static_cast<QWidget*>(makeButton(control, dialog))
-                                   : static_cast<QWidget*>(makeLabel(control, dialog));
-    QRect place = toQt(dialogPixels(control.rect));
-    if (control.kind == DialogControlKind::bitmap) place.setSize(widget->sizeHint());
-    widget->setGeometry(place);
-    table().add({.widget = widget, .className = button ? "Button" : "Static", .id = control.id, .proc = {}});
+void createControls(std::span<const DialogControl> controls, QWidget& dialog) {
+    std::string_view label;
+    for (const DialogControl& control : controls) {
+        QWidget& widget = makeControl(control, dialog);
+        prepare(control, widget);
+        if (control.kind == DialogControlKind::staticText) label = control.text;
+        if (needsName(control.kind)) {
+            widget.setAccessibleName(toQt(control.text.empty() ? label : control.text));
+        }
+    }
 }
 
 std::vector<HWND> dialogControls(HWND dialog) {
@@ -71,17 +124,6 @@ QWidget* dialogControl(HWND dialog, int id) {
         if (table().find(control)->id == id) return table().widget(control);
     }
     return nullptr;
-}
-
-std::string controlText(const QWidget& control) {
-    if (const auto* const button = qobject_cast<const QPushButton*>(&control)) return fromQt(button->text());
-    const auto* const label = qobject_cast<const QLabel*>(&control);
-    return label ? fromQt(label->text()) : std::string();
-}
-
-void setControlText(QWidget& control, std::string_view text) {
-    if (auto* const button = qobject_cast<QPushButton*>(&control)) button->setText(toQt(text));
-    if (auto* const label = qobject_cast<QLabel*>(&control)) label->setText(toQt(text));
 }
 
 void pushDefaultButton(HWND dialog) {

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <string>
-#include <string_view>
+#include <span>
 #include <vector>
 
 #include "platform/framework/DialogTemplate.h"
@@ -11,17 +10,14 @@ class QWidget;
 /// The controls inside a dialog's window.
 namespace platform {
 
-/// Makes a control of a template in the dialog's widget and enters it in the window table.
-void createControl(const DialogControl& control, QWidget& dialog);
+/// Makes the controls of a template in the dialog's widget and enters them in the window table. What shows no
+/// text of its own is named for screen readers after the label before it.
+void createControls(std::span<const DialogControl> controls, QWidget& dialog);
 
 /// The controls of a dialog in the order of its template.
 std::vector<HWND> dialogControls(HWND dialog);
 /// Its first control of this id, or null.
 QWidget* dialogControl(HWND dialog, int id);
-
-/// What stands in a control; a bitmap has no text.
-std::string controlText(const QWidget& control);
-void setControlText(QWidget& control, std::string_view text);
 
 /// Pushes the dialog's default button, if it has one that is enabled; else sends it the command IDOK.
 void pushDefaultButton(HWND dialog);

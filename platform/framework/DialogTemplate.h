@@ -3,6 +3,7 @@
 #include <span>
 #include <string_view>
 
+#include "platform/windows/ControlMessages.h"
 #include "platform/windows/Geometry.h"
 #include "platform/windows/Messages.h"
 
@@ -14,15 +15,28 @@ inline constexpr int IDCANCEL = 2;
 /// The id of controls that nobody asks for.
 inline constexpr int IDC_STATIC = -1;
 
-enum class DialogControlKind { pushButton, defaultPushButton, staticText, bitmap };
+enum class DialogControlKind {
+    pushButton,
+    defaultPushButton,
+    staticText,
+    bitmap,
+    edit,
+    checkBox,
+    listBox,
+    comboBox,
+    listView,
+    treeView,
+};
 
 /// A control of a template.
 struct DialogControl {
     DialogControlKind kind = DialogControlKind::staticText;
     int id = IDC_STATIC;
-    CRect rect;             ///< dialog units; a bitmap takes its own size instead
-    std::string_view text;  ///< code page 1253
-    UINT bitmap = 0;        ///< resource id, for bitmaps only
+    CRect rect{};  ///< dialog units; a bitmap takes its own size instead
+    /// Code page 1253; for kinds that show no text, what screen readers call the control.
+    std::string_view text{};
+    UINT bitmap = 0;  ///< resource id, for bitmaps only
+    DWORD style = WS_VISIBLE | WS_TABSTOP;
 };
 
 /// A dialog as it is drawn up: its controls in the order of the tabulator.

@@ -32,7 +32,7 @@ DialogWidget::DialogWidget(CDialog& owner, const DialogTemplate& drawnUp, QWidge
     setWindowTitle(toQt(drawnUp.caption));
     setPalette(lightPalette());
     setFont(dialogFont());
-    for (const DialogControl& control : drawnUp.controls) createControl(control, *this);
+    createControls(drawnUp.controls, *this);
     const CSize client = dialogPixels(drawnUp.size);
     setFixedSize(client.cx, client.cy);
     // Makes the native window, which knows its frame.
@@ -59,7 +59,7 @@ void DialogWidget::place(const QRect& rect) {
 void DialogWidget::focusFirstControl() {
     for (const HWND control : dialogControls(handle())) {
         QWidget* const widget = WindowTable::instance().widget(control);
-        if (widget->focusPolicy() == Qt::NoFocus || !widget->isEnabled()) continue;
+        if (!(widget->focusPolicy() & Qt::TabFocus) || !widget->isEnabled() || widget->isHidden()) continue;
         widget->setFocus(Qt::OtherFocusReason);
         return;
     }

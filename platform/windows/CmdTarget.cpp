@@ -1,5 +1,7 @@
 #include "platform/windows/CmdTarget.h"
 
+#include "platform/windows/ControlMessages.h"
+
 namespace platform {
 
 namespace {
@@ -19,6 +21,15 @@ const MessageMapEntry* findRow(const MessageMap* map, UINT id, Predicate wanted)
 
 const MessageMapEntry* CCmdTarget::findMessage(UINT message) const {
     return findRow(GetMessageMap(), message, [](const MessageMapEntry& row) { return row.message; });
+}
+
+LRESULT CCmdTarget::handleNotification(NMHDR& notification) {
+    const UINT code = controlCode(notification.idFrom, notification.code);
+    const MessageMapEntry* const handler =
+        findRow(GetMessageMap(), code, [](const MessageMapEntry& row) { return row.notify; });
+    if (!handler) return 0;
+    notification.handled = true;
+    return handler->notify(*this, notification);
 }
 
 bool CCmdTarget::OnCmdMsg(UINT id, CommandMessage what, CCmdUI* ui) {

@@ -10,6 +10,7 @@
 namespace platform {
 
 class CCmdTarget;
+struct NMHDR;
 
 /// State of one command while its enabling rule runs. A command that has a handler starts enabled.
 class CCmdUI {
@@ -26,12 +27,13 @@ class CCmdUI {
     bool checked_ = false;
 };
 
-/// One row of a message map; exactly one of the three functions is set.
+/// One row of a message map; exactly one of the four functions is set.
 struct MessageMapEntry {
-    UINT id;  ///< message number, or command id for commands and their rules
+    UINT id;  ///< message number, or command id for commands and their rules, or controlCode for controls
     LRESULT (*message)(CCmdTarget&, WPARAM, LPARAM) = nullptr;
     void (*command)(CCmdTarget&) = nullptr;
     void (*update)(CCmdTarget&, CCmdUI&) = nullptr;
+    LRESULT (*notify)(CCmdTarget&, NMHDR&) = nullptr;
 };
 
 /// A class's rows and its base class's map.
@@ -72,6 +74,8 @@ class CCmdTarget : public CObject {
   protected:
     /// The row for a window message, or null.
     const MessageMapEntry* findMessage(UINT message) const;
+    /// Hands a control's notification to its handler, if there is one, and marks it as handled.
+    LRESULT handleNotification(NMHDR& notification);
 };
 
 }  // namespace platform

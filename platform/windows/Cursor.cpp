@@ -5,7 +5,9 @@
 
 #include "platform/framework/Resources.h"
 #include "platform/handles/WindowTable.h"
+#include "platform/windows/ControlLink.h"
 #include "platform/windows/CursorShape.h"
+#include "platform/windows/MouseCapture.h"
 #include "platform/windows/QtConvert.h"
 #include "platform/windows/WindowWidget.h"
 
@@ -25,13 +27,30 @@ QCursor loadCursor(UINT id) {
     return QCursor(shape, 0, 0);
 }
 
+/// Cursor resources have ids of 16 bits.
+constexpr UINT noEntryId = 0x10000;
+
+QCursor shapeOf(UINT id) {
+    if (id == 0) return Qt::ArrowCursor;
+    return id == noEntryId ? QCursor(Qt::ForbiddenCursor) : loadCursor(id);
+}
+
 WindowWidget* windowUnderPointer() {
     return WindowWidget::find(WindowTable::instance().handleOf(QApplication::widgetAt(QCursor::pos())));
+}
+
+/// The standard control over which the cursor is wanted, null when that is another window.
+QWidget* controlForCursor() {
+    const ControlLink* const link = ControlLink::of(askedWindow != 0 ? askedWindow : capturingWindow());
+    QWidget* const control = link ? WindowTable::instance().widget(link->handle()) : nullptr;
+    return control ? &mouseWidgetOf(*control) : nullptr;
 }
 
 }  // namespace
 
 CCursor CCursor::arrow() { return {}; }
+
+CCursor CCursor::noEntry() { return resource(noEntryId); }
 
 CCursor CCursor::resource(UINT id) {
     CCursor cursor;
@@ -40,16 +59,23 @@ CCursor CCursor::resource(UINT id) {
 }
 
 void CCursor::Set() const {
+    if (QWidget* const control = controlForCursor()) return control->setCursor(shapeOf(id_));
     WindowWidget* const widget = askedWindow != 0 ? WindowWidget::find(askedWindow) : windowUnderPointer();
     if (!widget || widget->shownCursor == id_) return;
     widget->shownCursor = id_;
-    widget->setCursor(id_ == 0 ? QCursor(Qt::ArrowCursor) : loadCursor(id_));
+    widget->setCursor(shapeOf(id_));
 }
 
 void askForCursor(HWND window) {
     const HWND outer = std::exchange(askedWindow, window);
-    if (WindowTable::instance().send(window, WM_SETCURSOR) == 0) CCursor::arrow().Set();
+    // A standard control has a cursor of its own.
+    const bool set = WindowTable::instance().send(window, WM_SETCURSOR) != 0;
+    if (!set && !ControlLink::of(window)) CCursor::arrow().Set();
     askedWindow = outer;
 }
+
+CWaitCursor::CWaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+
+CWaitCursor::~CWaitCursor() { QGuiApplication::restoreOverrideCursor(); }
 
 }  // namespace platform

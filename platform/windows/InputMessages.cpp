@@ -4,11 +4,11 @@
 #include <QMouseEvent>
 
 #include "platform/handles/WindowTable.h"
+#include "platform/windows/ControlLink.h"
 #include "platform/windows/CursorShape.h"
 #include "platform/windows/MouseCapture.h"
 #include "platform/windows/QtConvert.h"
 #include "platform/windows/VirtualKeys.h"
-#include "platform/windows/WindowWidget.h"
 
 namespace platform {
 
@@ -41,8 +41,7 @@ WPARAM keyStates(const QMouseEvent& event) {
 
 QPoint clientPosition(QPoint global, const QWidget* window) {
     if (!window) return global;
-    const auto* const own = dynamic_cast<const WindowWidget*>(window);
-    return window->mapFromGlobal(global) - (own ? own->clientArea().topLeft() : QPoint());
+    return window->mapFromGlobal(global) - clientAreaOf(*window).topLeft();
 }
 
 std::optional<MSG> mouseMessage(const QMouseEvent& event, HWND window) {

@@ -141,10 +141,10 @@ class MessageFilter : public QObject {
         const WindowTable& table = WindowTable::instance();
         const HWND left = table.nearestHandle(from);
         const HWND entered = table.nearestHandle(to);
-        WindowWidget* const old = WindowWidget::find(table.handleOf(from));
-        if (old) old->send(WM_KILLFOCUS, static_cast<WPARAM>(entered));
-        WindowWidget* const now = WindowWidget::find(table.handleOf(to));
-        if (now) now->send(WM_SETFOCUS, static_cast<WPARAM>(left));
+        const HWND old = table.handleOf(from);
+        if (CWnd::FromHandle(old)) table.send(old, WM_KILLFOCUS, static_cast<WPARAM>(entered));
+        const HWND now = table.handleOf(to);
+        if (CWnd::FromHandle(now)) table.send(now, WM_SETFOCUS, static_cast<WPARAM>(left));
     }
 
     InputRoute route_;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/windows/CmdTarget.h"
+#include "platform/windows/ControlMessages.h"
 #include "platform/windows/DC.h"
 
 /// Builders of message-map and event-sink rows: they check each handler's signature and unpack the
@@ -105,6 +106,22 @@ template <auto Handler>
 constexpr MessageMapEntry OnUpdateId(UINT id) {
     return {.id = id, .update = [](CCmdTarget& target, CCmdUI& ui) {
                 (static_cast<detail::ClassOf<Handler>&>(target).*Handler)(ui);
+            }};
+}
+
+/// A control's command other than a click: `void Handler()`.
+template <auto Handler>
+constexpr MessageMapEntry OnControl(int id, int code) {
+    return OnCommandId<Handler>(controlCode(id, code));
+}
+
+/// A control's notification: `LRESULT Handler(NMHDR&)`, or the structure that goes with the code.
+template <auto Handler>
+constexpr MessageMapEntry OnNotify(int id, int code) {
+    return {.id = controlCode(id, code), .notify = [](CCmdTarget& target, NMHDR& notification) {
+                using Arguments = typename detail::MemberOf<decltype(Handler)>::Arguments;
+                auto& self = static_cast<detail::ClassOf<Handler>&>(target);
+                return (self.*Handler)(static_cast<std::tuple_element_t<0, Arguments>>(notification));
             }};
 }
 

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "platform/handles/WindowTable.h"
+#include "platform/windows/ControlLink.h"
 #include "platform/windows/WindowWidget.h"
 
 namespace platform {
@@ -32,7 +33,17 @@ void announce(HWND handle) {
     for (const HWND child : childrenOf(*window)) announce(child);
 }
 
+/// The standard controls inside go with the window's widget; their objects are told now.
+void detachControls(HWND window) {
+    const WindowTable& table = WindowTable::instance();
+    for (const HWND handle : table.all()) {
+        ControlLink* const link = ControlLink::of(handle);
+        if (link && table.nearestHandle(table.widget(handle)->parentWidget()) == window) link->detach();
+    }
+}
+
 void endTree(WindowWidget& window) {
+    detachControls(window.handle());
     for (const HWND handle : childrenOf(window)) endTree(*WindowWidget::find(handle));
     window.end();
 }

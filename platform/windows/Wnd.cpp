@@ -5,12 +5,32 @@
 
 #include "platform/framework/FrameWnd.h"
 #include "platform/handles/WindowTable.h"
+#include "platform/windows/ControlLink.h"
+#include "platform/windows/ControlText.h"
 #include "platform/windows/MouseCapture.h"
 #include "platform/windows/QtConvert.h"
 #include "platform/windows/SurfaceWidget.h"
 #include "platform/windows/WindowDestruction.h"
 
 namespace platform {
+
+namespace {
+
+/// The widget of any window, a standard control's too.
+QWidget* widgetOf(const CWnd& window) { return WindowTable::instance().widget(window.GetSafeHwnd()); }
+
+/// Ends a standard control.
+bool endControl(QWidget* control) {
+    ControlLink* const link = ControlLink::of(control);
+    if (!link) return false;
+    moveFocusOut(*control);
+    link->detach();
+    control->hide();
+    control->deleteLater();
+    return true;
+}
+
+}  // namespace
 
 CWnd::CWnd() = default;
 
@@ -31,16 +51,17 @@ bool CWnd::CreateWnd(std::string_view text, DWORD style, const CRect& rect, CWnd
 
 bool CWnd::DestroyWindow() {
     WindowWidget* const widget = WindowWidget::of(*this);
-    return widget && destroyWindow(*widget);
+    return widget ? destroyWindow(*widget) : endControl(widgetOf(*this));
 }
 
 CWnd* CWnd::FromHandle(HWND window) {
-    const WindowWidget* const widget = WindowWidget::find(window);
-    return widget ? widget->owner() : nullptr;
+    if (const WindowWidget* const widget = WindowWidget::find(window)) return widget->owner();
+    const ControlLink* const link = ControlLink::of(window);
+    return link ? link->object() : nullptr;
 }
 
 CWnd* CWnd::GetParent() const {
-    const WindowWidget* const widget = WindowWidget::of(*this);
+    const QWidget* const widget = widgetOf(*this);
     return widget ? FromHandle(WindowTable::instance().nearestHandle(widget->parentWidget())) : nullptr;
 }
 
@@ -57,34 +78,51 @@ int CWnd::GetDlgCtrlID() const {
 }
 
 void CWnd::ShowWindow(int showCommand) {
-    if (WindowWidget* const widget = WindowWidget::of(*this)) widget->showAs(showCommand);
+    if (WindowWidget* const widget = WindowWidget::of(*this)) return widget->showAs(showCommand);
+    QWidget* const control = widgetOf(*this);
+    if (!control) return;
+    if (showCommand == SW_HIDE) moveFocusOut(*control);
+    control->setVisible(showCommand != SW_HIDE);
 }
 
 bool CWnd::IsWindowVisible() const {
-    const WindowWidget* const widget = WindowWidget::of(*this);
+    const QWidget* const widget = widgetOf(*this);
     return widget && widget->isVisible();
 }
 
+void CWnd::EnableWindow(bool enable) {
+    if (QWidget* const widget = widgetOf(*this)) widget->setEnabled(enable);
+}
+
+bool CWnd::IsWindowEnabled() const {
+    const QWidget* const widget = widgetOf(*this);
+    return widget && widget->isEnabled();
+}
+
 void CWnd::MoveWindow(const CRect& rect) {
-    if (WindowWidget* const widget = WindowWidget::of(*this)) widget->place(toQt(rect));
+    if (WindowWidget* const widget = WindowWidget::of(*this)) return widget->place(toQt(rect));
+    QWidget* const control = widgetOf(*this);
+    if (!control) return;
+    control->setGeometry(toQt(rect).translated(clientAreaOf(*control->parentWidget()).topLeft()));
 }
 
 CRect CWnd::GetClientRect() const {
-    const WindowWidget* const widget = WindowWidget::of(*this);
-    const QSize size = widget ? widget->clientArea().size() : QSize(0, 0);
+    const QWidget* const widget = widgetOf(*this);
+    const QSize size = widget ? clientAreaOf(*widget).size() : QSize(0, 0);
     return {0, 0, size.width(), size.height()};
 }
 
 CRect CWnd::GetWindowRect() const {
-    const WindowWidget* const widget = WindowWidget::of(*this);
-    return widget ? fromQt(widget->outerRect()) : CRect();
+    if (const WindowWidget* const widget = WindowWidget::of(*this)) return fromQt(widget->outerRect());
+    const QWidget* const control = widgetOf(*this);
+    return control ? fromQt(QRect(control->mapToGlobal(QPoint(0, 0)), control->size())) : CRect();
 }
 
 CPoint CWnd::ScreenToClient(CPoint p) const { return p - ClientToScreen({0, 0}); }
 
 CPoint CWnd::ClientToScreen(CPoint p) const {
-    const WindowWidget* const widget = WindowWidget::of(*this);
-    return widget ? p + fromQt(widget->mapToGlobal(widget->clientArea().topLeft())) : p;
+    const QWidget* const widget = widgetOf(*this);
+    return widget ? p + fromQt(widget->mapToGlobal(clientAreaOf(*widget).topLeft())) : p;
 }
 
 bool CWnd::IsIconic() const {
@@ -98,16 +136,17 @@ bool CWnd::IsZoomed() const {
 }
 
 void CWnd::SetWindowText(std::string_view text) {
-    if (WindowWidget* const widget = WindowWidget::of(*this)) widget->setWindowTitle(toQt(text));
+    if (QWidget* const widget = widgetOf(*this)) setControlText(*widget, text);
 }
 
 std::string CWnd::GetWindowText() const {
-    const WindowWidget* const widget = WindowWidget::of(*this);
-    return widget ? fromQt(widget->windowTitle()) : std::string();
+    const QWidget* const widget = widgetOf(*this);
+    return widget ? controlText(*widget) : std::string();
 }
 
 void CWnd::Invalidate(bool erase) {
-    if (WindowWidget* const widget = WindowWidget::of(*this)) widget->invalidate(erase);
+    if (WindowWidget* const widget = WindowWidget::of(*this)) return widget->invalidate(erase);
+    if (QWidget* const control = widgetOf(*this)) mouseWidgetOf(*control).update();
 }
 
 LRESULT CWnd::SendMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -131,7 +170,7 @@ void CWnd::SetCapture() { captureMouse(m_hWnd); }
 void CWnd::ReleaseCapture() { releaseMouse(); }
 
 void CWnd::SetFocus() {
-    WindowWidget* const widget = WindowWidget::of(*this);
+    QWidget* const widget = widgetOf(*this);
     if (!widget) return;
     if (widget->isVisible() && !widget->isActiveWindow()) widget->activateWindow();
     widget->setFocus(Qt::OtherFocusReason);
@@ -139,12 +178,14 @@ void CWnd::SetFocus() {
 
 LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (const MessageMapEntry* const row = findMessage(message)) return row->message(*this, wParam, lParam);
+    if (message == WM_NOTIFY) return handleNotification(*reinterpret_cast<NMHDR*>(lParam));
     if (message == WM_COMMAND) return OnCommand(wParam, lParam) ? 1 : 0;
     return DefWindowProc(message, wParam, lParam);
 }
 
 bool CWnd::OnCommand(WPARAM wParam, LPARAM) {
-    const auto id = static_cast<UINT>(wParam & 0xFFFFU);
+    // With the code of the control that sent it; menus and buttons have 0.
+    const auto id = static_cast<UINT>(wParam);
     CCmdUI state(id);
     return OnCmdMsg(id, CommandMessage::update, &state) && state.enabled() &&
            OnCmdMsg(id, CommandMessage::execute, nullptr);

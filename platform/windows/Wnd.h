@@ -17,6 +17,7 @@
 namespace platform {
 
 class CFrameWnd;
+class ControlLink;
 class WindowWidget;
 
 /// How a window is about to be created; a handler may change it.
@@ -54,6 +55,9 @@ class CWnd : public CCmdTarget {
 
     void ShowWindow(int showCommand);
     bool IsWindowVisible() const;
+    /// A window that is disabled takes no input.
+    void EnableWindow(bool enable = true);
+    bool IsWindowEnabled() const;
     /// Moves and sizes within the parent (a top-level window: its outer rectangle on the screen).
     void MoveWindow(const CRect& rect);
     /// Area inside borders, caption and menu, with its corner at (0, 0).
@@ -112,6 +116,7 @@ class CWnd : public CCmdTarget {
     std::int32_t KeepControlBlock(std::span<const std::byte> bytes);
 
   private:
+    friend class ControlLink;
     friend class WindowWidget;
     HWND m_hWnd = 0;
 };
@@ -125,16 +130,28 @@ HWND GetFocus();
 /// Sends a message to any window of the window table.
 LRESULT SendMessage(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
-/// A cursor: the arrow or a cursor resource.
+/// A cursor: one of the system's or a cursor resource.
 class CCursor {
   public:
     static CCursor arrow();
+    /// Tells that nothing can be done here.
+    static CCursor noEntry();
     static CCursor resource(UINT id);
-    /// Shows it over the window that is handling WM_SETCURSOR, or under the pointer.
+    /// Shows it over the window that is handling WM_SETCURSOR, else over the one that has captured the mouse,
+    /// else over the one under the pointer.
     void Set() const;
 
   private:
     UINT id_ = 0;  // 0 = the arrow
+};
+
+/// Shows the wait cursor over all windows as long as it lives.
+class CWaitCursor {
+  public:
+    CWaitCursor();
+    ~CWaitCursor();
+    CWaitCursor(const CWaitCursor&) = delete;
+    CWaitCursor& operator=(const CWaitCursor&) = delete;
 };
 
 }  // namespace platform

@@ -32,5 +32,6 @@ std::span<const Command> pictureCommands();
 std::span<const Command> pageCommands();
 std::span<const Command> componentCommands();
 std::span<const Command> dialogCommands();
+std::span<const Command> controlCommands();
 
 }  // namespace drive

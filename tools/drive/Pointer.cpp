@@ -87,8 +87,10 @@ Pointer& Pointer::instance() {
     return pointer;
 }
 
-void Pointer::moveTo(HWND window, CPoint p) {
-    later([position = platform::toQt(clientToScreen(window, p))] { moveCursor(position); });
+void Pointer::moveTo(HWND window, CPoint p) { moveTo(clientToScreen(window, p)); }
+
+void Pointer::moveTo(CPoint screen) {
+    later([position = platform::toQt(screen)] { moveCursor(position); });
 }
 
 void Pointer::press(Qt::MouseButton button) {

@@ -14,6 +14,8 @@ class Pointer {
 
     /// Moves to a point of the window's client area and stays there.
     void moveTo(platform::HWND window, platform::CPoint p);
+    /// The same with a point of the screen.
+    void moveTo(platform::CPoint screen);
     void press(Qt::MouseButton button);
     void release(Qt::MouseButton button);
     /// The second press of a double click.

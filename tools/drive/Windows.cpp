@@ -1,15 +1,12 @@
 #include "tools/drive/Windows.h"
 
-#include <QAbstractButton>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QWidget>
 #include <map>
 
 #include "platform/framework/Dialog.h"
 #include "platform/framework/DialogControls.h"
 #include "platform/handles/WindowTable.h"
+#include "platform/windows/ControlText.h"
 #include "platform/windows/QtConvert.h"
 #include "platform/windows/Wnd.h"
 #include "src/app/MainFrame.h"
@@ -57,15 +54,6 @@ HWND find(ControlName name) {
 
 HWND find(HandleName name) { return table().find(name.handle) == nullptr ? 0 : name.handle; }
 
-/// What stands in a window: a text field's text, a button's label, else the window's own text.
-QString textOf(const QWidget& widget) {
-    if (const auto* edit = qobject_cast<const QLineEdit*>(&widget)) return edit->text();
-    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) return button->text();
-    if (const auto* label = qobject_cast<const QLabel*>(&widget)) return label->text();
-    if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) return combo->currentText();
-    return widget.windowTitle();
-}
-
 /// The window that holds another; dialogs belong to nothing.
 HWND parentOf(HWND window) {
     const QWidget& widget = *table().widget(window);
@@ -82,7 +70,7 @@ Json windowJson(HWND window, const Children& children) {
     for (auto at = first; at != last; ++at) inside.push_back(windowJson(at->second, children));
     return {{"handle", window},
             {"class", text(entry.className)},
-            {"text", textOf(*entry.widget).toStdString()},
+            {"text", text(controlText(*entry.widget))},
             {"id", entry.id},
             {"rect", rectangle(outerRect(window))},
             {"visible", entry.widget->isVisible()},

@@ -1,0 +1,37 @@
+#include "platform/windows/ControlFactory.h"
+
+#include <QComboBox>
+
+#include "platform/windows/ControlLink.h"
+#include "platform/windows/LineEdit.h"
+#include "platform/windows/ListBoxView.h"
+#include "platform/windows/MultiLineEdit.h"
+#include "platform/windows/ReportView.h"
+#include "platform/windows/TreeWidget.h"
+
+namespace platform {
+
+ControlLink& makeEdit(DWORD style, QWidget& parent, int id) {
+    if (style & ES_MULTILINE) return ControlLink::enter(*new MultiLineEdit(parent), "Edit", id);
+    return ControlLink::enter(*new LineEdit(style, parent), "Edit", id);
+}
+
+ControlLink& makeListBox(DWORD style, QWidget& parent, int id) {
+    return ControlLink::enter(*new ListBoxView(style, parent), "ListBox", id);
+}
+
+ControlLink& makeListView(DWORD style, QWidget& parent, int id) {
+    return ControlLink::enter(*new ReportView(style, parent), "ListView", id);
+}
+
+ControlLink& makeTreeView(QWidget& parent, int id) {
+    return ControlLink::enter(*new TreeWidget(parent), "TreeView", id);
+}
+
+ControlLink& makeComboBox(QWidget& parent, int id) {
+    auto* const box = new QComboBox(&parent);
+    QObject::connect(box, &QComboBox::activated, box, [box] { sendCommand(*box, CBN_SELCHANGE); });
+    return ControlLink::enter(*box, "ComboBox", id);
+}
+
+}  // namespace platform

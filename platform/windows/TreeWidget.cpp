@@ -1,0 +1,82 @@
+#include "platform/windows/TreeWidget.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPointer>
+
+#include "platform/windows/Collation.h"
+#include "platform/windows/ControlLink.h"
+#include "platform/windows/VirtualKeys.h"
+
+namespace platform {
+
+namespace {
+
+int placeFor(const QString& text, const QTreeWidgetItem& parent) {
+    int low = 0;
+    int high = parent.childCount();
+    while (low < high) {
+        const int middle = low + (high - low) / 2;
+        if (greekOrder().compare(parent.child(middle)->text(0), text) <= 0) {
+            low = middle + 1;
+        } else {
+            high = middle;
+        }
+    }
+    return low;
+}
+
+}  // namespace
+
+TreeWidget::TreeWidget(QWidget& parent) : QTreeWidget(&parent) {
+    setHeaderHidden(true);
+    setUniformRowHeights(true);
+    setEditTriggers(NoEditTriggers);
+    setDragEnabled(true);
+    header()->setStretchLastSection(false);
+    header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    for (const auto signal : {&QTreeWidget::itemExpanded, &QTreeWidget::itemCollapsed}) {
+        connect(this, signal, this, [this](QTreeWidgetItem* item) { tell(TVN_ITEMEXPANDING, item); });
+    }
+}
+
+QTreeWidgetItem* TreeWidget::insert(const QString& text, QTreeWidgetItem* parent, bool inOrder) {
+    QTreeWidgetItem& above = parent ? *parent : *invisibleRootItem();
+    auto item = std::make_unique<QTreeWidgetItem>(QStringList(text));
+    above.insertChild(inOrder ? placeFor(text, above) : above.childCount(), item.get());
+    return item.release();
+}
+
+void TreeWidget::keyPressEvent(QKeyEvent* event) {
+    NMTVKEYDOWN notification;
+    notification.wVKey = virtualKey(event->key());
+    const QPointer<TreeWidget> self(this);
+    sendNotification(*this, TVN_KEYDOWN, notification);
+    if (!self) return;
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return enter(*event);
+    QTreeWidget::keyPressEvent(event);
+}
+
+void TreeWidget::enter(QKeyEvent& event) {
+    const QPointer<TreeWidget> self(this);
+    event.setAccepted(sendNotification(*this, NM_RETURN));
+    QTreeWidgetItem* const item = self && event.isAccepted() ? currentItem() : nullptr;
+    if (item && item->childCount() > 0) item->setExpanded(!item->isExpanded());
+}
+
+void TreeWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+    const bool onItem = itemAt(event->pos()) != nullptr;
+    QTreeWidget::mouseDoubleClickEvent(event);
+    if (onItem) sendNotification(*this, NM_DBLCLK);
+}
+
+void TreeWidget::startDrag(Qt::DropActions) { tell(TVN_BEGINDRAG, currentItem()); }
+
+void TreeWidget::tell(int code, QTreeWidgetItem* item) {
+    NMTREEVIEW notification;
+    notification.item = reinterpret_cast<HTREEITEM>(item);
+    sendNotification(*this, code, notification);
+}
+
+}  // namespace platform

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QTreeWidget>
+
+#include "platform/windows/ControlMessages.h"
+
+namespace platform {
+
+/// A tree view with lines and buttons, at the root too.
+class TreeWidget : public QTreeWidget {
+  public:
+    explicit TreeWidget(QWidget& parent);
+
+    /// Inserts an item below another, or at the top for null: in alphabetical order, or as the last.
+    QTreeWidgetItem* insert(const QString& text, QTreeWidgetItem* parent, bool inOrder);
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void startDrag(Qt::DropActions actions) override;
+
+  private:
+    void tell(int code, QTreeWidgetItem* item);
+    void enter(QKeyEvent& event);
+};
+
+}  // namespace platform
