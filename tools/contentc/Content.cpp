@@ -57,6 +57,7 @@ Content readContent(const SourceTree& tree, Diagnostics& diagnostics) {
     } else {
         diagnostics.error({(tree.root / "elements.txt").generic_string()}, "missing");
     }
+    content.words = readWords(tree.stopWords, tree.wordForms, diagnostics);
     return content;
 }
 

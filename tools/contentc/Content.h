@@ -8,6 +8,7 @@
 #include "tools/contentc/PageSource.h"
 #include "tools/contentc/SourceTree.h"
 #include "tools/contentc/TermSource.h"
+#include "tools/contentc/WordsSource.h"
 
 namespace contentc {
 
@@ -19,6 +20,7 @@ struct Content {
     std::optional<PageSource> helpPage;
     std::vector<TermSource> terms;
     std::vector<ElementLine> elements;
+    WordsSource words;
 };
 
 /// Parses all sources; what is wrong is reported, and what is too faulty is left out.

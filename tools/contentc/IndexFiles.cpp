@@ -8,6 +8,7 @@
 #include "formats/ElementIndex.h"
 #include "formats/SectionTitles.h"
 #include "formats/TitleLists.h"
+#include "tools/contentc/WordIndex.h"
 
 namespace contentc {
 namespace {
@@ -56,6 +57,14 @@ class IndexFileMaker {
         add(std::string(formats::kBrowseIndexFile), formats::encodeBrowseIndex(index));
     }
 
+    void addWordSearch() {
+        const WordIndex index = makeWordIndex(m_content);
+        add(std::string(formats::kWordIndexFile), formats::encodeWordIndex(index.words));
+        add(std::string(formats::kAlternativesFile), formats::encodeAlternatives(index.alternatives));
+        add(std::string(formats::kFirstLettersFile), formats::encodeFirstLetters(index.firstLetters));
+        add(std::string(formats::kOccurrencesFile), formats::encodeOccurrences(index.occurrences));
+    }
+
   private:
     // The periodic table opens the page of an element by its page id, even where the page is an entry.
     void addElementTitles(std::vector<formats::SectionTitleRecord>& records) const {
@@ -101,6 +110,7 @@ void addIndexFiles(const Content& content, OutputFiles& outputs, Diagnostics& di
     maker.addTitleLists();
     maker.addElementIndex();
     maker.addBrowseIndex();
+    maker.addWordSearch();
 }
 
 }  // namespace contentc

@@ -6,7 +6,7 @@
 namespace contentc {
 
 /// Adds the index files of checked content: the sections' page titles, the title lists, the periodic table's
-/// index and the browse selection's index.
+/// index, the browse selection's index and the files of the word search.
 void addIndexFiles(const Content& content, OutputFiles& outputs, Diagnostics& diagnostics);
 
 }  // namespace contentc

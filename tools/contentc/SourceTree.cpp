@@ -86,6 +86,8 @@ SourceTree readSourceTree(const SourceFolders& folders, Diagnostics& diagnostics
     tree.moleculeTemplate = reader.readFileIfPresent(root / "templates/molecule.html");
     tree.style = reader.readFileIfPresent(root / "style.css");
     tree.elements = reader.readFileIfPresent(root / "elements.txt");
+    tree.stopWords = reader.readFileIfPresent(root / "words/stop.txt");
+    tree.wordForms = reader.readFileIfPresent(root / "words/forms.txt");
     tree.sections = reader.readSections(root / "pages");
     tree.terms = reader.readFilesStrictly(root / "glossary", ".term");
     tree.dataSets = reader.readFilesStrictly(root / "datasets", ".data");

@@ -38,6 +38,8 @@ struct SourceTree {
     std::optional<SourceFile> moleculeTemplate;
     std::optional<SourceFile> style;
     std::optional<SourceFile> elements;
+    std::optional<SourceFile> stopWords;
+    std::optional<SourceFile> wordForms;
     std::vector<SectionFolder> sections;
     /// The data analyser's data sets.
     std::vector<SourceFile> dataSets;

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <set>
+#include <string>
+#include <vector>
+
+#include "formats/WordRecords.h"
+#include "tools/contentc/Content.h"
+
+namespace contentc {
+
+/// The records of the word search.
+struct WordIndex {
+    /// Ascending by bytes.
+    std::vector<std::string> words;
+    /// Groups of two words and more, numbered from 1 in the order of their first words.
+    std::vector<formats::AlternativeRecord> alternatives;
+    std::vector<formats::FirstLetterRecord> firstLetters;
+    /// Each word once for each page, in the order of sections and pages.
+    std::vector<formats::OccurrenceRecord> occurrences;
+};
+
+/// Indexes the words of all section pages that are no stop words. Words too long for a record are left out.
+WordIndex makeWordIndex(const Content& content);
+
+/// Groups forms of one word: those that the author put together, and otherwise those of one stem. Each group
+/// in ascending order.
+std::vector<std::vector<std::string>> groupForms(const std::set<std::string>& words,
+                                                 const std::vector<std::vector<std::string>>& formGroups);
+
+}  // namespace contentc
