@@ -134,7 +134,7 @@ TEST_F(BrowserMachine, CopiesTheSelectionThroughItsDocument) {
     run(200);
     EXPECT_TRUE(document->exec(12));
     EXPECT_TRUE(runUntil([] { return QGuiApplication::clipboard()->text() == QStringLiteral("Χημεία"); }));
-    EXPECT_FALSE(document->exec(6));
+    EXPECT_FALSE(document->exec(7));
     closeBrowser();
     EXPECT_FALSE(document->exec(12)) << "the page is gone";
 }
