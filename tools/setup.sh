@@ -6,6 +6,8 @@ PACKAGES=(
     nlohmann-json3-dev libstemmer-dev libgtest-dev libgmock-dev libbenchmark-dev
     fonts-liberation librsvg2-bin ffmpeg bodr clang-format
 )
+# npm fetches a library of the molecule viewer; one that is there already will do, from wherever it came.
+command -v npm >/dev/null || PACKAGES+=(npm)
 
 say() { printf '\n== %s\n' "$*"; }
 

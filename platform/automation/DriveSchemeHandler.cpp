@@ -2,6 +2,7 @@
 
 #include <QBuffer>
 #include <QFile>
+#include <QFileInfo>
 #include <QMap>
 #include <QUrl>
 #include <QWebEngineUrlRequestJob>
@@ -9,7 +10,7 @@
 
 #include "platform/automation/DosUrl.h"
 #include "platform/automation/FileType.h"
-#include "platform/automation/PluginTypes.h"
+#include "platform/automation/FrameAnswer.h"
 #include "platform/machine/Machine.h"
 #include "platform/text/CodePage1253.h"
 
@@ -26,15 +27,12 @@ void reply(QWebEngineUrlRequestJob* job, const QByteArray& type, std::unique_ptr
     job->reply(type, given);
 }
 
-std::unique_ptr<QIODevice> openForReading(std::unique_ptr<QIODevice> device) {
-    return device->open(QIODevice::ReadOnly) ? std::move(device) : nullptr;
-}
-
-std::unique_ptr<QIODevice> openFile(const std::string& dosPath) {
-    if (!hasMachine() || machine().files().isFolder(dosPath)) return nullptr;
-    const auto native = machine().files().nativePath(dosPath);
-    if (!native) return nullptr;
-    return openForReading(std::make_unique<QFile>(QString::fromStdString(native->string())));
+/// Where the file lies; nothing when there is none.
+std::optional<QString> nativeFile(const std::string& dosPath) {
+    const auto native = hasMachine() ? machine().files().nativePath(dosPath) : std::nullopt;
+    if (!native) return std::nullopt;
+    const QString path = QString::fromStdString(native->string());
+    return QFileInfo(path).isFile() ? std::optional(path) : std::nullopt;
 }
 
 void replyMissingPage(QWebEngineUrlRequestJob* job, const std::string& dosPath) {
@@ -63,6 +61,16 @@ bool isFrame(QWebEngineUrlRequestJob& job) {
     return job.requestHeaders().value(DriveSchemeHandler::frameHeader) == "1";
 }
 
+void replyFile(QWebEngineUrlRequestJob* job, const std::string& dosPath, const QString& native) {
+    auto file = openForReading(std::make_unique<QFile>(native));
+    if (!file) {
+        job->fail(QWebEngineUrlRequestJob::RequestFailed);
+        return;
+    }
+    const QByteArray type = contentType(dosPath, *file);
+    reply(job, type, std::move(file));
+}
+
 }  // namespace
 
 void DriveSchemeHandler::requestStarted(QWebEngineUrlRequestJob* job) {
@@ -72,22 +80,20 @@ void DriveSchemeHandler::requestStarted(QWebEngineUrlRequestJob* job) {
         return;
     }
     const auto path = dosPathOfUrl(url);
-    auto file = path ? openFile(*path) : nullptr;
+    const auto native = path ? nativeFile(*path) : std::nullopt;
     const bool frame = isFrame(*job);
-    if (!file && frame) {
-        replyMissingPage(job, path.value_or(addressOfUrl(url)));
-    } else if (!file) {
-        job->fail(QWebEngineUrlRequestJob::UrlNotFound);
-    } else if (const std::string* viewer = PluginTypes::instance().pageFor(*path); viewer && frame) {
-        auto page = openForReading(std::make_unique<QFile>(QString::fromStdString(*viewer)));
-        if (page) {
-            reply(job, "text/html;charset=utf-8", std::move(page));
+    if (auto special = path ? frameAnswer(url, *path, native, frame) : std::nullopt) {
+        if (special->device) {
+            reply(job, special->type, std::move(special->device));
         } else {
-            job->fail(QWebEngineUrlRequestJob::RequestFailed);
+            job->fail(QWebEngineUrlRequestJob::UrlNotFound);
         }
+    } else if (native) {
+        replyFile(job, *path, *native);
+    } else if (frame) {
+        replyMissingPage(job, path.value_or(addressOfUrl(url)));
     } else {
-        const QByteArray type = contentType(*path, *file);
-        reply(job, type, std::move(file));
+        job->fail(QWebEngineUrlRequestJob::UrlNotFound);
     }
 }
 

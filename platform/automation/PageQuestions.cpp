@@ -24,6 +24,11 @@ constexpr std::chrono::seconds answerTime{5};
 /// How long a click may be on its way: the engine drops those that come before a page's first picture.
 constexpr std::chrono::seconds clickTime{1};
 constexpr int clickTries = 5;
+constexpr std::chrono::seconds pictureTime{2};
+constexpr std::chrono::milliseconds lookAgain{5};
+
+/// Pages that the engine makes itself have no such script.
+const QString placesScript = QStringLiteral("globalThis.pagePlugins?.places() ?? []");
 
 /// Calls `ask` with a function that takes the answer, and waits for it.
 template <class Answer, class Ask>
@@ -77,6 +82,17 @@ std::optional<CRect> rectangle(const QVariant& value, double scale) {
     return CRect{side(0), side(1), side(2), side(3)};
 }
 
+std::vector<EmbeddedFrame> readFrames(const QVariant& value, double scale) {
+    std::vector<EmbeddedFrame> frames;
+    for (const QVariant& one : value.toList()) {
+        const QVariantList numbers = one.toList();
+        if (const auto place = rectangle(numbers.mid(1), scale)) {
+            frames.push_back({numbers.first().toInt(), *place});
+        }
+    }
+    return frames;
+}
+
 }  // namespace
 
 QString textOf(QWebEnginePage& page) {
@@ -109,15 +125,31 @@ void clickAndAwait(QWebEnginePage& page, const std::function<void()>& click) {
     }
 }
 
-std::vector<CRect> embeddedFramesOf(QWebEnginePage& page) {
-    static constexpr auto script = QLatin1StringView(
-        "[...document.querySelectorAll('embed')].map(e => e.getBoundingClientRect())"
-        ".map(b => [b.left, b.top, b.right, b.bottom])");
-    std::vector<CRect> frames;
-    for (const QVariant& value : evaluate(page, script).toList()) {
-        if (const auto frame = rectangle(value, page.zoomFactor())) frames.push_back(*frame);
+std::vector<EmbeddedFrame> embeddedFramesOf(QWebEnginePage& page) {
+    return readFrames(evaluate(page, placesScript), page.zoomFactor());
+}
+
+void askEmbeddedFramesOf(QWebEnginePage& page,
+                         const std::function<void(const std::vector<EmbeddedFrame>&)>& answer) {
+    page.runJavaScript(placesScript, QWebEngineScript::ApplicationWorld,
+                       [answer, alive = QPointer(&page)](const QVariant& value) {
+                           if (alive) answer(readFrames(value, alive->zoomFactor()));
+                       });
+}
+
+QByteArray pictureOfEmbedded(QWebEnginePage& page, int number) {
+    const QPointer<QWebEnginePage> alive(&page);
+    const QDeadlineTimer limit(pictureTime);
+    evaluate(page, QStringLiteral("globalThis.pagePlugins?.ask(%1)").arg(number));
+    while (alive && !limit.hasExpired()) {
+        const QByteArray url =
+            evaluate(page, QStringLiteral("globalThis.pagePlugins?.picture(%1)").arg(number))
+                .toString()
+                .toLatin1();
+        if (!url.isEmpty()) return QByteArray::fromBase64(url.sliced(url.indexOf(',') + 1));
+        await<bool>([](auto answer) { QTimer::singleShot(lookAgain, [answer] { answer(true); }); });
     }
-    return frames;
+    return {};
 }
 
 }  // namespace platform

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <functional>
 #include <optional>
@@ -26,7 +27,20 @@ std::optional<CRect> findLinkOf(QWebEnginePage& page, std::string_view linkText)
 /// page asks for in answer has been asked for by then.
 void clickAndAwait(QWebEnginePage& page, const std::function<void()>& click);
 
+/// The frame of an embedded file: the number that the page's script gave it (see EmbedScript), and its place.
+struct EmbeddedFrame {
+    int number = 0;
+    CRect place;
+};
+
 /// The frames of embedded files, in the order of the page.
-std::vector<CRect> embeddedFramesOf(QWebEnginePage& page);
+std::vector<EmbeddedFrame> embeddedFramesOf(QWebEnginePage& page);
+/// The same without waiting; nothing is called when the page goes before.
+void askEmbeddedFramesOf(QWebEnginePage& page,
+                         const std::function<void(const std::vector<EmbeddedFrame>&)>& answer);
+
+/// The picture that the viewer of an embedded file gives of itself, as PNG; empty when it gives none within
+/// two seconds.
+QByteArray pictureOfEmbedded(QWebEnginePage& page, int number);
 
 }  // namespace platform

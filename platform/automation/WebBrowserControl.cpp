@@ -2,11 +2,14 @@
 
 #include <QPointer>
 #include <QUrl>
+#include <algorithm>
 
 #include "platform/automation/BrowserPolicy.h"
+#include "platform/automation/ControlLibrary.h"
 #include "platform/automation/DosUrl.h"
 #include "platform/automation/PagePrinter.h"
 #include "platform/automation/PageQuestions.h"
+#include "platform/automation/PluginWindows.h"
 #include "platform/automation/QtChild.h"
 #include "platform/automation/WebPage.h"
 #include "platform/automation/WebView.h"
@@ -70,6 +73,9 @@ WebBrowserControl::WebBrowserControl(ControlSite& site, QWidget* parent)
       page_(std::make_unique<WebPage>(
           [this](const QUrl& asking, const QUrl& url) { return passes(asking, url); }, nullptr)) {
     view_->setPage(page_.get());
+    page_->setCommandHandler(
+        [this](const std::string& component, LPARAM command) { sendCommand(component, command); });
+    plugins_ = std::make_unique<PluginWindows>(*view_, *page_);
 }
 
 WebBrowserControl::~WebBrowserControl() = default;
@@ -85,7 +91,7 @@ std::optional<Variant> WebBrowserControl::invoke(std::int32_t dispid, InvokeKind
     return dispatch(*this, operationTable, dispid, kind, arguments);
 }
 
-bool WebBrowserControl::busy() const { return page_->busy() || printer_->busy(); }
+bool WebBrowserControl::busy() const { return page_->busy() || plugins_->busy() || printer_->busy(); }
 
 void WebBrowserControl::navigate(const std::string& address, const Variant& flags, const Variant&,
                                  const Variant&, const Variant&) {
@@ -109,6 +115,16 @@ bool WebBrowserControl::passes(const QUrl& asking, const QUrl& url) {
     if (!cancel && BrowserPolicy::instance().admit(addressOfUrl(asking), address)) return true;
     record(TraceRefused{address});
     return false;
+}
+
+void WebBrowserControl::sendCommand(const std::string& component, LPARAM command) {
+    const ControlModule* module = loadRegisteredClass(component);
+    if (!module) return;
+    const auto commands = module->pagePart.commands;
+    if (std::find(commands.begin(), commands.end(), command) == commands.end()) return;
+    const WindowTable& windows = WindowTable::instance();
+    const QWidget* own = windows.widget(windows.nearestHandle(view_.get()));
+    if (own) site_.sendMessage(windows.nearestHandle(own->parentWidget()), WM_COMMAND, 0, command);
 }
 
 int WebBrowserControl::controlId() const {
@@ -137,6 +153,14 @@ bool WebBrowserControl::clickLink(std::string_view linkText) {
     return true;
 }
 
-std::vector<CRect> WebBrowserControl::embeddedFrames() { return embeddedFramesOf(*page_); }
+std::vector<CRect> WebBrowserControl::embeddedFrames() {
+    std::vector<CRect> places;
+    for (const EmbeddedFrame& frame : embeddedFramesOf(*page_)) places.push_back(frame.place);
+    return places;
+}
+
+void WebBrowserControl::updatePluginWindows() { plugins_->update(); }
+
+std::string WebBrowserControl::pluginPicture(HWND window) { return plugins_->picture(window).toStdString(); }
 
 }  // namespace platform

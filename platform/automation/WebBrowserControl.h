@@ -12,6 +12,7 @@ class QUrl;
 namespace platform {
 
 class PagePrinter;
+class PluginWindows;
 class WebPage;
 class WebView;
 
@@ -38,6 +39,8 @@ class WebBrowserControl : public Control, public WebPageInspector {
     std::optional<CRect> findLink(std::string_view linkText) override;
     bool clickLink(std::string_view linkText) override;
     std::vector<CRect> embeddedFrames() override;
+    void updatePluginWindows() override;
+    std::string pluginPicture(HWND window) override;
 
     /// Goes to an address after raising `BeforeNavigate`. The flags are recorded; frame, post data and
     /// headers are not used.
@@ -50,12 +53,14 @@ class WebBrowserControl : public Control, public WebPageInspector {
 
   private:
     bool passes(const QUrl& asking, const QUrl& url);
+    void sendCommand(const std::string& component, LPARAM command);
     int controlId() const;
 
     ControlSite& site_;
     std::unique_ptr<WebView> view_;
     PagePrinter* printer_;           // the view's
     std::unique_ptr<WebPage> page_;  // goes before its view, which does not own it
+    std::unique_ptr<PluginWindows> plugins_;
 };
 
 }  // namespace platform

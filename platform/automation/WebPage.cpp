@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QMetaObject>
 #include <QPointer>
+#include <QUrlQuery>
 #include <QWebEngineNewWindowRequest>
 #include <QWebEngineScript>
 #include <chrono>
@@ -79,11 +80,26 @@ void WebPage::startLoading() {
 }
 
 bool WebPage::acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) {
+    if (!isMainFrame && isCommand(url)) return false;
     if (!isMainFrame) return BrowserPolicy::instance().admit(addressOfUrl(this->url()), addressOfUrl(url));
     // `load` and `reload` are ours.
     if (type == NavigationTypeTyped || type == NavigationTypeReload) return true;
     requestLater(url);
     return false;
+}
+
+bool WebPage::isCommand(const QUrl& url) {
+    const QUrlQuery query(url);
+    const std::string component = query.queryItemValue(QStringLiteral("component")).toStdString();
+    bool isNumber = false;
+    const int command = query.queryItemValue(QStringLiteral("command")).toInt(&isNumber);
+    if (component.empty() || !isNumber) return false;
+    const auto send = [this, component, command] {
+        if (commandHandler_) commandHandler_(component, command);
+    };
+    // Not inside the engine's work: the command may open a dialog.
+    QMetaObject::invokeMethod(this, send, Qt::QueuedConnection);
+    return true;
 }
 
 void WebPage::requestLater(const QUrl& url) {

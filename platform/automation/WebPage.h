@@ -5,6 +5,10 @@
 #include <QWebEnginePage>
 #include <functional>
 #include <memory>
+#include <string>
+#include <utility>
+
+#include "platform/windows/Messages.h"
 
 namespace platform {
 
@@ -21,7 +25,12 @@ class WebPage : public QWebEnginePage {
     /// the program that wants it. The gate may run an event loop.
     using Gate = std::function<bool(const QUrl& asking, const QUrl& url)>;
 
+    /// Takes a command that a component's part of the page sends (see PagePart): class id and number.
+    using CommandHandler = std::function<void(const std::string& classId, LPARAM command)>;
+
     WebPage(Gate gate, QObject* parent);
+
+    void setCommandHandler(CommandHandler handler) { commandHandler_ = std::move(handler); }
 
     /// Asks the gate at once, and goes to the address if it lets it pass.
     void navigate(const QUrl& url);
@@ -39,6 +48,7 @@ class WebPage : public QWebEnginePage {
 
   private:
     void requestLater(const QUrl& url);
+    bool isCommand(const QUrl& url);
     void go(const QUrl& asking, const QUrl& url);
     void finished();
     void startLoading();
@@ -49,6 +59,7 @@ class WebPage : public QWebEnginePage {
     void giveUpWaiting();
 
     Gate gate_;
+    CommandHandler commandHandler_;
     QTimer arrivalLimit_;  // runs while another page than that on show is expected
     int tries_ = 0;        // how often the load asked for last may still be asked for again
     QTimer copyLimit_;     // runs while the engine copies

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/windows/Geometry.h"
+#include "platform/windows/Messages.h"
 
 namespace platform {
 
@@ -32,6 +33,13 @@ class WebPageInspector {
     /// The frames that embedded files are shown in, as laid out, in the control's client area and in the
     /// order of the page.
     virtual std::vector<CRect> embeddedFrames() = 0;
+
+    /// Brings the windows of those frames (class "Plugin", children of the control's window) to where the
+    /// frames are now.
+    virtual void updatePluginWindows() = 0;
+    /// The picture that the viewer in such a window gives of itself, whatever covers it: a PNG file; of a
+    /// video without its control strip. Empty when the window is none or has no picture.
+    virtual std::string pluginPicture(HWND window) = 0;
 };
 
 }  // namespace platform

@@ -17,6 +17,9 @@ class CBitmap {
   public:
     /// Loads bitmap resource `id`; false when there is none.
     bool LoadBitmap(UINT id);
+    /// Takes the picture that a page's plug-in gives of itself: a molecule's whole window, a video's without
+    /// the control strip. False when the window is no plug-in's, or it has no picture to give.
+    bool LoadPlugin(HWND window);
     bool loaded() const { return image_ != nullptr; }
     int Width() const;
     int Height() const;

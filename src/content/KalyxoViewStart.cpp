@@ -43,8 +43,13 @@ bool CKalyxoView::componentsAreUpToDate() {
 
 void CKalyxoView::readyBrowser() {
     BrowserPolicy::instance().setAllowedFolders({TheApp().m_strDataFolder, cacheLocation().folder});
-    for (const char* video : {"webm", "mp4"}) PluginTypes::instance().add(video, ":/plugins/video.html");
-    PluginTypes::instance().add("mol", ":/plugins/molecule.html");
+    PluginTypes& types = PluginTypes::instance();
+    for (const char* video : {"webm", "mp4", "m4v", "ogv", "avi", "mov", "mpg", "mpeg"}) {
+        types.add(video, ":/plugins/video.html");
+    }
+    for (const char* molecule : {"mol", "sdf", "xyz", "pdb", "ent", "cml"}) {
+        types.add(molecule, ":/plugins/molecule.html");
+    }
 }
 
 CacheLocation CKalyxoView::cacheLocation() const {

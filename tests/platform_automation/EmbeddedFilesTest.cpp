@@ -124,9 +124,16 @@ TEST_F(BrowserMachine, SaysThatAVideoCannotBeShown) {
 }
 
 TEST_F(BrowserMachine, SaysThatAnEmbeddedFileIsMissing) {
-    write("D:\\a.htm", embedding("nix.mol WIDTH=340 HEIGHT=290"));
-    open("D:\\a.htm");
-    EXPECT_EQ(text(), "Η σελίδα δεν βρέθηκε D:\\nix.mol");
+    const std::vector<std::pair<std::string, std::string>> missing = {
+        {"nix.mol", "Το αρχείο του μορίου δεν βρέθηκε."},
+        {"nix.webm", "Το βίντεο δεν βρέθηκε."},
+        {"nix.avi", "Το βίντεο δεν βρέθηκε."},
+    };
+    for (const auto& [file, message] : missing) {
+        write("D:\\a.htm", embedding(file + " WIDTH=340 HEIGHT=290"));
+        open("D:\\a.htm");
+        EXPECT_TRUE(runUntil([&] { return text() == message; })) << file << ": " << text();
+    }
 }
 
 }  // namespace

@@ -10,7 +10,8 @@ int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     platform::prepareProcess();
     platform::PluginTypes::instance().add("mol", ":/plugins/molecule.html");
-    platform::PluginTypes::instance().add("webm", ":/plugins/video.html");
+    for (const char* video : {"webm", "avi"})
+        platform::PluginTypes::instance().add(video, ":/plugins/video.html");
     const QApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }

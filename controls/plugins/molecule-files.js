@@ -1,0 +1,166 @@
+'use strict';
+
+// Reads molecule files. A molecule is {atoms, bonds}: an atom has `element`, `at` ([x, y, z] in ångström) and may have
+// `note` (where it belongs); a bond has `a`, `b` (indexes of atoms) and `order` (1, 2, 3; 4 is aromatic). Each reader
+// throws an Error when the file is not what it should be.
+
+const mostAtoms = 200000;
+
+const linesOf = text => text.split(/\r\n|\r|\n/);
+const field = (line, from, to) => line.slice(from, to).trim();
+
+function number(text) {
+  const value = (text ?? '') === '' ? NaN : Number(text);
+  if (!Number.isFinite(value)) throw new Error('not a number: ' + text);
+  return value;
+}
+
+function checked({ atoms, bonds }) {
+  if (atoms.length < 1 || atoms.length > mostAtoms) throw new Error('no molecule');
+  for (const { a, b } of bonds) if (!atoms[a] || !atoms[b] || a === b) throw new Error('no such atom');
+  return { atoms, bonds };
+}
+
+// ---- MOL and SDF; of several molecules in a file the first ----
+
+function readMol(text) {
+  const lines = linesOf(text);
+  const counts = lines[3] ?? '';
+  if (/V3000/.test(counts)) return readV3000(lines);
+  const atomCount = number(field(counts, 0, 3)), bondCount = number(field(counts, 3, 6));
+  if (atomCount < 1 || bondCount < 0 || lines.length < 4 + atomCount + bondCount) throw new Error('cut short');
+  return {
+    atoms: lines.slice(4, 4 + atomCount).map(line => ({
+      at: [number(field(line, 0, 10)), number(field(line, 10, 20)), number(field(line, 20, 30))],
+      element: symbolOf(field(line, 31, 34)) || field(line, 31, 34),
+    })),
+    bonds: lines.slice(4 + atomCount, 4 + atomCount + bondCount).map(line => {
+      const [a, b, order] = [field(line, 0, 3), field(line, 3, 6), field(line, 6, 9)].map(number);
+      return { a: a - 1, b: b - 1, order };
+    }),
+  };
+}
+
+function readV3000(lines) {
+  const atoms = [], bonds = [], indexes = new Map();
+  let block = '', ended = false;
+  for (const line of lines) {
+    if (line.startsWith('M  END')) { ended = true; break; }
+    if (!line.startsWith('M  V30 ')) continue;
+    const words = line.slice(7).trim().split(/\s+/);
+    if (words[0] === 'BEGIN') block = words[1];
+    else if (words[0] === 'END') block = '';
+    else if (block === 'ATOM') {
+      indexes.set(words[0], atoms.length);
+      atoms.push({ element: symbolOf(words[1]) || words[1], at: words.slice(2, 5).map(number) });
+      if (words.length < 5) throw new Error('cut short');
+    } else if (block === 'BOND') {
+      bonds.push({ a: indexes.get(words[2]), b: indexes.get(words[3]), order: number(words[1]) });
+    }
+  }
+  if (!ended) throw new Error('cut short');
+  return { atoms, bonds };
+}
+
+// ---- files that tell no bonds, or not all ----
+
+/// Bonds between atoms that are as near to each other as their radii say.
+function bondsByDistance(atoms) {
+  const slack = 0.40, least = 0.4, size = 2.6;
+  const boxes = new Map();
+  const key = at => at.map(v => Math.floor(v / size));
+  const bonds = [];
+  atoms.forEach(({ at, element }, i) => {
+    const [x, y, z] = key(at);
+    for (let dx = -1; dx <= 1; ++dx) for (let dy = -1; dy <= 1; ++dy) for (let dz = -1; dz <= 1; ++dz) {
+      for (const j of boxes.get([x + dx, y + dy, z + dz].join()) ?? []) {
+        const other = atoms[j];
+        if (element === 'H' && other.element === 'H' && atoms.length > 2) continue;
+        const far = Math.hypot(at[0] - other.at[0], at[1] - other.at[1], at[2] - other.at[2]);
+        const most = Math.min(lookOf(element).covalent + lookOf(other.element).covalent + slack, size);
+        if (far > least && far < most) bonds.push({ a: j, b: i, order: 1 });
+      }
+    }
+    const box = [x, y, z].join();
+    if (boxes.has(box)) boxes.get(box).push(i); else boxes.set(box, [i]);
+  });
+  return bonds;
+}
+
+function readXyz(text) {
+  const lines = linesOf(text);
+  const count = number((lines[0] ?? '').trim());
+  if (count < 1 || lines.length < 2 + count) throw new Error('cut short');
+  const atoms = lines.slice(2, 2 + count).map(line => {
+    const [element, x, y, z] = line.trim().split(/\s+/);
+    const isNumber = /^\d+$/.test(element);
+    const symbol = isNumber ? Object.keys(elementNames)[Number(element) - 1] : symbolOf(element ?? '');
+    if (!symbol) throw new Error('no element: ' + element);
+    return { element: symbol, at: [x, y, z].map(number) };
+  });
+  return { atoms, bonds: bondsByDistance(atoms) };
+}
+
+/// An atom's element by its own column or, in older files, by its name, whose symbol ends in the second column.
+function elementOfPdb(line) {
+  const own = symbolOf(field(line, 76, 78).replace(/[^A-Za-z]/g, ''));
+  const name = line.slice(12, 16);
+  return own || symbolOf(/^[A-Z]{2}/.test(name.slice(0, 2)) && !/^H/.test(name) ? name.slice(0, 2) : '') ||
+    symbolOf(name.replace(/[^A-Za-z]/g, '').charAt(0));
+}
+
+function readPdb(text) {
+  const atoms = [], serials = new Map(), bonds = [];
+  let open = true;
+  for (const line of linesOf(text)) {
+    const kind = field(line, 0, 6);
+    if (kind === 'ENDMDL') open = false;
+    if (open && (kind === 'ATOM' || kind === 'HETATM') && /^[ A1]?$/.test(line.charAt(16))) {
+      serials.set(field(line, 6, 11), atoms.length);
+      const element = elementOfPdb(line);
+      if (!element) throw new Error('no element');
+      atoms.push({
+        element, at: [field(line, 30, 38), field(line, 38, 46), field(line, 46, 54)].map(number),
+        note: [field(line, 17, 20), field(line, 22, 26)].filter(word => word).join(' '),
+      });
+    }
+    if (kind === 'CONECT') {
+      const [a, ...others] = (line.slice(6).match(/.{1,5}/g) ?? []).map(word => serials.get(word.trim()));
+      for (const b of others) if (a !== undefined && b > a) bonds.push({ a, b, order: 1 });
+    }
+  }
+  const known = new Set(bonds.map(({ a, b }) => a + ' ' + b));
+  return { atoms, bonds: [...bonds.filter(({ a, b }, i) => bonds.findIndex(bond => bond.a === a && bond.b === b) === i),
+                          ...bondsByDistance(atoms).filter(({ a, b }) => !known.has(a + ' ' + b))] };
+}
+
+function readCml(text) {
+  const xml = new DOMParser().parseFromString(text, 'application/xml');
+  if (xml.querySelector('parsererror')) throw new Error('not well-formed');
+  const molecule = xml.getElementsByTagNameNS('*', 'molecule')[0];
+  if (!molecule) throw new Error('no molecule');
+  const indexes = new Map();
+  const atoms = [...molecule.getElementsByTagNameNS('*', 'atom')].map((atom, i) => {
+    indexes.set(atom.getAttribute('id'), i);
+    const flat = !atom.hasAttribute('x3');
+    return {
+      element: symbolOf(atom.getAttribute('elementType') ?? ''),
+      at: flat ? [number(atom.getAttribute('x2')), number(atom.getAttribute('y2')), 0]
+               : ['x3', 'y3', 'z3'].map(name => number(atom.getAttribute(name))),
+    };
+  });
+  const orders = { 1: 1, 2: 2, 3: 3, S: 1, D: 2, T: 3, A: 4 };
+  const bonds = [...molecule.getElementsByTagNameNS('*', 'bond')].map(bond => {
+    const [a, b] = (bond.getAttribute('atomRefs2') ?? '').trim().split(/\s+/).map(id => indexes.get(id));
+    return { a, b, order: orders[bond.getAttribute('order')] ?? 1 };
+  });
+  return { atoms, bonds };
+}
+
+const readers = { mol: readMol, sdf: readMol, sd: readMol, xyz: readXyz, pdb: readPdb, ent: readPdb, cml: readCml };
+
+/// The molecule in a file of this name.
+function readMolecule(name, text) {
+  const extension = name.slice(name.lastIndexOf('.') + 1).toLowerCase();
+  return checked((readers[extension] ?? readMol)(text));
+}

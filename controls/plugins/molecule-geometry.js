@@ -1,0 +1,85 @@
+'use strict';
+
+// Vectors are [x, y, z], matrices lists of rows. The molecule's middle is the origin, x points to the right, y upwards
+// and z towards the eye.
+
+const add = (a, b, scale = 1) => [a[0] + b[0] * scale, a[1] + b[1] * scale, a[2] + b[2] * scale];
+const dot = (a, b) => a[0] * b[0] + a[1] * b[1] + a[2] * b[2];
+const cross = (a, b) => [a[1] * b[2] - a[2] * b[1], a[2] * b[0] - a[0] * b[2], a[0] * b[1] - a[1] * b[0]];
+const length = a => Math.hypot(a[0], a[1], a[2]);
+const unit = a => { const l = length(a); return l > 1e-6 ? [a[0] / l, a[1] / l, a[2] / l] : null; };
+const apply = (m, v) => [dot(m[0], v), dot(m[1], v), dot(m[2], v)];
+const multiply = (m, n) => m.map(row => [0, 1, 2].map(j => row[0] * n[0][j] + row[1] * n[1][j] + row[2] * n[2][j]));
+const aboutX = t => [[1, 0, 0], [0, Math.cos(t), -Math.sin(t)], [0, Math.sin(t), Math.cos(t)]];
+const aboutY = t => [[Math.cos(t), 0, Math.sin(t)], [0, 1, 0], [-Math.sin(t), 0, Math.cos(t)]];
+
+/// The rotation as [x, y, z, w].
+function quaternionOf(m) {
+  const w = Math.sqrt(Math.max(0, 1 + m[0][0] + m[1][1] + m[2][2])) / 2;
+  const part = (sum, sign) => Math.sign(sign || 1) * Math.sqrt(Math.max(0, sum)) / 2;
+  return [part(1 + m[0][0] - m[1][1] - m[2][2], m[2][1] - m[1][2]),
+          part(1 - m[0][0] + m[1][1] - m[2][2], m[0][2] - m[2][0]),
+          part(1 - m[0][0] - m[1][1] + m[2][2], m[1][0] - m[0][1]), w];
+}
+
+/// Where the eye is: the molecule turned, and seen from a distance at which it fills the frame at zoom 1.
+class Camera {
+  static fieldOfView = 20;  // degrees, from the frame's top to its bottom
+  static leastZoom = 0.3;
+  static mostZoom = 12;
+
+  constructor(reach) {
+    this.reach = reach;
+    this.resize(1, 1);
+    this.reset();
+  }
+
+  reset() {
+    this.turn = multiply(aboutX(0.30), aboutY(-0.45));
+    this.zoom = 1;
+  }
+
+  resize(width, height) {
+    this.width = width;
+    this.height = height;
+  }
+
+  turnBy(sideways, upwards) { this.turn = multiply(multiply(aboutX(upwards), aboutY(sideways)), this.turn); }
+
+  zoomBy(factor) { this.zoom = Math.min(Math.max(this.zoom * factor, Camera.leastZoom), Camera.mostZoom); }
+
+  /// From the eye to the molecule's middle.
+  get distance() {
+    const scale = 0.44 * Math.min(this.width, this.height) / this.reach * this.zoom;
+    return this.height / 2 / (scale * Math.tan(Camera.fieldOfView * Math.PI / 360));
+  }
+
+  /// Place and scale (pixels for one ångström) of a point; z as seen. Nothing behind the eye has a place.
+  project(at) {
+    const [x, y, z] = apply(this.turn, at);
+    const depth = this.distance - z;
+    const scale = depth > 0.1 ? this.height / 2 / (depth * Math.tan(Camera.fieldOfView * Math.PI / 360)) : 0;
+    return { x: this.width / 2 + x * scale, y: this.height / 2 - y * scale, z, scale };
+  }
+}
+
+/// Puts the molecule's middle at the origin and says how far it reaches.
+function centre(molecule) {
+  const { atoms } = molecule;
+  const ends = [0, 1, 2].map(i => atoms.reduce(([low, high], { at }) => [Math.min(low, at[i]), Math.max(high, at[i])],
+                                               [Infinity, -Infinity]));
+  const middle = ends.map(([low, high]) => (low + high) / 2);
+  for (const atom of atoms) atom.at = add(atom.at, middle, -1);
+  molecule.reach = atoms.reduce((most, { at, element }) => Math.max(most, length(at) + lookOf(element).ball), 0);
+  return molecule;
+}
+
+// ---- measures ----
+
+const distanceOf = ([a, b]) => length(add(a.at, b.at, -1));
+
+/// The angle at the second of three atoms, in degrees.
+function angleOf([a, b, c]) {
+  const [p, q] = [unit(add(a.at, b.at, -1)), unit(add(c.at, b.at, -1))];
+  return p && q ? Math.acos(Math.min(Math.max(dot(p, q), -1), 1)) * 180 / Math.PI : 0;
+}

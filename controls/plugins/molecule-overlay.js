@@ -1,0 +1,113 @@
+'use strict';
+
+// What is written over a molecule: labels, measures, and the legend of colours.
+
+const mostLabels = 150;
+const overlayFont = '"Liberation Sans", Arial, sans-serif';
+const measureColour = '#ffd84a';
+
+const isLight = colour => { const [r, g, b] = channels(colour); return 0.3 * r + 0.59 * g + 0.11 * b > 140; };
+const withComma = (value, digits) => value.toFixed(digits).replace('.', ',');
+
+class Overlay {
+  constructor(molecule, background) {
+    this.element = document.createElement('canvas');
+    this.element.className = 'overlay';
+    this.context = this.element.getContext('2d');
+    this.molecule = molecule;
+    this.background = background;
+    this.ink = isLight(background) ? '#1c2733' : '#e8eef5';
+    const present = new Set(molecule.atoms.map(atom => atom.element));
+    this.elements = [...present].sort((a, b) => (a === 'C' ? -2 : a === 'H' ? -1 : 0) - (b === 'C' ? -2 : b === 'H' ? -1 : 0) ||
+                                                a.localeCompare(b));
+  }
+
+  resize(width, height, ratio) {
+    this.element.width = Math.round(width * ratio);
+    this.element.height = Math.round(height * ratio);
+    this.ratio = ratio;
+  }
+
+  /// `labels`: whether atoms are labelled; `picked`: the atoms that are measured.
+  draw(camera, { isShown, labels, picked }) {
+    const c = this.context;
+    c.setTransform(this.ratio, 0, 0, this.ratio, 0, 0);
+    c.clearRect(0, 0, camera.width, camera.height);
+    c.textBaseline = 'middle';
+    if (labels) this.labels(camera, isShown);
+    this.measures(camera, picked);
+    this.legend(camera, isShown);
+  }
+
+  text(text, x, y, colour) {
+    const c = this.context;
+    c.lineWidth = 3;
+    c.lineJoin = 'round';
+    c.strokeStyle = this.background;
+    c.strokeText(text, x, y);
+    c.fillStyle = colour;
+    c.fillText(text, x, y);
+  }
+
+  labels(camera, isShown) {
+    const places = this.molecule.atoms.map((atom, i) => ({ atom, i })).filter(({ atom }) => isShown(atom))
+      .map(({ atom, i }) => ({ text: atom.element + (i + 1), ...camera.project(atom.at) }));
+    this.context.font = 'bold 11px ' + overlayFont;
+    this.context.textAlign = 'center';
+    for (const { text, x, y } of places.sort((a, b) => a.z - b.z).slice(-mostLabels)) this.text(text, x, y, this.ink);
+  }
+
+  measures(camera, picked) {
+    const c = this.context;
+    const places = picked.map(atom => camera.project(atom.at));
+    c.strokeStyle = measureColour;
+    c.setLineDash([4, 3]);
+    c.lineWidth = 1.5;
+    c.beginPath();
+    places.forEach(({ x, y }, i) => { if (i === 0) c.moveTo(x, y); else c.lineTo(x, y); });
+    c.stroke();
+    c.setLineDash([]);
+    for (const { x, y } of places) {
+      c.beginPath();
+      c.arc(x, y, 6, 0, 2 * Math.PI);
+      c.stroke();
+    }
+    c.font = 'bold 13px ' + overlayFont;
+    c.textAlign = 'center';
+    if (picked.length === 2) {
+      const [p, q] = places;
+      this.text(withComma(distanceOf(picked), 2) + ' Å', (p.x + q.x) / 2, (p.y + q.y) / 2 - 9, measureColour);
+    } else if (picked.length === 3) {
+      this.text(withComma(angleOf(picked), 1) + '°', places[1].x, places[1].y - 16, measureColour);
+    }
+  }
+
+  /// In rows at the bottom.
+  legend(camera, isShown) {
+    const c = this.context;
+    c.font = '11px ' + overlayFont;
+    c.textAlign = 'left';
+    const rows = [[]];
+    let x = 8;
+    for (const element of this.elements.filter(one => isShown({ element: one }))) {
+      const name = nameOf(element);
+      const width = c.measureText(name).width + 24;
+      if (x + width > camera.width && rows.at(-1).length > 0) { rows.push([]); x = 8; }
+      rows.at(-1).push({ name, x, colour: lookOf(element).colour });
+      x += width;
+    }
+    rows.slice(0, 4).forEach((row, i, shown) => {
+      const y = camera.height - 10 - 15 * (shown.length - 1 - i);
+      for (const entry of row) {
+        c.beginPath();
+        c.arc(entry.x + 5, y, 4.5, 0, 2 * Math.PI);
+        c.fillStyle = entry.colour;
+        c.fill();
+        c.strokeStyle = isLight(this.background) ? '#00000060' : '#ffffff60';
+        c.lineWidth = 1;
+        c.stroke();
+        this.text(entry.name, entry.x + 13, y, this.ink);
+      }
+    });
+  }
+}

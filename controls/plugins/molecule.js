@@ -1,0 +1,239 @@
+'use strict';
+
+// The viewer of an embedded molecule. It draws on a plain canvas at once; where there is WebGL, 3Dmol.js takes over when
+// it has been loaded. Parts of the page steer it by messages between frames:
+//   {moleculeSet: {style, spin, labels, measure, hydrogens}}  sets what is named
+//   {moleculeAsk: true}                                       asks for the state
+//   {moleculeState: {…}}                                      what the viewer answers, and tells all after a change
+
+const spinSpeed = 0.35;      // radians a second
+const frameTime = 33;        // milliseconds between pictures of the plain canvas while it spins
+const styles = ['wire', 'sticks', 'balls', 'spaces'];
+const query = new URLSearchParams(location.search);
+
+class Viewer {
+  constructor(molecule, options) {
+    this.molecule = molecule;
+    this.options = options;
+    this.state = { style: 'balls', spin: options.spin, labels: false, measure: false, hydrogens: true };
+    this.picked = [];
+    this.camera = new Camera(molecule.reach);
+    this.overlay = new Overlay(molecule, options.background);
+    this.tip = document.querySelector('#tip');
+    this.drawing = new CanvasDrawing(molecule, options.background);
+    this.drawing.element.classList.add('drawing');
+    document.body.prepend(this.drawing.element, this.overlay.element);
+    this.listen();
+    this.look();
+    this.resize();
+    addEventListener('resize', () => this.resize());
+    // Only when the first picture is on the screen.
+    requestAnimationFrame(() => setTimeout(() => loadWebGlDrawing(molecule, options.background, drawing => this.replace(drawing))));
+  }
+
+  replace(drawing) {
+    this.drawing.element.remove();
+    this.drawing = drawing;
+    document.body.prepend(drawing.element);
+    document.documentElement.dataset.drawing = '3d';
+    this.look();
+    this.resize();
+  }
+
+  isShown = ({ element }) => this.state.hydrogens || element !== 'H';
+
+  look() {
+    this.drawing.setLook(this.state.style, this.isShown);
+    this.request();
+  }
+
+  // ---- messages ----
+
+  set(wanted) {
+    const known = Object.entries(wanted).filter(([name, value]) =>
+      name === 'style' ? styles.includes(value) : typeof value === 'boolean' && name in this.state);
+    Object.assign(this.state, Object.fromEntries(known));
+    if (!this.state.measure) this.picked = [];
+    this.picked = this.picked.filter(this.isShown);
+    this.look();
+    this.tell();
+  }
+
+  tell() {
+    for (let i = 0; i < parent.length; ++i) parent[i].postMessage({ moleculeState: this.state }, '*');
+  }
+
+  // ---- input ----
+
+  listen() {
+    const pad = this.overlay.element;
+    pad.tabIndex = 0;
+    pad.setAttribute('role', 'img');
+    pad.setAttribute('aria-label', 'Τρισδιάστατο μοντέλο του μορίου. Σύρετε για περιστροφή, ροδέλα για μεγέθυνση, ' +
+                                   'διπλό κλικ για επαναφορά.');
+    pad.addEventListener('pointerdown', event => this.pressed(event));
+    pad.addEventListener('pointermove', event => this.moved(event));
+    pad.addEventListener('pointerup', event => this.released(event));
+    pad.addEventListener('lostpointercapture', () => pad.classList.remove('held'));
+    pad.addEventListener('pointerleave', () => { this.tip.hidden = true; });
+    pad.addEventListener('dblclick', () => this.reset());
+    pad.addEventListener('wheel', event => { event.preventDefault(); this.zoomBy(Math.exp(-event.deltaY / 600)); }, { passive: false });
+    pad.addEventListener('keydown', event => this.typed(event));
+  }
+
+  pressed(event) {
+    this.overlay.element.setPointerCapture(event.pointerId);
+    this.overlay.element.classList.add('held');
+    this.dragged = 0;
+    this.tip.hidden = true;
+    this.stopSpinning();
+  }
+
+  moved(event) {
+    if (!this.overlay.element.hasPointerCapture(event.pointerId)) return this.showTip(event);
+    this.dragged += Math.abs(event.movementX) + Math.abs(event.movementY);
+    const perPixel = Math.PI / Math.min(this.camera.width, this.camera.height);
+    this.camera.turnBy(event.movementX * perPixel, event.movementY * perPixel);
+    this.request();
+  }
+
+  released(event) {
+    if (!this.state.measure || this.dragged > 4) return;
+    const atom = this.atomAt(event.offsetX, event.offsetY);
+    if (!atom || this.picked.includes(atom)) return;
+    this.picked = this.picked.length >= 3 ? [atom] : [...this.picked, atom];
+    this.request();
+  }
+
+  typed(event) {
+    const step = { ArrowLeft: [-1, 0], ArrowRight: [1, 0], ArrowUp: [0, -1], ArrowDown: [0, 1] }[event.key];
+    const zoom = event.ctrlKey ? undefined : { '+': 1.15, '-': 1 / 1.15 }[event.key];
+    if (!step && !zoom) return;
+    event.preventDefault();
+    if (zoom) return this.zoomBy(zoom);
+    this.stopSpinning();
+    this.camera.turnBy(step[0] * 0.12, step[1] * 0.12);
+    this.request();
+  }
+
+  zoomBy(factor) {
+    this.camera.zoomBy(factor);
+    this.request();
+  }
+
+  stopSpinning() {
+    if (!this.state.spin) return;
+    this.state.spin = false;
+    this.tell();
+  }
+
+  reset() {
+    this.camera.reset();
+    this.picked = [];
+    this.state.spin = this.options.spin;
+    this.look();
+    this.tell();
+  }
+
+  /// The foremost atom at a place of the frame.
+  atomAt(x, y) {
+    let found, nearest = -Infinity;
+    for (const atom of this.molecule.atoms) {
+      if (!this.isShown(atom)) continue;
+      const place = this.camera.project(atom.at);
+      const { ball, space } = lookOf(atom.element);
+      const radius = Math.max((this.state.style === 'spaces' ? space : ball) * place.scale, 5);
+      if (place.z > nearest && Math.hypot(place.x - x, place.y - y) <= radius) [found, nearest] = [atom, place.z];
+    }
+    return found;
+  }
+
+  showTip(event) {
+    const atom = this.atomAt(event.offsetX, event.offsetY);
+    this.tip.hidden = !atom;
+    if (!atom) return;
+    const number = this.molecule.atoms.indexOf(atom) + 1;
+    this.tip.textContent = `${nameOf(atom.element)} (${atom.element}), άτομο ${number}${atom.note ? ', ' + atom.note : ''}`;
+    this.tip.style.left = Math.max(2, Math.min(event.offsetX + 12, innerWidth - this.tip.offsetWidth - 2)) + 'px';
+    const below = event.offsetY + 18;
+    const isLow = below + this.tip.offsetHeight > innerHeight - 2;
+    this.tip.style.top = (isLow ? event.offsetY - this.tip.offsetHeight - 6 : below) + 'px';
+  }
+
+  // ---- drawing ----
+
+  resize() {
+    this.camera.resize(Math.max(innerWidth, 1), Math.max(innerHeight, 1));
+    for (const layer of [this.drawing, this.overlay]) layer.resize(innerWidth, innerHeight, devicePixelRatio);
+    this.request();
+  }
+
+  request() {
+    this.pending ??= requestAnimationFrame(time => { this.pending = undefined; this.step(time); });
+  }
+
+  step(time) {
+    const passed = time - (this.lastTime ?? time);
+    if (this.state.spin && passed > 0 && passed < frameTime && this.drawing instanceof CanvasDrawing) return this.request();
+    this.lastTime = this.state.spin ? time : undefined;
+    if (this.state.spin) this.camera.turn = multiply(aboutY(Math.min(passed, 100) / 1000 * spinSpeed), this.camera.turn);
+    this.draw();
+    if (this.state.spin) this.request();
+  }
+
+  draw() {
+    this.drawing.draw(this.camera);
+    this.overlay.draw(this.camera, { isShown: this.isShown, labels: this.state.labels, picked: this.picked });
+  }
+
+  picture() {
+    const canvas = document.createElement('canvas');
+    [canvas.width, canvas.height] = [innerWidth, innerHeight];
+    const context = canvas.getContext('2d');
+    for (const layer of [this.drawing.picture(this.camera), this.overlay.element]) {
+      context.drawImage(layer, 0, 0, innerWidth, innerHeight);
+    }
+    return canvas.toDataURL();
+  }
+}
+
+// ---- the page ----
+
+function optionsOf() {
+  const colour = query.get('bgcolor') ?? '';
+  const still = matchMedia('(prefers-reduced-motion: reduce)').matches;
+  return {
+    background: /^#[0-9a-f]{6}$/i.test(colour) ? colour : '#000000',
+    spin: /^(true|yes|1)$/i.test(query.get('spin') ?? '') && !still,
+  };
+}
+
+function show(molecule) {
+  const options = optionsOf();
+  document.body.style.background = options.background;
+  const viewer = new Viewer(molecule, options);
+  viewer.tell();
+  addEventListener('message', ({ data, source }) => {
+    if (data?.moleculeSet) viewer.set(data.moleculeSet);
+    if (data?.moleculeAsk) source.postMessage({ moleculeState: viewer.state }, '*');
+    if (data?.pluginPicture && data.pluginPicture === Number(query.get('plugin'))) {
+      source.postMessage({ pluginPicture: data.pluginPicture, picture: viewer.picture() }, '*');
+    }
+  });
+}
+
+function fail(text) {
+  const message = document.createElement('p');
+  message.textContent = text;
+  document.body.replaceChildren(message);
+}
+
+const request = new XMLHttpRequest();
+request.open('GET', location.pathname + '?raw');
+request.onload = () => {
+  let molecule;
+  try { molecule = centre(readMolecule(location.pathname, request.responseText)); } catch { return fail('Το αρχείο του μορίου δεν μπορεί να διαβαστεί.'); }
+  show(molecule);
+};
+request.onerror = () => fail('Το αρχείο του μορίου δεν βρέθηκε.');
+request.send();

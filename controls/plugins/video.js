@@ -1,0 +1,108 @@
+'use strict';
+
+// The player of an embedded video. Files that the engine cannot play come converted (converted-video.js).
+
+const shapes = {
+  play: 'M2 0.5 L9 5 L2 9.5 Z',
+  pause: 'M1.5 0.5 H4 V9.5 H1.5 Z M6 0.5 H8.5 V9.5 H6 Z',
+  sound: 'M0 3 H2.2 L5 0.6 V9.4 L2.2 7 H0 Z M6.4 2.6 Q8.3 5 6.4 7.4 L7.2 8 Q9.6 5 7.2 2 Z',
+  silent: 'M0 3 H2.2 L5 0.6 V9.4 L2.2 7 H0 Z M6 3.6 L6.6 3 L10 6.4 L9.4 7 Z M9.4 3 L10 3.6 L6.6 7 L6 6.4 Z',
+};
+const playable = /\.(webm|mp4|m4v|ogv)$/i;
+const [video, strip, play, position, time, sound] =
+  ['video', '#strip', '#play', '#position', 'time', '#sound'].map(name => document.querySelector(name));
+const query = new URLSearchParams(location.search);
+const isOn = name => /^(true|yes|1)$/i.test(query.get(name) ?? '');
+
+// ---- the strip ----
+
+function label(button, shape, text) {
+  button.querySelector('path').setAttribute('d', shape);
+  button.title = text;
+  button.setAttribute('aria-label', text);
+}
+
+function showState() {
+  label(play, video.paused ? shapes.play : shapes.pause, video.paused ? 'Αναπαραγωγή' : 'Παύση');
+  label(sound, video.muted ? shapes.silent : shapes.sound, video.muted ? 'Με ήχο' : 'Χωρίς ήχο');
+}
+
+const clock = seconds => Math.floor(seconds / 60) + ':' + String(Math.floor(seconds) % 60).padStart(2, '0');
+
+function showPosition() {
+  const whole = video.duration;
+  const known = whole > 0 && Number.isFinite(whole);
+  const share = known ? Math.min(video.currentTime / whole, 1) : 0;
+  position.disabled = !known;
+  position.value = share;
+  position.style.setProperty('--done', share * 100 + '%');
+  position.title = known ? clock(video.currentTime) + ' από ' + clock(whole) : '';
+  time.textContent = clock(video.currentTime);
+}
+
+function toggle() {
+  if (video.paused) video.play().catch(showState); else video.pause();
+}
+
+// ---- size of the picture ----
+
+/// SCALE is a number, by which the video's own size is multiplied, ASPECT or TOFIT. The picture never gets larger
+/// than the frame; without SCALE it fills the frame as far as its shape allows.
+function fit() {
+  const scale = query.get('scale') ?? '';
+  video.classList.toggle('fill', /^tofit$/i.test(scale));
+  const factor = Number(scale);
+  const room = Math.min(innerWidth / video.videoWidth, (innerHeight - strip.offsetHeight) / video.videoHeight);
+  const isSized = factor > 0 && factor < room;
+  video.classList.toggle('sized', isSized);
+  video.style.height = isSized ? video.videoHeight * factor + 'px' : '';
+}
+
+// ---- failing, and the picture for the program ----
+
+function fail(text = 'Το βίντεο δεν μπορεί να προβληθεί.') {
+  const message = document.createElement('p');
+  message.textContent = text;
+  document.body.replaceChildren(message);
+}
+
+/// What is seen of the video, without the strip.
+function picture() {
+  const canvas = document.createElement('canvas');
+  canvas.width = innerWidth;
+  canvas.height = innerHeight - strip.offsetHeight;
+  const context = canvas.getContext('2d');
+  context.fillRect(0, 0, canvas.width, canvas.height);
+  const box = video.getBoundingClientRect();
+  const isFilling = video.classList.contains('fill');
+  const scale = Math.min(box.width / video.videoWidth, box.height / video.videoHeight);
+  const [width, height] = isFilling ? [box.width, box.height] : [video.videoWidth * scale, video.videoHeight * scale];
+  context.drawImage(video, box.left + (box.width - width) / 2, box.top + (box.height - height) / 2, width, height);
+  return canvas.toDataURL();
+}
+
+addEventListener('message', ({ data, source }) => {
+  if (data?.pluginPicture !== Number(query.get('plugin')) || video.readyState < HTMLMediaElement.HAVE_CURRENT_DATA) return;
+  source.postMessage({ pluginPicture: data.pluginPicture, picture: picture() }, '*');
+});
+
+play.addEventListener('click', toggle);
+video.addEventListener('click', toggle);
+sound.addEventListener('click', () => { video.muted = !video.muted; });
+position.addEventListener('input', () => { video.currentTime = position.value * video.duration; });
+for (const change of ['play', 'pause', 'ended', 'volumechange', 'loadedmetadata']) video.addEventListener(change, showState);
+for (const change of ['timeupdate', 'seeked', 'durationchange']) video.addEventListener(change, showPosition);
+for (const change of ['loadedmetadata', 'resize']) video.addEventListener(change, fit);
+addEventListener('resize', fit);
+
+video.loop = isOn('loop');
+video.autoplay = isOn('autoplay');
+if (playable.test(location.pathname)) {
+  // What the engine does not play after all may be another kind of file than its name says.
+  video.addEventListener('error', () => playConverted(video, fail), { once: true });
+  video.src = location.pathname + '?raw';
+} else {
+  playConverted(video, fail);
+}
+showState();
+showPosition();

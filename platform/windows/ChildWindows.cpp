@@ -1,0 +1,67 @@
+#include "platform/windows/ChildWindows.h"
+
+#include <QWidget>
+
+#include "platform/automation/WebPageInspector.h"
+#include "platform/handles/WindowTable.h"
+#include "platform/windows/ControlContainer.h"
+#include "platform/windows/QtConvert.h"
+#include "platform/windows/WindowWidget.h"
+#include "platform/windows/Wnd.h"
+
+namespace platform {
+
+namespace {
+
+bool isInside(HWND window, HWND parent) {
+    const WindowTable& table = WindowTable::instance();
+    while (window != 0 && window != parent) {
+        const QWidget* widget = table.widget(window);
+        window = widget == nullptr || widget->isWindow() ? 0 : table.nearestHandle(widget->parentWidget());
+    }
+    return window != 0;
+}
+
+WebPageInspector* browserIn(HWND window) {
+    ControlHost* const host = controlHostOf(window);
+    return host == nullptr ? nullptr : dynamic_cast<WebPageInspector*>(&host->control());
+}
+
+}  // namespace
+
+void EnumChildWindows(HWND parent, const std::function<bool(HWND)>& callback) {
+    const WindowTable& table = WindowTable::instance();
+    for (const HWND window : table.all()) {
+        WebPageInspector* const browser = browserIn(window);
+        if (browser != nullptr && isInside(window, parent)) browser->updatePluginWindows();
+    }
+    for (const HWND window : table.all()) {
+        if (window != parent && isInside(window, parent) && !callback(window)) return;
+    }
+}
+
+CRect GetClientRect(HWND window) {
+    if (const CWnd* object = CWnd::FromHandle(window)) return object->GetClientRect();
+    const QWidget* widget = WindowTable::instance().widget(window);
+    return widget == nullptr ? CRect() : CRect{0, 0, widget->width(), widget->height()};
+}
+
+CPoint ClientToScreen(HWND window, CPoint p) {
+    if (const CWnd* object = CWnd::FromHandle(window)) return object->ClientToScreen(p);
+    const QWidget* widget = WindowTable::instance().widget(window);
+    return widget == nullptr ? p : fromQt(widget->mapToGlobal(toQt(p)));
+}
+
+bool CBitmap::LoadPlugin(HWND window) {
+    const WindowTable& table = WindowTable::instance();
+    const QWidget* widget = table.widget(window);
+    WebPageInspector* const browser =
+        widget == nullptr ? nullptr : browserIn(table.nearestHandle(widget->parentWidget()));
+    const std::string file = browser == nullptr ? std::string() : browser->pluginPicture(window);
+    const QImage image = QImage::fromData(QByteArray::fromStdString(file));
+    if (image.isNull()) return false;
+    image_ = std::make_shared<QImage>(image.convertToFormat(QImage::Format_RGB32));
+    return true;
+}
+
+}  // namespace platform
