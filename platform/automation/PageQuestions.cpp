@@ -30,24 +30,33 @@ constexpr std::chrono::milliseconds lookAgain{5};
 /// Pages that the engine makes itself have no such script.
 const QString placesScript = QStringLiteral("globalThis.pagePlugins?.places() ?? []");
 
+/// Questions without an answer as yet; they may nest, since each runs the event loop.
+int openQuestions = 0;
+
 /// Calls `ask` with a function that takes the answer, and waits for it.
 template <class Answer, class Ask>
 Answer await(Ask ask) {
     struct Wait {
+        Wait() { ++openQuestions; }
+        ~Wait() { end(); }
+        void end() {
+            if (std::exchange(open, false)) --openQuestions;
+        }
         QEventLoop loop;
         Answer answer{};
-        bool answered = false;
+        bool open = true;
     };
     // Shared with the answering function, which may be called after the time is over.
     const auto wait = std::make_shared<Wait>();
     ask([wait](const Answer& answer) {
         wait->answer = answer;
-        wait->answered = true;
+        wait->end();
         wait->loop.quit();
     });
-    if (!wait->answered) {
+    if (wait->open) {
         QTimer::singleShot(answerTime, &wait->loop, &QEventLoop::quit);
         wait->loop.exec();
+        wait->end();
     }
     return wait->answer;
 }
@@ -94,6 +103,8 @@ std::vector<EmbeddedFrame> readFrames(const QVariant& value, double scale) {
 }
 
 }  // namespace
+
+bool anyQuestionOpen() { return openQuestions > 0; }
 
 QString textOf(QWebEnginePage& page) {
     return await<QString>([&](auto answer) { page.toPlainText(answer); });

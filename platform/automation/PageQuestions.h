@@ -16,6 +16,9 @@ class QWebEnginePage;
 /// shows the page.
 namespace platform {
 
+/// Whether one of them is not answered yet.
+bool anyQuestionOpen();
+
 QString textOf(QWebEnginePage& page);
 QString htmlOf(QWebEnginePage& page);
 

@@ -44,7 +44,8 @@ bool PluginWindows::eventFilter(QObject*, QEvent* event) {
 void PluginWindows::clear() { windows_.clear(); }
 
 void PluginWindows::updateSoon() {
-    if (!page_ || page_->isLoading()) return;
+    // A page that was never loaded answers nothing.
+    if (!page_ || page_->isLoading() || page_->url().isEmpty()) return;
     limit_.start();
     askEmbeddedFramesOf(*page_, [self = QPointer(this), asked = ++asked_](const auto& frames) {
         if (!self || self->asked_ != asked) return;

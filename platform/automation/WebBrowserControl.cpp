@@ -91,7 +91,9 @@ std::optional<Variant> WebBrowserControl::invoke(std::int32_t dispid, InvokeKind
     return dispatch(*this, operationTable, dispid, kind, arguments);
 }
 
-bool WebBrowserControl::busy() const { return page_->busy() || plugins_->busy() || printer_->busy(); }
+bool WebBrowserControl::busy() const {
+    return page_->busy() || plugins_->busy() || printer_->busy() || anyQuestionOpen();
+}
 
 void WebBrowserControl::navigate(const std::string& address, const Variant& flags, const Variant&,
                                  const Variant&, const Variant&) {

@@ -12,6 +12,17 @@ bool CBitmap::LoadBitmap(UINT id) {
     return true;
 }
 
+CBitmap CBitmap::ResizedTo(int width, int height) const {
+    CBitmap resized;
+    if (!image_) return resized;
+    const QImage scaled =
+        image_->size() == QSize(width, height)
+            ? *image_
+            : image_->scaled(width, height, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    resized.image_ = std::make_shared<QImage>(scaled);
+    return resized;
+}
+
 int CBitmap::Width() const { return image_ ? image_->width() : 0; }
 
 int CBitmap::Height() const { return image_ ? image_->height() : 0; }

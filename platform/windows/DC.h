@@ -20,6 +20,10 @@ class CBitmap {
     /// Takes the picture that a page's plug-in gives of itself: a molecule's whole window, a video's without
     /// the control strip. False when the window is no plug-in's, or it has no picture to give.
     bool LoadPlugin(HWND window);
+    /// The whole of it scaled to a size; not loaded if this one is not.
+    CBitmap ResizedTo(int width, int height) const;
+    /// The pixels of a loaded bitmap, for the inside of the platform.
+    const QImage& image() const { return *image_; }
     bool loaded() const { return image_ != nullptr; }
     int Width() const;
     int Height() const;
@@ -27,7 +31,6 @@ class CBitmap {
   private:
     friend class CDC;
     friend class CBrush;
-    friend class CPrinterDC;
     std::shared_ptr<QImage> image_;
 };
 

@@ -35,7 +35,7 @@ CSize CPrinterDC::PageSize() const { return {job_->page().horzres, job_->page().
 int CPrinterDC::LogPixelsY() const { return job_->page().logpixelsy; }
 
 void CPrinterDC::StretchBitmap(const CRect& target, const CBitmap& bitmap) {
-    if (bitmap.image_) job_->painter().drawImage(toQt(target), *bitmap.image_);
+    if (bitmap.loaded()) job_->painter().drawImage(toQt(target), bitmap.image());
 }
 
 void CPrinterDC::DrawTitle(std::string_view text, const CRect& area, int letterHeight) {

@@ -11,6 +11,7 @@
 #include "src/content/MainMenuScreen.h"
 #include "src/content/PageCache.h"
 #include "src/content/PagePreparer.h"
+#include "src/content/PictureCapture.h"
 #include "src/content/SectionBar.h"
 #include "src/display/SplitterBar.h"
 
@@ -77,6 +78,12 @@ class CKalyxoView : public platform::CView {
     void OnCopy();
     void execInDocument(std::int32_t command);
     void OnPaste();
+    template <PluginKind Kind>
+    void OnCopyPicture();
+    template <PluginKind Kind>
+    void OnPrintPicture();
+    template <PluginKind Kind>
+    void OnUpdatePicture(platform::CCmdUI& ui);
     void OnCopyAllData();
     void OnCopySelected();
     void OnCopyGraph();

@@ -22,6 +22,22 @@ void CKalyxoView::OnUpdateSection(CCmdUI& ui) {
     ui.SetCheck(m_mode == ContentMode::Page && m_address.sectionCode == SectionCommands()[Slot].code);
 }
 
+template <PluginKind Kind>
+void CKalyxoView::OnCopyPicture() {
+    PictureCapture(m_components.browser.GetSafeHwnd()).Copy(Kind);
+}
+
+template <PluginKind Kind>
+void CKalyxoView::OnPrintPicture() {
+    const std::string title = m_components.select.GetItemTitle(m_address.itemCode);
+    PictureCapture(m_components.browser.GetSafeHwnd()).Print(Kind, title);
+}
+
+template <PluginKind Kind>
+void CKalyxoView::OnUpdatePicture(CCmdUI& ui) {
+    ui.Enable(Kind == PluginKind::molecule ? m_contents.molecule : m_contents.video);
+}
+
 const MessageMap* CKalyxoView::GetMessageMap() const {
     static constexpr MessageMapEntry entries[] = {
         OnMessage<WM_SIZE, &CKalyxoView::OnSize>(),
@@ -61,6 +77,14 @@ const MessageMap* CKalyxoView::GetMessageMap() const {
         OnUpdateId<&CKalyxoView::OnUpdateCopy>(ID_EDIT_COPY),
         OnCommandId<&CKalyxoView::OnPaste>(ID_EDIT_PASTE),
         OnUpdateId<&CKalyxoView::OnUpdateCutAndPaste>(ID_EDIT_PASTE),
+        OnCommandId<&CKalyxoView::OnCopyPicture<PluginKind::molecule>>(ID_COPY_MOLECULE),
+        OnUpdateId<&CKalyxoView::OnUpdatePicture<PluginKind::molecule>>(ID_COPY_MOLECULE),
+        OnCommandId<&CKalyxoView::OnCopyPicture<PluginKind::video>>(ID_COPY_VIDEO),
+        OnUpdateId<&CKalyxoView::OnUpdatePicture<PluginKind::video>>(ID_COPY_VIDEO),
+        OnCommandId<&CKalyxoView::OnPrintPicture<PluginKind::molecule>>(ID_PRINT_MOLECULE),
+        OnUpdateId<&CKalyxoView::OnUpdatePicture<PluginKind::molecule>>(ID_PRINT_MOLECULE),
+        OnCommandId<&CKalyxoView::OnPrintPicture<PluginKind::video>>(ID_PRINT_VIDEO),
+        OnUpdateId<&CKalyxoView::OnUpdatePicture<PluginKind::video>>(ID_PRINT_VIDEO),
         OnCommandId<&CKalyxoView::OnCopyAllData>(ID_COPY_ALL_DATA),
         OnUpdateId<&CKalyxoView::OnUpdateCopyAllData>(ID_COPY_ALL_DATA),
         OnCommandId<&CKalyxoView::OnCopySelected>(ID_COPY_SELECTED),
