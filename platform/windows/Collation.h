@@ -4,7 +4,8 @@
 
 namespace platform {
 
-/// The alphabetical order in which controls sort what they show: that of a Greek dictionary.
+/// The alphabetical order in which controls sort what they show: that of a dictionary, Latin
+/// letters before Greek ones.
 const QCollator& greekOrder();
 
 }  // namespace platform

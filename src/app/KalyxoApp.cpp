@@ -7,6 +7,7 @@
 #include "platform/text/GreekLiteral.h"
 #include "platform/windows/MessageMap.h"
 #include "src/app/AboutDlg.h"
+#include "src/app/FindFolderDlg.h"
 #include "src/app/MainFrame.h"
 #include "src/content/KalyxoDoc.h"
 #include "src/content/KalyxoView.h"
@@ -23,6 +24,11 @@ namespace {
 constexpr UINT kEnterInSelectEdit = 18871;
 constexpr std::uint32_t kStartUpWaitMs = 2000;
 constexpr std::size_t kLongestDirectory = 256;
+
+std::optional<std::string> askForFolder(FolderPurpose purpose) {
+    CFindFolderDlg chooser(purpose);
+    return chooser.DoModal() == IDOK ? std::optional(chooser.Folder()) : std::nullopt;
+}
 
 CSize screenSize() { return {machine().metric(SM_CXSCREEN), machine().metric(SM_CYSCREEN)}; }
 
@@ -72,10 +78,8 @@ bool CKalyxoApp::ReadRegistrySettings() {
 }
 
 bool CKalyxoApp::SetUpDataPaths() {
-    // Without a folder chooser every question counts as cancelled.
-    const FolderChooser cancelled = [](FolderPurpose) { return std::optional<std::string>(); };
     std::optional<DataPaths> paths =
-        FindDataPaths(machine().files(), {m_strProgramFolder, machine().tempFolder()}, cancelled);
+        FindDataPaths(machine().files(), {m_strProgramFolder, machine().tempFolder()}, askForFolder);
     if (!paths) return false;
     m_strDataFolder = std::move(paths->dataFolder);
     m_strBookmarkFile = std::move(paths->bookmarkFile);

@@ -12,6 +12,7 @@ using platform::CRect;
 using platform::DialogControl;
 using platform::DialogTemplate;
 using platform::IDC_STATIC;
+using platform::IDCANCEL;
 using platform::IDOK;
 using Kind = platform::DialogControlKind;
 
@@ -55,8 +56,17 @@ constexpr std::array kAbout = {
     version(4, IDC_VERSION_MOLECULE_ZOOM),
 };
 
+constexpr std::array kFindFolder = {
+    DialogControl{Kind::staticText, IDC_FOLDER_PROMPT, CRect::at(7, 7, 173, 10)},
+    DialogControl{Kind::treeView, IDC_FOLDER_TREE, CRect::at(7, 20, 173, 110), "Folders"},
+    DialogControl{Kind::comboBox, IDC_FOLDER_DRIVES, CRect::at(7, 135, 173, 80), "Drives"},
+    DialogControl{Kind::defaultPushButton, IDOK, CRect::at(76, 156, 50, 14), "OK"},
+    DialogControl{Kind::pushButton, IDCANCEL, CRect::at(130, 156, 50, 14), "Cancel"},
+};
+
 constexpr std::array kDialogs = {
     DialogTemplate{IDD_ABOUT, "Πληροφορίες για Kalyxo"_gr, {217, 81}, kAbout},
+    DialogTemplate{IDD_FIND_FOLDER, "Find Folder", {187, 177}, kFindFolder},
 };
 
 }  // namespace

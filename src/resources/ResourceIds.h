@@ -20,6 +20,8 @@ inline constexpr platform::UINT IDS_NO_PRINTER = 61232;
 
 /// Dialog ids.
 inline constexpr platform::UINT IDD_ABOUT = 100;
+inline constexpr platform::UINT IDD_ENLARGED_VIEW = 151;
+inline constexpr platform::UINT IDD_FIND_FOLDER = 211;
 
 /// Controls of the About box.
 inline constexpr int IDC_VERSION_DATA_ANALYSER = 1005;
@@ -27,6 +29,11 @@ inline constexpr int IDC_VERSION_SELECT = 1006;
 inline constexpr int IDC_VERSION_PERIODIC_TABLE = 1007;
 inline constexpr int IDC_VERSION_MOLECULE_CONTROLLER = 1008;
 inline constexpr int IDC_VERSION_MOLECULE_ZOOM = 1020;
+
+/// Controls of the folder chooser.
+inline constexpr int IDC_FOLDER_TREE = 1009;
+inline constexpr int IDC_FOLDER_DRIVES = 1023;
+inline constexpr int IDC_FOLDER_PROMPT = 1024;
 
 /// Bitmap ids.
 inline constexpr platform::UINT IDB_SPLITTER_PATTERN = 133;

@@ -1,0 +1,94 @@
+#include "src/app/FindFolderDlg.h"
+
+#include "platform/framework/DataExchange.h"
+#include "platform/machine/Machine.h"
+#include "platform/windows/MessageMap.h"
+#include "src/app/DriveList.h"
+#include "src/resources/ResourceIds.h"
+
+namespace kalyxo {
+
+using namespace platform;
+
+const CRuntimeClass CFindFolderDlg::runtimeClass{"CFindFolderDlg"};
+
+CFindFolderDlg::CFindFolderDlg(FolderPurpose purpose)
+    : CDialog(IDD_FIND_FOLDER),
+      m_strPrompt(purpose == FolderPurpose::storeBookmarks ? "Select folder to store your bookmarks"
+                                                           : "Please locate the Kalyxo CD-ROM") {}
+
+const MessageMap* CFindFolderDlg::GetMessageMap() const {
+    static constexpr MessageMapEntry entries[] = {
+        OnControl<&CFindFolderDlg::OnDriveSelected>(IDC_FOLDER_DRIVES, CBN_SELCHANGE),
+        OnNotify<&CFindFolderDlg::OnItemExpanding>(IDC_FOLDER_TREE, TVN_ITEMEXPANDING),
+    };
+    static const MessageMap map{CDialog::GetMessageMap(), entries};
+    return &map;
+}
+
+void CFindFolderDlg::DoDataExchange(CDataExchange& exchange) {
+    DDX_Control(exchange, IDC_FOLDER_TREE, m_tree);
+    DDX_Control(exchange, IDC_FOLDER_DRIVES, m_drives);
+    DDX_Text(exchange, IDC_FOLDER_PROMPT, m_strPrompt);
+}
+
+bool CFindFolderDlg::OnInitDialog() {
+    const bool defaultFocus = CDialog::OnInitDialog();
+    m_strFolder.clear();
+    const DriveList drives = ListDrives(machine().files());
+    for (const std::string& entry : drives.entries) m_drives.AddString(entry);
+    m_drives.SetCurSel(drives.selected);
+    OnDriveSelected();
+    return defaultFocus;
+}
+
+void CFindFolderDlg::OnDriveSelected() {
+    m_tree.DeleteAllItems();
+    const std::optional<char> letter = DriveLetter(m_drives.GetLBText(m_drives.GetCurSel()));
+    if (!letter) return;
+    const CWaitCursor wait;
+    const HTREEITEM root = m_tree.InsertItem(std::string{*letter, ':', '\\'});
+    m_tree.SetItemImage(root, TreeImage::drive);
+    insertSubfolders(root);
+    m_tree.Expand(root);
+}
+
+LRESULT CFindFolderDlg::OnItemExpanding(NMTREEVIEW& notification) {
+    const HTREEITEM first = m_tree.GetChildItem(notification.item);
+    const bool unread = first && m_tree.GetItemText(first).empty();
+    if (!unread) return 0;
+    const CWaitCursor wait;
+    m_tree.DeleteItem(first);
+    insertSubfolders(notification.item);
+    return 0;
+}
+
+void CFindFolderDlg::insertSubfolders(HTREEITEM item) {
+    const std::string folder = pathOf(item) + "\\";
+    for (const std::string& name : ListSubfolders(machine().files(), folder)) {
+        const HTREEITEM child = m_tree.InsertItem(name, item);
+        m_tree.SetItemImage(child, TreeImage::folder);
+        // Without a text: stands for folders that are not read yet, so that the item can be opened.
+        m_tree.InsertItem({}, child);
+    }
+    m_tree.SortChildren(item);
+}
+
+std::string CFindFolderDlg::pathOf(HTREEITEM item) const {
+    std::string path;
+    for (; item; item = m_tree.GetParentItem(item)) {
+        std::string text = m_tree.GetItemText(item);
+        if (text.ends_with('\\')) text.resize(2);
+        path = path.empty() ? text : text + "\\" + path;
+    }
+    return path;
+}
+
+void CFindFolderDlg::OnOK() {
+    const HTREEITEM selected = m_tree.GetSelectedItem();
+    if (!selected) return;
+    m_strFolder = pathOf(selected);
+    EndDialog(IDOK);
+}
+
+}  // namespace kalyxo

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <string>
+
+#include "platform/framework/Dialog.h"
+#include "platform/windows/ComboBox.h"
+#include "platform/windows/TreeCtrl.h"
+#include "src/app/DataPaths.h"
+
+namespace kalyxo {
+
+/// Lets the user pick a folder from a list of drives and a tree of folders. A folder is read when it is first
+/// opened, and not again.
+class CFindFolderDlg : public platform::CDialog {
+  public:
+    explicit CFindFolderDlg(FolderPurpose purpose);
+
+    static const platform::CRuntimeClass runtimeClass;
+    const platform::CRuntimeClass& GetRuntimeClass() const override { return runtimeClass; }
+    const platform::MessageMap* GetMessageMap() const override;
+
+    /// The folder that was chosen, without a backslash at its end.
+    const std::string& Folder() const { return m_strFolder; }
+
+  protected:
+    void DoDataExchange(platform::CDataExchange& exchange) override;
+    bool OnInitDialog() override;
+    void OnOK() override;
+
+  private:
+    void OnDriveSelected();
+    platform::LRESULT OnItemExpanding(platform::NMTREEVIEW& notification);
+
+    void insertSubfolders(platform::HTREEITEM item);
+    std::string pathOf(platform::HTREEITEM item) const;
+
+    std::string m_strFolder;
+    platform::CTreeCtrl m_tree;
+    platform::CComboBox m_drives;
+    std::string m_strPrompt;
+};
+
+}  // namespace kalyxo
