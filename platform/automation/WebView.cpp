@@ -1,6 +1,7 @@
 #include "platform/automation/WebView.h"
 
 #include <QCoreApplication>
+#include <QCursor>
 #include <QMouseEvent>
 #include <QPalette>
 #include <QShortcut>
@@ -40,6 +41,7 @@ void WebView::click(CPoint point) {
         QMouseEvent event(type, local, global, button, held, Qt::NoModifier);
         QCoreApplication::sendEvent(target, &event);
     };
+    QCursor::setPos(global.toPoint());
     send(QEvent::MouseMove, Qt::NoButton, Qt::NoButton);
     send(QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
     send(QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);

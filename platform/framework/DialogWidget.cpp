@@ -9,6 +9,7 @@
 #include "platform/framework/DialogControls.h"
 #include "platform/framework/LightPalette.h"
 #include "platform/handles/WindowTable.h"
+#include "platform/machine/Machine.h"
 #include "platform/windows/QtConvert.h"
 
 namespace platform {
@@ -22,6 +23,13 @@ QFont dialogFont() {
     QFont font(QStringLiteral("Liberation Sans"));
     font.setPixelSize(fontPixels);
     return font;
+}
+
+QMargins frameByMetrics() {
+    if (!hasMachine()) return {};
+    const int side = machine().metric(SM_CXDLGFRAME);
+    const int edge = machine().metric(SM_CYDLGFRAME);
+    return {side, edge + machine().metric(SM_CYCAPTION), side, edge};
 }
 
 }  // namespace
@@ -44,13 +52,17 @@ DialogWidget::~DialogWidget() { finish(); }
 
 void DialogWidget::centre() {
     const QRect around = parentWidget() ? parentWidget()->frameGeometry() : screen()->availableGeometry();
-    QRect outer = rect().marginsAdded(windowHandle()->frameMargins());
+    QRect outer = rect().marginsAdded(frameByMetrics());
     outer.moveCenter(around.center());
     place(outer);
 }
 
+QRect DialogWidget::outerRect() const {
+    return {frameGeometry().topLeft(), rect().marginsAdded(frameByMetrics()).size()};
+}
+
 void DialogWidget::place(const QRect& rect) {
-    const QRect client = rect.marginsRemoved(windowHandle()->frameMargins());
+    const QRect client = rect.marginsRemoved(frameByMetrics());
     setFixedSize(client.size());
     move(rect.topLeft());
     sizeChanged();

@@ -17,8 +17,10 @@ class DialogWidget : public SurfaceWidget {
     DialogWidget(CDialog& owner, const DialogTemplate& drawnUp, QWidget* parent);
     ~DialogWidget() override;
 
-    QRect outerRect() const override { return frameGeometry(); }
-    /// `rect` is the outer rectangle.
+    /// With a frame as wide and a caption as high as the metrics say, whatever the window system draws: so
+    /// the client area is as large as the program reckons.
+    QRect outerRect() const override;
+    /// `rect` is the outer rectangle in that sense.
     void place(const QRect& rect) override;
 
     void focusFirstControl();

@@ -1,6 +1,7 @@
 #include "platform/windows/ControlFactory.h"
 
 #include <QComboBox>
+#include <utility>
 
 #include "platform/windows/ControlLink.h"
 #include "platform/windows/LineEdit.h"
@@ -11,9 +12,11 @@
 
 namespace platform {
 
-ControlLink& makeEdit(DWORD style, QWidget& parent, int id) {
-    if (style & ES_MULTILINE) return ControlLink::enter(*new MultiLineEdit(parent), "Edit", id);
-    return ControlLink::enter(*new LineEdit(style, parent), "Edit", id);
+ControlLink& makeEdit(DWORD style, QWidget& parent, int id, std::string className) {
+    if (style & ES_MULTILINE) {
+        return ControlLink::enter(*new MultiLineEdit(parent), std::move(className), id);
+    }
+    return ControlLink::enter(*new LineEdit(style, parent), std::move(className), id);
 }
 
 ControlLink& makeListBox(DWORD style, QWidget& parent, int id) {

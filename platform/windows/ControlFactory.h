@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "platform/windows/ControlMessages.h"
 
 class QWidget;
@@ -9,7 +11,7 @@ namespace platform {
 
 class ControlLink;
 
-ControlLink& makeEdit(DWORD style, QWidget& parent, int id);
+ControlLink& makeEdit(DWORD style, QWidget& parent, int id, std::string className = "Edit");
 ControlLink& makeListBox(DWORD style, QWidget& parent, int id);
 ControlLink& makeListView(DWORD style, QWidget& parent, int id);
 ControlLink& makeTreeView(QWidget& parent, int id);

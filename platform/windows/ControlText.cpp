@@ -18,7 +18,9 @@ QString textOf(const QWidget& control) {
     if (const auto* const button = qobject_cast<const QAbstractButton*>(&control)) return button->text();
     if (const auto* const label = qobject_cast<const QLabel*>(&control)) return label->text();
     if (const auto* const combo = qobject_cast<const QComboBox*>(&control)) return combo->currentText();
-    if (const auto* const edit = dynamic_cast<const MultiLineEdit*>(&control)) return edit->toPlainText();
+    if (const auto* const edit = dynamic_cast<const MultiLineEdit*>(&control)) {
+        return edit->toPlainText().replace(QStringLiteral("\n"), QStringLiteral("\r\n"));
+    }
     return control.windowTitle();
 }
 

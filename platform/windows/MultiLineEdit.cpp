@@ -21,7 +21,7 @@ constexpr int lineGap = 4;
 
 MultiLineEdit::MultiLineEdit(QWidget& parent) : QTextEdit(&parent) {
     setAcceptRichText(false);
-    setFrameShape(QFrame::Box);
+    setFrameStyle(QFrame::Box | QFrame::Plain);
     setLineWidth(1);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -61,6 +61,8 @@ void MultiLineEdit::setLineHeights() {
     QTextFrameFormat margins = document()->rootFrame()->frameFormat();
     margins.setLeftMargin(sideMargin);
     margins.setRightMargin(sideMargin);
+    // The letters stand at the lower edge of their line; half of the gap goes below the last one.
+    margins.setTopMargin(-lineGap / 2);
     document()->rootFrame()->setFrameFormat(margins);
     QTextBlockFormat line;
     line.setLineHeight(fontInfo().pixelSize() + lineGap, QTextBlockFormat::FixedHeight);

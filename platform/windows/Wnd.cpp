@@ -83,6 +83,7 @@ void CWnd::ShowWindow(int showCommand) {
     if (!control) return;
     if (showCommand == SW_HIDE) moveFocusOut(*control);
     control->setVisible(showCommand != SW_HIDE);
+    if (showCommand != SW_HIDE) control->raise();
 }
 
 bool CWnd::IsWindowVisible() const {

@@ -1,7 +1,5 @@
 #include "src/content/GlossaryMarkup.h"
 
-#include "platform/text/CodePage1253.h"
-
 namespace kalyxo {
 
 namespace {
@@ -11,10 +9,6 @@ constexpr std::size_t kKeyLength = 8;
 constexpr std::size_t kClosing = 2;  // "~" and the character after it
 
 }  // namespace
-
-bool IsGlossaryLink(std::string_view url) {
-    return platform::toLower(url).find(kGlossaryPrefix) != std::string::npos;
-}
 
 bool InsertGlossaryLink(std::string& line, std::size_t start) {
     const std::size_t termAt = start + kOpening + kKeyLength;

@@ -9,9 +9,6 @@ namespace kalyxo {
 /// What the address of a glossary link begins with; the term's 8-character key and ".htm" follow.
 inline constexpr std::string_view kGlossaryPrefix = "pjqbhg";
 
-/// Whether an address, in any letter case, is that of a glossary link.
-bool IsGlossaryLink(std::string_view url);
-
 /// Rewrites the term whose "~G" stands at `start` of `line` into a link. False, with the line unchanged, when
 /// the markup has no closing "~" or it stands within the key.
 bool InsertGlossaryLink(std::string& line, std::size_t start);

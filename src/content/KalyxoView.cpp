@@ -20,7 +20,6 @@ constexpr COLORREF kBlack = RGB(0, 0, 0);
 constexpr COLORREF kBetweenPanes = RGB(255, 255, 255);
 
 /// Identifiers that components and the splitter put into the second parameter of WM_COMMAND.
-constexpr LPARAM kShowEnlargedView = 9821;
 constexpr LPARAM kRefreshBrowser = 9822;
 constexpr LPARAM kSplitterMoved = IDC_SPLITTER;
 
@@ -89,6 +88,7 @@ void CKalyxoView::OnSize(UINT type, int width, int height) {
 bool CKalyxoView::OnCommand(WPARAM wParam, LPARAM lParam) {
     switch (lParam) {
         case kShowEnlargedView:
+            ShowEnlargedView();
             return true;
         case kRefreshBrowser:
             m_components.browser.Refresh2();

@@ -6,6 +6,7 @@
 #include "src/bookmarks/BookmarkList.h"
 #include "src/components/ElementIndex.h"
 #include "src/content/ContentMode.h"
+#include "src/content/GlossaryPopup.h"
 #include "src/content/History.h"
 #include "src/content/HostedComponents.h"
 #include "src/content/MainMenuScreen.h"
@@ -42,6 +43,8 @@ class CKalyxoView : public platform::CView {
     void ShowMainMenu();
     void ShowPeriodicTable();
     void ShowDataAnalyser();
+    /// Shows the page's video or molecule large, in a dialog under the title of what is on show.
+    void ShowEnlargedView();
 
     ContentMode Mode() const { return m_mode; }
     /// What page mode shows; keeps its last value in the other modes.
@@ -55,9 +58,13 @@ class CKalyxoView : public platform::CView {
     const BookmarkList& Bookmarks() const { return m_bookmarks; }
     bool StartupFailed() const { return m_bStartupFailed; }
     HostedComponents& Components() { return m_components; }
+    const GlossaryPopup& Glossary() const { return m_glossary; }
     CSplitterBar& Splitter() { return m_splitter; }
 
   private:
+    /// In the second parameter of WM_COMMAND, from a component or the view itself: opens the enlarged view.
+    static constexpr platform::LPARAM kShowEnlargedView = 9821;
+
     // Window messages
     void OnSize(platform::UINT type, int width, int height);
     bool OnSetCursor();
@@ -124,6 +131,7 @@ class CKalyxoView : public platform::CView {
     void RecordHistory(const PageAddress& place) { m_history.Record(place); }
     void ShowPreparedPage(const std::string& target);
     void openSectionOfSlot(int slot);
+    void showDefinition(const std::string& file);
 
     // Modes and panes
     void selectSlot(int slot);
@@ -154,6 +162,7 @@ class CKalyxoView : public platform::CView {
     ElementIndex m_elements;
     HostedComponents m_components;
     CSplitterBar m_splitter;
+    GlossaryPopup m_glossary;
     platform::CCursor m_handCursor;
     bool m_bLayoutPending = false;
     /// Until the first paint neither navigations nor the mouse are looked at.

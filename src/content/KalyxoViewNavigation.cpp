@@ -1,8 +1,10 @@
 #include "formats/PageNumber.h"
 #include "formats/SectionTable.h"
 #include "platform/framework/WinApp.h"
+#include "platform/machine/Machine.h"
 #include "src/app/KalyxoApp.h"
-#include "src/content/GlossaryMarkup.h"
+#include "src/content/EnlargedViewDlg.h"
+#include "src/content/GlossaryText.h"
 #include "src/content/KalyxoView.h"
 #include "src/content/LastPreparedPage.h"
 
@@ -79,8 +81,29 @@ bool CKalyxoView::OnElementChosen(std::int16_t elementKey) {
 
 bool CKalyxoView::OnBeforeNavigate(const std::string& url, std::int32_t, const std::string&, const Variant&,
                                    const std::string&, bool* cancel) {
-    if (!m_bInterceptionSuppressed && IsGlossaryLink(url)) *cancel = true;
+    if (m_bInterceptionSuppressed) return true;
+    if (IsEnlargedViewLink(url)) {
+        *cancel = true;
+        // Not from within the browser's question, during which no page can be loaded.
+        PostMessage(WM_COMMAND, 0, kShowEnlargedView);
+    } else if (const std::optional<std::string> file = GlossaryFile(url)) {
+        *cancel = true;
+        showDefinition(*file);
+    }
     return true;
+}
+
+void CKalyxoView::showDefinition(const std::string& file) {
+    m_glossary.Hide();
+    const std::string path = TheApp().m_strDataFolder + "glossary\\" + file;
+    if (const auto definition = ReadDefinition(machine().files(), path)) m_glossary.Show(*definition);
+}
+
+void CKalyxoView::ShowEnlargedView() {
+    const std::int32_t item = m_address.itemCode;
+    std::string title = item != 0 ? m_components.select.GetItemTitle(item)
+                                  : m_components.select.GetPageTitle(m_address.pageId);
+    CEnlargedViewDlg(EnlargedViewMode::enlargedView, m_cache.Folder(), std::move(title)).DoModal();
 }
 
 void CKalyxoView::GoBack() {

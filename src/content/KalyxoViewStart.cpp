@@ -27,6 +27,7 @@ void CKalyxoView::OnInitialUpdate() {
     LoadBookmarks();
     LoadElementIndex();
     loadPictures();
+    m_glossary.Create(*this);
     CheckComponentVersions();
 }
 

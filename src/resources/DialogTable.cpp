@@ -56,6 +56,11 @@ constexpr std::array kAbout = {
     version(4, IDC_VERSION_MOLECULE_ZOOM),
 };
 
+/// The dialog takes its sizes from the system's metrics and brings its browser itself.
+constexpr std::array kEnlargedView = {
+    DialogControl{Kind::defaultPushButton, IDOK, CRect::at(200, 312, 40, 12), "OK"},
+};
+
 constexpr std::array kFindFolder = {
     DialogControl{Kind::staticText, IDC_FOLDER_PROMPT, CRect::at(7, 7, 173, 10)},
     DialogControl{Kind::treeView, IDC_FOLDER_TREE, CRect::at(7, 20, 173, 110), "Folders"},
@@ -66,6 +71,7 @@ constexpr std::array kFindFolder = {
 
 constexpr std::array kDialogs = {
     DialogTemplate{IDD_ABOUT, "Πληροφορίες για Kalyxo"_gr, {217, 81}, kAbout},
+    DialogTemplate{IDD_ENLARGED_VIEW, {}, {433, 326}, kEnlargedView},
     DialogTemplate{IDD_FIND_FOLDER, "Find Folder", {187, 177}, kFindFolder},
 };
 

@@ -30,6 +30,9 @@ inline constexpr int IDC_VERSION_PERIODIC_TABLE = 1007;
 inline constexpr int IDC_VERSION_MOLECULE_CONTROLLER = 1008;
 inline constexpr int IDC_VERSION_MOLECULE_ZOOM = 1020;
 
+/// The web browser of the enlarged view.
+inline constexpr platform::UINT IDC_ENLARGED_BROWSER = 1004;
+
 /// Controls of the folder chooser.
 inline constexpr int IDC_FOLDER_TREE = 1009;
 inline constexpr int IDC_FOLDER_DRIVES = 1023;

@@ -4,13 +4,15 @@
 #include "platform/framework/DialogControls.h"
 #include "platform/handles/WindowTable.h"
 #include "platform/windows/ControlText.h"
+#include "src/content/KalyxoView.h"
 #include "tools/drive/Act.h"
 #include "tools/drive/CommandTable.h"
 #include "tools/drive/ControlItems.h"
 #include "tools/drive/Controls.h"
+#include "tools/drive/Program.h"
 #include "tools/drive/Windows.h"
 
-/// Dialogs, and the glossary pop-up, which the program does not show yet.
+/// Dialogs and the glossary pop-up.
 namespace drive {
 
 using namespace platform;
@@ -53,11 +55,15 @@ void tellDialog(Act& act) {
 
 void dialog(Act& act, Program&) { act.whenIdle(tellDialog); }
 
-void tip(Act& act, Program&) {
-    act.set("visible", false);
-    act.set("text", "");
-    act.set("rect", rectangle({}));
+void tellTip(Act& act) {
+    const kalyxo::CKalyxoView* view = Program::view();
+    const bool visible = view != nullptr && view->Glossary().IsVisible();
+    act.set("visible", visible);
+    act.set("text", visible ? text(view->Glossary().Text()) : Json(""));
+    act.set("rect", rectangle(visible ? view->Glossary().Place() : CRect()));
 }
+
+void tip(Act& act, Program&) { act.whenIdle(tellTip); }
 
 constexpr Command kCommands[] = {
     {"dialog", 0, 0, dialog},

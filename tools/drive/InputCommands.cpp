@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QCursor>
+#include <QWidget>
 #include <algorithm>
 #include <array>
 
@@ -7,8 +8,8 @@
 #include "tools/drive/CommandTable.h"
 #include "tools/drive/Keyboard.h"
 #include "tools/drive/Numbers.h"
-#include "tools/drive/PageFrame.h"
 #include "tools/drive/Pointer.h"
+#include "tools/drive/Reaction.h"
 #include "tools/drive/Windows.h"
 
 /// Mouse and keyboard.
@@ -34,20 +35,6 @@ std::optional<Spot> spotOf(Act& act, std::size_t first) {
     if (!choice.error.empty()) act.fail(choice.error);
     if (!x || !y || choice.window == 0) return std::nullopt;
     return Spot{choice.window, {*x, *y}};
-}
-
-/// A page that has not drawn by then does not react to the input.
-constexpr std::chrono::milliseconds kReactionLimit{250};
-
-/// Input goes on its way in events; behind them, has the answer wait until the web page that receives them,
-/// if one does, has reacted. `receiver` is asked then.
-void awaitReaction(Act& act, QWidget* (*receiver)()) {
-    const auto hold = std::make_shared<Act::Hold>(act);
-    const auto behindInput = [hold, receiver] {
-        QWebEngineView* page = pageAround(receiver());
-        if (page != nullptr) afterNextFrame(*page, kReactionLimit, [hold] {});
-    };
-    QMetaObject::invokeMethod(qApp, behindInput, Qt::QueuedConnection);
 }
 
 QWidget* widgetAtPointer() { return QApplication::widgetAt(QCursor::pos()); }

@@ -1,8 +1,12 @@
+#include <QApplication>
+#include <QCursor>
+
 #include "platform/automation/WebPageInspector.h"
 #include "platform/text/CodePage1253.h"
 #include "tools/drive/Act.h"
 #include "tools/drive/CommandTable.h"
 #include "tools/drive/Controls.h"
+#include "tools/drive/Reaction.h"
 
 /// The page in the web browser. What asks the engine runs the event loop until it has answered.
 namespace drive {
@@ -32,7 +36,10 @@ void link(Act& act, Program&) {
     const Act::Hold hold(act);
     WebPageInspector* shown = browserFor(act);
     if (shown == nullptr) return;
-    if (!shown->clickLink(platform::fromUtf8(act.word(0)))) act.fail("the page has no link " + act.word(0));
+    if (!shown->clickLink(platform::fromUtf8(act.word(0)))) {
+        return act.fail("the page has no link " + act.word(0));
+    }
+    awaitReaction(act, [] { return QApplication::widgetAt(QCursor::pos()); });
 }
 
 constexpr Command kCommands[] = {{"page", 0, 0, page}, {"link", 1, 1, link}};
