@@ -1,6 +1,7 @@
 #include "platform/automation/PagePrinter.h"
 
 #include <QFile>
+#include <QPageLayout>
 #include <QPointer>
 #include <QPrinter>
 #include <QTimer>
@@ -13,6 +14,9 @@
 namespace platform {
 
 namespace {
+
+const QPageLayout kPaper(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(15, 15, 15, 15),
+                         QPageLayout::Millimeter);
 
 /// Pages of a PDF file as the engine writes it, where each page is an object of its own in plain text.
 int countPages(const QByteArray& pdf) {
@@ -49,14 +53,16 @@ void PagePrinter::print() {
 void PagePrinter::printToFile() {
     printing_ = true;
     const std::string title = fromUtf8(view_.title().toStdString());
-    view_.page()->printToPdf([this, title, alive = QPointer<PagePrinter>(this)](const QByteArray& pdf) {
-        const std::string file = nextPrintFile();
-        QFile out(QString::fromStdString(file));
-        if (!pdf.isEmpty() && out.open(QIODevice::WriteOnly) && out.write(pdf) == pdf.size()) {
-            recordPrint(title, countPages(pdf), file);
-        }
-        if (alive) printing_ = false;
-    });
+    view_.page()->printToPdf(
+        [this, title, alive = QPointer<PagePrinter>(this)](const QByteArray& pdf) {
+            const std::string file = nextPrintFile();
+            QFile out(QString::fromStdString(file));
+            if (!pdf.isEmpty() && out.open(QIODevice::WriteOnly) && out.write(pdf) == pdf.size()) {
+                recordPrint(title, countPages(pdf), file);
+            }
+            if (alive) printing_ = false;
+        },
+        kPaper);
 }
 
 void PagePrinter::printOnPaper() {
