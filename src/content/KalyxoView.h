@@ -15,6 +15,7 @@
 #include "src/content/PictureCapture.h"
 #include "src/content/SectionBar.h"
 #include "src/display/SplitterBar.h"
+#include "src/search/SearchState.h"
 
 namespace kalyxo {
 
@@ -81,6 +82,7 @@ class CKalyxoView : public platform::CView {
     void OnUpdateSection(platform::CCmdUI& ui);
     void OnPrint();
     void OnUpdatePrint(platform::CCmdUI& ui);
+    void OnSearch();
     void OnCut();
     void OnCopy();
     void execInDocument(std::int32_t command);
@@ -160,6 +162,7 @@ class CKalyxoView : public platform::CView {
     std::optional<PagePreparer> m_preparer;
     BookmarkList m_bookmarks;
     ElementIndex m_elements;
+    SearchState m_search;
     HostedComponents m_components;
     CSplitterBar m_splitter;
     GlossaryPopup m_glossary;

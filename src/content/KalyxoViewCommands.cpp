@@ -71,6 +71,7 @@ const MessageMap* CKalyxoView::GetMessageMap() const {
         OnUpdateId<&CKalyxoView::OnUpdateForward>(ID_FORWARD),
         OnCommandId<&CKalyxoView::OnPrint>(ID_FILE_PRINT),
         OnUpdateId<&CKalyxoView::OnUpdatePrint>(ID_FILE_PRINT),
+        OnCommandId<&CKalyxoView::OnSearch>(ID_SEARCH),
         OnCommandId<&CKalyxoView::OnCut>(ID_EDIT_CUT),
         OnUpdateId<&CKalyxoView::OnUpdateCutAndPaste>(ID_EDIT_CUT),
         OnCommandId<&CKalyxoView::OnCopy>(ID_EDIT_COPY),

@@ -7,6 +7,7 @@
 #include "src/content/GlossaryText.h"
 #include "src/content/KalyxoView.h"
 #include "src/content/LastPreparedPage.h"
+#include "src/search/SearchDlg.h"
 
 /// How the view comes to a page: sections, events of the components, and the history.
 namespace kalyxo {
@@ -104,6 +105,16 @@ void CKalyxoView::ShowEnlargedView() {
     std::string title = item != 0 ? m_components.select.GetItemTitle(item)
                                   : m_components.select.GetPageTitle(m_address.pageId);
     CEnlargedViewDlg(EnlargedViewMode::enlargedView, m_cache.Folder(), std::move(title)).DoModal();
+}
+
+void CKalyxoView::OnSearch() {
+    CSearchDlg dialog(machine().files(), TheApp().m_strDataFolder, m_search);
+    if (dialog.DoModal() != IDOK || dialog.Chosen().pageId < 1) return;
+    m_search = dialog.State();
+    const SearchHit& hit = dialog.Chosen();
+    OpenSection(hit.sectionCode, 0);
+    m_address.pageId = hit.pageId;
+    m_components.select.ShowItem(hit.pageId, hit.itemCode, false);
 }
 
 void CKalyxoView::GoBack() {

@@ -69,10 +69,35 @@ constexpr std::array kFindFolder = {
     DialogControl{Kind::pushButton, IDCANCEL, CRect::at(130, 156, 50, 14), "Cancel"},
 };
 
+constexpr platform::DWORD kUsual = platform::WS_VISIBLE | platform::WS_TABSTOP;
+
+constexpr std::array kSearch = {
+    DialogControl{Kind::staticText, IDC_SEARCH_LABEL, CRect::at(5, 5, 40, 8), "Αναζήτηση"_gr},
+    DialogControl{Kind::edit,
+                  IDC_SEARCH_WORD,
+                  CRect::at(5, 15, 90, 12),
+                  {},
+                  0,
+                  kUsual | platform::ES_LOWERCASE | platform::ES_AUTOHSCROLL},
+    DialogControl{
+        Kind::listBox, IDC_WORD_LIST, CRect::at(5, 30, 90, 157), {}, 0, kUsual | platform::LBS_SORT},
+    DialogControl{Kind::checkBox, IDC_ALTERNATIVES, CRect::at(1, 192, 98, 8), "Αναζήτηση εναλλακτικών"_gr, 0,
+                  kUsual | platform::BS_LEFTTEXT},
+    DialogControl{Kind::listView, IDC_RESULTS, CRect::at(100, 16, 240, 184), "Αποτελέσματα"_gr, 0,
+                  kUsual | platform::LVS_SORTASCENDING},
+    DialogControl{Kind::listBox, IDC_SEARCH_WORDS, CRect::at(87, 202, 89, 11), {}, 0, 0},
+    DialogControl{Kind::defaultPushButton, IDC_SEARCH_RUN, CRect::at(180, 205, 50, 15), "Αναζήτηση"_gr, 0,
+                  kUsual | platform::WS_DISABLED},
+    DialogControl{Kind::pushButton, IDOK, CRect::at(235, 205, 50, 15), "Μετάβαση"_gr, 0,
+                  kUsual | platform::WS_DISABLED},
+    DialogControl{Kind::pushButton, IDCANCEL, CRect::at(290, 205, 50, 15), "Ακύρωση"_gr},
+};
+
 constexpr std::array kDialogs = {
     DialogTemplate{IDD_ABOUT, "Πληροφορίες για Kalyxo"_gr, {217, 81}, kAbout},
     DialogTemplate{IDD_ENLARGED_VIEW, {}, {433, 326}, kEnlargedView},
     DialogTemplate{IDD_FIND_FOLDER, "Find Folder", {187, 177}, kFindFolder},
+    DialogTemplate{IDD_SEARCH, "Αναζήτηση"_gr, {347, 226}, kSearch},
 };
 
 }  // namespace

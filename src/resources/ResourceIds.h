@@ -22,6 +22,7 @@ inline constexpr platform::UINT IDS_NO_PRINTER = 61232;
 inline constexpr platform::UINT IDD_ABOUT = 100;
 inline constexpr platform::UINT IDD_ENLARGED_VIEW = 151;
 inline constexpr platform::UINT IDD_FIND_FOLDER = 211;
+inline constexpr platform::UINT IDD_SEARCH = 178;
 
 /// Controls of the About box.
 inline constexpr int IDC_VERSION_DATA_ANALYSER = 1005;
@@ -37,6 +38,15 @@ inline constexpr platform::UINT IDC_ENLARGED_BROWSER = 1004;
 inline constexpr int IDC_FOLDER_TREE = 1009;
 inline constexpr int IDC_FOLDER_DRIVES = 1023;
 inline constexpr int IDC_FOLDER_PROMPT = 1024;
+
+/// Controls of the search dialog.
+inline constexpr int IDC_SEARCH_WORD = 1001;
+inline constexpr int IDC_WORD_LIST = 1003;
+inline constexpr int IDC_SEARCH_RUN = 1014;
+inline constexpr int IDC_SEARCH_LABEL = 1015;
+inline constexpr int IDC_ALTERNATIVES = 1017;
+inline constexpr int IDC_RESULTS = 1019;
+inline constexpr int IDC_SEARCH_WORDS = 1021;
 
 /// Bitmap ids.
 inline constexpr platform::UINT IDB_SPLITTER_PATTERN = 133;

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <string>
+
+#include "platform/framework/Dialog.h"
+#include "platform/windows/Button.h"
+#include "platform/windows/Edit.h"
+#include "platform/windows/ListBox.h"
+#include "platform/windows/ListCtrl.h"
+#include "src/search/ResultRows.h"
+#include "src/search/SearchState.h"
+
+namespace kalyxo {
+
+/// The word search: a word of the vocabulary is typed or picked, looked up with or without its other forms,
+/// and one of the places found is chosen.
+class CSearchDlg : public platform::CDialog {
+  public:
+    /// Searches the data folder, which ends with a backslash; `files` must outlive the dialog.
+    CSearchDlg(const platform::FileSystem& files, const std::string& dataFolder, SearchState state);
+
+    static const platform::CRuntimeClass runtimeClass;
+    const platform::CRuntimeClass& GetRuntimeClass() const override { return runtimeClass; }
+    const platform::MessageMap* GetMessageMap() const override;
+
+    /// The chosen place and what to remember of the search; valid after the dialog has ended with OK.
+    const SearchHit& Chosen() const { return m_chosen; }
+    const SearchState& State() const { return m_state; }
+
+  protected:
+    bool OnInitDialog() override;
+    void OnOK() override;
+    void DoDataExchange(platform::CDataExchange& exchange) override;
+
+  private:
+    void OnWordEdited();
+    void OnWordPicked();
+    void OnAlternatives();
+    void RunSearch();
+    platform::LRESULT OnResultClicked(platform::NMHDR& notification);
+    platform::LRESULT OnResultActivated(platform::NMHDR& notification);
+    platform::LRESULT OnResultsLeft(platform::NMHDR& notification);
+    platform::LRESULT OnHeaderClicked(platform::NMLISTVIEW& notification);
+
+    void loadIndex();
+    void insertColumns();
+    void restoreSearch();
+    void UpdateSearchButton();
+    std::vector<std::string> listSearchWords();
+    void AddResultRow(const ResultRow& row);
+    void SortResults(int column);
+
+    const platform::FileSystem& m_files;
+    std::string m_dataFolder;
+    SearchIndex m_index;
+    SearchState m_state;
+    SearchHit m_chosen;
+    /// Mutes the word field while the dialog itself writes into it.
+    bool m_ignoreWordEdits = false;
+
+    platform::CEdit m_word;
+    platform::CListBox m_words;
+    platform::CButton m_alternatives;
+    platform::CListCtrl m_results;
+    platform::CListBox m_searchWords;
+};
+
+}  // namespace kalyxo
