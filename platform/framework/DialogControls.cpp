@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QLabel>
+#include <QProxyStyle>
 #include <QPushButton>
 
 #include "platform/handles/WindowTable.h"
@@ -31,8 +32,21 @@ QWidget& makeButton(const DialogControl& control, QWidget& dialog) {
     return entered(ControlLink::enter(*button, "Button", control.id));
 }
 
+/// Draws check boxes low enough for the height of a line of text, which is all that templates give them.
+class LowIndicator : public QProxyStyle {
+  public:
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+        constexpr int side = 12;
+        const bool isIndicator = metric == PM_IndicatorWidth || metric == PM_IndicatorHeight;
+        return isIndicator ? side : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+};
+
 QWidget& makeCheckBox(const DialogControl& control, QWidget& dialog) {
     auto* const box = new QCheckBox(toQt(control.text), &dialog);
+    auto* const style = new LowIndicator;
+    style->setParent(box);
+    box->setStyle(style);
     if (control.style & BS_LEFTTEXT) box->setLayoutDirection(Qt::RightToLeft);
     sendClicks(*box);
     return entered(ControlLink::enter(*box, "Button", control.id));

@@ -35,6 +35,7 @@ TEST(PageText, WordsAreWhatTheReaderSees) {
         {"{{video melting}} {{data}}images", "images"},
         {"<!-- άλλο > --> &nbsp;α&nbsp;βγ&deg;δε & ζη &x", "βγ δε ζη"},
         {"<IMG ALT=\"κείμενο\" SRC=\"{{data}}x.png\">", ""},
+        {"2NaCl (NH<SUB>4</SUB>)<SUB>2</SUB>SO<SUB>4</SUB> 18ος", "nacl nh4 so4 ος"},
         {"2 a 1,008 20 &#913;&#946; &#xffffffff;&#99999999999;", "αβ"},
         {"<unclosed", ""},
         {"{{unclosed", ""},

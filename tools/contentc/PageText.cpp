@@ -112,8 +112,6 @@ void dropSecondAccent(std::string& word) {
     word[last] = letter == "ΐ"_gr[0] ? "ϊ"_gr[0] : letter == "ΰ"_gr[0] ? "ϋ"_gr[0] : plain[0];
 }
 
-bool isWord(std::string_view run) { return run.size() >= 2 && std::ranges::any_of(run, isLetter); }
-
 }  // namespace
 
 std::string visibleText(const std::vector<TextLine>& body) {
@@ -133,10 +131,10 @@ std::set<std::string> wordsOf(std::string_view text) {
     std::set<std::string> words;
     const auto isInWord = [](char c) { return isLetter(c) || isDigit(c); };
     for (auto at = text.begin(); at != text.end();) {
-        const auto begin = std::find_if(at, text.end(), isInWord);
+        const auto begin = std::find_if(at, text.end(), isLetter);
         at = std::find_if_not(begin, text.end(), isInWord);
         const std::string_view run(begin, at);
-        if (isWord(run)) words.insert(normalizedWord(run));
+        if (run.size() >= 2) words.insert(normalizedWord(run));
     }
     return words;
 }

@@ -16,8 +16,8 @@ std::string visibleText(const std::vector<TextLine>& body);
 /// (the second comes from the word behind).
 std::string normalizedWord(std::string_view word);
 
-/// The words of a text, normalized: runs of letters and digits with at least one letter, two characters or
-/// longer. Chemical formulas are words.
+/// The words of a text, normalized: runs of letters and digits that begin with a letter, two characters or
+/// longer. Chemical formulas are words, without the number before them.
 std::set<std::string> wordsOf(std::string_view text);
 
 /// The words of a page's title and body.
