@@ -15,7 +15,8 @@ void DllRegisterServer(platform::ModuleRegistrar& registrar) {
 
 const platform::ControlModule* DllGetClassObject() {
     static constexpr platform::ControlModule module{.classId = controls::molctrl::classId,
-                                                    .create = controls::molctrl::createMoleculeController};
+                                                    .create = controls::molctrl::createMoleculeController,
+                                                    .pagePart = {":/molctrl/controller.html", {}}};
     return &module;
 }
 

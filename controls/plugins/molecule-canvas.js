@@ -45,9 +45,9 @@ class CanvasDrawing {
     this.background = background;
     this.isFlat = molecule.atoms.length > mostShaded;
     this.mixed = new Map();
-    const neighbours = molecule.atoms.map(() => []);
-    for (const { a, b } of molecule.bonds) { neighbours[a].push(b); neighbours[b].push(a); }
-    for (const bond of molecule.bonds) bond.beside = besideBond(molecule, bond, neighbours);
+    this.neighbours = molecule.atoms.map(() => []);
+    for (const { a, b } of molecule.bonds) { this.neighbours[a].push(b); this.neighbours[b].push(a); }
+    for (const bond of molecule.bonds) bond.beside = besideBond(molecule, bond, this.neighbours);
   }
 
   resize(width, height, ratio) {
@@ -72,20 +72,59 @@ class CanvasDrawing {
     context.setTransform(this.ratio, 0, 0, this.ratio, 0, 0);
     context.fillStyle = this.background;
     context.fillRect(0, 0, camera.width, camera.height);
-    this.camera = camera;
-    for (const atom of molecule.atoms) atom.place = camera.project(atom.at);
-    const parts = [];
-    for (const atom of molecule.atoms) {
-      if (this.isShown(atom) && this.style !== 'wire') parts.push({ z: atom.place.z, draw: () => this.ball(atom) });
-    }
-    if (this.style !== 'spaces') {
-      for (const bond of molecule.bonds) {
-        const [a, b] = [molecule.atoms[bond.a], molecule.atoms[bond.b]];
-        if (this.isShown(a) && this.isShown(b)) parts.push(...this.bond(bond, a, b));
-      }
-    }
-    if (this.style === 'wire') parts.push(...this.lone());
+    this.project = camera.projector();
+    for (const atom of molecule.atoms) atom.place = this.project(atom.at);
+    const parts = this.isFlat ? this.flatParts() : this.shadedParts();
     for (const part of parts.sort((a, b) => a.z - b.z)) part.draw();
+  }
+
+  shadedParts() {
+    const { style, molecule: { atoms, bonds } } = this;
+    const parts = [];
+    if (style === 'wire') parts.push(...this.lone());
+    else for (const atom of atoms) if (this.isShown(atom)) parts.push({ z: atom.place.z, draw: () => this.ball(atom) });
+    if (style === 'spaces') return parts;
+    for (const bond of bonds) {
+      const [a, b] = [atoms[bond.a], atoms[bond.b]];
+      if (this.isShown(a) && this.isShown(b)) parts.push(...this.bond(bond, a, b));
+    }
+    return parts;
+  }
+
+  /// An atom with the halves of its bonds is one thing here.
+  flatParts() {
+    const { style, molecule: { atoms } } = this;
+    return atoms.flatMap((atom, i) => this.isShown(atom) ? [{ z: atom.place.z, draw: () => {
+      if (style !== 'spaces') this.flatBonds(atom, this.neighbours[i]);
+      if (style !== 'wire') this.flatBall(atom);
+    } }] : []);
+  }
+
+  flatBonds(atom, others) {
+    const c = this.context, { x, y, z, scale } = atom.place;
+    c.strokeStyle = this.shade(lookOf(atom.element).colour, z);
+    c.lineWidth = this.style === 'wire' ? 1 : Math.max(stickRadius[this.style] * 2 * scale, 1);
+    c.beginPath();
+    for (const j of others) {
+      const other = this.molecule.atoms[j];
+      if (!this.isShown(other)) continue;
+      c.moveTo(x, y);
+      c.lineTo((x + other.place.x) / 2, (y + other.place.y) / 2);
+    }
+    c.stroke();
+  }
+
+  flatBall(atom) {
+    const c = this.context, { x, y, z, scale } = atom.place;
+    const radius = this.radiusOf(atom) * scale;
+    c.beginPath();
+    c.arc(x, y, radius, 0, 2 * Math.PI);
+    c.fillStyle = this.shade(lookOf(atom.element).colour, z);
+    c.fill();
+    if (radius < 3) return;
+    c.strokeStyle = this.mix(c.fillStyle, '#000000', 0.5);
+    c.lineWidth = 1;
+    c.stroke();
   }
 
   /// The colour as seen at a depth: what lies behind pales into the background. In steps, so that few colours are mixed.
@@ -105,17 +144,6 @@ class CanvasDrawing {
     const c = this.context, { x, y, z, scale } = atom.place;
     const radius = this.radiusOf(atom) * scale;
     const colour = this.shade(lookOf(atom.element).colour, z);
-    c.beginPath();
-    c.arc(x, y, radius, 0, 2 * Math.PI);
-    if (this.isFlat) {
-      c.fillStyle = colour;
-      c.fill();
-      if (radius < 1.5) return;
-      c.strokeStyle = this.mix(colour, '#000000', 0.5);
-      c.lineWidth = 1;
-      c.stroke();
-      return;
-    }
     const fill = c.createRadialGradient(x + light[0] * radius, y + light[1] * radius, radius * 0.05,
                                         x + light[0] * radius * 0.3, y + light[1] * radius * 0.3, radius * 1.15);
     fill.addColorStop(0, this.mix(colour, '#ffffff', 0.85));
@@ -123,31 +151,32 @@ class CanvasDrawing {
     fill.addColorStop(0.6, colour);
     fill.addColorStop(1, this.mix(colour, '#000000', 0.62));
     c.fillStyle = fill;
+    c.beginPath();
+    c.arc(x, y, radius, 0, 2 * Math.PI);
     c.fill();
   }
 
   /// The halves of a bond's sticks, each in its atom's colour.
   bond(bond, a, b) {
     const middle = add(a.at, b.at).map(v => v / 2);
-    const isThin = this.style === 'wire' || this.isFlat;
     return sticksOf(bond.order).flatMap(([place, thickness]) => [a, b].map(atom => {
       const aside = place * sideBySide / 2;
       const along = unit(add(middle, atom.at, -1)) ?? [0, 0, 0];
       const surface = this.style === 'balls' ? Math.sqrt(Math.max(this.radiusOf(atom) ** 2 - aside ** 2, 0)) * 0.97 : 0;
       const start = add(atom.at, along, Math.min(surface, length(add(middle, atom.at, -1))));
-      const [from, to] = [start, middle].map(point => this.camera.project(add(point, bond.beside, aside)));
+      const [from, to] = [start, middle].map(point => this.project(add(point, bond.beside, aside)));
       const { colour } = lookOf(atom.element);
-      if (isThin) return this.line(from, to, this.style === 'wire' ? 1.5 : stickRadius[this.style] * 2 * from.scale, colour);
+      if (this.style === 'wire') return this.line(from, to, colour);
       return this.stick(from, to, length(add(middle, start, -1)), stickRadius[this.style] * thickness, colour);
     }));
   }
 
-  line(from, to, width, colour) {
+  line(from, to, colour) {
     const z = (from.z + to.z) / 2;
     return { z, draw: () => {
       const c = this.context;
       c.strokeStyle = this.shade(colour, z);
-      c.lineWidth = Math.max(width, 1);
+      c.lineWidth = 2;
       c.beginPath();
       c.moveTo(from.x, from.y);
       c.lineTo(to.x, to.y);
@@ -184,11 +213,10 @@ class CanvasDrawing {
 
   /// Atoms without a bond are crosses in the wire model, which would not show them.
   lone() {
-    const bound = new Set(this.molecule.bonds.flatMap(({ a, b }) => [a, b]));
     return this.molecule.atoms.flatMap((atom, i) => {
-      if (bound.has(i) || !this.isShown(atom)) return [];
+      if (this.neighbours[i].length > 0 || !this.isShown(atom)) return [];
       const { x, y, z } = atom.place, { colour } = lookOf(atom.element);
-      return [[4, 0], [0, 4]].map(([dx, dy]) => this.line({ x: x - dx, y: y - dy, z }, { x: x + dx, y: y + dy, z }, 1.5, colour));
+      return [[4, 0], [0, 4]].map(([dx, dy]) => this.line({ x: x - dx, y: y - dy, z }, { x: x + dx, y: y + dy, z }, colour));
     });
   }
 

@@ -48,29 +48,35 @@ class Camera {
 
   zoomBy(factor) { this.zoom = Math.min(Math.max(this.zoom * factor, Camera.leastZoom), Camera.mostZoom); }
 
-  /// From the eye to the molecule's middle.
-  get distance() {
-    const scale = 0.44 * Math.min(this.width, this.height) / this.reach * this.zoom;
-    return this.height / 2 / (scale * Math.tan(Camera.fieldOfView * Math.PI / 360));
-  }
+  /// What a place is multiplied by, divided by its distance from the eye, for pixels.
+  get lens() { return this.height / 2 / Math.tan(Camera.fieldOfView * Math.PI / 360); }
 
-  /// Place and scale (pixels for one ångström) of a point; z as seen. Nothing behind the eye has a place.
-  project(at) {
-    const [x, y, z] = apply(this.turn, at);
-    const depth = this.distance - z;
-    const scale = depth > 0.1 ? this.height / 2 / (depth * Math.tan(Camera.fieldOfView * Math.PI / 360)) : 0;
-    return { x: this.width / 2 + x * scale, y: this.height / 2 - y * scale, z, scale };
+  /// From the eye to the molecule's middle.
+  get distance() { return this.lens / (0.44 * Math.min(this.width, this.height) / this.reach * this.zoom); }
+
+  /// A function that gives place and scale (pixels for one ångström) of a point as seen now, and z towards the eye. What
+  /// is behind the eye has the scale 0.
+  projector() {
+    const { turn: [right, up, near], distance, lens } = this;
+    const [middleX, middleY] = [this.width / 2, this.height / 2];
+    return at => {
+      const z = dot(near, at), depth = distance - z;
+      const scale = depth > 0.1 ? lens / depth : 0;
+      return { x: middleX + dot(right, at) * scale, y: middleY - dot(up, at) * scale, z, scale };
+    };
   }
 }
 
-/// Puts the molecule's middle at the origin and says how far it reaches.
+/// Puts the molecule's middle at the origin and says how far it reaches, as a model and with the atoms' full size.
 function centre(molecule) {
   const { atoms } = molecule;
   const ends = [0, 1, 2].map(i => atoms.reduce(([low, high], { at }) => [Math.min(low, at[i]), Math.max(high, at[i])],
                                                [Infinity, -Infinity]));
   const middle = ends.map(([low, high]) => (low + high) / 2);
   for (const atom of atoms) atom.at = add(atom.at, middle, -1);
-  molecule.reach = atoms.reduce((most, { at, element }) => Math.max(most, length(at) + lookOf(element).ball), 0);
+  const reach = radius => atoms.reduce((most, { at, element }) => Math.max(most, length(at) + lookOf(element)[radius]), 0);
+  molecule.reach = reach('ball');
+  molecule.fullReach = reach('space');
   return molecule;
 }
 

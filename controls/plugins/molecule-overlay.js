@@ -50,8 +50,9 @@ class Overlay {
   }
 
   labels(camera, isShown) {
+    const project = camera.projector();
     const places = this.molecule.atoms.map((atom, i) => ({ atom, i })).filter(({ atom }) => isShown(atom))
-      .map(({ atom, i }) => ({ text: atom.element + (i + 1), ...camera.project(atom.at) }));
+      .map(({ atom, i }) => ({ text: atom.element + (i + 1), ...project(atom.at) }));
     this.context.font = 'bold 11px ' + overlayFont;
     this.context.textAlign = 'center';
     for (const { text, x, y } of places.sort((a, b) => a.z - b.z).slice(-mostLabels)) this.text(text, x, y, this.ink);
@@ -59,7 +60,8 @@ class Overlay {
 
   measures(camera, picked) {
     const c = this.context;
-    const places = picked.map(atom => camera.project(atom.at));
+    const project = camera.projector();
+    const places = picked.map(atom => project(atom.at));
     c.strokeStyle = measureColour;
     c.setLineDash([4, 3]);
     c.lineWidth = 1.5;

@@ -33,7 +33,7 @@ class WebGlDrawing {
       backgroundColor: background, nomouse: true, antialias: true, upscale: molecule.atoms.length < 1500,
     });
     if (!this.viewer) { this.element.remove(); throw new Error('no viewer'); }
-    this.viewer.setSlab(-molecule.reach - 3, 3 * molecule.reach + 3);
+    this.viewer.setSlab(-molecule.fullReach - 1, 3 * molecule.fullReach);
     this.model = this.viewer.addModel();
     this.model.addAtoms(this.libraryAtoms());
   }

@@ -43,6 +43,7 @@ class Viewer {
   isShown = ({ element }) => this.state.hydrogens || element !== 'H';
 
   look() {
+    this.camera.reach = this.state.style === 'spaces' ? this.molecule.fullReach : this.molecule.reach;
     this.drawing.setLook(this.state.style, this.isShown);
     this.request();
   }
@@ -137,10 +138,11 @@ class Viewer {
 
   /// The foremost atom at a place of the frame.
   atomAt(x, y) {
+    const project = this.camera.projector();
     let found, nearest = -Infinity;
     for (const atom of this.molecule.atoms) {
       if (!this.isShown(atom)) continue;
-      const place = this.camera.project(atom.at);
+      const place = project(atom.at);
       const { ball, space } = lookOf(atom.element);
       const radius = Math.max((this.state.style === 'spaces' ? space : ball) * place.scale, 5);
       if (place.z > nearest && Math.hypot(place.x - x, place.y - y) <= radius) [found, nearest] = [atom, place.z];

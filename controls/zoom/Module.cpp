@@ -1,3 +1,5 @@
+#include <array>
+
 #include "controls/zoom/MoleculeZoom.h"
 #include "platform/automation/ControlModule.h"
 
@@ -14,8 +16,10 @@ void DllRegisterServer(platform::ModuleRegistrar& registrar) {
 }
 
 const platform::ControlModule* DllGetClassObject() {
+    static constexpr std::array commands = {controls::zoom::showEnlargedView};
     static constexpr platform::ControlModule module{.classId = controls::zoom::classId,
-                                                    .create = controls::zoom::createMoleculeZoom};
+                                                    .create = controls::zoom::createMoleculeZoom,
+                                                    .pagePart = {":/zoom/zoom.html", commands}};
     return &module;
 }
 

@@ -27,7 +27,7 @@ constexpr auto source = QLatin1StringView(R"((() => {
         const parameters = attributesOf(element, 'src');
         element.dataset.plugin = ++plugins;
         parameters.set('plugin', plugins);
-        element.removeAttribute('type');
+        element.setAttribute('type', 'text/html');
         element.setAttribute('src', file + '?' + parameters);
     };
     const adoptComponent = element => {

@@ -49,8 +49,11 @@ void BrowserMachine::write(const std::string& dosPath, const std::string& text) 
 }
 
 void BrowserMachine::copyData(const std::string& name, const std::string& dosPath) {
-    ASSERT_TRUE(QFile::copy(QStringLiteral(TEST_DATA "/") + QString::fromStdString(name),
-                            QString::fromStdString(hostPath(dosPath))));
+    copyFile(TEST_DATA "/" + name, dosPath);
+}
+
+void BrowserMachine::copyFile(const std::string& native, const std::string& dosPath) {
+    ASSERT_TRUE(QFile::copy(QString::fromStdString(native), QString::fromStdString(hostPath(dosPath))));
 }
 
 void BrowserMachine::writePicture(const std::string& dosPath, int width, int height, QColor colour) {

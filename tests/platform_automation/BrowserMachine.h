@@ -25,6 +25,8 @@ class BrowserMachine : public testing::Test {
     void write(const std::string& dosPath, const std::string& text);
     /// Copies one of the files of the tests.
     void copyData(const std::string& name, const std::string& dosPath);
+    /// Copies a file of the operating system.
+    void copyFile(const std::string& native, const std::string& dosPath);
     /// A picture of one colour.
     void writePicture(const std::string& dosPath, int width, int height, QColor colour);
 
@@ -57,6 +59,7 @@ class BrowserMachine : public testing::Test {
     QWidget* input() { return host_->control().widget().focusProxy(); }
     void doubleClick(QPoint point);
 
+    platform::Registry& registry() { return machine_->registry(); }
     std::vector<platform::TraceEntry> takeTrace() { return machine_->trace().take(); }
     /// Addresses of the navigations that were cancelled since the last call.
     std::vector<std::string> takeRefused();

@@ -57,6 +57,7 @@ std::optional<Variant> TestControl::invoke(std::int32_t dispid, InvokeKind kind,
 }
 
 constexpr std::string_view id = "0A1B2C3D-0000-4000-8000-00000000ABCD";
+constexpr std::array<LPARAM, 1> partCommands = {4711};
 
 }  // namespace
 
@@ -65,9 +66,11 @@ extern "C" __attribute__((visibility("default"))) void DllRegisterServer(ModuleR
 }
 
 extern "C" __attribute__((visibility("default"))) const ControlModule* DllGetClassObject() {
-    static const ControlModule module{ControlModule::currentInterface, id,
+    static const ControlModule module{ControlModule::currentInterface,
+                                      id,
                                       [](ControlSite& site, QWidget* parent) -> std::unique_ptr<Control> {
                                           return std::make_unique<TestControl>(site, parent);
-                                      }};
+                                      },
+                                      {":/part/part.html", partCommands}};
     return &module;
 }

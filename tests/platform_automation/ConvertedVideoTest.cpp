@@ -1,0 +1,81 @@
+#include <unistd.h>
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+#include "tests/platform_automation/BrowserMachine.h"
+
+using namespace platform;
+
+namespace {
+
+/// How many processes of this name the test has started that are still there.
+int children(const QByteArray& name) {
+    int found = 0;
+    for (const QString& entry : QDir(QStringLiteral("/proc")).entryList({QStringLiteral("[0-9]*")})) {
+        QFile file(QStringLiteral("/proc/%1/stat").arg(entry));
+        if (!file.open(QIODevice::ReadOnly)) continue;
+        const QByteArray line = file.readAll();
+        const QList<QByteArray> fields = line.sliced(line.lastIndexOf(')') + 2).split(' ');
+        if (line.contains("(" + name + ")") && fields.value(1).toInt() == ::getpid()) ++found;
+    }
+    return found;
+}
+
+class ConvertedVideo : public BrowserMachine {
+  protected:
+    void openFilm(const std::string& film, const std::string& attributes) {
+        const std::string file = "D:\\x" + film.substr(film.rfind('.'));
+        copyFile(MADE_FILMS "/" + film, file);
+        write("D:\\a.htm", "<BODY STYLE=\"margin:0\"><EMBED SRC=\"" + file + "\" WIDTH=320 HEIGHT=258 " +
+                               attributes + ">");
+        open("D:\\a.htm");
+    }
+    bool showsFilm() {
+        return count(CRect::at(0, 0, 160, 240), QColor(0x20, 0x50, 0xe0)) > 30000 &&
+               count(CRect::at(160, 0, 160, 240), QColor(0xe0, 0x30, 0x20)) > 30000;
+    }
+};
+
+TEST_F(ConvertedVideo, PlaysOldKindsOfFile) {
+    for (const char* film : {"cinepak.avi", "quiet.mov", "mpeg1.mpg"}) {
+        openFilm(film, "AUTOPLAY=TRUE");
+        EXPECT_TRUE(runUntil([&] { return text() == "0:01"; })) << film << ": " << text();
+        EXPECT_TRUE(showsFilm()) << film;
+    }
+}
+
+TEST_F(ConvertedVideo, WaitsGoesOnFromAnyPlaceAndEnds) {
+    openFilm("cinepak.avi", "");
+    EXPECT_TRUE(runUntil([&] { return showsFilm(); })) << "the first picture";
+    EXPECT_EQ(text(), "0:00");
+    // The slider, four fifths along.
+    QTest::mouseClick(input(), Qt::LeftButton, {}, {200, 249});
+    EXPECT_TRUE(runUntil([&] { return text() >= "0:03"; })) << text();
+    EXPECT_TRUE(showsFilm());
+    QTest::mouseClick(input(), Qt::LeftButton, {}, {13, 249});
+    EXPECT_TRUE(runUntil([&] { return text() == "0:06"; })) << "it plays to its end: " << text();
+}
+
+TEST_F(ConvertedVideo, LeavesNothingBehind) {
+    const QStringList before = QDir::temp().entryList();
+    openFilm("mpeg1.mpg", "AUTOPLAY=TRUE");
+    EXPECT_TRUE(runUntil([&] { return text() == "0:01"; }));
+    open("about:blank");
+    EXPECT_TRUE(runUntil([] { return children("ffmpeg") + children("ffprobe") == 0; }));
+    for (const QString& name : QDir::temp().entryList()) {
+        EXPECT_TRUE(before.contains(name) || !name.contains(u"ffmpeg")) << name.toStdString();
+    }
+}
+
+TEST_F(ConvertedVideo, IsRefusedWhenTheFileIsNoFilm) {
+    const std::string playlist = "#EXTM3U\n#EXTINF:10,\n" MADE_FILMS "/mpeg1.mpg\n#EXT-X-ENDLIST\n";
+    for (const std::string& content : {std::string(), std::string("RIFF\0\0\0\0AVI ", 12), playlist}) {
+        write("D:\\x.avi", content);
+        write("D:\\a.htm", "<EMBED SRC=x.avi WIDTH=320 HEIGHT=258>");
+        open("D:\\a.htm");
+        EXPECT_TRUE(runUntil([&] { return text() == "Το βίντεο δεν μπορεί να προβληθεί."; })) << text();
+    }
+}
+
+}  // namespace

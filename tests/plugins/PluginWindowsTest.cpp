@@ -1,0 +1,130 @@
+#include <QElapsedTimer>
+#include <filesystem>
+#include <fstream>
+
+#include "platform/automation/WebBrowserControl.h"
+#include "platform/handles/WindowTable.h"
+#include "platform/windows/ChildWindows.h"
+#include "platform/windows/ControlContainer.h"
+#include "tests/platform_windows/TestProgram.h"
+
+namespace windows_test {
+
+using namespace platform;
+
+namespace {
+
+class Browser : public CWnd {
+  public:
+    const CRuntimeClass& GetRuntimeClass() const override {
+        static constexpr CRuntimeClass runtimeClass{"CWebBrowser"};
+        return runtimeClass;
+    }
+    void navigate(const std::string& address) {
+        Invoke<void>(104, InvokeKind::method, address, Variant(), Variant(), Variant(), Variant());
+    }
+};
+
+/// A browser of 600 × 400 pixels at (20, 10) of the view, with a page of a molecule above a video, both in
+/// the middle, and a third file that is no plug-in's.
+class PluginWindows : public ProgramTest {
+  protected:
+    void SetUp() override {
+        write("x.mol", "\n\n\n  1  0\n    0.0000    0.0000    0.0000 O\n");
+        std::filesystem::copy_file(FILM, TEST_MODULE_FOLDER "/x.webm",
+                                   std::filesystem::copy_options::overwrite_existing);
+        write("page.htm",
+              "<BODY STYLE=\"margin:0;overflow:hidden\"><CENTER><EMBED SRC=x.mol WIDTH=340 HEIGHT=290><BR>"
+              "<EMBED SRC=x.webm WIDTH=320 HEIGHT=258><BR><EMBED SRC=x.txt WIDTH=50 HEIGHT=50></CENTER>");
+        write("empty.htm", "<BODY>");
+        open({100, 80, 840, 560});
+        ASSERT_TRUE(browser_.CreateControl(WebBrowserControl::classId, "Web", WS_CHILD | WS_VISIBLE,
+                                           CRect::at(20, 10, 600, 400), view(), 1025));
+        show("page.htm");
+    }
+
+    static void write(const std::string& name, const std::string& text) {
+        std::ofstream(std::string(TEST_MODULE_FOLDER "/") + name, std::ios::binary) << text;
+    }
+
+    void show(const std::string& page) {
+        browser_.navigate("M:\\" + page);
+        EXPECT_TRUE(runUntil([&] { return !controlHostOf(browser_.GetSafeHwnd())->control().busy(); }));
+    }
+
+    static bool runUntil(const std::function<bool()>& condition) {
+        QElapsedTimer time;
+        time.start();
+        while (!condition() && time.elapsed() < 10000) settleFor(5);
+        return condition();
+    }
+
+    static std::vector<HWND> below(const CWnd& parent) {
+        std::vector<HWND> windows;
+        EnumChildWindows(parent.GetSafeHwnd(), [&](HWND window) {
+            windows.push_back(window);
+            return true;
+        });
+        return windows;
+    }
+
+    /// Where a plug-in's client area is in the browser's.
+    CRect place(HWND window) const {
+        const CPoint corner = browser_.ScreenToClient(ClientToScreen(window, {0, 0}));
+        const CRect client = GetClientRect(window);
+        return CRect::at(corner.x, corner.y, client.Width(), client.Height());
+    }
+
+    Browser browser_;
+};
+
+TEST_F(PluginWindows, StandBelowTheBrowserInTheOrderOfThePage) {
+    const std::vector<HWND> windows = below(browser_);
+    ASSERT_EQ(windows.size(), 2U);
+    EXPECT_EQ(place(windows[0]), CRect::at(130, 0, 340, 290));
+    EXPECT_EQ(place(windows[1]).Width(), 320);
+    EXPECT_EQ(place(windows[1]).Height(), 258);
+    EXPECT_EQ(CWnd::FromHandle(windows[0]), nullptr);
+    const std::vector<HWND> belowView = below(view());
+    EXPECT_EQ(belowView, (std::vector{browser_.GetSafeHwnd(), windows[0], windows[1]}));
+    EXPECT_EQ(WindowFromPoint(browser_.ClientToScreen({200, 50})), &browser_) << "they take no clicks";
+}
+
+TEST_F(PluginWindows, FollowThePage) {
+    const std::vector<HWND> before = below(browser_);
+    browser_.MoveWindow(CRect::at(20, 10, 500, 400));
+    EXPECT_TRUE(runUntil([&] { return place(below(browser_).at(0)) == CRect::at(80, 0, 340, 290); }));
+    EXPECT_EQ(below(browser_), before);
+    show("empty.htm");
+    EXPECT_TRUE(below(browser_).empty());
+    EXPECT_EQ(GetClientRect(before[0]), CRect());
+    show("page.htm");
+    EXPECT_EQ(below(browser_).size(), 2U);
+    EXPECT_NE(below(browser_), before) << "a new page has new windows";
+}
+
+TEST_F(PluginWindows, AreNotEnumeratedFurtherThanWanted) {
+    int calls = 0;
+    EnumChildWindows(browser_.GetSafeHwnd(), [&](HWND) { return ++calls > 9; });
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(PluginWindows, GiveTheirPictures) {
+    const std::vector<HWND> windows = below(browser_);
+    ASSERT_EQ(windows.size(), 2U);
+    CBitmap molecule;
+    ASSERT_TRUE(molecule.LoadPlugin(windows[0]));
+    EXPECT_EQ(molecule.Width(), 340);
+    EXPECT_EQ(molecule.Height(), 290);
+    CBitmap film;
+    ASSERT_TRUE(runUntil([&] { return film.LoadPlugin(windows[1]); })) << "once it has a first picture";
+    EXPECT_EQ(film.Width(), 320);
+    EXPECT_EQ(film.Height(), 240) << "without the strip";
+    EXPECT_FALSE(molecule.LoadPlugin(browser_.GetSafeHwnd()));
+    EXPECT_FALSE(molecule.LoadPlugin(0));
+    EXPECT_EQ(molecule.Width(), 340) << "what it had stays";
+}
+
+}  // namespace
+
+}  // namespace windows_test
