@@ -8,6 +8,9 @@ const laterPart = 8;
 const ahead = 12;       // seconds that are kept ready before the place on show
 const behind = 30;      // and behind it
 
+// The engine lets requests for the same address wait for each other, and a page may show a video twice.
+const frameOfPage = 'plugin=' + new URLSearchParams(location.search).get('plugin');
+
 class ConvertedVideo {
   constructor(video, description, fail) {
     this.video = video;
@@ -70,7 +73,7 @@ class ConvertedVideo {
   ask(from, length) {
     const request = new XMLHttpRequest();
     this.request = request;
-    request.open('GET', `${location.pathname}?from=${from}&length=${length}`);
+    request.open('GET', `${location.pathname}?from=${from}&length=${length}&${frameOfPage}`);
     request.responseType = 'arraybuffer';
     request.onloadend = () => {
       if (this.request !== request) return;
@@ -95,7 +98,7 @@ class ConvertedVideo {
 /// when there is no file.
 function playConverted(video, fail) {
   const request = new XMLHttpRequest();
-  request.open('GET', location.pathname + '?describe');
+  request.open('GET', location.pathname + '?describe&' + frameOfPage);
   request.onerror = () => fail('Το βίντεο δεν βρέθηκε.');
   request.onload = () => {
     let description;

@@ -3,6 +3,7 @@
 // Draws a molecule with 3Dmol.js, which is loaded only where there is WebGL.
 
 const cameraHeight = 150;   // the library's own distance of the camera from the origin
+const mostSmooth = 1500;    // atoms
 
 const hasWebGl = () => {
   const canvas = document.createElement('canvas');
@@ -28,9 +29,9 @@ class WebGlDrawing {
     this.element = document.createElement('div');
     this.element.className = 'drawing';
     document.body.append(this.element);
-    // Smooth edges by twice as many pixels are for small molecules only: they make large ones slow.
+    // Edges are smoothed by twice as many pixels; that would make large molecules slow.
     this.viewer = $3Dmol.createViewer(this.element, {
-      backgroundColor: background, nomouse: true, antialias: true, upscale: molecule.atoms.length < 1500,
+      backgroundColor: background, nomouse: true, antialias: true, upscale: molecule.atoms.length < mostSmooth,
     });
     if (!this.viewer) { this.element.remove(); throw new Error('no viewer'); }
     this.viewer.setSlab(-molecule.fullReach - 1, 3 * molecule.fullReach);
@@ -64,12 +65,15 @@ class WebGlDrawing {
   styleOf(style, element) {
     const look = lookOf(element);
     switch (style) {
-      case 'wire': return { line: {}, cross: this.hasBonds(element) ? { hidden: true } : { radius: 0.3 } };
+      case 'wire': return this.hasBonds(element) ? this.wire() : { cross: { radius: 0.3 } };
       case 'sticks': return { stick: { radius: stickRadius.sticks } };
       case 'spaces': return { sphere: { radius: look.space } };
       default: return { stick: { radius: stickRadius.balls }, sphere: { radius: look.ball } };
     }
   }
+
+  /// Lines are half a pixel wide where edges are smoothed by more pixels.
+  wire() { return this.molecule.atoms.length < mostSmooth ? { stick: { radius: 0.03 } } : { line: {} }; }
 
   hasBonds(element) {
     return this.molecule.bonds.some(({ a, b }) => [a, b].some(i => this.molecule.atoms[i].element === element));
