@@ -10,8 +10,8 @@ namespace controls::periodic {
 namespace {
 
 constexpr int leastSymbolPixels = 11;
-constexpr double fadedOpacity = 0.28;
 constexpr int inset = 2;
+constexpr int strokeDistance = 7;
 
 /// The part of the cell between two shares of its height.
 QRect band(const QRect& cell, double from, double to) {
@@ -29,66 +29,80 @@ void paintRing(QPainter& painter, const QRect& area, int width, const QColor& co
     painter.fillRect(QRect(area.right() + 1, area.top(), width, area.height()), color);
 }
 
-void drawFitting(QPainter& painter, const QRect& area, const QString& text, int pixels) {
-    const auto font = appearance::fittingFont(text, area.width(), pixels, CellPainter::leastPixels);
-    if (!font) return;
-    painter.setFont(*font);
-    painter.drawText(area, Qt::AlignCenter | Qt::TextDontClip, text);
-}
-
 }  // namespace
 
-CellPainter::CellPainter(QSize cell) {
-    const int least = std::min(cell.width() * 9 / 8, cell.height());
-    withName_ = cell.width() >= 46 && cell.height() >= 46;
-    symbolPixels_ = std::max(least * (withName_ ? 36 : 40) / 100, leastSymbolPixels);
-    numberPixels_ = std::max(least * (withName_ ? 17 : 25) / 100, leastPixels);
-    smallPixels_ = std::max(least * (withName_ ? 17 : 25) / 100, leastPixels);
-}
-
-void CellPainter::paint(QPainter& painter, const QRect& cell, const Element& element, CellMarks marks) const {
+void paintNoData(QPainter& painter, const QRect& area) {
     painter.save();
-    if (marks.faded) painter.setOpacity(fadedOpacity);
-    paintFrame(painter, cell, element.family, marks);
-    painter.setPen(appearance::text);
-    paintTexts(painter, cell, element);
+    painter.setClipRect(area, Qt::IntersectClip);
+    painter.fillRect(area, noData);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(noDataStroke, 1.5));
+    for (int x = area.left(); x < area.right() + area.height(); x += strokeDistance) {
+        painter.drawLine(x, area.top(), x - area.height(), area.bottom());
+    }
     painter.restore();
 }
 
-void CellPainter::paintFrame(QPainter& painter, const QRect& cell, Family family, CellMarks marks) const {
-    const auto colors = appearance::familyColors(family);
-    painter.fillRect(cell, colors.fill);
+CellPainter::CellPainter(QPainter& painter, Lettering& lettering, QSize cell)
+    : painter_(painter), lettering_(lettering) {
+    const int least = std::min(cell.width() * 9 / 8, cell.height());
+    withName_ = cell.width() >= 46 && cell.height() >= 46;
+    symbolPixels_ = std::max(least * (withName_ ? 36 : 40) / 100, leastSymbolPixels);
+    numberPixels_ = std::max(least * (withName_ ? 17 : 25) / 100, Lettering::leastPixels);
+    smallPixels_ = numberPixels_;
+}
+
+void CellPainter::paint(const QRect& cell, const Element& element, const CellLook& look) const {
+    paintGround(cell, look);
+    painter_.setPen(look.text);
+    if (look.ground == CellLook::Ground::empty) {
+        lettering_.draw(painter_, cell, QString::number(element.number), numberPixels_, Qt::AlignCenter);
+    } else {
+        paintTexts(cell, element, look.bottom);
+    }
+}
+
+void CellPainter::paintGround(const QRect& cell, const CellLook& look) const {
+    if (look.ground == CellLook::Ground::empty) {
+        painter_.fillRect(cell, appearance::line);
+        painter_.fillRect(cell.adjusted(1, 1, -1, -1), appearance::ground);
+        return;
+    }
+    if (look.ground == CellLook::Ground::hatched) {
+        paintNoData(painter_, cell);
+    } else {
+        painter_.fillRect(cell, look.fill);
+    }
     const int bar = std::max(cell.height() / 24, 2);
-    painter.fillRect(QRect(cell.left(), cell.bottom() - bar + 1, cell.width(), bar), colors.edge);
-    if (!marks.selected && !marks.hovered) return;
-    // The frame lies outside, so that it covers no text.
-    paintRing(painter, cell, 2, marks.selected ? appearance::deep : colors.edge);
-    if (marks.focused) paintRing(painter, cell.adjusted(-2, -2, 2, 2), 1, appearance::warm);
+    painter_.fillRect(QRect(cell.left(), cell.bottom() - bar + 1, cell.width(), bar), look.edge);
 }
 
-void CellPainter::paintTexts(QPainter& painter, const QRect& cell, const Element& element) const {
-    const QString symbol = toQt(element.symbol);
-    painter.setFont(appearance::font(numberPixels_));
-    painter.drawText(band(cell, withName_ ? 0.04 : 0.03, 0.30).adjusted(1, 0, 0, 0),
-                     Qt::AlignLeft | Qt::AlignTop | Qt::TextDontClip, QString::number(element.number));
-    const QRect middle = withName_ ? band(cell, 0.19, 0.59) : band(cell, 0.26, 0.74);
-    painter.setFont(appearance::fittingFont(symbol, middle.width(), symbolPixels_, leastPixels, QFont::Bold)
-                        .value_or(appearance::font(leastPixels, QFont::Bold)));
-    painter.drawText(middle, Qt::AlignCenter | Qt::TextDontClip, symbol);
-    if (withName_) drawFitting(painter, band(cell, 0.58, 0.77), toQt(element.greekName), smallPixels_);
-    drawFitting(painter, withName_ ? band(cell, 0.75, 0.94) : band(cell, 0.67, 0.94),
-                toQt(element.massText()), smallPixels_);
+void CellPainter::paintFrame(const QRect& cell, const QColor& color, bool focused) const {
+    // The light line parts the frame from a dark cell.
+    paintRing(painter_, cell, 1, appearance::paper);
+    paintRing(painter_, cell.adjusted(-1, -1, 1, 1), 2, color);
+    if (focused) paintRing(painter_, cell.adjusted(-3, -3, 3, 3), 1, appearance::warm);
 }
 
-void CellPainter::paintPlaceholder(QPainter& painter, const QRect& cell, const QString& range,
-                                   Family family) const {
-    const auto colors = appearance::familyColors(family);
-    painter.fillRect(cell, appearance::paper);
-    painter.setPen(colors.edge);
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(cell.adjusted(0, 0, -1, -1));
-    painter.setPen(appearance::text);
-    drawFitting(painter, cell.adjusted(inset, inset, -inset, -inset), range, numberPixels_);
+void CellPainter::paintTexts(const QRect& cell, const Element& element, const QString& bottom) const {
+    lettering_.draw(painter_, band(cell, withName_ ? 0.04 : 0.03, 0.30).adjusted(1, 0, 0, 0),
+                    QString::number(element.number), numberPixels_, Qt::AlignLeft | Qt::AlignTop);
+    lettering_.draw(painter_, withName_ ? band(cell, 0.19, 0.59) : band(cell, 0.26, 0.74),
+                    toQt(element.symbol), symbolPixels_, Qt::AlignCenter, QFont::Bold);
+    if (withName_) {
+        lettering_.draw(painter_, band(cell, 0.58, 0.77), toQt(element.greekName), smallPixels_,
+                        Qt::AlignCenter);
+    }
+    lettering_.draw(painter_, withName_ ? band(cell, 0.75, 0.94) : band(cell, 0.67, 0.94), bottom,
+                    smallPixels_, Qt::AlignCenter);
+}
+
+void CellPainter::paintPlaceholder(const QRect& cell, const QString& range, const QColor& edge) const {
+    painter_.fillRect(cell, edge);
+    painter_.fillRect(cell.adjusted(1, 1, -1, -1), appearance::paper);
+    painter_.setPen(appearance::text);
+    lettering_.draw(painter_, cell.adjusted(inset, inset, -inset, -inset), range, numberPixels_,
+                    Qt::AlignCenter);
 }
 
 }  // namespace controls::periodic

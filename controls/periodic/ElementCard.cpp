@@ -3,18 +3,19 @@
 #include <algorithm>
 
 #include "controls/common/Appearance.h"
+#include "controls/common/ElectronShells.h"
 #include "controls/common/QtText.h"
+#include "controls/periodic/FigureText.h"
+#include "controls/periodic/ShellDrawing.h"
 
 namespace controls::periodic {
 
 namespace {
 
-constexpr int leastPixels = 9;
-constexpr int factColumns = 2;
-
-QString withUnit(const Figure& figure, const QString& unit) {
-    return figure.known() ? toQt(figure.withComma()) + unit : QStringLiteral("–");
-}
+constexpr int leastFactHeight = 11;
+constexpr int mostFactPixels = 19;
+constexpr int leastFactWidth = 150;
+constexpr int headingLines = 3;
 
 QString matterText(Matter matter) {
     switch (matter) {
@@ -30,100 +31,126 @@ QString matterText(Matter matter) {
     return QStringLiteral("–");
 }
 
+Fact matterFact(const Element& element, const TableState& state) {
+    const bool chosen = state.view == TableView::matter;
+    const double kelvin = chosen ? state.kelvin : roomTemperature;
+    const QString where =
+        chosen ? QStringLiteral("στους %1 K").arg(state.kelvin) : QStringLiteral("στους 25 °C");
+    return {QStringLiteral("Κατάσταση ") + where, matterText(element.matterAt(kelvin))};
+}
+
 QString blockLetter(Block block) {
     constexpr const char* letters = "spdf";
     return {QLatin1Char(letters[static_cast<int>(block)])};
 }
 
-void drawFitting(QPainter& painter, const QRect& area, const QString& text, int pixels,
-                 QFont::Weight weight = QFont::Normal, Qt::Alignment align = Qt::AlignLeft) {
-    const auto font = appearance::fittingFont(text, area.width(), pixels, leastPixels, weight);
-    if (!font) return;
-    painter.setFont(*font);
-    painter.drawText(area, static_cast<int>(align | Qt::AlignVCenter) | Qt::TextDontClip, text);
+void paintPanel(QPainter& painter, const QRect& area, const QColor& mark) {
+    painter.fillRect(area, appearance::line);
+    painter.fillRect(area.adjusted(1, 1, -1, -1), appearance::paper);
+    painter.fillRect(QRect(area.left(), area.top(), 4, area.height()), mark);
 }
 
-void paintPanel(QPainter& painter, const QRect& area) {
-    painter.fillRect(area, appearance::paper);
-    painter.setPen(appearance::line);
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(area.adjusted(0, 0, -1, -1));
-}
-
-void paintTile(QPainter& painter, const QRect& tile, const Element& element) {
-    const auto colors = appearance::familyColors(element.family);
-    painter.fillRect(tile, colors.fill);
-    painter.fillRect(QRect(tile.left(), tile.top(), 4, tile.height()), colors.edge);
+/// The patch with atomic number and symbol.
+void paintTile(QPainter& painter, Lettering& lettering, const QRect& tile, const Element& element) {
+    painter.fillRect(tile, appearance::familyColors(element.family).fill);
     painter.setPen(appearance::text);
-    const int unit = tile.height() / 10;
-    const QRect inner = tile.adjusted(10, unit / 2, -6, -unit / 2);
-    drawFitting(painter, QRect(inner.left(), inner.top(), inner.width(), 2 * unit),
-                QString::number(element.number), unit * 3 / 2);
-    drawFitting(painter, QRect(inner.left(), inner.top() + 2 * unit, inner.width(), 5 * unit),
-                toQt(element.symbol), unit * 4, QFont::Bold, Qt::AlignHCenter);
-    drawFitting(painter, QRect(inner.left(), inner.top() + 7 * unit, inner.width(), 2 * unit),
-                toQt(element.massText()), unit * 3 / 2, QFont::Normal, Qt::AlignHCenter);
+    const int number = tile.height() * 30 / 100;
+    lettering.draw(painter, QRect(tile.left() + 3, tile.top() + 2, tile.width() - 6, number),
+                   QString::number(element.number), number * 8 / 10, Qt::AlignLeft);
+    lettering.draw(painter, tile.adjusted(2, number - 2, -2, 0), toQt(element.symbol),
+                   tile.height() * 48 / 100, Qt::AlignCenter, QFont::Bold);
 }
 
-void paintHeading(QPainter& painter, const QRect& area, const Element& element) {
-    const int nameHeight = area.height() * 6 / 10;
-    const int pixels = std::max(nameHeight * 7 / 10, leastPixels + 2);
+/// Both names; the English one only where it fits.
+void paintNames(QPainter& painter, Lettering& lettering, const QRect& area, const Element& element) {
+    const int pixels = area.height() * 8 / 10;
     const QString name = toQt(element.greekName);
+    const auto font = lettering.font(name, area.width(), pixels, QFont::Bold);
+    if (!font) return;
     painter.setPen(appearance::deep);
-    const QRect nameArea(area.left(), area.top(), area.width(), nameHeight);
-    drawFitting(painter, nameArea, name, pixels, QFont::Bold);
-    const int used = painter.fontMetrics().horizontalAdvance(name) + pixels / 2;
+    Lettering::draw(painter, area, name, *font, Qt::AlignLeft);
+    const int used = Lettering::widthOf(name, *font) + pixels / 2;
     painter.setPen(appearance::muted);
-    drawFitting(painter, nameArea.adjusted(used, 0, 0, 0), toQt(element.englishName), pixels * 3 / 4);
-    const QString where = toQt(familyName(element.family)) + QStringLiteral(" · ") + placeText(element);
+    lettering.draw(painter, area.adjusted(used, 0, 0, 0), toQt(element.englishName), pixels * 7 / 10,
+                   Qt::AlignLeft);
+}
+
+QString electronsText(const Element& element) {
+    const QString text = configurationText(element);
+    return element.hasCalculatedConfiguration() ? text + QStringLiteral(" (υπολογισμένη)") : text;
+}
+
+void paintHeading(QPainter& painter, Lettering& lettering, const QRect& area, const Element& element) {
+    const QRect tile(area.left(), area.top(), area.height(), area.height());
+    paintTile(painter, lettering, tile, element);
+    const QRect lines(QPoint(tile.right() + area.height() / 8 + 3, area.top()), area.bottomRight());
+    const int first = lines.height() * 42 / 100;
+    const int height = (lines.height() - first) / (headingLines - 1);
+    const auto line = [&](int index) {
+        return QRect(lines.left(), lines.top() + first + index * height, lines.width(), height);
+    };
+    paintNames(painter, lettering, QRect(lines.left(), lines.top(), lines.width(), first), element);
     painter.setPen(appearance::text);
-    drawFitting(painter,
-                QRect(area.left(), area.top() + nameHeight, area.width(), area.height() - nameHeight), where,
-                std::max(pixels * 6 / 10, leastPixels + 1));
+    const int pixels = std::max(height * 8 / 10, Lettering::leastPixels + 1);
+    lettering.draw(painter, line(0),
+                   toQt(familyName(element.family)) + QStringLiteral(" · ") + placeText(element), pixels,
+                   Qt::AlignLeft);
+    lettering.draw(painter, line(1),
+                   QStringLiteral("Ar = %1 · ").arg(toQt(element.massText())) + electronsText(element),
+                   pixels, Qt::AlignLeft);
 }
 
-/// The largest font in which each fact, label and value, fits one line of `width`.
-QFont fontOfFacts(const std::vector<Fact>& facts, int width, int pixels) {
-    const auto longest = std::ranges::max_element(facts, {}, [&](const Fact& fact) {
-        return QFontMetrics(appearance::font(pixels)).horizontalAdvance(fact.label + fact.value);
-    });
-    return appearance::fittingFont(longest->label + longest->value, width - pixels, pixels, leastPixels)
-        .value_or(appearance::font(leastPixels));
+/// The font in which each fact, label and value, fits one line.
+QFont fontOfFacts(Lettering& lettering, const std::vector<Fact>& facts, int width, int pixels) {
+    QFont smallest = appearance::font(pixels);
+    for (const Fact& fact : facts) {
+        const auto font =
+            lettering.font(fact.label + fact.value, width - smallest.pixelSize(), smallest.pixelSize());
+        if (!font) return appearance::font(Lettering::leastPixels);
+        if (font->pixelSize() < smallest.pixelSize() || font->stretch() != 0) smallest = *font;
+    }
+    return smallest;
 }
 
-void paintFact(QPainter& painter, const QRect& area, const Fact& fact) {
+void paintFact(QPainter& painter, const QRect& area, const Fact& fact, const QFont& font) {
     painter.setPen(appearance::muted);
-    painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter, fact.label);
+    Lettering::draw(painter, area, fact.label, font, Qt::AlignLeft);
     painter.setPen(appearance::text);
-    painter.drawText(area, Qt::AlignRight | Qt::AlignVCenter, fact.value);
+    Lettering::draw(painter, area, fact.value, font, Qt::AlignRight);
 }
 
-void paintFacts(QPainter& painter, const QRect& area, const Element& element) {
-    const auto facts = factsOf(element);
-    const int rows = (static_cast<int>(facts.size()) + factColumns - 1) / factColumns;
-    const int rowHeight = area.height() / rows;
-    const int gutter = area.width() / 14;
-    const int width = (area.width() - gutter) / factColumns;
-    painter.setFont(fontOfFacts(facts, width, std::clamp(rowHeight * 6 / 10, leastPixels + 2, 20)));
+/// As many facts as there is room for, the first column first.
+void paintFacts(QPainter& painter, Lettering& lettering, const QRect& area, std::vector<Fact> facts) {
+    const int count = static_cast<int>(facts.size());
+    const int columns = std::clamp(area.width() / leastFactWidth, 1, 2);
+    const int rows = std::clamp(area.height() / leastFactHeight, 1, (count + columns - 1) / columns);
+    facts.resize(static_cast<std::size_t>(std::min(count, rows * columns)));
+    const int gutter = columns == 1 ? 0 : area.width() / 16;
+    const int width = (area.width() - (columns - 1) * gutter) / columns;
+    const int height = area.height() / rows;
+    const QFont font = fontOfFacts(lettering, facts, width, std::clamp(height * 7 / 10, 9, mostFactPixels));
     for (int i = 0; i < static_cast<int>(facts.size()); ++i) {
-        const QRect place(area.left() + i / rows * (width + gutter), area.top() + i % rows * rowHeight, width,
-                          rowHeight);
-        paintFact(painter, place, facts[static_cast<std::size_t>(i)]);
+        paintFact(
+            painter,
+            QRect(area.left() + i / rows * (width + gutter), area.top() + i % rows * height, width, height),
+            facts[static_cast<std::size_t>(i)], font);
     }
 }
 
 }  // namespace
 
-std::vector<Fact> factsOf(const Element& element) {
-    const QString kelvin = QStringLiteral(" K");
-    const QString year =
-        element.discovered == antiquity ? QStringLiteral("αρχαιότητα") : QString::number(element.discovered);
-    return {{QStringLiteral("Κατάσταση"), matterText(element.matter())},
-            {QStringLiteral("Σημείο τήξης"), withUnit(element.meltingPoint, kelvin)},
-            {QStringLiteral("Σημείο βρασμού"), withUnit(element.boilingPoint, kelvin)},
-            {QStringLiteral("Πυκνότητα"), withUnit(element.density, QStringLiteral(" g/cm³"))},
-            {QStringLiteral("Ηλεκτραρνητικότητα"), withUnit(element.electronegativity, QString())},
-            {QStringLiteral("Ανακάλυψη"), year}};
+std::vector<Fact> factsOf(const Element& element, const TableState& state) {
+    using enum Quantity;
+    std::vector<Quantity> quantities{melting,    boiling,        density,   electronegativity,
+                                     ionisation, covalentRadius, discovery, crust};
+    const auto first = quantityOf(state.view);
+    if (first) std::ranges::stable_partition(quantities, [&](Quantity each) { return each == *first; });
+    std::vector<Fact> facts;
+    for (const Quantity quantity : quantities) {
+        facts.push_back({toQt(quantityName(quantity)), valueWithUnit(element, quantity)});
+    }
+    facts.insert(facts.begin() + (first ? 1 : 0), matterFact(element, state));
+    return facts;
 }
 
 QString placeText(const Element& element) {
@@ -132,31 +159,45 @@ QString placeText(const Element& element) {
     return element.group() == 0 ? rest : QStringLiteral("ομάδα %1, ").arg(element.group()) + rest;
 }
 
-void paintCard(QPainter& painter, const QRect& area, const Element& element) {
-    paintPanel(painter, area);
-    const QRect tile(area.left() + 1, area.top() + 1, std::min(area.height(), area.width() / 4) - 2,
-                     area.height() - 2);
-    paintTile(painter, tile, element);
-    const int space = area.height() / 20 + 2;
-    const QRect rest(QPoint(tile.right() + 2 * space, area.top() + space),
-                     QPoint(area.right() - 2 * space, area.bottom() - space));
-    const int heading = rest.height() * 42 / 100;
-    paintHeading(painter, QRect(rest.left(), rest.top(), rest.width(), heading), element);
-    paintFacts(painter, rest.adjusted(0, heading + space / 2, 0, 0), element);
+QString shellText(const Element& element) {
+    QString text;
+    for (const int electrons : shellsOf(element)) {
+        if (!text.isEmpty()) text += QStringLiteral(" · ");
+        text += QString::number(electrons);
+    }
+    return text;
 }
 
-void paintEmptyCard(QPainter& painter, const QRect& area) {
-    paintPanel(painter, area);
-    painter.fillRect(QRect(area.left(), area.top(), 4, area.height()), appearance::warm);
+void paintCard(QPainter& painter, Lettering& lettering, const QRect& area, const Element& element,
+               const TableState& state) {
+    paintPanel(painter, area, appearance::familyColors(element.family).edge);
+    const int space = area.height() / 30 + 2;
+    const QRect inner = area.adjusted(4 + 2 * space, space, -2 * space, -space);
+    const int shellLine = std::max(inner.height() / 9, Lettering::leastPixels + 2);
+    const int side = std::min(inner.height() - shellLine, inner.width() * 2 / 5);
+    const QRect shells(inner.right() + 1 - side, inner.top(), side, inner.height());
+    paintShells(painter, lettering, shells.adjusted(0, 0, 0, -shellLine), element);
+    painter.setPen(appearance::text);
+    lettering.draw(painter, QRect(shells.left(), shells.bottom() + 1 - shellLine, side, shellLine),
+                   shellText(element), shellLine * 8 / 10, Qt::AlignCenter);
+    const QRect rest(inner.topLeft(), QPoint(shells.left() - 3 * space, inner.bottom()));
+    const int heading = rest.height() * 38 / 100;
+    paintHeading(painter, lettering, QRect(rest.left(), rest.top(), rest.width(), heading), element);
+    paintFacts(painter, lettering, rest.adjusted(0, heading + space, 0, 0), factsOf(element, state));
+}
+
+void paintEmptyCard(QPainter& painter, Lettering& lettering, const QRect& area) {
+    paintPanel(painter, area, appearance::warm);
     const int unit = area.height() / 10;
     const QRect inner = area.adjusted(unit + 8, 2 * unit, -unit, -2 * unit);
     painter.setPen(appearance::deep);
-    drawFitting(painter, QRect(inner.left(), inner.top(), inner.width(), 3 * unit),
-                QStringLiteral("Περιοδικός Πίνακας"), std::min(unit * 5 / 2, 40), QFont::Bold);
+    lettering.draw(painter, QRect(inner.left(), inner.top(), inner.width(), 3 * unit),
+                   QStringLiteral("Περιοδικός Πίνακας"), std::min(unit * 5 / 2, 40), Qt::AlignLeft,
+                   QFont::Bold);
     painter.setPen(appearance::muted);
-    drawFitting(painter, QRect(inner.left(), inner.top() + 3 * unit, inner.width(), 3 * unit),
-                QStringLiteral("Επίλεξε ένα στοιχείο ή γράψε το σύμβολο ή το όνομά του"),
-                std::clamp(unit * 3 / 2, 11, 22));
+    lettering.draw(painter, QRect(inner.left(), inner.top() + 3 * unit, inner.width(), 3 * unit),
+                   QStringLiteral("Επίλεξε ένα στοιχείο ή γράψε το σύμβολο ή το όνομά του"),
+                   std::clamp(unit * 3 / 2, 11, 22), Qt::AlignLeft);
 }
 
 }  // namespace controls::periodic

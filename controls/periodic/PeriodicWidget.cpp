@@ -1,18 +1,31 @@
 #include "controls/periodic/PeriodicWidget.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <algorithm>
 #include <optional>
 #include <utility>
 
 #include "controls/common/Appearance.h"
 #include "controls/common/QtText.h"
+#include "controls/periodic/CellPainter.h"
 #include "controls/periodic/ElementCard.h"
+#include "controls/periodic/ElementKinds.h"
+#include "controls/periodic/FigureText.h"
+#include "controls/periodic/Legend.h"
+#include "controls/periodic/QuantityScale.h"
+#include "controls/periodic/ScaleBox.h"
+#include "controls/periodic/ValueSlider.h"
+#include "controls/periodic/ViewStrip.h"
 
 namespace controls::periodic {
 
 namespace {
+
+constexpr int kelvinStep = 10;
+constexpr int yearStep = 1;
 
 std::optional<Step> stepOfKey(int key) {
     switch (key) {
@@ -31,6 +44,20 @@ std::optional<Step> stepOfKey(int key) {
 
 bool isPrintable(const QString& text) { return !text.isEmpty() && text.front().isLetter(); }
 
+QString yearWords(int year) {
+    const auto known =
+        std::ranges::count_if(elements(), [&](const Element& element) { return element.discovered <= year; });
+    return QStringLiteral("Έως το %1: %2 στοιχεία").arg(year).arg(known);
+}
+
+ValueSlider::Purpose temperaturePurpose() {
+    return {leastKelvin, mostKelvin, usualKelvin, kelvinStep, QStringLiteral("Θερμοκρασία"), temperatureText};
+}
+
+ValueSlider::Purpose yearPurpose() {
+    return {leastYear, mostYear, mostYear, yearStep, QStringLiteral("Έτος"), yearWords};
+}
+
 }  // namespace
 
 PeriodicWidget::PeriodicWidget(std::function<void(int)> chosen, QWidget* parent)
@@ -45,109 +72,178 @@ PeriodicWidget::PeriodicWidget(std::function<void(int)> chosen, QWidget* parent)
 
 QSize PeriodicWidget::sizeHint() const { return {1016, 640}; }
 
+void PeriodicWidget::makeParts() {
+    strip_ = new ViewStrip(
+        lettering_,
+        [this](TableView view) {
+            setView(view);
+            takeFocus();
+        },
+        this);
+    slider_ = new ValueSlider(lettering_, this);
+    connect(slider_, &QSlider::valueChanged, this, [this](int value) {
+        slide(value);
+        takeFocus();
+    });
+    scaleBox_ = new ScaleBox(lettering_, this);
+    connect(scaleBox_, &QCheckBox::clicked, this, [this] {
+        state_.otherScale = !state_.otherScale;
+        update();
+        takeFocus();
+    });
+    updateParts();
+    strip_->show();
+}
+
+void PeriodicWidget::takeFocus() {
+    const QWidget* focused = QApplication::focusWidget();
+    if (!focused || !isAncestorOf(focused)) setFocus();
+}
+
+void PeriodicWidget::updateParts() {
+    if (!strip_) return;
+    const TableLayout layout = layoutNow();
+    strip_->place(layout.strip(), layout.stripRows());
+    strip_->setView(state_.view);
+    updateSlider();
+    const auto quantity = quantityOf(state_.view);
+    scaleBox_->setGeometry(layout.scaleBox(state_.view));
+    scaleBox_->setVisible(hasOtherScale(state_.view));
+    if (quantity) scaleBox_->setChecked(QuantityScale(*quantity, state_.otherScale).logarithmic());
+}
+
+void PeriodicWidget::updateSlider() {
+    slider_->setGeometry(layoutNow().slider(state_.view));
+    slider_->setVisible(!slider_->geometry().isEmpty());
+    if (state_.view == TableView::matter) slider_->setPurpose(temperaturePurpose(), state_.kelvin);
+    if (state_.view == TableView::discovery) slider_->setPurpose(yearPurpose(), state_.year);
+}
+
 void PeriodicWidget::setState(const TableState& state) {
     state_ = state;
+    hoveredKind_ = 0;
+    updateParts();
     select(state.selected);
+    update();
+}
+
+void PeriodicWidget::setView(TableView view) {
+    if (view == state_.view) return;
+    state_.view = view;
+    state_.highlighted = 0;
+    state_.otherScale = false;
+    setState(state_);
+}
+
+void PeriodicWidget::slide(int value) {
+    (state_.view == TableView::matter ? state_.kelvin : state_.year) = value;
+    update();
 }
 
 void PeriodicWidget::select(int number) {
+    updateCell(state_.selected);
     state_.selected = number;
     const Element* element = findElement(number);
-    setAccessibleDescription(element ? QStringLiteral("%1, %2, ατομικός αριθμός %3")
-                                           .arg(toQt(element->greekName), toQt(element->symbol))
-                                           .arg(number)
+    setAccessibleDescription(element ? spokenText(*element, state_)
                                      : QStringLiteral("118 στοιχεία· δεν έχει επιλεγεί στοιχείο"));
-    update();
+    TableAccess::focused(*this, number);
+    updateCell(number);
+    updateCard();
+}
+
+void PeriodicWidget::choose(int number) {
+    select(number);
+    // The page that opens takes the pointer over, and no leave event tells of it.
+    hover(0);
+    chosen_(number);
 }
 
 void PeriodicWidget::hover(int number) {
     if (number == hovered_) return;
+    updateCell(hovered_);
     hovered_ = number;
+    updateCell(number);
+    updateCard();
+}
+
+void PeriodicWidget::hoverKind(int kind) {
+    if (std::exchange(hoveredKind_, kind) != kind) update();
+}
+
+void PeriodicWidget::highlight(int kind) {
+    state_.highlighted = state_.highlighted == kind ? 0 : kind;
     update();
 }
 
-void PeriodicWidget::highlight(Family family) {
-    state_.highlighted = state_.highlighted == family ? std::nullopt : std::optional(family);
-    update();
+void PeriodicWidget::updateCell(int number) {
+    constexpr int reach = CellPainter::frameReach;
+    if (number != 0) update(cellOf(number).adjusted(-reach, -reach, reach, reach));
 }
 
-void PeriodicWidget::paintEvent(QPaintEvent*) {
+void PeriodicWidget::updateCard() { update(layoutNow().card()); }
+
+void PeriodicWidget::showEvent(QShowEvent*) {
+    if (!strip_) makeParts();
+}
+
+void PeriodicWidget::resizeEvent(QResizeEvent*) { updateParts(); }
+
+void PeriodicWidget::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     const TableLayout layout = layoutNow();
-    painter.fillRect(rect(), appearance::ground);
+    const CellPainter cells(painter, lettering_, layout.cellSize());
+    painter.fillRect(event->rect(), appearance::ground);
+    paintElements(cells, layout, event->region());
+    if (event->region().intersects(layout.card())) paintCardOf(painter, layout.card());
+    // A cell or the card alone needs none of the rest.
+    if (!event->region().contains(layout.groupLabel(1))) return;
     paintLabels(painter, layout);
-    paintPlaceholders(painter, layout);
-    paintElements(painter, layout);
-    paintLegend(painter, layout);
-    const Element* shown = findElement(hovered_ != 0 ? hovered_ : state_.selected);
-    shown ? paintCard(painter, layout.card(), *shown) : paintEmptyCard(painter, layout.card());
+    paintPlaceholders(cells, layout);
+    paintLegend(painter, lettering_, layout, state_, highlightedNow());
 }
 
-void PeriodicWidget::paintElements(QPainter& painter, const TableLayout& layout) const {
-    const CellPainter cells(layout.cellSize());
-    const auto paintOne = [&](const Element& element) {
-        const bool selected = element.number == state_.selected;
-        const CellMarks marks{.selected = selected,
-                              .hovered = element.number == hovered_,
-                              .faded = state_.highlighted && state_.highlighted != element.family,
-                              .focused = selected && hasFocus()};
-        cells.paint(painter, layout.cell(placeOf(element.number)), element, marks);
-    };
-    for (const Element& element : elements()) paintOne(element);
-    // Their frames lie over the neighbours.
-    for (const int number : {hovered_, state_.selected}) {
-        if (const Element* framed = findElement(number)) paintOne(*framed);
+void PeriodicWidget::paintCardOf(QPainter& painter, const QRect& area) {
+    const Element* shown = findElement(hovered_ != 0 ? hovered_ : state_.selected);
+    shown ? paintCard(painter, lettering_, area, *shown, state_) : paintEmptyCard(painter, lettering_, area);
+}
+
+void PeriodicWidget::paintElements(const CellPainter& cells, const TableLayout& layout,
+                                   const QRegion& dirty) const {
+    const int highlighted = highlightedNow();
+    for (const Element& element : elements()) {
+        const QRect cell = layout.cell(placeOf(element.number));
+        if (dirty.intersects(cell)) cells.paint(cell, element, lookOf(element, state_, highlighted));
+    }
+    if (hovered_ != 0) cells.paintFrame(layout.cell(placeOf(hovered_)), appearance::accent, false);
+    if (state_.selected != 0) {
+        cells.paintFrame(layout.cell(placeOf(state_.selected)), appearance::deep, hasFocus());
     }
 }
 
-void PeriodicWidget::paintPlaceholders(QPainter& painter, const TableLayout& layout) const {
-    const CellPainter cells(layout.cellSize());
-    cells.paintPlaceholder(painter, layout.cell({innerColumn, 6}), QStringLiteral("57–71"),
-                           Family::lanthanide);
-    cells.paintPlaceholder(painter, layout.cell({innerColumn, 7}), QStringLiteral("89–103"),
-                           Family::actinide);
+void PeriodicWidget::paintPlaceholders(const CellPainter& cells, const TableLayout& layout) const {
+    const bool families = state_.view == TableView::families;
+    const auto edge = [&](Family family) {
+        return families ? appearance::familyColors(family).edge : appearance::muted;
+    };
+    cells.paintPlaceholder(layout.cell({innerColumn, 6}), QStringLiteral("57–71"), edge(Family::lanthanide));
+    cells.paintPlaceholder(layout.cell({innerColumn, 7}), QStringLiteral("89–103"), edge(Family::actinide));
 }
 
-void PeriodicWidget::paintLabels(QPainter& painter, const TableLayout& layout) const {
+void PeriodicWidget::paintLabels(QPainter& painter, const TableLayout& layout) {
     painter.setPen(appearance::muted);
-    painter.setFont(appearance::font(layout.labelPixels(), QFont::DemiBold));
+    const int pixels = layout.labelPixels();
     for (int group = 1; group <= columnCount; ++group) {
-        painter.drawText(layout.groupLabel(group), Qt::AlignCenter, QString::number(group));
+        lettering_.draw(painter, layout.groupLabel(group), QString::number(group), pixels, Qt::AlignCenter,
+                        QFont::DemiBold);
     }
     for (int period = 1; period <= 7; ++period) {
-        painter.drawText(layout.periodLabel(period), Qt::AlignCenter, QString::number(period));
+        lettering_.draw(painter, layout.periodLabel(period), QString::number(period), pixels, Qt::AlignCenter,
+                        QFont::DemiBold);
     }
     for (const auto& [row, family] :
          {std::pair(lanthanideRow, Family::lanthanide), std::pair(actinideRow, Family::actinide)}) {
-        const QString name = toQt(familyName(family));
-        const QRect area = layout.rowName(row);
-        const auto font = appearance::fittingFont(name, area.width(), layout.labelPixels() + 2,
-                                                  CellPainter::leastPixels, QFont::DemiBold);
-        if (!font) continue;
-        painter.setFont(*font);
-        painter.drawText(area, Qt::AlignRight | Qt::AlignVCenter, name);
-    }
-}
-
-void PeriodicWidget::paintLegend(QPainter& painter, const TableLayout& layout) const {
-    const QRect swatch = layout.legendSwatch();
-    const int nameStart = swatch.right() + 6;
-    // The longest name settles the font of all.
-    const int width = layout.legendItem(Family::transition).width() - nameStart - 8;
-    painter.setFont(appearance::fittingFont(toQt(familyName(Family::transition)), width,
-                                            layout.labelPixels() + 1, CellPainter::leastPixels)
-                        .value_or(appearance::font(CellPainter::leastPixels)));
-    for (int code = 1; code <= familyCount; ++code) {
-        const Family family = *familyOfCode(code);
-        const auto colors = appearance::familyColors(family);
-        const QRect item = layout.legendItem(family);
-        if (state_.highlighted == family) painter.fillRect(item, appearance::selected);
-        const QRect here = swatch.translated(item.topLeft());
-        painter.fillRect(here, colors.edge);
-        painter.fillRect(here.adjusted(1, 1, -1, -1), colors.fill);
-        painter.setPen(appearance::text);
-        painter.drawText(item.adjusted(nameStart, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
-                         toQt(familyName(family)));
+        lettering_.draw(painter, layout.rowName(row), toQt(familyName(family)), pixels + 2, Qt::AlignRight,
+                        QFont::DemiBold);
     }
 }
 
@@ -155,7 +251,8 @@ void PeriodicWidget::mouseMoveEvent(QMouseEvent* event) {
     const TableLayout layout = layoutNow();
     const QPoint point = event->position().toPoint();
     hover(layout.elementAt(point));
-    const bool active = hovered_ != 0 || layout.legendAt(point);
+    hoverKind(layout.kindAt(point, state_.view));
+    const bool active = hovered_ != 0 || hoveredKind_ != 0;
     setCursor(active ? Qt::PointingHandCursor : Qt::ArrowCursor);
 }
 
@@ -165,19 +262,19 @@ void PeriodicWidget::mousePressEvent(QMouseEvent* event) {
     const QPoint point = event->position().toPoint();
     pressed_ = layout.elementAt(point);
     if (pressed_ != 0) select(pressed_);
-    if (const auto family = layout.legendAt(point)) highlight(*family);
+    if (const int kind = layout.kindAt(point, state_.view)) highlight(kind);
 }
 
 void PeriodicWidget::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return;
     const int pressed = std::exchange(pressed_, 0);
-    if (pressed == 0 || layoutNow().elementAt(event->position().toPoint()) != pressed) return;
-    // The page that opens takes the pointer over, and no leave event tells of it.
-    hover(0);
-    chosen_(pressed);
+    if (pressed != 0 && elementAt(event->position().toPoint()) == pressed) choose(pressed);
 }
 
-void PeriodicWidget::leaveEvent(QEvent*) { hover(0); }
+void PeriodicWidget::leaveEvent(QEvent*) {
+    hover(0);
+    hoverKind(0);
+}
 
 bool PeriodicWidget::step(int key) {
     int target = 0;
@@ -190,7 +287,35 @@ bool PeriodicWidget::step(int key) {
     return true;
 }
 
-void PeriodicWidget::typed(QKeyEvent& event) {
+bool PeriodicWidget::stepView(const QKeyEvent& event) {
+    if (event.modifiers() != Qt::ControlModifier) return false;
+    const bool forward = event.key() == Qt::Key_PageDown;
+    if (!forward && event.key() != Qt::Key_PageUp) return false;
+    setView(*viewOfCode((viewCode(state_.view) + (forward ? 1 : viewCount - 1)) % viewCount));
+    return true;
+}
+
+bool PeriodicWidget::stepSlider(int key) {
+    if (!slider_ || !slider_->isVisible()) return false;
+    switch (key) {
+        case Qt::Key_Plus:
+            slider_->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+            return true;
+        case Qt::Key_Minus:
+            slider_->triggerAction(QAbstractSlider::SliderSingleStepSub);
+            return true;
+        case Qt::Key_PageUp:
+            slider_->triggerAction(QAbstractSlider::SliderPageStepAdd);
+            return true;
+        case Qt::Key_PageDown:
+            slider_->triggerAction(QAbstractSlider::SliderPageStepSub);
+            return true;
+        default:
+            return false;
+    }
+}
+
+void PeriodicWidget::typed(const QKeyEvent& event) {
     if (const int found = typeAhead_.type(fromQt(event.text()), clock_.elapsed())) {
         hover(0);
         select(found);
@@ -200,7 +325,8 @@ void PeriodicWidget::typed(QKeyEvent& event) {
 void PeriodicWidget::keyPressEvent(QKeyEvent* event) {
     const bool plain = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) == 0;
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (plain && step(event->key())) return;
+    if (stepView(*event)) return;
+    if (plain && (step(event->key()) || stepSlider(event->key()))) return;
     if (plain && isPrintable(event->text())) return typed(*event);
     if (!plain || !enter) return QWidget::keyPressEvent(event);
     if (state_.selected != 0) chosen_(state_.selected);

@@ -2,11 +2,16 @@
 
 #include <algorithm>
 
+#include "controls/periodic/ElementKinds.h"
+
 namespace controls::periodic {
 
 namespace {
 
-constexpr int wideLegend = 1200;  // from this width on, the legend stands in one line
+constexpr int wideStrip = 900;  // from this width on, the strip stands in one row
+constexpr int legendRows = 2;
+constexpr int sliderPercent = 36;
+constexpr int descriptionPercent = 32;
 constexpr double highestCell = 1.15;
 constexpr double widestCell = 1.5;
 
@@ -21,11 +26,14 @@ int firstRow(int group) {
 TableLayout::TableLayout(QSize size)
     : margin_(std::clamp(size.width() / 100, 4, 16)),
       labelSize_(std::clamp(size.height() / 34, 10, 24)),
-      legendColumns_(size.width() >= wideLegend ? familyCount : familyCount / 2) {
-    const int legendHeight = labelSize_ * 3 / 2 * (familyCount / legendColumns_);
+      stripRows_(size.width() >= wideStrip ? 1 : 2) {
+    const int stripRow = std::clamp(size.height() / 24, 16, 34);
+    strip_ = {0, 0, size.width(), std::min(stripRows_ * stripRow, size.height())};
+    const int legendHeight = legendRows * (labelSize_ * 3 / 2);
+    const int free = size.height() - strip_.height();
     const int width = std::max(size.width() - 2 * margin_ - labelSize_, columnCount);
     // A third of a cell parts the periods from the two rows below.
-    const int height = std::max(size.height() - 3 * margin_ - labelSize_ - legendHeight, rowCount);
+    const int height = std::max(free - 3 * margin_ - labelSize_ - legendHeight, rowCount);
     cellWidth_ = width / columnCount;
     cellHeight_ = std::max(height * 3 / (rowCount * 3 + 1), 1);
     cellHeight_ = std::min(cellHeight_, static_cast<int>(cellWidth_ * highestCell));
@@ -35,9 +43,9 @@ TableLayout::TableLayout(QSize size)
 
     const int tableHeight = labelSize_ + rowCount * cellHeight_ + innerGap_;
     const int left = (size.width() - labelSize_ - columnCount * cellWidth_) / 2;
-    const int top = (size.height() - tableHeight - margin_ - legendHeight) / 2;
+    const int top = strip_.height() + (free - tableHeight - margin_ - legendHeight) / 2;
     origin_ = {left + labelSize_, top + labelSize_};
-    legend_ = {origin_.x(), top + tableHeight + margin_, columnCount * cellWidth_, legendHeight};
+    legend_ = {origin_.x(), top + tableHeight + margin_, columnCount * cellWidth_ - gap_, legendHeight};
 }
 
 QRect TableLayout::cell(Place place) const {
@@ -71,19 +79,76 @@ QRect TableLayout::card() const {
     return space.adjusted(cellWidth_ / 4, 0, -cellWidth_ / 4, -gap_);
 }
 
-QRect TableLayout::legendItem(Family family) const {
-    const int index = static_cast<int>(family);
-    const int rows = familyCount / legendColumns_;
-    const int width = legend_.width() / legendColumns_;
-    const int height = legend_.height() / rows;
-    return {legend_.left() + index % legendColumns_ * width, legend_.top() + index / legendColumns_ * height,
-            width - gap_, height};
+QRect TableLayout::legend(TableView view) const {
+    const QRect slide = slider(view);
+    return slide.isEmpty() ? legend_ : legend_.adjusted(0, 0, -slide.width() - 2 * margin_, 0);
 }
 
-QRect TableLayout::legendSwatch() const {
-    const int height = legendItem(Family{}).height();
+QRect TableLayout::slider(TableView view) const {
+    if (view != TableView::matter && view != TableView::discovery) return {};
+    const int width = legend_.width() * sliderPercent / 100;
+    return {legend_.right() + 1 - width, legend_.top(), width, legend_.height()};
+}
+
+int TableLayout::kindColumns(TableView view) const {
+    return view == TableView::metals ? kindCount(view) : kindCount(view) / legendRows;
+}
+
+QRect TableLayout::kindItem(TableView view, int kind) const {
+    const QRect space = legend(view);
+    const int columns = kindColumns(view);
+    const int width = space.width() / columns;
+    const int height = space.height() / legendRows;
+    const int index = kind - 1;
+    return {space.left() + index % columns * width, space.top() + index / columns * height, width - gap_,
+            height};
+}
+
+QRect TableLayout::swatch() const {
+    const int height = legend_.height() / legendRows;
     const int side = height * 6 / 10;
     return {3, (height - side) / 2, side * 3 / 2, side};
+}
+
+QRect TableLayout::description(TableView view) const {
+    QRect space = legend(view);
+    space.setWidth(space.width() * descriptionPercent / 100);
+    return space;
+}
+
+QRect TableLayout::quantityName(TableView view) const {
+    const QRect space = description(view);
+    return {space.left(), space.top(), space.width(), space.height() / legendRows};
+}
+
+QRect TableLayout::noDataItem(TableView view) const {
+    const QRect space = description(view);
+    const int height = space.height() / legendRows;
+    return {space.left(), space.top() + height, space.width() / 2, height};
+}
+
+QRect TableLayout::scaleBox(TableView view) const {
+    if (!hasOtherScale(view)) return {};
+    return noDataItem(view).translated(noDataItem(view).width(), 0);
+}
+
+QRect TableLayout::barSpace(TableView view) const {
+    // The figures at the ends stand out over the bar.
+    const QRect space = legend(view);
+    return QRect(QPoint(description(view).right() + 1, space.top()), space.bottomRight())
+        .adjusted(2 * labelSize_, 0, -labelSize_, 0);
+}
+
+QRect TableLayout::colorBar(TableView view) const {
+    const QRect space = barSpace(view);
+    const int height = space.height() / legendRows;
+    return {space.left(), space.top() + height / 8, space.width(), height * 7 / 8};
+}
+
+QRect TableLayout::barFigures(TableView view) const {
+    const QRect space = barSpace(view);
+    const int height = space.height() / legendRows;
+    return {space.left(), space.top() + height, space.width(), height};
 }
 
 int TableLayout::elementAt(QPoint point) const {
@@ -92,12 +157,11 @@ int TableLayout::elementAt(QPoint point) const {
     return found == elements().end() ? 0 : found->number;
 }
 
-std::optional<Family> TableLayout::legendAt(QPoint point) const {
-    for (int code = 1; code <= familyCount; ++code) {
-        const auto family = familyOfCode(code);
-        if (legendItem(*family).contains(point)) return family;
+int TableLayout::kindAt(QPoint point, TableView view) const {
+    for (int kind = 1; kind <= kindCount(view); ++kind) {
+        if (kindItem(view, kind).contains(point)) return kind;
     }
-    return std::nullopt;
+    return 0;
 }
 
 int TableLayout::labelPixels() const { return std::max(labelSize_ * 4 / 5, 9); }

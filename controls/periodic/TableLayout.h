@@ -3,10 +3,10 @@
 #include <QPoint>
 #include <QRect>
 #include <QSize>
-#include <optional>
 
 #include "controls/common/Element.h"
 #include "controls/periodic/ElementGrid.h"
+#include "controls/periodic/TableView.h"
 
 namespace controls::periodic {
 
@@ -14,6 +14,10 @@ namespace controls::periodic {
 class TableLayout {
   public:
     explicit TableLayout(QSize size);
+
+    /// The strip of views at the top, and in how many rows it stands.
+    QRect strip() const { return strip_; }
+    int stripRows() const { return stripRows_; }
 
     /// The cell of a place, without the gap to its neighbours.
     QRect cell(Place place) const;
@@ -26,17 +30,37 @@ class TableLayout {
     QRect rowName(int row) const;
     /// Free space above the transition metals.
     QRect card() const;
-    QRect legendItem(Family family) const;
-    /// The patch of colour in each legend item, measured from the item's corner.
-    QRect legendSwatch() const;
+
+    /// The legend below the table, beside the slider if the view has one.
+    QRect legend(TableView view) const;
+    /// The place of the slider; empty in a view without one.
+    QRect slider(TableView view) const;
+    /// The item of a kind (from 1) in the legend.
+    QRect kindItem(TableView view, int kind) const;
+    /// The patch of colour in each item, measured from the item's corner.
+    QRect swatch() const;
+    /// The parts of the legend of a quantity: its name, the mark of cells without data, the choice of the
+    /// scale and the bar of colours with its figures.
+    QRect quantityName(TableView view) const;
+    QRect noDataItem(TableView view) const;
+    QRect scaleBox(TableView view) const;
+    QRect colorBar(TableView view) const;
+    QRect barFigures(TableView view) const;
 
     /// The element under a point, 0 when there is none.
     int elementAt(QPoint point) const;
-    std::optional<Family> legendAt(QPoint point) const;
+    /// The kind whose item is under a point, 0 when there is none.
+    int kindAt(QPoint point, TableView view) const;
 
     int labelPixels() const;
 
   private:
+    int kindColumns(TableView view) const;
+    /// The left third of a quantity's legend.
+    QRect description(TableView view) const;
+    /// The rest of it.
+    QRect barSpace(TableView view) const;
+
     QPoint origin_;  // of the cell in column 1, row 1
     int margin_;
     int labelSize_;  // height of the group numbers, width of the period numbers
@@ -44,7 +68,8 @@ class TableLayout {
     int cellHeight_ = 0;
     int gap_ = 1;
     int innerGap_ = 0;  // between the seventh period and the lanthanides
-    int legendColumns_;
+    int stripRows_;
+    QRect strip_;
     QRect legend_;
 };
 

@@ -1,0 +1,57 @@
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QImage>
+#include <array>
+#include <string>
+
+#include "controls/common/QtText.h"
+#include "controls/periodic/PeriodicWidget.h"
+
+/// Drawing the whole periodic table at 1920 × 1080 with an element on its card, and what its creation adds to
+/// the start of the program.
+namespace {
+
+using namespace controls::periodic;
+
+/// The one application object of this process.
+void needApplication() {
+    static int count = 1;
+    static std::array<char, 13> name{"kalyxo-bench"};
+    static std::array<char*, 2> arguments{name.data(), nullptr};
+    static const QApplication application(count, arguments.data());
+}
+
+void RedrawOfPeriodicTable(benchmark::State& state) {
+    needApplication();
+    TableState shown;
+    shown.view = *viewOfCode(static_cast<int>(state.range(0)));
+    shown.selected = 92;
+    PeriodicWidget table([](int) {}, nullptr);
+    table.resize(1920, 1080);
+    table.setState(shown);
+    table.show();
+    QImage picture(table.size() * static_cast<int>(state.range(1)), QImage::Format_ARGB32_Premultiplied);
+    picture.setDevicePixelRatio(static_cast<double>(state.range(1)));
+    for (auto _ : state) table.render(&picture);
+    state.SetLabel(controls::toQt(viewName(shown.view)).toStdString());
+}
+BENCHMARK(RedrawOfPeriodicTable)
+    ->Unit(benchmark::kMillisecond)
+    ->ArgNames({"view", "pixelRatio"})
+    ->Args({viewCode(TableView::families), 1})
+    ->Args({viewCode(TableView::matter), 1})
+    ->Args({viewCode(TableView::density), 1})
+    ->Args({viewCode(TableView::discovery), 1})
+    ->Args({viewCode(TableView::families), 2});
+
+void CreationOfPeriodicTable(benchmark::State& state) {
+    needApplication();
+    for (auto _ : state) {
+        const PeriodicWidget table([](int) {}, nullptr);
+        benchmark::DoNotOptimize(table.state());
+    }
+}
+BENCHMARK(CreationOfPeriodicTable)->Unit(benchmark::kMicrosecond);
+
+}  // namespace

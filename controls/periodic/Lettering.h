@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QFont>
+#include <QHash>
+#include <QPainter>
+#include <QString>
+#include <optional>
+
+namespace controls::periodic {
+
+/// Draws one-line texts in the largest font that fits, and remembers these fonts, as finding them takes
+/// longer than drawing. What stands between two '^' is raised.
+class Lettering {
+  public:
+    /// The smallest letters that are still readable, in pixels.
+    static constexpr int leastPixels = 8;
+
+    /// The font for a text in a width, at most `pixels` high; nothing when the smallest is too wide.
+    std::optional<QFont> font(const QString& words, int width, int pixels,
+                              QFont::Weight weight = QFont::Normal);
+
+    /// Draws a text in the pen's colour; nothing when it does not fit.
+    void draw(QPainter& painter, const QRect& area, const QString& words, int pixels, Qt::Alignment alignment,
+              QFont::Weight weight = QFont::Normal);
+
+    /// The same in a font that is given.
+    static void draw(QPainter& painter, const QRect& area, const QString& words, const QFont& font,
+                     Qt::Alignment alignment);
+
+    /// The width of a text in pixels.
+    static int widthOf(const QString& words, const QFont& font);
+
+    /// The text without the marks of raising.
+    static QString plain(QString words) { return words.remove(QLatin1Char('^')); }
+
+  private:
+    struct Wanted {
+        QString words;
+        int width;
+        int pixels;
+        int weight;
+        friend bool operator==(const Wanted&, const Wanted&) = default;
+        friend std::size_t qHash(const Wanted& wanted, std::size_t seed = 0) {
+            return qHashMulti(seed, wanted.words, wanted.width, wanted.pixels, wanted.weight);
+        }
+    };
+
+    QHash<Wanted, std::optional<QFont>> fonts_;
+};
+
+}  // namespace controls::periodic

@@ -1,0 +1,91 @@
+#include "controls/periodic/ViewStrip.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <utility>
+
+#include "controls/common/Appearance.h"
+#include "controls/common/QtText.h"
+
+namespace controls::periodic {
+
+namespace {
+
+constexpr int leastPixels = 10;
+constexpr int mostPixels = 15;
+constexpr int padding = 4;
+constexpr int paddingInWidths = 12;
+/// Where the strip breaks when it stands in two rows.
+constexpr int secondRow = static_cast<int>(TableView::density);
+
+int wantedWidth(TableView view) {
+    return QFontMetrics(appearance::font(mostPixels)).horizontalAdvance(toQt(viewName(view))) +
+           paddingInWidths;
+}
+
+}  // namespace
+
+ViewButton::ViewButton(TableView view, Lettering& lettering, QWidget* parent)
+    : QRadioButton(toQt(viewName(view)), parent), lettering_(lettering) {
+    setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_Hover);
+    setCursor(Qt::PointingHandCursor);
+    const auto quantity = quantityOf(view);
+    setAccessibleName(toQt(quantity ? quantityName(*quantity) : viewName(view)));
+    setAccessibleDescription(QStringLiteral("Προβολή του περιοδικού πίνακα"));
+}
+
+void ViewButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const QColor ground = isChecked()    ? appearance::deep
+                          : underMouse() ? appearance::selected
+                                         : appearance::paper;
+    painter.fillRect(rect(), ground);
+    painter.fillRect(QRect(width() - 1, 0, 1, height()), appearance::line);
+    if (hasFocus()) painter.fillRect(QRect(2, height() - 3, width() - 5, 2), appearance::warm);
+    painter.setPen(isChecked() ? appearance::paper : appearance::deep);
+    lettering_.draw(painter, rect().adjusted(padding, 0, -padding, 0), text(),
+                    std::clamp(height() / 2, leastPixels, mostPixels), Qt::AlignCenter,
+                    isChecked() ? QFont::DemiBold : QFont::Normal);
+}
+
+ViewStrip::ViewStrip(Lettering& lettering, std::function<void(TableView)> chosen, QWidget* parent)
+    : QWidget(parent) {
+    setAccessibleName(QStringLiteral("Προβολές"));
+    for (int code = 0; code < viewCount; ++code) {
+        const TableView view = *viewOfCode(code);
+        auto* button = new ViewButton(view, lettering, this);
+        connect(button, &QAbstractButton::clicked, this, [chosen, view] { chosen(view); });
+        buttons_[static_cast<std::size_t>(code)] = button;
+    }
+}
+
+void ViewStrip::setView(TableView view) { buttons_[static_cast<std::size_t>(view)]->setChecked(true); }
+
+const QWidget& ViewStrip::button(TableView view) const { return *buttons_[static_cast<std::size_t>(view)]; }
+
+void ViewStrip::place(const QRect& area, int rows) {
+    setGeometry(area);
+    // The last pixel is the line below the strip.
+    const int height = (area.height() - rows) / rows;
+    const int end = rows == 1 ? viewCount : secondRow;
+    placeRow({0, 0, area.width(), height}, 0, end);
+    if (rows > 1) placeRow({0, height + 1, area.width(), height}, end, viewCount);
+}
+
+void ViewStrip::placeRow(const QRect& area, int first, int end) {
+    int wanted = 0;
+    for (int code = first; code < end; ++code) wanted += wantedWidth(*viewOfCode(code));
+    int before = 0;
+    for (int code = first; code < end; ++code) {
+        const int left = area.width() * before / wanted;
+        before += wantedWidth(*viewOfCode(code));
+        const int right = area.width() * before / wanted;
+        buttons_[static_cast<std::size_t>(code)]->setGeometry(area.left() + left, area.top(), right - left,
+                                                              area.height());
+    }
+}
+
+void ViewStrip::paintEvent(QPaintEvent*) { QPainter(this).fillRect(rect(), appearance::line); }
+
+}  // namespace controls::periodic
