@@ -12,7 +12,7 @@ namespace controls::periodic {
 
 namespace {
 
-constexpr int leastFactHeight = 11;
+constexpr int leastFactHeight = 13;
 constexpr int mostFactPixels = 19;
 constexpr int leastFactWidth = 150;
 constexpr int headingLines = 3;
@@ -34,9 +34,8 @@ QString matterText(Matter matter) {
 Fact matterFact(const Element& element, const TableState& state) {
     const bool chosen = state.view == TableView::matter;
     const double kelvin = chosen ? state.kelvin : roomTemperature;
-    const QString where =
-        chosen ? QStringLiteral("στους %1 K").arg(state.kelvin) : QStringLiteral("στους 25 °C");
-    return {QStringLiteral("Κατάσταση ") + where, matterText(element.matterAt(kelvin))};
+    const QString where = chosen ? QStringLiteral("%1 K").arg(state.kelvin) : QStringLiteral("25 °C");
+    return {QStringLiteral("Κατάσταση, ") + where, matterText(element.matterAt(kelvin))};
 }
 
 QString blockLetter(Block block) {
@@ -100,19 +99,24 @@ void paintHeading(QPainter& painter, Lettering& lettering, const QRect& area, co
                    pixels, Qt::AlignLeft);
 }
 
-/// The font in which each fact, label and value, fits one line.
-QFont fontOfFacts(Lettering& lettering, const std::vector<Fact>& facts, int width, int pixels) {
-    QFont smallest = appearance::font(pixels);
-    for (const Fact& fact : facts) {
-        const auto font =
-            lettering.font(fact.label + fact.value, width - smallest.pixelSize(), smallest.pixelSize());
-        if (!font) return appearance::font(Lettering::leastPixels);
-        if (font->pixelSize() < smallest.pixelSize() || font->stretch() != 0) smallest = *font;
-    }
-    return smallest;
+/// The font of the facts; it does not depend on the element, so that the card stays calm under a moving
+/// pointer.
+QFont fontOfFacts(Lettering& lettering, int width, int pixels) {
+    static const QString usual = QStringLiteral("Σημείο βρασμού 3134 K = 2861 °C");
+    return lettering.font(usual, width - pixels / 2, pixels)
+        .value_or(appearance::font(Lettering::leastPixels));
 }
 
-void paintFact(QPainter& painter, const QRect& area, const Fact& fact, const QFont& font) {
+/// A fact that is too long for the font has a smaller one.
+void paintFact(QPainter& painter, Lettering& lettering, const QRect& area, const Fact& fact,
+               const QFont& usual) {
+    QFont font = usual;
+    const int space = usual.pixelSize() / 2;
+    if (Lettering::widthOf(fact.label, usual) + Lettering::widthOf(fact.value, usual) + space >
+        area.width()) {
+        font = lettering.font(fact.label + fact.value, area.width() - space, usual.pixelSize())
+                   .value_or(appearance::font(Lettering::leastPixels));
+    }
     painter.setPen(appearance::muted);
     Lettering::draw(painter, area, fact.label, font, Qt::AlignLeft);
     painter.setPen(appearance::text);
@@ -125,13 +129,13 @@ void paintFacts(QPainter& painter, Lettering& lettering, const QRect& area, std:
     const int columns = std::clamp(area.width() / leastFactWidth, 1, 2);
     const int rows = std::clamp(area.height() / leastFactHeight, 1, (count + columns - 1) / columns);
     facts.resize(static_cast<std::size_t>(std::min(count, rows * columns)));
-    const int gutter = columns == 1 ? 0 : area.width() / 16;
+    const int gutter = columns == 1 ? 0 : area.width() / 24;
     const int width = (area.width() - (columns - 1) * gutter) / columns;
     const int height = area.height() / rows;
-    const QFont font = fontOfFacts(lettering, facts, width, std::clamp(height * 7 / 10, 9, mostFactPixels));
+    const QFont font = fontOfFacts(lettering, width, std::clamp(height * 7 / 10, 9, mostFactPixels));
     for (int i = 0; i < static_cast<int>(facts.size()); ++i) {
         paintFact(
-            painter,
+            painter, lettering,
             QRect(area.left() + i / rows * (width + gutter), area.top() + i % rows * height, width, height),
             facts[static_cast<std::size_t>(i)], font);
     }
@@ -147,7 +151,9 @@ std::vector<Fact> factsOf(const Element& element, const TableState& state) {
     if (first) std::ranges::stable_partition(quantities, [&](Quantity each) { return each == *first; });
     std::vector<Fact> facts;
     for (const Quantity quantity : quantities) {
-        facts.push_back({toQt(quantityName(quantity)), valueWithUnit(element, quantity)});
+        const QString name =
+            quantity == crust ? QStringLiteral("Στον φλοιό της Γης") : toQt(quantityName(quantity));
+        facts.push_back({name, valueWithUnit(element, quantity)});
     }
     facts.insert(facts.begin() + (first ? 1 : 0), matterFact(element, state));
     return facts;

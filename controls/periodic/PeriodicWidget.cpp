@@ -193,13 +193,13 @@ void PeriodicWidget::paintEvent(QPaintEvent* event) {
     const TableLayout layout = layoutNow();
     const CellPainter cells(painter, lettering_, layout.cellSize());
     painter.fillRect(event->rect(), appearance::ground);
-    paintElements(cells, layout, event->region());
-    if (event->region().intersects(layout.card())) paintCardOf(painter, layout.card());
-    // A cell or the card alone needs none of the rest.
-    if (!event->region().contains(layout.groupLabel(1))) return;
     paintLabels(painter, layout);
     paintPlaceholders(cells, layout);
-    paintLegend(painter, lettering_, layout, state_, highlightedNow());
+    paintElements(cells, layout, event->region());
+    if (event->region().intersects(layout.card())) paintCardOf(painter, layout.card());
+    if (event->region().intersects(layout.legend(state_.view))) {
+        paintLegend(painter, lettering_, layout, state_, highlightedNow());
+    }
 }
 
 void PeriodicWidget::paintCardOf(QPainter& painter, const QRect& area) {
@@ -223,7 +223,7 @@ void PeriodicWidget::paintElements(const CellPainter& cells, const TableLayout& 
 void PeriodicWidget::paintPlaceholders(const CellPainter& cells, const TableLayout& layout) const {
     const bool families = state_.view == TableView::families;
     const auto edge = [&](Family family) {
-        return families ? appearance::familyColors(family).edge : appearance::muted;
+        return families ? appearance::familyColors(family).edge : appearance::line;
     };
     cells.paintPlaceholder(layout.cell({innerColumn, 6}), QStringLiteral("57–71"), edge(Family::lanthanide));
     cells.paintPlaceholder(layout.cell({innerColumn, 7}), QStringLiteral("89–103"), edge(Family::actinide));

@@ -124,7 +124,8 @@ QRect TableLayout::quantityName(TableView view) const {
 QRect TableLayout::noDataItem(TableView view) const {
     const QRect space = description(view);
     const int height = space.height() / legendRows;
-    return {space.left(), space.top() + height, space.width() / 2, height};
+    return {space.left(), space.top() + height, hasOtherScale(view) ? space.width() / 2 : space.width(),
+            height};
 }
 
 QRect TableLayout::scaleBox(TableView view) const {
