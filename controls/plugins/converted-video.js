@@ -45,8 +45,10 @@ class ConvertedVideo {
 
   /// To a place that has not been converted, or to one that has: then it goes on behind that.
   moved() {
-    this.request?.abort();
+    // Its end is told while it is aborted, and must not count.
+    const { request } = this;
     this.request = undefined;
+    request?.abort();
     const { buffered } = this.buffer;
     let from = this.video.currentTime;
     for (let i = 0; i < buffered.length; ++i) {
