@@ -80,6 +80,10 @@ void CDialog::EnableDlgItem(int id, bool enable) {
     if (QWidget* const control = dialogControl(GetSafeHwnd(), id)) control->setEnabled(enable);
 }
 
+void CDialog::ShowDlgItem(int id, bool show) {
+    if (QWidget* const control = dialogControl(GetSafeHwnd(), id)) control->setVisible(show);
+}
+
 bool CDialog::IsDlgItemEnabled(int id) const {
     const QWidget* const control = dialogControl(GetSafeHwnd(), id);
     return control && control->isEnabled();

@@ -33,6 +33,7 @@ class CDialog : public CWnd {
     /// The control's window, 0 when there is none.
     HWND GetDlgItem(int id) const;
     void EnableDlgItem(int id, bool enable);
+    void ShowDlgItem(int id, bool show);
     bool IsDlgItemEnabled(int id) const;
     /// Gives a control the focus.
     void GotoDlgCtrl(int id);

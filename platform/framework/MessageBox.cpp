@@ -33,11 +33,13 @@ QString buttonText(BoxAnswer answer) {
 }
 
 /// Shows the box and waits for the user. Closing it without a button counts as its last button.
-BoxAnswer show(std::string_view text, std::string_view caption, const std::vector<BoxAnswer>& buttons) {
+BoxAnswer show(std::string_view text, std::string_view caption, const std::vector<BoxAnswer>& buttons,
+               BoxIcon icon) {
     // On the heap: the window it belongs to may go while the box is up.
     QPointer<QMessageBox> box = new QMessageBox(ownerWindow());
     box->setPalette(lightPalette());
     box->setWindowTitle(toQt(caption));
+    if (icon == BoxIcon::question) box->setIcon(QMessageBox::Question);
     box->setTextFormat(Qt::PlainText);
     box->setText(toQt(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
     std::vector<QAbstractButton*> widgets;
@@ -59,10 +61,13 @@ BoxAnswer show(std::string_view text, std::string_view caption, const std::vecto
 }  // namespace
 
 BoxAnswer AfxMessageBox(std::string_view text, BoxButtons kind) {
+    return MessageBox(text, LoadString(AFX_IDS_APP_TITLE), kind);
+}
+
+BoxAnswer MessageBox(std::string_view text, std::string_view caption, BoxButtons kind, BoxIcon icon) {
     const std::vector<BoxAnswer> buttons = buttonsOf(kind);
-    const std::string_view caption = LoadString(AFX_IDS_APP_TITLE);
     const auto ready = hasMachine() ? machine().nextAnswer(buttons) : std::nullopt;
-    const BoxAnswer answer = ready ? *ready : show(text, caption, buttons);
+    const BoxAnswer answer = ready ? *ready : show(text, caption, buttons, icon);
     if (hasMachine())
         machine().trace().record(TraceBox{std::string(text), std::string(caption), buttons, answer});
     return answer;

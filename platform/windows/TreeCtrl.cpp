@@ -30,7 +30,8 @@ HTREEITEM sibling(HTREEITEM item, int step) {
     QTreeWidgetItem* const it = toQt(item);
     if (!it || !it->treeWidget()) return nullptr;
     QTreeWidgetItem* const above = it->parent() ? it->parent() : it->treeWidget()->invisibleRootItem();
-    return handleOf(above->child(above->indexOfChild(it) + step));
+    // An index knows its row, for which asking the item above would search.
+    return handleOf(above->child(it->treeWidget()->indexFromItem(it).row() + step));
 }
 
 QStyle::StandardPixmap pixmapOf(TreeImage image) {
@@ -91,6 +92,10 @@ void CTreeCtrl::SetItemImage(HTREEITEM item, TreeImage image) {
     if (!item || !tree) return;
     const QIcon icon = image == TreeImage::none ? QIcon() : tree->style()->standardIcon(pixmapOf(image));
     toQt(item)->setIcon(0, icon);
+}
+
+void CTreeCtrl::SetItemBitmap(HTREEITEM item, UINT bitmap) {
+    if (item) toQt(item)->setIcon(0, QIcon(QStringLiteral(":/bitmap/%1.png").arg(bitmap)));
 }
 
 HTREEITEM CTreeCtrl::GetRootItem() const {

@@ -39,6 +39,8 @@ class CTreeCtrl : public CControl {
     LPARAM GetItemData(HTREEITEM item) const;
     void SetItemData(HTREEITEM item, LPARAM data);
     void SetItemImage(HTREEITEM item, TreeImage image);
+    /// The same with a bitmap resource.
+    void SetItemBitmap(HTREEITEM item, UINT bitmap);
 
     HTREEITEM GetRootItem() const;
     HTREEITEM GetChildItem(HTREEITEM item) const;

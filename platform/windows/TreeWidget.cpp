@@ -71,7 +71,24 @@ void TreeWidget::mouseDoubleClickEvent(QMouseEvent* event) {
     if (onItem) sendNotification(*this, NM_DBLCLK);
 }
 
-void TreeWidget::startDrag(Qt::DropActions) { tell(TVN_BEGINDRAG, currentItem()); }
+void TreeWidget::startDrag(Qt::DropActions) {
+    dragTold_ = true;
+    tell(TVN_BEGINDRAG, currentItem());
+}
+
+void TreeWidget::mousePressEvent(QMouseEvent* event) {
+    dragTold_ = false;
+    QTreeWidget::mousePressEvent(event);
+}
+
+// What follows the beginning of a drag is the program's affair and selects nothing.
+void TreeWidget::mouseMoveEvent(QMouseEvent* event) {
+    if (!dragTold_) QTreeWidget::mouseMoveEvent(event);
+}
+
+void TreeWidget::mouseReleaseEvent(QMouseEvent* event) {
+    if (!dragTold_) QTreeWidget::mouseReleaseEvent(event);
+}
 
 void TreeWidget::tell(int code, QTreeWidgetItem* item) {
     NMTREEVIEW notification;

@@ -18,10 +18,15 @@ class TreeWidget : public QTreeWidget {
     void keyPressEvent(QKeyEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void startDrag(Qt::DropActions actions) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
     void tell(int code, QTreeWidgetItem* item);
     void enter(QKeyEvent& event);
+
+    bool dragTold_ = false;
 };
 
 }  // namespace platform

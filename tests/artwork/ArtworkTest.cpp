@@ -32,6 +32,10 @@ constexpr std::array kResources = {
     Expected{"bitmap/204.png", 48, 100, kRgb},
     Expected{"bitmap/205.png", 97, 29, kRgb},
     Expected{"bitmap/207.png", 640, 480, kRgb},
+    Expected{"bitmap/301.png", 16, 16, kRgba},
+    Expected{"bitmap/302.png", 16, 16, kRgba},
+    Expected{"bitmap/303.png", 16, 16, kRgba},
+    Expected{"bitmap/304.png", 16, 16, kRgba},
     Expected{"cursor/131.png", 32, 32, kRgba},
     Expected{"cursor/132.png", 32, 32, kRgba},
     Expected{"cursor/145.png", 32, 32, kRgba},
@@ -63,7 +67,7 @@ TEST(Artwork, CursorsKnowTheirHotSpot) {
     EXPECT_EQ(resource("cursor/131.png").text("HotSpot"), "9 15");
     EXPECT_EQ(resource("cursor/132.png").text("HotSpot"), "16 9");
     EXPECT_EQ(resource("cursor/145.png").text("HotSpot"), "12 5");
-    EXPECT_EQ(resource("cursor/192.png").text("HotSpot"), "2 1");
+    EXPECT_EQ(resource("cursor/192.png").text("HotSpot"), "5 3");
 }
 
 TEST(Artwork, BarSlotsDifferFromOneAnotherInEveryState) {
