@@ -31,6 +31,10 @@ class Component : public platform::CWnd {
     R Get(std::int32_t dispid) {
         return Invoke<R>(dispid, platform::InvokeKind::propertyGet);
     }
+    template <class T>
+    void Put(std::int32_t dispid, T value) {
+        Invoke<void>(dispid, platform::InvokeKind::propertyPut, value);
+    }
 };
 
 }  // namespace kalyxo

@@ -43,7 +43,8 @@ class CKalyxoView : public platform::CView {
     void GoForward();
     void ShowMainMenu();
     void ShowPeriodicTable();
-    void ShowDataAnalyser();
+    /// Given a bookmark, brings its state back; otherwise does nothing in this mode already.
+    void ShowDataAnalyser(const CBMDataAn* bookmark = nullptr);
     /// Shows the page's video or molecule large, in a dialog under the title of what is on show.
     void ShowEnlargedView();
 
@@ -104,6 +105,8 @@ class CKalyxoView : public platform::CView {
     void OnUpdateBack(platform::CCmdUI& ui);
     void OnUpdateForward(platform::CCmdUI& ui);
     void OnUpdatePeriodicTable(platform::CCmdUI& ui);
+    void OnDataAnalyser() { ShowDataAnalyser(); }
+    void OnUpdateBookmarkAdd(platform::CCmdUI& ui);
     void OnUpdateDataAnalyser(platform::CCmdUI& ui);
 
     // Component events
@@ -126,9 +129,20 @@ class CKalyxoView : public platform::CView {
 
     // Bookmarks
     void SaveBookmarks();
+    void OnBookmarkAdd();
+    void OnBookmarkGoto();
+    std::unique_ptr<CBookmark> MakeBookmark(const std::string& name);
+    std::unique_ptr<CBookmark> MakeBrowseBookmark(const std::string& name) const;
+    std::unique_ptr<CBookmark> MakePeriodicBookmark(const std::string& name);
+    std::unique_ptr<CBookmark> MakeDataAnBookmark(const std::string& name);
+    std::string proposedName();
+    std::string pageTitle();
+    void openBookmark(const CBookmark& bookmark);
+    void openPageBookmark(const CBMBrowse& bookmark);
 
     // Navigation
     void ReplayHistory();
+    void openPlace(const PageAddress& place);
     void restorePage(const PageAddress& place);
     void RecordHistory(const PageAddress& place) { m_history.Record(place); }
     void ShowPreparedPage(const std::string& target);

@@ -63,8 +63,11 @@ const MessageMap* CKalyxoView::GetMessageMap() const {
         OnUpdateId<&CKalyxoView::OnUpdateSection<6>>(ID_SECTION_CONCEPT),
         OnCommandId<&CKalyxoView::ShowPeriodicTable>(ID_PERIODIC_TABLE),
         OnUpdateId<&CKalyxoView::OnUpdatePeriodicTable>(ID_PERIODIC_TABLE),
-        OnCommandId<&CKalyxoView::ShowDataAnalyser>(ID_DATA_ANALYSER),
+        OnCommandId<&CKalyxoView::OnDataAnalyser>(ID_DATA_ANALYSER),
         OnUpdateId<&CKalyxoView::OnUpdateDataAnalyser>(ID_DATA_ANALYSER),
+        OnCommandId<&CKalyxoView::OnBookmarkAdd>(ID_BOOKMARK_ADD),
+        OnUpdateId<&CKalyxoView::OnUpdateBookmarkAdd>(ID_BOOKMARK_ADD),
+        OnCommandId<&CKalyxoView::OnBookmarkGoto>(ID_BOOKMARK_GOTO),
         OnCommandId<&CKalyxoView::GoBack>(ID_BACK),
         OnUpdateId<&CKalyxoView::OnUpdateBack>(ID_BACK),
         OnCommandId<&CKalyxoView::GoForward>(ID_FORWARD),
@@ -129,6 +132,11 @@ void CKalyxoView::OnPrint() {
 void CKalyxoView::OnUpdatePrint(CCmdUI& ui) {
     ui.Enable(m_mode == ContentMode::Page ||
               (m_mode == ContentMode::DataAnalyser && m_components.dataAnalyser.GetViewMode() != 0));
+}
+
+void CKalyxoView::OnUpdateBookmarkAdd(CCmdUI& ui) {
+    const bool page = m_mode == ContentMode::Page && m_address.pageId > 0;
+    ui.Enable(page || m_mode == ContentMode::PeriodicTable || m_mode == ContentMode::DataAnalyser);
 }
 
 void CKalyxoView::OnCut() {

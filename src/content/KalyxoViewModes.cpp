@@ -1,5 +1,6 @@
 #include "platform/windows/MessageMap.h"
 #include "src/app/KalyxoApp.h"
+#include "src/bookmarks/AnalyserCapture.h"
 #include "src/content/KalyxoView.h"
 #include "src/content/PaneLayout.h"
 
@@ -79,14 +80,17 @@ void CKalyxoView::ShowPeriodicTable() {
     placeWhole(m_components.periodicTable);
 }
 
-void CKalyxoView::ShowDataAnalyser() {
-    if (m_mode == ContentMode::DataAnalyser) return;
+void CKalyxoView::ShowDataAnalyser(const CBMDataAn* bookmark) {
+    if (m_mode == ContentMode::DataAnalyser && !bookmark) return;
     selectSlot(kDataAnalyserSlot);
-    leaveMode();
+    if (m_mode != ContentMode::DataAnalyser) leaveMode();
     m_mode = ContentMode::DataAnalyser;
     m_menu.ClearHotItem();
     RecordHistory({kDataAnalyserCode, 0, 0});
     placeWhole(m_components.dataAnalyser);
+    if (!bookmark) return;
+    m_components.dataAnalyser.SendMessage(WM_PAINT);
+    RestoreAnalyser(m_components.dataAnalyser, *bookmark);
 }
 
 }  // namespace kalyxo

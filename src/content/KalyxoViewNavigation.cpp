@@ -137,7 +137,7 @@ void CKalyxoView::ReplayHistory() {
     }
 }
 
-void CKalyxoView::restorePage(const PageAddress& place) {
+void CKalyxoView::openPlace(const PageAddress& place) {
     m_address = place;
     if (IsSectionStartPage(place.pageId)) {
         OpenSection(place.sectionCode, place.pageId);
@@ -145,6 +145,10 @@ void CKalyxoView::restorePage(const PageAddress& place) {
         OpenSection(place.sectionCode, 0);
         m_components.select.ShowItem(place.pageId, place.itemCode, false);
     }
+}
+
+void CKalyxoView::restorePage(const PageAddress& place) {
+    openPlace(place);
     m_components.select.ShowItem(place.pageId, place.itemCode, false);
 }
 

@@ -11,9 +11,11 @@ using namespace platform::literals;
 using platform::CRect;
 using platform::DialogControl;
 using platform::DialogTemplate;
+using platform::ES_AUTOHSCROLL;
 using platform::IDC_STATIC;
 using platform::IDCANCEL;
 using platform::IDOK;
+using platform::WS_VISIBLE;
 using Kind = platform::DialogControlKind;
 
 namespace {
@@ -93,8 +95,36 @@ constexpr std::array kSearch = {
     DialogControl{Kind::pushButton, IDCANCEL, CRect::at(290, 205, 50, 15), "Ακύρωση"_gr},
 };
 
+constexpr DialogControl button(int id, const CRect& rect, std::string_view text) {
+    return {Kind::pushButton, id, rect, text};
+}
+
+constexpr std::array kBookmark = {
+    DialogControl{Kind::defaultPushButton, IDOK, CRect::at(141, 24, 50, 14), "OK"},
+    button(IDCANCEL, CRect::at(87, 24, 50, 14), "Ακύρωση"_gr),
+    DialogControl{.kind = Kind::edit,
+                  .id = IDC_BOOKMARK_NAME,
+                  .rect = CRect::at(7, 7, 210, 12),
+                  .text = "Όνομα σελιδοδείκτη"_gr,
+                  .style = WS_VISIBLE | ES_AUTOHSCROLL},
+    button(IDC_BOOKMARK_ADVANCED, CRect::at(7, 24, 72, 14), "Για προχωρημένους"_gr),
+    button(IDC_BOOKMARK_NEW_FOLDER, CRect::at(7, 42, 72, 14), "Νέος φάκελος"_gr),
+    button(IDC_BOOKMARK_RENAME, CRect::at(87, 42, 50, 14), "Μετονομασία"_gr),
+    button(IDC_BOOKMARK_DELETE, CRect::at(141, 42, 50, 14), "Διαγραφή"_gr),
+    DialogControl{Kind::treeView, IDC_BOOKMARK_TREE, CRect::at(7, 62, 210, 163),
+                  "Φάκελοι και σελιδοδείκτες"_gr},
+};
+
+constexpr std::array kFolderName = {
+    DialogControl{Kind::edit, IDC_BOOKMARK_NAME, CRect::at(7, 7, 172, 14), "Όνομα"_gr},
+    DialogControl{Kind::defaultPushButton, IDOK, CRect::at(39, 26, 50, 14), "OK"},
+    button(IDCANCEL, CRect::at(96, 26, 50, 14), "Cancel"),
+};
+
 constexpr std::array kDialogs = {
     DialogTemplate{IDD_ABOUT, "Πληροφορίες για Kalyxo"_gr, {217, 81}, kAbout},
+    DialogTemplate{IDD_BOOKMARK, "Bookmark", {224, 231}, kBookmark},
+    DialogTemplate{IDD_FOLDER_NAME, "Folder", {186, 47}, kFolderName},
     DialogTemplate{IDD_ENLARGED_VIEW, {}, {433, 326}, kEnlargedView},
     DialogTemplate{IDD_FIND_FOLDER, "Find Folder", {187, 177}, kFindFolder},
     DialogTemplate{IDD_SEARCH, "Αναζήτηση"_gr, {347, 226}, kSearch},

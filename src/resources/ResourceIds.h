@@ -6,12 +6,24 @@ namespace kalyxo {
 
 /// String table ids.
 inline constexpr platform::UINT IDS_OLE_INIT_FAILED = 100;
+inline constexpr platform::UINT IDS_BOOKMARK_PERIODIC_TABLE = 200;
 inline constexpr platform::UINT IDS_SETTINGS_KEY = 201;
+inline constexpr platform::UINT IDS_BOOKMARK_DATA_ANALYSER = 202;
 inline constexpr platform::UINT IDS_APP_TITLE = 57344;
 inline constexpr platform::UINT IDS_BOOKMARKS_NOT_CREATED = 61204;
 inline constexpr platform::UINT IDS_BOOKMARKS_NOT_WRITTEN = 61205;
+inline constexpr platform::UINT IDS_BOOKMARK_NAME_TAKEN = 61207;
+inline constexpr platform::UINT IDS_BOOKMARK_RENAME = 61208;
+inline constexpr platform::UINT IDS_BOOKMARK_ADD = 61209;
+inline constexpr platform::UINT IDS_BOOKMARK_STRUCT = 61210;
+inline constexpr platform::UINT IDS_BOOKMARK_REACT = 61211;
+inline constexpr platform::UINT IDS_BOOKMARK_USES = 61212;
+inline constexpr platform::UINT IDS_BOOKMARK_HISTORY = 61213;
+inline constexpr platform::UINT IDS_BOOKMARK_SOURCE = 61214;
+inline constexpr platform::UINT IDS_BOOKMARK_ELEMCOMP = 61215;
 inline constexpr platform::UINT IDS_REGISTRY_UNREADABLE = 61216;
 inline constexpr platform::UINT IDS_NO_BROWSER = 61218;
+inline constexpr platform::UINT IDS_BOOKMARK_CONCEPT = 61219;
 inline constexpr platform::UINT IDS_COMPONENT_OUTDATED = 61226;
 inline constexpr platform::UINT IDS_OLDER_VERSION = 61228;
 inline constexpr platform::UINT IDS_NO_PERIODIC_TABLE = 61229;
@@ -20,6 +32,8 @@ inline constexpr platform::UINT IDS_NO_PRINTER = 61232;
 
 /// Dialog ids.
 inline constexpr platform::UINT IDD_ABOUT = 100;
+inline constexpr platform::UINT IDD_BOOKMARK = 150;
+inline constexpr platform::UINT IDD_FOLDER_NAME = 158;
 inline constexpr platform::UINT IDD_ENLARGED_VIEW = 151;
 inline constexpr platform::UINT IDD_FIND_FOLDER = 211;
 inline constexpr platform::UINT IDD_SEARCH = 178;
@@ -48,6 +62,14 @@ inline constexpr int IDC_ALTERNATIVES = 1017;
 inline constexpr int IDC_RESULTS = 1019;
 inline constexpr int IDC_SEARCH_WORDS = 1021;
 
+/// Controls of the bookmark organiser; the name dialog has the first.
+inline constexpr int IDC_BOOKMARK_NAME = 1001;
+inline constexpr int IDC_BOOKMARK_ADVANCED = 1002;
+inline constexpr int IDC_BOOKMARK_NEW_FOLDER = 1004;
+inline constexpr int IDC_BOOKMARK_RENAME = 1005;
+inline constexpr int IDC_BOOKMARK_DELETE = 1006;
+inline constexpr int IDC_BOOKMARK_TREE = 1009;
+
 /// Bitmap ids.
 inline constexpr platform::UINT IDB_SPLITTER_PATTERN = 133;
 inline constexpr platform::UINT IDB_BAR_SHADOW = 188;
@@ -56,10 +78,15 @@ inline constexpr platform::UINT IDB_BAR_HOVER = 196;
 inline constexpr platform::UINT IDB_BAR_NORMAL = 197;
 inline constexpr platform::UINT IDB_ABOUT_PICTURE = 204;
 inline constexpr platform::UINT IDB_ABOUT_LOGO = 205;
+inline constexpr platform::UINT IDB_TREE_FOLDER = 301;
+inline constexpr platform::UINT IDB_TREE_PAGE = 302;
+inline constexpr platform::UINT IDB_TREE_PERIODIC_TABLE = 303;
+inline constexpr platform::UINT IDB_TREE_DATA_ANALYSER = 304;
 
 /// Cursor ids.
 inline constexpr platform::UINT IDC_RESIZE_HORIZONTAL = 131;
 inline constexpr platform::UINT IDC_RESIZE_VERTICAL = 132;
 inline constexpr platform::UINT IDC_HAND_CURSOR = 145;
+inline constexpr platform::UINT IDC_DRAG_CURSOR = 192;
 
 }  // namespace kalyxo

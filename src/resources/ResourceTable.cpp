@@ -15,6 +15,7 @@ constexpr std::array kCursors = {
     platform::CursorResource{IDC_RESIZE_HORIZONTAL, {9, 15}},
     platform::CursorResource{IDC_RESIZE_VERTICAL, {16, 9}},
     platform::CursorResource{IDC_HAND_CURSOR, {12, 5}},
+    platform::CursorResource{IDC_DRAG_CURSOR, {5, 3}},
 };
 
 }  // namespace

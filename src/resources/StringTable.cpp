@@ -15,16 +15,28 @@ namespace {
 constexpr std::array kStrings = {
     StringResource{IDS_OLE_INIT_FAILED,
                    "OLE initialization failed.  Make sure that the OLE libraries are the correct version."},
+    StringResource{IDS_BOOKMARK_PERIODIC_TABLE, "Periodic Table"},
+    StringResource{IDS_BOOKMARK_DATA_ANALYSER, "Data Analyser"},
     StringResource{IDS_SETTINGS_KEY, "Software\\Orvane\\Kalyxo Greek\\"},
     StringResource{IDS_APP_TITLE, "Kalyxo"},
     StringResource{IDS_BOOKMARKS_NOT_CREATED, "Δεν είναι δυνατή η εγγραφή του αρχείου σελιδοδείκτη: "_gr},
     StringResource{IDS_BOOKMARKS_NOT_WRITTEN,
                    "Παρουσιάστηκε πρόβλημα κατά την εγγραφή του αρχείου σελιδοδεικτών – πιθανή αιτία ο μη "
                    "επαρκής χώρος στο δίσκο"_gr},
+    StringResource{IDS_BOOKMARK_NAME_TAKEN, "Υπάρχει ήδη σελιδοδείκτης με το ίδιο όνομα"_gr},
+    StringResource{IDS_BOOKMARK_RENAME, "Μετονομασία σελιδοδείκτη"_gr},
+    StringResource{IDS_BOOKMARK_ADD, "Προσθήκη σελιδοδείκτη"_gr},
+    StringResource{IDS_BOOKMARK_STRUCT, "Δομές"_gr},
+    StringResource{IDS_BOOKMARK_REACT, "Αλλαγή των υλικών"_gr},
+    StringResource{IDS_BOOKMARK_USES, "Εφαρμογές της χημείας"_gr},
+    StringResource{IDS_BOOKMARK_HISTORY, "Άνθρωποι και ιστορία"_gr},
+    StringResource{IDS_BOOKMARK_SOURCE, "Πηγές και υλικά"_gr},
+    StringResource{IDS_BOOKMARK_ELEMCOMP, "Ενώσεις και στοιχεία"_gr},
     StringResource{IDS_REGISTRY_UNREADABLE,
                    "Δεν είναι δυνατή η λήψη πληροφοριών από το μητρώο. "
                    "Παρακαλώ κάντε νέα εγκατάσταση και δοκιμάστε ξανά."_gr},
     StringResource{IDS_NO_BROWSER, "Δεν έχει γίνει σωστά η εγκατάσταση του Internet Explorer"_gr},
+    StringResource{IDS_BOOKMARK_CONCEPT, "Έννοιες"_gr},
     StringResource{IDS_COMPONENT_OUTDATED,
                    ".OCX έχει λήξει η προθεσμία χρήσης και ίσως να δημιουργήσει προβλήματα εφόσον εκτελείται."
                    "\r\n\r\nΠαρακαλώ κάντε νέα εγκατάσταση και ξαναπροσπαθήστε."_gr},

@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <random>
-#include <sstream>
 
 #include "platform/text/GreekLiteral.h"
+#include "tests/HexBytes.h"
 #include "tests/program/TestFolders.h"
 
 namespace kalyxo {
@@ -13,26 +13,12 @@ namespace {
 
 using namespace platform::literals;
 
-/// Bytes from hexadecimal pairs; what stands in single quotes is taken letter by letter.
-std::string bytes(const std::string& text) {
-    std::string result;
-    std::istringstream words(text);
-    for (std::string word; words >> word;) {
-        if (word.front() == '\'') {
-            result += word.substr(1, word.size() - 2);
-        } else {
-            result += static_cast<char>(std::stoi(word, nullptr, 16));
-        }
-    }
-    return result;
-}
-
 const std::string kFolderClass = "FF FF 01 00 09 00 'CBMFolder' ";
 const std::string kPageClass = "FF FF 01 00 09 00 'CBMBrowse' ";
 const std::string kTableClass = "FF FF 01 00 0B 00 'CBMPeriodic' ";
 const std::string kAnalyserClass = "FF FF 01 00 09 00 'CBMDataAn' ";
-const std::string kDefaultFile = bytes("01 00 00 00  01 00 00 00  01 00 " + kFolderClass +
-                                       "14 CF E9 20 F3 E5 EB E9 E4 EF E4 E5 DF EA F4 E5 F2 20 EC EF F5");
+const std::string kDefaultFile = hexBytes("01 00 00 00  01 00 00 00  01 00 " + kFolderClass +
+                                          "14 CF E9 20 F3 E5 EB E9 E4 EF E4 E5 DF EA F4 E5 F2 20 EC EF F5");
 
 template <class Record>
 Record& add(BookmarkArray& records, std::string_view name) {
@@ -72,15 +58,15 @@ BookmarkArray recordsOfAllClasses() {
 }
 
 const std::string kFileOfAllClasses =
-    bytes("01 00 00 00  06 00 00 00  06 00 " +                                         //
-          kFolderClass + "01 C1 " +                                                    // class 1, record 2
-          kPageClass + "4B 6D 04 00  FE FF FF FF  03 00  01 'p' " +                    // 3, 4
-          kTableClass + "04 03 02 01  05 00 00 00  01 't' " +                          // 5, 6
-          kAnalyserClass + "01 'd'  01 00  02 00  01 00 00 00  03 00  00 00 00 00 " +  // 7, 8
-          "04 00 00 00  07 00  02 00 00 00  FF FF  AB CD " +                           //
-          "03 00 00 00  0A 00 00 00  14 00 00 00  64 00 00 00  9C FF FF FF " +         //
-          "01 80  00 " +                                                               // 9
-          "03 80  00 00 00 00  00 00 00 00  00 00  01 'q'");                           // 10
+    hexBytes("01 00 00 00  06 00 00 00  06 00 " +                                         //
+             kFolderClass + "01 C1 " +                                                    // class 1, record 2
+             kPageClass + "4B 6D 04 00  FE FF FF FF  03 00  01 'p' " +                    // 3, 4
+             kTableClass + "04 03 02 01  05 00 00 00  01 't' " +                          // 5, 6
+             kAnalyserClass + "01 'd'  01 00  02 00  01 00 00 00  03 00  00 00 00 00 " +  // 7, 8
+             "04 00 00 00  07 00  02 00 00 00  FF FF  AB CD " +                           //
+             "03 00 00 00  0A 00 00 00  14 00 00 00  64 00 00 00  9C FF FF FF " +         //
+             "01 80  00 " +                                                               // 9
+             "03 80  00 00 00 00  00 00 00 00  00 00  01 'q'");                           // 10
 
 TEST(BookmarkFile, EachRecordClassHasItsBytes) {
     EXPECT_EQ(WriteBookmarks(recordsOfAllClasses()), kFileOfAllClasses);
@@ -101,8 +87,8 @@ TEST(BookmarkFile, LongNamesHaveTheirLengthForms) {
         BookmarkArray records;
         add<CBMFolder>(records, std::string(length, '\xE1'));
         const std::string file = WriteBookmarks(records);
-        EXPECT_EQ(file.substr(0, 25 + bytes(prefix).size()),
-                  bytes("01 00 00 00  01 00 00 00  01 00 " + kFolderClass + prefix));
+        EXPECT_EQ(file.substr(0, 25 + hexBytes(prefix).size()),
+                  hexBytes("01 00 00 00  01 00 00 00  01 00 " + kFolderClass + prefix));
         const auto read = ReadBookmarks(file);
         ASSERT_TRUE(read) << length;
         EXPECT_EQ(read->front()->name, records.front()->name);
@@ -116,11 +102,11 @@ TEST(BookmarkFile, ManyRecordsHaveTheLargeForms) {
     add<CBMPeriodic>(records, "");  // gets the class index 0x7FFF
     add<CBMPeriodic>(records, "");
     const std::string file = WriteBookmarks(records);
-    const std::string tail = bytes("FF 7F FF 7F 00 80  00 00 00 00  00 00 00 00  00");
+    const std::string tail = hexBytes("FF 7F FF 7F 00 80  00 00 00 00  00 00 00 00  00");
     EXPECT_EQ(file.substr(file.size() - tail.size()), tail);
     while (records.size() < 0xFFFF) add<CBMPeriodic>(records, "");
     const std::string large = WriteBookmarks(records);
-    EXPECT_EQ(large.substr(0, 14), bytes("01 00 00 00  FF FF 00 00  FF FF FF FF 00 00"));
+    EXPECT_EQ(large.substr(0, 14), hexBytes("01 00 00 00  FF FF 00 00  FF FF FF FF 00 00"));
     const auto read = ReadBookmarks(large);
     ASSERT_TRUE(read);
     EXPECT_EQ(WriteBookmarks(*read), large);
@@ -232,11 +218,11 @@ TEST(BookmarkFile, RefusesDamagedFiles) {
         {"fewer entries than K - 1", head + analyser + "00 00 00 00  00 00  02 00 00 00  01 00 00 00  00"},
         {"N = 2 GB", head + analyser + "FF FF FF 7F  00 00  01 00 00 00"},
     };
-    for (const auto& [what, text] : cases) EXPECT_FALSE(ReadBookmarks(bytes(text))) << what;
-    EXPECT_TRUE(ReadBookmarks(bytes(head + analyser + "00 00 00 00  00 00  01 00 00 00")))
+    for (const auto& [what, text] : cases) EXPECT_FALSE(ReadBookmarks(hexBytes(text))) << what;
+    EXPECT_TRUE(ReadBookmarks(hexBytes(head + analyser + "00 00 00 00  00 00  01 00 00 00")))
         << "the rest is whole";
-    EXPECT_TRUE(ReadBookmarks(bytes(head + analyser + "FB FF FF FF  00 00  01 00 00 00"))) << "N below 0";
-    EXPECT_TRUE(ReadBookmarks(bytes(head + "FF 7F 01 00 00 80  01 'g'")))
+    EXPECT_TRUE(ReadBookmarks(hexBytes(head + analyser + "FB FF FF FF  00 00  01 00 00 00"))) << "N below 0";
+    EXPECT_TRUE(ReadBookmarks(hexBytes(head + "FF 7F 01 00 00 80  01 'g'")))
         << "a small index in the large form";
 }
 

@@ -36,11 +36,12 @@ struct ChangeForm {
     bool value;
 };
 
-constexpr std::array<ChangeForm, 10> kChanges = {{
+constexpr std::array<ChangeForm, 11> kChanges = {{
     {"machine", 0, true},
     {"options", 0, true},
     {"setting", 1, true},
     {"write", 1, true},
+    {"bytes", 1, true},
     {"cut", 1, true},
     {"copy", 2, false},
     {"version", 1, true},
@@ -54,11 +55,12 @@ struct CheckForm {
     bool value;
 };
 
-constexpr std::array<CheckForm, 5> kChecks = {{
+constexpr std::array<CheckForm, 6> kChecks = {{
     {"file", false},
     {"no-file", false},
     {"contains", true},
     {"lacks", true},
+    {"bytes", true},
     {"count", true},
 }};
 

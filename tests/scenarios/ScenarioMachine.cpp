@@ -10,6 +10,7 @@
 #include "platform/files/FileVersion.h"
 #include "platform/registry/RegFile.h"
 #include "platform/text/CodePage1253.h"
+#include "tests/HexBytes.h"
 #include "tests/scenarios/DriverProcess.h"
 
 namespace scenario {
@@ -107,6 +108,11 @@ Problem checkContent(const fs::path& file, const FileCheck& check) {
     return check.file + (there ? " holds " : " does not hold ") + check.value.dump();
 }
 
+Problem checkBytes(const fs::path& file, const FileCheck& check) {
+    const bool equal = check.value.is_string() && bytesOf(file) == hexBytes(check.value.get<std::string>());
+    return equal ? std::nullopt : Problem(check.file + " has other bytes");
+}
+
 Problem checkCount(const fs::path& folder, const FileCheck& check) {
     std::error_code error;
     const fs::directory_iterator files(folder, error);
@@ -156,6 +162,7 @@ Problem ScenarioMachine::Change(const MachineChange& change) {
 Problem ScenarioMachine::changeFile(const MachineChange& change) {
     const fs::path file = hostPath(change.words[0]);
     if (change.what == "write") return replaceWith(file, platform::fromUtf8(change.value.get<std::string>()));
+    if (change.what == "bytes") return replaceWith(file, hexBytes(change.value.get<std::string>()));
     if (!fs::exists(file)) return change.words[0] + " does not exist";
     if (change.what == "copy") return copyOf(file, hostPath(change.words[1]));
     if (change.what == "version") return setVersion(file, change.value.get<std::string>());
@@ -175,6 +182,7 @@ Problem ScenarioMachine::Check(const FileCheck& check) const {
     if (check.what == "count") return checkCount(file, check);
     if (check.what == "no-file") return fs::exists(file) ? Problem(check.file + " exists") : std::nullopt;
     if (!fs::exists(file)) return check.file + " does not exist";
+    if (check.what == "bytes") return checkBytes(file, check);
     return check.what == "file" ? std::nullopt : checkContent(file, check);
 }
 

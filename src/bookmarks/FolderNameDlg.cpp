@@ -1,0 +1,52 @@
+#include "src/bookmarks/FolderNameDlg.h"
+
+#include <utility>
+
+#include "platform/framework/DataExchange.h"
+#include "platform/framework/Resources.h"
+#include "platform/text/GreekLiteral.h"
+#include "src/resources/ResourceIds.h"
+
+namespace kalyxo {
+
+using namespace platform;
+using namespace platform::literals;
+
+namespace {
+
+constexpr int kLongestName = 60;
+
+std::string_view captionOf(NameFor mode) {
+    if (mode == NameFor::newFolder) return "Νέος φάκελος"_gr;
+    return mode == NameFor::folder ? "Μετονομασία φακέλου"_gr : "Μετονομασία σελιδοδείκτη"_gr;
+}
+
+}  // namespace
+
+const CRuntimeClass CFolderNameDlg::runtimeClass{"CFolderNameDlg"};
+
+CFolderNameDlg::CFolderNameDlg(NameFor mode, std::string text)
+    : CDialog(IDD_FOLDER_NAME), m_mode(mode), m_text(std::move(text)) {}
+
+std::string CFolderNameDlg::Text() const {
+    constexpr std::string_view white = " \t\r\n\v\f";
+    const std::size_t first = m_text.find_first_not_of(white);
+    if (first == m_text.npos) return {};
+    return m_text.substr(first, m_text.find_last_not_of(white) - first + 1);
+}
+
+void CFolderNameDlg::DoDataExchange(CDataExchange& exchange) {
+    DDX_Control(exchange, IDC_BOOKMARK_NAME, m_edit);
+    DDX_Text(exchange, IDC_BOOKMARK_NAME, m_text);
+    DDV_MaxChars(exchange, m_text, kLongestName);
+}
+
+bool CFolderNameDlg::OnInitDialog() {
+    CDialog::OnInitDialog();
+    SetWindowText(captionOf(m_mode));
+    GotoDlgCtrl(IDC_BOOKMARK_NAME);
+    m_edit.SetSel(0, -1);
+    return false;
+}
+
+}  // namespace kalyxo

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <sstream>
+#include <string>
+
+/// Bytes from hexadecimal pairs; what stands in single quotes is taken letter by letter.
+inline std::string hexBytes(const std::string& text) {
+    std::string result;
+    std::istringstream words(text);
+    for (std::string word; words >> word;) {
+        if (word.front() == '\'') {
+            result += word.substr(1, word.size() - 2);
+        } else {
+            result += static_cast<char>(std::strtol(word.c_str(), nullptr, 16));
+        }
+    }
+    return result;
+}
