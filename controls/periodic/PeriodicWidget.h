@@ -20,6 +20,8 @@ class ViewStrip;
 
 /// The periodic table on the screen. Its strip, slider and box are made when it is first shown.
 class PeriodicWidget : public QWidget {
+    Q_OBJECT
+
   public:
     /// `chosen` is called with the atomic number when the reader clicks an element or presses Enter on it.
     PeriodicWidget(std::function<void(int number)> chosen, QWidget* parent);

@@ -118,7 +118,8 @@ class TableAccessible : public QAccessibleWidget {
 };
 
 QAccessibleInterface* accessibleOf(const QString&, QObject* object) {
-    auto* table = dynamic_cast<PeriodicWidget*>(object);
+    // Not by type information: the browser engine's objects, asked about here too, carry none.
+    auto* table = qobject_cast<PeriodicWidget*>(object);
     return table ? std::make_unique<TableAccessible>(*table).release() : nullptr;
 }
 
