@@ -3,6 +3,7 @@
 #include <array>
 
 #include "controls/common/Version.h"
+#include "controls/dataanalyser/GraphView.h"
 #include "platform/automation/DispatchMap.h"
 
 namespace controls::dataanalyser {
@@ -14,6 +15,11 @@ using platform::PropertyGet;
 using platform::PropertyPut;
 using platform::Variant;
 using Self = AnalyserControl;
+
+constexpr std::string_view documentName = "Kalyxo";
+// Of the page, what a graph leaves free on each side.
+constexpr int marginPart = 16;
+constexpr int pixelsPerInch = 110;
 
 constexpr auto operationTable = std::array{
     PropertyGet<1, &Self::version>("Version"),
@@ -30,18 +36,18 @@ constexpr auto operationTable = std::array{
     PropertyGet<7, &Self::graphKind>("Option7"),
     PropertyPut<7, &Self::putGraphKind>("Option7"),
     PropertyGet<8, &Self::selectionSize>("Value8"),
-    PropertyGet<9, &Self::topElement>("Value9"),
+    PropertyGet<9, &Self::topRow>("Value9"),
     Method<10, &Self::initialise>("Initialise"),
     Method<11, &Self::copyAllData>("CopyAllData"),
     Method<12, &Self::copySelection>("CopySelection"),
-    Method<13, &Self::family>("GetMode"),
-    Method<14, &Self::columnsLocation>("GetEntryCountRef"),
-    Method<15, &Self::setFamily>("SetMode"),
-    Method<16, &Self::setColumnsLocation>("SetEntryCountRef"),
+    Method<13, &Self::dataSet>("GetMode"),
+    Method<14, &Self::entriesLocation>("GetEntryCountRef"),
+    Method<15, &Self::setDataSet>("SetMode"),
+    Method<16, &Self::setEntriesLocation>("SetEntryCountRef"),
     Method<17, &Self::selectionLocation>("GetValue11"),
     Method<18, &Self::setSelection>("SetValues"),
-    Method<20, &Self::setColumnWidth>("SetEntry"),
-    Method<21, &Self::columnWidth>("GetEntry"),
+    Method<20, &Self::setEntry>("SetEntry"),
+    Method<21, &Self::entry>("GetEntry"),
     Method<22, &Self::copyGraph>("CopyGraph"),
     Method<23, &Self::printView>("PrintView"),
 };
@@ -49,11 +55,13 @@ constexpr auto operationInfos = platform::describe(operationTable);
 
 }  // namespace
 
-AnalyserControl::AnalyserControl(QWidget* parent) : pane_(new AnalyserPane(parent)) {}
+AnalyserControl::AnalyserControl(platform::ControlSite& site, QWidget* parent)
+    : site_(site),
+      analyser_(
+          [this] { return dataFolder_.empty() ? DataLibrary() : DataLibrary(site_.files(), dataFolder_); }),
+      pane_(new AnalyserPane(analyser_, parent)) {}
 
 AnalyserControl::~AnalyserControl() { const std::unique_ptr<AnalyserPane> last(pane_.data()); }
-
-QWidget& AnalyserControl::widget() { return *pane_; }
 
 std::span<const platform::OperationInfo> AnalyserControl::operations() const { return operationInfos; }
 
@@ -65,95 +73,85 @@ std::optional<Variant> AnalyserControl::invoke(std::int32_t dispid, platform::In
 
 std::string AnalyserControl::version() const { return std::string(controls::version); }
 
-// There is no graph, so that no other mode can be on show.
-std::int16_t AnalyserControl::viewMode() const { return 0; }
-void AnalyserControl::putViewMode(std::int16_t) {}
-std::int16_t AnalyserControl::graphKind() const { return 0; }
-void AnalyserControl::putGraphKind(std::int16_t) {}
-std::int16_t AnalyserControl::copyGraph() { return 0; }
-void AnalyserControl::printView() {}
+std::int16_t AnalyserControl::viewMode() const { return analyser_.graphShown() ? 1 : 0; }
+void AnalyserControl::putViewMode(std::int16_t mode) { analyser_.setGraphShown(mode != 0); }
 
 std::int16_t AnalyserControl::sortColumn() const {
-    return static_cast<std::int16_t>(table().elements().order().column);
+    const auto column = analyser_.order().column;
+    return column ? static_cast<std::int16_t>(*column) : std::int16_t{-1};
 }
+void AnalyserControl::putSortColumn(std::int16_t column) { analyser_.setSortColumn(column); }
 
-void AnalyserControl::putSortColumn(std::int16_t code) {
-    RowOrder order = table().elements().order();
-    order.column = columnOfCode(code).value_or(Column::number);
-    setOrder(order);
-}
+std::int32_t AnalyserControl::cursor() const { return analyser_.cursor(); }
+void AnalyserControl::putCursor(std::int32_t id) { analyser_.setCursor(id); }
 
-bool AnalyserControl::descending() const { return table().elements().order().descending; }
+bool AnalyserControl::descending() const { return analyser_.order().descending; }
+void AnalyserControl::putDescending(bool descending) { analyser_.setDescending(descending); }
 
-void AnalyserControl::putDescending(bool descending) {
-    RowOrder order = table().elements().order();
-    order.descending = descending;
-    setOrder(order);
-}
-
-std::int16_t AnalyserControl::family() const {
-    const auto& listed = table().elements().order().family;
-    return static_cast<std::int16_t>(listed ? familyCode(*listed) : 0);
-}
-
-void AnalyserControl::setFamily(std::int16_t code) {
-    RowOrder order = table().elements().order();
-    order.family = familyOfCode(code);
-    setOrder(order);
-}
-
-bool AnalyserControl::inCelsius() const { return table().elements().unit() == TemperatureUnit::celsius; }
-
+bool AnalyserControl::inCelsius() const { return analyser_.unit() == TemperatureUnit::celsius; }
 void AnalyserControl::putInCelsius(bool celsius) {
-    pane_->setUnit(celsius ? TemperatureUnit::celsius : TemperatureUnit::kelvin);
+    analyser_.setUnit(celsius ? TemperatureUnit::celsius : TemperatureUnit::kelvin);
 }
 
-std::int32_t AnalyserControl::cursor() const { return table().cursor(); }
-
-void AnalyserControl::putCursor(std::int32_t number) { table().setCursorTo(number); }
+std::int16_t AnalyserControl::graphKind() const { return static_cast<std::int16_t>(analyser_.plan().kind); }
+void AnalyserControl::putGraphKind(std::int16_t kind) { analyser_.setGraphKind(kind); }
 
 std::int32_t AnalyserControl::selectionSize() const {
-    return static_cast<std::int32_t>(table().selected().size());
+    return static_cast<std::int32_t>(analyser_.selected().size() * sizeof(std::int16_t));
 }
 
-std::int16_t AnalyserControl::topElement() const { return static_cast<std::int16_t>(table().top()); }
+std::int16_t AnalyserControl::topRow() const { return analyser_.top(); }
 
-std::int32_t AnalyserControl::selectionLocation() { return blocks_.keepSelection(table().selected()); }
-
-void AnalyserControl::setSelection(std::int32_t size, std::int16_t topElement, std::int32_t location) {
-    table().select(blocks_.selection(location, size));
-    table().scrollTopTo(topElement);
-}
-
-// Every host is served, and the elements' data is the component's own.
-void AnalyserControl::initialise(std::int32_t, const std::string&) {}
+// Every host is served. The files are read when something of them is first asked for.
+void AnalyserControl::initialise(std::int32_t, const std::string& dataFolder) { dataFolder_ = dataFolder; }
 
 void AnalyserControl::copyAllData() { pane_->copyAll(); }
 
 void AnalyserControl::copySelection() { pane_->copySelected(); }
 
-std::int32_t AnalyserControl::columnsLocation() { return blocks_.keepColumns(); }
+std::int16_t AnalyserControl::dataSet() const { return analyser_.dataSet().number; }
+void AnalyserControl::setDataSet(std::int16_t number) { analyser_.setDataSet(number); }
 
-void AnalyserControl::setColumnsLocation(std::int32_t location) {
-    takesWidths_ = blocks_.tellsOurColumns(location);
-    table().setWidths({});
+std::int32_t AnalyserControl::entriesLocation() { return blocks_.keepEntries(analyser_.entryWords()); }
+
+void AnalyserControl::setEntriesLocation(std::int32_t location) {
+    hostsWords_ = blocks_.entries(location);
+    analyser_.clearEntries();
 }
 
-std::int32_t AnalyserControl::columnWidth(std::int16_t index) const {
-    const auto column = columnOfCode(index);
-    return column ? table().widths().set(*column) : ColumnWidths::automatic;
+std::int32_t AnalyserControl::selectionLocation() { return blocks_.keepSelection(analyser_.selected()); }
+
+void AnalyserControl::setSelection(std::int32_t size, std::int16_t topRow, std::int32_t location) {
+    analyser_.setSelected(blocks_.selection(location, size));
+    analyser_.setTop(topRow);
 }
 
-void AnalyserControl::setColumnWidth(std::int16_t index, std::int32_t pixels) {
-    const auto column = columnOfCode(index);
-    if (!column || !takesWidths_) return;
-    ColumnWidths widths = table().widths();
-    widths.set(*column, pixels);
-    table().setWidths(widths);
+std::int32_t AnalyserControl::entry(std::int16_t index) const {
+    const auto words = analyser_.entryWords();
+    const bool known = index >= 0 && static_cast<std::size_t>(index) < words.size();
+    return known ? analyser_.entry(words[static_cast<std::size_t>(index)]) : 0;
 }
 
-std::unique_ptr<platform::Control> createAnalyserControl(platform::ControlSite&, QWidget* parent) {
-    return std::make_unique<AnalyserControl>(parent);
+void AnalyserControl::setEntry(std::int16_t index, std::int32_t value) {
+    const auto words = hostsWords_ ? *hostsWords_ : analyser_.entryWords();
+    if (index < 0 || static_cast<std::size_t>(index) >= words.size()) return;
+    analyser_.setEntry(words[static_cast<std::size_t>(index)], value);
+}
+
+std::int16_t AnalyserControl::copyGraph() { return pane_->copyGraph() ? 1 : 0; }
+
+void AnalyserControl::printView() {
+    if (!analyser_.graphShown()) return;
+    site_.print(documentName, [this](QPainter& painter, const QRect& page, int dotsPerInch) {
+        const int margin = page.width() / marginPart;
+        QRectF area = page.adjusted(margin, margin, -margin, -margin);
+        area.setHeight(std::min(area.height(), area.width() * 0.75));
+        paintGraph(analyser_, painter, area, static_cast<double>(dotsPerInch) / pixelsPerInch);
+    });
+}
+
+std::unique_ptr<platform::Control> createAnalyserControl(platform::ControlSite& site, QWidget* parent) {
+    return std::make_unique<AnalyserControl>(site, parent);
 }
 
 }  // namespace controls::dataanalyser

@@ -3,9 +3,12 @@
 #include <QPointer>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "controls/dataanalyser/Analyser.h"
 #include "controls/dataanalyser/AnalyserPane.h"
 #include "controls/dataanalyser/StateBlocks.h"
 #include "platform/automation/Control.h"
@@ -18,12 +21,12 @@ inline constexpr std::string_view classId = "5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E10
 /// The data analyser as its host sees it; README.md tells what each value of its state means.
 class AnalyserControl : public platform::Control {
   public:
-    explicit AnalyserControl(QWidget* parent);
+    AnalyserControl(platform::ControlSite& site, QWidget* parent);
     ~AnalyserControl() override;
     AnalyserControl(const AnalyserControl&) = delete;
     AnalyserControl& operator=(const AnalyserControl&) = delete;
 
-    QWidget& widget() override;
+    QWidget& widget() override { return *pane_; }
     std::span<const platform::OperationInfo> operations() const override;
     std::span<const platform::EventInfo> events() const override { return {}; }
     std::optional<platform::Variant> invoke(std::int32_t dispid, platform::InvokeKind kind,
@@ -38,9 +41,9 @@ class AnalyserControl : public platform::Control {
     std::int16_t viewMode() const;
     void putViewMode(std::int16_t mode);
     std::int16_t sortColumn() const;
-    void putSortColumn(std::int16_t code);
+    void putSortColumn(std::int16_t column);
     std::int32_t cursor() const;
-    void putCursor(std::int32_t number);
+    void putCursor(std::int32_t id);
     bool descending() const;
     void putDescending(bool descending);
     bool inCelsius() const;
@@ -48,30 +51,31 @@ class AnalyserControl : public platform::Control {
     std::int16_t graphKind() const;
     void putGraphKind(std::int16_t kind);
     std::int32_t selectionSize() const;
-    std::int16_t topElement() const;
+    std::int16_t topRow() const;
     void initialise(std::int32_t hostCode, const std::string& dataFolder);
     void copyAllData();
     void copySelection();
-    std::int16_t family() const;
-    void setFamily(std::int16_t code);
-    std::int32_t columnsLocation();
-    void setColumnsLocation(std::int32_t location);
+    std::int16_t dataSet() const;
+    void setDataSet(std::int16_t number);
+    std::int32_t entriesLocation();
+    void setEntriesLocation(std::int32_t location);
     std::int32_t selectionLocation();
-    void setSelection(std::int32_t size, std::int16_t topElement, std::int32_t location);
-    std::int32_t columnWidth(std::int16_t index) const;
-    void setColumnWidth(std::int16_t index, std::int32_t pixels);
+    void setSelection(std::int32_t size, std::int16_t topRow, std::int32_t location);
+    std::int32_t entry(std::int16_t index) const;
+    void setEntry(std::int16_t index, std::int32_t value);
     std::int16_t copyGraph();
     void printView();
     /// @}
 
   private:
-    ElementView& table() const { return pane_->table(); }
-    void setOrder(const RowOrder& order) { pane_->setOrder(order); }
-
+    platform::ControlSite& site_;
+    std::string dataFolder_;
+    Analyser analyser_;
     // The parent that the host gave it may destroy it first.
     QPointer<AnalyserPane> pane_;
     StateBlocks blocks_;
-    bool takesWidths_ = true;
+    // What the entries to come are, as the host has told; otherwise they are the analyser's own.
+    std::optional<std::vector<std::int32_t>> hostsWords_;
 };
 
 /// Makes the control of a module.

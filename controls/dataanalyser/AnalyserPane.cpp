@@ -1,149 +1,174 @@
 #include "controls/dataanalyser/AnalyserPane.h"
 
-#include <QButtonGroup>
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QHBoxLayout>
-#include <QLabel>
+#include <QKeyEvent>
 #include <QMimeData>
-#include <QPushButton>
+#include <QStackedWidget>
 #include <QVBoxLayout>
-#include <memory>
+#include <utility>
 
 #include "controls/common/Appearance.h"
 #include "controls/common/QtText.h"
-#include "controls/dataanalyser/FamilyBox.h"
+#include "controls/dataanalyser/GraphChart.h"
+#include "controls/dataanalyser/GraphMarks.h"
+#include "controls/dataanalyser/GraphStrip.h"
+#include "controls/dataanalyser/GraphView.h"
+#include "controls/dataanalyser/MessageLine.h"
+#include "controls/dataanalyser/StyleRules.h"
+#include "controls/dataanalyser/TableStrip.h"
 #include "controls/dataanalyser/TableText.h"
+#include "controls/dataanalyser/TableView.h"
 
 namespace controls::dataanalyser {
 
 namespace {
 
-constexpr const char* rules = R"(
-#strip { background: #f3f6f9; }
-#strip QLabel { background: transparent; color: #1c2733; }
-#strip QLabel#title { color: #1f4e6b; font-size: 15px; font-weight: bold; }
-#strip QLabel#count { color: #526070; }
-QComboBox { background: #ffffff; color: #1c2733; border: 1px solid #a9bfcd; border-radius: 4px; padding: 2px 6px;
-            min-height: 18px; min-width: 136px; }
-QComboBox::drop-down { border: none; width: 20px; }
-QComboBox:hover, QComboBox:focus { border-color: #3a7aa0; }
-QComboBox QAbstractItemView { background: #ffffff; color: #1c2733; border: 1px solid #a9bfcd; outline: none;
-                              selection-background-color: #d3e5f0; selection-color: #1c2733; }
-QPushButton { background: #ffffff; color: #1c2733; border: 1px solid #a9bfcd; padding: 2px 10px; min-height: 18px; }
-QPushButton:hover, QPushButton:focus { border-color: #1f4e6b; }
-QPushButton:checked { background: #1f4e6b; color: #ffffff; border-color: #1f4e6b; }
-QPushButton:checked:focus { border-color: #e0a030; }
-QTableView { background: #ffffff; border: none; }
-QTableView QTableCornerButton::section { background: #1f4e6b; border: none; }
-QHeaderView { background: #1f4e6b; border: none; }
-QScrollBar:vertical { background: #f3f6f9; width: 12px; margin: 0; border: none; }
-QScrollBar:horizontal { background: #f3f6f9; height: 12px; margin: 0; border: none; }
-QScrollBar::handle { background: #b5c8d4; border-radius: 4px; margin: 2px; }
-QScrollBar::handle:vertical { min-height: 28px; }
-QScrollBar::handle:horizontal { min-width: 28px; }
-QScrollBar::handle:hover { background: #3a7aa0; }
-QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; border: none; }
-QScrollBar::add-page, QScrollBar::sub-page { background: #f3f6f9; }
-QToolTip { background: #1f4e6b; color: #ffffff; border: 1px solid #1f4e6b; padding: 4px; }
-)";
+constexpr QSize usualGraph{1000, 640};
+constexpr QSize leastGraph{480, 320};
+// A copied picture is sharp on paper too.
+constexpr double pictureScale = 2;
+
+}  // namespace
+
+AnalyserPane::AnalyserPane(Analyser& analyser, QWidget* parent) : QWidget(parent), analyser_(analyser) {
+    setAccessibleName(QStringLiteral("Αναλυτής δεδομένων"));
+    setFocusPolicy(Qt::StrongFocus);
+    analyser_.setListener([this](Change change) { noteChange(change); });
+}
+
+AnalyserPane::~AnalyserPane() { analyser_.setListener({}); }
+
+QSize AnalyserPane::sizeHint() const { return {1016, 640}; }
+
+void AnalyserPane::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (!strip_) build();
+}
 
 // What is made here belongs to its Qt parent.
 // NOLINTBEGIN(cppcoreguidelines-owning-memory)
 
-QButtonGroup* makeUnits(QWidget* parent) {
-    auto* group = new QButtonGroup(parent);
-    const auto add = [&](TemperatureUnit unit, const QString& sign, const QString& name) {
-        auto* button = new QPushButton(sign, parent);
-        button->setCheckable(true);
-        button->setAccessibleName(name);
-        button->setToolTip(name);
-        group->addButton(button, static_cast<int>(unit));
-    };
-    add(TemperatureUnit::kelvin, QStringLiteral("K"), QStringLiteral("Θερμοκρασίες σε Κέλβιν"));
-    add(TemperatureUnit::celsius, QStringLiteral("°C"), QStringLiteral("Θερμοκρασίες σε βαθμούς Κελσίου"));
-    return group;
-}
-
-}  // namespace
-
-AnalyserPane::AnalyserPane(QWidget* parent)
-    : QWidget(parent), table_(new ElementView([this] { copySelected(); }, this)) {
+void AnalyserPane::build() {
     setFont(appearance::font(12));
-    setStyleSheet(QString::fromUtf8(rules));
-    setAccessibleName(QStringLiteral("Αναλυτής δεδομένων"));
+    setStyleSheet(QString::fromUtf8(styleRules));
+    strip_ = new TableStrip(analyser_, this);
+    graphStrip_ = new GraphStrip(
+        analyser_, [this](double factor) { graph_ ? graph_->zoom(factor) : void(); }, this);
+    table_ = new TableView(
+        analyser_, [this] { copySelected(); }, this);
+    message_ = new MessageLine(this);
+    views_ = new QStackedWidget(this);
+    views_->addWidget(table_);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(makeStrip());
-    column->addWidget(table_, 1);
-    setFocusProxy(table_);
-    connect(families_, &QComboBox::activated, this, [this] { listChosenFamily(); });
-    connect(units_, &QButtonGroup::idClicked, this,
-            [this](int id) { setUnit(static_cast<TemperatureUnit>(id)); });
-    setOrder({});
-    setUnit(TemperatureUnit::kelvin);
+    column->addWidget(strip_);
+    column->addWidget(graphStrip_);
+    column->addWidget(views_, 1);
+    column->addWidget(message_);
+    noteChange(Change::dataSet);
+    refreshNow();
 }
 
-QWidget* AnalyserPane::makeStrip() {
-    auto* strip = new QWidget(this);
-    strip->setObjectName(QStringLiteral("strip"));
-    strip->setAttribute(Qt::WA_StyledBackground);
-    auto* title = new QLabel(QStringLiteral("Αναλυτής δεδομένων"), strip);
-    title->setObjectName(QStringLiteral("title"));
-    count_ = new QLabel(strip);
-    count_->setObjectName(QStringLiteral("count"));
-    families_ = new FamilyBox(strip);
-    units_ = makeUnits(strip);
-    auto* row = new QHBoxLayout(strip);
-    row->setContentsMargins(10, 5, 10, 5);
-    row->setSpacing(10);
-    row->addWidget(title);
-    row->addWidget(count_);
-    row->addStretch(1);
-    row->addWidget(families_);
-    auto* buttons = new QHBoxLayout();
-    buttons->setSpacing(0);
-    for (QAbstractButton* button : units_->buttons()) buttons->addWidget(button);
-    row->addLayout(buttons);
-    return strip;
+void AnalyserPane::buildGraph() {
+    graph_ = new GraphView(
+        analyser_, [this] { copyGraph(); }, this);
+    views_->addWidget(graph_);
 }
 
 // NOLINTEND(cppcoreguidelines-owning-memory)
 
-QSize AnalyserPane::sizeHint() const { return {1016, 640}; }
-
-void AnalyserPane::setOrder(const RowOrder& order) {
-    table_->setOrder(order);
-    families_->setFamily(order.family);
-    const std::size_t rows = table_->elements().numbers().size();
-    count_->setText(QStringLiteral("%1 στοιχεία").arg(rows));
+void AnalyserPane::noteChange(Change change) {
+    if (!views_) return;
+    changes_.insert(change);
+    if (std::exchange(scheduled_, true)) return;
+    QMetaObject::invokeMethod(
+        this, [this] { refreshNow(); }, Qt::QueuedConnection);
 }
 
-void AnalyserPane::listChosenFamily() {
-    RowOrder order = table_->elements().order();
-    order.family = families_->family();
-    setOrder(order);
+void AnalyserPane::refreshNow() {
+    scheduled_ = false;
+    if (!views_ || changes_.empty()) return;
+    strip_->refresh();
+    refreshTable();
+    refreshView();
+    refreshMessage();
+    changes_.clear();
 }
 
-void AnalyserPane::setUnit(TemperatureUnit unit) {
-    table_->elements().setUnit(unit);
-    units_->button(static_cast<int>(unit))->setChecked(true);
+void AnalyserPane::refreshTable() {
+    const auto has = [this](Change change) { return changes_.contains(change); };
+    if (has(Change::dataSet) || has(Change::rows)) return table_->refreshRows();
+    if (has(Change::unit)) table_->refreshUnit();
+    if (has(Change::columns)) table_->refreshColumns();
+    if (has(Change::selection)) table_->refreshSelection();
+    if (has(Change::top)) table_->refreshTop();
 }
 
-void AnalyserPane::copyAll() const { copy(table_->elements().numbers()); }
+void AnalyserPane::refreshView() {
+    const bool graphShown = analyser_.graphShown();
+    graphStrip_->setVisible(graphShown);
+    if (graphShown) {
+        if (!graph_) buildGraph();
+        graphStrip_->refresh();
+        graph_->refresh();
+    }
+    QWidget* shown = graphShown ? static_cast<QWidget*>(graph_) : table_;
+    const bool hadFocus = hasFocus() || table_->hasFocus() || (graph_ && graph_->hasFocus());
+    views_->setCurrentWidget(shown);
+    setFocusProxy(shown);
+    if (hadFocus) shown->setFocus();
+}
+
+void AnalyserPane::refreshMessage() {
+    const std::string& source = analyser_.dataSet().source;
+    QString note;
+    if (!source.empty()) note = QStringLiteral("Πηγή: %1").arg(toQt(source));
+    if (analyser_.graphShown()) {
+        const int leftOut = graph_->graphChart().marks().scenery().graph.leftOut;
+        if (leftOut == 1) note += QStringLiteral(" · 1 γραμμή δεν έχει τιμή που να φαίνεται εδώ");
+        if (leftOut > 1)
+            note += QStringLiteral(" · %1 γραμμές δεν έχουν τιμή που να φαίνεται εδώ").arg(leftOut);
+    }
+    QStringList warnings;
+    for (const std::string& remark : analyser_.library().remarks()) warnings += toQt(remark);
+    message_->setTexts(note, warnings);
+}
+
+void AnalyserPane::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_F8) {
+        analyser_.setGraphShown(!analyser_.graphShown());
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void AnalyserPane::copyAll() const { copyRows(analyser_.rows()); }
 
 void AnalyserPane::copySelected() const {
-    const auto numbers = table_->selected();
-    if (!numbers.empty()) copy(numbers);
+    std::vector<int> rows;
+    for (const std::int16_t id : analyser_.selected()) rows.push_back(analyser_.placeOf(id));
+    if (!rows.empty()) copyRows(std::move(rows));
 }
 
-void AnalyserPane::copy(const std::vector<int>& numbers) const {
-    const TemperatureUnit unit = table_->elements().unit();
+void AnalyserPane::copyRows(std::vector<int> rows) const {
+    const CopiedTable table{analyser_.dataSet(), analyser_.layout().shownColumns(), std::move(rows),
+                            analyser_.unit()};
     auto copied = std::make_unique<QMimeData>();
-    copied->setText(toQt(tabbedText(numbers, unit)));
-    copied->setHtml(toQt(htmlTable(numbers, unit)));
+    copied->setText(toQt(tabbedText(table)));
+    copied->setHtml(toQt(htmlTable(table)));
     QGuiApplication::clipboard()->setMimeData(copied.release());
+}
+
+QSize AnalyserPane::graphSize() const {
+    return graph_ && graph_->isVisible() ? graph_->size().expandedTo(leastGraph) : usualGraph;
+}
+
+bool AnalyserPane::copyGraph() {
+    if (!analyser_.graphShown()) return false;
+    QGuiApplication::clipboard()->setImage(graphPicture(analyser_, graphSize(), pictureScale));
+    return true;
 }
 
 }  // namespace controls::dataanalyser

@@ -1,43 +1,66 @@
 #pragma once
 
 #include <QWidget>
+#include <memory>
+#include <set>
 
-#include "controls/dataanalyser/ElementView.h"
+#include "controls/dataanalyser/Analyser.h"
 
-class QButtonGroup;
-class QLabel;
+class QStackedWidget;
 
 namespace controls::dataanalyser {
 
-class FamilyBox;
+class GraphStrip;
+class GraphView;
+class MessageLine;
+class TableStrip;
+class TableView;
 
-/// The analyser on the screen: a strip with the choices and the table under it.
+/// The analyser on the screen: strips with the choices, and the table or the graph under them. What it shows
+/// is made when it is first shown, for programs create it long before, and the graph when that is first asked
+/// for.
 class AnalyserPane : public QWidget {
   public:
-    explicit AnalyserPane(QWidget* parent);
-
-    ElementView& table() { return *table_; }
-    const ElementView& table() const { return *table_; }
-
-    void setOrder(const RowOrder& order);
-    void setUnit(TemperatureUnit unit);
+    AnalyserPane(Analyser& analyser, QWidget* parent);
+    ~AnalyserPane() override;
 
     /// Put the rows on the clipboard as text and as an HTML table; without a selected row the second changes
     /// nothing.
     void copyAll() const;
     void copySelected() const;
+    /// Puts the graph on the clipboard as a picture; false when the table is shown.
+    bool copyGraph();
+    /// The size in which a graph looks as on the screen.
+    QSize graphSize() const;
+
+    /// Brings everything on show into line with the analyser, which otherwise happens a moment after a
+    /// change.
+    void refreshNow();
 
     QSize sizeHint() const override;
 
-  private:
-    QWidget* makeStrip();
-    void copy(const std::vector<int>& numbers) const;
-    void listChosenFamily();
+  protected:
+    void showEvent(QShowEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
-    ElementView* table_;
-    FamilyBox* families_;
-    QButtonGroup* units_;
-    QLabel* count_;
+  private:
+    void build();
+    void buildGraph();
+    void noteChange(Change change);
+    void refreshTable();
+    void refreshView();
+    void refreshMessage();
+    void copyRows(std::vector<int> rows) const;
+
+    Analyser& analyser_;
+    std::set<Change> changes_;  // since the last refreshing
+    bool scheduled_ = false;
+    TableStrip* strip_ = nullptr;
+    GraphStrip* graphStrip_ = nullptr;
+    QStackedWidget* views_ = nullptr;
+    TableView* table_ = nullptr;
+    GraphView* graph_ = nullptr;
+    MessageLine* message_ = nullptr;
 };
 
 }  // namespace controls::dataanalyser

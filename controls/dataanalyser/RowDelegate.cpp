@@ -2,10 +2,11 @@
 
 #include <QAbstractItemView>
 #include <QPainter>
+#include <algorithm>
 
 #include "controls/common/Appearance.h"
-#include "controls/dataanalyser/Column.h"
-#include "controls/dataanalyser/ElementModel.h"
+#include "controls/dataanalyser/CategoryColors.h"
+#include "controls/dataanalyser/TableModel.h"
 
 namespace controls::dataanalyser {
 
@@ -15,20 +16,40 @@ constexpr int padding = 7;
 constexpr int fontPixels = 12;
 constexpr int leastFontPixels = 9;
 
-const Element& elementOf(const QModelIndex& index) {
-    const auto& model = static_cast<const ElementModel&>(*index.model());
-    return *findElement(model.numbers()[static_cast<std::size_t>(index.row())]);
-}
+const TableModel& modelOf(const QModelIndex& index) { return static_cast<const TableModel&>(*index.model()); }
 
 QColor ground(const QStyleOptionViewItem& option, const QModelIndex& index) {
     if (option.state & QStyle::State_Selected) return appearance::selected;
     return index.row() % 2 == 0 ? appearance::paper : appearance::stripe;
 }
 
-/// Whether the keyboard would act on this cell's row.
-bool underCursor(const QStyleOptionViewItem& option, const QModelIndex& index) {
+const QAbstractItemView* viewWithCursor(const QStyleOptionViewItem& option, const QModelIndex& index) {
     const auto* view = qobject_cast<const QAbstractItemView*>(option.widget);
-    return view && view->hasFocus() && view->currentIndex().row() == index.row();
+    const bool under = view && view->hasFocus() && view->currentIndex().row() == index.row();
+    return under ? view : nullptr;
+}
+
+/// Whether the column names the rows and so carries the colour of their group.
+bool carriesColor(const QModelIndex& index) {
+    const auto& columns = modelOf(index).analyser().dataSet().columns;
+    const auto first = std::ranges::find_if(columns, [](const auto& column) { return !column.isNumber(); });
+    return index.column() == static_cast<int>(first - columns.begin());
+}
+
+void paintChip(QPainter& painter, const QRect& cell, const QModelIndex& index) {
+    const Categories& categories = modelOf(index).analyser().categories();
+    const auto place = static_cast<std::size_t>(modelOf(index).placeAt(index.row()));
+    if (categories.ofRow[place] < 0) return;
+    const auto colors = categoryColors(categories, categories.ofRow[place]);
+    const QRect chip = cell.adjusted(2, 2, -4, -2);
+    painter.fillRect(chip, colors.fill);
+    painter.fillRect(QRect(chip.left(), chip.top(), 3, chip.height()), colors.edge);
+}
+
+void paintCursor(QPainter& painter, const QRect& cell, bool current) {
+    painter.fillRect(QRect(cell.left(), cell.top(), cell.width(), 1), appearance::accent);
+    painter.fillRect(QRect(cell.left(), cell.bottom(), cell.width(), 1), appearance::accent);
+    if (current) painter.fillRect(QRect(cell.left(), cell.bottom() - 1, cell.width(), 2), appearance::warm);
 }
 
 }  // namespace
@@ -37,26 +58,20 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                         const QModelIndex& index) const {
     painter->save();
     painter->fillRect(option.rect, ground(option, index));
-    const bool symbol = index.column() == static_cast<int>(Column::symbol);
-    if (symbol) {
-        const auto colors = appearance::familyColors(elementOf(index).family);
-        const QRect chip = option.rect.adjusted(4, 2, -4, -2);
-        painter->fillRect(chip, colors.fill);
-        painter->fillRect(QRect(chip.left(), chip.top(), 3, chip.height()), colors.edge);
-    }
+    const bool colored = carriesColor(index);
+    if (colored) paintChip(*painter, option.rect, index);
     const QString text = index.data(Qt::DisplayRole).toString();
-    const QRect inner = option.rect.adjusted(padding, 0, -padding, 0);
-    const auto weight = symbol ? QFont::Bold : QFont::Normal;
-    painter->setFont(appearance::fittingFont(text, inner.width(), fontPixels, leastFontPixels, weight)
-                         .value_or(appearance::font(leastFontPixels, weight)));
+    const QRect inner = option.rect.adjusted(colored ? padding + 2 : padding, 0, -padding, 0);
+    const auto weight = colored ? QFont::DemiBold : QFont::Normal;
+    const auto font = appearance::fittingFont(text, inner.width(), fontPixels, leastFontPixels, weight)
+                          .value_or(appearance::font(leastFontPixels, weight));
+    painter->setFont(font);
     painter->setPen(appearance::text);
     const auto align = index.data(Qt::TextAlignmentRole).value<Qt::Alignment>();
-    painter->drawText(inner, static_cast<int>(align), text);
-    if (underCursor(option, index)) {
-        painter->fillRect(QRect(option.rect.left(), option.rect.top(), option.rect.width(), 1),
-                          appearance::accent);
-        painter->fillRect(QRect(option.rect.left(), option.rect.bottom(), option.rect.width(), 1),
-                          appearance::accent);
+    painter->drawText(inner, static_cast<int>(align),
+                      QFontMetrics(font).elidedText(text, Qt::ElideRight, inner.width()));
+    if (const auto* view = viewWithCursor(option, index)) {
+        paintCursor(*painter, option.rect, view->currentIndex().column() == index.column());
     }
     painter->restore();
 }

@@ -1,9 +1,8 @@
 #include "controls/dataanalyser/RowOrder.h"
 
 #include <algorithm>
-#include <compare>
-#include <string>
-#include <utility>
+#include <cmath>
+#include <numeric>
 
 #include "platform/text/Fold.h"
 
@@ -11,39 +10,57 @@ namespace controls::dataanalyser {
 
 namespace {
 
-/// What rows are compared by; of the two parts one is alike in all rows of a column.
-struct SortKey {
-    std::optional<double> number;
-    std::string words;
-};
-
-SortKey keyOf(const Element& element, Column column) {
-    if (column == Column::symbol) return {0, platform::fold(element.symbol)};
-    if (column == Column::name) return {0, platform::fold(element.greekName)};
-    return {sortNumber(element, column), {}};
-}
-
-bool before(const SortKey& a, const SortKey& b, bool descending) {
-    if (a.number.has_value() != b.number.has_value()) return a.number.has_value();
-    if (!a.number) return false;
-    const auto order = std::pair(*a.number, a.words) <=> std::pair(*b.number, b.words);
-    return descending ? std::is_gt(order) : std::is_lt(order);
+/// Sorts rows by keys, of which `isKnown` tells those that have no place in the order.
+template <class Key, class IsKnown>
+void sortByKeys(std::vector<int>& rows, const std::vector<Key>& keys, bool descending,
+                const IsKnown& isKnown) {
+    const auto keyOf = [&keys](int row) -> const Key& { return keys[static_cast<std::size_t>(row)]; };
+    const auto unknown = std::ranges::stable_partition(rows, [&](int row) { return isKnown(keyOf(row)); });
+    const auto known = std::ranges::subrange(rows.begin(), unknown.begin());
+    std::ranges::stable_sort(
+        known, [&](int a, int b) { return descending ? keyOf(b) < keyOf(a) : keyOf(a) < keyOf(b); });
 }
 
 }  // namespace
 
-std::vector<int> orderedRows(const RowOrder& order) {
-    std::vector<std::pair<SortKey, int>> rows;
-    for (const Element& element : elements()) {
-        if (order.family && element.family != *order.family) continue;
-        rows.emplace_back(keyOf(element, order.column), element.number);
+Categories categoriesOf(const formats::DataSet& set) {
+    Categories categories;
+    categories.ofRow.assign(set.rowCount(), -1);
+    const auto column =
+        std::ranges::find(set.columns, formats::DataColumnKind::category, &formats::DataColumn::kind);
+    if (column == set.columns.end()) return categories;
+    for (std::size_t row = 0; row < set.rowCount(); ++row) {
+        const std::string& name = column->cells[row];
+        if (name.empty()) continue;
+        const auto found = std::ranges::find(categories.names, name);
+        categories.ofRow[row] = static_cast<int>(found - categories.names.begin());
+        if (found == categories.names.end()) categories.names.push_back(name);
     }
-    std::ranges::stable_sort(
-        rows, [&](const auto& a, const auto& b) { return before(a.first, b.first, order.descending); });
-    std::vector<int> numbers;
-    numbers.reserve(rows.size());
-    for (const auto& row : rows) numbers.push_back(row.second);
-    return numbers;
+    return categories;
+}
+
+std::vector<int> orderedRows(const formats::DataSet& set, const Categories& categories,
+                             const RowOrder& order) {
+    std::vector<int> rows(set.rowCount());
+    std::iota(rows.begin(), rows.end(), 0);
+    if (order.category > 0) {
+        std::erase_if(rows, [&](int row) {
+            return categories.ofRow[static_cast<std::size_t>(row)] != order.category - 1;
+        });
+    }
+    if (!order.column) {
+        if (order.descending) std::ranges::reverse(rows);
+        return rows;
+    }
+    const formats::DataColumn& column = set.columns[*order.column];
+    if (column.isNumber()) {
+        sortByKeys(rows, column.values, order.descending, [](double value) { return !std::isnan(value); });
+        return rows;
+    }
+    std::vector<std::string> words(set.rowCount());
+    std::ranges::transform(column.cells, words.begin(), platform::fold);
+    sortByKeys(rows, words, order.descending, [](const std::string& word) { return !word.empty(); });
+    return rows;
 }
 
 }  // namespace controls::dataanalyser

@@ -1,36 +1,43 @@
 #include "controls/dataanalyser/StateBlocks.h"
 
 #include <algorithm>
-
-#include "controls/common/Element.h"
-#include "controls/dataanalyser/Column.h"
+#include <type_traits>
 
 namespace controls::dataanalyser {
 
 namespace {
 
-void append(std::vector<std::byte>& bytes, std::uint32_t word) {
-    for (int shift = 0; shift < 32; shift += 8) bytes.push_back(static_cast<std::byte>(word >> shift & 0xFF));
+template <class T>
+void append(std::vector<std::byte>& bytes, T value) {
+    const auto bits = static_cast<std::make_unsigned_t<T>>(value);
+    for (std::size_t i = 0; i < sizeof(T); ++i)
+        bytes.push_back(static_cast<std::byte>(bits >> (8 * i) & 0xFF));
 }
 
-/// The count of words, itself included, then the code of each column.
-std::vector<std::byte> columnsBlock() {
-    std::vector<std::byte> bytes;
-    append(bytes, columnCount + 1);
-    for (std::uint32_t code = 0; code < columnCount; ++code) append(bytes, code);
-    return bytes;
+/// The little-endian numbers in some bytes; an incomplete last one is passed over.
+template <class T>
+std::vector<T> numbers(std::span<const std::byte> bytes) {
+    std::vector<T> values(bytes.size() / sizeof(T));
+    for (std::size_t at = 0; at < values.size() * sizeof(T); ++at) {
+        T& value = values[at / sizeof(T)];
+        value = static_cast<T>(
+            value | static_cast<T>(std::to_integer<std::uint32_t>(bytes[at]) << (8 * (at % sizeof(T)))));
+    }
+    return values;
 }
 
 }  // namespace
 
-Location StateBlocks::keepColumns() {
-    entryCount_ = columnsBlock();
-    return entryCountLocation;
+Location StateBlocks::keepEntries(std::span<const std::int32_t> words) {
+    entries_.clear();
+    append(entries_, static_cast<std::int32_t>(words.size() + 1));
+    for (const std::int32_t word : words) append(entries_, word);
+    return entriesLocation;
 }
 
-Location StateBlocks::keepSelection(std::span<const int> numbers) {
+Location StateBlocks::keepSelection(std::span<const std::int16_t> ids) {
     selection_.clear();
-    for (const int number : numbers) selection_.push_back(static_cast<std::byte>(number));
+    for (const std::int16_t id : ids) append(selection_, id);
     return selectionLocation;
 }
 
@@ -45,24 +52,22 @@ std::span<const std::byte> StateBlocks::at(Location location) const {
     for (std::size_t slot = 0; slot < hosts_.size(); ++slot) {
         if (location == firstHostLocation + static_cast<Location>(slot)) return hosts_[slot];
     }
-    if (location == entryCountLocation) return entryCount_;
+    if (location == entriesLocation) return entries_;
     if (location == selectionLocation) return selection_;
     return {};
 }
 
-bool StateBlocks::tellsOurColumns(Location location) const {
-    return std::ranges::equal(at(location), columnsBlock());
+std::vector<std::int32_t> StateBlocks::entries(Location location) const {
+    auto words = numbers<std::int32_t>(at(location));
+    if (words.empty() || words.front() != static_cast<std::int64_t>(words.size())) return {};
+    words.erase(words.begin());
+    return words;
 }
 
-std::vector<int> StateBlocks::selection(Location location, std::int32_t count) const {
-    std::vector<int> numbers;
+std::vector<std::int16_t> StateBlocks::selection(Location location, std::int32_t size) const {
     const auto bytes = at(location);
-    const auto wanted = std::min(static_cast<std::size_t>(std::max(count, 0)), bytes.size());
-    for (const std::byte byte : bytes.first(wanted)) {
-        const int number = std::to_integer<int>(byte);
-        if (findElement(number)) numbers.push_back(number);
-    }
-    return numbers;
+    return numbers<std::int16_t>(
+        bytes.first(std::min(static_cast<std::size_t>(std::max(size, 0)), bytes.size())));
 }
 
 }  // namespace controls::dataanalyser

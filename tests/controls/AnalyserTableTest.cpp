@@ -1,126 +1,154 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <string>
-#include <vector>
+#include <cmath>
+#include <numeric>
 
-#include "controls/dataanalyser/ColumnWidths.h"
+#include "controls/dataanalyser/BestFit.h"
+#include "controls/dataanalyser/ColumnLayout.h"
+#include "controls/dataanalyser/ElementSet.h"
+#include "controls/dataanalyser/Graph.h"
+#include "controls/dataanalyser/Histogram.h"
+#include "controls/dataanalyser/RowNames.h"
 #include "controls/dataanalyser/RowOrder.h"
 #include "controls/dataanalyser/TableText.h"
-#include "platform/text/GreekLiteral.h"
+#include "formats/DataSetFile.h"
+#include "platform/text/CodePage1253.h"
 
 namespace controls::dataanalyser {
 namespace {
 
-using namespace platform::literals;
+formats::DataSet sample() {
+    return *formats::decodeDataSet(
+                platform::fromUtf8("number: 1\ntitle: T\ncolumn: text | Ν\ncolumn: category | Κ\n"
+                                   "column: number | Α | K\ncolumn: number | Β\n---\n"
+                                   "ωμέγα\tx\t300\t10\nάλφα\ty\t\t100\nβήτα\tx\t273.15\t-1\n"
+                                   "Αλκή & <ζ>\ty\t100\t\n"))
+                .set;
+}
 
-std::string symbols(const std::vector<int>& numbers, std::size_t first, std::size_t count) {
-    std::string text;
-    for (std::size_t i = first; i < std::min(first + count, numbers.size()); ++i) {
-        text += std::string(findElement(numbers[i])->symbol) + ' ';
+std::vector<int> ordered(const formats::DataSet& set, const RowOrder& order) {
+    return orderedRows(set, categoriesOf(set), order);
+}
+
+using Rows = std::vector<int>;
+
+TEST(AnalyserRows, AreSortedAndParted) {
+    const auto set = sample();
+    EXPECT_EQ(ordered(set, {}), (Rows{0, 1, 2, 3}));
+    EXPECT_EQ(ordered(set, {0, false, 0}), (Rows{3, 1, 2, 0})) << "accents do not count";
+    EXPECT_EQ(ordered(set, {0, true, 0}), (Rows{0, 2, 1, 3}));
+    EXPECT_EQ(ordered(set, {2, false, 0}), (Rows{3, 2, 0, 1})) << "unknown last";
+    EXPECT_EQ(ordered(set, {2, true, 0}), (Rows{0, 2, 3, 1})) << "unknown last";
+    EXPECT_EQ(ordered(set, {3, false, 2}), (Rows{1, 3}));
+}
+
+TEST(AnalyserRows, AntiquityIsOlderThanAnyYear) {
+    const auto set = elementSet();
+    const auto rows = ordered(set, {10, false, 0});
+    EXPECT_EQ(set.columns[10].cells[static_cast<std::size_t>(rows[0])], platform::fromUtf8("αρχαιότητα"));
+    const Graph graph = makeGraph(set, categoriesOf(set), rows, {GraphKind::histogram, 10, 0}, {});
+    EXPECT_GT(graph.whole.x.from, 1000) << "but no year that a graph could show";
+}
+
+TEST(AnalyserRows, TypedCharactersFindThem) {
+    const auto set = elementSet();
+    const auto rows = ordered(set, {});
+    RowSearch search;
+    EXPECT_EQ(search.type("c", 0, set, rows), 5) << "the symbol comes before all beginnings";
+    EXPECT_EQ(search.type("o", 10, set, rows), 26);
+    EXPECT_EQ(search.type(platform::fromUtf8("χρυ"), 5000, set, rows), 78);
+    EXPECT_EQ(search.type("%", 5001, set, rows), -1);
+}
+
+TEST(AnalyserText, CopiesHaveUnitsCommasAndNoMarkup) {
+    const auto set = sample();
+    const CopiedTable table{set, {0, 2}, {0, 1, 2}, TemperatureUnit::celsius};
+    EXPECT_EQ(tabbedText(table), platform::fromUtf8("Ν\tΑ (°C)\nωμέγα\t27\nάλφα\t\nβήτα\t0,00\n"));
+    EXPECT_NE(htmlTable({set, {0}, {3}, {}}).find(platform::fromUtf8("<td>Αλκή &amp; &lt;ζ></td>")),
+              std::string::npos);
+}
+
+TEST(AnalyserColumns, ShareTheSpace) {
+    ColumnLayout layout(3);
+    const int needed[] = {50, 100, 50};
+    EXPECT_EQ(layout.spread(400, needed), (std::vector{100, 200, 100}));
+    EXPECT_EQ(layout.spread(10, needed), (std::vector{50, 100, 50})) << "never narrower than needed";
+    layout.setWidth(0, 150);
+    layout.setShown(1, false);
+    EXPECT_EQ(layout.spread(400, needed), (std::vector{150, 0, 250}));
+    for (const int width : {-5, 23, 601}) {
+        layout.setWidth(0, width);
+        EXPECT_EQ(layout.width(0), ColumnLayout::automatic) << width;
     }
-    return text;
+    layout.setShown(0, false);
+    layout.setShown(2, false);
+    EXPECT_EQ(layout.shownColumns(), std::vector<std::size_t>{2}) << "one column stays";
 }
 
-TEST(RowOrder, SortsByEachKindOfColumn) {
-    struct Case {
-        Column column;
-        bool descending;
-        std::string first;
-    };
-    for (const auto& [column, descending, first] :
-         std::vector<Case>{{Column::number, false, "H He Li "},
-                           {Column::number, true, "Og Ts Lv "},
-                           {Column::symbol, false, "Ac Ag Al "},
-                           {Column::name, false, "N Es Ac "},
-                           {Column::name, true, "Zn Cr Au "},
-                           {Column::mass, true, "Ts Og Lv "},
-                           {Column::group, false, "H Li Na "},
-                           {Column::period, true, "Fr Ra Ac "},
-                           {Column::melting, true, "C W Re "},
-                           {Column::boiling, false, "He H Ne "},
-                           {Column::density, true, "Os Ir Pt "},
-                           {Column::electronegativity, true, "F O Cl "},
-                           {Column::year, false, "C S Fe "}}) {
-        const auto rows = orderedRows({column, descending, {}});
-        EXPECT_EQ(rows.size(), 118U);
-        EXPECT_EQ(symbols(rows, 0, 3), first) << static_cast<int>(column) << descending;
-    }
+TEST(AnalyserGraph, BestFitOfKnownPoints) {
+    const PlanePoint line[] = {{1, 3}, {2, 5}, {4, 9}};
+    EXPECT_EQ(equation(*bestFit(line), false, false), platform::fromUtf8("y = 2·x + 1"));
+    EXPECT_DOUBLE_EQ(bestFit(line)->rSquared, 1);
+    const PlanePoint cloud[] = {{0, 0}, {1, 2}, {2, 1}, {3, 3}};
+    EXPECT_NEAR(bestFit(cloud)->slope, 0.8, 1e-12);
+    EXPECT_NEAR(bestFit(cloud)->rSquared, 0.64, 1e-12);
+    const PlanePoint upright[] = {{1, 1}, {1, 2}};
+    EXPECT_FALSE(bestFit(upright));
+    EXPECT_FALSE(bestFit(std::span(line, 1)));
+    EXPECT_EQ(equation({-0.5, -2.25, 0}, true, true), platform::fromUtf8("log y = –0,5·log x – 2,25"));
 }
 
-TEST(RowOrder, WhatIsNotKnownStandsLastInEitherDirection) {
-    for (const Column column :
-         {Column::group, Column::melting, Column::boiling, Column::density, Column::electronegativity}) {
-        for (const bool descending : {false, true}) {
-            const auto rows = orderedRows({column, descending, {}});
-            const auto unknown = [&](int number) { return !sortNumber(*findElement(number), column); };
-            const auto first = std::ranges::find_if(rows, unknown);
-            EXPECT_NE(first, rows.end());
-            EXPECT_TRUE(std::all_of(first, rows.end(), unknown)) << static_cast<int>(column) << descending;
-            EXPECT_TRUE(std::is_sorted(first, rows.end())) << "alike rows stand by atomic number";
-        }
-    }
+TEST(AnalyserGraph, RowsWithoutANumberForTheAxesAreCounted) {
+    const auto set = sample();
+    const auto rows = ordered(set, {});
+    Graph graph =
+        makeGraph(set, categoriesOf(set), rows, {GraphKind::scatter, 2, 3}, TemperatureUnit::kelvin);
+    EXPECT_EQ(graph.marks.size(), 2U);
+    EXPECT_EQ(graph.leftOut, 2);
+    EXPECT_EQ(graph.xTitle, platform::fromUtf8("Α (K)"));
+    graph = makeGraph(set, categoriesOf(set), rows, {GraphKind::scatter, 2, 3, false, true}, {});
+    EXPECT_EQ(graph.leftOut, 3) << "a negative number has no logarithm";
+    EXPECT_EQ(graph.whole.y, (AxisRange{10, 100, true}));
+    graph = makeGraph(set, categoriesOf(set), rows, {GraphKind::line, 2, 3}, TemperatureUnit::kelvin);
+    EXPECT_LT(graph.marks[0].x, graph.marks[1].x);
+    graph = makeGraph(set, categoriesOf(set), {}, {GraphKind::bar, 2, 3}, {});
+    EXPECT_TRUE(graph.whole.valid());
 }
 
-TEST(RowOrder, ListsOneFamily) {
-    const auto rows = orderedRows({Column::mass, true, Family::halogen});
-    EXPECT_EQ(symbols(rows, 0, 10), "Ts At I Br Cl F ");
+TEST(AnalyserGraph, HistogramCountsEachValueOnce) {
+    std::vector<double> values(100);
+    std::iota(values.begin(), values.end(), 0.0);
+    const auto bins = histogram(values, false);
+    ASSERT_EQ(bins.size(), 10U);
+    for (const HistogramBin& bin : bins) EXPECT_EQ(bin.count, 10) << bin.from;
+    const double alike[] = {7, 7, 7};
+    ASSERT_EQ(histogram(alike, false).size(), 1U);
+    EXPECT_EQ(histogram(alike, false)[0].count, 3);
+    const double spread[] = {1e-5, 1, 1e5};
+    int counted = 0;
+    for (const HistogramBin& bin : histogram(spread, true)) counted += bin.count;
+    EXPECT_EQ(counted, 3);
+    EXPECT_TRUE(histogram({}, false).empty());
 }
 
-TEST(Cells, HaveDecimalCommasAndDashes) {
-    struct Case {
-        int number;
-        Column column;
-        TemperatureUnit unit;
-        std::string_view text;
-    };
-    using enum TemperatureUnit;
-    for (const auto& [number, column, unit, text] :
-         std::vector<Case>{{1, Column::melting, kelvin, "14,01"},
-                           {1, Column::melting, celsius, "-259,14"},
-                           {26, Column::melting, celsius, "1538"},
-                           {79, Column::melting, celsius, "1064,18"},
-                           {118, Column::melting, celsius, "–"_gr},
-                           {2, Column::electronegativity, kelvin, "–"_gr},
-                           {57, Column::group, kelvin, "–"_gr},
-                           {10, Column::mass, kelvin, "20,180"},
-                           {43, Column::mass, kelvin, "[97]"},
-                           {26, Column::name, kelvin, "Σίδηρος"_gr},
-                           {26, Column::year, kelvin, "αρχαιότητα"_gr},
-                           {117, Column::year, kelvin, "2010"}}) {
-        EXPECT_EQ(cellText(*findElement(number), column, unit), text) << number;
-    }
-}
-
-TEST(TableText, HasHeadingsUnitsAndARowEach) {
-    const std::vector<int> rows{26, 1};
-    EXPECT_EQ(
-        tabbedText(rows, TemperatureUnit::kelvin),
-        std::string("Ατομικός αριθμός\tΣύμβολο\tΌνομα\tΣχετική ατομική μάζα\tΟμάδα\tΠερίοδος\tΣημείο τήξης "
-                    "(K)\tΣημείο βρασμού (K)\tΠυκνότητα (g/cm³)\tΗλεκτραρνητικότητα\tΈτος ανακάλυψης\n"
-                    "26\tFe\tΣίδηρος\t55,845\t8\t4\t1811\t3134\t7,874\t1,83\tαρχαιότητα\n"
-                    "1\tH\tΥδρογόνο\t1,008\t1\t1\t14,01\t20,28\t0,00008988\t2,20\t1766\n"_gr));
-    const std::string html = htmlTable(rows, TemperatureUnit::celsius);
-    EXPECT_NE(html.find("<th>Σημείο τήξης (°C)</th>"_gr), std::string::npos);
-    EXPECT_NE(html.find("<td>Fe</td><td>Σίδηρος</td><td align=\"right\">55,845</td>"_gr), std::string::npos);
-    EXPECT_LT(html.find("Fe"), html.find("Υδρογόνο"_gr));
-}
-
-TEST(ColumnWidths, FillTheSpaceAndKeepWhatTheReaderHasSet) {
-    const auto sum = [](const ColumnWidths::Widths& widths) {
-        int all = 0;
-        for (const int width : widths) all += width;
-        return all;
-    };
-    ColumnWidths widths;
-    EXPECT_EQ(sum(widths.spread(1000)), 1000);
-    EXPECT_EQ(sum(widths.spread(100)), sum(widths.spread(624))) << "never narrower than the texts need";
-    widths.set(Column::name, 300);
-    EXPECT_EQ(widths.spread(1000)[static_cast<std::size_t>(Column::name)], 300);
-    EXPECT_EQ(sum(widths.spread(1000)), 1000);
-    for (const int nonsense : {-5, 3, 5000}) {
-        widths.set(Column::name, nonsense);
-        EXPECT_EQ(widths.set(Column::name), ColumnWidths::automatic) << nonsense;
+TEST(AnalyserGraph, AxesZoomWithinTheWhole) {
+    const AxisRange whole{0, 100, false};
+    const AxisRange closer = zoomed(whole, 0.5, 0.25, whole);
+    EXPECT_EQ(closer, (AxisRange{12.5, 62.5, false})) << "the place stays where it is";
+    EXPECT_EQ(zoomed(closer, 10, 0.5, whole), whole);
+    EXPECT_EQ(moved(closer, 5, whole), (AxisRange{50, 100, false}));
+    const AxisRange decades{1, 1e4, true};
+    EXPECT_NEAR(zoomed(decades, 0.5, 0, decades).to, 1e3, 1e-9);
+    EXPECT_NEAR(zoomed(decades, 0.5, 1, decades).from, 10, 1e-9);
+    EXPECT_EQ(zoomed(decades, 2, 1, decades), decades);
+    EXPECT_DOUBLE_EQ(decades.place(100), 0.5);
+    const double values[] = {3, 5, 3000};
+    EXPECT_EQ(rangeOf(values, true), (AxisRange{1, 1e4, true}));
+    const double same[] = {5};
+    EXPECT_TRUE(rangeOf(same, false).valid());
+    for (const AxisRange& wrong : {AxisRange{1, 1}, AxisRange{2, 1}, AxisRange{0, 1, true},
+                                   AxisRange{0, 1e300}, AxisRange{NAN, 1}, AxisRange{0, INFINITY}}) {
+        EXPECT_FALSE(wrong.valid());
     }
 }
 

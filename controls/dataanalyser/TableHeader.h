@@ -5,9 +5,9 @@
 namespace controls::dataanalyser {
 
 /// The headings of the table; the one that the rows are sorted by carries an arrow.
-class ElementHeader : public QHeaderView {
+class TableHeader : public QHeaderView {
   public:
-    explicit ElementHeader(QWidget* parent);
+    explicit TableHeader(QWidget* parent);
 
   protected:
     void paintEvent(QPaintEvent* event) override;

@@ -1,4 +1,4 @@
-#include "controls/dataanalyser/ElementHeader.h"
+#include "controls/dataanalyser/TableHeader.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -17,7 +17,12 @@ constexpr int textFlags = Qt::AlignCenter | Qt::TextWordWrap;
 
 /// With soft hyphens where words too long for a narrow column may be parted, and units kept together.
 QString withBreaks(QString words) {
-    words.replace(QLatin1Char('/'), QStringLiteral("\u2060/\u2060"));
+    // Of a unit nothing is parted.
+    const qsizetype unit = words.lastIndexOf(u'(');
+    if (unit >= 0) {
+        QString kept = words.mid(unit).replace(u' ', QChar(QChar::Nbsp));
+        words = words.left(unit) + kept.replace(QLatin1Char('/'), QStringLiteral("\u2060/\u2060"));
+    }
     words.replace(QStringLiteral("Έτος ανακάλυψης"), QStringLiteral("Έτος\nανακά\u00ADλυψης"));
     words.replace(QStringLiteral("Ηλεκτραρνητικότητα"), QStringLiteral("Ηλεκτρ\u00ADαρνητι\u00ADκότητα"));
     return words;
@@ -45,7 +50,7 @@ void paintArrow(QPainter& painter, const QRect& area, bool descending) {
 
 }  // namespace
 
-ElementHeader::ElementHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
+TableHeader::TableHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
     setSectionsClickable(true);
     setHighlightSections(false);
     setSortIndicatorShown(true);
@@ -53,13 +58,13 @@ ElementHeader::ElementHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, pare
     setAccessibleName(QStringLiteral("Επικεφαλίδες στηλών"));
 }
 
-QSize ElementHeader::sizeHint() const { return {QHeaderView::sizeHint().width(), headerHeight}; }
+QSize TableHeader::sizeHint() const { return {QHeaderView::sizeHint().width(), headerHeight}; }
 
-QString ElementHeader::text(int section) const {
+QString TableHeader::text(int section) const {
     return withBreaks(model()->headerData(section, Qt::Horizontal, Qt::DisplayRole).toString());
 }
 
-int ElementHeader::commonPixels() const {
+int TableHeader::commonPixels() const {
     int pixels = fontPixels;
     for (int section = 0; section < count(); ++section) {
         const QSize area = textArea(QRect(0, 0, sectionSize(section), height())).size();
@@ -68,12 +73,12 @@ int ElementHeader::commonPixels() const {
     return pixels;
 }
 
-void ElementHeader::paintEvent(QPaintEvent* event) {
+void TableHeader::paintEvent(QPaintEvent* event) {
     pixels_ = commonPixels();
     QHeaderView::paintEvent(event);
 }
 
-void ElementHeader::paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const {
+void TableHeader::paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const {
     painter->save();
     const bool sorted = sortIndicatorSection() == logicalIndex;
     painter->fillRect(rect, sorted ? appearance::deep.lighter(125) : appearance::deep);

@@ -1,0 +1,39 @@
+#include "controls/dataanalyser/Buttons.h"
+
+#include <QButtonGroup>
+#include <QHBoxLayout>
+
+namespace controls::dataanalyser {
+
+// What is made here belongs to its Qt parent.
+// NOLINTBEGIN(cppcoreguidelines-owning-memory)
+
+QPushButton* makeButton(const QString& text, const QString& name, QWidget* parent) {
+    auto* button = new QPushButton(text, parent);
+    button->setAccessibleName(name);
+    button->setToolTip(name);
+    return button;
+}
+
+QPushButton* makeToggle(const QString& text, const QString& name, QWidget* parent) {
+    QPushButton* button = makeButton(text, name, parent);
+    button->setCheckable(true);
+    return button;
+}
+
+void addChoice(QButtonGroup& group, int id, const QString& text, const QString& name, QWidget* parent) {
+    group.addButton(makeToggle(text, name, parent), id);
+}
+
+QWidget* joinedButtons(const QButtonGroup& group, QWidget* parent) {
+    auto* joined = new QWidget(parent);
+    auto* row = new QHBoxLayout(joined);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    for (QAbstractButton* button : group.buttons()) row->addWidget(button);
+    return joined;
+}
+
+// NOLINTEND(cppcoreguidelines-owning-memory)
+
+}  // namespace controls::dataanalyser

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "formats/DataSet.h"
+
+namespace controls::dataanalyser {
+
+/// The elements as a data set with the number 0; a row is named by its atomic number.
+formats::DataSet elementSet();
+
+}  // namespace controls::dataanalyser

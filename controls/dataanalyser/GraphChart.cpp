@@ -1,0 +1,227 @@
+#include "controls/dataanalyser/GraphChart.h"
+
+#include <QGraphicsLayout>
+#include <QLegend>
+#include <QLegendMarker>
+#include <QLineSeries>
+#include <QLocale>
+#include <QLogValueAxis>
+#include <QScatterSeries>
+#include <QValueAxis>
+#include <cmath>
+#include <set>
+
+#include "controls/common/QtText.h"
+#include "controls/dataanalyser/Analyser.h"
+#include "controls/dataanalyser/CategoryColors.h"
+#include "controls/dataanalyser/FigureText.h"
+#include "controls/dataanalyser/GraphHover.h"
+#include "controls/dataanalyser/GraphMarks.h"
+#include "controls/dataanalyser/RowNames.h"
+#include "controls/dataanalyser/ShownText.h"
+
+namespace controls::dataanalyser {
+
+namespace {
+
+constexpr int labelPixels = 11;
+constexpr int titlePixels = 12;
+constexpr int headingPixels = 15;
+constexpr int tickPixels = 80;
+
+QString figure(double value) { return toQt(shortFigure(value, 6)).replace(u'-', QChar(0x2212)); }
+
+std::string_view nameOf(const Analyser& analyser) { return analyser.dataSet().title; }
+
+std::vector<QString> barNames(const Analyser& analyser, const Graph& graph) {
+    std::vector<QString> names;
+    if (graph.plan.kind != GraphKind::bar) return names;
+    for (const GraphMark& mark : graph.marks) {
+        names.push_back(toQt(shortRowName(analyser.dataSet(), static_cast<std::size_t>(mark.row))));
+    }
+    return names;
+}
+
+// What is made here belongs to the chart.
+// NOLINTBEGIN(cppcoreguidelines-owning-memory)
+
+QAbstractAxis* makeLogarithmicAxis(const AxisRange& range) {
+    auto* axis = new QLogValueAxis();
+    axis->setBase(10);
+    axis->setLabelFormat(QStringLiteral("%.6g"));
+    axis->setMinorTickCount(8);
+    axis->setRange(range.from, range.to);
+    return axis;
+}
+
+QAbstractAxis* makeLinearAxis(const AxisRange& range, double pixels, double leastDistance) {
+    auto* axis = new QValueAxis();
+    const int parts = std::max(2, static_cast<int>(pixels / tickPixels));
+    const double distance = std::max(tickDistance(range.span(), parts), leastDistance);
+    axis->setTickType(QValueAxis::TicksDynamic);
+    axis->setTickAnchor(0);
+    axis->setTickInterval(distance);
+    const bool plain = distance >= 1e-6 && std::max(std::abs(range.from), std::abs(range.to)) < 1e9;
+    axis->setLabelFormat(plain ? QStringLiteral("%.%1f").arg(decimalsOfTick(distance))
+                               : QStringLiteral("%.6g"));
+    axis->setRange(range.from, range.to);
+    return axis;
+}
+
+QAbstractAxis* makeAxis(const AxisRange& range, const QString& title, double pixels, double leastDistance) {
+    QAbstractAxis* axis =
+        range.logarithmic ? makeLogarithmicAxis(range) : makeLinearAxis(range, pixels, leastDistance);
+    axis->setTitleText(title);
+    axis->setTitleFont(appearance::font(titlePixels, QFont::DemiBold));
+    axis->setLabelsFont(appearance::font(labelPixels));
+    axis->setTitleBrush(appearance::deep);
+    axis->setLabelsColor(appearance::text);
+    axis->setLinePenColor(appearance::muted);
+    axis->setGridLineColor(appearance::line);
+    axis->setMinorGridLineColor(appearance::ground);
+    return axis;
+}
+
+}  // namespace
+
+GraphChart::GraphChart() : marks_(new GraphMarks(this)), hover_(new GraphHover(this)) {
+    QLocale greek(QLocale::Greek, QLocale::Greece);
+    greek.setNumberOptions(QLocale::OmitGroupSeparator);
+    setLocale(greek);
+    setLocalizeNumbers(true);
+    setAnimationOptions(NoAnimation);
+    setContentsMargins(0, 0, 0, 0);
+    layout()->setContentsMargins(0, 0, 0, 0);
+    setBackgroundRoundness(0);
+    setBackgroundBrush(appearance::paper);
+    setDropShadowEnabled(false);
+    setTitleFont(appearance::font(headingPixels, QFont::Bold));
+    setTitleBrush(appearance::deep);
+    legend()->setFont(appearance::font(labelPixels));
+    legend()->setLabelColor(appearance::text);
+    legend()->setAlignment(Qt::AlignRight);
+    legend()->setMarkerShape(QLegend::MarkerShapeCircle);
+    connect(this, &QChart::plotAreaChanged, this, [this] { placeMarks(); });
+}
+
+void GraphChart::showGraph(const Analyser& analyser) {
+    analyser_ = &analyser;
+    removeAllSeries();
+    for (QAbstractAxis* axis : axes()) {
+        removeAxis(axis);
+        delete axis;
+    }
+    Graph graph = analyser.graph();
+    const GraphWindow window = analyser.window(graph);
+    const Categories& categories = analyser.categories();
+    setTitle(toQt(nameOf(analyser)));
+    GraphScenery scenery{{}, window, {}, {}, barNames(analyser, graph)};
+    for (int i = 0; i < static_cast<int>(categories.names.size()); ++i) {
+        scenery.categories.push_back(categoryColors(categories, i));
+    }
+    for (const std::int16_t id : analyser.selected()) scenery.selected.insert(analyser.placeOf(id));
+    setMargins(QMargins(12, 8, 12, scenery.names.empty() ? 8 : GraphMarks::spaceFor(scenery.names)));
+    setAxes(graph, window.x, window.y);
+    addLines(graph, window.x);
+    addLegendEntries(analyser, graph);
+    scenery.graph = std::move(graph);
+    marks_->setScenery(std::move(scenery));
+    setHovered(-1);
+    placeMarks();
+}
+
+void GraphChart::setAxes(const Graph& graph, const AxisRange& x, const AxisRange& y) {
+    const bool bars = graph.plan.kind == GraphKind::bar;
+    const bool counts = graph.plan.kind == GraphKind::histogram;
+    QAbstractAxis* across = makeAxis(x, toQt(graph.xTitle), size().width(), 0);
+    if (bars) {
+        across->setLabelsVisible(false);
+        across->setGridLineVisible(false);
+        across->setTitleVisible(false);
+    }
+    addAxis(across, Qt::AlignBottom);
+    addAxis(makeAxis(y, toQt(graph.yTitle), size().height(), counts ? 1 : 0), Qt::AlignLeft);
+}
+
+void GraphChart::addSeries(QXYSeries& series) {
+    QChart::addSeries(&series);
+    for (QAbstractAxis* axis : axes()) series.attachAxis(axis);
+}
+
+void GraphChart::addLines(const Graph& graph, const AxisRange& x) {
+    if (graph.plan.kind == GraphKind::line) {
+        auto* line = new QLineSeries();
+        QList<QPointF> points;
+        for (const GraphMark& mark : graph.marks) points.append({mark.x, mark.y});
+        line->append(points);
+        line->setPen(QPen(appearance::accent, 1.5));
+        addSeries(*line);
+        for (QLegendMarker* marker : legend()->markers(line)) marker->setVisible(false);
+    }
+    const QPointF left(x.from, graph.fitted(x.from));
+    const QPointF right(x.to, graph.fitted(x.to));
+    if (!graph.fit || !std::isfinite(left.y()) || !std::isfinite(right.y())) return;
+    auto* line = new QLineSeries();
+    line->append({left, right});
+    line->setPen(QPen(appearance::warm.darker(115), 2, Qt::DashLine));
+    addSeries(*line);
+    for (QLegendMarker* marker : legend()->markers(line)) marker->setVisible(false);
+    const QString words = toQt(equation(*graph.fit, graph.plan.logX, graph.plan.logY)) +
+                          QStringLiteral(",   r² = ") + toQt(fixedFigure(graph.fit->rSquared, 4));
+    setTitle(title() + QStringLiteral(":&nbsp; <span style=\"font-weight:normal\">%1</span>").arg(words));
+}
+
+void GraphChart::addLegendEntries(const Analyser& analyser, const Graph& graph) {
+    std::set<int> present;
+    for (const GraphMark& mark : graph.marks) present.insert(mark.category);
+    present.erase(-1);
+    legend()->setVisible(present.size() > 1 && size().width() > 560);
+    if (present.size() < 2) return;
+    for (const int category : present) {
+        auto* entry = new QScatterSeries();
+        entry->setName(toQt(analyser.categories().names[static_cast<std::size_t>(category)]));
+        entry->setColor(categoryColors(analyser.categories(), category).edge);
+        entry->setBorderColor(Qt::transparent);
+        addSeries(*entry);
+    }
+}
+
+// NOLINTEND(cppcoreguidelines-owning-memory)
+
+void GraphChart::placeMarks() {
+    marks_->setPlotArea(plotArea());
+    setHovered(hovered_);
+}
+
+void GraphChart::setHovered(int index) {
+    const auto& marks = marks_->scenery().graph.marks;
+    hovered_ = index >= 0 && index < static_cast<int>(marks.size()) ? index : -1;
+    if (hovered_ < 0) return hover_->hide();
+    const QPointF place = marks_->place(marks[static_cast<std::size_t>(hovered_)]);
+    if (!plotArea().adjusted(-1, -1, 1, 1).contains(place) && marks_->scenery().graph.plan.hasPoints()) {
+        return hover_->hide();
+    }
+    hover_->showAt(place, linesOf(hovered_), boundingRect());
+}
+
+QStringList GraphChart::hoverLines() const { return hovered_ < 0 ? QStringList() : hover_->lines(); }
+
+QStringList GraphChart::linesOf(int index) const {
+    const Graph& graph = marks_->scenery().graph;
+    const GraphMark& mark = graph.marks[static_cast<std::size_t>(index)];
+    if (graph.plan.kind == GraphKind::histogram) {
+        return {QStringLiteral("%1 έως %2").arg(figure(mark.left), figure(mark.right)),
+                QStringLiteral("Πλήθος: %1").arg(mark.y)};
+    }
+    const formats::DataSet& set = analyser_->dataSet();
+    const auto row = static_cast<std::size_t>(mark.row);
+    const auto line = [&](std::size_t column, const std::string& title) {
+        return toQt(title) + QStringLiteral(": ") + shownCell(set.columns[column], row, analyser_->unit());
+    };
+    QStringList lines{shownRowName(set, row)};
+    if (graph.plan.hasPoints()) lines += line(graph.plan.x, graph.xTitle);
+    lines += line(graph.plan.y, graph.yTitle);
+    return lines;
+}
+
+}  // namespace controls::dataanalyser

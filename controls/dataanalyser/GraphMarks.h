@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QGraphicsItem>
+#include <set>
+#include <vector>
+
+#include "controls/common/Appearance.h"
+#include "controls/dataanalyser/Graph.h"
+
+namespace controls::dataanalyser {
+
+/// What `GraphMarks` draws.
+struct GraphScenery {
+    Graph graph;
+    GraphWindow window;                                ///< the part of the graph on show
+    std::vector<appearance::FamilyColors> categories;  ///< a colour for each category
+    std::set<int> selected;                            ///< rows, by place
+    std::vector<QString> names;                        ///< under a bar graph, one for each mark
+};
+
+/// The points or bars of a graph, all in one: ten thousand graphics items would be slow.
+class GraphMarks : public QGraphicsItem {
+  public:
+    explicit GraphMarks(QGraphicsItem* parent);
+
+    void setScenery(GraphScenery scenery);
+    const GraphScenery& scenery() const { return scenery_; }
+    /// Where on the chart the plane lies.
+    void setPlotArea(const QRectF& area);
+    const QRectF& plotArea() const { return plotArea_; }
+
+    /// The place of a mark on the chart: that of a point, or the middle of the end of a bar.
+    QPointF place(const GraphMark& mark) const;
+    /// The index of the mark at a place of the chart: the nearest point within reach, or the bar there; −1
+    /// for none.
+    int markAt(const QPointF& position) const;
+
+    QRectF boundingRect() const override;
+    void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
+
+    /// The space that names need under the axis of a bar graph, in pixels.
+    static int spaceFor(const std::vector<QString>& names);
+
+  private:
+    double across(double x) const;
+    double down(double y) const;
+    QRectF barOf(const GraphMark& mark) const;
+    appearance::FamilyColors colorsOf(const GraphMark& mark) const;
+    void paintPoints(QPainter& painter, const QRectF& exposed) const;
+    void paintBars(QPainter& painter) const;
+    void paintNames(QPainter& painter) const;
+
+    GraphScenery scenery_;
+    QRectF plotArea_;
+};
+
+}  // namespace controls::dataanalyser
