@@ -1,13 +1,11 @@
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
-#include <QElapsedTimer>
-#include <QImage>
+#include <QCoreApplication>
 #include <QScrollBar>
-#include <cstdlib>
 #include <random>
 #include <string>
 
+#include "bench/Application.h"
 #include "controls/dataanalyser/AnalyserControl.h"
 #include "controls/dataanalyser/GraphView.h"
 #include "controls/dataanalyser/TableView.h"
@@ -19,15 +17,6 @@ namespace {
 using namespace controls::dataanalyser;
 
 constexpr int rowCount = 10000;
-
-void needApplication() {
-    static int count = 1;
-    static char name[] = "kalyxo-bench";
-    static char* arguments[] = {name, nullptr};
-    if (QApplication::instance()) return;
-    setenv("QT_QPA_PLATFORM", "offscreen", 0);
-    static const QApplication application(count, arguments);
-}
 
 DataLibrary largeLibrary() {
     std::string text =
@@ -45,7 +34,6 @@ DataLibrary largeLibrary() {
 /// The pane of an analyser that shows the large data set.
 struct Shown {
     Shown() {
-        needApplication();
         analyser.setDataSet(1);
         pane.resize(1016, 640);
         pane.show();
@@ -61,6 +49,7 @@ struct Shown {
 };
 
 void SortOf10000Rows(benchmark::State& state) {
+    needApplication();
     Shown shown;
     bool descending = false;
     for (auto _ : state) {
@@ -73,6 +62,7 @@ void SortOf10000Rows(benchmark::State& state) {
 BENCHMARK(SortOf10000Rows)->Arg(0)->Arg(2)->Unit(benchmark::kMillisecond);
 
 void ScrollByAPageIn10000Rows(benchmark::State& state) {
+    needApplication();
     Shown shown;
     QScrollBar* bar = shown.pane.findChild<TableView*>()->verticalScrollBar();
     for (auto _ : state) {
@@ -83,6 +73,7 @@ void ScrollByAPageIn10000Rows(benchmark::State& state) {
 BENCHMARK(ScrollByAPageIn10000Rows)->Unit(benchmark::kMillisecond);
 
 void ScatterPlotOf10000Points(benchmark::State& state) {
+    needApplication();
     Shown shown;
     for (auto _ : state) {
         shown.analyser.setGraphShown(true);

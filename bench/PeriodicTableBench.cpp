@@ -1,10 +1,9 @@
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
 #include <QImage>
-#include <array>
 #include <string>
 
+#include "bench/Application.h"
 #include "controls/common/QtText.h"
 #include "controls/periodic/PeriodicWidget.h"
 
@@ -13,14 +12,6 @@
 namespace {
 
 using namespace controls::periodic;
-
-/// The one application object of this process.
-void needApplication() {
-    static int count = 1;
-    static std::array<char, 13> name{"kalyxo-bench"};
-    static std::array<char*, 2> arguments{name.data(), nullptr};
-    static const QApplication application(count, arguments.data());
-}
 
 void RedrawOfPeriodicTable(benchmark::State& state) {
     needApplication();
