@@ -28,6 +28,9 @@ constexpr int labelPixels = 11;
 constexpr int titlePixels = 12;
 constexpr int headingPixels = 15;
 constexpr int tickPixels = 80;
+constexpr int roomForLegend = 560;
+constexpr double legendLine = 22;
+constexpr double legendSurroundings = 50;
 
 QString figure(double value) { return toQt(shortFigure(value, 6)).replace(u'-', QChar(0x2212)); }
 
@@ -175,7 +178,10 @@ void GraphChart::addLegendEntries(const Analyser& analyser, const Graph& graph) 
     std::set<int> present;
     for (const GraphMark& mark : graph.marks) present.insert(mark.category);
     present.erase(-1);
-    legend()->setVisible(present.size() > 1 && size().width() > 560);
+    // A legend that is cut off tells less than none.
+    const bool fits = size().width() > roomForLegend &&
+                      static_cast<double>(present.size()) * legendLine < size().height() - legendSurroundings;
+    legend()->setVisible(present.size() > 1 && fits);
     if (present.size() < 2) return;
     for (const int category : present) {
         auto* entry = new QScatterSeries();
