@@ -12,7 +12,7 @@ namespace controls::periodic {
 
 namespace {
 
-constexpr int leastFactHeight = 13;
+constexpr int leastFactHeight = 12;
 constexpr int mostFactPixels = 19;
 constexpr int leastFactWidth = 150;
 constexpr int headingLines = 3;
