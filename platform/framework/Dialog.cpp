@@ -18,7 +18,6 @@ namespace platform {
 namespace {
 
 constexpr int noDialog = -1;
-constexpr WPARAM escapeKey = 27;
 
 const DialogTemplate* findTemplate(UINT id) {
     const auto dialogs = Resources().dialogs;
@@ -116,7 +115,7 @@ LRESULT CDialog::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
             return 1;
         case WM_KEYDOWN:
             if (wParam == VK_RETURN) pushDefaultButton(GetSafeHwnd());
-            if (wParam == escapeKey) SendMessage(WM_COMMAND, IDCANCEL);
+            if (wParam == VK_ESCAPE) SendMessage(WM_COMMAND, IDCANCEL);
             return 0;
         case WM_CLOSE:
             SendMessage(WM_COMMAND, IDCANCEL);

@@ -3,11 +3,13 @@
 #include <cstdlib>
 
 #include "platform/framework/AcceleratorTable.h"
+#include "platform/framework/Dialog.h"
 #include "platform/framework/Document.h"
 #include "platform/framework/FrameWnd.h"
 #include "platform/framework/View.h"
 #include "platform/handles/WindowTable.h"
 #include "platform/machine/Machine.h"
+#include "platform/windows/ControlContainer.h"
 #include "platform/windows/MessageFilter.h"
 #include "platform/windows/WindowWidget.h"
 
@@ -22,6 +24,12 @@ std::optional<UINT> acceleratorCommand(const CFrameWnd* frame, HWND window, UINT
     const QWidget* const widget = WindowTable::instance().widget(window);
     if (!frame || !widget || widget->window() != WindowWidget::of(*frame)) return std::nullopt;
     return AcceleratorTable(Resources().accelerators).find(key, inputModifiers());
+}
+
+/// The dialog around a hosted control, which would keep the key that ends dialogs; null for other windows.
+CWnd* dialogAroundControl(HWND window) {
+    CWnd* const control = controlHostOf(window) ? CWnd::FromHandle(window) : nullptr;
+    return control ? dynamic_cast<CDialog*>(control->GetParent()) : nullptr;
 }
 
 }  // namespace
@@ -48,6 +56,11 @@ CWinApp& CWinApp::instance() {
 
 bool CWinApp::PreTranslateMessage(const MSG& message) {
     if (message.message != WM_KEYDOWN) return false;
+    CWnd* const dialog = message.wParam == VK_ESCAPE ? dialogAroundControl(message.hwnd) : nullptr;
+    if (dialog) {
+        dialog->SendMessage(WM_COMMAND, IDCANCEL);
+        return true;
+    }
     CFrameWnd* const frame = GetMainWnd();
     const auto command = acceleratorCommand(frame, message.hwnd, static_cast<UINT>(message.wParam));
     return command && frame->RunCommand(*command);

@@ -27,7 +27,8 @@ class CWinApp : public CCmdTarget {
     virtual bool InitInstance() = 0;
     virtual int ExitInstance() { return 0; }
     /// Looks at an input message before it is delivered; true swallows it. The default carries out
-    /// accelerators; a key whose command is disabled or has no handler goes on to its window.
+    /// accelerators, and ends a dialog by Escape from within a hosted control; a key whose command is
+    /// disabled or has no handler goes on to its window.
     virtual bool PreTranslateMessage(const MSG& message);
 
     void AddDocTemplate(std::unique_ptr<CSingleDocTemplate> documentTemplate);

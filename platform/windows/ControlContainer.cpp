@@ -39,9 +39,8 @@ void ControlContainer::fitContent() {
     if (host_) host_->control().widget().setGeometry(rect());
 }
 
-// A key that the control has no use for is not the parent's, unless that is a dialog, with keys for all its
-// controls.
-void ControlContainer::keyPressEvent(QKeyEvent* event) { event->setAccepted(!parentWidget()->isWindow()); }
+// A key that the control has no use for is not the parent's.
+void ControlContainer::keyPressEvent(QKeyEvent* event) { event->accept(); }
 
 void ControlContainer::keyReleaseEvent(QKeyEvent* event) { event->accept(); }
 

@@ -59,6 +59,7 @@ inline constexpr int SW_SHOWMAXIMIZED = 3;
 inline constexpr int SW_SHOW = 5;
 
 inline constexpr unsigned VK_RETURN = 13;
+inline constexpr unsigned VK_ESCAPE = 27;
 
 /// A message on its way to a window.
 struct MSG {

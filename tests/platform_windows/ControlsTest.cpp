@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QTest>
+#include <QTextEdit>
 #include <QTimer>
 #include <QTreeWidget>
 #include <array>
@@ -482,6 +483,38 @@ TEST_F(ControlsTest, ControlsAreNamedAfterTheirLabels) {
         QAccessibleInterface* const list = QAccessible::queryAccessibleInterface(&control(idList));
         EXPECT_EQ(list->text(QAccessible::Name), QStringLiteral("Λέξη"));
     });
+}
+
+TEST_F(ControlsTest, LinesOfAnEditFillItsHeightShownOrNot) {
+    open();
+    CEdit edit;
+    ASSERT_TRUE(edit.Create(WS_CHILD | WS_BORDER | ES_MULTILINE, {0, 0, 260, 1000}, view(), 77));
+    edit.SetFont({"Arial Greek", -11});
+    constexpr int lineHeight = 15;
+    std::string words;
+    for (int i = 0; i < 60; ++i) words += std::string("Ηλεκτρόλυση "_gr) + std::to_string(i) + " ";
+    const struct {
+        std::string text;
+        int least, most;
+    } cases[] = {{"", 1, 1},      {"a", 1, 1},     {"a\r\nb\r\nc", 3, 3},
+                 {"a\r\n", 2, 2}, {words, 15, 30}, {std::string(400, 'W'), 15, 30}};
+    for (const auto& c : cases) {
+        edit.ShowWindow(SW_HIDE);
+        edit.MoveWindow({0, 0, 260, 1000});
+        edit.SetWindowText(c.text);
+        const int lines = edit.GetLineCount();
+        EXPECT_GE(lines, c.least) << c.text;
+        EXPECT_LE(lines, c.most) << c.text;
+        edit.MoveWindow(CRect::at(10, 10, 260, lineHeight * lines + 2));
+        edit.ShowWindow(SW_SHOW);
+        settle();
+        EXPECT_EQ(edit.GetLineCount(), lines) << c.text;
+        EXPECT_EQ(edit.GetWindowText(), c.text);
+        // Neither the last line nor a long word is cut.
+        const auto& widget = dynamic_cast<QTextEdit&>(widgetOf(edit));
+        EXPECT_LE(widget.document()->size().height(), edit.GetClientRect().Height()) << c.text;
+        EXPECT_LE(widget.document()->idealWidth(), edit.GetClientRect().Width()) << c.text;
+    }
 }
 
 TEST_F(ControlsTest, ObjectsOutliveTheirControls) {

@@ -36,6 +36,7 @@ void link(Act& act, Program&) {
     const Act::Hold hold(act);
     WebPageInspector* shown = browserFor(act);
     if (shown == nullptr) return;
+    if (activeDialog() != nullptr) return act.fail("a dialog stands before the page");
     if (!shown->clickLink(platform::fromUtf8(act.word(0)))) {
         return act.fail("the page has no link " + act.word(0));
     }

@@ -1,0 +1,108 @@
+#include <gtest/gtest.h>
+
+#include "platform/text/GreekLiteral.h"
+#include "src/app/DriveList.h"
+#include "src/content/GlossaryPopup.h"
+#include "src/content/GlossaryText.h"
+#include "tests/program/TestFolders.h"
+
+namespace kalyxo {
+namespace {
+
+using namespace platform::literals;
+using platform::CRect;
+
+TEST(GlossaryLinkTest, OnlyAddressesOfThatFormAreTakenOver) {
+    const struct {
+        std::string_view url;
+        bool enlarged;
+        std::optional<std::string> file;
+    } cases[] = {
+        {"D:\\a.htm", true, std::nullopt},
+        {"D:\\A.HTM", true, std::nullopt},
+        {"DD:\\a.htm", false, std::nullopt},
+        {":\\a.htm", false, std::nullopt},
+        {"", false, std::nullopt},
+        {"D:\\1.htm", false, std::nullopt},
+        {"c:\\cache\\PJQBHG12345678.HTM", false, "12345678.htm"},
+        {"pjqbhg", false, ""},
+        {"pjqbhg/pjqbhgx.htm", false, "/pjqbhgx.htm"},
+        {"c:\\pjqbh\\g.htm", false, std::nullopt},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(IsEnlargedViewLink(c.url), c.enlarged) << c.url;
+        EXPECT_EQ(GlossaryFile(c.url), c.file) << c.url;
+    }
+}
+
+TEST(DefinitionTest, IsWhatFollowsTheFirstLine) {
+    const std::string longTitle(49, 't');
+    const std::string longLine(4998, 'x');
+    const struct {
+        const char* what;
+        std::string file;
+        std::optional<std::string> text;
+    } cases[] = {
+        {"two lines", "title\r\nfirst\r\nsecond\r\n", "first\r\nsecond"},
+        {"no end of line", "title\nfirst", "first"},
+        {"empty lines within", "title\n\nfirst\n\nsecond\n", "first\r\n\r\nsecond"},
+        {"too short", "title\r\nfour", std::nullopt},
+        {"just long enough", "title\r\na\r\nbc", "a\r\nbc"},
+        {"only a title", "title of some length", std::nullopt},
+        {"empty file", "", std::nullopt},
+        {"a long title's rest counts as text", longTitle + "rest!\nmore", "rest!\r\nmore"},
+        {"a title of 49 bytes leaves its line end", longTitle + "\nfirst", "first"},
+        {"a long line is broken", "title\n" + longLine + "yz\n", longLine + "\r\nyz"},
+        {"a NUL ends its line", std::string("title\nfirst\0gone\nlast", 21), "first\r\nlast"},
+    };
+    TestDrives drives;
+    for (const auto& c : cases) {
+        drives.put("D:\\glossary\\word.htm", c.file);
+        EXPECT_EQ(ReadDefinition(drives.files, "D:\\glossary\\WORD.htm"), c.text) << c.what;
+    }
+    EXPECT_EQ(ReadDefinition(drives.files, "D:\\glossary\\other.htm"), std::nullopt);
+    EXPECT_EQ(ReadDefinition(drives.files, "D:\\glossary\\"), std::nullopt);
+}
+
+TEST(GlossaryPopupTest, StaysInTheClientArea) {
+    const struct {
+        platform::CPoint pointer;
+        int lines;
+        CRect place;
+    } cases[] = {
+        {{300, 100}, 2, CRect::at(270, 114, 260, 32)},
+        {{401, 100}, 2, CRect::at(371, 114, 260, 32)},  // the right edge 5 pixels inside
+        {{402, 100}, 2, CRect::at(371, 114, 260, 32)},
+        {{300, 403}, 2, CRect::at(270, 417, 260, 32)},  // the lower edge 5 pixels inside
+        {{300, 404}, 2, CRect::at(270, 361, 260, 32)},
+        {{635, 453}, 4, CRect::at(371, 380, 260, 62)},
+        {{300, 200}, 20, CRect::at(270, 0, 260, 302)},  // room neither below nor above
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(PlaceGlossaryPopup(c.pointer, {636, 454}, c.lines), c.place)
+            << c.pointer.x << "," << c.pointer.y;
+    }
+}
+
+TEST(DriveListTest, SelectsTheFirstFixedDiskElseTheFirst) {
+    using platform::DriveType;
+    const auto list = [](std::vector<platform::Drive> drives) {
+        return ListDrives(platform::FileSystem(std::move(drives)));
+    };
+    EXPECT_EQ(list({}).selected, -1);
+    EXPECT_TRUE(list({}).entries.empty());
+    EXPECT_EQ(list({{'A', DriveType::removable, "a"}, {'D', DriveType::cdrom, "d"}}).selected, 0);
+    EXPECT_EQ(
+        list({{'E', DriveType::fixed, "e"}, {'A', DriveType::removable, "a"}, {'C', DriveType::fixed, "c"}})
+            .selected,
+        1);
+    for (const char letter : {'C', 'U'}) {
+        EXPECT_EQ(DriveLetter(DriveEntry(letter == 'C' ? DriveType::fixed : DriveType::unknown, letter)),
+                  letter);
+    }
+    EXPECT_EQ(DriveLetter("none"), std::nullopt);
+    EXPECT_EQ(DriveLetter(":"), std::nullopt);
+}
+
+}  // namespace
+}  // namespace kalyxo
