@@ -65,6 +65,7 @@ void CBookmarkDlg::SetUpAdd(std::string proposedName) {
 void CBookmarkDlg::DoDataExchange(CDataExchange& exchange) {
     DDX_Control(exchange, IDC_BOOKMARK_TREE, m_tree);
     DDX_Control(exchange, IDC_BOOKMARK_ADVANCED, m_advanced);
+    DDX_Control(exchange, IDC_BOOKMARK_NAME, m_name);
     DDX_Text(exchange, IDC_BOOKMARK_NAME, m_strName);
     DDV_MaxChars(exchange, m_strName, kLongestName);
 }
@@ -201,7 +202,8 @@ void CBookmarkDlg::OnKeyDown(UINT key) {
     } else if (GetFocus() == m_tree.GetSafeHwnd()) {
         OnRename();
     } else if (m_bAdd) {
-        GotoDlgCtrl(IDC_BOOKMARK_NAME);
+        m_name.SetFocus();
+        m_name.SetSel(0, -1);
     }
 }
 

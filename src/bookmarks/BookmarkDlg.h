@@ -7,6 +7,7 @@
 
 #include "platform/framework/Dialog.h"
 #include "platform/windows/Button.h"
+#include "platform/windows/Edit.h"
 #include "src/bookmarks/BookmarkList.h"
 #include "src/bookmarks/BookmarkTree.h"
 #include "src/bookmarks/FolderNameDlg.h"
@@ -71,6 +72,7 @@ class CBookmarkDlg : public platform::CDialog {
     const CBookmark* m_pChosen = nullptr;
     BookmarkArray m_arrNew;
     CBookmarkTree m_tree;
+    platform::CEdit m_name;
     platform::CButton m_advanced;
 };
 
