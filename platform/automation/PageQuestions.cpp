@@ -21,9 +21,6 @@ namespace platform {
 namespace {
 
 constexpr std::chrono::seconds answerTime{5};
-/// How long a click may be on its way: the engine drops those that come before a page's first picture.
-constexpr std::chrono::seconds clickTime{1};
-constexpr int clickTries = 5;
 constexpr std::chrono::seconds pictureTime{2};
 constexpr std::chrono::milliseconds lookAgain{5};
 
@@ -64,16 +61,6 @@ Answer await(Ask ask) {
 QVariant evaluate(QWebEnginePage& page, const QString& script) {
     return await<QVariant>(
         [&](auto answer) { page.runJavaScript(script, QWebEngineScript::ApplicationWorld, answer); });
-}
-
-/// Whether the page has seen the click that it was told to look out for, within the time of one click. A page
-/// that was left or closed meanwhile has seen it, too.
-bool sawClick(const QPointer<QWebEnginePage>& page) {
-    const QDeadlineTimer end(clickTime);
-    while (page && !end.hasExpired()) {
-        if (evaluate(*page, QStringLiteral("window.awaitsClick !== true")).toBool()) return true;
-    }
-    return !page;
 }
 
 /// A JavaScript string literal.
@@ -123,17 +110,6 @@ std::optional<CRect> findLinkOf(QWebEnginePage& page, std::string_view linkText)
         "const box = link.getClientRects()[0];"
         "return box ? [box.left, box.top, box.right, box.bottom] : null; })()");
     return rectangle(evaluate(page, QString(script).arg(quoted(linkText))), page.zoomFactor());
-}
-
-void clickAndAwait(QWebEnginePage& page, const std::function<void()>& click) {
-    evaluate(page, QStringLiteral("window.awaitsClick = true;"
-                                  "addEventListener('click', () => { window.awaitsClick = false; },"
-                                  " {capture: true, once: true});"));
-    const QPointer<QWebEnginePage> still(&page);
-    for (int i = 0; still && i < clickTries; ++i) {
-        click();
-        if (sawClick(still)) return;
-    }
 }
 
 std::vector<EmbeddedFrame> embeddedFramesOf(QWebEnginePage& page) {

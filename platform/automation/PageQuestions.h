@@ -26,10 +26,6 @@ QString htmlOf(QWebEnginePage& page);
 /// where it is.
 std::optional<CRect> findLinkOf(QWebEnginePage& page, std::string_view linkText);
 
-/// Clicks with `click`, again when the engine lost it, and returns when the page has handled it: what the
-/// page asks for in answer has been asked for by then.
-void clickAndAwait(QWebEnginePage& page, const std::function<void()>& click);
-
 /// The frame of an embedded file: the number that the page's script gave it (see EmbedScript), and its place.
 struct EmbeddedFrame {
     int number = 0;

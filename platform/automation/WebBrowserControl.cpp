@@ -7,6 +7,7 @@
 #include "platform/automation/BrowserPolicy.h"
 #include "platform/automation/ControlLibrary.h"
 #include "platform/automation/DosUrl.h"
+#include "platform/automation/LinkClick.h"
 #include "platform/automation/PagePrinter.h"
 #include "platform/automation/PageQuestions.h"
 #include "platform/automation/PluginWindows.h"
@@ -92,7 +93,8 @@ std::optional<Variant> WebBrowserControl::invoke(std::int32_t dispid, InvokeKind
 }
 
 bool WebBrowserControl::busy() const {
-    return page_->busy() || plugins_->busy() || printer_->busy() || anyQuestionOpen();
+    return (click_ && click_->pending()) || page_->busy() || plugins_->busy() || printer_->busy() ||
+           anyQuestionOpen();
 }
 
 void WebBrowserControl::navigate(const std::string& address, const Variant& flags, const Variant&,
@@ -151,7 +153,7 @@ bool WebBrowserControl::clickLink(std::string_view linkText) {
     const auto link = findLink(linkText);
     if (!link) return false;
     const CPoint middle{(link->left + link->right) / 2, (link->top + link->bottom) / 2};
-    clickAndAwait(*page_, [&] { view_->click(middle); });
+    click_ = std::make_unique<LinkClick>(*page_, [this, middle] { view_->click(middle); });
     return true;
 }
 

@@ -11,6 +11,7 @@ class QUrl;
 
 namespace platform {
 
+class LinkClick;
 class PagePrinter;
 class PluginWindows;
 class WebPage;
@@ -61,6 +62,7 @@ class WebBrowserControl : public Control, public WebPageInspector {
     PagePrinter* printer_;           // the view's
     std::unique_ptr<WebPage> page_;  // goes before its view, which does not own it
     std::unique_ptr<PluginWindows> plugins_;
+    std::unique_ptr<LinkClick> click_;  // the last one in the page
 };
 
 }  // namespace platform

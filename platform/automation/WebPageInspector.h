@@ -27,7 +27,8 @@ class WebPageInspector {
     /// Scrolls the page's first link with this text (blanks at its ends apart) into view; its rectangle in
     /// the control's client area, nothing when there is none.
     virtual std::optional<CRect> findLink(std::string_view linkText) = 0;
-    /// Clicks that link with the mouse and waits for the page to handle it; false when there is none.
+    /// Clicks that link with the mouse, in a moment; false when there is none. The control is busy until the
+    /// page has handled it.
     virtual bool clickLink(std::string_view linkText) = 0;
 
     /// The frames that embedded files are shown in, as laid out, in the control's client area and in the
