@@ -2,6 +2,7 @@
 
 #include <QLoggingCategory>
 
+#include "platform/automation/BrowserProcess.h"
 #include "platform/text/CodePage1253.h"
 
 namespace platform {
@@ -13,6 +14,11 @@ Q_LOGGING_CATEGORY(browserLog, "platform.browser")
 BrowserPolicy& BrowserPolicy::instance() {
     static BrowserPolicy policy;
     return policy;
+}
+
+void BrowserPolicy::setAllowedHosts(const std::vector<std::string>& hosts) {
+    policy_.setAllowedHosts(hosts);
+    letEngineFind(hosts);
 }
 
 bool BrowserPolicy::admit(std::string_view page, std::string_view request) const {

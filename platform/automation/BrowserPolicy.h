@@ -16,6 +16,10 @@ class BrowserPolicy {
     /// See RequestPolicy::setAllowedFolders.
     void setAllowedFolders(const std::vector<std::string>& folders) { policy_.setAllowedFolders(folders); }
 
+    /// See RequestPolicy::setAllowedHosts. To be called before the first browser is made, since the engine
+    /// finds no other host from then on.
+    void setAllowedHosts(const std::vector<std::string>& hosts);
+
     /// See RequestPolicy::allows; a refusal is logged under the category `platform.browser`.
     bool admit(std::string_view page, std::string_view request) const;
 

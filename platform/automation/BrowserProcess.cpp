@@ -6,7 +6,10 @@
 #include <QCoreApplication>
 #include <QLoggingCategory>
 #include <QWebEngineUrlScheme>
+#include <algorithm>
 #include <cstdio>
+#include <iterator>
+#include <string_view>
 
 namespace platform {
 
@@ -31,13 +34,28 @@ void switchSandboxOffForRoot() {
     std::fputs("Started as root: the browser engine runs without its sandbox.\n", stderr);
 }
 
+/// The engine's switch that lets it find these hosts only.
+QByteArray hostRules(const std::vector<std::string>& hosts) {
+    QByteArray rules = " --host-resolver-rules=\"MAP * ~NOTFOUND";
+    for (const std::string& host : hosts) rules += " , EXCLUDE " + QByteArray::fromStdString(host);
+    return rules + '"';
+}
+
+bool isHostName(std::string_view name) {
+    return !name.empty() && std::all_of(name.begin(), name.end(), [](char c) {
+        return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '-' || c == '.';
+    });
+}
+
 void setEngineFlags() {
-    // No name resolves, so that no request that the policy does not see can reach the network either. All
-    // pages come from the same hands: one process draws them, instead of a new one for each that is opened.
+    // No name resolves at first, so that no request that the policy does not see can reach the network
+    // either. All pages come from the same hands: one process draws them, instead of a new one for each that
+    // is opened.
     QByteArray flags =
         "--disable-background-networking --disable-component-update --disable-domain-reliability "
-        "--disable-sync --no-pings --log-level=3 --host-resolver-rules=\"MAP * ~NOTFOUND\" "
+        "--disable-sync --no-pings --log-level=3 "
         "--renderer-process-limit=1";
+    flags += hostRules({});
     const QByteArray platformName = qgetenv("QT_QPA_PLATFORM");
     if (platformName.startsWith("offscreen") || platformName.startsWith("minimal")) flags += " --disable-gpu";
     const QByteArray given = qgetenv(flagsVariable);
@@ -53,6 +71,13 @@ void prepareProcess() {
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     // The engine lists its graphics set-up at every start without a screen.
     QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext*=false"));
+}
+
+void letEngineFind(const std::vector<std::string>& hosts) {
+    std::vector<std::string> names;
+    std::copy_if(hosts.begin(), hosts.end(), std::back_inserter(names), isHostName);
+    // Of two switches of one name the later one counts.
+    qputenv(flagsVariable, qgetenv(flagsVariable) + hostRules(names));
 }
 
 }  // namespace platform

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
 namespace platform {
 
 /// Prepares the process for the web browser control. To be called once, before the application object is
@@ -7,5 +10,9 @@ namespace platform {
 /// runs as root, where the engine's sandbox refuses to work, it is switched off with a line on standard
 /// error.
 void prepareProcess();
+
+/// Lets the engine find these hosts on the network, and no other. To be called before the first browser is
+/// made; names of other characters than letters, digits, hyphens and stops are left out.
+void letEngineFind(const std::vector<std::string>& hosts);
 
 }  // namespace platform

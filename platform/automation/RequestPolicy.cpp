@@ -23,6 +23,19 @@ std::optional<std::string> comparable(std::string_view address) {
     return toLower(text);
 }
 
+/// The host of an http or https address, in small letters; empty for any other. What stands before an at sign
+/// is no part of it.
+std::string hostOf(std::string_view address) {
+    for (const std::string_view scheme : {"http://", "https://"}) {
+        if (toLower(address.substr(0, scheme.size())) != scheme) continue;
+        std::string_view host = address.substr(scheme.size());
+        host = host.substr(0, host.find_first_of("/\\?#"));
+        host.remove_prefix(host.rfind('@') + 1);
+        return toLower(host.substr(0, host.find(':')));
+    }
+    return {};
+}
+
 bool isInlineData(std::string_view address) {
     return address.starts_with("data:") || address.starts_with("blob:");
 }
@@ -43,10 +56,17 @@ bool RequestPolicy::allowsFile(std::string_view address) const {
                                            [&](const auto& folder) { return text->starts_with(folder); });
 }
 
+bool RequestPolicy::allowsHost(std::string_view address) const {
+    const std::string host = hostOf(address);
+    return !host.empty() && std::find(hosts_.begin(), hosts_.end(), host) != hosts_.end();
+}
+
 bool RequestPolicy::allows(std::string_view page, std::string_view request) const {
     if (request == emptyPage) return true;
-    if (isInlineData(request)) return allowsFile(page);
-    return allowsFile(request) && (page.empty() || page == emptyPage || allowsFile(page));
+    const bool isProgram = page.empty() || page == emptyPage;
+    if (isInlineData(request)) return isProgram || allowsFile(page) || allowsHost(page);
+    if (allowsHost(request)) return isProgram || allowsHost(page);
+    return allowsFile(request) && (isProgram || allowsFile(page));
 }
 
 }  // namespace platform

@@ -14,6 +14,7 @@
 #include "platform/automation/BrowserPolicy.h"
 #include "platform/automation/BrowserProfile.h"
 #include "platform/automation/DosUrl.h"
+#include "platform/automation/UnreachablePage.h"
 
 namespace platform {
 
@@ -32,6 +33,8 @@ constexpr std::chrono::milliseconds copyTime{500};
 constexpr auto leadsOnScript = QLatin1StringView(
     "[...document.querySelectorAll('meta[http-equiv=refresh i]')]"
     ".some(m => parseFloat(m.content) < 1 && /url/i.test(m.content))");
+
+bool isOnline(const QUrl& url) { return url.scheme().startsWith(QLatin1StringView("http")); }
 
 }  // namespace
 
@@ -58,6 +61,7 @@ void WebPage::go(const QUrl& asking, const QUrl& url) {
     if (!alive || !passed) return;
     startLoading();
     tries_ = missedTries;
+    toldUnreachable_ = false;
     target_ = target;
     load(target);
 }
@@ -113,7 +117,11 @@ void WebPage::requestLater(const QUrl& url) {
     QMetaObject::invokeMethod(this, request, Qt::QueuedConnection);
 }
 
-void WebPage::finished() {
+void WebPage::finished(bool arrived) {
+    if (!arrived && isOnline(target_) && !std::exchange(toldUnreachable_, true)) {
+        setHtml(unreachablePage(target_), target_);
+        return;
+    }
     runJavaScript(leadsOnScript, QWebEngineScript::ApplicationWorld,
                   [this, load = std::weak_ptr(load_)](const QVariant& leadsOn) {
                       if (!load.expired()) settle(leadsOn.toBool());

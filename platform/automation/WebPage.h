@@ -50,7 +50,7 @@ class WebPage : public QWebEnginePage {
     void requestLater(const QUrl& url);
     bool isCommand(const QUrl& url);
     void go(const QUrl& asking, const QUrl& url);
-    void finished();
+    void finished(bool arrived);
     void startLoading();
     void settle(bool leadsOn);
     /// Whether the page on show is not that of the load asked for last: the end of an earlier load may be
@@ -62,8 +62,9 @@ class WebPage : public QWebEnginePage {
     CommandHandler commandHandler_;
     QTimer arrivalLimit_;  // runs while another page than that on show is expected
     int tries_ = 0;        // how often the load asked for last may still be asked for again
-    QTimer copyLimit_;     // runs while the engine copies
-    int waiting_ = 0;      // navigations asked for by the page and not yet put to the gate
+    bool toldUnreachable_ = false;
+    QTimer copyLimit_;  // runs while the engine copies
+    int waiting_ = 0;   // navigations asked for by the page and not yet put to the gate
     // A new one for each load: the engine's answers about an earlier page, or to a page that has gone since,
     // are told from it.
     std::shared_ptr<int> load_ = std::make_shared<int>();

@@ -39,6 +39,7 @@ class Machine {
     const std::filesystem::path& folder() const { return folder_; }
 
     const ScreenConfig& screen() const { return config_.screen; }
+    const SitesConfig& sites() const { return config_.sites; }
     const std::optional<PrinterConfig>& printer() const { return config_.printer; }
 
     /// A system metric in pixels.

@@ -152,6 +152,24 @@ void readPrinter(FieldReader& reader, const Json& root, MachineConfig& config) {
     reader.readInteger(*object, "logpixelsy", "printer", 1, most, printer.logpixelsy);
 }
 
+void readHost(FieldReader& reader, const Json& sites, const char* name, std::string& host) {
+    const Json* value = FieldReader::field(sites, name);
+    if (!value) return;
+    const std::string text = value->is_string() ? value->get<std::string>() : "?";
+    const bool isName = std::all_of(text.begin(), text.end(), [](char c) {
+        return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '-' || c == '.';
+    });
+    if (!isName) return reader.fail("sites." + std::string(name) + " must be a host name in small letters");
+    host = text;
+}
+
+void readSites(FieldReader& reader, const Json& root, SitesConfig& sites) {
+    const Json* object = FieldReader::field(root, "sites");
+    if (!object || !reader.isObject(*object, "sites")) return;
+    readHost(reader, *object, "product", sites.product);
+    readHost(reader, *object, "maker", sites.maker);
+}
+
 MachineConfig readConfig(FieldReader& reader, const Json& root) {
     MachineConfig config;
     if (!reader.isObject(root, "the whole")) return config;
@@ -162,6 +180,7 @@ MachineConfig readConfig(FieldReader& reader, const Json& root) {
     reader.readText(root, "temp", config.temp);
     reader.readText(root, "system", config.system);
     readPrinter(reader, root, config);
+    readSites(reader, root, config.sites);
     return config;
 }
 
@@ -187,6 +206,7 @@ Json toJson(const MachineConfig& config) {
     root["program"] = toUtf8(config.program);
     root["temp"] = toUtf8(config.temp);
     root["system"] = toUtf8(config.system);
+    root["sites"] = {{"product", config.sites.product}, {"maker", config.sites.maker}};
     root["printer"] = nullptr;
     if (const auto& printer = config.printer) {
         root["printer"] = {{"horzres", printer->horzres},

@@ -42,6 +42,14 @@ struct PrinterConfig {
     bool operator==(const PrinterConfig&) const = default;
 };
 
+/// Hosts of the web sites that the program opens, in small letters; empty for none.
+struct SitesConfig {
+    std::string product = "kalyxo.example";
+    std::string maker = "orvane.example";
+
+    bool operator==(const SitesConfig&) const = default;
+};
+
 /// What machine.json tells of a machine; every field of the file may be left out. Texts are code page 1253.
 struct MachineConfig {
     ScreenConfig screen;
@@ -52,6 +60,7 @@ struct MachineConfig {
     std::string temp = "C:\\Temp\\";
     std::string system = "C:\\Windows\\System";
     std::optional<PrinterConfig> printer;
+    SitesConfig sites;
 
     bool operator==(const MachineConfig&) const = default;
 };

@@ -10,6 +10,7 @@
 #include "src/content/History.h"
 #include "src/content/HostedComponents.h"
 #include "src/content/MainMenuScreen.h"
+#include "src/content/OnlinePages.h"
 #include "src/content/PageCache.h"
 #include "src/content/PagePreparer.h"
 #include "src/content/PictureCapture.h"
@@ -81,6 +82,10 @@ class CKalyxoView : public platform::CView {
     void OnSection();
     template <std::size_t Slot>
     void OnUpdateSection(platform::CCmdUI& ui);
+    template <OnlinePage Page>
+    void OnOnlinePage();
+    void OnHelp();
+    void showPlainPage(const std::string& address);
     void OnPrint();
     void OnUpdatePrint(platform::CCmdUI& ui);
     void OnSearch();

@@ -1,8 +1,10 @@
 #include "platform/framework/Resources.h"
 #include "platform/framework/WinApp.h"
+#include "platform/machine/Machine.h"
 #include "platform/windows/MessageMap.h"
 #include "platform/windows/PrinterDC.h"
 #include "src/app/KalyxoApp.h"
+#include "src/content/EnlargedViewDlg.h"
 #include "src/content/KalyxoView.h"
 #include "src/resources/CommandIds.h"
 #include "src/resources/ResourceIds.h"
@@ -72,6 +74,12 @@ const MessageMap* CKalyxoView::GetMessageMap() const {
         OnUpdateId<&CKalyxoView::OnUpdateBack>(ID_BACK),
         OnCommandId<&CKalyxoView::GoForward>(ID_FORWARD),
         OnUpdateId<&CKalyxoView::OnUpdateForward>(ID_FORWARD),
+        OnCommandId<&CKalyxoView::ShowMainMenu>(ID_FILE_NEW),
+        OnCommandId<&CKalyxoView::OnBookmarkGoto>(ID_FILE_OPEN),
+        OnCommandId<&CKalyxoView::OnOnlinePage<OnlinePage::product>>(ID_ONLINE_PRODUCT),
+        OnCommandId<&CKalyxoView::OnOnlinePage<OnlinePage::support>>(ID_ONLINE_SUPPORT),
+        OnCommandId<&CKalyxoView::OnOnlinePage<OnlinePage::products>>(ID_ONLINE_PRODUCTS),
+        OnCommandId<&CKalyxoView::OnHelp>(ID_HELP_CONTENTS),
         OnCommandId<&CKalyxoView::OnPrint>(ID_FILE_PRINT),
         OnUpdateId<&CKalyxoView::OnUpdatePrint>(ID_FILE_PRINT),
         OnCommandId<&CKalyxoView::OnSearch>(ID_SEARCH),
@@ -118,6 +126,18 @@ void CKalyxoView::OnUpdateForward(CCmdUI& ui) { ui.Enable(m_history.CanGoForward
 void CKalyxoView::OnUpdatePeriodicTable(CCmdUI& ui) { ui.SetCheck(m_mode == ContentMode::PeriodicTable); }
 
 void CKalyxoView::OnUpdateDataAnalyser(CCmdUI& ui) { ui.SetCheck(m_mode == ContentMode::DataAnalyser); }
+
+template <OnlinePage Page>
+void CKalyxoView::OnOnlinePage() {
+    const SitesConfig& sites = machine().sites();
+    showPlainPage(OnlineAddress(Page, sites.product, sites.maker));
+}
+
+void CKalyxoView::OnHelp() { showPlainPage(TheApp().m_strDataFolder + "help.htm"); }
+
+void CKalyxoView::showPlainPage(const std::string& address) {
+    CEnlargedViewDlg(EnlargedViewMode::plainPage, address, {}).DoModal();
+}
 
 void CKalyxoView::OnPrint() {
     if (!HasPrinter()) {

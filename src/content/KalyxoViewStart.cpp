@@ -44,6 +44,7 @@ bool CKalyxoView::componentsAreUpToDate() {
 
 void CKalyxoView::readyBrowser() {
     BrowserPolicy::instance().setAllowedFolders({TheApp().m_strDataFolder, cacheLocation().folder});
+    BrowserPolicy::instance().setAllowedHosts({machine().sites().product, machine().sites().maker});
     PluginTypes& types = PluginTypes::instance();
     for (const char* video : {"webm", "mp4", "m4v", "ogv", "avi", "mov", "mpg", "mpeg"}) {
         types.add(video, ":/plugins/video.html");

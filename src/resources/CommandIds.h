@@ -38,6 +38,7 @@ inline constexpr platform::UINT ID_COPY_MOLECULE = 32788;
 inline constexpr platform::UINT ID_TOOLBAR = 32790;
 inline constexpr platform::UINT ID_COPY_ALL_DATA = 32794;
 inline constexpr platform::UINT ID_COPY_SELECTED = 32795;
+inline constexpr platform::UINT ID_ONLINE_PRODUCT = 32796;
 inline constexpr platform::UINT ID_ONLINE_SUPPORT = 32797;
 inline constexpr platform::UINT ID_ONLINE_PRODUCTS = 32798;
 inline constexpr platform::UINT ID_COPY_GRAPH = 32799;

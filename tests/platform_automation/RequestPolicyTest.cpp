@@ -59,9 +59,27 @@ TEST(RequestPolicy, AllowsInlineDataToPagesOfTheFolders) {
     check(policy, {
                       {"D:\\a.htm", "data:image/png;base64,AA==", true},
                       {"D:\\a.htm", "blob:d:/1", true},
-                      {"", "data:text/html,x", false},
+                      {"", "data:text/html,x", true},
                       {"data:text/html,x", "D:\\a.htm", false},
                       {"C:\\x.htm", "data:image/png;base64,AA==", false},
+                  });
+}
+
+TEST(RequestPolicy, LetsOnlyTheProgramAndPagesOfAllowedHostsReachThem) {
+    RequestPolicy policy;
+    policy.setAllowedFolders({"D:\\"});
+    policy.setAllowedHosts({"orvane.example", ""});
+    check(policy, {
+                      {"", "https://orvane.example/misc/go_where.asp?redirect=support", true},
+                      {"", "HTTP://Orvane.Example:8080", true},
+                      {"https://orvane.example/a", "https://orvane.example/style.css", true},
+                      {"D:\\a.htm", "https://orvane.example/", false},
+                      {"https://orvane.example/a", "D:\\a.htm", false},
+                      {"https://orvane.example/a", "https://other.example/", false},
+                      {"", "https://orvane.example.other.example/", false},
+                      {"", "https://orvane.example@other.example/", false},
+                      {"", "https:///", false},
+                      {"", "ftp://orvane.example/", false},
                   });
 }
 
