@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPointer>
 
 #include "platform/windows/Collation.h"
@@ -88,6 +89,28 @@ void TreeWidget::mouseMoveEvent(QMouseEvent* event) {
 
 void TreeWidget::mouseReleaseEvent(QMouseEvent* event) {
     if (!dragTold_) QTreeWidget::mouseReleaseEvent(event);
+}
+
+void TreeWidget::drawBranches(QPainter* painter, const QRect& rect, const QModelIndex& index) const {
+    drawLines(*painter, rect, index);
+    QTreeWidget::drawBranches(painter, rect, index);
+}
+
+/// The style draws the buttons only. The lines come from the items above, go on to those below, and leave out
+/// the button.
+void TreeWidget::drawLines(QPainter& painter, const QRect& rect, const QModelIndex& index) const {
+    constexpr int buttonRadius = 6;
+    painter.setPen(QPen(palette().color(QPalette::Dark), 1, Qt::DotLine));
+    const int middle = rect.center().y();
+    const int gap = model()->hasChildren(index) ? buttonRadius : 0;
+    int x = rect.right() - indentation() / 2;
+    painter.drawLine(x + gap, middle, rect.right(), middle);
+    if (index.parent().isValid() || index.row() > 0) painter.drawLine(x, rect.top(), x, middle - gap);
+    if (index.siblingAtRow(index.row() + 1).isValid()) painter.drawLine(x, middle + gap, x, rect.bottom());
+    for (QModelIndex above = index.parent(); above.isValid(); above = above.parent()) {
+        x -= indentation();
+        if (above.siblingAtRow(above.row() + 1).isValid()) painter.drawLine(x, rect.top(), x, rect.bottom());
+    }
 }
 
 void TreeWidget::tell(int code, QTreeWidgetItem* item) {

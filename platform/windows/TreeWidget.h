@@ -18,6 +18,7 @@ class TreeWidget : public QTreeWidget {
     void keyPressEvent(QKeyEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void startDrag(Qt::DropActions actions) override;
+    void drawBranches(QPainter* painter, const QRect& rect, const QModelIndex& index) const override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -25,6 +26,7 @@ class TreeWidget : public QTreeWidget {
   private:
     void tell(int code, QTreeWidgetItem* item);
     void enter(QKeyEvent& event);
+    void drawLines(QPainter& painter, const QRect& rect, const QModelIndex& index) const;
 
     bool dragTold_ = false;
 };
