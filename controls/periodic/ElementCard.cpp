@@ -148,7 +148,10 @@ std::vector<Fact> factsOf(const Element& element, const TableState& state) {
     std::vector<Quantity> quantities{melting,    boiling,        density,   electronegativity,
                                      ionisation, covalentRadius, discovery, crust};
     const auto first = quantityOf(state.view);
-    if (first) std::ranges::stable_partition(quantities, [&](Quantity each) { return each == *first; });
+    if (first) {
+        std::stable_partition(quantities.begin(), quantities.end(),
+                              [&](Quantity each) { return each == *first; });
+    }
     std::vector<Fact> facts;
     for (const Quantity quantity : quantities) {
         const QString name =

@@ -19,6 +19,7 @@
 #include "controls/periodic/ScaleBox.h"
 #include "controls/periodic/ValueSlider.h"
 #include "controls/periodic/ViewStrip.h"
+#include "platform/automation/QtChild.h"
 
 namespace controls::periodic {
 
@@ -73,19 +74,19 @@ PeriodicWidget::PeriodicWidget(std::function<void(int)> chosen, QWidget* parent)
 QSize PeriodicWidget::sizeHint() const { return {1016, 640}; }
 
 void PeriodicWidget::makeParts() {
-    strip_ = new ViewStrip(
+    strip_ = &platform::makeQtChild<ViewStrip>(
         lettering_,
         [this](TableView view) {
             setView(view);
             takeFocus();
         },
         this);
-    slider_ = new ValueSlider(lettering_, this);
+    slider_ = &platform::makeQtChild<ValueSlider>(lettering_, this);
     connect(slider_, &QSlider::valueChanged, this, [this](int value) {
         slide(value);
         takeFocus();
     });
-    scaleBox_ = new ScaleBox(lettering_, this);
+    scaleBox_ = &platform::makeQtChild<ScaleBox>(lettering_, this);
     connect(scaleBox_, &QCheckBox::clicked, this, [this] {
         state_.otherScale = !state_.otherScale;
         update();

@@ -108,6 +108,7 @@ class TableAccessible : public QAccessibleWidget {
         QAccessible::Id& id = ids_[static_cast<std::size_t>(index)];
         if (id == 0) {
             auto made = std::make_unique<CellAccessible>(table_, index + 1);
+            // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): Qt destroys it
             id = QAccessible::registerAccessibleInterface(made.release());
         }
         return QAccessible::accessibleInterface(id);

@@ -6,6 +6,7 @@
 
 #include "controls/common/Appearance.h"
 #include "controls/common/QtText.h"
+#include "platform/automation/QtChild.h"
 
 namespace controls::periodic {
 
@@ -49,12 +50,12 @@ void ViewButton::paintEvent(QPaintEvent*) {
                     isChecked() ? QFont::DemiBold : QFont::Normal);
 }
 
-ViewStrip::ViewStrip(Lettering& lettering, std::function<void(TableView)> chosen, QWidget* parent)
+ViewStrip::ViewStrip(Lettering& lettering, const std::function<void(TableView)>& chosen, QWidget* parent)
     : QWidget(parent) {
     setAccessibleName(QStringLiteral("Προβολές"));
     for (int code = 0; code < viewCount; ++code) {
         const TableView view = *viewOfCode(code);
-        auto* button = new ViewButton(view, lettering, this);
+        auto* button = &platform::makeQtChild<ViewButton>(view, lettering, this);
         connect(button, &QAbstractButton::clicked, this, [chosen, view] { chosen(view); });
         buttons_[static_cast<std::size_t>(code)] = button;
     }

@@ -26,7 +26,7 @@ class ViewButton : public QRadioButton {
 class ViewStrip : public QWidget {
   public:
     /// `chosen` is called when the reader chooses a view.
-    ViewStrip(Lettering& lettering, std::function<void(TableView)> chosen, QWidget* parent);
+    ViewStrip(Lettering& lettering, const std::function<void(TableView)>& chosen, QWidget* parent);
 
     /// Shows which view is on.
     void setView(TableView view);

@@ -25,7 +25,9 @@ struct Outcome {
 
 template <class T>
 Outcome<T> failed(std::string fault) {
-    return {.fault = std::move(fault)};
+    Outcome<T> outcome;
+    outcome.fault = std::move(fault);
+    return outcome;
 }
 
 /// The text of a field, empty where there is none.
