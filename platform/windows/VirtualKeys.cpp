@@ -29,6 +29,9 @@ constexpr std::u16string_view greekLetters = u"ΑΒΨΔΕΦΓΗΙΞΚΛΜΝΟΠ;
 static_assert(greekLetters.size() == 26);
 
 constexpr UINT firstFunctionKey = 0x70;
+/// The key of a character that is on none of the keys known here.
+constexpr UINT anyCharacter = 0xE7;
+constexpr int firstKeyWithoutCharacter = 0x01000000;
 
 }  // namespace
 
@@ -41,9 +44,10 @@ UINT virtualKey(int qtKey) {
     }
     const auto key = std::find_if(named.begin(), named.end(), [=](const Key& k) { return k.qt == qtKey; });
     if (key != named.end()) return key->number;
-    if (qtKey < 0x0370 || qtKey > 0x03FF) return 0;
-    const std::size_t letter = greekLetters.find(static_cast<char16_t>(qtKey));
-    return letter == greekLetters.npos ? 0 : 'A' + static_cast<UINT>(letter);
+    if (qtKey >= firstKeyWithoutCharacter) return 0;
+    const bool isGreek = qtKey >= 0x0370 && qtKey <= 0x03FF;
+    const std::size_t letter = isGreek ? greekLetters.find(static_cast<char16_t>(qtKey)) : greekLetters.npos;
+    return letter == greekLetters.npos ? anyCharacter : 'A' + static_cast<UINT>(letter);
 }
 
 }  // namespace platform
