@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QScreen>
+#include <QStandardPaths>
 
 #include "platform/automation/BrowserProcess.h"
 
@@ -11,6 +12,11 @@ namespace {
 
 /// A maximised window's borders, left and right or top and bottom.
 constexpr int maximisedBorders = 8;
+
+/// An A4 page.
+constexpr int dotsPerInch = 600;
+constexpr int a4Width = 4960;
+constexpr int a4Height = 7016;
 
 std::unique_ptr<QApplication> makeApplication(int& argc, char** argv) {
     prepareProcess();
@@ -38,6 +44,16 @@ std::map<std::string, int, std::less<>> Desktop::metrics() const {
     const QSize free = first->availableSize();
     return {{"SM_CXMAXIMIZED", free.width() + maximisedBorders},
             {"SM_CYMAXIMIZED", free.height() + maximisedBorders}};
+}
+
+PrinterConfig Desktop::printer() const {
+    PrinterConfig printer;
+    printer.horzres = a4Width;
+    printer.vertres = a4Height;
+    printer.logpixelsy = dotsPerInch;
+    printer.folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation).toStdString();
+    printer.desktop = true;
+    return printer;
 }
 
 }  // namespace platform

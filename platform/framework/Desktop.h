@@ -26,6 +26,9 @@ class Desktop {
     /// The metrics that follow from it, by name: the size of a maximised window, whose borders lie outside.
     std::map<std::string, int, std::less<>> metrics() const;
 
+    /// Its default printer; where there is none, A4 pages that land as PDF files among the user's documents.
+    PrinterConfig printer() const;
+
   private:
     std::unique_ptr<QApplication> application_;
 };

@@ -30,8 +30,8 @@ struct DriveConfig {
 };
 
 /// A printer: its page in device pixels and its vertical resolution in pixels per inch. It prints PDF files,
-/// into the machine folder if no other is given; or it stands for the default printer of the user's desktop,
-/// whose page is then its own. The latter two are not in machine.json.
+/// into the machine folder if no other is given. With `desktop` it does so only where the user's desktop has no
+/// printer; else its default printer is meant, whose page is its own. The latter two are not in machine.json.
 struct PrinterConfig {
     int horzres = 4800;
     int vertres = 6800;

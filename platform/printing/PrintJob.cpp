@@ -21,9 +21,11 @@ namespace fs = std::filesystem;
 
 namespace {
 
+/// The printer that prints files, or null.
 const PrinterConfig* pdfPrinter() {
     const auto& printer = machine().printer();
-    return printer && !printer->desktop ? &*printer : nullptr;
+    const bool onPaper = printer && printer->desktop && !QPrinterInfo::defaultPrinter().isNull();
+    return printer && !onPaper ? &*printer : nullptr;
 }
 
 QString unicode(std::string_view text) { return QString::fromStdString(toUtf8(text)); }
@@ -55,10 +57,7 @@ std::unique_ptr<QPrinter> defaultPrinter() {
 
 }  // namespace
 
-bool hasPrinter() {
-    const auto& printer = machine().printer();
-    return printer && (!printer->desktop || !QPrinterInfo::defaultPrinter().isNull());
-}
+bool hasPrinter() { return machine().printer().has_value(); }
 
 std::unique_ptr<QPrinter> choosePrinter(QWidget& chooser) {
     std::unique_ptr<QPrinter> printer = defaultPrinter();

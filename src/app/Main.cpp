@@ -27,7 +27,7 @@ int main(int argc, char** argv) {
     const platform::Desktop desktop(argc, argv);
     const auto opened = kalyxo::OpenOwnMachine(kalyxo::OwnMachineFolder(),
                                                kalyxo::FindInstalledFiles(kalyxo::RunningProgramsFolder()),
-                                               {desktop.screen(), desktop.metrics()});
+                                               {desktop.screen(), desktop.metrics(), desktop.printer()});
     if (!opened) {
         tellNoMachine(opened.error);
         return kNoMachine;

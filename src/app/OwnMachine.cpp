@@ -72,6 +72,7 @@ void updateModules(Machine& machine, const fs::path& modules) {
 
 void followPresent(MachineConfig& config, const InstalledFiles& installed, const PresentScreen& present) {
     config.screen = present.screen;
+    config.printer = present.printer;
     for (const auto& [name, value] : present.metrics) config.metrics[name] = value;
     const auto disc = config.drives.find(kDiscLetter);
     std::error_code ignored;

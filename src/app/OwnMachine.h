@@ -11,10 +11,11 @@
 
 namespace kalyxo {
 
-/// The screen that the program finds at this start.
+/// The screen and the printer that the program finds at this start.
 struct PresentScreen {
     platform::ScreenConfig screen;
     std::map<std::string, int, std::less<>> metrics;  ///< those that follow from the screen, by name
+    platform::PrinterConfig printer = {};
 };
 
 /// The user's machine folder: `kalyxo` in $XDG_DATA_HOME or, without it, in ~/.local/share. Empty when
