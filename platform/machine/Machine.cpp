@@ -6,7 +6,9 @@
 #include <system_error>
 #include <thread>
 
+#include "platform/files/FolderLock.h"
 #include "platform/registry/RegFile.h"
+#include "platform/registry/RegistryChanges.h"
 
 namespace platform {
 
@@ -57,7 +59,8 @@ Machine::Machine(const fs::path& folder, MachineConfig config, Registry registry
     : folder_(fs::absolute(folder)),
       config_(std::move(config)),
       files_(drivesOf(folder_, config_)),
-      registry_(std::move(registry)) {}
+      registry_(std::move(registry)),
+      written_(copyOf(registry_.tree())) {}
 
 int Machine::metric(SystemMetric metric) const {
     if (metric == SM_CXSCREEN) return config_.screen.width;
@@ -88,7 +91,16 @@ void Machine::sleep(std::uint32_t milliseconds) {
     if (!virtualTime_) std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
 }
 
-bool Machine::flushRegistry() const { return saveRegFile(registry_, folder_ / registryName); }
+bool Machine::flushRegistry() {
+    const fs::path file = folder_ / registryName;
+    const auto lock = FolderLock::wait(folder_);
+    const auto present = loadRegFile(file);
+    RegistryNode tree = copyOf(present ? present.value->tree() : registry_.tree());
+    carryOverChanges(written_, registry_.tree(), tree);
+    if (!saveRegFile(Registry(std::move(tree)), file)) return false;
+    written_ = copyOf(registry_.tree());
+    return true;
+}
 
 Machine& machine() {
     if (!currentMachine) std::abort();

@@ -16,6 +16,7 @@
 #include "platform/machine/Metric.h"
 #include "platform/machine/Trace.h"
 #include "platform/registry/Registry.h"
+#include "platform/registry/RegistryNode.h"
 
 namespace platform {
 
@@ -61,8 +62,10 @@ class Machine {
     void setVirtualTime(bool on) { virtualTime_ = on; }
     bool virtualTime() const { return virtualTime_; }
 
-    /// Writes the registry to registry.reg; false when that fails.
-    bool flushRegistry() const;
+    /// Writes what changed in the registry to registry.reg, beside what other programs on the same machine
+    /// folder have written there; of two changes to one key the later stands. A file that is gone or damaged
+    /// is written anew. False when writing fails.
+    bool flushRegistry();
 
     /// Makes message boxes take their answers from the queue rather than be shown.
     void enableAnswers() { answers_.enable(); }
@@ -77,6 +80,7 @@ class Machine {
     MachineConfig config_;
     FileSystem files_;
     Registry registry_;
+    RegistryNode written_;  ///< the registry as last read or written
     Trace trace_;
     AnswerQueue answers_;
     bool virtualTime_ = false;

@@ -5,6 +5,7 @@
 #include "platform/files/FileSystem.h"
 #include "platform/files/ReplaceFile.h"
 #include "platform/machine/Machine.h"
+#include "platform/registry/RegFile.h"
 #include "platform/text/CodePage1253.h"
 
 namespace platform {
@@ -129,7 +130,8 @@ std::optional<std::string> makeMachine(const fs::path& folder, const NewMachineO
     if (auto problem = fillDrives(machine, options)) return problem;
     fillSettings(machine.registry(), options);
     registerComponents(machine.registry(), options);
-    if (!machine.flushRegistry()) return cannotMake((folder / "registry.reg").string());
+    const fs::path registryFile = folder / "registry.reg";
+    if (!saveRegFile(machine.registry(), registryFile)) return cannotMake(registryFile.string());
     return std::nullopt;
 }
 

@@ -43,7 +43,7 @@ bool CKalyxoView::componentsAreUpToDate() {
 }
 
 void CKalyxoView::readyBrowser() {
-    BrowserPolicy::instance().setAllowedFolders({TheApp().m_strDataFolder, cacheLocation().folder});
+    BrowserPolicy::instance().setAllowedFolders({TheApp().m_strDataFolder});
     BrowserPolicy::instance().setAllowedHosts({machine().sites().product, machine().sites().maker});
     PluginTypes& types = PluginTypes::instance();
     for (const char* video : {"webm", "mp4", "m4v", "ogv", "avi", "mov", "mpg", "mpeg"}) {
@@ -80,6 +80,7 @@ void CKalyxoView::CheckComponentVersions() {
 
 void CKalyxoView::openCache() {
     m_cache.Open(cacheLocation());
+    BrowserPolicy::instance().setAllowedFolders({TheApp().m_strDataFolder, m_cache.Folder()});
     m_preparer.emplace(machine().files(), TheApp().m_strDataFolder, m_cache.Folder());
 }
 

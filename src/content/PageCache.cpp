@@ -10,6 +10,10 @@ namespace kalyxo {
 namespace {
 
 constexpr int kPagesKept = 20;
+/// So many programs on one machine have a cache folder of their own.
+constexpr int kMostPrograms = 99;
+
+std::string withoutLastBackslash(const std::string& folder) { return folder.substr(0, folder.size() - 1); }
 
 }  // namespace
 
@@ -22,7 +26,18 @@ CacheLocation LocateCache(std::string_view programFolder, std::string_view tempF
 
 void PageCache::Open(CacheLocation location) {
     m_location = std::move(location);
-    m_files.createFolder(m_location.folder.substr(0, m_location.folder.size() - 1));
+    const CacheLocation first = m_location;
+    for (int program = 2; !take(m_location) && program <= kMostPrograms; ++program) {
+        m_location = {withoutLastBackslash(first.folder) + std::to_string(program) + '\\', true};
+    }
+    if (!m_lock) m_location = first;
+}
+
+bool PageCache::take(const CacheLocation& location) {
+    const std::string folder = withoutLastBackslash(location.folder);
+    m_files.createFolder(folder);
+    if (const auto native = m_files.nativePath(folder)) m_lock = platform::FolderLock::tryNow(*native);
+    return m_lock.has_value();
 }
 
 std::string PageCache::NextTarget() { return numbered(m_nNext++); }
@@ -43,8 +58,9 @@ void PageCache::CleanCache(bool final) {
     m_files.deleteFile(m_location.folder + "bigvid.htm");
     m_files.deleteFile(m_location.folder + "chime.mol");
     if (m_location.removeAtEnd) {
-        m_files.removeFolder(m_location.folder.substr(0, m_location.folder.size() - 1));
+        m_files.removeFolder(withoutLastBackslash(m_location.folder));
     }
+    m_lock.reset();
 }
 
 std::string PageCache::numbered(int number) const {

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
+
+#include "platform/files/FolderLock.h"
 
 namespace platform {
 class FileSystem;
@@ -25,7 +28,8 @@ class PageCache {
   public:
     explicit PageCache(const platform::FileSystem& files) : m_files(files) {}
 
-    /// Fixes the place and creates the folder; a failure shows with the first page.
+    /// Fixes the place and creates the folder; a failure shows with the first page. While another program has
+    /// the folder, a number is added to its name, and that folder is removed at the end.
     void Open(CacheLocation location);
 
     const std::string& Folder() const { return m_location.folder; }
@@ -41,12 +45,14 @@ class PageCache {
     int OldestNumber() const { return m_nOldest; }
 
   private:
+    bool take(const CacheLocation& location);
     std::string numbered(int number) const;
     std::string redirectPath() const;
     void deletePagesBelow(int limit);
 
     const platform::FileSystem& m_files;
     CacheLocation m_location;
+    std::optional<platform::FolderLock> m_lock;
     int m_nNext = 1;
     int m_nOldest = 1;
 };

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <cstdint>
+#include <filesystem>
 #include <string>
 
 #include "tests/platform_pure/TestFolder.h"
@@ -56,6 +58,63 @@ TEST(Machine, TheRegistryIsKept) {
     }
     auto again = Machine::open(folder.path());
     EXPECT_EQ((*again.value)->registry().openKey(HKEY_LOCAL_MACHINE, "Key")->queryDword("n"), 9U);
+}
+
+TEST(Machine, ProgramsOnOneFolderKeepEachOthersChanges) {
+    const TestFolder folder;
+    const auto open = [&] { return std::move(*Machine::open(folder.path()).value); };
+    const auto set = [](Machine& on, const char* key, const char* name, std::uint32_t number) {
+        on.registry().createKey(HKEY_LOCAL_MACHINE, key)->setDword(name, number);
+    };
+    const auto before = open();
+    set(*before, "Layout", "left", 1);
+    set(*before, "Layout", "right", 1);
+    ASSERT_TRUE(before->flushRegistry());
+
+    const auto first = open();
+    const auto second = open();
+    const auto third = open();
+    set(*first, "Layout", "left", 2);
+    set(*first, "Layout", "right", 2);
+    set(*first, "Layout\\Below", "new", 2);
+    ASSERT_TRUE(first->flushRegistry());
+    set(*second, "Other", "n", 3);
+    ASSERT_TRUE(second->flushRegistry());
+    const auto number = [&](const char* key, const char* name) {
+        const auto opened = open();
+        const auto found = opened->registry().openKey(HKEY_LOCAL_MACHINE, key);
+        return found ? found->queryDword(name) : std::nullopt;
+    };
+    EXPECT_EQ(number("Layout", "left"), 2U);
+    EXPECT_EQ(number("Layout\\Below", "new"), 2U);
+    EXPECT_EQ(number("Other", "n"), 3U);
+
+    // Values of a key belong together, like the sides of a rectangle.
+    set(*third, "Layout", "left", 9);
+    ASSERT_TRUE(third->flushRegistry());
+    EXPECT_EQ(number("Layout", "left"), 9U);
+    EXPECT_EQ(number("Layout", "right"), 1U);
+    EXPECT_EQ(number("Other", "n"), 3U);
+
+    // What was written once is not a change any more.
+    set(*first, "Late", "n", 4);
+    ASSERT_TRUE(first->flushRegistry());
+    EXPECT_EQ(number("Layout", "left"), 9U);
+    EXPECT_EQ(number("Late", "n"), 4U);
+}
+
+TEST(Machine, ARegistryFileThatIsGoneOrDamagedIsWrittenAnew) {
+    const TestFolder folder;
+    const auto computer = std::move(*Machine::open(folder.path()).value);
+    computer->registry().createKey(HKEY_LOCAL_MACHINE, "Key")->setDword("n", 1);
+    ASSERT_TRUE(computer->flushRegistry());
+    const std::string whole = folder.read("registry.reg");
+    std::filesystem::remove(folder / "registry.reg");
+    ASSERT_TRUE(computer->flushRegistry());
+    EXPECT_EQ(folder.read("registry.reg"), whole);
+    folder.write("registry.reg", "damaged");
+    ASSERT_TRUE(computer->flushRegistry());
+    EXPECT_EQ(folder.read("registry.reg"), whole);
 }
 
 TEST(Machine, LibrariesAreSearchedInTheProgramFolderFirst) {
