@@ -25,9 +25,9 @@ void tellNoMachine(const std::string& problem) {
 int main(int argc, char** argv) {
     platform::SetResources(kalyxo::ProgramResources());
     const platform::Desktop desktop(argc, argv);
-    const auto opened = kalyxo::OpenOwnMachine(kalyxo::OwnMachineFolder(),
-                                               kalyxo::FindInstalledFiles(kalyxo::RunningProgramsFolder()),
-                                               {desktop.screen(), desktop.metrics(), desktop.printer()});
+    const auto opened = kalyxo::OpenOwnMachine(
+        kalyxo::OwnMachineFolder(), kalyxo::FindInstalledFiles(kalyxo::RunningProgramsFolder()),
+        {desktop.screen(), desktop.metrics(), desktop.printer()}, kalyxo::PresentMedia());
     if (!opened) {
         tellNoMachine(opened.error);
         return kNoMachine;

@@ -6,9 +6,11 @@
 #include <iterator>
 #include <system_error>
 
+#include "platform/files/FolderLock.h"
 #include "platform/files/ReplaceFile.h"
 #include "platform/machine/NewMachine.h"
 #include "platform/registry/RegFile.h"
+#include "src/app/DriveLetters.h"
 #include "src/app/MachineSetup.h"
 
 namespace kalyxo {
@@ -47,6 +49,21 @@ std::optional<std::string> finish(const fs::path& folder, const InstalledFiles& 
     options.config = config;
     options.config.drives[kHostLetter] = {platform::DriveType::fixed, "/"};
     return platform::makeMachine(folder, options);
+}
+
+/// One program makes the machine; another that starts meanwhile waits, and finds it made.
+std::optional<std::string> makeUnlessFinished(const fs::path& folder, const InstalledFiles& installed) {
+    std::error_code ignored;
+    fs::create_directories(folder, ignored);
+    const auto lock = platform::FolderLock::wait(folder);
+    if (isFinished(folder)) return std::nullopt;
+    MachineConfig known;
+    if (isThere(configFile(folder))) {
+        Loaded<MachineConfig> config = platform::loadMachineConfig(configFile(folder));
+        if (!config) return std::move(config.error);
+        known = std::move(*config.value);
+    }
+    return finish(folder, installed, known);
 }
 
 bool sameContent(const fs::path& a, const fs::path& b) {
@@ -92,23 +109,20 @@ fs::path OwnMachineFolder() {
 }
 
 OpenResult OpenOwnMachine(const fs::path& folder, const InstalledFiles& installed,
-                          const PresentScreen& present) {
-    MachineConfig known;
-    if (isThere(configFile(folder))) {
-        Loaded<MachineConfig> config = platform::loadMachineConfig(configFile(folder));
-        if (!config) return OpenResult::failure(std::move(config.error));
-        known = std::move(*config.value);
-    }
-    if (!isFinished(folder)) {
-        std::optional<std::string> problem = finish(folder, installed, known);
-        if (problem) return OpenResult::failure(std::move(*problem));
-    }
+                          const PresentScreen& present, const std::vector<MountedMedium>& media) {
+    if (auto problem = makeUnlessFinished(folder, installed)) return OpenResult::failure(std::move(*problem));
     Loaded<MachineConfig> config = platform::loadMachineConfig(configFile(folder));
     if (!config) return OpenResult::failure(std::move(config.error));
     Loaded<platform::Registry> registry = platform::loadRegFile(registryFile(folder));
     if (!registry) return OpenResult::failure(std::move(registry.error));
     followPresent(*config.value, installed, present);
+    const LetterMemory remembered = RememberedLetters(*registry.value);
+    const LetterMemory letters = AddMediaDrives(*config.value, remembered, media);
     auto machine = std::make_unique<Machine>(folder, std::move(*config.value), std::move(*registry.value));
+    if (letters != remembered) {
+        RememberLetters(machine->registry(), letters);
+        machine->flushRegistry();
+    }
     updateModules(*machine, installed.modules);
     return OpenResult::success(std::move(machine));
 }

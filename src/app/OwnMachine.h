@@ -4,10 +4,12 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/files/Loaded.h"
 #include "platform/machine/Machine.h"
 #include "src/app/InstalledFiles.h"
+#include "src/app/MountedMedia.h"
 
 namespace kalyxo {
 
@@ -24,11 +26,13 @@ std::filesystem::path OwnMachineFolder();
 
 /// Opens the user's machine. At the first start it is made from what is installed, with the host's whole file
 /// system as drive Z:. At every start the screen's measures are those of the present screen, component
-/// modules that differ from the installed ones are replaced, and a compact disc whose folder is gone is the
-/// installed content. The error names the file that is damaged, which is left as it is, or what could not be
-/// made.
+/// modules that differ from the installed ones are replaced, a compact disc whose folder is gone is the
+/// installed content, and the media are drives (see `AddMediaDrives`). Several programs may do so at once:
+/// one makes the machine, the others wait for it. The error names the file that is damaged, which is left as
+/// it is, or what could not be made.
 platform::Loaded<std::unique_ptr<platform::Machine>> OpenOwnMachine(const std::filesystem::path& folder,
                                                                     const InstalledFiles& installed,
-                                                                    const PresentScreen& present);
+                                                                    const PresentScreen& present,
+                                                                    const std::vector<MountedMedium>& media);
 
 }  // namespace kalyxo

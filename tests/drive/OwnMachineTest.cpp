@@ -2,7 +2,9 @@
 #include <unistd.h>
 
 #include <fstream>
+#include <future>
 #include <iterator>
+#include <vector>
 
 #include "platform/framework/Resources.h"
 #include "src/app/OwnMachine.h"
@@ -36,9 +38,10 @@ class OwnMachine : public testing::Test {
         std::ifstream in(m_root / name, std::ios::binary);
         return {std::istreambuf_iterator<char>(in), {}};
     }
-    platform::Loaded<std::unique_ptr<platform::Machine>> open() const {
+    platform::Loaded<std::unique_ptr<platform::Machine>> open(
+        const std::vector<MountedMedium>& media = {}) const {
         const PresentScreen present{{1280, 800, 24}, {{"SM_CXMAXIMIZED", 1288}}};
-        return OpenOwnMachine(m_root / "own", FindInstalledFiles(m_root / "bin"), present);
+        return OpenOwnMachine(m_root / "own", FindInstalledFiles(m_root / "bin"), present, media);
     }
 
     fs::path m_root;
@@ -100,6 +103,40 @@ TEST_F(OwnMachine, DamagedFilesAreNamedAndLeft) {
         EXPECT_EQ(read(name), "neither JSON nor registry");
         fs::remove_all(m_root / "own");
     }
+}
+
+TEST_F(OwnMachine, MediaAreDrivesAndKeepTheirLetters) {
+    write("stick/a.htm", "<HTML>");
+    const MountedMedium stick{m_root / "stick", platform::DriveType::removable};
+    const MountedMedium net{m_root / "earlier in the alphabet", platform::DriveType::remote};
+    ASSERT_TRUE(open({stick}));
+    const auto opened = open({net, stick});
+    ASSERT_TRUE(opened) << opened.error;
+    const platform::FileSystem& files = (*opened.value)->files();
+    EXPECT_EQ(files.driveType('E'), platform::DriveType::removable);
+    EXPECT_TRUE(files.exists("E:\\a.htm"));
+    EXPECT_EQ(files.driveType('F'), platform::DriveType::remote);
+    EXPECT_EQ(files.driveType('G'), platform::DriveType::noRoot);
+    EXPECT_EQ((*open().value)->files().driveType('E'), platform::DriveType::noRoot);
+}
+
+TEST_F(OwnMachine, ProgramsThatStartAtOnceMakeItOnce) {
+    std::vector<std::future<bool>> starts;
+    for (int i = 0; i < 8; ++i) {
+        starts.push_back(std::async(std::launch::async, [this] {
+            const auto opened = open();
+            if (!opened) return false;
+            auto key = (*opened.value)->registry().createKey(platform::HKEY_LOCAL_MACHINE, SettingsKeyPath());
+            return key && key->queryString("Directory", 256) == "C:\\Kalyxo" && key->setDword("Left", 7) &&
+                   (*opened.value)->flushRegistry();
+        }));
+    }
+    for (auto& start : starts) EXPECT_TRUE(start.get());
+    // Had one made it after another had closed, the layout would be gone.
+    const auto opened = open();
+    ASSERT_TRUE(opened) << opened.error;
+    const auto key = (*opened.value)->registry().openKey(platform::HKEY_LOCAL_MACHINE, SettingsKeyPath());
+    EXPECT_EQ(key->queryDword("Left"), 7U);
 }
 
 TEST_F(OwnMachine, NothingInstalledIsAnError) {
