@@ -1,0 +1,26 @@
+# A root of Debian 12 with nothing in it but apt, for trying things out. Sourced by bash, as root; the packages come
+# from where the machine's own apt gets them.
+
+# make_root DIR
+make_root() {
+    apt-get update -q
+    apt-get install -q -y --no-install-recommends mmdebstrap
+    apt-get indextargets --format 'deb $(REPO_URI) $(RELEASE) $(COMPONENT)' 'Created-By: Packages' 'Origin: Debian' |
+        sort -u >"$1.sources"
+    local proxies=()
+    mapfile -t proxies < <(apt-config dump | grep -i '^Acquire::.*proxy.* ".\+";$' | sed 's/^/--aptopt=/')
+    mmdebstrap --mode=root --variant=apt --skip=cleanup/apt/lists "${proxies[@]}" bookworm "$1" "$1.sources"
+    cp /etc/resolv.conf "$1/etc/resolv.conf"
+}
+
+# in_root DIR COMMAND…: runs a command in it, with /proc and /dev, which go with the command.
+in_root() {
+    unshare --mount --pid --fork bash -euc '
+        mount -t proc proc "$1/proc"
+        mount --rbind /dev "$1/dev"
+        mount -t tmpfs tmpfs "$1/dev/shm"
+        root=$1
+        shift
+        exec env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LANG=C.UTF-8 DEBIAN_FRONTEND=noninteractive \
+            QT_QPA_PLATFORM=offscreen chroot "$root" "$@"' in_root "$@"
+}
