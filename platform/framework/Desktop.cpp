@@ -5,6 +5,7 @@
 #include <QStandardPaths>
 
 #include "platform/automation/BrowserProcess.h"
+#include "platform/framework/LightPalette.h"
 
 namespace platform {
 
@@ -28,6 +29,7 @@ std::unique_ptr<QApplication> makeApplication(int& argc, char** argv) {
 Desktop::Desktop(int& argc, char** argv) : application_(makeApplication(argc, argv)) {
     // The name under which the desktop knows the program's windows.
     QGuiApplication::setDesktopFileName(QStringLiteral("kalyxo"));
+    wearLightPalette();
 }
 
 Desktop::~Desktop() = default;

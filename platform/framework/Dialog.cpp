@@ -46,6 +46,7 @@ int CDialog::DoModal() {
     const DialogTemplate* const drawnUp = findTemplate(m_nTemplate);
     if (!drawnUp || GetSafeHwnd() != 0) return noDialog;
     m_nResult = IDCANCEL;
+    m_bModeless = false;
     const QPointer<QWidget> owner = ownerWindow();
     auto* const widget = new DialogWidget(*this, *drawnUp, owner);
     if (OnInitDialog()) widget->focusFirstControl();
@@ -55,11 +56,27 @@ int CDialog::DoModal() {
     return m_nResult;
 }
 
+bool CDialog::Create(CWnd* owner) {
+    const DialogTemplate* const drawnUp = findTemplate(m_nTemplate);
+    if (!drawnUp || GetSafeHwnd() != 0) return false;
+    m_bModeless = true;
+    const WindowWidget* const around = owner ? WindowWidget::of(*owner) : nullptr;
+    auto* const widget = new DialogWidget(*this, *drawnUp, around ? around->window() : nullptr);
+    CREATESTRUCT cs;
+    if (widget->send(WM_CREATE, 0, reinterpret_cast<LPARAM>(&cs)) == -1) {
+        DestroyWindow();
+        return false;
+    }
+    if (OnInitDialog()) widget->focusFirstControl();
+    return true;
+}
+
 void CDialog::EndDialog(int result) {
     auto* const widget = dynamic_cast<DialogWidget*>(WindowWidget::of(*this));
     if (!widget) return;
     m_nResult = result;
     widget->finish();
+    if (m_bModeless) ShowWindow(SW_HIDE);
 }
 
 void CDialog::SetDlgItemText(int id, std::string_view text) {

@@ -22,8 +22,11 @@ class CDialog : public CWnd {
     /// ended: what EndDialog was given, or IDCANCEL when its window went without that, or −1 when there is no
     /// such template or the dialog is open already.
     int DoModal();
-    /// Ends DoModal.
+    /// Ends DoModal; hides a modeless dialog.
     void EndDialog(int result);
+    /// Makes the dialog modeless and hidden; it belongs to the top-level window of `owner`, or to none. False
+    /// when there is no such template, the dialog is open already, or its handler of WM_CREATE refused.
+    bool Create(CWnd* owner = nullptr);
 
     UINT GetTemplateId() const { return m_nTemplate; }
 
@@ -60,6 +63,7 @@ class CDialog : public CWnd {
 
     UINT m_nTemplate;
     int m_nResult = IDCANCEL;
+    bool m_bModeless = false;
 };
 
 }  // namespace platform

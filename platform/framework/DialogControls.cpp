@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include "platform/handles/WindowTable.h"
+#include "platform/windows/Artwork.h"
 #include "platform/windows/ControlFactory.h"
 #include "platform/windows/ControlLink.h"
 #include "platform/windows/QtConvert.h"
@@ -57,7 +58,7 @@ QWidget& makeLabel(const DialogControl& control, QWidget& dialog) {
     // A click on it is one on the dialog.
     label->setAttribute(Qt::WA_TransparentForMouseEvents);
     if (control.kind == DialogControlKind::bitmap) {
-        label->setPixmap(QPixmap(QStringLiteral(":/bitmap/%1.png").arg(control.bitmap), "PNG"));
+        label->setPixmap(QPixmap::fromImage(artworkImage(QStringLiteral(":/bitmap/%1").arg(control.bitmap))));
     } else {
         label->setTextFormat(Qt::PlainText);
         label->setText(toQt(control.text));

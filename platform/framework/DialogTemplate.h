@@ -39,12 +39,20 @@ struct DialogControl {
     DWORD style = WS_VISIBLE | WS_TABSTOP;
 };
 
+/// What stands around a dialog's client area.
+enum class DialogFrame {
+    window,  ///< the window system's frame with its caption
+    tool,    ///< a thin frame and a small caption with a close box, as of a box of tools
+    plain,   ///< two pixels and no caption
+};
+
 /// A dialog as it is drawn up: its controls in the order of the tabulator.
 struct DialogTemplate {
     UINT id = 0;
     std::string_view caption;  ///< code page 1253
     CSize size;                ///< client area, dialog units
     std::span<const DialogControl> controls;
+    DialogFrame frame = DialogFrame::window;
 };
 
 /// Pixels of one dialog unit times 4 across and times 8 down: the letters of "MS Sans Serif" of 8 points.

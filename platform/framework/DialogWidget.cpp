@@ -32,40 +32,63 @@ QMargins frameByMetrics() {
     return {side, edge + machine().metric(SM_CYCAPTION), side, edge};
 }
 
+Qt::WindowFlags windowFlagsOf(DialogFrame frame) {
+    switch (frame) {
+        case DialogFrame::tool:
+            return Qt::Tool | Qt::FramelessWindowHint;
+        case DialogFrame::plain:
+            return Qt::SplashScreen | Qt::FramelessWindowHint;
+        case DialogFrame::window:
+            break;
+    }
+    return Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
+}
+
 }  // namespace
 
 DialogWidget::DialogWidget(CDialog& owner, const DialogTemplate& drawnUp, QWidget* parent)
-    : SurfaceWidget(owner, parent, 0) {
-    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
+    : SurfaceWidget(owner, parent, 0), frame_(*this, drawnUp.frame) {
+    setWindowFlags(windowFlagsOf(drawnUp.frame));
+    // Who opens a box of tools goes on where he is.
+    setAttribute(Qt::WA_ShowWithoutActivating, drawnUp.frame != DialogFrame::window);
     setWindowTitle(toQt(drawnUp.caption));
     setPalette(lightPalette());
     setFont(dialogFont());
     createControls(drawnUp.controls, *this);
     const CSize client = dialogPixels(drawnUp.size);
-    setFixedSize(client.cx, client.cy);
-    // Makes the native window, which knows its frame.
-    winId();
+    setFixedSize(QSize(client.cx, client.cy).grownBy(frame_.margins()));
     centre();
 }
 
 DialogWidget::~DialogWidget() { finish(); }
 
+QMargins DialogWidget::windowFrame() const {
+    return frame_.margins().isNull() ? frameByMetrics() : QMargins();
+}
+
 void DialogWidget::centre() {
     const QRect around = parentWidget() ? parentWidget()->frameGeometry() : screen()->availableGeometry();
-    QRect outer = rect().marginsAdded(frameByMetrics());
+    QRect outer = rect().marginsAdded(windowFrame());
     outer.moveCenter(around.center());
     place(outer);
 }
 
 QRect DialogWidget::outerRect() const {
-    return {frameGeometry().topLeft(), rect().marginsAdded(frameByMetrics()).size()};
+    return {frameGeometry().topLeft(), rect().marginsAdded(windowFrame()).size()};
 }
 
 void DialogWidget::place(const QRect& rect) {
-    const QRect client = rect.marginsRemoved(frameByMetrics());
+    const QRect client = rect.marginsRemoved(windowFrame());
     setFixedSize(client.size());
     move(rect.topLeft());
     sizeChanged();
+}
+
+void DialogWidget::showAs(int showCommand) {
+    const bool leaves = showCommand == SW_HIDE && isActiveWindow() && parentWidget();
+    SurfaceWidget::showAs(showCommand);
+    // The window behind goes on, not just any of the desktop's.
+    if (leaves) parentWidget()->activateWindow();
 }
 
 void DialogWidget::focusFirstControl() {
@@ -95,6 +118,13 @@ void DialogWidget::finish() {
 void DialogWidget::end() {
     finish();
     SurfaceWidget::end();
+}
+
+bool DialogWidget::event(QEvent* event) { return frame_.takes(*event) || SurfaceWidget::event(event); }
+
+void DialogWidget::paintEvent(QPaintEvent* event) {
+    SurfaceWidget::paintEvent(event);
+    frame_.paint();
 }
 
 void DialogWidget::closeEvent(QCloseEvent* event) {

@@ -19,6 +19,7 @@ using Json = nlohmann::ordered_json;
 
 constexpr std::size_t largestFile = 1 << 20;
 constexpr int largestExtent = 32767;
+constexpr int largestPixelRatio = 4;
 
 constexpr std::array<std::pair<std::string_view, DriveType>, 6> driveTypeNames = {{
     {"unknown", DriveType::unknown},
@@ -86,6 +87,7 @@ void readScreen(FieldReader& reader, const Json& root, ScreenConfig& screen) {
     reader.readInteger(*object, "width", "screen", 1, largestExtent, screen.width);
     reader.readInteger(*object, "height", "screen", 1, largestExtent, screen.height);
     reader.readInteger(*object, "bitsPerPixel", "screen", 1, 32, screen.bitsPerPixel);
+    reader.readInteger(*object, "pixelRatio", "screen", 1, largestPixelRatio, screen.pixelRatio);
 }
 
 void readMetrics(FieldReader& reader, const Json& root, MachineConfig& config) {
@@ -200,6 +202,7 @@ Json toJson(const MachineConfig& config) {
     const ScreenConfig& screen = config.screen;
     root["screen"] = {
         {"width", screen.width}, {"height", screen.height}, {"bitsPerPixel", screen.bitsPerPixel}};
+    if (screen.pixelRatio != 1) root["screen"]["pixelRatio"] = screen.pixelRatio;
     root["metrics"] = Json::object();
     for (const auto& [name, value] : config.metrics) root["metrics"][name] = value;
     root["drives"] = drivesToJson(config);

@@ -17,6 +17,7 @@ struct ScreenConfig {
     int width = 1024;
     int height = 768;
     int bitsPerPixel = 32;
+    int pixelRatio = 1;  ///< pixels, across and down, to one of those that width and height count
 
     bool operator==(const ScreenConfig&) const = default;
 };
@@ -30,8 +31,9 @@ struct DriveConfig {
 };
 
 /// A printer: its page in device pixels and its vertical resolution in pixels per inch. It prints PDF files,
-/// into the machine folder if no other is given. With `desktop` it does so only where the user's desktop has no
-/// printer; else its default printer is meant, whose page is its own. The latter two are not in machine.json.
+/// into the machine folder if no other is given. With `desktop` it does so only where the user's desktop has
+/// no printer; else its default printer is meant, whose page is its own. The latter two are not in
+/// machine.json.
 struct PrinterConfig {
     int horzres = 4800;
     int vertres = 6800;

@@ -1,12 +1,12 @@
 #include <QImage>
 
+#include "platform/windows/Artwork.h"
 #include "platform/windows/DC.h"
 
 namespace platform {
 
 bool CBitmap::LoadBitmap(UINT id) {
-    // The format is named, since asking for it loads every picture plug-in of the desktop.
-    const QImage image(QStringLiteral(":/bitmap/%1.png").arg(id), "PNG");
+    const QImage image = artworkImage(QStringLiteral(":/bitmap/%1").arg(id));
     if (image.isNull()) return false;
     image_ = std::make_shared<QImage>(image.convertToFormat(QImage::Format_RGB32));
     return true;
@@ -20,12 +20,13 @@ CBitmap CBitmap::ResizedTo(int width, int height) const {
             ? *image_
             : image_->scaled(width, height, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     resized.image_ = std::make_shared<QImage>(scaled);
+    resized.image_->setDevicePixelRatio(1);
     return resized;
 }
 
-int CBitmap::Width() const { return image_ ? image_->width() : 0; }
+int CBitmap::Width() const { return image_ ? image_->deviceIndependentSize().toSize().width() : 0; }
 
-int CBitmap::Height() const { return image_ ? image_->height() : 0; }
+int CBitmap::Height() const { return image_ ? image_->deviceIndependentSize().toSize().height() : 0; }
 
 CBrush CBrush::solid(COLORREF colour) {
     CBrush brush;

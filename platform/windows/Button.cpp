@@ -3,16 +3,32 @@
 #include <QAbstractButton>
 
 #include "platform/handles/WindowTable.h"
+#include "platform/windows/ControlFactory.h"
+#include "platform/windows/ControlLink.h"
+#include "platform/windows/WindowWidget.h"
 
 namespace platform {
 
 namespace {
+
+/// The bits of a button's style that tell its kind.
+constexpr DWORD kButtonKind = 0x000F;
 
 QAbstractButton* widgetOf(const CButton& button) {
     return qobject_cast<QAbstractButton*>(WindowTable::instance().widget(button.GetSafeHwnd()));
 }
 
 }  // namespace
+
+bool CButton::Create(std::string_view text, DWORD style, const CRect& rect, CWnd& parent, UINT id) {
+    WindowWidget* const around = WindowWidget::of(parent);
+    if (bound() || !around || (style & kButtonKind) != BS_OWNERDRAW) return false;
+    makeOwnerDrawButton(*around, static_cast<int>(id)).bind(*this);
+    SetWindowText(text);
+    MoveWindow(rect);
+    ShowWindow(style & WS_VISIBLE ? SW_SHOW : SW_HIDE);
+    return true;
+}
 
 bool CButton::GetCheck() const {
     const QAbstractButton* const button = widgetOf(*this);

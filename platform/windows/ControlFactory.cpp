@@ -7,6 +7,7 @@
 #include "platform/windows/LineEdit.h"
 #include "platform/windows/ListBoxView.h"
 #include "platform/windows/MultiLineEdit.h"
+#include "platform/windows/OwnerDrawButton.h"
 #include "platform/windows/ReportView.h"
 #include "platform/windows/TreeWidget.h"
 
@@ -35,6 +36,10 @@ ControlLink& makeComboBox(QWidget& parent, int id) {
     auto* const box = new QComboBox(&parent);
     QObject::connect(box, &QComboBox::activated, box, [box] { sendCommand(*box, CBN_SELCHANGE); });
     return ControlLink::enter(*box, "ComboBox", id);
+}
+
+ControlLink& makeOwnerDrawButton(QWidget& parent, int id) {
+    return ControlLink::enter(*new OwnerDrawButton(parent), "Button", id);
 }
 
 }  // namespace platform

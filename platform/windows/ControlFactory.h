@@ -16,5 +16,6 @@ ControlLink& makeListBox(DWORD style, QWidget& parent, int id);
 ControlLink& makeListView(DWORD style, QWidget& parent, int id);
 ControlLink& makeTreeView(QWidget& parent, int id);
 ControlLink& makeComboBox(QWidget& parent, int id);
+ControlLink& makeOwnerDrawButton(QWidget& parent, int id);
 
 }  // namespace platform

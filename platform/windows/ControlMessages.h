@@ -13,6 +13,7 @@ inline constexpr DWORD ES_LOWERCASE = 0x0010;
 inline constexpr DWORD ES_AUTOHSCROLL = 0x0080;     ///< without it typing stops at the visible width
 inline constexpr DWORD LBS_SORT = 0x0002;           ///< entries in alphabetical order
 inline constexpr DWORD LVS_SORTASCENDING = 0x0010;  ///< rows in ascending order of column 0 as they are added
+inline constexpr DWORD BS_OWNERDRAW = 0x000B;       ///< its object draws it
 inline constexpr DWORD BS_LEFTTEXT = 0x0020;        ///< a check box right of its text
 
 // Codes of a control's commands, which its window handles with OnControl.

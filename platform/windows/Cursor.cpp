@@ -5,6 +5,7 @@
 
 #include "platform/framework/Resources.h"
 #include "platform/handles/WindowTable.h"
+#include "platform/windows/Artwork.h"
 #include "platform/windows/ControlLink.h"
 #include "platform/windows/CursorShape.h"
 #include "platform/windows/MouseCapture.h"
@@ -19,7 +20,7 @@ namespace {
 HWND askedWindow = 0;
 
 QCursor loadCursor(UINT id) {
-    const QPixmap shape(QStringLiteral(":/cursor/%1.png").arg(id), "PNG");
+    const QPixmap shape = QPixmap::fromImage(artworkImage(QStringLiteral(":/cursor/%1").arg(id)));
     if (shape.isNull()) return Qt::ArrowCursor;
     for (const CursorResource& cursor : Resources().cursors) {
         if (cursor.id == id) return QCursor(shape, cursor.hotSpot.x, cursor.hotSpot.y);

@@ -25,6 +25,13 @@ void paint(CDC::Target* target, const QRect& area, Draw draw) {
     target->drawn(area);
 }
 
+/// Pixels that do not fall on those of the target are blended.
+void smoothIfScaled(QPainter& painter, const QImage& picture) {
+    const bool scaled =
+        picture.devicePixelRatio() > 1 && picture.devicePixelRatio() != painter.device()->devicePixelRatioF();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, scaled);
+}
+
 /// Rows of `width` pixels of 3 bytes, each rounded up to a multiple of 4 bytes.
 std::int64_t dibStride(std::int64_t width) { return (width * 3 + 3) / 4 * 4; }
 
@@ -80,6 +87,7 @@ void CDC::StretchBlt(int x, int y, int width, int height, const CDC& source, int
     // A copy shares the pixels until the painter detaches its own, so that a picture can be drawn on itself.
     const QImage image = *from;
     paint(target_.get(), area, [&](QPainter& painter) {
+        smoothIfScaled(painter, image);
         const Stretch stretch = clip(QRectF(sourceX, sourceY, sourceWidth, sourceHeight), area, image);
         if (!stretch.source.isEmpty()) painter.drawImage(stretch.target, image, stretch.source);
     });
@@ -98,13 +106,18 @@ void CDC::FillRect(const CRect& rect, const CBrush& brush) {
     });
 }
 
-void CDC::SetDIBitsToDevice(int x, int y, const BITMAPINFOHEADER& header, const std::uint8_t* pixels) {
+void CDC::SetDIBitsToDevice(int x, int y, const BITMAPINFOHEADER& header, const std::uint8_t* pixels,
+                            int scale) {
     if (!pixels || !isDrawable(header)) return;
     const QImage bottomUp(pixels, header.biWidth, header.biHeight,
                           static_cast<qsizetype>(dibStride(header.biWidth)), QImage::Format_BGR888);
-    const QRect area(x, y, header.biWidth, header.biHeight);
-    paint(target_.get(), area,
-          [&](QPainter& painter) { painter.drawImage(area.topLeft(), bottomUp.mirrored()); });
+    QImage picture = bottomUp.mirrored();
+    picture.setDevicePixelRatio(scale);
+    const QRect area(QPoint(x, y), picture.deviceIndependentSize().toSize());
+    paint(target_.get(), area, [&](QPainter& painter) {
+        smoothIfScaled(painter, picture);
+        painter.drawImage(area.topLeft(), picture);
+    });
 }
 
 CClientDC::CClientDC(CWnd& window) : CDC(std::make_unique<WindowTarget>(SurfaceWidget::of(window))) {}

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <span>
 
 #include "platform/windows/Geometry.h"
 #include "platform/windows/Messages.h"
@@ -11,12 +13,30 @@ class QImage;
 namespace platform {
 
 class CWnd;
+struct BITMAPINFOHEADER;
+
+/// A colour of a palette.
+struct PALETTEENTRY {
+    std::uint8_t peRed = 0;
+    std::uint8_t peGreen = 0;
+    std::uint8_t peBlue = 0;
+    std::uint8_t peFlags = 0;
+    friend bool operator==(const PALETTEENTRY&, const PALETTEENTRY&) = default;
+};
+
+/// How many pixels, across and down, a drawn picture may have for each of the coordinates it takes: 2 on
+/// screens that show them, else 1.
+int PictureScale();
 
 /// A bitmap resource of the program, or a bitmap to draw on.
 class CBitmap {
   public:
     /// Loads bitmap resource `id`; false when there is none.
     bool LoadBitmap(UINT id);
+    /// Makes it of a whole bottom-up picture of 24 bits, or of 8 with its `colours`; `scale` of its pixels
+    /// lie on each coordinate, across and down. False, and nothing is made, for any other.
+    bool CreateDIBitmap(const BITMAPINFOHEADER& header, std::span<const PALETTEENTRY> colours,
+                        std::span<const std::byte> pixels, int scale = 1);
     /// Takes the picture that a page's plug-in gives of itself: a molecule's whole window, a video's without
     /// the control strip. False when the window is no plug-in's, or it has no picture to give.
     bool LoadPlugin(HWND window);
@@ -25,6 +45,7 @@ class CBitmap {
     /// The pixels of a loaded bitmap, for the inside of the platform.
     const QImage& image() const { return *image_; }
     bool loaded() const { return image_ != nullptr; }
+    /// Size in coordinates.
     int Width() const;
     int Height() const;
 
@@ -84,8 +105,10 @@ class CDC {
     void FillSolidRect(const CRect& rect, COLORREF colour);
     void FillRect(const CRect& rect, const CBrush& brush);
     /// Draws a whole 24-bit bottom-up picture with its top-left corner at (x, y). `pixels` holds
-    /// height rows of width × 3 bytes rounded up to a multiple of 4.
-    void SetDIBitsToDevice(int x, int y, const BITMAPINFOHEADER& header, const std::uint8_t* pixels);
+    /// height rows of width × 3 bytes rounded up to a multiple of 4; `scale` of them, across and down, go
+    /// on each coordinate.
+    void SetDIBitsToDevice(int x, int y, const BITMAPINFOHEADER& header, const std::uint8_t* pixels,
+                           int scale = 1);
 
   protected:
     explicit CDC(std::unique_ptr<Target> target);

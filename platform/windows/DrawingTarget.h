@@ -34,7 +34,9 @@ class WindowTarget : public CDC::Target {
   public:
     explicit WindowTarget(SurfaceWidget* widget) : widget_(widget) {}
     QImage* image() override { return widget_ ? &widget_->picture() : nullptr; }
-    void drawn(const QRect& area) override { widget_->update(area); }
+    void drawn(const QRect& area) override {
+        widget_->update(area.translated(widget_->clientArea().topLeft()));
+    }
 
   private:
     QPointer<SurfaceWidget> widget_;

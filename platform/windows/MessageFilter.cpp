@@ -12,6 +12,7 @@
 #include "platform/handles/WindowTable.h"
 #include "platform/windows/InputMessages.h"
 #include "platform/windows/InputRoute.h"
+#include "platform/windows/KeyboardFocus.h"
 #include "platform/windows/MouseCapture.h"
 #include "platform/windows/PaintQueue.h"
 #include "platform/windows/VirtualKeys.h"
@@ -138,6 +139,7 @@ class MessageFilter : public QObject {
     }
 
     static void focusMoved(const QWidget* from, const QWidget* to) {
+        focusHasMoved();
         const WindowTable& table = WindowTable::instance();
         const HWND left = table.nearestHandle(from);
         const HWND entered = table.nearestHandle(to);

@@ -60,7 +60,7 @@ void SurfaceWidget::focusClicked() {
 void SurfaceWidget::paintEvent(QPaintEvent*) {
     // The ratio changes when the window comes to another screen.
     if (!picture().isNull() && picture().devicePixelRatio() != devicePixelRatioF()) fitContent();
-    QPainter(this).drawImage(0, 0, picture());
+    QPainter(this).drawImage(clientArea().topLeft(), picture());
 }
 
 void SurfaceWidget::showEvent(QShowEvent* event) {

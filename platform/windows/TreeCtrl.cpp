@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/handles/WindowTable.h"
+#include "platform/windows/Artwork.h"
 #include "platform/windows/Collation.h"
 #include "platform/windows/QtConvert.h"
 #include "platform/windows/TreeWidget.h"
@@ -95,7 +96,8 @@ void CTreeCtrl::SetItemImage(HTREEITEM item, TreeImage image) {
 }
 
 void CTreeCtrl::SetItemBitmap(HTREEITEM item, UINT bitmap) {
-    if (item) toQt(item)->setIcon(0, QIcon(QStringLiteral(":/bitmap/%1.png").arg(bitmap)));
+    if (item)
+        toQt(item)->setIcon(0, QPixmap::fromImage(artworkImage(QStringLiteral(":/bitmap/%1").arg(bitmap))));
 }
 
 HTREEITEM CTreeCtrl::GetRootItem() const {

@@ -7,6 +7,7 @@
 #include "platform/handles/WindowTable.h"
 #include "platform/windows/ControlLink.h"
 #include "platform/windows/ControlText.h"
+#include "platform/windows/KeyboardFocus.h"
 #include "platform/windows/MouseCapture.h"
 #include "platform/windows/QtConvert.h"
 #include "platform/windows/SurfaceWidget.h"
@@ -60,10 +61,7 @@ CWnd* CWnd::FromHandle(HWND window) {
     return link ? link->object() : nullptr;
 }
 
-CWnd* CWnd::GetParent() const {
-    const QWidget* const widget = widgetOf(*this);
-    return widget ? FromHandle(WindowTable::instance().nearestHandle(widget->parentWidget())) : nullptr;
-}
+CWnd* CWnd::GetParent() const { return FromHandle(GetParentWindow(m_hWnd)); }
 
 CFrameWnd* CWnd::GetParentFrame() const {
     for (CWnd* window = GetParent(); window; window = window->GetParent()) {
@@ -171,10 +169,11 @@ void CWnd::SetCapture() { captureMouse(m_hWnd); }
 void CWnd::ReleaseCapture() { releaseMouse(); }
 
 void CWnd::SetFocus() {
-    QWidget* const widget = widgetOf(*this);
-    if (!widget) return;
-    if (widget->isVisible() && !widget->isActiveWindow()) widget->activateWindow();
-    widget->setFocus(Qt::OtherFocusReason);
+    if (QWidget* const widget = widgetOf(*this)) giveFocus(*widget);
+}
+
+void CWnd::BringWindowToTop() {
+    if (QWidget* const widget = widgetOf(*this)) widget->raise();
 }
 
 LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -206,7 +205,10 @@ CWnd* WindowFromPoint(CPoint screen) {
     return CWnd::FromHandle(WindowTable::instance().nearestHandle(widget));
 }
 
-HWND GetFocus() { return WindowTable::instance().nearestHandle(QApplication::focusWidget()); }
+HWND GetParentWindow(HWND window) {
+    const QWidget* const widget = WindowTable::instance().widget(window);
+    return widget ? WindowTable::instance().nearestHandle(widget->parentWidget()) : 0;
+}
 
 LRESULT SendMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     return WindowTable::instance().send(window, message, wParam, lParam);

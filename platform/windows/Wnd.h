@@ -83,6 +83,8 @@ class CWnd : public CCmdTarget {
     void SetCapture();
     static void ReleaseCapture();
     void SetFocus();
+    /// Puts it before the other windows, without a focus.
+    void BringWindowToTop();
 
     /// Delivers a message: the maps first, then the default treatment.
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
@@ -127,6 +129,10 @@ CPoint GetCursorPos();
 CWnd* WindowFromPoint(CPoint screen);
 /// The window with the keyboard focus, 0 when none.
 HWND GetFocus();
+/// The window around a window, or that a top-level one belongs to; 0 when none.
+HWND GetParentWindow(HWND window);
+/// Gives any window of the window table the keyboard focus.
+void SetFocus(HWND window);
 /// Sends a message to any window of the window table.
 LRESULT SendMessage(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 

@@ -1,5 +1,8 @@
 #include <QImage>
+#include <QWidget>
+#include <array>
 #include <limits>
+#include <tuple>
 
 #include "platform/windows/DC.h"
 #include "tests/platform_windows/TestProgram.h"
@@ -108,6 +111,74 @@ TEST_F(DrawingTest, DrawsNoPictureOfAnImpossibleSize) {
     }
     dc().SetDIBitsToDevice(0, 0, {.biWidth = 1, .biHeight = 1}, nullptr);
     EXPECT_EQ(shownColour(*window_, 0, 0), "ffffff");
+}
+
+/// A bitmap of 8 bits, 2 by 2 pixels, whose rows are padded to 4 bytes.
+TEST_F(DrawingTest, MakesBitmapsOfDeviceIndependentOnes) {
+    constexpr auto bytes = [](auto... values) {
+        return std::vector<std::byte>{static_cast<std::byte>(values)...};
+    };
+    const std::array<PALETTEENTRY, 2> colours = {{{255, 0, 0, 0}, {0, 255, 0, 0}}};
+    BITMAPINFOHEADER header;
+    header.biWidth = header.biHeight = 2;
+    header.biBitCount = 8;
+    CBitmap bitmap;
+    ASSERT_TRUE(bitmap.CreateDIBitmap(header, colours, bytes(1, 1, 9, 9, 0, 2, 9, 9)));
+    CDC memory = CDC::CreateCompatibleDC(dc());
+    memory.SelectObject(bitmap);
+    dc().BitBlt(0, 0, 2, 2, memory, 0, 0);
+    EXPECT_EQ(row(0, 0, 2), "ff0000 000000 ") << "a colour that is not in the table is black";
+    EXPECT_EQ(row(1, 0, 2), "00ff00 00ff00 ");
+
+    EXPECT_FALSE(bitmap.CreateDIBitmap(header, colours, bytes(1, 1, 9, 9, 0, 2, 9)));
+    for (const auto& [width, height, bits] :
+         {std::tuple{0, 2, 8}, {2, -2, 8}, {2, 2, 4}, {2, 2, 16}, {0x7FFFFFFF, 0x7FFFFFFF, 24}}) {
+        BITMAPINFOHEADER wrong;
+        wrong.biWidth = width;
+        wrong.biHeight = height;
+        wrong.biBitCount = static_cast<std::uint16_t>(bits);
+        EXPECT_FALSE(bitmap.CreateDIBitmap(wrong, colours, bytes(1, 1, 9, 9, 0, 2, 9, 9))) << bits;
+    }
+}
+
+/// Each of its pixels is half a coordinate wide and high, on every screen.
+TEST_F(DrawingTest, DrawsPicturesWithMorePixelsInTheSizeOfTheirCoordinates) {
+    std::vector<std::uint8_t> pixels;
+    for (int y = 0; y < 4; ++y) {
+        for (int x = 0; x < 4; ++x) {
+            const std::uint8_t left = x < 2 ? 255 : 0;
+            pixels.insert(pixels.end(), {0, static_cast<std::uint8_t>(255 - left), left});
+        }
+    }
+    BITMAPINFOHEADER header;
+    header.biWidth = header.biHeight = 4;
+    CBitmap bitmap;
+    ASSERT_TRUE(bitmap.CreateDIBitmap(header, {}, std::as_bytes(std::span(pixels)), 2));
+    EXPECT_EQ(bitmap.Width(), 2);
+    EXPECT_EQ(bitmap.Height(), 2);
+    CDC memory = CDC::CreateCompatibleDC(dc());
+    memory.SelectObject(bitmap);
+    dc().BitBlt(1, 0, 2, 2, memory, 0, 0);
+    EXPECT_EQ(row(1, 0, 4), "ffffff ff0000 00ff00 ffffff ");
+    dc().SetDIBitsToDevice(5, 0, header, pixels.data(), 2);
+    EXPECT_EQ(row(1, 4, 8), "ffffff ff0000 00ff00 ffffff ");
+    EXPECT_EQ(row(2, 4, 8), "ffffff ffffff ffffff ffffff ");
+}
+
+using SharpScreenTest = DrawingTest;
+
+TEST_F(SharpScreenTest, TakesTheSharperOfTwoPicturesAndShowsAllItsPixels) {
+    if (PictureScale() == 1) GTEST_SKIP() << "for screens with two pixels for each coordinate";
+    CBitmap bitmap;
+    ASSERT_TRUE(bitmap.LoadBitmap(3));
+    EXPECT_EQ(bitmap.Width(), 2);
+    CDC memory = CDC::CreateCompatibleDC(dc());
+    memory.SelectObject(bitmap);
+    dc().BitBlt(0, 0, 2, 1, memory, 0, 0);
+    const QImage shown = widgetOf(*window_).grab().toImage();
+    std::string pixels;
+    for (int x = 0; x < 4; ++x) pixels += shown.pixelColor(x, 0).name().toStdString();
+    EXPECT_EQ(pixels, "#ff0000#00ff00#0000ff#000000");
 }
 
 }  // namespace

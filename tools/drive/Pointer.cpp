@@ -39,8 +39,19 @@ QWindow* windowAtPointer() {
     return top == nullptr ? nullptr : top->windowHandle();
 }
 
+/// As a window system does before it tells of a press.
+void activate(const QWindow* window) {
+    QWidget* top = window == nullptr ? nullptr : QWidget::find(window->winId());
+    const QWidget* modal = QApplication::activeModalWidget();
+    if (top == nullptr || top->isActiveWindow() || (modal != nullptr && modal != top)) return;
+    top->activateWindow();
+    // At once, where the window system would answer later.
+    QApplication::setActiveWindow(top);
+}
+
 void send(QEvent::Type type, Qt::MouseButton button) {
     QWindow* window = windowAtPointer();
+    if (type == QEvent::MouseButtonPress) activate(window);
     mouse().time += kTimeStep;
     if (type == QEvent::MouseButtonPress) {
         mouse().buttons |= button;

@@ -7,6 +7,7 @@
 #include <span>
 
 #include "platform/automation/BrowserProcess.h"
+#include "platform/framework/LightPalette.h"
 #include "platform/framework/Resources.h"
 #include "platform/framework/Run.h"
 #include "platform/machine/Machine.h"
@@ -81,6 +82,7 @@ int carryOut(const RunScript& task) {
     platform::prepareProcess();
     QApplication application(count, arguments.data());
     QApplication::setQuitOnLastWindowClosed(false);
+    platform::wearLightPalette();
     const int status = runSession(script);
     platform::setMachine(nullptr);
     return status;

@@ -1,0 +1,48 @@
+#include "platform/framework/Wait.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QPointer>
+#include <QTimer>
+#include <QWindow>
+#include <chrono>
+#include <thread>
+
+#include "platform/machine/Machine.h"
+#include "platform/windows/WindowWidget.h"
+
+namespace platform {
+
+namespace {
+
+/// How long a window system may take to show a window, milliseconds.
+constexpr int longestShow = 250;
+constexpr std::chrono::milliseconds pause(1);
+
+}  // namespace
+
+void Sleep(std::uint32_t milliseconds) {
+    if (machine().virtualTime()) {
+        machine().sleep(milliseconds);
+        return;
+    }
+    QEventLoop loop;
+    QTimer::singleShot(static_cast<int>(milliseconds), Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+void UpdateWindow(CWnd& window) {
+    const QPointer<WindowWidget> widget = WindowWidget::of(window);
+    if (!widget || machine().virtualTime()) return;
+    QElapsedTimer timer;
+    timer.start();
+    while (widget && widget->windowHandle() && !widget->windowHandle()->isExposed() &&
+           !timer.hasExpired(longestShow)) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        std::this_thread::sleep_for(pause);
+    }
+    if (widget) widget->repaint();
+}
+
+}  // namespace platform

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+#include "platform/windows/Messages.h"
+
+namespace platform {
+
+/// A bitmap resource as a device-independent bitmap: the information header, the colour table if it has one,
+/// and the rows from the bottom up.
+struct BitmapResource {
+    std::vector<std::byte> bytes;
+    int scale = 1;  ///< pixels of the picture, across and down, to one of the screen's coordinates
+};
+
+/// A resource that is stored so, drawn for the screen's pixels; nothing when there is none of this id.
+std::optional<BitmapResource> FindBitmapResource(UINT id);
+
+}  // namespace platform
