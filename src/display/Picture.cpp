@@ -4,6 +4,8 @@
 #include <cstring>
 #include <new>
 #include <optional>
+#include <string>
+#include <utility>
 
 #include "platform/files/BinaryFile.h"
 
@@ -13,6 +15,9 @@ using platform::BinaryFile;
 using platform::BITMAPINFOHEADER;
 
 namespace {
+
+/// Pixels to a coordinate in the sharper of two files.
+constexpr int kSharpScale = 2;
 
 /// Offsets in a BMP file.
 constexpr std::uint64_t kPixelOffsetAt = 10;
@@ -39,9 +44,28 @@ std::optional<std::uint64_t> pixelBytes(const BITMAPINFOHEADER& header, std::uin
 }  // namespace
 
 PictureResult Picture::LoadPicture(const platform::FileSystem& files, std::string_view path) {
+    const PictureResult result = load(files, path);
+    if (result == PictureResult::loaded && platform::PictureScale() == kSharpScale) takeSharper(files, path);
+    return result;
+}
+
+void Picture::takeSharper(const platform::FileSystem& files, std::string_view path) {
+    const std::size_t dot = path.rfind('.');
+    if (dot == path.npos) return;
+    Picture sharper;
+    const std::string name = std::string(path.substr(0, dot)).append("-2x").append(path.substr(dot));
+    if (sharper.load(files, name) != PictureResult::loaded) return;
+    const platform::CSize size = sharper.Size();
+    if (size.cx != Size().cx * kSharpScale || size.cy != Size().cy * kSharpScale) return;
+    sharper.m_scale = kSharpScale;
+    *this = std::move(sharper);
+}
+
+PictureResult Picture::load(const platform::FileSystem& files, std::string_view path) {
     const std::optional<BinaryFile> file = BinaryFile::open(files, path);
     if (!file) return PictureResult::missing;
     m_pixels.reset();
+    m_scale = 1;
     std::uint32_t pixelOffset = 0;
     BITMAPINFOHEADER header;
     if (!readAt(*file, kPixelOffsetAt, pixelOffset) || !readAt(*file, kHeaderAt, header) ||
@@ -65,11 +89,12 @@ PictureResult Picture::LoadPicture(const platform::FileSystem& files, std::strin
 }
 
 platform::CSize Picture::Size() const {
-    return Loaded() ? platform::CSize{m_header.biWidth, m_header.biHeight} : platform::CSize{};
+    return Loaded() ? platform::CSize{m_header.biWidth / m_scale, m_header.biHeight / m_scale}
+                    : platform::CSize{};
 }
 
 void Picture::DrawPicture(platform::CDC& dc, int x, int y) const {
-    if (Loaded()) dc.SetDIBitsToDevice(x, y, m_header, m_pixels.get());
+    if (Loaded()) dc.SetDIBitsToDevice(x, y, m_header, m_pixels.get(), m_scale);
 }
 
 }  // namespace kalyxo

@@ -4,6 +4,7 @@
 #include <QImage>
 #include <QtEndian>
 #include <array>
+#include <string>
 
 namespace {
 
@@ -31,7 +32,6 @@ constexpr std::array kResources = {
     Expected{"bitmap/200.png", 16, 14, kRgb},
     Expected{"bitmap/204.png", 48, 100, kRgb},
     Expected{"bitmap/205.png", 97, 29, kRgb},
-    Expected{"bitmap/207.png", 640, 480, kRgb},
     Expected{"bitmap/301.png", 16, 16, kRgba},
     Expected{"bitmap/302.png", 16, 16, kRgba},
     Expected{"bitmap/303.png", 16, 16, kRgba},
@@ -51,6 +51,9 @@ constexpr std::array kResources = {
 
 QImage resource(const char* file) { return QImage(QStringLiteral(":/") + file); }
 
+/// The same picture with twice the pixels.
+QString sharper(const QString& file) { return QString(file).insert(file.lastIndexOf('.'), "-2x"); }
+
 QImage menuPicture(const char* name) {
     return QImage(QStringLiteral(ARTWORK_DIR "/images/%1.bmp").arg(name));
 }
@@ -60,6 +63,33 @@ TEST(Artwork, ResourcesHaveTheirSizeAndDepth) {
         const QImage image = resource(expected.file);
         EXPECT_EQ(image.size(), QSize(expected.width, expected.height)) << expected.file;
         EXPECT_EQ(image.format(), expected.format) << expected.file;
+    }
+}
+
+TEST(Artwork, AllButIconsAndPatternsAreThereWithTwiceThePixels) {
+    for (const Expected& expected : kResources) {
+        const QString file = expected.file;
+        const QImage image(":/" + sharper(file));
+        if (file.startsWith("icon/") || file == "bitmap/133.png") {
+            EXPECT_TRUE(image.isNull()) << expected.file;
+            continue;
+        }
+        EXPECT_EQ(image.size(), QSize(expected.width, expected.height) * 2) << expected.file;
+        EXPECT_NE(image, resource(expected.file).scaled(image.size())) << expected.file << ": only blown up";
+    }
+}
+
+TEST(Artwork, TheStartPictureIsABitmapResource) {
+    for (const int scale : {1, 2}) {
+        QFile file(scale == 1 ? ":/bitmap/207.dib" : ":/bitmap/207-2x.dib");
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << scale;
+        const QByteArray bytes = file.readAll();
+        ASSERT_EQ(bytes.size(), 40 + 640 * 480 * 3 * scale * scale);
+        EXPECT_EQ(qFromLittleEndian<qint32>(bytes.constData()), 40);
+        EXPECT_EQ(qFromLittleEndian<qint32>(bytes.constData() + 4), 640 * scale);
+        EXPECT_EQ(qFromLittleEndian<qint32>(bytes.constData() + 8), 480 * scale);
+        EXPECT_EQ(qFromLittleEndian<qint16>(bytes.constData() + 14), 24);
+        EXPECT_EQ(qFromLittleEndian<qint32>(bytes.constData() + 32), 0) << "no colour table";
     }
 }
 
@@ -124,6 +154,8 @@ TEST(Artwork, MenuPicturesAreBottomUp24BitFiles) {
         const QByteArray bytes = file.readAll();
         ASSERT_GE(bytes.size(), 54) << name;
         const bool menu = qstrcmp(name, "mainmenu") == 0;
+        EXPECT_EQ(menuPicture((std::string(name) + "-2x").c_str()).size(), menuPicture(name).size() * 2)
+            << name;
         const QSize size = menu ? QSize(628, 384) : QSize(369, 191);
         const auto at = [&bytes](int offset) {
             return qFromLittleEndian<qint32>(bytes.constData() + offset);

@@ -65,6 +65,8 @@ std::variant<Picture, QString> readPicture(const Json& entry, const Palette& pal
     picture.source = textOf(entry, "source");
     picture.colours = textOf(entry, "colours");
     picture.hotSpot = pairOf(entry, "hotSpot");
+    picture.fine = textOf(entry, "fine");
+    picture.once = entry.value("once", Json(false)) == Json(true);
     if (picture.output.isEmpty() || picture.source.isEmpty())
         return QStringLiteral("an entry lacks \"output\" or \"source\"");
     const auto size = pairOf(entry, "size");
@@ -80,6 +82,14 @@ std::variant<Picture, QString> readPicture(const Json& entry, const Palette& pal
 }
 
 }  // namespace
+
+Picture sharper(const Picture& picture) {
+    Picture twice = picture;
+    twice.output.insert(twice.output.lastIndexOf('.'), QStringLiteral("-2x"));
+    twice.size = picture.size * 2;
+    if (!picture.fine.isEmpty()) twice.source = picture.fine;
+    return twice;
+}
 
 std::variant<Manifest, Failure> readManifest(const QString& path) {
     auto read = readJson(path);

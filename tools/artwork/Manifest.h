@@ -22,13 +22,19 @@ enum class PixelFormat {
 
 /// One picture to draw.
 struct Picture {
-    QString output;  ///< relative to the output folder; the suffix chooses PNG or BMP
+    QString output;  ///< relative to the output folder; the suffix chooses PNG, BMP, or a BMP without its
+                     ///< file header (dib)
     QString source;  ///< SVG file, relative to the manifest
     QSize size;      ///< pixels, 1 … 4096 each way
     PixelFormat format = PixelFormat::Rgb;
     QString colours;                ///< colour set laid over "base"; empty for none
+    QString fine;                   ///< source of the second drawing; empty for the same
+    bool once = false;              ///< not drawn a second time with twice the pixels
     std::optional<QPoint> hotSpot;  ///< of a cursor; kept in the PNG as the text "HotSpot"
 };
+
+/// The picture with twice the pixels across and down, in the file NAME-2x beside its own.
+Picture sharper(const Picture& picture);
 
 /// Colour set name → colour name → SVG paint ("#3a7aa0", "none").
 using Palette = QMap<QString, QMap<QString, QString>>;

@@ -1,6 +1,8 @@
 #include "tools/artwork/PictureWriter.h"
 
+#include <QBuffer>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QImage>
 #include <QImageWriter>
@@ -33,6 +35,25 @@ QImage stored(const QImage& image, PixelFormat format) {
     return image;
 }
 
+/// A BMP file starts with this many bytes that a bitmap resource has not.
+constexpr qsizetype kFileHeader = 14;
+
+std::optional<QString> writeResource(const QString& path, const QImage& image) {
+    QBuffer bitmap;
+    QImageWriter writer(&bitmap, "BMP");
+    if (!bitmap.open(QIODevice::WriteOnly) || !writer.write(image)) return writer.errorString();
+    QFile file(path);
+    const QByteArray stored = bitmap.data().mid(kFileHeader);
+    if (!file.open(QIODevice::WriteOnly) || file.write(stored) != stored.size()) return file.errorString();
+    return std::nullopt;
+}
+
+std::optional<QString> writeImage(const QString& path, const QImage& image) {
+    if (path.endsWith(".dib")) return writeResource(path, image);
+    QImageWriter writer(path);
+    return writer.write(image) ? std::nullopt : std::optional(writer.errorString());
+}
+
 }  // namespace
 
 std::optional<Failure> writePicture(const Picture& picture, const QByteArray& svg, const QString& folder) {
@@ -47,8 +68,7 @@ std::optional<Failure> writePicture(const Picture& picture, const QByteArray& sv
     const QString path = folder + "/" + picture.output;
     if (!QDir().mkpath(QFileInfo(path).absolutePath()))
         return Failure{path, QStringLiteral("its folder cannot be made")};
-    QImageWriter writer(path);
-    if (!writer.write(image)) return Failure{path, writer.errorString()};
+    if (const auto reason = writeImage(path, image)) return Failure{path, *reason};
     return std::nullopt;
 }
 

@@ -38,11 +38,15 @@ int main(int argc, char** argv) {
         return 2;
     }
     int status = 0;
+    const auto draw = [&](const artwork::Picture& picture) {
+        const auto failure = render(std::get<artwork::Manifest>(manifest), picture, arguments[2]);
+        if (!failure) return;
+        report(*failure);
+        status = 1;
+    };
     for (const artwork::Picture& picture : std::get<artwork::Manifest>(manifest).pictures) {
-        if (const auto failure = render(std::get<artwork::Manifest>(manifest), picture, arguments[2])) {
-            report(*failure);
-            status = 1;
-        }
+        draw(picture);
+        if (!picture.once) draw(artwork::sharper(picture));
     }
     return status;
 }
