@@ -3,12 +3,14 @@
 #include <memory>
 
 #include "platform/framework/Resources.h"
+#include "platform/framework/Wait.h"
 #include "platform/machine/Machine.h"
 #include "platform/text/GreekLiteral.h"
 #include "platform/windows/MessageMap.h"
 #include "src/app/AboutDlg.h"
 #include "src/app/FindFolderDlg.h"
 #include "src/app/MainFrame.h"
+#include "src/app/SplashDlg.h"
 #include "src/content/KalyxoDoc.h"
 #include "src/content/KalyxoView.h"
 #include "src/resources/CommandIds.h"
@@ -46,6 +48,7 @@ const MessageMap* CKalyxoApp::GetMessageMap() const {
 
 bool CKalyxoApp::InitInstance() {
     if (!ReadRegistrySettings()) return false;
+    CSplashDlg splash;
     if (!AfxOleInit()) {
         AfxMessageBox(LoadString(IDS_OLE_INIT_FAILED));
         return false;
@@ -55,7 +58,10 @@ bool CKalyxoApp::InitInstance() {
     chooseFirstShow();
     if (!ProcessShellCommand()) return false;
     warnOfFewColours();
-    machine().sleep(kStartUpWaitMs);
+    // The main window has come before it meanwhile.
+    splash.BringWindowToTop();
+    platform::Sleep(kStartUpWaitMs);
+    splash.DestroyWindow();
     return true;
 }
 

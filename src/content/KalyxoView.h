@@ -16,6 +16,7 @@
 #include "src/content/PictureCapture.h"
 #include "src/content/SectionBar.h"
 #include "src/display/SplitterBar.h"
+#include "src/display/ToolPanel.h"
 #include "src/search/SearchState.h"
 
 namespace kalyxo {
@@ -63,6 +64,7 @@ class CKalyxoView : public platform::CView {
     HostedComponents& Components() { return m_components; }
     const GlossaryPopup& Glossary() const { return m_glossary; }
     CSplitterBar& Splitter() { return m_splitter; }
+    const CToolPanel& Panel() const { return m_panel; }
 
   private:
     /// In the second parameter of WM_COMMAND, from a component or the view itself: opens the enlarged view.
@@ -113,6 +115,9 @@ class CKalyxoView : public platform::CView {
     void OnDataAnalyser() { ShowDataAnalyser(); }
     void OnUpdateBookmarkAdd(platform::CCmdUI& ui);
     void OnUpdateDataAnalyser(platform::CCmdUI& ui);
+    void OnToolbar();
+    void OnUpdateToolbar(platform::CCmdUI& ui);
+    void AnimateShow();
 
     // Component events
     bool OnPageChosen(std::int32_t pageNumber, std::int32_t pageId);
@@ -185,6 +190,8 @@ class CKalyxoView : public platform::CView {
     HostedComponents m_components;
     CSplitterBar m_splitter;
     GlossaryPopup m_glossary;
+    CToolPanel m_panel;
+    bool m_bPanelNeverShown = true;
     platform::CCursor m_handCursor;
     bool m_bLayoutPending = false;
     /// Until the first paint neither navigations nor the mouse are looked at.

@@ -70,6 +70,8 @@ const MessageMap* CKalyxoView::GetMessageMap() const {
         OnCommandId<&CKalyxoView::OnBookmarkAdd>(ID_BOOKMARK_ADD),
         OnUpdateId<&CKalyxoView::OnUpdateBookmarkAdd>(ID_BOOKMARK_ADD),
         OnCommandId<&CKalyxoView::OnBookmarkGoto>(ID_BOOKMARK_GOTO),
+        OnCommandId<&CKalyxoView::OnToolbar>(ID_TOOLBAR),
+        OnUpdateId<&CKalyxoView::OnUpdateToolbar>(ID_TOOLBAR),
         OnCommandId<&CKalyxoView::GoBack>(ID_BACK),
         OnUpdateId<&CKalyxoView::OnUpdateBack>(ID_BACK),
         OnCommandId<&CKalyxoView::GoForward>(ID_FORWARD),

@@ -23,6 +23,7 @@ void CKalyxoView::OnInitialUpdate() {
         return;
     }
     m_components.browser.Navigate(TheApp().m_strDataFolder + "a.htm");
+    m_panel.Create(this);
     openCache();
     LoadBookmarks();
     LoadElementIndex();

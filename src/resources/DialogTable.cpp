@@ -10,6 +10,7 @@ namespace kalyxo {
 using namespace platform::literals;
 using platform::CRect;
 using platform::DialogControl;
+using platform::DialogFrame;
 using platform::DialogTemplate;
 using platform::ES_AUTOHSCROLL;
 using platform::IDC_STATIC;
@@ -128,6 +129,9 @@ constexpr std::array kDialogs = {
     DialogTemplate{IDD_ENLARGED_VIEW, {}, {433, 326}, kEnlargedView},
     DialogTemplate{IDD_FIND_FOLDER, "Find Folder", {187, 177}, kFindFolder},
     DialogTemplate{IDD_SEARCH, "Αναζήτηση"_gr, {347, 226}, kSearch},
+    // The program gives both their size.
+    DialogTemplate{IDD_SPLASH, {}, {427, 295}, {}, DialogFrame::plain},
+    DialogTemplate{IDD_TOOL_PANEL, {}, {186, 49}, {}, DialogFrame::tool},
 };
 
 }  // namespace

@@ -37,6 +37,8 @@ inline constexpr platform::UINT IDD_FOLDER_NAME = 158;
 inline constexpr platform::UINT IDD_ENLARGED_VIEW = 151;
 inline constexpr platform::UINT IDD_FIND_FOLDER = 211;
 inline constexpr platform::UINT IDD_SEARCH = 178;
+inline constexpr platform::UINT IDD_SPLASH = 153;
+inline constexpr platform::UINT IDD_TOOL_PANEL = 165;
 
 /// Controls of the About box.
 inline constexpr int IDC_VERSION_DATA_ANALYSER = 1005;
@@ -72,16 +74,23 @@ inline constexpr int IDC_BOOKMARK_TREE = 1009;
 
 /// Bitmap ids.
 inline constexpr platform::UINT IDB_SPLITTER_PATTERN = 133;
+inline constexpr platform::UINT IDB_TOOL_COPY = 166;
+inline constexpr platform::UINT IDB_TOOL_PASTE = 167;
+inline constexpr platform::UINT IDB_TOOL_PRINT = 168;
+inline constexpr platform::UINT IDB_TOOL_FORWARD = 169;
+inline constexpr platform::UINT IDB_TOOL_BACK = 170;
 inline constexpr platform::UINT IDB_BAR_SHADOW = 188;
 inline constexpr platform::UINT IDB_BAR_SELECTED = 195;
 inline constexpr platform::UINT IDB_BAR_HOVER = 196;
 inline constexpr platform::UINT IDB_BAR_NORMAL = 197;
+inline constexpr platform::UINT IDB_TOOL_SEARCH = 200;
 inline constexpr platform::UINT IDB_ABOUT_PICTURE = 204;
 inline constexpr platform::UINT IDB_ABOUT_LOGO = 205;
 inline constexpr platform::UINT IDB_TREE_FOLDER = 301;
 inline constexpr platform::UINT IDB_TREE_PAGE = 302;
 inline constexpr platform::UINT IDB_TREE_PERIODIC_TABLE = 303;
 inline constexpr platform::UINT IDB_TREE_DATA_ANALYSER = 304;
+inline constexpr platform::UINT IDB_SPLASH = 207;
 
 /// Cursor ids.
 inline constexpr platform::UINT IDC_RESIZE_HORIZONTAL = 131;

@@ -33,7 +33,7 @@ HWND find(NamedWindow name) {
         case NamedWindow::splitter:
             return Program::view() == nullptr ? 0 : Program::view()->Splitter().GetSafeHwnd();
         case NamedWindow::panel:
-            break;
+            return Program::view() == nullptr ? 0 : Program::view()->Panel().GetSafeHwnd();
     }
     return 0;
 }

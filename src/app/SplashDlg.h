@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/framework/Dialog.h"
+
+namespace kalyxo {
+
+/// The picture in the middle of the screen while the program starts.
+class CSplashDlg : public platform::CDialog {
+  public:
+    /// Makes and shows the window at once, painted. Without its template there is none.
+    CSplashDlg();
+
+    static const platform::CRuntimeClass runtimeClass;
+    const platform::CRuntimeClass& GetRuntimeClass() const override { return runtimeClass; }
+    const platform::MessageMap* GetMessageMap() const override;
+
+  private:
+    void OnPaint();
+    bool OnEraseBkgnd(platform::CDC& dc);
+    void drawPicture(platform::CDC& dc, platform::CSize part) const;
+
+    platform::UINT m_nBitmapId;
+};
+
+}  // namespace kalyxo

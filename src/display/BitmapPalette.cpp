@@ -1,0 +1,46 @@
+#include "src/display/BitmapPalette.h"
+
+#include <cstring>
+
+namespace kalyxo {
+
+using platform::BITMAPINFOHEADER;
+using platform::PALETTEENTRY;
+
+namespace {
+
+/// A colour as it stands in the table: blue, green, red, and a byte that is not used.
+constexpr std::size_t kStoredColour = 4;
+/// The deepest pictures whose pixels are numbers of colours.
+constexpr int kDeepestIndexed = 8;
+
+PALETTEENTRY entryAt(std::span<const std::byte> table, std::size_t index) {
+    const auto part = [&](std::size_t offset) {
+        return std::to_integer<std::uint8_t>(table[index * kStoredColour + offset]);
+    };
+    return {part(2), part(1), part(0), 0};
+}
+
+}  // namespace
+
+std::uint32_t ColourCount(const BITMAPINFOHEADER& header) {
+    if (header.biClrUsed != 0) return header.biClrUsed;
+    return header.biBitCount <= kDeepestIndexed ? 1U << header.biBitCount : 0;
+}
+
+std::optional<std::vector<PALETTEENTRY>> CreatePaletteFromHeader(std::span<const std::byte> bitmap,
+                                                                 std::uint32_t& colourCount) {
+    colourCount = 0;
+    BITMAPINFOHEADER header;
+    if (bitmap.size() < sizeof(header)) return std::nullopt;
+    std::memcpy(&header, bitmap.data(), sizeof(header));
+    const std::span<const std::byte> table = bitmap.subspan(sizeof(header));
+    const std::uint32_t count = ColourCount(header);
+    if (count == 0 || count > table.size() / kStoredColour) return std::nullopt;
+    std::vector<PALETTEENTRY> palette(count);
+    for (std::size_t i = 0; i < palette.size(); ++i) palette[i] = entryAt(table, i);
+    colourCount = count;
+    return palette;
+}
+
+}  // namespace kalyxo

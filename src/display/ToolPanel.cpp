@@ -1,0 +1,150 @@
+#include "src/display/ToolPanel.h"
+
+#include "platform/framework/Wait.h"
+#include "platform/machine/Machine.h"
+#include "platform/text/GreekLiteral.h"
+#include "platform/windows/MessageMap.h"
+#include "platform/windows/ScreenRectangle.h"
+#include "src/display/FlightPath.h"
+#include "src/resources/CommandIds.h"
+#include "src/resources/ResourceIds.h"
+
+namespace kalyxo {
+
+using namespace platform;
+using namespace platform::literals;
+
+namespace {
+
+constexpr UINT kFirstButton = 801;
+constexpr CSize kButtonSize{23, 22};
+constexpr int kPanelWidth = 144;
+/// Height of the panel without its caption.
+constexpr int kHeightBelowCaption = 28;
+constexpr int kSectionBarHeight = 50;
+
+/// Where the rectangle flies to: its size, and how far left of a window's right edge it ends.
+constexpr int kCornerSize = 20;
+constexpr int kCornerDistance = 24;
+constexpr COLORREF kFlightColour = RGB(0, 0, 128);
+constexpr std::uint32_t kFrameMs = 20;
+
+struct Tool {
+    UINT picture;
+    std::string_view name;
+};
+
+constexpr std::array<Tool, 6> kTools = {{
+    {IDB_TOOL_COPY, "Αντιγραφή"_gr},
+    {IDB_TOOL_PASTE, "Επικόλληση"_gr},
+    {IDB_TOOL_PRINT, "Εκτύπωση"_gr},
+    {IDB_TOOL_BACK, "Επιστροφή"_gr},
+    {IDB_TOOL_FORWARD, "Επόμενο"_gr},
+    {IDB_TOOL_SEARCH, "Αναζήτηση"_gr},
+}};
+
+CRect corner(int right, int top) { return CRect::at(right - kCornerDistance, top, kCornerSize, kCornerSize); }
+
+}  // namespace
+
+const CRuntimeClass CToolPanel::runtimeClass{"CToolPanel"};
+
+CToolPanel::CToolPanel() : CDialog(IDD_TOOL_PANEL) {}
+
+const MessageMap* CToolPanel::GetMessageMap() const {
+    static constexpr MessageMapEntry entries[] = {
+        OnMessage<WM_CREATE, &CToolPanel::OnCreate>(),
+        OnMessage<WM_CLOSE, &CToolPanel::AnimateHide>(),
+        OnCommandId<&CToolPanel::OnCopy>(kFirstButton),
+        OnCommandId<&CToolPanel::OnPaste>(kFirstButton + 1),
+        OnCommandId<&CToolPanel::OnButton<ID_FILE_PRINT>>(kFirstButton + 2),
+        OnCommandId<&CToolPanel::OnButton<ID_BACK>>(kFirstButton + 3),
+        OnCommandId<&CToolPanel::OnButton<ID_FORWARD>>(kFirstButton + 4),
+        OnCommandId<&CToolPanel::OnButton<ID_SEARCH>>(kFirstButton + 5),
+    };
+    static const MessageMap map{CDialog::GetMessageMap(), entries};
+    return &map;
+}
+
+int CToolPanel::OnCreate(CREATESTRUCT& cs) {
+    if (DefWindowProc(WM_CREATE, 0, reinterpret_cast<LPARAM>(&cs)) == -1) return -1;
+    int x = 0;
+    for (std::size_t i = 0; i < m_buttons.size(); ++i) {
+        m_buttons[i].Create(CRect::at(x, 0, kButtonSize.cx, kButtonSize.cy), *this,
+                            kFirstButton + static_cast<UINT>(i), kTools[i].picture, kTools[i].name);
+        x += kButtonSize.cx;
+    }
+    return 0;
+}
+
+void CToolPanel::send(UINT command) {
+    if (CWnd* const owner = GetParent()) owner->SendMessage(WM_COMMAND, command);
+}
+
+void CToolPanel::returnFocus() {
+    if (CPictureButton::FocusReturn() != 0) platform::SetFocus(CPictureButton::FocusReturn());
+}
+
+void CToolPanel::OnCopy() {
+    returnFocus();
+    // Only those that apply to what is on show are carried out.
+    for (const UINT command :
+         {ID_EDIT_COPY, ID_COPY_VIDEO, ID_COPY_MOLECULE, ID_COPY_ALL_DATA, ID_COPY_GRAPH}) {
+        send(command);
+    }
+}
+
+void CToolPanel::OnPaste() {
+    returnFocus();
+    send(ID_EDIT_PASTE);
+}
+
+/// Enter pushes the button with the focus.
+void CToolPanel::OnOK() {
+    for (const CPictureButton& button : m_buttons) {
+        if (button.GetSafeHwnd() != GetFocus()) continue;
+        SendMessage(WM_COMMAND, static_cast<WPARAM>(button.GetDlgCtrlID()));
+        return;
+    }
+}
+
+CRect CToolPanel::captionPlace() const {
+    const CRect place = GetWindowRect();
+    return CRect::at(place.left, place.top, place.Width(), machine().metric(SM_CYSMCAPTION));
+}
+
+void CToolPanel::ShowAtViewCorner(const CRect& view) {
+    MoveWindow(CRect::at(view.right - kPanelWidth, view.top + kSectionBarHeight, kPanelWidth,
+                         machine().metric(SM_CYSMCAPTION) + kHeightBelowCaption));
+    ShowWindow(SW_SHOW);
+}
+
+void CToolPanel::AnimateHide() {
+    CWnd* const owner = GetParent();
+    const CRect former = GetWindowRect();
+    const CRect start = captionPlace();
+    ShowWindow(SW_HIDE);
+    if (!owner) return;
+    owner->SendMessage(WM_PAINT);
+    const CRect around = owner->GetWindowRect();
+    const int below = machine().metric(SM_CYCAPTION) + machine().metric(SM_CYMENU);
+    ScreenRectangle flying(kFlightColour);
+    for (const CRect& frame : FlightPath(start, corner(around.right, around.top + below))) {
+        if (Overlap(frame, former)) continue;
+        flying.Show(frame);
+        platform::Sleep(kFrameMs);
+    }
+}
+
+void CToolPanel::AnimateShow(const CRect& view) {
+    {
+        ScreenRectangle flying(kFlightColour);
+        for (const CRect& frame : FlightPath(corner(view.right, view.top), captionPlace())) {
+            flying.Show(frame);
+            platform::Sleep(kFrameMs);
+        }
+    }
+    ShowWindow(SW_SHOW);
+}
+
+}  // namespace kalyxo

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <array>
+
+#include "platform/framework/Dialog.h"
+#include "src/display/PictureButton.h"
+
+namespace kalyxo {
+
+/// The program's toolbar: a small floating window of picture buttons, each of which sends commands to the
+/// main window.
+class CToolPanel : public platform::CDialog {
+  public:
+    CToolPanel();
+
+    static const platform::CRuntimeClass runtimeClass;
+    const platform::CRuntimeClass& GetRuntimeClass() const override { return runtimeClass; }
+    const platform::MessageMap* GetMessageMap() const override;
+
+    /// Shows it for the first time, at the top right corner of the view below the section bar.
+    void ShowAtViewCorner(const platform::CRect& view);
+    /// Hides it; a rectangle flies from its place to the top right corner of the main window.
+    void AnimateHide();
+    /// Shows it where it was last, after a rectangle has flown there from the top right corner of the view.
+    void AnimateShow(const platform::CRect& view);
+
+  protected:
+    void OnOK() override;
+    void OnCancel() override { AnimateHide(); }
+
+  private:
+    int OnCreate(platform::CREATESTRUCT& cs);
+    void OnCopy();
+    void OnPaste();
+    template <platform::UINT Command>
+    void OnButton() {
+        send(Command);
+    }
+    void returnFocus();
+    void send(platform::UINT command);
+    platform::CRect captionPlace() const;
+
+    std::array<CPictureButton, 6> m_buttons;
+};
+
+}  // namespace kalyxo
