@@ -16,8 +16,8 @@ bool replaceFile(const std::filesystem::path& path, std::string_view content);
 /// The same by DOS path.
 bool replaceFile(const FileSystem& files, std::string_view dosPath, std::string_view content);
 
-/// Copies a regular file over another, all at once too, but without waiting for the medium. Returns false, with a
-/// former `to` as it was, when that fails.
+/// Copies a regular file over another, all at once too, but without waiting for the medium. Returns false,
+/// with a former `to` as it was, when that fails.
 bool copyFileOver(const std::filesystem::path& from, const std::filesystem::path& to);
 
 }  // namespace platform
