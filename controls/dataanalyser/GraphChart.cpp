@@ -8,6 +8,7 @@
 #include <QLogValueAxis>
 #include <QScatterSeries>
 #include <QValueAxis>
+#include <algorithm>
 #include <cmath>
 #include <set>
 
@@ -108,7 +109,11 @@ GraphChart::GraphChart() : marks_(new GraphMarks(this)), hover_(new GraphHover(t
 }
 
 void GraphChart::showGraph(const Analyser& analyser) {
+    // What was hovered is a mark of the former graph, maybe of another data set.
+    const int row = shownSet_ == analyser.dataSet().number ? hoveredRow() : -1;
+    setHovered(-1);
     analyser_ = &analyser;
+    shownSet_ = analyser.dataSet().number;
     removeAllSeries();
     for (QAbstractAxis* axis : axes()) {
         removeAxis(axis);
@@ -129,8 +134,14 @@ void GraphChart::showGraph(const Analyser& analyser) {
     addLegendEntries(analyser, graph);
     scenery.graph = std::move(graph);
     marks_->setScenery(std::move(scenery));
-    setHovered(-1);
     placeMarks();
+    const auto& marks = marks_->scenery().graph.marks;
+    const auto still = std::ranges::find(marks, row, &GraphMark::row);
+    if (row >= 0 && still != marks.end()) setHovered(static_cast<int>(still - marks.begin()));
+}
+
+int GraphChart::hoveredRow() const {
+    return hovered_ < 0 ? -1 : marks_->scenery().graph.marks[static_cast<std::size_t>(hovered_)].row;
 }
 
 void GraphChart::setAxes(const Graph& graph, const AxisRange& x, const AxisRange& y) {

@@ -26,6 +26,8 @@ class GraphChart : public QChart {
     /// Shows the name of a mark by its index; −1 for none.
     void setHovered(int index);
     int hovered() const { return hovered_; }
+    /// The row of the mark hovered, −1 for none.
+    int hoveredRow() const;
     /// The words beside the mark hovered; empty for none.
     QStringList hoverLines() const;
 
@@ -42,6 +44,7 @@ class GraphChart : public QChart {
     GraphHover* hover_;
     const Analyser* analyser_ = nullptr;
     int hovered_ = -1;
+    int shownSet_ = -1;
 };
 
 }  // namespace controls::dataanalyser

@@ -24,12 +24,12 @@ constexpr int leastFrame = 8;
 }  // namespace
 
 GraphView::GraphView(Analyser& analyser, std::function<void()> copy, QWidget* parent)
-    : QChartView(parent),
+    : QChartView(new GraphChart(),
+                 parent),  // NOLINT(cppcoreguidelines-owning-memory): the view owns its chart
       analyser_(analyser),
       copy_(std::move(copy)),
-      chart_(new GraphChart()),  // NOLINT(cppcoreguidelines-owning-memory): the view owns its chart
+      chart_(static_cast<GraphChart*>(chart())),
       frame_(new QRubberBand(QRubberBand::Rectangle, this)) {
-    setChart(chart_);
     setRenderHint(QPainter::Antialiasing);
     setFrameShape(NoFrame);
     setBackgroundBrush(appearance::paper);
@@ -84,16 +84,15 @@ void GraphView::step(int by) {
 }
 
 void GraphView::chooseHovered(bool toggle) {
-    const auto& marks = chart_->marks().scenery().graph.marks;
-    const int hovered = chart_->hovered();
-    if (hovered < 0 || marks[static_cast<std::size_t>(hovered)].row < 0) return;
-    const std::int16_t id = analyser_.idAt(marks[static_cast<std::size_t>(hovered)].row);
+    const int row = chart_->hoveredRow();
+    // The analyser may be at another data set already, a moment before the chart is.
+    if (row < 0 || static_cast<std::size_t>(row) >= analyser_.dataSet().rowCount()) return;
+    const std::int16_t id = analyser_.idAt(row);
     auto ids = toggle ? analyser_.selected() : std::vector<std::int16_t>();
     if (std::erase(ids, id) == 0) ids.push_back(id);
     analyser_.noteCursor(id);
     analyser_.noteTop(id);
     analyser_.setSelected(ids);
-    chart_->setHovered(hovered);
 }
 
 void GraphView::resizeEvent(QResizeEvent* event) {

@@ -451,6 +451,14 @@ TEST_F(AnalyserControlTest, PointerTellsThePointsName) {
     EXPECT_EQ(selected(), std::vector<std::int16_t>{2});
 }
 
+TEST_F(AnalyserControlTest, NameUnderThePointerGoesWithItsDataSet) {
+    put(control_, 2, std::int16_t{1});
+    for (int i = 0; i < 50; ++i) QTest::keyClick(&graph(), Qt::Key_Right);
+    EXPECT_FALSE(graph().graphChart().hoverLines().isEmpty());
+    call(control_, 15, gases);
+    EXPECT_TRUE(graph().graphChart().hoverLines().isEmpty());
+}
+
 TEST_F(AnalyserControlTest, KeysZoomMoveAndReset) {
     put(control_, 2, std::int16_t{1});
     const GraphWindow whole = graph().graphChart().marks().scenery().window;
