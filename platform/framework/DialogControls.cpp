@@ -5,6 +5,7 @@
 #include <QProxyStyle>
 #include <QPushButton>
 
+#include "platform/automation/QtChild.h"
 #include "platform/handles/WindowTable.h"
 #include "platform/windows/Artwork.h"
 #include "platform/windows/ControlFactory.h"
@@ -36,6 +37,8 @@ QWidget& makeButton(const DialogControl& control, QWidget& dialog) {
 /// Draws check boxes low enough for the height of a line of text, which is all that templates give them.
 class LowIndicator : public QProxyStyle {
   public:
+    explicit LowIndicator(QWidget& box) { setParent(&box); }
+
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
         constexpr int side = 12;
         const bool isIndicator = metric == PM_IndicatorWidth || metric == PM_IndicatorHeight;
@@ -44,28 +47,26 @@ class LowIndicator : public QProxyStyle {
 };
 
 QWidget& makeCheckBox(const DialogControl& control, QWidget& dialog) {
-    auto* const box = new QCheckBox(toQt(control.text), &dialog);
-    auto* const style = new LowIndicator;
-    style->setParent(box);
-    box->setStyle(style);
-    if (control.style & BS_LEFTTEXT) box->setLayoutDirection(Qt::RightToLeft);
-    sendClicks(*box);
-    return entered(ControlLink::enter(*box, "Button", control.id));
+    auto& box = makeQtChild<QCheckBox>(toQt(control.text), &dialog);
+    box.setStyle(&makeQtChild<LowIndicator>(box));
+    if (control.style & BS_LEFTTEXT) box.setLayoutDirection(Qt::RightToLeft);
+    sendClicks(box);
+    return entered(ControlLink::enter(box, "Button", control.id));
 }
 
 QWidget& makeLabel(const DialogControl& control, QWidget& dialog) {
-    auto* const label = new QLabel(&dialog);
+    auto& label = makeQtChild<QLabel>(&dialog);
     // A click on it is one on the dialog.
-    label->setAttribute(Qt::WA_TransparentForMouseEvents);
+    label.setAttribute(Qt::WA_TransparentForMouseEvents);
     if (control.kind == DialogControlKind::bitmap) {
-        label->setPixmap(QPixmap::fromImage(artworkImage(QStringLiteral(":/bitmap/%1").arg(control.bitmap))));
+        label.setPixmap(QPixmap::fromImage(artworkImage(QStringLiteral(":/bitmap/%1").arg(control.bitmap))));
     } else {
-        label->setTextFormat(Qt::PlainText);
-        label->setText(toQt(control.text));
-        label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-        label->setWordWrap(true);
+        label.setTextFormat(Qt::PlainText);
+        label.setText(toQt(control.text));
+        label.setAlignment(Qt::AlignLeft | Qt::AlignTop);
+        label.setWordWrap(true);
     }
-    return entered(ControlLink::enter(*label, "Static", control.id));
+    return entered(ControlLink::enter(label, "Static", control.id));
 }
 
 QWidget& makeControl(const DialogControl& control, QWidget& dialog) {

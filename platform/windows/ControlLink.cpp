@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <utility>
 
+#include "platform/automation/QtChild.h"
 #include "platform/handles/WindowTable.h"
 #include "platform/windows/InputMessages.h"
 #include "platform/windows/WindowWidget.h"
@@ -29,16 +30,16 @@ ControlLink::ControlLink(QWidget& control) : QObject(&control), control_(control
 ControlLink::~ControlLink() { detach(); }
 
 ControlLink& ControlLink::enter(QWidget& control, std::string className, int id) {
-    auto* const link = new ControlLink(control);
-    link->handle_ = table().add({
+    auto& link = makeQtChild<ControlLink>(control);
+    link.handle_ = table().add({
         .widget = &control,
         .className = std::move(className),
         .id = id,
-        .proc = [link = QPointer<ControlLink>(link)](UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
+        .proc = [link = QPointer<ControlLink>(&link)](UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
             return link && link->object_ ? link->object_->WindowProc(message, wParam, lParam) : 0;
         },
     });
-    return *link;
+    return link;
 }
 
 ControlLink* ControlLink::of(const QWidget* control) {

@@ -15,6 +15,10 @@ class CWnd;
 /// the object that the program has bound to it, if any.
 class ControlLink : public QObject {
   public:
+    /// Belongs to `control`; made by enter.
+    explicit ControlLink(QWidget& control);
+    ~ControlLink() override;
+
     /// Enters the control in the window table; it belongs to `control` from then on.
     static ControlLink& enter(QWidget& control, std::string className, int id);
     /// The link of a control, null for any other window.
@@ -42,9 +46,6 @@ class ControlLink : public QObject {
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
   private:
-    explicit ControlLink(QWidget& control);
-    ~ControlLink() override;
-
     QWidget& control_;
     HWND handle_ = 0;
     CWnd* object_ = nullptr;

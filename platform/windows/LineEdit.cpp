@@ -3,6 +3,7 @@
 #include <QValidator>
 #include <algorithm>
 
+#include "platform/automation/QtChild.h"
 #include "platform/windows/ControlLink.h"
 #include "platform/windows/QtConvert.h"
 
@@ -27,7 +28,7 @@ class LowerCase : public QValidator {
 
 LineEdit::LineEdit(DWORD style, QWidget& parent) : QLineEdit(&parent), limit_(mostCharacters) {
     keepLimit();
-    if (style & ES_LOWERCASE) setValidator(new LowerCase(this));
+    if (style & ES_LOWERCASE) setValidator(&makeQtChild<LowerCase>(this));
     if (!(style & ES_AUTOHSCROLL)) connect(this, &QLineEdit::textEdited, this, &LineEdit::keepWidth);
     connect(this, &QLineEdit::textChanged, this, [this] {
         keepLimit();

@@ -35,12 +35,12 @@ void ListBoxEntries::clear() {
 }
 
 const std::string& ListBoxEntries::at(int index) const {
-    sort();
+    putInOrder();
     return entries_[static_cast<std::size_t>(index)];
 }
 
 int ListBoxEntries::find(int after, std::string_view prefix) const {
-    sort();
+    putInOrder();
     const std::string wanted = toLower(prefix);
     for (int i = 1; i <= count(); ++i) {
         const int index = (after + i) % count();
@@ -59,12 +59,12 @@ QVariant ListBoxEntries::data(const QModelIndex& index, int role) const {
 void ListBoxEntries::settle() {
     if (shown_ == count()) return;
     beginResetModel();
-    sort();
+    putInOrder();
     shown_ = count();
     endResetModel();
 }
 
-void ListBoxEntries::sort() const {
+void ListBoxEntries::putInOrder() const {
     if (inOrder_ || !sorted_) return;
     inOrder_ = true;
     std::vector<QCollatorSortKey> keys;

@@ -31,7 +31,7 @@ class ListBoxEntries : public QAbstractListModel {
     void settle();
 
   private:
-    void sort() const;
+    void putInOrder() const;
 
     bool sorted_;
     mutable bool inOrder_ = true;

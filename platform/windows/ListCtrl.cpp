@@ -91,6 +91,7 @@ void CListCtrl::SortItems(const std::function<int(LPARAM first, LPARAM second)>&
     ReportView* const view = viewOf(*this);
     if (!view) return;
     std::vector<QTreeWidgetItem*> rows;
+    rows.reserve(static_cast<std::size_t>(view->topLevelItemCount()));
     for (int i = 0; i < view->topLevelItemCount(); ++i) rows.push_back(view->topLevelItem(i));
     std::ranges::stable_sort(rows, [&](const QTreeWidgetItem* a, const QTreeWidgetItem* b) {
         return compare(dataOf(*a), dataOf(*b)) < 0;

@@ -62,7 +62,7 @@ void MultiLineEdit::setLineHeights() {
     margins.setLeftMargin(sideMargin);
     margins.setRightMargin(sideMargin);
     // The letters stand at the lower edge of their line; half of the gap goes below the last one.
-    margins.setTopMargin(-lineGap / 2);
+    margins.setTopMargin(-lineGap / 2.0);
     document()->rootFrame()->setFrameFormat(margins);
     QTextBlockFormat line;
     line.setLineHeight(fontInfo().pixelSize() + lineGap, QTextBlockFormat::FixedHeight);

@@ -1,5 +1,7 @@
 #include "src/app/FindFolderDlg.h"
 
+#include <utility>
+
 #include "platform/framework/DataExchange.h"
 #include "platform/machine/Machine.h"
 #include "platform/windows/MessageMap.h"
@@ -79,7 +81,8 @@ std::string CFindFolderDlg::pathOf(HTREEITEM item) const {
     for (; item; item = m_tree.GetParentItem(item)) {
         std::string text = m_tree.GetItemText(item);
         if (text.ends_with('\\')) text.resize(2);
-        path = path.empty() ? text : text + "\\" + path;
+        if (!path.empty()) text.append("\\").append(path);
+        path = std::move(text);
     }
     return path;
 }
