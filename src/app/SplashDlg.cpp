@@ -69,10 +69,10 @@ bool CSplashDlg::OnEraseBkgnd(CDC& dc) {
     return true;
 }
 
-void CSplashDlg::drawPicture(CDC& dc, CSize part) const {
-    const CBitmap picture = loadPicture(m_nBitmapId);
+void CSplashDlg::drawPicture(CDC& dc, CSize part) {
+    if (!m_picture.loaded()) m_picture = loadPicture(m_nBitmapId);
     CDC memory = CDC::CreateCompatibleDC(dc);
-    memory.SelectObject(picture);
+    memory.SelectObject(m_picture);
     dc.BitBlt(0, 0, part.cx, part.cy, memory, 0, 0);
 }
 

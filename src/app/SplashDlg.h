@@ -17,9 +17,10 @@ class CSplashDlg : public platform::CDialog {
   private:
     void OnPaint();
     bool OnEraseBkgnd(platform::CDC& dc);
-    void drawPicture(platform::CDC& dc, platform::CSize part) const;
+    void drawPicture(platform::CDC& dc, platform::CSize part);
 
     platform::UINT m_nBitmapId;
+    platform::CBitmap m_picture;  ///< of that resource, kept since it is drawn several times in a row
 };
 
 }  // namespace kalyxo
