@@ -21,6 +21,6 @@ in_root() {
         mount -t tmpfs tmpfs "$1/dev/shm"
         root=$1
         shift
-        exec env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LANG=C.UTF-8 DEBIAN_FRONTEND=noninteractive \
+        exec env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/srv LANG=C.UTF-8 DEBIAN_FRONTEND=noninteractive \
             QT_QPA_PLATFORM=offscreen chroot "$root" "$@"' in_root "$@"
 }
