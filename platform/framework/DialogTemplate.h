@@ -43,7 +43,7 @@ struct DialogControl {
 enum class DialogFrame {
     window,  ///< the window system's frame with its caption
     tool,    ///< a thin frame and a small caption with a close box, as of a box of tools
-    plain,   ///< two pixels and no caption
+    plain,   ///< two pixels and no caption; before all windows, without a focus
 };
 
 /// A dialog as it is drawn up: its controls in the order of the tabulator.

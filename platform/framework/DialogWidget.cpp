@@ -37,7 +37,8 @@ Qt::WindowFlags windowFlagsOf(DialogFrame frame) {
         case DialogFrame::tool:
             return Qt::Tool | Qt::FramelessWindowHint;
         case DialogFrame::plain:
-            return Qt::SplashScreen | Qt::FramelessWindowHint;
+            return Qt::SplashScreen | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
+                   Qt::WindowDoesNotAcceptFocus;
         case DialogFrame::window:
             break;
     }

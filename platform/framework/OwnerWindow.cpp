@@ -7,18 +7,30 @@
 
 namespace platform {
 
+namespace {
+
+/// The first window on show that has the flags; null when there is none.
+QWidget* firstOnShow(Qt::WindowFlags flags) {
+    const WindowTable& table = WindowTable::instance();
+    for (const HWND window : table.all()) {
+        QWidget* const widget = table.widget(window);
+        if (widget->isWindow() && widget->isVisible() && (widget->windowFlags() & flags) == flags)
+            return widget;
+    }
+    return nullptr;
+}
+
+}  // namespace
+
 QWidget* ownerWindow() {
+    // What belongs to another window would be behind it.
+    if (QWidget* const top = firstOnShow(Qt::WindowStaysOnTopHint)) return top;
     if (QWidget* const active = QApplication::activeWindow()) {
         // A box of tools only floats before the window that it serves.
         const bool serves = active->windowType() == Qt::Tool && active->parentWidget();
         return serves ? active->parentWidget()->window() : active;
     }
-    const WindowTable& table = WindowTable::instance();
-    for (const HWND window : table.all()) {
-        QWidget* const widget = table.widget(window);
-        if (widget->isWindow() && widget->isVisible()) return widget;
-    }
-    return nullptr;
+    return firstOnShow({});
 }
 
 }  // namespace platform

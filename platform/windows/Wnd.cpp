@@ -172,10 +172,6 @@ void CWnd::SetFocus() {
     if (QWidget* const widget = widgetOf(*this)) giveFocus(*widget);
 }
 
-void CWnd::BringWindowToTop() {
-    if (QWidget* const widget = widgetOf(*this)) widget->raise();
-}
-
 LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (const MessageMapEntry* const row = findMessage(message)) return row->message(*this, wParam, lParam);
     if (message == WM_NOTIFY) return handleNotification(*reinterpret_cast<NMHDR*>(lParam));

@@ -83,8 +83,6 @@ class CWnd : public CCmdTarget {
     void SetCapture();
     static void ReleaseCapture();
     void SetFocus();
-    /// Puts it before the other windows, without a focus.
-    void BringWindowToTop();
 
     /// Delivers a message: the maps first, then the default treatment.
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);

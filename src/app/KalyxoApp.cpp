@@ -58,8 +58,6 @@ bool CKalyxoApp::InitInstance() {
     chooseFirstShow();
     if (!ProcessShellCommand()) return false;
     warnOfFewColours();
-    // The main window has come before it meanwhile.
-    splash.BringWindowToTop();
     platform::Sleep(kStartUpWaitMs);
     splash.DestroyWindow();
     return true;
