@@ -130,7 +130,7 @@ constexpr std::array kDialogs = {
     DialogTemplate{IDD_FIND_FOLDER, "Find Folder", {187, 177}, kFindFolder},
     DialogTemplate{IDD_SEARCH, "Αναζήτηση"_gr, {347, 226}, kSearch},
     // The program gives both their size.
-    DialogTemplate{IDD_SPLASH, {}, {427, 295}, {}, DialogFrame::plain},
+    DialogTemplate{IDD_SPLASH, {}, {1, 1}, {}, DialogFrame::plain},
     DialogTemplate{IDD_TOOL_PANEL, {}, {186, 49}, {}, DialogFrame::tool},
 };
 
