@@ -28,7 +28,11 @@ void Sleep(std::uint32_t milliseconds) {
         return;
     }
     QEventLoop loop;
-    QTimer::singleShot(static_cast<int>(milliseconds), Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    QTimer timer;
+    timer.setSingleShot(true);
+    timer.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
+    timer.start(static_cast<int>(milliseconds));
     loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
