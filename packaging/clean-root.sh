@@ -6,10 +6,10 @@ make_root() {
     apt-get update -q
     apt-get install -q -y --no-install-recommends mmdebstrap
     apt-get indextargets --format 'deb $(REPO_URI) $(RELEASE) $(COMPONENT)' 'Created-By: Packages' 'Origin: Debian' |
-        sort -u >"$1.sources"
+        sort -u >"$1.list"
     local proxies=()
     mapfile -t proxies < <(apt-config dump | grep -i '^Acquire::.*proxy.* ".\+";$' | sed 's/^/--aptopt=/')
-    mmdebstrap --mode=root --variant=apt --skip=cleanup/apt/lists "${proxies[@]}" bookworm "$1" "$1.sources"
+    mmdebstrap --mode=root --variant=apt --skip=cleanup/apt/lists "${proxies[@]}" bookworm "$1" "$1.list"
     cp /etc/resolv.conf "$1/etc/resolv.conf"
 }
 
