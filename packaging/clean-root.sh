@@ -11,6 +11,8 @@ make_root() {
     mapfile -t proxies < <(apt-config dump | grep -i '^Acquire::.*proxy.* ".\+";$' | sed 's/^/--aptopt=/')
     mmdebstrap --mode=root --variant=apt --skip=cleanup/apt/lists "${proxies[@]}" bookworm "$1" "$1.list"
     cp /etc/resolv.conf "$1/etc/resolv.conf"
+    # Where the way to the registry has a certificate of its own, npm needs it in there too.
+    cp "${NODE_EXTRA_CA_CERTS:-/dev/null}" "$1/etc/npm-certificates.pem"
 }
 
 # in_root DIR COMMAND…: runs a command in it, with /proc and /dev, which go with the command.
@@ -22,5 +24,5 @@ in_root() {
         root=$1
         shift
         exec env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/srv LANG=C.UTF-8 DEBIAN_FRONTEND=noninteractive \
-            QT_QPA_PLATFORM=offscreen chroot "$root" "$@"' in_root "$@"
+            NODE_EXTRA_CA_CERTS=/etc/npm-certificates.pem QT_QPA_PLATFORM=offscreen chroot "$root" "$@"' in_root "$@"
 }
