@@ -5,7 +5,6 @@
 #include <random>
 #include <string>
 
-#include "bench/Application.h"
 #include "controls/dataanalyser/AnalyserControl.h"
 #include "controls/dataanalyser/GraphView.h"
 #include "controls/dataanalyser/TableView.h"
@@ -49,7 +48,6 @@ struct Shown {
 };
 
 void SortOf10000Rows(benchmark::State& state) {
-    needApplication();
     Shown shown;
     if (shown.analyser.rows().size() != rowCount) return state.SkipWithError("the rows are not there");
     bool descending = false;
@@ -63,7 +61,6 @@ void SortOf10000Rows(benchmark::State& state) {
 BENCHMARK(SortOf10000Rows)->Arg(0)->Arg(2)->Unit(benchmark::kMillisecond);
 
 void ScrollByAPageIn10000Rows(benchmark::State& state) {
-    needApplication();
     Shown shown;
     QScrollBar* bar = shown.pane.findChild<TableView*>()->verticalScrollBar();
     for (auto _ : state) {
@@ -74,7 +71,6 @@ void ScrollByAPageIn10000Rows(benchmark::State& state) {
 BENCHMARK(ScrollByAPageIn10000Rows)->Unit(benchmark::kMillisecond);
 
 void ScatterPlotOf10000Points(benchmark::State& state) {
-    needApplication();
     Shown shown;
     for (auto _ : state) {
         shown.analyser.setGraphShown(true);
@@ -89,7 +85,6 @@ BENCHMARK(ScatterPlotOf10000Points)->Unit(benchmark::kMillisecond);
 
 /// What a start of the program pays for the component that it does not show yet.
 void CreationOfTheAnalyser(benchmark::State& state) {
-    needApplication();
     QWidget parent;
     for (auto _ : state) {
         Analyser analyser(largeLibrary);

@@ -3,7 +3,6 @@
 #include <QImage>
 #include <string>
 
-#include "bench/Application.h"
 #include "controls/common/QtText.h"
 #include "controls/periodic/PeriodicWidget.h"
 
@@ -14,7 +13,6 @@ namespace {
 using namespace controls::periodic;
 
 void RedrawOfPeriodicTable(benchmark::State& state) {
-    needApplication();
     TableState shown;
     shown.view = *viewOfCode(static_cast<int>(state.range(0)));
     shown.selected = 92;
@@ -37,7 +35,6 @@ BENCHMARK(RedrawOfPeriodicTable)
     ->Args({viewCode(TableView::families), 2});
 
 void CreationOfPeriodicTable(benchmark::State& state) {
-    needApplication();
     for (auto _ : state) {
         const PeriodicWidget table([](int) {}, nullptr);
         benchmark::DoNotOptimize(table.state());

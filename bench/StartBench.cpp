@@ -2,7 +2,6 @@
 #include <unistd.h>
 
 #include <chrono>
-#include <cstdlib>
 #include <filesystem>
 #include <thread>
 
@@ -89,13 +88,3 @@ void ClickToPageShown(benchmark::State& state) {
 BENCHMARK(ClickToPageShown)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(21);
 
 }  // namespace
-
-int main(int argc, char** argv) {
-    // The programs measured inherit it: windows without a screen.
-    ::setenv("QT_QPA_PLATFORM", "offscreen", 0);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}
