@@ -6,7 +6,6 @@
 #include <string>
 
 #include "controls/dataanalyser/AnalyserControl.h"
-#include "controls/dataanalyser/GraphView.h"
 #include "controls/dataanalyser/TableView.h"
 #include "formats/DataSetFile.h"
 
@@ -44,7 +43,7 @@ struct Shown {
         pane.grab();
     }
     Analyser analyser{largeLibrary};
-    AnalyserPane pane{analyser, nullptr};
+    AnalyserPane pane{analyser, linkedGraphParts, nullptr};
 };
 
 void SortOf10000Rows(benchmark::State& state) {
@@ -88,7 +87,7 @@ void CreationOfTheAnalyser(benchmark::State& state) {
     QWidget parent;
     for (auto _ : state) {
         Analyser analyser(largeLibrary);
-        const AnalyserPane pane(analyser, &parent);
+        const AnalyserPane pane(analyser, linkedGraphParts, &parent);
         benchmark::DoNotOptimize(&pane);
     }
 }

@@ -3,7 +3,6 @@
 #include <array>
 
 #include "controls/common/Version.h"
-#include "controls/dataanalyser/GraphView.h"
 #include "platform/automation/DispatchMap.h"
 
 namespace controls::dataanalyser {
@@ -55,11 +54,11 @@ constexpr auto operationInfos = platform::describe(operationTable);
 
 }  // namespace
 
-AnalyserControl::AnalyserControl(platform::ControlSite& site, QWidget* parent)
+AnalyserControl::AnalyserControl(platform::ControlSite& site, QWidget* parent, GraphPartsSource graphs)
     : site_(site),
       analyser_(
           [this] { return dataFolder_.empty() ? DataLibrary() : DataLibrary(site_.files(), dataFolder_); }),
-      pane_(new AnalyserPane(analyser_, parent)) {}
+      pane_(new AnalyserPane(analyser_, graphs, parent)) {}
 
 AnalyserControl::~AnalyserControl() { const std::unique_ptr<AnalyserPane> last(pane_.data()); }
 
@@ -141,17 +140,18 @@ void AnalyserControl::setEntry(std::int16_t index, std::int32_t value) {
 std::int16_t AnalyserControl::copyGraph() { return pane_->copyGraph() ? 1 : 0; }
 
 void AnalyserControl::printView() {
-    if (!analyser_.graphShown()) return;
-    site_.print(documentName, [this](QPainter& painter, const QRect& page, int dotsPerInch) {
+    const GraphParts* graphs = analyser_.graphShown() ? pane_->graphs() : nullptr;
+    if (!graphs) return;
+    site_.print(documentName, [this, graphs](QPainter& painter, const QRect& page, int dotsPerInch) {
         const int margin = page.width() / marginPart;
         QRectF area = page.adjusted(margin, margin, -margin, -margin);
         area.setHeight(std::min(area.height(), area.width() * 0.75));
-        paintGraph(analyser_, painter, area, static_cast<double>(dotsPerInch) / pixelsPerInch);
+        graphs->paint(analyser_, painter, area, static_cast<double>(dotsPerInch) / pixelsPerInch);
     });
 }
 
 std::unique_ptr<platform::Control> createAnalyserControl(platform::ControlSite& site, QWidget* parent) {
-    return std::make_unique<AnalyserControl>(site, parent);
+    return std::make_unique<AnalyserControl>(site, parent, loadGraphParts);
 }
 
 }  // namespace controls::dataanalyser

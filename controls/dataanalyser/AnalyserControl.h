@@ -21,7 +21,7 @@ inline constexpr std::string_view classId = "5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E10
 /// The data analyser as its host sees it; README.md tells what each value of its state means.
 class AnalyserControl : public platform::Control {
   public:
-    AnalyserControl(platform::ControlSite& site, QWidget* parent);
+    AnalyserControl(platform::ControlSite& site, QWidget* parent, GraphPartsSource graphs);
     ~AnalyserControl() override;
     AnalyserControl(const AnalyserControl&) = delete;
     AnalyserControl& operator=(const AnalyserControl&) = delete;

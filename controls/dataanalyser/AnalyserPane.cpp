@@ -2,18 +2,18 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QImage>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMimeData>
+#include <QPainter>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 #include <utility>
 
 #include "controls/common/Appearance.h"
 #include "controls/common/QtText.h"
-#include "controls/dataanalyser/GraphChart.h"
-#include "controls/dataanalyser/GraphMarks.h"
 #include "controls/dataanalyser/GraphStrip.h"
-#include "controls/dataanalyser/GraphView.h"
 #include "controls/dataanalyser/MessageLine.h"
 #include "controls/dataanalyser/StyleRules.h"
 #include "controls/dataanalyser/TableStrip.h"
@@ -31,7 +31,8 @@ constexpr double pictureScale = 2;
 
 }  // namespace
 
-AnalyserPane::AnalyserPane(Analyser& analyser, QWidget* parent) : QWidget(parent), analyser_(analyser) {
+AnalyserPane::AnalyserPane(Analyser& analyser, GraphPartsSource source, QWidget* parent)
+    : QWidget(parent), analyser_(analyser), graphsSource_(source) {
     setAccessibleName(QStringLiteral("Αναλυτής δεδομένων"));
     setFocusPolicy(Qt::StrongFocus);
     analyser_.setListener([this](Change change) { noteChange(change); });
@@ -71,13 +72,27 @@ void AnalyserPane::build() {
     refreshNow();
 }
 
-void AnalyserPane::buildGraph() {
-    graph_ = new GraphView(
-        analyser_, [this] { copyGraph(); }, this);
-    views_->addWidget(graph_);
+QWidget& AnalyserPane::shownGraph() {
+    if (!graph_ && graphs()) {
+        graph_ = graphs()->makePane(
+            analyser_, [this] { copyGraph(); }, this);
+        views_->addWidget(&graph_->widget());
+    }
+    if (graph_) return graph_->widget();
+    if (!noGraph_) {
+        noGraph_ = new QLabel(QStringLiteral("Δεν είναι δυνατό να φορτωθούν τα γραφήματα."), this);
+        noGraph_->setAlignment(Qt::AlignCenter);
+        views_->addWidget(noGraph_);
+    }
+    return *noGraph_;
 }
 
 // NOLINTEND(cppcoreguidelines-owning-memory)
+
+const GraphParts* AnalyserPane::graphs() {
+    if (!graphs_) graphs_ = graphsSource_();
+    return graphs_;
+}
 
 void AnalyserPane::noteChange(Change change) {
     if (!views_) return;
@@ -109,28 +124,27 @@ void AnalyserPane::refreshTable() {
 void AnalyserPane::refreshView() {
     const bool graphShown = analyser_.graphShown();
     graphStrip_->setVisible(graphShown);
-    if (graphShown) {
-        if (!graph_) buildGraph();
-        graphStrip_->refresh();
-        graph_->refresh();
-    }
-    QWidget* shown = graphShown ? static_cast<QWidget*>(graph_) : table_;
-    const bool hadFocus = hasFocus() || table_->hasFocus() || (graph_ && graph_->hasFocus());
+    QWidget* shown = graphShown ? &shownGraph() : table_;
+    if (graphShown) graphStrip_->refresh();
+    if (graphShown && graph_) graph_->refresh();
+    const bool hadFocus = hasFocus() || views_->currentWidget()->hasFocus();
     views_->setCurrentWidget(shown);
     setFocusProxy(shown);
     if (hadFocus) shown->setFocus();
+}
+
+QString AnalyserPane::leftOutNote() const {
+    const int rows = graph_ && analyser_.graphShown() ? graph_->leftOut() : 0;
+    if (rows == 0) return {};
+    return rows == 1 ? QStringLiteral(" · 1 γραμμή δεν έχει τιμή που να φαίνεται εδώ")
+                     : QStringLiteral(" · %1 γραμμές δεν έχουν τιμή που να φαίνεται εδώ").arg(rows);
 }
 
 void AnalyserPane::refreshMessage() {
     const std::string& source = analyser_.dataSet().source;
     QString note;
     if (!source.empty()) note = QStringLiteral("Πηγή: %1").arg(toQt(source));
-    if (analyser_.graphShown()) {
-        const int leftOut = graph_->graphChart().marks().scenery().graph.leftOut;
-        if (leftOut == 1) note += QStringLiteral(" · 1 γραμμή δεν έχει τιμή που να φαίνεται εδώ");
-        if (leftOut > 1)
-            note += QStringLiteral(" · %1 γραμμές δεν έχουν τιμή που να φαίνεται εδώ").arg(leftOut);
-    }
+    note += leftOutNote();
     QStringList warnings;
     for (const std::string& remark : analyser_.library().remarks()) warnings += toQt(remark);
     message_->setTexts(note, warnings);
@@ -162,12 +176,19 @@ void AnalyserPane::copyRows(std::vector<int> rows) const {
 }
 
 QSize AnalyserPane::graphSize() const {
-    return graph_ && graph_->isVisible() ? graph_->size().expandedTo(leastGraph) : usualGraph;
+    const bool visible = graph_ && graph_->widget().isVisible();
+    return visible ? graph_->widget().size().expandedTo(leastGraph) : usualGraph;
 }
 
 bool AnalyserPane::copyGraph() {
-    if (!analyser_.graphShown()) return false;
-    QGuiApplication::clipboard()->setImage(graphPicture(analyser_, graphSize(), pictureScale));
+    if (!analyser_.graphShown() || !graphs()) return false;
+    QImage picture(graphSize() * pictureScale, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    graphs()->paint(analyser_, painter, QRectF(picture.rect()), pictureScale);
+    painter.end();
+    QGuiApplication::clipboard()->setImage(picture);
     return true;
 }
 

@@ -5,13 +5,14 @@
 #include <set>
 
 #include "controls/dataanalyser/Analyser.h"
+#include "controls/dataanalyser/GraphParts.h"
 
+class QLabel;
 class QStackedWidget;
 
 namespace controls::dataanalyser {
 
 class GraphStrip;
-class GraphView;
 class MessageLine;
 class TableStrip;
 class TableView;
@@ -21,15 +22,17 @@ class TableView;
 /// for.
 class AnalyserPane : public QWidget {
   public:
-    AnalyserPane(Analyser& analyser, QWidget* parent);
+    AnalyserPane(Analyser& analyser, GraphPartsSource source, QWidget* parent);
     ~AnalyserPane() override;
 
     /// Put the rows on the clipboard as text and as an HTML table; without a selected row the second changes
     /// nothing.
     void copyAll() const;
     void copySelected() const;
-    /// Puts the graph on the clipboard as a picture; false when the table is shown.
+    /// Puts the graph on the clipboard as a picture; false when there is none on show.
     bool copyGraph();
+    /// What draws graphs, got when it is first asked for; null when it is not there.
+    const GraphParts* graphs();
     /// The size in which a graph looks as on the screen.
     QSize graphSize() const;
 
@@ -45,21 +48,25 @@ class AnalyserPane : public QWidget {
 
   private:
     void build();
-    void buildGraph();
+    QWidget& shownGraph();
     void noteChange(Change change);
     void refreshTable();
     void refreshView();
+    QString leftOutNote() const;
     void refreshMessage();
     void copyRows(std::vector<int> rows) const;
 
     Analyser& analyser_;
+    GraphPartsSource graphsSource_;
+    const GraphParts* graphs_ = nullptr;
     std::set<Change> changes_;  // since the last refreshing
     bool scheduled_ = false;
     TableStrip* strip_ = nullptr;
     GraphStrip* graphStrip_ = nullptr;
     QStackedWidget* views_ = nullptr;
     TableView* table_ = nullptr;
-    GraphView* graph_ = nullptr;
+    GraphPane* graph_ = nullptr;
+    QLabel* noGraph_ = nullptr;
     MessageLine* message_ = nullptr;
 };
 

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "controls/common/Appearance.h"
+#include "controls/common/Version.h"
 #include "controls/dataanalyser/Analyser.h"
 #include "controls/dataanalyser/GraphChart.h"
 #include "controls/dataanalyser/GraphMarks.h"
@@ -40,6 +41,8 @@ GraphView::GraphView(Analyser& analyser, std::function<void()> copy, QWidget* pa
 }
 
 void GraphView::refresh() { chart_->showGraph(analyser_); }
+
+int GraphView::leftOut() const { return chart_->marks().scenery().graph.leftOut; }
 
 GraphWindow GraphView::window() const { return chart_->marks().scenery().window; }
 
@@ -186,6 +189,13 @@ void GraphView::leaveEvent(QEvent* event) {
     chart_->setHovered(-1);
 }
 
+namespace {
+
+GraphPane* makePane(Analyser& analyser, std::function<void()> copy, QWidget* parent) {
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): its Qt parent has it
+    return new GraphView(analyser, std::move(copy), parent);
+}
+
 void paintGraph(Analyser& analyser, QPainter& painter, const QRectF& area, double unitsPerPixel) {
     GraphView view(
         analyser, [] {}, nullptr);
@@ -197,13 +207,11 @@ void paintGraph(Analyser& analyser, QPainter& painter, const QRectF& area, doubl
     view.scene()->render(&painter, area, QRectF(QPointF(), QSizeF(view.size())), Qt::KeepAspectRatio);
 }
 
-QImage graphPicture(Analyser& analyser, const QSize& size, double scale) {
-    QImage picture(size * scale, QImage::Format_RGB32);
-    picture.fill(Qt::white);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    paintGraph(analyser, painter, QRectF(QPointF(), QSizeF(picture.size())), scale);
-    return picture;
+}  // namespace
+
+const GraphParts* linkedGraphParts() {
+    static constexpr GraphParts parts{controls::version, makePane, paintGraph};
+    return &parts;
 }
 
 }  // namespace controls::dataanalyser

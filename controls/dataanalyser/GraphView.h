@@ -1,9 +1,10 @@
 #pragma once
 
 #include <QChartView>
-#include <QImage>
 #include <functional>
 #include <optional>
+
+#include "controls/dataanalyser/GraphParts.h"
 
 class QRubberBand;
 
@@ -14,15 +15,15 @@ class GraphChart;
 struct GraphWindow;
 
 /// The graph on the screen: names under the pointer, zoom by wheel, frame and keys.
-class GraphView : public QChartView {
+class GraphView : public QChartView, public GraphPane {
   public:
     /// `copy` is called when the reader asks to copy the graph by key.
     GraphView(Analyser& analyser, std::function<void()> copy, QWidget* parent);
 
-    /// Draws everything anew.
-    void refresh();
-    /// Shows a part that is wider by the factor, about the middle; 0 shows the whole graph.
-    void zoom(double factor);
+    QWidget& widget() override { return *this; }
+    void refresh() override;
+    void zoom(double factor) override;
+    int leftOut() const override;
 
     GraphChart& graphChart() { return *chart_; }
 
@@ -54,11 +55,5 @@ class GraphView : public QChartView {
     QRubberBand* frame_;
     std::optional<QPoint> pressed_;
 };
-
-/// The graph as the analyser tells of it, drawn for its own sake.
-QImage graphPicture(Analyser& analyser, const QSize& size, double scale);
-/// Draws it on a page; `area` is in the painter's own units, `unitsPerPixel` how many of them a pixel of the
-/// screen is to take.
-void paintGraph(Analyser& analyser, QPainter& painter, const QRectF& area, double unitsPerPixel);
 
 }  // namespace controls::dataanalyser

@@ -59,19 +59,15 @@ Problem makeFolders(Machine& machine, const NewMachineOptions& options) {
     return std::nullopt;
 }
 
-bool isModule(const fs::directory_entry& entry) {
-    std::error_code ignored;
-    return entry.is_regular_file(ignored) && equalsNoCase(entry.path().extension().string(), ".ocx");
-}
-
 Problem copyModules(const FileSystem& files, const NewMachineOptions& options) {
     if (options.modulesFrom.empty()) return std::nullopt;
     const auto target = files.nativePath(options.modulesTo);
     std::size_t copied = 0;
     std::error_code error;
+    std::error_code ignored;
     for (fs::directory_iterator it(options.modulesFrom, error), end; !error && it != end;
          it.increment(error)) {
-        if (!isModule(*it)) continue;
+        if (!it->is_regular_file(ignored) || !isModule(it->path())) continue;
         if (!target || !copyFileOver(it->path(), *target / it->path().filename())) {
             return it->path().string() + ": cannot be copied to " + toUtf8(options.modulesTo);
         }
@@ -115,6 +111,11 @@ Problem fillDrives(Machine& machine, const NewMachineOptions& options) {
 }
 
 }  // namespace
+
+bool isModule(const fs::path& file) {
+    const std::string extension = file.extension().string();
+    return equalsNoCase(extension, ".ocx") || equalsNoCase(extension, ".so");
+}
 
 std::optional<std::string> makeMachine(const fs::path& folder, const NewMachineOptions& options) {
     std::error_code error;

@@ -28,13 +28,17 @@ struct NewMachineFile {
 struct NewMachineOptions {
     MachineConfig config;               ///< written to machine.json with the compact disc added
     std::filesystem::path discFolder;   ///< host folder that is the compact disc D:; none when empty
-    std::filesystem::path modulesFrom;  ///< host folder whose *.ocx files are copied; none when empty
+    std::filesystem::path modulesFrom;  ///< host folder whose `isModule` files are copied; none when empty
     std::string modulesTo;              ///< folder on the machine that receives them
     std::string settingsKey;  ///< key under HKEY_LOCAL_MACHINE, made even without values; none when empty
     std::vector<std::pair<std::string, std::variant<std::string, std::uint32_t>>> settings;  ///< its values
     std::vector<NewMachineComponent> components;  ///< registered as lying in `modulesTo`
     std::vector<NewMachineFile> files;            ///< written after all else, with the folders above them
 };
+
+/// Whether a file of a folder of modules is one: a component (.ocx), or a library that a component loads
+/// (.so).
+bool isModule(const std::filesystem::path& file);
 
 /// Makes a machine folder: machine.json, registry.reg, drive C: with the program file (a placeholder that its
 /// path names), the temporary and system folders, the component modules and the files asked for. A folder

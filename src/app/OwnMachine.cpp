@@ -81,7 +81,7 @@ void updateModules(Machine& machine, const fs::path& modules) {
     if (!target || modules.empty()) return;
     for (fs::directory_iterator at(modules, error), end; !error && at != end; at.increment(error)) {
         const fs::path copy = *target / at->path().filename();
-        if (at->path().extension() == ".ocx" && !sameContent(at->path(), copy)) {
+        if (platform::isModule(at->path()) && !sameContent(at->path(), copy)) {
             platform::copyFileOver(at->path(), copy);
         }
     }

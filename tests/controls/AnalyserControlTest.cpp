@@ -5,9 +5,11 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QImage>
+#include <QLabel>
 #include <QMimeData>
 #include <QTemporaryDir>
 #include <QTest>
+#include <algorithm>
 #include <bit>
 #include <cstring>
 #include <fstream>
@@ -141,7 +143,7 @@ class AnalyserControlTest : public testing::Test {
     static QString copiedText() { return QGuiApplication::clipboard()->text(); }
 
     DataSite site_;
-    AnalyserControl control_{site_, nullptr};
+    AnalyserControl control_{site_, nullptr, linkedGraphParts};
 
   private:
     std::int16_t place(std::int32_t word) {
@@ -239,7 +241,7 @@ TEST_F(AnalyserControlTest, EachOperationTakesItsArgumentsAndNoOthers) {
 
 TEST(AnalyserCreation, ReadsAndShowsNothingBeforeItIsShown) {
     RecordingSite site;  // asking it for files ends the test
-    AnalyserControl control(site, nullptr);
+    AnalyserControl control(site, nullptr, linkedGraphParts);
     call(control, 10, std::int32_t{1103}, std::string("D:\\"));
     EXPECT_EQ(property<std::int16_t>(control, 2), 0);
     EXPECT_TRUE(control.widget().children().isEmpty());
@@ -434,6 +436,22 @@ TEST_F(AnalyserControlTest, GraphIsCopiedAndPrintedOnlyWhenShown) {
     call(control_, 23);
     EXPECT_EQ(site_.printed, std::vector<std::string>{"Kalyxo"});
     EXPECT_FALSE(isBlank(site_.page));
+}
+
+TEST(AnalyserControlWithoutGraphs, SaysSoAndCopiesAndPrintsNothing) {
+    DataSite site;
+    AnalyserControl control(site, nullptr, [] { return static_cast<const GraphParts*>(nullptr); });
+    control.widget().show();
+    put(control, 2, std::int16_t{1});
+    static_cast<AnalyserPane&>(control.widget()).refreshNow();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(std::ranges::any_of(control.widget().findChildren<QLabel*>(), [](const QLabel* label) {
+        return label->isVisible() &&
+               label->text().contains(QStringLiteral("δεν είναι δυνατό"), Qt::CaseInsensitive);
+    }));
+    EXPECT_EQ(ask<std::int16_t>(control, 22, InvokeKind::method), 0);
+    call(control, 23);
+    EXPECT_TRUE(site.printed.empty());
 }
 
 TEST_F(AnalyserControlTest, PointerTellsThePointsName) {

@@ -17,6 +17,7 @@ class NewMachineTest : public ::testing::Test {
         host.write("disc/a.htm", "start");
         host.write("modules/one.ocx", "module one");
         host.write("modules/TWO.OCX", "module two");
+        host.write("modules/three.so", "library of a module");
         host.write("modules/readme.txt", "no module");
         options.discFolder = host / "disc";
         options.modulesFrom = host / "modules";
@@ -45,7 +46,7 @@ TEST_F(NewMachineTest, HoldsAllThatWasAskedFor) {
     EXPECT_TRUE(files.isFolder("C:\\Windows\\System"));
     EXPECT_EQ(files.readAll("C:\\Kalyxo\\ActiveX\\one.ocx", 99), "module one");
     EXPECT_EQ(files.readAll("C:\\Kalyxo\\ActiveX\\two.ocx", 99), "module two");
-    EXPECT_EQ(files.listFolder("C:\\Kalyxo\\ActiveX")->size(), 2U);
+    EXPECT_EQ(files.listFolder("C:\\Kalyxo\\ActiveX")->size(), 3U);
     EXPECT_EQ(files.readAll("C:\\Kalyxo\\cset.ini", 99), "[Settings]\r\n");
     EXPECT_EQ(files.readAll("C:\\New\\Deep\\f", 99), "x");
 

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <csignal>
+#include <fstream>
 #include <utility>
 
 namespace scenario {
@@ -76,6 +77,14 @@ std::optional<std::string> DriverProcess::readLine() {
     std::string line = m_read.substr(0, end);
     m_read.erase(0, end + 1);
     return line;
+}
+
+bool DriverProcess::HasLoaded(const std::string& name) const {
+    std::ifstream maps("/proc/" + std::to_string(m_pid) + "/maps");
+    for (std::string line; std::getline(maps, line);) {
+        if (line.find('/' + name) != std::string::npos) return true;
+    }
+    return false;
 }
 
 int DriverProcess::Finish() {

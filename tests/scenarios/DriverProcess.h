@@ -22,6 +22,8 @@ class DriverProcess {
     /// Writes a line and waits for the one that answers it; nothing when the process ends or takes longer
     /// than a minute.
     std::optional<std::string> Ask(const std::string& line);
+    /// Whether a library whose file is called so, as far as `name` goes, is in the process.
+    bool HasLoaded(const std::string& name) const;
     /// Closes its input and waits for its end: the exit status, or 128 and the signal's number.
     int Finish();
 

@@ -55,13 +55,15 @@ struct CheckForm {
     bool value;
 };
 
-constexpr std::array<CheckForm, 6> kChecks = {{
+constexpr std::array<CheckForm, 8> kChecks = {{
     {"file", false},
     {"no-file", false},
     {"contains", true},
     {"lacks", true},
     {"bytes", true},
     {"count", true},
+    {"loaded", false},
+    {"not-loaded", false},
 }};
 
 using Parsed = std::optional<decltype(Step::action)>;

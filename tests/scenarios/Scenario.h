@@ -37,7 +37,7 @@ struct Capture {
     Json fragment;
 };
 
-/// `#? WHAT FILE [JSON]`: what must be true of a file of the machine.
+/// `#? WHAT FILE [JSON]`: what must be true of a file of the machine, or a library of the program.
 struct FileCheck {
     std::string what;
     std::string file;

@@ -79,7 +79,12 @@ void ScenarioRun::perform(const Capture& capture) {
 }
 
 void ScenarioRun::perform(const FileCheck& check) {
-    if (const auto problem = m_machine.Check(check)) fail(*problem);
+    if (check.what.ends_with("loaded")) {
+        const bool loaded = m_driver && m_driver->HasLoaded(check.file);
+        if (loaded != (check.what == "loaded")) fail(check.file + (loaded ? " is loaded" : " is not loaded"));
+    } else if (const auto problem = m_machine.Check(check)) {
+        fail(*problem);
+    }
 }
 
 bool ScenarioRun::startDriver() {
