@@ -53,7 +53,8 @@ constexpr std::array kRequired = {
 }  // namespace
 
 std::optional<std::string> HostedComponents::Create(CWnd& view, const ComponentSurroundings& surroundings,
-                                                    ComponentVersions& versions) {
+                                                    ComponentVersions& versions,
+                                                    SelectWindows& selectWindows) {
     const Creation creation{view, surroundings.programFolder};
     if (!creation.create(periodicTable, "PTable", IDC_PERIODIC_TABLE, kPeriodTableFile)) {
         return std::string(platform::LoadString(IDS_NO_PERIODIC_TABLE));
@@ -65,6 +66,8 @@ std::optional<std::string> HostedComponents::Create(CWnd& view, const ComponentS
         return "Browser selection component not installed correctly";
     }
     select.Initialise(kSelectHostCode, surroundings.dataFolder, view.GetSafeHwnd());
+    selectWindows.edit = select.GetEditWindow();
+    selectWindows.target = select.GetAuxHandle();
     versions.select = select.Version();
 
     if (!creation.create(dataAnalyser, "DataAn", IDC_DATA_ANALYSER, kDataAnalFile)) {

@@ -21,6 +21,12 @@ struct ComponentVersions {
     std::string zoom;
 };
 
+/// The browse selection's windows that the program has to do with.
+struct SelectWindows {
+    platform::HWND edit = 0;    ///< its text field
+    platform::HWND target = 0;  ///< takes the notice of Enter in it
+};
+
 /// Where the components find their content, and who hosts them.
 struct ComponentSurroundings {
     std::string programFolder;  ///< no trailing backslash; its ActiveX folder holds the component files
@@ -33,7 +39,7 @@ class HostedComponents {
     /// Creates them hidden in `view`, in their order, and readies them. A component that cannot be created is
     /// registered from the ActiveX folder and tried once more; the text for the user when that fails too.
     std::optional<std::string> Create(platform::CWnd& view, const ComponentSurroundings& surroundings,
-                                      ComponentVersions& versions);
+                                      ComponentVersions& versions, SelectWindows& selectWindows);
 
     CPeriodTable periodicTable;
     CSelect select;

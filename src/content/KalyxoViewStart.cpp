@@ -63,14 +63,13 @@ CacheLocation CKalyxoView::cacheLocation() const {
 bool CKalyxoView::createComponents() {
     CKalyxoApp& app = TheApp();
     const ComponentSurroundings surroundings{app.m_strProgramFolder, app.m_strDataFolder};
-    const std::optional<std::string> failure = m_components.Create(*this, surroundings, app.m_versions);
-    if (failure) {
-        AfxMessageBox(*failure);
-        return false;
-    }
-    app.m_hwndSelectEdit = m_components.select.GetEditWindow();
-    app.m_hwndSelectTarget = m_components.select.GetAuxHandle();
-    return true;
+    SelectWindows windows;
+    const std::optional<std::string> failure =
+        m_components.Create(*this, surroundings, app.m_versions, windows);
+    app.m_hwndSelectEdit = windows.edit;
+    app.m_hwndSelectTarget = windows.target;
+    if (failure) AfxMessageBox(*failure);
+    return !failure;
 }
 
 void CKalyxoView::CheckComponentVersions() {
