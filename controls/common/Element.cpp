@@ -66,6 +66,12 @@ Block Element::block() const {
     return group() <= 12 ? Block::d : Block::p;
 }
 
+bool Element::sublimes() const {
+    const auto melting = meltingPoint.value();
+    const auto boiling = boilingPoint.value();
+    return melting && boiling && *boiling < *melting;
+}
+
 Matter Element::matterAt(double kelvin) const {
     const auto melting = meltingPoint.value();
     const auto boiling = boilingPoint.value();
@@ -73,7 +79,7 @@ Matter Element::matterAt(double kelvin) const {
     if (!melting) return Matter::unknown;
     // Helium freezes under pressure only.
     if (kelvin < *melting) return number == helium ? Matter::liquid : Matter::solid;
-    if (boiling) return *boiling < *melting ? Matter::solid : Matter::liquid;
+    if (boiling) return sublimes() ? Matter::solid : Matter::liquid;
     return Matter::unknown;
 }
 

@@ -60,7 +60,7 @@ struct Element {
     Family family;
     Figure mass;               ///< relative atomic mass; or a mass number, see hasStandardMass
     Figure meltingPoint;       ///< K
-    Figure boilingPoint;       ///< K, for arsenic the point of sublimation
+    Figure boilingPoint;       ///< K, or the point of sublimation, see sublimes
     Figure density;            ///< g/cm³: solids and liquids near 20 °C, gases at 0 °C and one atmosphere
     Figure electronegativity;  ///< Pauling's scale
     Figure ionisation;         ///< first ionisation energy, eV
@@ -76,6 +76,8 @@ struct Element {
     /// 1 to 18, or 0 for lanthanides and actinides, which belong to none.
     int group() const;
     Block block() const;
+    /// Whether it goes over into gas before it would melt; it melts under pressure only.
+    bool sublimes() const;
     /// The state at one atmosphere; unknown where it depends on a point that is not known.
     Matter matterAt(double kelvin) const;
     /// The state at 25 °C.

@@ -31,6 +31,13 @@ QString matterText(Matter matter) {
     return QStringLiteral("–");
 }
 
+QString factName(const Element& element, Quantity quantity) {
+    if (quantity == Quantity::crust) return QStringLiteral("Στον φλοιό της Γης");
+    if (quantity == Quantity::melting && element.sublimes()) return QStringLiteral("Τήξη υπό πίεση");
+    if (quantity == Quantity::boiling && element.sublimes()) return QStringLiteral("Εξάχνωση");
+    return toQt(quantityName(quantity));
+}
+
 Fact matterFact(const Element& element, const TableState& state) {
     const bool chosen = state.view == TableView::matter;
     const double kelvin = chosen ? state.kelvin : roomTemperature;
@@ -154,9 +161,7 @@ std::vector<Fact> factsOf(const Element& element, const TableState& state) {
     }
     std::vector<Fact> facts;
     for (const Quantity quantity : quantities) {
-        const QString name =
-            quantity == crust ? QStringLiteral("Στον φλοιό της Γης") : toQt(quantityName(quantity));
-        facts.push_back({name, valueWithUnit(element, quantity)});
+        facts.push_back({factName(element, quantity), valueWithUnit(element, quantity)});
     }
     facts.insert(facts.begin() + (first ? 1 : 0), matterFact(element, state));
     return facts;

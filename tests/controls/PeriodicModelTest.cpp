@@ -92,7 +92,7 @@ TEST(QuantityScale, EveryValueHasAPlaceAndOnlyTinyAbundancesShareTheEnd) {
         }
     }
     EXPECT_NEAR(QuantityScale(Quantity::crust).position(10), 0.5, 1e-9);
-    EXPECT_NEAR(QuantityScale(Quantity::melting).position(1000), 0.25, 1e-9);
+    EXPECT_NEAR(QuantityScale(Quantity::melting).position(1000), 0.2, 1e-9);
     EXPECT_FALSE(QuantityScale(Quantity::discovery, true).logarithmic());
 }
 
@@ -154,6 +154,8 @@ TEST(ElementCard, TheViewsOwnFactComesFirst) {
     EXPECT_EQ(facts.front().value, QStringLiteral("132 pm"));
     EXPECT_EQ(facts[1].value, QStringLiteral("υγρό")) << "the temperature belongs to the view of matter";
     EXPECT_EQ(facts.size(), static_cast<std::size_t>(quantityCount) + 1);
+    state.view = TableView::boiling;
+    EXPECT_EQ(factsOf(*findElement(33), state).front().label, QStringLiteral("Εξάχνωση"));
 }
 
 }  // namespace
