@@ -12,7 +12,6 @@ namespace controls::periodic {
 namespace {
 
 using platform::InvokeKind;
-using platform::Variant;
 
 class PeriodicControlTest : public testing::Test {
   protected:
@@ -43,38 +42,11 @@ class PeriodicControlTest : public testing::Test {
 };
 
 TEST_F(PeriodicControlTest, OperationsById) {
-    EXPECT_EQ(property<std::string>(control_, 1), "1.0.40");
     EXPECT_TRUE(ask<bool>(control_, 2, InvokeKind::method, std::string("D:\\")));
     EXPECT_FALSE(ask<bool>(control_, 2, InvokeKind::method, std::string()));
     call(control_, 3);
     EXPECT_EQ(stateA(), 0);
     EXPECT_EQ(stateB(), 0);
-}
-
-TEST_F(PeriodicControlTest, RefusesWrongKindsTypesAndNumbersOfArguments) {
-    const std::vector<Variant> some{Variant(), Variant(std::int16_t{1}), Variant(std::int32_t{1}),
-                                    Variant(true), Variant(std::string("x"))};
-    const auto matches = [](const Variant& value, platform::TypeCode type) {
-        return (type == platform::TypeCode::i4 && value.get<std::int32_t>()) ||
-               (type == platform::TypeCode::text && value.get<std::string>());
-    };
-    for (const auto& operation : control_.operations()) {
-        for (const InvokeKind kind : {InvokeKind::method, InvokeKind::propertyGet, InvokeKind::propertyPut}) {
-            for (std::size_t count = 0; count <= operation.arguments.size() + 1; ++count) {
-                for (const Variant& value : some) {
-                    const bool fits = kind == operation.kind && count == operation.arguments.size() &&
-                                      std::ranges::all_of(operation.arguments,
-                                                          [&](auto type) { return matches(value, type); });
-                    const std::vector<Variant> arguments(count, value);
-                    EXPECT_EQ(control_.invoke(operation.dispid, kind, arguments).has_value(), fits)
-                        << operation.name << ' ' << count;
-                }
-            }
-        }
-    }
-    EXPECT_FALSE(invoke(control_, 0, InvokeKind::method));
-    EXPECT_FALSE(invoke(control_, 7, InvokeKind::method));
-    EXPECT_FALSE(invoke(control_, 6, InvokeKind::method, std::int32_t{1}, std::int16_t{0}));
 }
 
 TEST_F(PeriodicControlTest, StateComesBackAndNonsenseFallsBack) {

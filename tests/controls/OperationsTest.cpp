@@ -1,0 +1,146 @@
+#include <algorithm>
+#include <string>
+
+#include "controls/dataanalyser/AnalyserControl.h"
+#include "controls/molctrl/MoleculeController.h"
+#include "controls/periodic/PeriodicControl.h"
+#include "controls/select/SelectControl.h"
+#include "controls/zoom/MoleculeZoom.h"
+#include "tests/controls/RecordingSite.h"
+
+/// What each component offers its host, and that it takes nothing else.
+namespace controls {
+namespace {
+
+using platform::InvokeKind;
+using platform::OperationInfo;
+using platform::TypeCode;
+using platform::Variant;
+
+constexpr InvokeKind kinds[] = {InvokeKind::method, InvokeKind::propertyGet, InvokeKind::propertyPut};
+constexpr TypeCode argumentTypes[] = {TypeCode::i2, TypeCode::i4, TypeCode::boolean, TypeCode::text};
+
+struct Component {
+    const char* name;
+    platform::ControlFactory create;
+    /// A line for each operation: id, kind, name, types of the arguments.
+    const char* operations;
+};
+
+const Component components[] = {
+    {"periodic table", periodic::createPeriodicControl,
+     "1 get Version\n2 call SetDataFolder text\n3 call Redraw\n4 call GetStateA\n5 call GetStateB\n"
+     "6 call SetState I4 I4\n"},
+    {"browse selection", select::createSelectControl,
+     "1 get Version\n2 call GetPageTitle I4\n3 call Initialise I2 text I4\n4 call GetItemTitle I4\n"
+     "5 call SetSection I2\n6 call ShowItem I4 I4 BOOL\n7 call GetAuxHandle\n8 call GetEditWindow\n"},
+    {"data analyser", dataanalyser::createAnalyserControl,
+     "1 get Version\n2 get ViewMode\n2 put ViewMode I2\n3 get Option3\n3 put Option3 I2\n4 get Option4\n"
+     "4 put Option4 I4\n5 get Flag5\n5 put Flag5 BOOL\n6 get Flag6\n6 put Flag6 BOOL\n7 get Option7\n"
+     "7 put Option7 I2\n8 get Value8\n9 get Value9\n10 call Initialise I4 text\n11 call CopyAllData\n"
+     "12 call CopySelection\n13 call GetMode\n14 call GetEntryCountRef\n15 call SetMode I2\n"
+     "16 call SetEntryCountRef I4\n17 call GetValue11\n18 call SetValues I4 I2 I4\n20 call SetEntry I2 I4\n"
+     "21 call GetEntry I2\n22 call CopyGraph\n23 call PrintView\n"},
+    {"molecule controller", molctrl::createMoleculeController, "1 get Version\n"},
+    {"molecule zoom", zoom::createMoleculeZoom, "1 call GetVersion\n"},
+};
+
+Variant valueOf(TypeCode type) {
+    switch (type) {
+        case TypeCode::i2:
+            return Variant(std::int16_t{1});
+        case TypeCode::i4:
+            return Variant(std::int32_t{1});
+        case TypeCode::boolean:
+            return Variant(true);
+        case TypeCode::text:
+            return Variant(std::string("x"));
+        default:
+            return {};
+    }
+}
+
+std::string lineOf(const OperationInfo& operation) {
+    constexpr const char* words[] = {"I2", "I4", "BOOL", "text"};
+    std::string line = std::to_string(operation.dispid);
+    line += operation.kind == InvokeKind::method        ? " call "
+            : operation.kind == InvokeKind::propertyGet ? " get "
+                                                        : " put ";
+    line += operation.name;
+    for (const TypeCode type : operation.arguments) {
+        const auto* at = std::ranges::find(argumentTypes, type);
+        line += ' ';
+        line += at == std::end(argumentTypes) ? "?" : words[at - std::begin(argumentTypes)];
+    }
+    return line + '\n';
+}
+
+std::vector<Variant> fitting(const OperationInfo& operation) {
+    std::vector<Variant> values;
+    for (const TypeCode type : operation.arguments) values.push_back(valueOf(type));
+    return values;
+}
+
+void refusesMisfits(platform::Control& control, const OperationInfo& operation) {
+    SCOPED_TRACE(operation.name);
+    const auto refuses = [&](const std::vector<Variant>& arguments) {
+        EXPECT_FALSE(control.invoke(operation.dispid, operation.kind, arguments));
+    };
+    std::vector<Variant> arguments = fitting(operation);
+    arguments.emplace_back(std::int32_t{1});
+    refuses(arguments);
+    for (std::size_t i = 0; i < operation.arguments.size(); ++i) {
+        arguments = fitting(operation);
+        arguments[i] = Variant();
+        refuses(arguments);
+        for (const TypeCode type : argumentTypes) {
+            arguments[i] = valueOf(type);
+            if (type != operation.arguments[i]) refuses(arguments);
+        }
+        refuses({arguments.begin(), arguments.begin() + static_cast<std::ptrdiff_t>(i)});
+    }
+}
+
+TEST(Operations, AreThoseOfTheInterfaceAndTakeTheirArgumentsOnly) {
+    for (const Component& component : components) {
+        SCOPED_TRACE(component.name);
+        RecordingSite site;
+        const auto control = component.create(site, nullptr);
+        std::string lines;
+        for (const OperationInfo& operation : control->operations()) {
+            lines += lineOf(operation);
+            refusesMisfits(*control, operation);
+        }
+        EXPECT_EQ(lines, component.operations);
+        EXPECT_TRUE(site.events.empty());
+    }
+}
+
+TEST(Operations, OfAnotherNumberOrKindAreRefused) {
+    for (const Component& component : components) {
+        SCOPED_TRACE(component.name);
+        RecordingSite site;
+        const auto control = component.create(site, nullptr);
+        for (std::int32_t dispid = -2; dispid < 30; ++dispid) {
+            for (const InvokeKind kind : kinds) {
+                const auto is = [&](const OperationInfo& each) {
+                    return each.dispid == dispid && each.kind == kind;
+                };
+                if (std::ranges::any_of(control->operations(), is)) continue;
+                EXPECT_FALSE(control->invoke(dispid, kind, {})) << dispid;
+                EXPECT_FALSE(control->invoke(dispid, kind, std::vector{Variant(std::int32_t{1})})) << dispid;
+            }
+        }
+    }
+}
+
+TEST(Operations, TellTheVersion) {
+    for (const Component& component : components) {
+        RecordingSite site;
+        const auto control = component.create(site, nullptr);
+        EXPECT_EQ(ask<std::string>(*control, 1, control->operations()[0].kind), "1.0.40") << component.name;
+    }
+}
+
+}  // namespace
+}  // namespace controls
