@@ -17,7 +17,7 @@ std::optional<platform::Variant> NamedControl::invoke(std::int32_t dispid, platf
                                                       std::span<const platform::Variant> arguments) {
     const platform::OperationInfo& ask = operations_.front();
     if (dispid != ask.dispid || kind != ask.kind || !arguments.empty()) return std::nullopt;
-    return platform::Variant(std::string(version));
+    return platform::Variant(std::string(version()));
 }
 
 }  // namespace controls

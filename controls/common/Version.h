@@ -5,6 +5,6 @@
 namespace controls {
 
 /// The version that every component reports; the version text of its file begins with it.
-inline constexpr std::string_view version = "1.0.40";
+std::string_view version();
 
 }  // namespace controls

@@ -70,7 +70,7 @@ std::optional<Variant> AnalyserControl::invoke(std::int32_t dispid, platform::In
     return platform::dispatch(*this, operationTable, dispid, kind, arguments);
 }
 
-std::string AnalyserControl::version() const { return std::string(controls::version); }
+std::string AnalyserControl::version() const { return std::string(controls::version()); }
 
 std::int16_t AnalyserControl::viewMode() const { return analyser_.graphShown() ? 1 : 0; }
 void AnalyserControl::putViewMode(std::int16_t mode) { analyser_.setGraphShown(mode != 0); }

@@ -26,7 +26,7 @@ const GraphParts* loadGraphParts() {
     if (!library) return nullptr;
     const auto parts = reinterpret_cast<GraphPartsSource>(::dlsym(library, graphPartsName));
     const GraphParts* loaded = parts ? parts() : nullptr;
-    return loaded && loaded->version == controls::version ? loaded : nullptr;
+    return loaded && loaded->version == controls::version() ? loaded : nullptr;
 }
 
 }  // namespace controls::dataanalyser

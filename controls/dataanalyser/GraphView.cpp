@@ -210,7 +210,7 @@ void paintGraph(Analyser& analyser, QPainter& painter, const QRectF& area, doubl
 }  // namespace
 
 const GraphParts* linkedGraphParts() {
-    static constexpr GraphParts parts{controls::version, makePane, paintGraph};
+    static const GraphParts parts{controls::version(), makePane, paintGraph};
     return &parts;
 }
 

@@ -46,7 +46,7 @@ std::optional<Variant> PeriodicControl::invoke(std::int32_t dispid, platform::In
     return platform::dispatch(*this, operationTable, dispid, kind, arguments);
 }
 
-std::string PeriodicControl::version() const { return std::string(controls::version); }
+std::string PeriodicControl::version() const { return std::string(controls::version()); }
 
 bool PeriodicControl::setDataFolder(const std::string& dataFolder) { return !dataFolder.empty(); }
 

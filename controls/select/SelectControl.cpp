@@ -72,7 +72,7 @@ std::optional<Variant> SelectControl::invoke(std::int32_t dispid, platform::Invo
     return platform::dispatch(*this, operationTable, dispid, kind, arguments);
 }
 
-std::string SelectControl::version() const { return std::string(controls::version); }
+std::string SelectControl::version() const { return std::string(controls::version()); }
 
 std::string SelectControl::getPageTitle(std::int32_t pageId) const {
     std::string title = selection_.pageTitle(pageId);

@@ -1,5 +1,7 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QImage>
+#include <QSize>
 #include <QTimer>
 #include <filesystem>
 #include <fstream>
@@ -130,6 +132,36 @@ TEST_F(PluginWindows, GiveTheirPictures) {
     EXPECT_FALSE(molecule.LoadPlugin(browser_.GetSafeHwnd()));
     EXPECT_FALSE(molecule.LoadPlugin(0));
     EXPECT_EQ(molecule.Width(), 340) << "what it had stays";
+}
+
+// A film of 320 × 240 pixels, blue on the left and red on the right, in a frame that is wider.
+TEST_F(PluginWindows, FitAFilmAsTheScaleSays) {
+    const struct {
+        const char* scale;
+        QSize shown;
+    } cases[] = {{"", {160, 120}},
+                 {"SCALE=ASPECT", {160, 120}},
+                 {"SCALE=TOFIT", {320, 120}},
+                 {"SCALE=0.25", {80, 60}}};
+    for (const auto& [scale, shown] : cases) {
+        SCOPED_TRACE(scale);
+        write("film.htm", std::string("<EMBED SRC=x.webm WIDTH=320 HEIGHT=138 ") + scale + ">");
+        show("film.htm");
+        CBitmap film;
+        ASSERT_TRUE(runUntil([&] { return film.LoadPlugin(below(browser_).at(0)); }));
+        const QImage picture = film.image();
+        const auto blueness = [&](int x, int y) { return picture.pixelColor(x, y).blue(); };
+        const int left = 160 - shown.width() / 2;
+        const int top = 60 - shown.height() / 2;
+        EXPECT_GT(blueness(left + 3, top + 3), 150);
+        EXPECT_GT(picture.pixelColor(left + shown.width() - 4, top + 3).red(), 150);
+        if (left > 0) {
+            EXPECT_LT(blueness(left - 4, 60), 50);
+        }
+        if (top > 0) {
+            EXPECT_LT(blueness(150, top - 4), 50);
+        }
+    }
 }
 
 }  // namespace
