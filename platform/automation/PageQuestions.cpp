@@ -82,8 +82,10 @@ std::vector<EmbeddedFrame> readFrames(const QVariant& value, double scale) {
     std::vector<EmbeddedFrame> frames;
     for (const QVariant& one : value.toList()) {
         const QVariantList numbers = one.toList();
-        if (const auto place = rectangle(numbers.mid(1), scale)) {
-            frames.push_back({numbers.first().toInt(), *place});
+        const auto place = rectangle(numbers.mid(1), scale);
+        const auto unscaled = rectangle(numbers.mid(1), 1.0);
+        if (place) {
+            frames.push_back({numbers.first().toInt(), *place, {unscaled->Width(), unscaled->Height()}});
         }
     }
     return frames;

@@ -26,10 +26,12 @@ QString htmlOf(QWebEnginePage& page);
 /// where it is.
 std::optional<CRect> findLinkOf(QWebEnginePage& page, std::string_view linkText);
 
-/// The frame of an embedded file: the number that the page's script gave it (see EmbedScript), and its place.
+/// The frame of an embedded file: the number that the page's script gave it (see EmbedScript), its place in
+/// the view, and its size in the page's own units, which is the same however the page is zoomed.
 struct EmbeddedFrame {
     int number = 0;
     CRect place;
+    CSize size;
 };
 
 /// The frames of embedded files, in the order of the page.

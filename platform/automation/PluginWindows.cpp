@@ -69,7 +69,7 @@ void PluginWindows::place(const std::vector<EmbeddedFrame>& frames) {
     for (const EmbeddedFrame& frame : frames) {
         auto& window = windows_[frame.number];
         if (!window) window = makeWindow(view_);
-        window->setGeometry(frame.place.left, frame.place.top, frame.place.Width(), frame.place.Height());
+        window->setGeometry(frame.place.left, frame.place.top, frame.size.cx, frame.size.cy);
         window->show();
     }
 }

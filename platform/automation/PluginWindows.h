@@ -17,9 +17,9 @@ class QWebEngineView;
 namespace platform {
 
 /// Gives the frames of a page's embedded files windows of their own in the window table, as children of the
-/// browser's window: class "Plugin", as large as the frame and at its place. They show nothing and take no
-/// input; what is seen there the engine has drawn. They follow the page as it is loaded, scrolled and
-/// resized.
+/// browser's window: class "Plugin", at the frame's place and as large as the page says, whatever its zoom.
+/// They show nothing and take no input; what is seen there the engine has drawn. They follow the page as it
+/// is loaded, scrolled and resized.
 class PluginWindows : public QObject {
     Q_OBJECT
 

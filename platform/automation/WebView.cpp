@@ -1,5 +1,6 @@
 #include "platform/automation/WebView.h"
 
+#include <QApplication>
 #include <QCoreApplication>
 #include <QCursor>
 #include <QMouseEvent>
@@ -29,6 +30,30 @@ WebView::WebView(QWidget* parent) : QWebEngineView(parent) {
     colours.setColor(QPalette::Text, Qt::black);
     setPalette(colours);
     addZoomKeys();
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget*, QWidget* winner) { watchFocus(winner); });
+}
+
+// The focus moves once more while the engine's widget goes.
+WebView::~WebView() { disconnect(qApp, nullptr, this, nullptr); }
+
+void WebView::watchFocus(QWidget* winner) {
+    if (winner && isAncestorOf(winner)) winner->installEventFilter(this);
+}
+
+/// Another page may come with another of the engine's widgets, which is to have the focus of the former. Qt
+/// would move it on as the tabulator does, into a link of the page.
+bool WebView::eventFilter(QObject* engineWidget, QEvent* event) {
+    QWidget* const focus = QApplication::focusWidget();
+    if (event->type() == QEvent::Hide && focus == engineWidget && isVisible()) {
+        focus->clearFocus();
+        QMetaObject::invokeMethod(this, &WebView::takeFocusBack, Qt::QueuedConnection);
+    }
+    return QWebEngineView::eventFilter(engineWidget, event);
+}
+
+void WebView::takeFocusBack() {
+    if (isVisible() && !QApplication::focusWidget()) setFocus(Qt::OtherFocusReason);
 }
 
 void WebView::click(CPoint point) {
@@ -50,13 +75,13 @@ void WebView::click(CPoint point) {
 void WebView::addZoomKeys() {
     const auto add = [this](const QKeySequence& keys, auto action) {
         auto& shortcut = makeQtChild<QShortcut>(keys, this);
-        shortcut.setContext(Qt::WidgetWithChildrenShortcut);
+        shortcut.setContext(Qt::WindowShortcut);
         connect(&shortcut, &QShortcut::activated, this, action);
     };
     add(Qt::CTRL | Qt::Key_Plus, [this] { zoomBy(1); });
     add(Qt::CTRL | Qt::Key_Equal, [this] { zoomBy(1); });
     add(Qt::CTRL | Qt::Key_Minus, [this] { zoomBy(-1); });
-    add(Qt::CTRL | Qt::Key_0, [this] { setZoomFactor(1.0); });
+    add(Qt::CTRL | Qt::Key_0, [this] { zoomTo(1.0); });
 }
 
 void WebView::zoomBy(int steps) {
@@ -65,7 +90,12 @@ void WebView::zoomBy(int steps) {
     });
     const auto wanted = nearest - zoomSteps.begin() + steps;
     const auto last = static_cast<std::ptrdiff_t>(zoomSteps.size()) - 1;
-    setZoomFactor(zoomSteps[static_cast<std::size_t>(std::clamp<std::ptrdiff_t>(wanted, 0, last))]);
+    zoomTo(zoomSteps[static_cast<std::size_t>(std::clamp<std::ptrdiff_t>(wanted, 0, last))]);
+}
+
+void WebView::zoomTo(double factor) {
+    // Out of sight it keeps its size.
+    if (window()->rect().intersects({mapTo(window(), QPoint()), size()})) setZoomFactor(factor);
 }
 
 }  // namespace platform

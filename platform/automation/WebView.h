@@ -7,19 +7,25 @@
 namespace platform {
 
 /// The widget that shows a page: white in any colour scheme, without a context menu, and zoomed with
-/// Ctrl and plus, minus or nought.
+/// Ctrl and plus, minus or nought, wherever in its window the keyboard focus is.
 class WebView : public QWebEngineView {
     Q_OBJECT
 
   public:
     explicit WebView(QWidget* parent);
+    ~WebView() override;
 
     /// Presses and releases the left mouse button at a point of the view, as a person would.
     void click(CPoint point);
 
+    bool eventFilter(QObject* engineWidget, QEvent* event) override;
+
   private:
+    void watchFocus(QWidget* winner);
+    void takeFocusBack();
     void addZoomKeys();
     void zoomBy(int steps);
+    void zoomTo(double factor);
 };
 
 }  // namespace platform

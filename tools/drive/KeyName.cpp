@@ -18,7 +18,7 @@ constexpr std::array<std::pair<std::string_view, Qt::KeyboardModifier>, 3> kModi
     {"alt", Qt::AltModifier},
 }};
 
-constexpr std::array<std::pair<std::string_view, Qt::Key>, 21> kKeys = {{
+constexpr std::array<std::pair<std::string_view, Qt::Key>, 23> kKeys = {{
     {"enter", Qt::Key_Return},
     {"return", Qt::Key_Return},
     {"esc", Qt::Key_Escape},
@@ -40,6 +40,8 @@ constexpr std::array<std::pair<std::string_view, Qt::Key>, 21> kKeys = {{
     {"pgup", Qt::Key_PageUp},
     {"pagedown", Qt::Key_PageDown},
     {"pgdn", Qt::Key_PageDown},
+    {"plus", Qt::Key_Plus},
+    {"minus", Qt::Key_Minus},
 }};
 
 template <class Table>

@@ -36,7 +36,11 @@ QString textOf(const KeyStroke& stroke) {
 
 void sendToFocus(QEvent::Type type, const KeyStroke& stroke, const QString& text) {
     QWindow* target = QGuiApplication::focusWindow();
-    if (target != nullptr) qt_handleKeyEvent(target, type, stroke.key, stroke.modifiers, text);
+    if (target == nullptr) return;
+    // As window systems do it: a press is a shortcut first, if it is one.
+    const bool shortcut = type == QEvent::KeyPress &&
+                          qt_sendShortcutOverrideEvent(target, 0, stroke.key, stroke.modifiers, text);
+    if (!shortcut) qt_handleKeyEvent(target, type, stroke.key, stroke.modifiers, text);
 }
 
 /// The press and the release each as an event of its own, so that a key that opens a dialog comes up in it.
