@@ -42,12 +42,20 @@ void menu(Act& act, Program&) {
     CMainFrame* frame = frameFor(act);
     if (frame == nullptr) return;
     Json menus = Json::array();
+    Json enabled = Json::array();
+    Json checked = Json::array();
     for (std::size_t i = 0; i < Resources().menu.size(); ++i) {
         Json items = Json::array();
-        for (const MenuItemState& item : frame->MenuState(i)) items.push_back(itemJson(item));
+        for (const MenuItemState& item : frame->MenuState(i)) {
+            items.push_back(itemJson(item));
+            if (item.enabled) enabled.push_back(item.id);
+            if (item.checked) checked.push_back(item.id);
+        }
         menus.push_back({{"text", text(Resources().menu[i].text)}, {"items", std::move(items)}});
     }
     act.set("menus", std::move(menus));
+    act.set("enabled", std::move(enabled));
+    act.set("checked", std::move(checked));
 }
 
 void tellFrame(Act& act) {
