@@ -86,6 +86,7 @@ PrintJob::PrintJob(std::string name, std::string file, const PrinterConfig& page
                    std::unique_ptr<QPagedPaintDevice> device)
     : name_(std::move(name)), file_(std::move(file)), page_(page), device_(std::move(device)) {
     painter_.begin(device_.get());
+    painter_.setRenderHint(QPainter::LosslessImageRendering);
 }
 
 PrintJob::~PrintJob() {

@@ -55,7 +55,7 @@ struct CheckForm {
     bool value;
 };
 
-constexpr std::array<CheckForm, 8> kChecks = {{
+constexpr std::array<CheckForm, 9> kChecks = {{
     {"file", false},
     {"no-file", false},
     {"contains", true},
@@ -64,6 +64,7 @@ constexpr std::array<CheckForm, 8> kChecks = {{
     {"count", true},
     {"loaded", false},
     {"not-loaded", false},
+    {"printed", true},
 }};
 
 using Parsed = std::optional<decltype(Step::action)>;

@@ -12,6 +12,7 @@
 #include "platform/text/CodePage1253.h"
 #include "tests/HexBytes.h"
 #include "tests/scenarios/DriverProcess.h"
+#include "tests/scenarios/PrintedPages.h"
 
 namespace scenario {
 
@@ -183,6 +184,7 @@ Problem ScenarioMachine::Check(const FileCheck& check) const {
     if (check.what == "no-file") return fs::exists(file) ? Problem(check.file + " exists") : std::nullopt;
     if (!fs::exists(file)) return check.file + " does not exist";
     if (check.what == "bytes") return checkBytes(file, check);
+    if (check.what == "printed") return difference(printedPages(file), check.value);
     return check.what == "file" ? std::nullopt : checkContent(file, check);
 }
 
