@@ -43,8 +43,10 @@ WebPage::WebPage(Gate gate, QObject* parent)
     setBackgroundColor(Qt::white);
     arrivalLimit_.setSingleShot(true);
     copyLimit_.setSingleShot(true);
+    firstLoad_.setSingleShot(true);
     copyLimit_.setInterval(copyTime);
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &copyLimit_, &QTimer::stop);
+    connect(&firstLoad_, &QTimer::timeout, this, &WebPage::wake);
     connect(&arrivalLimit_, &QTimer::timeout, this, &WebPage::giveUpWaiting);
     connect(this, &QWebEnginePage::loadFinished, this, &WebPage::finished);
     connect(this, &QWebEnginePage::renderProcessTerminated, this, [this] { loading_ = false; });
@@ -63,7 +65,16 @@ void WebPage::go(const QUrl& asking, const QUrl& url) {
     tries_ = missedTries;
     toldUnreachable_ = false;
     target_ = target;
-    load(target);
+    if (awake_) {
+        load(target_);
+    } else {
+        firstLoad_.start();
+    }
+}
+
+void WebPage::wake() {
+    awake_ = true;
+    load(target_);
 }
 
 void WebPage::reload() {

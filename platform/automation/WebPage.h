@@ -53,6 +53,7 @@ class WebPage : public QWebEnginePage {
     void finished(bool arrived);
     void startLoading();
     void settle(bool leadsOn);
+    void wake();
     /// Whether the page on show is not that of the load asked for last: the end of an earlier load may be
     /// told after a later one was asked for.
     bool missed() const;
@@ -60,6 +61,9 @@ class WebPage : public QWebEnginePage {
 
     Gate gate_;
     CommandHandler commandHandler_;
+    // The engine's first load sets so much going that the windows are shown before it.
+    QTimer firstLoad_;
+    bool awake_ = false;
     QTimer arrivalLimit_;  // runs while another page than that on show is expected
     int tries_ = 0;        // how often the load asked for last may still be asked for again
     bool toldUnreachable_ = false;

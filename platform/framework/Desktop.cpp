@@ -1,11 +1,13 @@
 #include "platform/framework/Desktop.h"
 
 #include <QApplication>
+#include <QFont>
 #include <QScreen>
 #include <QStandardPaths>
 
 #include "platform/automation/BrowserProcess.h"
 #include "platform/framework/LightPalette.h"
+#include "platform/framework/ProgramStyle.h"
 
 namespace platform {
 
@@ -19,6 +21,14 @@ constexpr int dotsPerInch = 600;
 constexpr int a4Width = 4960;
 constexpr int a4Height = 7016;
 
+/// What is not told another font shows this one.
+QFont programFont() {
+    constexpr int pixels = 13;
+    QFont font(QStringLiteral("Liberation Sans"));
+    font.setPixelSize(pixels);
+    return font;
+}
+
 std::unique_ptr<QApplication> makeApplication(int& argc, char** argv) {
     prepareProcess();
     return std::make_unique<QApplication>(argc, argv);
@@ -29,6 +39,8 @@ std::unique_ptr<QApplication> makeApplication(int& argc, char** argv) {
 Desktop::Desktop(int& argc, char** argv) : application_(makeApplication(argc, argv)) {
     // The name under which the desktop knows the program's windows.
     QGuiApplication::setDesktopFileName(QStringLiteral("kalyxo"));
+    QApplication::setStyle(std::make_unique<ProgramStyle>().release());
+    QApplication::setFont(programFont());
     wearLightPalette();
 }
 

@@ -1,16 +1,15 @@
 #include "platform/framework/FrameWidget.h"
 
 #include <QCloseEvent>
-#include <QDir>
 #include <QIcon>
 #include <QPixmap>
-#include <QTimer>
 #include <QWindow>
 
 #include "platform/framework/FrameWnd.h"
 #include "platform/framework/LightPalette.h"
 #include "platform/framework/MenuBuilder.h"
 #include "platform/framework/Resources.h"
+#include "platform/windows/Artwork.h"
 #include "platform/windows/PaintQueue.h"
 #include "platform/windows/QtConvert.h"
 
@@ -18,11 +17,13 @@ namespace platform {
 
 namespace {
 
+/// In the sizes of title bars and task lists; desktops that show larger ones take them from the installed
+/// files.
 QIcon programIcon() {
-    const QDir folder(QStringLiteral(":/icon"));
     QIcon icon;
-    for (const QString& file : folder.entryList({toQt(Resources().iconName) + "-*.png"})) {
-        icon.addPixmap(QPixmap(folder.filePath(file), "PNG"));
+    for (const int size : {16, 24, 32, 48, 64}) {
+        const QString name = QStringLiteral(":/icon/%1-%2.png").arg(toQt(Resources().iconName)).arg(size);
+        icon.addPixmap(QPixmap::fromImage(pngImage(name)));
     }
     return icon;
 }
@@ -32,8 +33,7 @@ QIcon programIcon() {
 FrameWidget::FrameWidget(CFrameWnd& owner)
     : WindowWidget(owner, nullptr, 0), menuBar_(this), placement_(*this) {
     setPalette(lightPalette());
-    // The first picture of the window does not wait for it.
-    QTimer::singleShot(0, this, [this] { setWindowIcon(programIcon()); });
+    setWindowIcon(programIcon());
     buildMenuBar(menuBar_, handle());
 }
 

@@ -16,6 +16,11 @@ struct ArtworkFile {
 /// logical one, if there is such a file.
 ArtworkFile artworkFile(const QString& name, const QString& suffix);
 
+/// A PNG resource; null when there is none or it is damaged. Read without the desktop's picture plug-ins,
+/// which Qt's own readers load all at the first picture: that alone would be a thirtieth of the program's
+/// start.
+QImage pngImage(const QString& resource);
+
 /// A PNG resource in the size of its logical pixels; null when there is none.
 QImage artworkImage(const QString& name);
 
