@@ -81,6 +81,7 @@ QWidget& AnalyserPane::shownGraph() {
     if (graph_) return graph_->widget();
     if (!noGraph_) {
         noGraph_ = new QLabel(QStringLiteral("Δεν είναι δυνατό να φορτωθούν τα γραφήματα."), this);
+        noGraph_->setObjectName(QStringLiteral("nograph"));
         noGraph_->setAlignment(Qt::AlignCenter);
         views_->addWidget(noGraph_);
     }

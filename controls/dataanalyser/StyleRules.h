@@ -10,6 +10,7 @@ QLabel, QPushButton, QComboBox, QMenu { font-family: "Liberation Sans"; font-siz
 #strip QLabel:disabled { color: #9aa7b4; }
 #strip QLabel#title { color: #1f4e6b; font-size: 15px; font-weight: bold; }
 #strip QLabel#count { color: #526070; }
+QLabel#nograph { background: #ffffff; color: #1c2733; font-size: 14px; }
 QComboBox { background: #ffffff; color: #1c2733; border: 1px solid #a9bfcd; border-radius: 4px;
             padding: 2px 18px 2px 6px; min-height: 18px; }
 QComboBox::drop-down { border: none; width: 20px; }
