@@ -1,4 +1,6 @@
+#include <QWidget>
 #include <algorithm>
+#include <memory>
 #include <string>
 
 #include "controls/dataanalyser/AnalyserControl.h"
@@ -139,6 +141,22 @@ TEST(Operations, TellTheVersion) {
         RecordingSite site;
         const auto control = component.create(site, nullptr);
         EXPECT_EQ(ask<std::string>(*control, 1, control->operations()[0].kind), "1.0.40") << component.name;
+    }
+}
+
+TEST(Controls, SurviveTheirHostsWindow) {
+    for (const Component& component : components) {
+        SCOPED_TRACE(component.name);
+        RecordingSite site;
+        auto window = std::make_unique<QWidget>();
+        const auto control = component.create(site, window.get());
+        EXPECT_EQ(control->widget().parentWidget(), window.get());
+        control->widget().resize(120, 30);
+        control->widget().grab();
+        window.reset();
+        for (const OperationInfo& operation : control->operations()) {
+            if (operation.arguments.empty()) control->invoke(operation.dispid, operation.kind, {});
+        }
     }
 }
 

@@ -24,29 +24,6 @@ constexpr std::int32_t showItem = 6;
 constexpr std::int32_t getAuxHandle = 7;
 constexpr std::int32_t getEditWindow = 8;
 
-TEST(SelectControl, OffersItsOperationsByNumberKindAndType) {
-    SelectHost host;
-    std::string table;
-    for (const auto& operation : host.control->operations()) {
-        table += std::to_string(operation.dispid) + std::string(operation.name);
-        for (const auto type : operation.arguments)
-            table += type == platform::TypeCode::i2        ? " I2"
-                     : type == platform::TypeCode::i4      ? " I4"
-                     : type == platform::TypeCode::text    ? " text"
-                     : type == platform::TypeCode::boolean ? " BOOL"
-                                                           : " ?";
-        table += '\n';
-    }
-    EXPECT_EQ(table,
-              "1Version\n2GetPageTitle I4\n3Initialise I2 text I4\n4GetItemTitle I4\n5SetSection I2\n"
-              "6ShowItem I4 I4 BOOL\n7GetAuxHandle\n8GetEditWindow\n");
-    const auto version = host.control->invoke(1, platform::InvokeKind::propertyGet, {});
-    ASSERT_TRUE(version);
-    EXPECT_EQ(*version->get<std::string>(), "1.0.40");
-    EXPECT_FALSE(host.control->invoke(1, platform::InvokeKind::method, {}));
-    EXPECT_FALSE(host.control->invoke(9, platform::InvokeKind::method, {}));
-}
-
 TEST(SelectControl, AnswersBeforeShowItemReturns) {
     SelectHost host;
     host.initialise();
