@@ -60,6 +60,20 @@ class MoleculeFiles : public BrowserMachine {
         }
         return 0;
     }
+    /// The middle of the blue atom in an area.
+    QPoint middleOfBlue(const CRect& area) {
+        const QImage shown = picture();
+        QPoint sum;
+        int found = 0;
+        for (int y = area.top; y < area.bottom; ++y) {
+            for (int x = area.left; x < area.right; ++x) {
+                if (!isBlue(shown.pixelColor(x, y))) continue;
+                sum += QPoint(x, y);
+                ++found;
+            }
+        }
+        return found == 0 ? QPoint() : sum / found;
+    }
 };
 
 TEST_F(MoleculeFiles, OfEveryKindShowTheSameMolecule) {
@@ -114,6 +128,26 @@ TEST_F(MoleculeFiles, AreEnlargedWithTheWheel) {
                       Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(input(), &wheel);
     EXPECT_TRUE(runUntil([&] { return count(frame, isBlue) > before * 5 / 4; }));
+}
+
+// What the controller's buttons say, here said by the page itself.
+TEST_F(MoleculeFiles, AreLabelledAndMeasured) {
+    write("D:\\x.xyz", "2\n\nN 0 0 0\nN 1.9 0 0\n");
+    write("D:\\a.htm",
+          "<BODY STYLE=\"margin:0\" ONCLICK=\"frames[0].postMessage({moleculeSet: {labels: true, measure: "
+          "true}}, "
+          "'*')\"><EMBED SRC=x.xyz WIDTH=340 HEIGHT=290><P>click");
+    open("D:\\a.htm");
+    ASSERT_TRUE(runUntil([&] { return count(frame, isBlue) > 500; }));
+    const QColor label(0xe8, 0xee, 0xf5);
+    const QColor measure(0xff, 0xd8, 0x4a);
+    const int letters = count(frame, label);
+    QTest::mouseClick(input(), Qt::LeftButton, {}, {400, 400});
+    EXPECT_TRUE(runUntil([&] { return count(frame, label) > letters + 10; }));
+    for (const int half : {0, 1}) {
+        QTest::mouseClick(input(), Qt::LeftButton, {}, middleOfBlue(CRect::at(half * 170, 0, 170, 270)));
+    }
+    EXPECT_TRUE(runUntil([&] { return count(frame, measure) > 60; })) << "the line and the distance";
 }
 
 TEST_F(MoleculeFiles, GiveThePictureThatIsOnShow) {
