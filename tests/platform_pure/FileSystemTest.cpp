@@ -7,7 +7,7 @@
 #include <thread>
 
 #include "platform/text/GreekLiteral.h"
-#include "tests/platform_pure/TestFolder.h"
+#include "tests/support/TestFolder.h"
 
 namespace platform {
 namespace {

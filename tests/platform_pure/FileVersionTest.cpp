@@ -6,7 +6,7 @@
 #include <iterator>
 #include <string>
 
-#include "tests/platform_pure/TestFolder.h"
+#include "tests/support/TestFolder.h"
 
 namespace platform {
 namespace {

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "platform/text/GreekLiteral.h"
-#include "tests/platform_pure/TestFolder.h"
+#include "tests/support/TestFolder.h"
 
 namespace platform {
 namespace {

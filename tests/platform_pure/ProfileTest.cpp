@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "tests/platform_pure/TestFolder.h"
+#include "tests/support/TestFolder.h"
 
 namespace platform {
 namespace {

@@ -8,7 +8,7 @@
 #include "platform/files/Profile.h"
 #include "platform/machine/MachineConfig.h"
 #include "platform/registry/RegFile.h"
-#include "tests/platform_pure/TestFolder.h"
+#include "tests/support/TestFolder.h"
 
 namespace platform {
 namespace {

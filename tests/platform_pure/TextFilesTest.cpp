@@ -7,7 +7,7 @@
 #include "platform/files/BinaryFile.h"
 #include "platform/files/TextReader.h"
 #include "platform/files/TextWriter.h"
-#include "tests/platform_pure/TestFolder.h"
+#include "tests/support/TestFolder.h"
 
 namespace platform {
 namespace {
@@ -65,21 +65,6 @@ TEST_F(TextFilesTest, LineEndsAndEndMarksMayLieAtAnyPlace) {
             EXPECT_EQ(linesOf(run + "\r\x1A\n", 100000), run + "\r|") << before;
         }
     }
-}
-
-TEST_F(TextFilesTest, LongLinesComeWhole) {
-    std::string content;
-    for (const std::size_t length : {1000000U, 0U, 1U, 70000U}) content += std::string(length, 'y') + "\r\n";
-    std::string expected = content;
-    std::erase(expected, '\r');
-    auto reader = TextReader::open(folder.write("in", content));
-    std::vector<char> buffer(2000000);
-    std::vector<std::size_t> lengths;
-    while (const auto length = reader->readLine(buffer.data(), buffer.size())) lengths.push_back(length);
-    EXPECT_EQ(lengths, (std::vector<std::size_t>{1000001, 1, 2, 70001}));
-    std::string pieces = linesOf(content, 26000);
-    std::erase(pieces, '|');
-    EXPECT_EQ(pieces, expected);
 }
 
 TEST_F(TextFilesTest, WhatCannotBeReadDoesNotOpen) {

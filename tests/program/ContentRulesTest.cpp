@@ -2,7 +2,6 @@
 
 #include "src/components/ElementIndex.h"
 #include "src/content/BarLayout.h"
-#include "src/content/History.h"
 #include "src/content/HostedComponents.h"
 #include "src/content/MainMenuLayout.h"
 #include "src/content/PageCache.h"
@@ -14,86 +13,22 @@ namespace {
 
 using platform::CPoint;
 
-TEST(HistoryTest, KeepsTheLastFifty) {
-    History history;
-    for (int page = 1; page <= 51; ++page) history.Record({1, page, 0});
-    EXPECT_EQ(history.At(0).pageId, 2);
-    int steps = 0;
-    while (history.StepBack()) ++steps;
-    EXPECT_EQ(steps, 49);
-}
-
-TEST(HistoryTest, ANewPlaceEndsForward) {
-    History history;
-    EXPECT_FALSE(history.StepBack() || history.StepForward());
-    for (int page = 1; page <= 3; ++page) history.Record({1, page, 0});
-    history.StepBack();
-    EXPECT_TRUE(history.CanGoForward());
-    {
-        const History::Replay replay(history);
-        history.Record({1, 9, 0});
-    }
-    EXPECT_EQ(history.Current().pageId, 2);
-    history.Record({1, 4, 0});
-    EXPECT_FALSE(history.CanGoForward());
-    EXPECT_EQ(history.LastIndex(), 2);
-}
-
-TEST(BarLayoutTest, FindsTheSlotUnderAPoint) {
+TEST(LayoutsOfTheScreens, EndAndBeginToThePixel) {
     BarLayout bar;
-    bar.SetWidth(800);
-    const struct {
-        CPoint p;
-        int slot;
-    } cases[] = {{{0, 10}, -1},   {{1, 0}, 0},     {{51, 10}, 0},  {{52, 10}, 1},  {{467, 45}, 8},
-                 {{468, 10}, -1}, {{689, 10}, -1}, {{690, 10}, 9}, {{741, 10}, 9}, {{742, 10}, 10},
-                 {{799, 10}, 10}, {{800, 10}, -1}, {{10, 46}, -1}, {{10, -1}, -1}};
-    for (const auto& c : cases) EXPECT_EQ(bar.SlotAt(c.p), c.slot) << c.p.x << "," << c.p.y;
     bar.SetWidth(636);
+    EXPECT_EQ(bar.SlotAt({10, -1}), -1);
     EXPECT_EQ(bar.Place(9, true).x, 526);
     EXPECT_EQ(bar.Place(10, false).x, 578);
     EXPECT_EQ(bar.Place(11, false).width, 58);
-}
-
-TEST(MainMenuLayoutTest, AreasIncludeTheirBounds) {
     EXPECT_EQ(MainMenuLayout::ItemAt({40, 239}), 0);
     EXPECT_EQ(MainMenuLayout::ItemAt({98, 291}), 0);
     EXPECT_EQ(MainMenuLayout::ItemAt({99, 291}), -1);
-    EXPECT_EQ(MainMenuLayout::ItemAt({587, 213}), 7);
-    EXPECT_EQ(MainMenuLayout::ItemAt({-9999, 0}), -1);
-}
-
-TEST(MainMenuLayoutTest, ThePictureIsCentredBelowTheBar) {
     EXPECT_EQ(MainMenuLayout::Origin({1000, 700}, {628, 384}), (CPoint{186, 183}));
     EXPECT_EQ(MainMenuLayout::Origin({600, 300}, {628, 384}), (CPoint{-14, 50}));
 }
 
-TEST(PageCacheTest, KeepsTwentyPagesAndDeletesAllAtTheEnd) {
+TEST(PageCacheTest, WithoutItsFolderWritesNothing) {
     TestDrives drives;
-    PageCache cache(drives.files);
-    cache.Open(LocateCache("C:\\Kalyxo", "C:\\", true));
-    EXPECT_EQ(cache.Folder(), "C:\\klyx\\");
-    for (int i = 1; i <= 25; ++i) {
-        drives.put(cache.NextTarget(), "page");
-        cache.CleanCache(false);
-    }
-    EXPECT_FALSE(drives.has("C:\\klyx\\5.htm"));
-    EXPECT_TRUE(drives.has("C:\\klyx\\6.htm"));
-    for (const char* name : {"bigvid.htm", "chime.mol"}) drives.put(cache.Folder() + name, "x");
-    EXPECT_EQ(drives.get(cache.WriteRedirect("C:\\klyx\\25.htm")),
-              "<HTML><HEAD><META HTTP-EQUIV=\"Refresh\" Content=\"0; URL=C:\\klyx\\25.htm\"></HEAD>"
-              "<BODY BGCOLOR=\"#949494\"></BODY></HTML>");
-    cache.CleanCache(true);
-    EXPECT_FALSE(drives.has("C:\\klyx"));
-}
-
-TEST(PageCacheTest, InsideTheInstalledFolderTheFolderStays) {
-    TestDrives drives;
-    drives.put("C:\\Kalyxo\\kalyxo.exe", "");
-    PageCache cache(drives.files);
-    cache.Open(LocateCache("C:\\Kalyxo", "C:\\", false));
-    cache.CleanCache(true);
-    EXPECT_TRUE(drives.has("C:\\Kalyxo\\cache"));
     PageCache nowhere(drives.files);
     nowhere.Open({"C:\\no\\such\\", false});
     EXPECT_EQ(nowhere.WriteRedirect("x"), "");

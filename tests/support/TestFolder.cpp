@@ -1,4 +1,4 @@
-#include "tests/platform_pure/TestFolder.h"
+#include "tests/support/TestFolder.h"
 
 #include <sys/resource.h>
 #include <unistd.h>
@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 TestFolder::TestFolder() {
     static int counter = 0;
     path_ = fs::temp_directory_path() /
-            ("platform-pure-" + std::to_string(::getpid()) + "-" + std::to_string(counter++));
+            ("kalyxo-test-" + std::to_string(::getpid()) + "-" + std::to_string(counter++));
     fs::create_directories(path_);
 }
 
