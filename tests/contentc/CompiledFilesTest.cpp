@@ -19,10 +19,14 @@ std::string topic(const std::string& title, const std::string& more, const std::
     return "title: " + title + "\nkind: topic\n" + more + "---\n" + body;
 }
 
-TEST(CompiledFiles, SampleCompilesWithoutAMessage) {
+TEST(CompiledFiles, WarningsAndLinesOfTheGreatestLengthStopNothing) {
     ContentFolder content;
+    content.write("pages/uses/400010.page", topic("T", "", std::string(20000, 'x')));
     EXPECT_TRUE(content.compile());
     EXPECT_EQ(content.messages, std::vector<std::string>{});
+    content.write("glossary/helium00.term", "ήλιο\nΤο δεύτερο στοιχείο.\n");
+    EXPECT_TRUE(content.compile());
+    EXPECT_EQ(content.messages, std::vector{"glossary/helium00.term:1: warning: no page uses this term"s});
 }
 
 TEST(CompiledFiles, PageIsItsScaffoldWithTheBodyInCodePage1253) {
@@ -84,12 +88,6 @@ TEST(CompiledFiles, MoleculePageNamesItsFileAndKeepsTheLayout) {
     EXPECT_EQ(content.compiled("mol\\water.mol"), "water\n");
 }
 
-TEST(CompiledFiles, LineOfTheGreatestLengthIsAllowed) {
-    ContentFolder content;
-    content.write("pages/uses/400010.page", topic("T", "", std::string(20000, 'x')));
-    EXPECT_TRUE(content.compile());
-}
-
 TEST(CompiledFiles, PlainPagesHaveATitleAndRelativeAddresses) {
     ContentFolder content;
     content.write("help.page", "title: Βοήθεια\n---\n<LINK HREF=\"{{data}}style/kalyxo.css\">\n");
@@ -107,13 +105,6 @@ TEST(CompiledFiles, GlossaryFileHoldsTermAndDefinition) {
     content.write("glossary/hydrogen.term", "υδρογόνο\nΠρώτη γραμμή.\n\nΤρίτη.\n\n\n");
     EXPECT_EQ(content.compiled("glossary\\hydrogen.htm"),
               greek("υδρογόνο") + "\r\n" + greek("Πρώτη γραμμή.") + "\r\n\r\n" + greek("Τρίτη.") + "\r\n");
-}
-
-TEST(CompiledFiles, UnusedTermIsAWarningOnly) {
-    ContentFolder content;
-    content.write("glossary/helium00.term", "ήλιο\nΤο δεύτερο στοιχείο.\n");
-    EXPECT_TRUE(content.compile());
-    EXPECT_EQ(content.messages, std::vector{"glossary/helium00.term:1: warning: no page uses this term"s});
 }
 
 TEST(CompiledFiles, PicturesAreCopiedAndTwoOfOneNameRefused) {

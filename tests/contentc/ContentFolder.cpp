@@ -1,7 +1,6 @@
 #include "tests/contentc/ContentFolder.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
 
@@ -22,8 +21,6 @@ constexpr const char* kMoleculeTemplate =
 }  // namespace
 
 ContentFolder::ContentFolder() {
-    std::string name = (fs::temp_directory_path() / "contentc-XXXXXX").string();
-    m_root = ::mkdtemp(name.data());
     write("start.page", "title: Kalyxo\n---\n<P>Welcome</P>\n");
     write("style.css", "P { }\n");
     write("templates/page.html", kPageTemplate);
@@ -43,17 +40,6 @@ ContentFolder::ContentFolder() {
     write("glossary/hydrogen.term", "υδρογόνο\nΤο πρώτο στοιχείο.\n");
     write("molecules/water.mol", "water\n");
     write("elements.txt", "1 10001\n");
-}
-
-ContentFolder::~ContentFolder() {
-    std::error_code ignored;
-    fs::remove_all(m_root, ignored);
-}
-
-void ContentFolder::write(const std::string& file, const std::string& text) const {
-    const fs::path path = sources() / file;
-    fs::create_directories(path.parent_path());
-    std::ofstream(path, std::ios::binary) << text;
 }
 
 std::optional<contentc::OutputFiles> ContentFolder::compile() {

@@ -5,21 +5,21 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/TestFolder.h"
 #include "tools/contentc/ContentCompiler.h"
 
 /// A temporary folder with content sources that compile without a message; tests change files and compile.
 class ContentFolder {
   public:
     ContentFolder();
-    ~ContentFolder();
-    ContentFolder(const ContentFolder&) = delete;
-    ContentFolder& operator=(const ContentFolder&) = delete;
 
     /// The folder of the sources; beside it tests may write what they like.
     std::filesystem::path sources() const { return m_root / "content"; }
     std::filesystem::path beside(const std::string& name) const { return m_root / name; }
 
-    void write(const std::string& file, const std::string& text) const;
+    void write(const std::string& file, const std::string& text) const {
+        m_root.write("content/" + file, text);
+    }
     void remove(const std::string& file) const { std::filesystem::remove_all(sources() / file); }
 
     /// Compiles; afterwards `messages` holds what there was to say, with files named as in the sources.
@@ -30,7 +30,7 @@ class ContentFolder {
     std::vector<std::string> messages;
 
   private:
-    std::filesystem::path m_root;
+    TestFolder m_root;
 };
 
 /// The whole file; empty when it cannot be read.
