@@ -67,13 +67,5 @@ TEST_F(IdleWatchTest, IsFoundInADialogsEventLoopToo) {
     EXPECT_EQ(m_notes, "opened idle closed ");
 }
 
-TEST_F(IdleWatchTest, OnceForEachBegin) {
-    for (int i = 0; i < 3; ++i) {
-        m_watch.begin();
-        ASSERT_TRUE(runLoop(m_loop));
-    }
-    EXPECT_EQ(m_notes, "idle idle idle ");
-}
-
 }  // namespace
 }  // namespace drive

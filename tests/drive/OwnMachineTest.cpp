@@ -1,15 +1,13 @@
 #include <gtest/gtest.h>
-#include <unistd.h>
 
-#include <fstream>
 #include <future>
-#include <iterator>
 #include <vector>
 
 #include "platform/framework/Resources.h"
 #include "src/app/OwnMachine.h"
 #include "src/app/Settings.h"
 #include "src/resources/ResourceTable.h"
+#include "tests/support/TestFolder.h"
 
 namespace kalyxo {
 namespace {
@@ -22,21 +20,11 @@ constexpr const char* kCopiedModule = "own/c/Kalyxo/ActiveX/kyptgk.ocx";
 /// What is installed, and a place for the user's machine.
 class OwnMachine : public testing::Test {
   protected:
-    OwnMachine() : m_root(fs::temp_directory_path() / ("own-machine-" + std::to_string(::getpid()))) {
+    OwnMachine() {
         platform::SetResources(ProgramResources());
-        write(kModule, "version one");
-        write("content/data/a.htm", "<HTML>");
-        write("bin/kalyxo", "");
-    }
-    ~OwnMachine() override { fs::remove_all(m_root); }
-
-    void write(const std::string& name, const std::string& bytes) const {
-        fs::create_directories((m_root / name).parent_path());
-        std::ofstream(m_root / name, std::ios::binary) << bytes;
-    }
-    std::string read(const std::string& name) const {
-        std::ifstream in(m_root / name, std::ios::binary);
-        return {std::istreambuf_iterator<char>(in), {}};
+        m_root.write(kModule, "version one");
+        m_root.write("content/data/a.htm", "<HTML>");
+        m_root.write("bin/kalyxo", "");
     }
     platform::Loaded<std::unique_ptr<platform::Machine>> open(
         const std::vector<MountedMedium>& media = {}) const {
@@ -44,7 +32,7 @@ class OwnMachine : public testing::Test {
         return OpenOwnMachine(m_root / "own", FindInstalledFiles(m_root / "bin"), present, media);
     }
 
-    fs::path m_root;
+    TestFolder m_root;
 };
 
 TEST_F(OwnMachine, FirstStartNeedsNoQuestion) {
@@ -66,18 +54,18 @@ TEST_F(OwnMachine, FirstStartNeedsNoQuestion) {
 
 TEST_F(OwnMachine, LaterStartsFollowScreenModulesAndContentAndKeepTheRest) {
     ASSERT_TRUE(open());
-    write("own/c/Kalyxo/bookmark.dat", "kept");
-    write(kModule, "version two");
+    m_root.write("own/c/Kalyxo/bookmark.dat", "kept");
+    m_root.write(kModule, "version two");
     fs::rename(m_root / "content", m_root / "elsewhere");
-    write("share/kalyxo/content/a.htm", "<HTML>");
+    m_root.write("share/kalyxo/content/a.htm", "<HTML>");
 
     const auto opened = open();
     ASSERT_TRUE(opened) << opened.error;
     EXPECT_EQ((*opened.value)->screen().width, 1280);
     EXPECT_EQ((*opened.value)->metric(platform::SM_CXMAXIMIZED), 1288);
-    EXPECT_EQ(read(kCopiedModule), "version two");
+    EXPECT_EQ(m_root.read(kCopiedModule), "version two");
     EXPECT_TRUE((*opened.value)->files().exists("D:\\a.htm"));
-    EXPECT_EQ(read("own/c/Kalyxo/bookmark.dat"), "kept");
+    EXPECT_EQ(m_root.read("own/c/Kalyxo/bookmark.dat"), "kept");
 }
 
 TEST_F(OwnMachine, MakingThatWasBrokenOffIsTakenUpAgain) {
@@ -89,24 +77,24 @@ TEST_F(OwnMachine, MakingThatWasBrokenOffIsTakenUpAgain) {
         ASSERT_TRUE(opened) << opened.error;
         EXPECT_TRUE((*opened.value)->registry().openKey(platform::HKEY_LOCAL_MACHINE, SettingsKeyPath()));
         EXPECT_TRUE((*opened.value)->files().exists("D:\\a.htm")) << missing;
-        EXPECT_EQ(read(kCopiedModule), "version one");
+        EXPECT_EQ(m_root.read(kCopiedModule), "version one");
     }
 }
 
 TEST_F(OwnMachine, DamagedFilesAreNamedAndLeft) {
     for (const char* name : {"own/machine.json", "own/registry.reg"}) {
         ASSERT_TRUE(open());
-        write(name, "neither JSON nor registry");
+        m_root.write(name, "neither JSON nor registry");
         const auto opened = open();
         EXPECT_FALSE(opened) << name;
         EXPECT_NE(opened.error.find((m_root / name).string()), std::string::npos) << opened.error;
-        EXPECT_EQ(read(name), "neither JSON nor registry");
+        EXPECT_EQ(m_root.read(name), "neither JSON nor registry");
         fs::remove_all(m_root / "own");
     }
 }
 
 TEST_F(OwnMachine, MediaAreDrivesAndKeepTheirLetters) {
-    write("stick/a.htm", "<HTML>");
+    m_root.write("stick/a.htm", "<HTML>");
     const MountedMedium stick{m_root / "stick", platform::DriveType::removable};
     const MountedMedium net{m_root / "earlier in the alphabet", platform::DriveType::remote};
     ASSERT_TRUE(open({stick}));
@@ -141,7 +129,7 @@ TEST_F(OwnMachine, ProgramsThatStartAtOnceMakeItOnce) {
 
 TEST_F(OwnMachine, NothingInstalledIsAnError) {
     fs::remove_all(m_root / "ActiveX");
-    write("ActiveX/readme.txt", "");
+    m_root.write("ActiveX/readme.txt", "");
     EXPECT_FALSE(open());
 }
 

@@ -59,17 +59,6 @@ class ScriptReaderTest : public EventLoopTest {
 
 using Lines = std::vector<std::string>;
 
-TEST_F(ScriptReaderTest, GivesALineForEachRequest) {
-    write("one\ntwo\n");
-    next();
-    EXPECT_EQ(m_lines, Lines{"one"});
-    next();
-    EXPECT_EQ(m_lines, (Lines{"one", "two"}));
-    closeWriter();
-    next();
-    EXPECT_EQ(m_lines, (Lines{"one", "two", "(end)"}));
-}
-
 TEST_F(ScriptReaderTest, JoinsWhatArrivesInPieces) {
     write("half a ");
     QTimer::singleShot(20, &m_loop, [this] { write("line\n"); });
