@@ -1,6 +1,7 @@
 #include "platform/files/FileHandle.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -45,12 +46,19 @@ std::optional<std::size_t> FileHandle::read(void* buffer, std::size_t size) {
     return static_cast<std::size_t>(got);
 }
 
-std::optional<std::string> FileHandle::readAll(std::size_t limit) {
-    constexpr std::size_t step = std::size_t{64} * 1024;
+std::uint64_t FileHandle::size() const {
+    struct stat found = {};
+    return ::fstat(descriptor_, &found) == 0 ? static_cast<std::uint64_t>(found.st_size) : 0;
+}
+
+std::optional<std::string> FileHandle::readAll(std::size_t limit, const ProgressStep& step) {
+    constexpr std::size_t part = std::size_t{64} * 1024;
+    const std::uint64_t total = step ? std::min<std::uint64_t>(size(), limit) : 0;
     std::string content;
     while (content.size() < limit) {
         const std::size_t before = content.size();
-        content.resize(before + std::min(step, limit - before));
+        if (!GoesOn(step, before, total)) return std::nullopt;
+        content.resize(before + std::min(part, limit - before));
         const auto got = read(content.data() + before, content.size() - before);
         if (!got) return std::nullopt;
         content.resize(before + *got);

@@ -1,9 +1,12 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <utility>
+
+#include "platform/files/ProgressStep.h"
 
 namespace platform {
 
@@ -36,8 +39,9 @@ class FileHandle {
     /// folder opens, but cannot be read).
     std::optional<std::size_t> read(void* buffer, std::size_t size);
 
-    /// Reads on to the end of the file, `limit` bytes at most; nothing on failure.
-    std::optional<std::string> readAll(std::size_t limit);
+    /// Reads on to the end of the file, `limit` bytes at most; nothing on failure, or when `step` has
+    /// cancelled it.
+    std::optional<std::string> readAll(std::size_t limit, const ProgressStep& step = {});
 
     /// Writes all bytes; false when that fails at any of them.
     bool write(const void* bytes, std::size_t size);
@@ -48,6 +52,9 @@ class FileHandle {
     /// Closes the file; false when the host reports a late write error. A closed handle stays closed, with
     /// true.
     bool close();
+
+    /// The length of the file in bytes; 0 when the host does not tell.
+    std::uint64_t size() const;
 
     /// The host's file descriptor, −1 when closed.
     int descriptor() const { return descriptor_; }

@@ -137,9 +137,10 @@ bool FileSystem::isFolder(std::string_view dosPath) const {
     return native && fs::is_directory(*native, ignored);
 }
 
-std::optional<std::string> FileSystem::readAll(std::string_view dosPath, std::size_t limit) const {
+std::optional<std::string> FileSystem::readAll(std::string_view dosPath, std::size_t limit,
+                                               const ProgressStep& step) const {
     FileHandle file = openForReading(dosPath);
-    return file ? file.readAll(limit) : std::nullopt;
+    return file ? file.readAll(limit, step) : std::nullopt;
 }
 
 bool FileSystem::copyFile(std::string_view from, std::string_view to) const {
@@ -190,12 +191,14 @@ bool FileSystem::removeFolder(std::string_view dosPath) const {
     return native && ::rmdir(native->c_str()) == 0;
 }
 
-std::optional<std::vector<FolderEntry>> FileSystem::listFolder(std::string_view dosPath) const {
+std::optional<std::vector<FolderEntry>> FileSystem::listFolder(std::string_view dosPath,
+                                                               const ProgressStep& step) const {
     const auto native = nativePath(dosPath);
     if (!native) return std::nullopt;
     std::vector<FolderEntry> entries;
     std::error_code error;
     for (fs::directory_iterator it(*native, error), end; !error && it != end; it.increment(error)) {
+        if (!GoesOn(step, entries.size(), 0)) return std::nullopt;
         auto name = dosName(it->path().filename().native());
         std::error_code ignored;
         if (name) entries.push_back({std::move(*name), it->is_directory(ignored)});

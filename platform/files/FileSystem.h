@@ -10,6 +10,7 @@
 #include "platform/files/DriveType.h"
 #include "platform/files/FileHandle.h"
 #include "platform/files/FolderNames.h"
+#include "platform/files/ProgressStep.h"
 
 namespace platform {
 
@@ -63,8 +64,10 @@ class FileSystem {
     /// Whether there is a folder of that name.
     bool isFolder(std::string_view dosPath) const;
 
-    /// The first `limit` bytes of a file (all of a shorter one), or nothing when it cannot be read.
-    std::optional<std::string> readAll(std::string_view dosPath, std::size_t limit) const;
+    /// The first `limit` bytes of a file (all of a shorter one), or nothing when it cannot be read, or `step`
+    /// has cancelled that.
+    std::optional<std::string> readAll(std::string_view dosPath, std::size_t limit,
+                                       const ProgressStep& step = {}) const;
 
     /// Copies a file over `to`, which may exist; a failure leaves no half of it, and a former `to` as it was.
     bool copyFile(std::string_view from, std::string_view to) const;
@@ -85,8 +88,10 @@ class FileSystem {
     bool removeFolder(std::string_view dosPath) const;
 
     /// The entries of a folder, sorted without regard to case, `.` and `..` left out; nothing when it cannot
-    /// be read. A name outside the code page cannot be addressed and is left out too.
-    std::optional<std::vector<FolderEntry>> listFolder(std::string_view dosPath) const;
+    /// be read, or `step` has cancelled that. A name outside the code page cannot be addressed and is left
+    /// out too.
+    std::optional<std::vector<FolderEntry>> listFolder(std::string_view dosPath,
+                                                       const ProgressStep& step = {}) const;
 
   private:
     /// A DOS path as the drive and the host names below it.

@@ -88,7 +88,14 @@ std::optional<std::string> Machine::findLibrary(std::string_view name) const {
 
 void Machine::sleep(std::uint32_t milliseconds) {
     trace_.record(TraceSleep{milliseconds});
+    virtualNow_ += milliseconds;
     if (!virtualTime_) std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+}
+
+std::uint64_t Machine::milliseconds() {
+    if (virtualTime_) return virtualNow_ += static_cast<std::uint64_t>(config_.msPerStep);
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    return static_cast<std::uint64_t>(std::chrono::duration_cast<std::chrono::milliseconds>(now).count());
 }
 
 bool Machine::flushRegistry() {

@@ -59,6 +59,9 @@ class Machine {
 
     /// Waits; with virtual time it only notes the wait in the trace.
     void sleep(std::uint32_t milliseconds);
+    /// Milliseconds since some moment; with virtual time those slept, and `msPerStep` more for each time it
+    /// is asked.
+    std::uint64_t milliseconds();
     void setVirtualTime(bool on) { virtualTime_ = on; }
     bool virtualTime() const { return virtualTime_; }
 
@@ -84,6 +87,7 @@ class Machine {
     Trace trace_;
     AnswerQueue answers_;
     bool virtualTime_ = false;
+    std::uint64_t virtualNow_ = 0;
 };
 
 /// The machine on which this process runs; `setMachine` must have named one.

@@ -183,6 +183,9 @@ MachineConfig readConfig(FieldReader& reader, const Json& root) {
     reader.readText(root, "system", config.system);
     readPrinter(reader, root, config);
     readSites(reader, root, config.sites);
+    if (const Json* slow = FieldReader::field(root, "msPerStep")) {
+        reader.readInteger(*slow, "msPerStep", 0, std::numeric_limits<int>::max(), config.msPerStep);
+    }
     return config;
 }
 
@@ -210,6 +213,7 @@ Json toJson(const MachineConfig& config) {
     root["temp"] = toUtf8(config.temp);
     root["system"] = toUtf8(config.system);
     root["sites"] = {{"product", config.sites.product}, {"maker", config.sites.maker}};
+    if (config.msPerStep != 0) root["msPerStep"] = config.msPerStep;
     root["printer"] = nullptr;
     if (const auto& printer = config.printer) {
         root["printer"] = {{"horzres", printer->horzres},

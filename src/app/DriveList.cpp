@@ -57,9 +57,10 @@ DriveList ListDrives(const FileSystem& files) {
     return drives;
 }
 
-std::vector<std::string> ListSubfolders(const FileSystem& files, std::string_view folder) {
+std::vector<std::string> ListSubfolders(const FileSystem& files, std::string_view folder,
+                                        const platform::ProgressStep& step) {
     std::vector<std::string> names;
-    const auto entries = files.listFolder(folder);
+    const auto entries = files.listFolder(folder, step);
     if (!entries) return names;
     for (const platform::FolderEntry& entry : *entries) {
         if (entry.isFolder && !entry.name.starts_with('.')) names.push_back(entry.name);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/files/DriveType.h"
+#include "platform/files/ProgressStep.h"
 
 namespace platform {
 class FileSystem;
@@ -28,7 +29,8 @@ struct DriveList {
 DriveList ListDrives(const platform::FileSystem& files);
 
 /// The names of the folders in a folder (DOS path), hidden ones too, without those that begin with a full
-/// stop; none when it cannot be read.
-std::vector<std::string> ListSubfolders(const platform::FileSystem& files, std::string_view folder);
+/// stop; none when it cannot be read or `step` has cancelled that.
+std::vector<std::string> ListSubfolders(const platform::FileSystem& files, std::string_view folder,
+                                        const platform::ProgressStep& step = {});
 
 }  // namespace kalyxo

@@ -3,7 +3,9 @@
 #include <utility>
 
 #include "platform/framework/DataExchange.h"
+#include "platform/framework/Progress.h"
 #include "platform/machine/Machine.h"
+#include "platform/text/GreekLiteral.h"
 #include "platform/windows/MessageMap.h"
 #include "src/app/DriveList.h"
 #include "src/resources/ResourceIds.h"
@@ -11,6 +13,7 @@
 namespace kalyxo {
 
 using namespace platform;
+using namespace platform::literals;
 
 const CRuntimeClass CFindFolderDlg::runtimeClass{"CFindFolderDlg"};
 
@@ -51,8 +54,7 @@ void CFindFolderDlg::OnDriveSelected() {
     const CWaitCursor wait;
     const HTREEITEM root = m_tree.InsertItem(std::string{*letter, ':', '\\'});
     m_tree.SetItemImage(root, TreeImage::drive);
-    insertSubfolders(root);
-    m_tree.Expand(root);
+    if (readSubfolders(root)) m_tree.Expand(root);
 }
 
 LRESULT CFindFolderDlg::OnItemExpanding(NMTREEVIEW& notification) {
@@ -61,20 +63,33 @@ LRESULT CFindFolderDlg::OnItemExpanding(NMTREEVIEW& notification) {
     if (!unread) return 0;
     const CWaitCursor wait;
     m_tree.DeleteItem(first);
-    insertSubfolders(notification.item);
+    readSubfolders(notification.item);
     return 0;
 }
 
-void CFindFolderDlg::insertSubfolders(HTREEITEM item) {
-    const std::string folder = pathOf(item) + "\\";
-    for (const std::string& name : ListSubfolders(machine().files(), folder)) {
-        const HTREEITEM child = m_tree.InsertItem(name, item);
-        m_tree.SetItemImage(child, TreeImage::folder);
-        // Without a text: stands for folders that are not read yet, so that the item can be opened.
-        m_tree.InsertItem({}, child);
-    }
-    m_tree.SortChildren(item);
+/// When the user does not want to wait, the item stays one that is not read yet.
+bool CFindFolderDlg::readSubfolders(HTREEITEM item) {
+    if (insertSubfolders(item)) return true;
+    while (const HTREEITEM child = m_tree.GetChildItem(item)) m_tree.DeleteItem(child);
+    insertPlaceholder(item);
+    return false;
 }
+
+bool CFindFolderDlg::insertSubfolders(HTREEITEM item) {
+    CProgress progress("Διαβάζονται οι φάκελοι…"_gr);
+    const ProgressStep step = progress.Step();
+    const std::vector<std::string> names = ListSubfolders(machine().files(), pathOf(item) + "\\", step);
+    for (std::size_t i = 0; i < names.size() && step(i, names.size()); ++i) {
+        const HTREEITEM child = m_tree.InsertItem(names[i], item);
+        m_tree.SetItemImage(child, TreeImage::folder);
+        insertPlaceholder(child);
+    }
+    if (!progress.Cancelled()) m_tree.SortChildren(item);
+    return !progress.Cancelled();
+}
+
+/// Without a text, it stands for folders that are not read yet, so that the item can be opened.
+void CFindFolderDlg::insertPlaceholder(HTREEITEM item) { m_tree.InsertItem({}, item); }
 
 std::string CFindFolderDlg::pathOf(HTREEITEM item) const {
     std::string path;

@@ -31,7 +31,9 @@ class CFindFolderDlg : public platform::CDialog {
     void OnDriveSelected();
     platform::LRESULT OnItemExpanding(platform::NMTREEVIEW& notification);
 
-    void insertSubfolders(platform::HTREEITEM item);
+    bool readSubfolders(platform::HTREEITEM item);
+    bool insertSubfolders(platform::HTREEITEM item);
+    void insertPlaceholder(platform::HTREEITEM item);
     std::string pathOf(platform::HTREEITEM item) const;
 
     std::string m_strFolder;

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/framework/DataExchange.h"
+#include "platform/framework/Progress.h"
 #include "platform/framework/Resources.h"
 #include "platform/framework/WinApp.h"
 #include "platform/machine/Machine.h"
@@ -72,13 +73,20 @@ void CBookmarkDlg::DoDataExchange(CDataExchange& exchange) {
 
 bool CBookmarkDlg::OnInitDialog() {
     CDialog::OnInitDialog();
-    m_tree.Fill(m_list);
-    if (m_bAdd) {
+    if (!fillTree()) {
+        EndDialog(IDCANCEL);
+    } else if (m_bAdd) {
         collapse();
     } else {
         openForGoto();
     }
     return false;
+}
+
+/// False when the user did not want to wait.
+bool CBookmarkDlg::fillTree() {
+    CProgress progress("Ανοίγουν οι σελιδοδείκτες…"_gr);
+    return m_tree.Fill(m_list, progress.Step());
 }
 
 void CBookmarkDlg::collapse() {

@@ -54,6 +54,7 @@ class CBookmarkDlg : public platform::CDialog {
     platform::LRESULT OnTreeKeyDown(platform::NMTVKEYDOWN& notification);
     platform::LRESULT OnTreeBeginDrag(platform::NMTREEVIEW& notification);
 
+    bool fillTree();
     void collapse();
     void showOrganiser(bool show);
     void openForGoto();

@@ -31,10 +31,12 @@ const MessageMap* CBookmarkTree::GetMessageMap() const {
     return &map;
 }
 
-void CBookmarkTree::Fill(const BookmarkList& list) {
+bool CBookmarkTree::Fill(const BookmarkList& list, const ProgressStep& step) {
     Item selected = nullptr;
     Item folder = nullptr;
+    std::size_t done = 0;
     for (const auto& record : list.Records()) {
+        if (!GoesOn(step, done++, list.Records().size())) return false;
         if (!IsFolder(*record)) {
             addItem(*record, folder, TreePlace::last);
             continue;
@@ -44,6 +46,7 @@ void CBookmarkTree::Fill(const BookmarkList& list) {
     }
     Expand(selected);
     SelectItem(selected);
+    return true;
 }
 
 CBookmarkTree::Item CBookmarkTree::AddFolder(const CBookmark& folder) {

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/files/ProgressStep.h"
 #include "platform/windows/TreeCtrl.h"
 #include "src/bookmarks/BookmarkList.h"
 
@@ -19,8 +20,8 @@ class CBookmarkTree : public platform::CTreeCtrl {
     const platform::MessageMap* GetMessageMap() const override;
 
     /// Shows the records of a list, the folders in alphabetical order, and selects and opens the current
-    /// folder, or the first when there is none.
-    void Fill(const BookmarkList& list);
+    /// folder, or the first when there is none. False when `step` has cancelled that.
+    bool Fill(const BookmarkList& list, const platform::ProgressStep& step = {});
     /// Adds a folder in its alphabetical place.
     Item AddFolder(const CBookmark& folder);
     /// Has an item stand for another record.

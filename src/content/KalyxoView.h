@@ -155,6 +155,7 @@ class CKalyxoView : public platform::CView {
     void openPlace(const PageAddress& place);
     void restorePage(const PageAddress& place);
     void RecordHistory(const PageAddress& place) { m_history.Record(place); }
+    PrepareResult preparePage(const std::string& source, const std::string& target);
     void ShowPreparedPage(const std::string& target);
     void openSectionOfSlot(int slot);
     void showDefinition(const std::string& file);

@@ -1,7 +1,9 @@
 #include "formats/PageNumber.h"
 #include "formats/SectionTable.h"
+#include "platform/framework/Progress.h"
 #include "platform/framework/WinApp.h"
 #include "platform/machine/Machine.h"
+#include "platform/text/GreekLiteral.h"
 #include "src/app/KalyxoApp.h"
 #include "src/content/EnlargedViewDlg.h"
 #include "src/content/GlossaryText.h"
@@ -13,6 +15,7 @@
 namespace kalyxo {
 
 using namespace platform;
+using namespace platform::literals;
 
 void CKalyxoView::OpenSection(std::int16_t sectionCode, std::int32_t pageNumber) {
     const bool needLayout = m_mode != ContentMode::Page;
@@ -37,7 +40,7 @@ void CKalyxoView::OpenPage(std::int32_t pageNumber) {
     const std::string source =
         TheApp().m_strDataFolder + formats::pagePath(pageNumber).value_or(std::to_string(pageNumber));
     const std::string target = m_cache.NextTarget();
-    switch (m_preparer->PreparePage(source, target, m_contents)) {
+    switch (preparePage(source, target)) {
         case PrepareResult::prepared:
             LastPreparedPage() = target;
             break;
@@ -49,6 +52,11 @@ void CKalyxoView::OpenPage(std::int32_t pageNumber) {
             break;
     }
     ShowPreparedPage(target);
+}
+
+PrepareResult CKalyxoView::preparePage(const std::string& source, const std::string& target) {
+    CProgress progress("Ετοιμάζεται η σελίδα…"_gr);
+    return m_preparer->PreparePage(source, target, m_contents, progress.Step());
 }
 
 void CKalyxoView::ShowPreparedPage(const std::string& target) {

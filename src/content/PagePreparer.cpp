@@ -21,6 +21,8 @@ namespace {
 constexpr std::size_t kLineLimit = 26000;
 /// Room for what a line grows by.
 constexpr std::size_t kWorkingSize = 30000;
+/// Lines between two looks at the clock.
+constexpr std::uint64_t kLinesPerStep = 256;
 constexpr std::string_view kMoleculeCopy = "chime.mol";
 
 /// Copies a molecule file beside the page `target`.
@@ -32,11 +34,14 @@ std::string copyMolecule(const platform::FileSystem& files, const std::string& t
     return files.copyFile(molecule, copy) ? std::string(kMoleculeCopy) : std::string();
 }
 
-void rewriteLines(TextReader& source, TextWriter& target, const LineRewriter& rewriter, PageNotes& notes) {
+void rewriteLines(TextReader& source, TextWriter& target, const LineRewriter& rewriter, PageNotes& notes,
+                  const platform::ProgressStep& step) {
     const auto buffer = std::make_unique_for_overwrite<char[]>(kLineLimit);
     std::string working;
     working.reserve(kWorkingSize);
+    std::uint64_t lines = 0;
     while (const std::size_t length = source.readLine(buffer.get(), kLineLimit)) {
+        if (++lines % kLinesPerStep == 0 && !platform::GoesOn(step, lines, 0)) break;
         const std::string_view line(buffer.get(), length);
         if (LineRewriter::Concerns(line)) {
             working = line;
@@ -54,7 +59,7 @@ PagePreparer::PagePreparer(const platform::FileSystem& files, std::string dataFo
     : m_files(files), m_strDataFolder(std::move(dataFolder)), m_strCacheFolder(std::move(cacheFolder)) {}
 
 PrepareResult PagePreparer::PreparePage(const std::string& source, const std::string& target,
-                                        PageContents& contents) const {
+                                        PageContents& contents, const platform::ProgressStep& step) const {
     std::optional<TextReader> reader = TextReader::open(m_files, source);
     if (!reader) return PrepareResult::noSource;
     std::optional<TextWriter> writer = TextWriter::open(m_files, target);
@@ -63,7 +68,7 @@ PrepareResult PagePreparer::PreparePage(const std::string& source, const std::st
     const LineRewriter rewriter(m_strDataFolder, [&](const std::string& molecule) {
         return copyMolecule(m_files, target, molecule);
     });
-    rewriteLines(*reader, *writer, rewriter, notes);
+    rewriteLines(*reader, *writer, rewriter, notes, step);
     writer->close();
     contents = {notes.video, notes.molecule};
     const std::string enlarged = m_strCacheFolder + std::string(kEnlargedPage);

@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/files/ProgressStep.h"
+
 namespace platform {
 class FileSystem;
 }
@@ -25,9 +27,10 @@ class PagePreparer {
     /// Both folders end with a backslash.
     PagePreparer(const platform::FileSystem& files, std::string dataFolder, std::string cacheFolder);
 
-    /// Writes the page `source` as `target`. `contents` is set only when the page was prepared.
-    PrepareResult PreparePage(const std::string& source, const std::string& target,
-                              PageContents& contents) const;
+    /// Writes the page `source` as `target`, as far as `step` lets it. `contents` is set only when the page
+    /// was prepared.
+    PrepareResult PreparePage(const std::string& source, const std::string& target, PageContents& contents,
+                              const platform::ProgressStep& step = {}) const;
 
   private:
     const platform::FileSystem& m_files;

@@ -31,9 +31,11 @@ std::int32_t groupOf(std::string_view word, std::string_view image) {
 
 }  // namespace
 
-void AlternativesTable::Load(const platform::FileSystem& files, std::string_view dataFolder) {
-    m_image = files.readAll(std::string(dataFolder).append(formats::kAlternativesFile), kLargestIndexFile)
-                  .value_or("");
+void AlternativesTable::Load(const platform::FileSystem& files, std::string_view dataFolder,
+                             const platform::ProgressStep& step) {
+    m_image =
+        files.readAll(std::string(dataFolder).append(formats::kAlternativesFile), kLargestIndexFile, step)
+            .value_or("");
 }
 
 std::vector<std::string> AlternativesTable::FormsOf(std::string_view word) const {

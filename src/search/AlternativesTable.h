@@ -12,7 +12,8 @@ namespace kalyxo {
 class AlternativesTable {
   public:
     /// Reads the file of the data folder; without one no word has other forms.
-    void Load(const platform::FileSystem& files, std::string_view dataFolder);
+    void Load(const platform::FileSystem& files, std::string_view dataFolder,
+              const platform::ProgressStep& step = {});
 
     /// The word, and behind it the other forms of its group in file order, each once. The group is that of
     /// the word's first record; a word without record belongs to the group −1.

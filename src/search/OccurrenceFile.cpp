@@ -59,7 +59,8 @@ void appendHit(const char* record, std::vector<SearchHit>& hits) {
 OccurrenceFile::OccurrenceFile(const platform::FileSystem& files, std::string_view dataFolder)
     : m_file(platform::BinaryFile::open(files, std::string(dataFolder).append(formats::kOccurrencesFile))) {}
 
-void OccurrenceFile::Collect(std::string_view word, std::vector<SearchHit>& hits, std::size_t limit) const {
+void OccurrenceFile::Collect(std::string_view word, std::vector<SearchHit>& hits, std::size_t limit,
+                             const platform::ProgressStep& step) const {
     if (!m_file || word.size() > kOccurrenceWordField) return;
     const WordMatcher matches(word);
     const auto block = std::make_unique<Block>();
@@ -72,7 +73,7 @@ void OccurrenceFile::Collect(std::string_view word, std::vector<SearchHit>& hits
         for (const char* record = block->data(); record < end; record += kOccurrenceRecordSize) {
             if (matches(record) && hits.size() < limit) appendHit(record, hits);
         }
-    } while (got == block->size() && hits.size() < limit);
+    } while (got == block->size() && hits.size() < limit && platform::GoesOn(step, offset, m_file->size()));
 }
 
 }  // namespace kalyxo

@@ -33,8 +33,10 @@ class ResultRows {
     std::set<HitTexts> m_known;
 };
 
-/// Looks up the words one after the other, as a new run of the index, and returns the rows of its hits.
-std::vector<ResultRow> FindRows(SearchIndex& index, std::span<const std::string> words, HitTitles& titles);
+/// Looks up the words one after the other, as a new run of the index, and returns the rows of its hits. A run
+/// that `step` cancels has no hits.
+std::vector<ResultRow> FindRows(SearchIndex& index, std::span<const std::string> words, HitTitles& titles,
+                                const platform::ProgressStep& step = {});
 
 /// Compares two cells as unsigned bytes: negative, 0 or positive. A text comes behind one that it begins
 /// with.

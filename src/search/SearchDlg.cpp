@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform/framework/DataExchange.h"
+#include "platform/framework/Progress.h"
 #include "platform/framework/WinApp.h"
 #include "platform/text/GreekLiteral.h"
 #include "platform/windows/MessageMap.h"
@@ -12,11 +13,15 @@
 namespace kalyxo {
 
 using namespace platform;
+using namespace platform::literals;
 
 namespace {
 
 /// Columns of the result list.
 enum Column { NameColumn, TopicColumn, SubgroupColumn };
+
+/// Words that go into the list between two looks at the clock.
+constexpr std::size_t kWordsPerStep = 1024;
 
 }  // namespace
 
@@ -57,20 +62,32 @@ bool CSearchDlg::OnInitDialog() {
     const CWaitCursor wait;
     CDialog::OnInitDialog();
     m_alternatives.SetCheck(m_state.alternatives != 0);
-    loadIndex();
     insertColumns();
-    restoreSearch();
+    if (loadIndex()) {
+        restoreSearch();
+    } else {
+        EndDialog(IDCANCEL);
+    }
     return false;
 }
 
-void CSearchDlg::loadIndex() {
-    for (const std::string& word : m_index.LoadWordIndex()) m_words.AddString(word);
-    m_index.LoadAlternatives();
+/// False when the user did not want to wait.
+bool CSearchDlg::loadIndex() {
+    CProgress progress("Διαβάζεται το ευρετήριο των λέξεων…"_gr);
+    const ProgressStep step = progress.Step();
+    const std::vector<std::string> words = m_index.LoadWordIndex(step);
+    std::size_t added = 0;
+    for (const std::string& word : words) {
+        if (++added % kWordsPerStep == 0 && !step(added, words.size())) break;
+        m_words.AddString(word);
+    }
+    m_index.LoadAlternatives(step);
+    if (progress.Cancelled()) return false;
     if (!m_index.LoadFirstLetterTable()) AfxMessageBox("Too many PR1 recs");
+    return true;
 }
 
 void CSearchDlg::insertColumns() {
-    using namespace platform::literals;
     m_results.InsertColumn("Ονομασία"_gr, m_state.nameWidth);
     m_results.InsertColumn("Θέμα"_gr, m_state.topicWidth);
     m_results.InsertColumn("Υποομάδα"_gr, m_state.subgroupWidth);
@@ -125,7 +142,9 @@ void CSearchDlg::RunSearch() {
     m_results.DeleteAllItems();
     EnableDlgItem(IDOK, false);
     HitTitles titles(m_files, m_dataFolder);
-    for (const ResultRow& row : FindRows(m_index, listSearchWords(), titles)) AddResultRow(row);
+    CProgress progress("Αναζητείται η λέξη…"_gr);
+    for (const ResultRow& row : FindRows(m_index, listSearchWords(), titles, progress.Step()))
+        AddResultRow(row);
 }
 
 std::vector<std::string> CSearchDlg::listSearchWords() {

@@ -42,7 +42,7 @@ class CSearchDlg : public platform::CDialog {
     platform::LRESULT OnResultsLeft(platform::NMHDR& notification);
     platform::LRESULT OnHeaderClicked(platform::NMLISTVIEW& notification);
 
-    void loadIndex();
+    bool loadIndex();
     void insertColumns();
     void restoreSearch();
     void UpdateSearchButton();

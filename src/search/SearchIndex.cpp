@@ -13,12 +13,14 @@ SearchIndex::SearchIndex(const platform::FileSystem& files, std::string dataFold
     m_hits.reserve(MaxHits);
 }
 
-std::vector<std::string> SearchIndex::LoadWordIndex() const {
+std::vector<std::string> SearchIndex::LoadWordIndex(const platform::ProgressStep& step) const {
     return formats::decodeWordIndex(
-        m_files.readAll(pathOf(formats::kWordIndexFile), kLargestIndexFile).value_or(""));
+        m_files.readAll(pathOf(formats::kWordIndexFile), kLargestIndexFile, step).value_or(""));
 }
 
-void SearchIndex::LoadAlternatives() { m_alternatives.Load(m_files, m_dataFolder); }
+void SearchIndex::LoadAlternatives(const platform::ProgressStep& step) {
+    m_alternatives.Load(m_files, m_dataFolder, step);
+}
 
 bool SearchIndex::LoadFirstLetterTable() {
     m_firstLetters.clear();

@@ -24,9 +24,9 @@ class SearchIndex {
     /// must outlive the index.
     SearchIndex(const platform::FileSystem& files, std::string dataFolder);
 
-    /// The vocabulary in file order.
-    std::vector<std::string> LoadWordIndex() const;
-    void LoadAlternatives();
+    /// The vocabulary in file order; empty when cancelled.
+    std::vector<std::string> LoadWordIndex(const platform::ProgressStep& step = {}) const;
+    void LoadAlternatives(const platform::ProgressStep& step = {});
     /// False when the file has more records than the table has room for; the first ones are kept.
     bool LoadFirstLetterTable();
     const std::vector<formats::FirstLetterRecord>& FirstLetters() const { return m_firstLetters; }
@@ -36,8 +36,11 @@ class SearchIndex {
 
     /// Starts a search run without hits.
     void ResetHits() { m_hits.clear(); }
-    /// Appends the occurrences of a word in file order; those beyond `MaxHits` are left out.
-    void CollectHits(std::string_view word) { m_occurrences.Collect(word, m_hits, MaxHits); }
+    /// Appends the occurrences of a word in file order; those beyond `MaxHits` are left out. Cancelled, it
+    /// may leave out others too.
+    void CollectHits(std::string_view word, const platform::ProgressStep& step = {}) {
+        m_occurrences.Collect(word, m_hits, MaxHits, step);
+    }
     std::size_t HitCount() const { return m_hits.size(); }
     const SearchHit& HitAt(std::size_t i) const { return m_hits[i]; }
 

@@ -99,6 +99,18 @@ TEST_F(PagePreparation, FailuresLeaveTheFlagsAndWriteNothing) {
     EXPECT_TRUE(contents.video);
 }
 
+TEST_F(PagePreparation, IsAPageAsFarAsItWentWhenCancelled) {
+    std::string page;
+    for (int i = 0; i < 1000; ++i) page += "<P>\n";
+    drives.put("D:\\page", page);
+    const PagePreparer preparer(drives.files, "D:\\", "C:\\");
+    const auto never = [](std::uint64_t, std::uint64_t) { return false; };
+    EXPECT_EQ(preparer.PreparePage("D:\\page", "C:\\1.htm", contents, never), PrepareResult::prepared);
+    const std::string prepared = drives.get("C:\\1.htm");
+    EXPECT_TRUE(prepared.starts_with("<P>\r\n"));
+    EXPECT_LT(prepared.size(), page.size());
+}
+
 TEST_F(PagePreparation, WritesTheEnlargedVideoPage) {
     prepare("<EMBED SRC=\"\x04..v.webm\" WIDTH=320>\n");
     EXPECT_EQ(drives.get("C:\\bigvid.htm"),

@@ -1,0 +1,93 @@
+#include "platform/framework/Progress.h"
+
+#include <QApplication>
+#include <QPointer>
+#include <QProgressDialog>
+#include <array>
+
+#include "platform/framework/LightPalette.h"
+#include "platform/framework/OwnerWindow.h"
+#include "platform/framework/Resources.h"
+#include "platform/machine/Machine.h"
+#include "platform/windows/QtConvert.h"
+
+namespace platform {
+
+namespace {
+
+/// Milliseconds.
+constexpr std::uint64_t cursorAfter = 500;
+constexpr std::uint64_t boxAfter = 2000;
+constexpr std::uint64_t redrawAfter = 50;
+
+constexpr int wholeBar = 1000;
+constexpr int boxWidth = 360;
+
+}  // namespace
+
+/// The box on the screen.
+class CProgress::Box {
+  public:
+    explicit Box(const std::string& what) : dialog_(new QProgressDialog(ownerWindow())) {
+        dialog_->setPalette(lightPalette());
+        dialog_->setWindowTitle(toQt(LoadString(AFX_IDS_APP_TITLE)));
+        dialog_->setLabelText(toQt(what));
+        dialog_->setCancelButtonText(QStringLiteral("Άκυρο"));
+        dialog_->setWindowModality(Qt::ApplicationModal);
+        dialog_->setFixedWidth(boxWidth);
+        dialog_->setAutoClose(false);
+        dialog_->setAutoReset(false);
+        dialog_->setMinimumDuration(0);
+        dialog_->show();
+        QApplication::setOverrideCursor(Qt::ArrowCursor);
+    }
+    ~Box() {
+        QApplication::restoreOverrideCursor();
+        delete dialog_;
+    }
+    Box(const Box&) = delete;
+    Box& operator=(const Box&) = delete;
+
+    /// Whether to go on.
+    bool show(std::uint64_t done, std::uint64_t total) {
+        const std::uint64_t now = machine().milliseconds();
+        if (now < drawn_ + redrawAfter) return true;
+        drawn_ = now;
+        const double part = total == 0 ? 0.0 : static_cast<double>(done) / static_cast<double>(total);
+        dialog_->setMaximum(total == 0 ? 0 : wholeBar);
+        dialog_->setValue(static_cast<int>(part * wholeBar));
+        QApplication::processEvents();
+        return dialog_ && !dialog_->wasCanceled();
+    }
+
+  private:
+    QPointer<QProgressDialog> dialog_;
+    std::uint64_t drawn_ = 0;
+};
+
+CProgress::CProgress(std::string_view what) : m_what(what), m_nBegin(machine().milliseconds()) {}
+
+CProgress::~CProgress() = default;
+
+bool CProgress::goOn(std::uint64_t done, std::uint64_t total) {
+    if (m_bCancelled) return false;
+    const std::uint64_t passed = machine().milliseconds() - m_nBegin;
+    if (passed >= cursorAfter && !m_cursor) m_cursor.emplace();
+    if (passed >= boxAfter && !m_bAsked) ask();
+    if (m_box) m_bCancelled = !m_box->show(done, total);
+    return !m_bCancelled;
+}
+
+void CProgress::ask() {
+    m_bAsked = true;
+    const std::vector<BoxAnswer> buttons = {BoxAnswer::ok, BoxAnswer::cancel};
+    const std::optional<BoxAnswer> ready = machine().nextAnswer(buttons);
+    if (!ready) {
+        m_box = std::make_unique<Box>(m_what);
+        return;
+    }
+    machine().trace().record(TraceBox{m_what, std::string(LoadString(AFX_IDS_APP_TITLE)), buttons, *ready});
+    m_bCancelled = *ready == BoxAnswer::cancel;
+}
+
+}  // namespace platform
