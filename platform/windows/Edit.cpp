@@ -65,6 +65,10 @@ void CEdit::LimitText(int length) {
     if (LineEdit* const edit = lineOf(*this)) edit->limitText(length);
 }
 
+void CEdit::ShowScrollBar(bool show) {
+    if (MultiLineEdit* const edit = linesOf(*this)) edit->showScrollBar(show);
+}
+
 int CEdit::GetLineCount() const {
     MultiLineEdit* const edit = linesOf(*this);
     return edit ? edit->lineCount() : 1;

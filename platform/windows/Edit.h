@@ -21,6 +21,8 @@ class CEdit : public CControl {
     void SetSel(int start, int end);
     /// Keeps typing from making the text longer than this; a text that the program sets may be.
     void LimitText(int length);
+    /// A bar for a text of several lines that is taller than the edit; it wraps beside the bar.
+    void ShowScrollBar(bool show);
     /// Lines as they are wrapped, at least 1.
     int GetLineCount() const;
 };

@@ -3,6 +3,7 @@
 #include <QAbstractTextDocumentLayout>
 #include <QEvent>
 #include <QFontInfo>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextLayout>
@@ -52,9 +53,16 @@ bool MultiLineEdit::event(QEvent* event) {
     return QTextEdit::event(event);
 }
 
+void MultiLineEdit::showScrollBar(bool show) {
+    setVerticalScrollBarPolicy(show ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+    wrapToWidth();
+}
+
 void MultiLineEdit::wrapToWidth() {
+    const bool hasBar = verticalScrollBarPolicy() == Qt::ScrollBarAlwaysOn;
+    const int barWidth = hasBar ? verticalScrollBar()->sizeHint().width() : 0;
     // A hidden widget has its new size before its inside has.
-    setLineWrapColumnOrWidth(width() - 2 * frameWidth());
+    setLineWrapColumnOrWidth(width() - 2 * frameWidth() - barWidth);
 }
 
 void MultiLineEdit::setLineHeights() {

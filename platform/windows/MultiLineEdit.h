@@ -4,8 +4,9 @@
 
 namespace platform {
 
-/// An edit of several lines without scroll bars, whose text wraps at its width, anywhere where a word is too
-/// long for a line. What it shows and how many lines that is are the same whether it is on show or not.
+/// An edit of several lines, without a scroll bar unless asked for, whose text wraps at its width, anywhere
+/// where a word is too long for a line. What it shows and how many lines that is are the same whether it is
+/// on show or not.
 class MultiLineEdit : public QTextEdit {
   public:
     explicit MultiLineEdit(QWidget& parent);
@@ -13,6 +14,8 @@ class MultiLineEdit : public QTextEdit {
     void setContent(const QString& text);
     /// Lines as wrapped, at least 1.
     int lineCount();
+    /// For a text that is taller than the edit. The text wraps beside the bar.
+    void showScrollBar(bool show);
 
   protected:
     bool event(QEvent* event) override;

@@ -18,10 +18,12 @@ constexpr int kGap = 5;
 /// High enough for any text while its lines are counted.
 constexpr int kHeightForCounting = 1000;
 
+int heightOf(int lines) { return kLineHeight * lines + kBorders; }
+
 }  // namespace
 
 CRect PlaceGlossaryPopup(CPoint pointer, CSize client, int lines) {
-    const int height = kLineHeight * lines + kBorders;
+    const int height = std::min(heightOf(lines), client.cy);
     int x = pointer.x - 30;
     int y = pointer.y + 14;
     if (y + height + kGap > client.cy) y = std::max(0, y - 25 - height);
@@ -36,9 +38,13 @@ void GlossaryPopup::Show(const std::string& definition) {
     if (!view) return;
     const CPoint pointer = view->ScreenToClient(GetCursorPos());
     const CRect client = view->GetClientRect();
+    m_tip.ShowScrollBar(false);
     m_tip.SetWindowText(definition);
     m_tip.MoveWindow(CRect::at(pointer.x, pointer.y, kWidth, kHeightForCounting));
-    m_tip.MoveWindow(PlaceGlossaryPopup(pointer, {client.Width(), client.Height()}, m_tip.GetLineCount()));
+    const int lines = m_tip.GetLineCount();
+    const CRect place = PlaceGlossaryPopup(pointer, {client.Width(), client.Height()}, lines);
+    m_tip.ShowScrollBar(place.Height() < heightOf(lines));
+    m_tip.MoveWindow(place);
     m_tip.Pop();
 }
 

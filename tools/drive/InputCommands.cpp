@@ -44,13 +44,15 @@ struct MouseAction {
     void (*perform)(Pointer&);
 };
 
-constexpr std::array<MouseAction, 6> kMouseActions = {{
+constexpr std::array<MouseAction, 8> kMouseActions = {{
     {"move", [](Pointer&) {}},
     {"down", [](Pointer& pointer) { pointer.press(Qt::LeftButton); }},
     {"up", [](Pointer& pointer) { pointer.release(Qt::LeftButton); }},
     {"double", [](Pointer& pointer) { pointer.pressAgain(); }},
     {"rdown", [](Pointer& pointer) { pointer.press(Qt::RightButton); }},
     {"rup", [](Pointer& pointer) { pointer.release(Qt::RightButton); }},
+    {"wheelup", [](Pointer& pointer) { pointer.turnWheel(1); }},
+    {"wheeldown", [](Pointer& pointer) { pointer.turnWheel(-1); }},
 }};
 
 void mouse(Act& act, Program&) {

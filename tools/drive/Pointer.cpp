@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <QTest>
+#include <QWheelEvent>
 #include <QWindow>
 
 #include "platform/windows/QtConvert.h"
@@ -79,6 +80,17 @@ void sendSecondPress() {
     QCoreApplication::instance()->notify(window, &event);
 }
 
+void sendWheel(int notches) {
+    constexpr int notch = 120;
+    QWindow* window = windowAtPointer();
+    if (window == nullptr) return;
+    const QPointF local = window->mapFromGlobal(QPointF(mouse().position));
+    QWheelEvent event(local, mouse().position, {}, {0, notch * notches}, mouse().buttons, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    QCoreApplication::instance()->notify(window, &event);
+}
+
 template <class Step>
 void later(Step step) {
     QMetaObject::invokeMethod(qApp, step, Qt::QueuedConnection);
@@ -113,5 +125,9 @@ void Pointer::release(Qt::MouseButton button) {
 }
 
 void Pointer::pressAgain() { later(sendSecondPress); }
+
+void Pointer::turnWheel(int notches) {
+    later([notches] { sendWheel(notches); });
+}
 
 }  // namespace drive

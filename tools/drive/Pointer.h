@@ -20,6 +20,8 @@ class Pointer {
     void release(Qt::MouseButton button);
     /// The second press of a double click.
     void pressAgain();
+    /// By so many notches, away from the user where positive.
+    void turnWheel(int notches);
 
   private:
     Pointer() = default;
