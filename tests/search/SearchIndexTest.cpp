@@ -1,6 +1,7 @@
 #include "src/search/SearchIndex.h"
 
 #include <gtest/gtest.h>
+#include <fstream>
 
 #include "platform/text/GreekLiteral.h"
 #include "tests/search/SearchFolder.h"
