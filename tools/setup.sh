@@ -4,7 +4,7 @@ PACKAGES=(
     g++ cmake ninja-build ccache
     qt6-base-dev qt6-webengine-dev libqt6svg6-dev libqt6opengl6-dev libqt6charts6-dev
     nlohmann-json3-dev libpng-dev libstemmer-dev libgtest-dev libgmock-dev libbenchmark-dev
-    fonts-liberation librsvg2-bin poppler-utils ffmpeg bodr clang-format
+    fonts-liberation librsvg2-bin poppler-utils ffmpeg bodr clang-format python3
     dpkg-dev file lintian desktop-file-utils appstream
 )
 # npm fetches a library of the molecule viewer; one that is there already will do, from wherever it came.

@@ -1,0 +1,162 @@
+"""Runs one scenario: run.py DRIVER CONTENT SCENARIO. Exit status 0 when all is as it must be, 1 when something
+is not, 2 for wrong arguments."""
+
+import json
+import subprocess
+import sys
+import threading
+from pathlib import Path
+
+from form import parse_scenario, with_values
+from fragment import difference, find_somewhere
+from machine import Machine, Problem, demand
+
+PATIENCE = 60  # seconds for the answer to one command
+
+
+class Broken(Problem):
+    """Nothing that follows can succeed."""
+
+
+class Run:
+    """Carries a scenario out and tells what was not as it must be."""
+
+    def __init__(self, driver, content, name):
+        self.driver_file, self.name = driver, name
+        self.machine = Machine(driver, content)
+        self.driver = None
+        self.answer = {}
+        self.unchecked = None  # where a command stands whose success no expectation has looked at yet
+        self.captures = {}
+        self.failed = False
+
+    def run(self, steps, mistakes):
+        """Whether every expectation held."""
+        for mistake in mistakes:
+            self.fail(mistake)
+        try:
+            for step in steps:
+                self.perform(step)
+            self.finish_command()
+            self.end_driver("end")
+        except Broken as problem:
+            self.fail(problem)
+        finally:
+            if self.driver:
+                self.driver.kill()
+                self.driver.communicate()
+            self.machine.remove()
+        return not self.failed
+
+    def perform(self, step):
+        try:
+            getattr(self, step.kind)(step)
+        except Broken as problem:
+            raise Broken(f"{step.where}: {problem}") from problem
+        except Problem as problem:
+            self.fail(f"{step.where}: {problem}")
+
+    def fail(self, message):
+        print(f"{self.name}:{message}", flush=True)
+        self.failed = True
+
+    def change(self, step):
+        self.finish_command()
+        if step.what == "restart":
+            return self.end_driver(step.where)
+        demand(self.driver is None, "the machine cannot be changed while the program runs")
+        try:
+            self.machine.change(step.what, step.words, step.value)
+        except (Problem, OSError, TypeError) as problem:
+            raise Broken(problem) from problem
+
+    def command(self, step):
+        self.finish_command()
+        if self.driver is None:
+            self.start_driver()
+        line = self.ask(with_values(step.what, self.captures))
+        try:
+            self.answer = json.loads(line)
+        except json.JSONDecodeError:
+            raise Broken(f"no JSON: {line}" if line else "no answer") from None
+        self.unchecked = step.where
+
+    def finish_command(self):
+        """A command succeeds, unless an expectation looks at `ok` itself."""
+        where, self.unchecked = self.unchecked, None
+        if where is not None and not self.answer.get("ok"):
+            self.fail(f"{where}: not carried out: {self.answer}")
+
+    def expectation(self, step):
+        if step.what:
+            self.command(step)
+        if "ok" in step.value:
+            self.unchecked = None
+        kind = step.words[0]
+        if kind is None:
+            found = difference(self.answer, step.value)
+            return demand(found is None, found)
+        there = find_somewhere(self.answer, step.value) is not None
+        demand(there == (kind == "somewhere"),
+               f"there is {'' if there else 'no '}{step.value} in {self.answer}")
+
+    def capture(self, step):
+        found = find_somewhere(self.answer, step.value) or {}
+        if step.words[0] not in found:
+            raise Broken(f"no {step.words[0]} of {step.value} in {self.answer}")
+        value = found[step.words[0]]
+        self.captures[step.what] = value if isinstance(value, str) else json.dumps(value)
+
+    def check(self, step):
+        if step.what.endswith("loaded"):
+            loaded = self.driver is not None and self.has_loaded(step.words[0])
+            return demand(loaded == (step.what == "loaded"), f"{step.words[0]} is {'' if loaded else 'not '}loaded")
+        self.machine.check(step.what, step.words[0], step.value)
+
+    def has_loaded(self, library):
+        return f"/{library}" in Path(f"/proc/{self.driver.pid}/maps").read_text(encoding="utf-8")
+
+    def start_driver(self):
+        try:
+            self.machine.make()
+        except Problem as problem:
+            raise Broken(problem) from problem
+        self.driver = subprocess.Popen([self.driver_file, "--machine", self.machine.folder], cwd=self.machine.folder,
+                                       stdin=subprocess.PIPE, stdout=subprocess.PIPE, encoding="utf-8")
+
+    def ask(self, line):
+        """The line that answers this one; empty when the driver ends or takes too long."""
+        limit = threading.Timer(PATIENCE, self.driver.kill)
+        limit.start()
+        try:
+            print(line, file=self.driver.stdin, flush=True)
+            return self.driver.stdout.readline()
+        except BrokenPipeError:
+            return ""
+        finally:
+            limit.cancel()
+
+    def end_driver(self, where):
+        driver, self.driver = self.driver, None
+        if driver is None:
+            return
+        driver.communicate()
+        if driver.returncode != 0:
+            self.fail(f"{where}: the driver ended with {driver.returncode}")
+
+
+def main(arguments):
+    if len(arguments) != 3:
+        print(__doc__, file=sys.stderr)
+        return 2
+    driver, content, scenario = map(Path, arguments)
+    try:
+        text = scenario.read_text(encoding="utf-8")
+    except OSError as problem:
+        print(problem, file=sys.stderr)
+        return 2
+    return 0 if Run(driver.resolve(), content, scenario.name).run(*parse_scenario(text)) else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1:]))
