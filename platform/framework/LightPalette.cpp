@@ -24,6 +24,8 @@ QPalette lightPalette() {
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         palette.setColor(QPalette::Disabled, role, faint);
     }
+    // A field that takes nothing is no lighter than what is around it.
+    palette.setColor(QPalette::Disabled, QPalette::Base, background);
     return palette;
 }
 

@@ -144,6 +144,7 @@ bool CBookmarkTree::OnSetCursor() {
 void CBookmarkTree::OnLButtonUp(UINT, CPoint) {
     if (!m_bDragging) return Default();
     m_bDragging = false;
+    CCursor::arrow().Set();
     ReleaseCapture();
     drop(FolderOf(std::exchange(m_dropTarget, nullptr)));
 }
