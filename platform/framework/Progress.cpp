@@ -1,9 +1,8 @@
 #include "platform/framework/Progress.h"
 
 #include <QApplication>
-#include <QPointer>
 #include <QProgressDialog>
-#include <array>
+#include <memory>
 
 #include "platform/framework/LightPalette.h"
 #include "platform/framework/OwnerWindow.h"
@@ -28,7 +27,7 @@ constexpr int boxWidth = 360;
 /// The box on the screen.
 class CProgress::Box {
   public:
-    explicit Box(const std::string& what) : dialog_(new QProgressDialog(ownerWindow())) {
+    explicit Box(const std::string& what) : dialog_(std::make_unique<QProgressDialog>(ownerWindow())) {
         dialog_->setPalette(lightPalette());
         dialog_->setWindowTitle(toQt(LoadString(AFX_IDS_APP_TITLE)));
         dialog_->setLabelText(toQt(what));
@@ -41,10 +40,7 @@ class CProgress::Box {
         dialog_->show();
         QApplication::setOverrideCursor(Qt::ArrowCursor);
     }
-    ~Box() {
-        QApplication::restoreOverrideCursor();
-        delete dialog_;
-    }
+    ~Box() { QApplication::restoreOverrideCursor(); }
     Box(const Box&) = delete;
     Box& operator=(const Box&) = delete;
 
@@ -57,11 +53,11 @@ class CProgress::Box {
         dialog_->setMaximum(total == 0 ? 0 : wholeBar);
         dialog_->setValue(static_cast<int>(part * wholeBar));
         QApplication::processEvents();
-        return dialog_ && !dialog_->wasCanceled();
+        return !dialog_->wasCanceled();
     }
 
   private:
-    QPointer<QProgressDialog> dialog_;
+    std::unique_ptr<QProgressDialog> dialog_;
     std::uint64_t drawn_ = 0;
 };
 
