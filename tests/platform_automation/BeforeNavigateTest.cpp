@@ -1,8 +1,6 @@
-#include <QDialog>
 #include <QTcpServer>
 
 #include "platform/automation/BrowserPolicy.h"
-#include "platform/automation/WebBrowserControl.h"
 #include "tests/platform_automation/BrowserMachine.h"
 
 using namespace platform;
@@ -51,37 +49,11 @@ TEST_F(BeforeNavigate, AsksTheProgramToo) {
     EXPECT_EQ(std::get<TraceRefused>(trace[2]).url, "D:\\a.htm");
 }
 
-TEST_F(BeforeNavigate, RecordsTheControlId) {
-    WindowTable::instance().add({&window, "CWebBrowser", 1025, {}});
-    open("D:\\a.htm");
-    EXPECT_EQ(std::get<TraceNavigate>(takeTrace().at(0)).control, 1025);
-}
-
 TEST_F(BeforeNavigate, GoesToPlacesWithinThePageUnasked) {
     open("C:\\Kalyxo\\cache\\1.htm");
     ASSERT_TRUE(page().clickLink(cp1253("πάνω")));
     EXPECT_TRUE(runUntil([&] { return url() == "C:\\Kalyxo\\cache\\1.htm#top"; }));
     EXPECT_EQ(asked.size(), 1U);
-}
-
-TEST_F(BeforeNavigate, LetsADialogWithABrowserRunInTheHandler) {
-    open("C:\\Kalyxo\\cache\\1.htm");
-    std::string inner;
-    refuses = [&](const std::string&) {
-        QDialog dialog;
-        const auto browser = ControlHost::create(WebBrowserControl::classId, &dialog, {});
-        const std::array arguments = {Variant(std::string("D:\\a.htm")), Variant(), Variant(), Variant(),
-                                      Variant()};
-        dialog.show();
-        browser->invoke(104, InvokeKind::method, arguments);
-        runUntil([&] { return !browser->control().busy(); });
-        EXPECT_FALSE(host().control().busy()) << "it waits for nothing but the dialog";
-        inner = dynamic_cast<WebPageInspector&>(browser->control()).title();
-        return true;
-    };
-    ASSERT_TRUE(click("Μεγέθυνση"));
-    EXPECT_EQ(inner, "a");
-    EXPECT_EQ(title(), "1");
 }
 
 TEST_F(BeforeNavigate, LetsTheHandlerCloseTheBrowser) {

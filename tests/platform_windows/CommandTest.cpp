@@ -10,8 +10,8 @@ namespace {
 class Base : public CCmdTarget {
   public:
     const MessageMap* GetMessageMap() const override {
-        static constexpr MessageMapEntry entries[] = {
-            OnCommandId<&Base::onOne>(1), OnCommandId<&Base::onTwo>(2), OnUpdateId<&Base::onUpdateTwo>(2)};
+        static constexpr MessageMapEntry entries[] = {OnCommandId<&Base::onOne>(1),
+                                                      OnCommandId<&Base::onTwo>(2)};
         static const MessageMap map{nullptr, entries};
         return &map;
     }
@@ -20,7 +20,6 @@ class Base : public CCmdTarget {
   protected:
     void onOne() { done += "base1 "; }
     void onTwo() { done += "base2 "; }
-    void onUpdateTwo(CCmdUI& ui) { ui.Enable(false); }
 };
 
 class Derived : public Base {
@@ -43,17 +42,6 @@ TEST(MessageMapTest, LooksFromTheClassDownToItsBases) {
     EXPECT_EQ(target.done, "derived1 base2 ");
 }
 
-TEST(MessageMapTest, ARuleDecidesAndAHandlerAloneEnables) {
-    Derived target;
-    CCmdUI withHandler(1), withRule(2), withNothing(3);
-    EXPECT_TRUE(target.OnCmdMsg(1, CommandMessage::update, &withHandler));
-    EXPECT_TRUE(target.OnCmdMsg(2, CommandMessage::update, &withRule));
-    EXPECT_FALSE(target.OnCmdMsg(3, CommandMessage::update, &withNothing));
-    EXPECT_TRUE(withHandler.enabled());
-    EXPECT_FALSE(withRule.enabled());
-    EXPECT_EQ(target.done, "");
-}
-
 class CommandTest : public ProgramTest {};
 
 TEST_F(CommandTest, GoesToViewDocumentFrameAndApplication) {
@@ -61,8 +49,7 @@ TEST_F(CommandTest, GoesToViewDocumentFrameAndApplication) {
     log().clear();
     for (const UINT id : {idSwitchable, idByDocument, idByApplication}) EXPECT_TRUE(frame().RunCommand(id));
     EXPECT_FALSE(frame().RunCommand(idUnhandled));
-    EXPECT_EQ(log().lines(),
-              (std::vector<std::string>{"view command", "document command", "application command"}));
+    EXPECT_EQ(log().lines(), (Lines{"view command", "document command", "application command"}));
 }
 
 TEST_F(CommandTest, IsNotCarriedOutWhenItsRuleDisablesIt) {
@@ -89,7 +76,7 @@ TEST_F(CommandTest, EventsReachTheSinkOnlyWithTheArgumentsItDeclares) {
     EXPECT_FALSE(view().OnEvent(1035, 1, std::span(fitting).first(1)));
     EXPECT_FALSE(view().OnEvent(1035, 2, fitting));
     EXPECT_FALSE(view().OnEvent(1, 1, fitting));
-    EXPECT_EQ(log().lines(), std::vector<std::string>{"view event 3 a"});
+    EXPECT_EQ(log().lines(), Lines{"view event 3 a"});
 }
 
 }  // namespace

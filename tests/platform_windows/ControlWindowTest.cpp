@@ -56,32 +56,6 @@ TEST_F(ControlWindowTest, StandsInTheWindowTableAndIsFilledByTheControl) {
     EXPECT_EQ(WindowFromPoint(control_.ClientToScreen({150, 50})), &control_);
 }
 
-TEST_F(ControlWindowTest, CallsAreTraced) {
-    ASSERT_TRUE(create());
-    EXPECT_EQ((control_.call<std::int32_t>(1, InvokeKind::method, std::int32_t{40}, std::int16_t{2})), 42);
-    EXPECT_EQ((control_.call<std::int32_t>(1, InvokeKind::method, std::string("no"))), 0);
-    EXPECT_EQ((control_.call<std::int32_t>(99, InvokeKind::propertyGet)), 0);
-    const std::vector<TraceEntry> trace = machine_.trace().take();
-    ASSERT_EQ(trace.size(), 3U);
-    const auto& call = std::get<TraceCall>(trace[0]);
-    EXPECT_EQ(call.control, 1035);
-    EXPECT_EQ(call.className, "CTest");
-    EXPECT_EQ(call.dispid, 1);
-    EXPECT_EQ(call.kind, TraceCallKind::method);
-    EXPECT_EQ(call.name, "Add");
-    EXPECT_EQ(call.args, (std::vector<TraceValue>{std::int64_t{40}, std::int64_t{2}}));
-    EXPECT_EQ(call.result, TraceValue(std::int64_t{42}));
-    EXPECT_EQ(std::get<TraceCall>(trace[1]).result, TraceValue());
-    EXPECT_EQ(std::get<TraceCall>(trace[2]).name, "");
-}
-
-TEST_F(ControlWindowTest, EventsReachTheParent) {
-    ASSERT_TRUE(create());
-    control_.call<void>(4, InvokeKind::method, std::string("chosen"));
-    EXPECT_EQ(log().count("view event 5 chosen"), 1U);
-    EXPECT_EQ(control_.GetParent(), &view());
-}
-
 TEST_F(ControlWindowTest, WindowsInsideOfItHaveHandlesButNoObject) {
     ASSERT_TRUE(create());
     const HWND edit = control_.call<std::int32_t>(2, InvokeKind::propertyGet);
@@ -92,8 +66,7 @@ TEST_F(ControlWindowTest, WindowsInsideOfItHaveHandlesButNoObject) {
     log().clear();
     // Neither the keys nor the clicks that it has no use for are the view's.
     pressKey(Qt::Key_F9);
-    press(control_, 90, 55);
-    release(control_, 90, 55);
+    click(control_, 90, 55);
     EXPECT_EQ(log().count("KEY"), 0U);
     EXPECT_EQ(log().count("BUTTON"), 0U);
 }
@@ -109,14 +82,6 @@ TEST_F(ControlWindowTest, EndsWithTheWindow) {
     EXPECT_TRUE(create()) << "the object can have another window";
     frame().DestroyWindow();
     EXPECT_EQ(control_.GetSafeHwnd(), 0);
-}
-
-TEST_F(ControlWindowTest, IsNotMadeForAnUnknownClass) {
-    const std::size_t before = WindowTable::instance().all().size();
-    EXPECT_FALSE(control_.CreateControl("00000000-0000-0000-0000-000000000000", "", WS_CHILD, {0, 0, 9, 9},
-                                        view(), 1));
-    EXPECT_EQ(control_.GetSafeHwnd(), 0);
-    EXPECT_EQ(WindowTable::instance().all().size(), before);
 }
 
 }  // namespace

@@ -1,12 +1,9 @@
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QApplication>
-#include <QComboBox>
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QTest>
 #include <QTextEdit>
-#include <QTimer>
-#include <QTreeWidget>
 #include <array>
 
 #include "platform/framework/DataExchange.h"
@@ -14,8 +11,6 @@
 #include "platform/framework/Resources.h"
 #include "platform/handles/WindowTable.h"
 #include "platform/text/GreekLiteral.h"
-#include "platform/windows/Button.h"
-#include "platform/windows/ComboBox.h"
 #include "platform/windows/Edit.h"
 #include "platform/windows/ListBox.h"
 #include "platform/windows/ListCtrl.h"
@@ -50,55 +45,13 @@ constexpr std::array controls = {
 };
 constexpr std::array dialogs = {DialogTemplate{600, "Στοιχεία"_gr, {200, 160}, controls}};
 
-/// A tree that remembers the mouse messages that it lets through.
-class WatchedTree : public CTreeCtrl {
-  public:
-    const MessageMap* GetMessageMap() const override {
-        static constexpr MessageMapEntry entries[] = {
-            OnMessage<WM_MOUSEMOVE, &WatchedTree::onMove>(),
-            OnMessage<WM_LBUTTONUP, &WatchedTree::onUp>(),
-        };
-        static const MessageMap map{CTreeCtrl::GetMessageMap(), entries};
-        return &map;
-    }
-
-  private:
-    void onMove(UINT, CPoint p) {
-        UINT flags = 0;
-        const HTREEITEM item = HitTest(p, flags);
-        if (capturing) Log::instance().add("over " + GetItemText(item) + " " + std::to_string(flags));
-        if (!capturing) Default();
-    }
-    void onUp(UINT, CPoint) {
-        if (!capturing) return Default();
-        capturing = false;
-        ReleaseCapture();
-    }
-
-  public:
-    bool capturing = false;
-};
-
 class ControlsDialog : public CDialog {
   public:
     ControlsDialog() : CDialog(600) {}
     const MessageMap* GetMessageMap() const override {
         static constexpr MessageMapEntry entries[] = {
-            OnControl<&ControlsDialog::onUpdate>(idEdit, EN_UPDATE),
-            OnControl<&ControlsDialog::onChange>(idEdit, EN_CHANGE),
             OnControl<&ControlsDialog::onPicked>(idList, LBN_SELCHANGE),
             OnControl<&ControlsDialog::onDoubleClick>(idList, LBN_DBLCLK),
-            OnControl<&ControlsDialog::onDrive>(idCombo, CBN_SELCHANGE),
-            OnCommandId<&ControlsDialog::onCheck>(idCheck),
-            OnNotify<&ControlsDialog::onRow>(idReport, NM_CLICK),
-            OnNotify<&ControlsDialog::onRow>(idReport, NM_DBLCLK),
-            OnNotify<&ControlsDialog::onRow>(idReport, LVN_COLUMNCLICK),
-            OnNotify<&ControlsDialog::onLeave>(idReport, NM_KILLFOCUS),
-            OnNotify<&ControlsDialog::onExpanding>(idTree, TVN_ITEMEXPANDING),
-            OnNotify<&ControlsDialog::onBeginDrag>(idTree, TVN_BEGINDRAG),
-            OnNotify<&ControlsDialog::onTreeKey>(idTree, TVN_KEYDOWN),
-            OnNotify<&ControlsDialog::onTree>(idTree, NM_DBLCLK),
-            OnNotify<&ControlsDialog::onTree>(idTree, NM_RETURN),
         };
         static const MessageMap map{CDialog::GetMessageMap(), entries};
         return &map;
@@ -108,12 +61,8 @@ class ControlsDialog : public CDialog {
     CListBox list;
     CListBox plain;
     CListCtrl report;
-    WatchedTree tree;
-    CComboBox combo;
-    CButton check;
+    CTreeCtrl tree;
     std::string narrow = "αρχή"_gr.data();
-    /// What onUpdate does with the edit's text.
-    std::function<void()> update;
 
   protected:
     void DoDataExchange(CDataExchange& exchange) override {
@@ -122,70 +71,25 @@ class ControlsDialog : public CDialog {
         DDX_Control(exchange, idPlain, plain);
         DDX_Control(exchange, idReport, report);
         DDX_Control(exchange, idTree, tree);
-        DDX_Control(exchange, idCombo, combo);
-        DDX_Control(exchange, idCheck, check);
         DDX_Text(exchange, idNarrow, narrow);
         DDV_MaxChars(exchange, narrow, 6);
     }
 
   private:
-    static void note(std::string line) { Log::instance().add(std::move(line)); }
-    void onUpdate() {
-        note("update " + edit.GetWindowText());
-        if (update) update();
-    }
-    void onChange() { note("change " + edit.GetWindowText()); }
-    void onPicked() { note("picked " + std::to_string(list.GetCurSel())); }
-    void onDoubleClick() { note("double " + std::to_string(list.GetCurSel())); }
-    void onDrive() { note("drive " + combo.GetLBText(combo.GetCurSel())); }
-    void onCheck() { note(check.GetCheck() ? "ticked" : "cleared"); }
-    LRESULT onRow(NMLISTVIEW& row) {
-        note("row " + std::to_string(row.code) + " " + std::to_string(row.iItem) + "," +
-             std::to_string(row.iSubItem));
-        return 0;
-    }
-    LRESULT onLeave(NMHDR&) {
-        note("left for " + std::to_string(GetFocus() == GetDlgItem(idEdit)));
-        return 0;
-    }
-    LRESULT onExpanding(NMTREEVIEW& change) {
-        note("expanding " + tree.GetItemText(change.item));
-        return 0;
-    }
-    LRESULT onBeginDrag(NMTREEVIEW& drag) {
-        note("drag " + tree.GetItemText(drag.item));
-        tree.capturing = true;
-        tree.SetCapture();
-        return 0;
-    }
-    LRESULT onTreeKey(NMTVKEYDOWN& key) {
-        note("key " + std::to_string(key.wVKey));
-        return 0;
-    }
-    LRESULT onTree(NMHDR& what) {
-        note("tree " + std::to_string(what.code));
-        return 0;
-    }
+    void onPicked() { Log::instance().add("picked " + std::to_string(list.GetCurSel())); }
+    void onDoubleClick() { Log::instance().add("double " + std::to_string(list.GetCurSel())); }
 };
 
 class ControlsTest : public ProgramTest {
   protected:
-    ControlsTest() {
-        ResourceTable resources = Resources();
-        resources.dialogs = dialogs;
-        SetResources(resources);
-    }
-
-    /// Shows the dialog, fills nothing, and runs `use` once it is up.
-    int show(const std::function<void()>& use) {
-        if (!app().GetMainWnd()) open();
-        QTimer::singleShot(0, [&] {
-            settle();
+    ControlsTest() { useDialogs(dialogs); }
+    /// Ends the dialog after `use`.
+    void show(const std::function<void()>& use) {
+        ProgramTest::show(dialog_, [&] {
             log().clear();
             use();
             dialog_.EndDialog(IDOK);
         });
-        return dialog_.DoModal();
     }
     QWidget& control(int id) { return *WindowTable::instance().widget(dialog_.GetDlgItem(id)); }
     template <class Widget>
@@ -200,40 +104,9 @@ class ControlsTest : public ProgramTest {
     void key(Qt::Key key) {
         QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), key, QString(), Qt::NoModifier);
     }
-    std::vector<std::string> told() {
-        std::vector<std::string> lines =
-            log().lines({"update", "change", "picked", "double", "drive", "ticked", "cleared", "row", "left",
-                         "expanding", "drag", "over", "key ", "tree "});
-        log().clear();
-        return lines;
-    }
-    using Lines = std::vector<std::string>;
 
     ControlsDialog dialog_;
 };
-
-TEST_F(ControlsTest, EditTellsOfChangesAndWritesSmallLetters) {
-    show([&] {
-        dialog_.edit.SetFocus();
-        type(QStringLiteral("ΆβΓ"));
-        EXPECT_EQ(dialog_.edit.GetWindowText(), "άβγ"_gr);
-        EXPECT_EQ(told().back(), std::string("change ") + "άβγ"_gr.data());
-        // A handler may write the field while it is told of a change, and is told of that too.
-        dialog_.update = [&] {
-            if (dialog_.edit.GetWindowText().ends_with(' ')) {
-                dialog_.edit.SetWindowText("άβγ"_gr);
-                dialog_.edit.SetSel(3, 3);
-            }
-        };
-        type(QStringLiteral(" "));
-        EXPECT_EQ(told().front(), std::string("update ") + "άβγ "_gr.data());
-        EXPECT_EQ(dialog_.edit.GetWindowText(), "άβγ"_gr);
-        EXPECT_EQ(native<QLineEdit>(idEdit).cursorPosition(), 3);
-        dialog_.edit.SetSel(0, -1);
-        type(QStringLiteral("Δ"));
-        EXPECT_EQ(dialog_.edit.GetWindowText(), "δ"_gr);
-    });
-}
 
 TEST_F(ControlsTest, EditKeepsItsLimitsOnlyAgainstTyping) {
     show([&] {
@@ -294,7 +167,7 @@ TEST_F(ControlsTest, ListTellsWhatTheUserSelectsAndNotWhatTheProgramDoes) {
         dialog_.list.SetCurSel(2);
         dialog_.list.SetCurSel(-1);
         EXPECT_EQ(dialog_.list.GetCurSel(), -1);
-        EXPECT_EQ(told(), Lines{});
+        EXPECT_EQ(log().count("picked"), 0U);
         auto& view = native<QAbstractItemView>(idList);
         const QPoint second = view.visualRect(view.model()->index(1, 0)).center();
         QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, second);
@@ -302,7 +175,8 @@ TEST_F(ControlsTest, ListTellsWhatTheUserSelectsAndNotWhatTheProgramDoes) {
         key(Qt::Key_Home);
         QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, second);
         QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, second);
-        EXPECT_EQ(told(), (Lines{"picked 1", "picked 2", "picked 0", "picked 1", "double 1"}));
+        EXPECT_EQ(log().lines({"picked", "double"}),
+                  (Lines{"picked 1", "picked 2", "picked 0", "picked 1", "double 1"}));
     });
 }
 
@@ -336,32 +210,6 @@ TEST_F(ControlsTest, ReportKeepsRowsInOrderAndSortsThem) {
         EXPECT_EQ(dialog_.report.GetItemText(3, 1), "γ"_gr);
         EXPECT_EQ(dialog_.report.GetItemText(9, 1), "");
         EXPECT_EQ(dialog_.report.GetColumnWidth(1), 70);
-    });
-}
-
-TEST_F(ControlsTest, ReportTellsOfClicksHeadersAndLeaving) {
-    show([&] {
-        dialog_.report.InsertColumn("Α"_gr, 60);
-        dialog_.report.InsertColumn("Β"_gr, 60);
-        for (const auto name : {"α"_gr, "β"_gr}) dialog_.report.InsertItem(name);
-        auto& view = native<QTreeWidget>(idReport);
-        const auto click = [&](QPoint where) {
-            QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, where);
-        };
-        const QPoint second = view.visualRect(view.model()->index(1, 1)).center();
-        log().clear();
-        click(second);
-        EXPECT_EQ(told(), (Lines{"row -2 1,-1"}));
-        QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, second);
-        EXPECT_EQ(told(), (Lines{"row -3 1,-1"}));
-        click(view.viewport()->rect().bottomLeft() + QPoint(3, -3));
-        EXPECT_EQ(told(), (Lines{"row -2 -1,-1"}));
-        QTest::mouseClick(view.header()->viewport(), Qt::LeftButton, {}, QPoint(90, 5));
-        EXPECT_EQ(told(), (Lines{"row -108 -1,1"}));
-        view.setFocus();
-        log().clear();
-        dialog_.edit.SetFocus();
-        EXPECT_EQ(told(), (Lines{"left for 1"}));
     });
 }
 
@@ -400,66 +248,6 @@ TEST_F(ControlsTest, TreeKnowsItsItems) {
         tree.DeleteAllItems();
         EXPECT_EQ(tree.GetRootItem(), nullptr);
         EXPECT_EQ(tree.GetSelectedItem(), nullptr);
-    });
-}
-
-TEST_F(ControlsTest, TreeTellsOfKeysAndOpening) {
-    show([&] {
-        const HTREEITEM folder = dialog_.tree.InsertItem("Φάκελος"_gr);
-        dialog_.tree.InsertItem("μέσα"_gr, folder);
-        dialog_.tree.SelectItem(folder);
-        dialog_.tree.SetFocus();
-        log().clear();
-        key(Qt::Key_Delete);
-        key(Qt::Key_Return);
-        EXPECT_TRUE(dialog_.tree.IsExpanded(folder));
-        key(Qt::Key_Left);
-        EXPECT_FALSE(dialog_.tree.IsExpanded(folder));
-        const std::string name = "Φάκελος"_gr.data();
-        EXPECT_EQ(told(),
-                  (Lines{"key 46", "key 13", "tree -4", "expanding " + name, "key 37", "expanding " + name}));
-    });
-}
-
-TEST_F(ControlsTest, TreeHandsADragToTheProgram) {
-    show([&] {
-        const HTREEITEM first = dialog_.tree.InsertItem("a");
-        const HTREEITEM second = dialog_.tree.InsertItem("b");
-        (void)second;
-        dialog_.tree.SelectItem(first);
-        settle();
-        auto& view = native<QTreeWidget>(idTree);
-        const auto at = [&](int row) { return view.visualRect(view.model()->index(row, 0)).center(); };
-        const QPoint far(QApplication::startDragDistance() + 1, 0);
-        log().clear();
-        QTest::mousePress(view.viewport(), Qt::LeftButton, {}, at(0));
-        QTest::mouseMove(view.viewport(), at(0) + QPoint(2, 0));
-        QTest::mouseMove(view.viewport(), at(0) + far);
-        ASSERT_TRUE(dialog_.tree.capturing);
-        QTest::mouseMove(view.viewport(), at(1));
-        QTest::mouseMove(view.viewport(), QPoint(20, view.viewport()->height() + 3));
-        QTest::mouseMove(view.viewport(), QPoint(20, -3));
-        QTest::mouseMove(view.viewport(), QPoint(-9, -3));
-        QTest::mouseMove(view.viewport(), QPoint(20, view.viewport()->height() - 3));
-        QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, at(1));
-        EXPECT_FALSE(dialog_.tree.capturing);
-        EXPECT_EQ(told(), (Lines{"drag a", "over b 70", "over  512", "over  256", "over  2304", "over  1"}));
-    });
-}
-
-TEST_F(ControlsTest, ComboAndCheckBoxTellOfTheUser) {
-    show([&] {
-        EXPECT_EQ(dialog_.combo.AddString("Ένα"_gr), 0);
-        EXPECT_EQ(dialog_.combo.GetCurSel(), -1);
-        EXPECT_EQ(dialog_.combo.AddString("Δύο"_gr), 1);
-        dialog_.combo.SetCurSel(0);
-        dialog_.check.SetCheck(true);
-        EXPECT_EQ(told(), Lines{});
-        dialog_.combo.SetFocus();
-        key(Qt::Key_Down);
-        dialog_.check.SetFocus();
-        key(Qt::Key_Space);
-        EXPECT_EQ(told(), (Lines{std::string("drive ") + "Δύο"_gr.data(), "cleared"}));
     });
 }
 

@@ -12,7 +12,7 @@ namespace {
 class DestructionTest : public ProgramTest {
   protected:
     void SetUp() override { open(); }
-    std::vector<std::string> destroyed() { return log().lines({"WM_DESTROY"}); }
+    Lines destroyed() { return log().lines({"WM_DESTROY"}); }
 };
 
 TEST_F(DestructionTest, TellsTheWindowBeforeItsChildren) {
@@ -23,14 +23,11 @@ TEST_F(DestructionTest, TellsTheWindowBeforeItsChildren) {
     ASSERT_TRUE(inner.CreateWnd("", WS_CHILD, {0, 0, 5, 5}, *first, 1));
     TestFrame& top = frame();
     bool stillThere = false;
-    top.hook = [&](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
-        if (message == WM_DESTROY) stillThere = top.IsWindowVisible() && top.GetWindowRect().left == 100;
-        return std::nullopt;
-    };
+    top.on(WM_DESTROY,
+           [&](WPARAM) { stillThere = top.IsWindowVisible() && top.GetWindowRect().left == 100; });
     EXPECT_TRUE(top.DestroyWindow());
-    EXPECT_EQ(destroyed(),
-              (std::vector<std::string>{"frame WM_DESTROY", "view WM_DESTROY", "first WM_DESTROY",
-                                        "inner WM_DESTROY", "second WM_DESTROY"}));
+    EXPECT_EQ(destroyed(), (Lines{"frame WM_DESTROY", "view WM_DESTROY", "first WM_DESTROY",
+                                  "inner WM_DESTROY", "second WM_DESTROY"}));
     EXPECT_TRUE(stillThere);
     EXPECT_EQ(app().GetMainWnd(), nullptr);
     for (const CWnd* window : std::initializer_list<const CWnd*>{&top, first.get(), &inner, second.get()}) {
@@ -42,16 +39,13 @@ TEST_F(DestructionTest, TellsTheWindowBeforeItsChildren) {
 TEST_F(DestructionTest, AHandlerMayDestroyChildrenAndTheWindowAgain) {
     const auto first = child("first", CRect::at(0, 0, 50, 50));
     const auto second = child("second", CRect::at(60, 0, 50, 50));
-    first->hook = [&](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
-        if (message == WM_DESTROY) {
-            second->DestroyWindow();
-            first->DestroyWindow();
-        }
-        return std::nullopt;
-    };
+    first->on(WM_DESTROY, [&](WPARAM) {
+        second->DestroyWindow();
+        first->DestroyWindow();
+    });
     frame().DestroyWindow();
-    EXPECT_EQ(destroyed(), (std::vector<std::string>{"frame WM_DESTROY", "view WM_DESTROY",
-                                                     "first WM_DESTROY", "second WM_DESTROY"}));
+    EXPECT_EQ(destroyed(),
+              (Lines{"frame WM_DESTROY", "view WM_DESTROY", "first WM_DESTROY", "second WM_DESTROY"}));
 }
 
 TEST_F(DestructionTest, HandlesAreNeverGivenOutTwice) {
@@ -104,10 +98,7 @@ TEST_F(DestructionTest, AWindowEndsAtTheLatestWithItsObject) {
 
 TEST_F(DestructionTest, AHandlerThatRefusesCreationLeavesNoWindow) {
     TestWnd window;
-    window.hook = [](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
-        if (message == WM_CREATE) return -1;
-        return std::nullopt;
-    };
+    window.on(WM_CREATE, {}, -1);
     const std::size_t before = WindowTable::instance().all().size();
     EXPECT_FALSE(window.CreateWnd("", WS_CHILD, {0, 0, 5, 5}, view(), 1));
     EXPECT_EQ(window.GetSafeHwnd(), 0);

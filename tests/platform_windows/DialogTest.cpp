@@ -2,11 +2,9 @@
 
 #include <QApplication>
 #include <QTest>
-#include <QTimer>
 #include <array>
 
 #include "platform/framework/Resources.h"
-#include "platform/framework/Shell.h"
 #include "platform/handles/WindowTable.h"
 #include "platform/text/GreekLiteral.h"
 #include "platform/windows/MessageMap.h"
@@ -64,29 +62,11 @@ class TestDialog : public CDialog {
 
 class DialogTest : public ProgramTest {
   protected:
-    DialogTest() {
-        ResourceTable resources = Resources();
-        resources.dialogs = dialogs;
-        SetResources(resources);
-    }
-
-    /// Shows the dialog before the frame and runs `use` once it is up.
-    int show(const std::function<void()>& use) {
-        if (!app().GetMainWnd()) open();
-        QTimer::singleShot(0, [&] {
-            settle();
-            use();
-        });
-        return dialog_.DoModal();
-    }
+    DialogTest() { useDialogs(dialogs); }
+    int show(const std::function<void()>& use) { return ProgramTest::show(dialog_, use); }
     void key(Qt::Key key) {
         QTest::sendKeyEvent(QTest::Click, widgetOf(dialog_).windowHandle(), key, QString(), Qt::NoModifier);
     }
-    void click(int x, int y) {
-        press(dialog_, x, y);
-        release(dialog_, x, y);
-    }
-
     TestDialog dialog_;
 };
 
@@ -122,7 +102,7 @@ TEST_F(DialogTest, ShowsItsTemplateInTheMiddleOfTheFrame) {
 }
 
 TEST_F(DialogTest, EndsByButtonsKeysAndItsOwnCaption) {
-    const auto at = [&](int x, int y) { return [this, x, y] { click(x, y); }; };
+    const auto at = [&](int x, int y) { return [this, x, y] { click(dialog_, x, y); }; };
     struct Case {
         const char* name;
         std::function<void()> act;
@@ -159,45 +139,20 @@ TEST_F(DialogTest, EndsByButtonsKeysAndItsOwnCaption) {
 TEST_F(DialogTest, ClicksAndButtonsReachItsMap) {
     show([&] {
         log().clear();
-        click(5, 90);
-        click(12, 14);  // on a text
-        click(12, 34);  // on a picture
-        click(140, 75);
+        click(dialog_, 5, 90);
+        click(dialog_, 12, 14);  // on a text
+        click(dialog_, 12, 34);  // on a picture
+        click(dialog_, 140, 75);
         EXPECT_EQ(log().lines({"click", "other"}),
-                  (std::vector<std::string>{"click 5,90", "click 12,14", "click 12,34", "other"}));
+                  (Lines{"click 5,90", "click 12,14", "click 12,34", "other"}));
         dialog_.EndDialog(IDOK);
     });
-}
-
-TEST_F(DialogTest, KeepsTheFrameFromInput) {
-    show([&] {
-        log().clear();
-        press(view(), 3, 3);
-        release(view(), 3, 3);
-        EXPECT_EQ(log().count("view WM_LBUTTONDOWN"), 0U);
-        dialog_.EndDialog(IDOK);
-    });
-}
-
-TEST_F(DialogTest, EndsWithTheFrame) {
-    EXPECT_EQ(show([&] { frame().DestroyWindow(); }), IDCANCEL);
-    EXPECT_EQ(dialog_.GetSafeHwnd(), 0);
 }
 
 TEST_F(DialogTest, IsNotShownWhenItEndsAtOnceOrHasNoTemplate) {
     dialog_.endsAtOnce = true;
     EXPECT_EQ(dialog_.DoModal(), idOther);
     EXPECT_EQ(TestDialog(501).DoModal(), -1);
-}
-
-TEST_F(DialogTest, ShellIsRecordedAndStartsNothingInVirtualTime) {
-    machine_.setVirtualTime(true);
-    ShellExecute("open", "notepad.exe", "M:\\1.htm", "c:\\");
-    const std::vector<TraceEntry> told = machine_.trace().take();
-    ASSERT_EQ(told.size(), 1U);
-    const auto* const shell = std::get_if<TraceShell>(told.data());
-    ASSERT_NE(shell, nullptr);
-    EXPECT_EQ(shell->file + "|" + shell->parameters + "|" + shell->folder, "notepad.exe|M:\\1.htm|c:\\");
 }
 
 }  // namespace

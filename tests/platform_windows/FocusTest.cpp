@@ -12,25 +12,17 @@ namespace {
 class FocusTest : public ProgramTest {
   protected:
     void SetUp() override { open(); }
-    std::vector<std::string> focus() { return log().lines({"FOCUS"}); }
+    Lines focus() { return log().lines({"FOCUS"}); }
 };
-
-TEST_F(FocusTest, TheViewHasItFirst) { EXPECT_EQ(GetFocus(), view().GetSafeHwnd()); }
 
 TEST_F(FocusTest, BothWindowsAreToldOfEachOther) {
     const auto window = child("child", CRect::at(0, 0, 50, 50));
     HWND left = 0, entered = 0;
-    window->hook = [&](UINT message, WPARAM wParam, LPARAM) -> std::optional<LRESULT> {
-        if (message == WM_SETFOCUS) left = static_cast<HWND>(wParam);
-        return std::nullopt;
-    };
-    view().hook = [&](UINT message, WPARAM wParam, LPARAM) -> std::optional<LRESULT> {
-        if (message == WM_KILLFOCUS) entered = static_cast<HWND>(wParam);
-        return std::nullopt;
-    };
+    window->on(WM_SETFOCUS, [&](WPARAM wParam) { left = static_cast<HWND>(wParam); });
+    view().on(WM_KILLFOCUS, [&](WPARAM wParam) { entered = static_cast<HWND>(wParam); });
     log().clear();
     window->SetFocus();
-    EXPECT_EQ(focus(), (std::vector<std::string>{"view WM_KILLFOCUS", "child WM_SETFOCUS"}));
+    EXPECT_EQ(focus(), (Lines{"view WM_KILLFOCUS", "child WM_SETFOCUS"}));
     EXPECT_EQ(left, view().GetSafeHwnd());
     EXPECT_EQ(entered, window->GetSafeHwnd());
     EXPECT_EQ(GetFocus(), window->GetSafeHwnd());
@@ -44,12 +36,12 @@ TEST_F(FocusTest, AWindowThatIsHiddenOrGoesLeavesItToItsParent) {
     window->SetFocus();
     log().clear();
     window->ShowWindow(SW_HIDE);
-    EXPECT_EQ(focus(), (std::vector<std::string>{"child WM_KILLFOCUS", "view WM_SETFOCUS"}));
+    EXPECT_EQ(focus(), (Lines{"child WM_KILLFOCUS", "view WM_SETFOCUS"}));
     window->ShowWindow(SW_SHOW);
     window->SetFocus();
     log().clear();
     window->DestroyWindow();
-    EXPECT_EQ(focus(), (std::vector<std::string>{"child WM_KILLFOCUS", "view WM_SETFOCUS"}));
+    EXPECT_EQ(focus(), (Lines{"child WM_KILLFOCUS", "view WM_SETFOCUS"}));
     settle();
     EXPECT_EQ(GetFocus(), view().GetSafeHwnd());
 }
@@ -61,8 +53,7 @@ TEST_F(FocusTest, AClickOnTheViewTakesItOnlyFromOutside) {
     EXPECT_EQ(GetFocus(), window->GetSafeHwnd()) << "the view's own child keeps it";
     release(view(), 100, 100);
     widgetOf(frame()).setFocus();
-    press(view(), 50, 100);
-    release(view(), 50, 100);
+    click(view(), 50, 100);
     EXPECT_EQ(GetFocus(), view().GetSafeHwnd());
 }
 
@@ -74,7 +65,7 @@ TEST_F(FocusTest, KeysGoToTheFocusWindowAlone) {
         {Qt::Key_Return, 13}, {Qt::Key_Enter, 13},  {Qt::Key_Escape, 27}, {Qt::Key_Left, 37},
         {Qt::Key_Down, 40},   {Qt::Key_Delete, 46}, {Qt::Key_Tab, 9},     {Qt::Key_C, 'C'},
         {Qt::Key_7, '7'},     {Qt::Key_F5, 116},    {Qt::Key(0x3A8), 'C'}};
-    std::vector<std::string> expected;
+    Lines expected;
     for (const auto& [key, number] : keys) {
         pressKey(key);
         expected.push_back("child WM_KEYDOWN " + std::to_string(number));
@@ -99,10 +90,7 @@ TEST_F(FocusTest, TimersTickUntilTheyAreKilled) {
 TEST_F(FocusTest, ATimerHandlerMayEndItsTimerOrItsWindow) {
     const auto window = child("child", CRect::at(0, 0, 50, 50));
     window->SetTimer(1, 5);
-    window->hook = [&](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
-        if (message == WM_TIMER) window->DestroyWindow();
-        return std::nullopt;
-    };
+    window->on(WM_TIMER, [&](WPARAM) { window->DestroyWindow(); });
     settleFor(40);
     EXPECT_EQ(log().count("child WM_TIMER"), 1U);
     EXPECT_EQ(window->GetSafeHwnd(), 0);

@@ -54,33 +54,29 @@ class InputFilterTest : public ProgramTest {
     std::unique_ptr<Probe> outer_;
     Probe* inner_ = nullptr;
     UINT swallowed_ = 0;
-    std::vector<std::string> asked_;
+    Lines asked_;
     std::vector<HWND> windows_;
 };
 
 TEST_F(InputFilterTest, SeesInputOfAnyWidgetOnceWithTheNearestWindow) {
-    press(view(), 35, 45);
-    release(view(), 35, 45);
-    EXPECT_EQ(asked_, (std::vector<std::string>{"WM_LBUTTONDOWN 35,45", "WM_LBUTTONUP 35,45"}));
+    click(view(), 35, 45);
+    EXPECT_EQ(asked_, (Lines{"WM_LBUTTONDOWN 35,45", "WM_LBUTTONUP 35,45"}));
     EXPECT_EQ(windows_, (std::vector<HWND>{view().GetSafeHwnd(), view().GetSafeHwnd()}));
     // The inner widget did not want the press, so that it went on to the outer one and to the view.
     EXPECT_EQ(outer_->seen, (std::vector{QEvent::MouseButtonPress, QEvent::MouseButtonRelease}));
-    press(view(), 35, 45, Qt::RightButton);
-    release(view(), 35, 45, Qt::RightButton);
+    click(view(), 35, 45, Qt::RightButton);
     EXPECT_EQ(asked_.size(), 4U);
 }
 
 TEST_F(InputFilterTest, SeesInputThatIsSentStraightToAWidget) {
     QTest::mouseClick(inner_, Qt::LeftButton, {}, QPoint(5, 5));
     QTest::keyClick(inner_, Qt::Key_A);
-    EXPECT_EQ(asked_, (std::vector<std::string>{"WM_LBUTTONDOWN 35,45", "WM_LBUTTONUP 35,45", "WM_KEYDOWN 65",
-                                                "WM_KEYUP"}));
+    EXPECT_EQ(asked_, (Lines{"WM_LBUTTONDOWN 35,45", "WM_LBUTTONUP 35,45", "WM_KEYDOWN 65", "WM_KEYUP"}));
 }
 
 TEST_F(InputFilterTest, SwallowsRightClicksOnPlainWidgets) {
     swallowed_ = WM_RBUTTONDOWN;
-    press(view(), 35, 45, Qt::RightButton);
-    release(view(), 35, 45, Qt::RightButton);
+    click(view(), 35, 45, Qt::RightButton);
     QTest::mouseClick(inner_, Qt::RightButton, {}, QPoint(5, 5));
     contextMenu(*inner_, QContextMenuEvent::Mouse);
     EXPECT_EQ(inner_->seen, std::vector{QEvent::MouseButtonRelease}) << "releases were not swallowed";
@@ -90,21 +86,18 @@ TEST_F(InputFilterTest, SwallowsRightClicksOnPlainWidgets) {
     EXPECT_EQ(inner_->seen, std::vector{QEvent::ContextMenu});
     inner_->seen.clear();
     swallowed_ = 0;
-    press(view(), 60, 70, Qt::RightButton);
-    release(view(), 60, 70, Qt::RightButton);
+    click(view(), 60, 70, Qt::RightButton);
     EXPECT_EQ(inner_->seen.size(), 3U) << "press, menu and release";
 }
 
 TEST_F(InputFilterTest, ASwallowedPressDoesNotMoveTheFocus) {
     inner_->setFocusPolicy(Qt::ClickFocus);
     swallowed_ = WM_RBUTTONDOWN;
-    press(view(), 35, 45, Qt::RightButton);
-    release(view(), 35, 45, Qt::RightButton);
+    click(view(), 35, 45, Qt::RightButton);
     EXPECT_EQ(GetFocus(), view().GetSafeHwnd());
     EXPECT_FALSE(inner_->hasFocus());
     swallowed_ = 0;
-    press(view(), 35, 45, Qt::RightButton);
-    release(view(), 35, 45, Qt::RightButton);
+    click(view(), 35, 45, Qt::RightButton);
     EXPECT_TRUE(inner_->hasFocus());
 }
 
@@ -116,7 +109,7 @@ TEST_F(InputFilterTest, SwallowsKeysOfTheWidgetThatHasTheFocus) {
     swallowed_ = WM_KEYDOWN;
     pressKey(Qt::Key_B);
     EXPECT_EQ(edit.text().toStdString(), "a");
-    EXPECT_EQ(asked_, (std::vector<std::string>{"WM_KEYDOWN 65", "WM_KEYUP", "WM_KEYDOWN 66", "WM_KEYUP"}));
+    EXPECT_EQ(asked_, (Lines{"WM_KEYDOWN 65", "WM_KEYUP", "WM_KEYDOWN 66", "WM_KEYUP"}));
 }
 
 TEST_F(InputFilterTest, LooksAtDialogsToo) {

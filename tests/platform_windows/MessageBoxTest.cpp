@@ -14,34 +14,8 @@ using namespace platform::literals;
 
 namespace {
 
-class MessageBoxTest : public ProgramTest {
-  protected:
-    std::vector<TraceBox> boxes() {
-        std::vector<TraceBox> found;
-        for (TraceEntry& entry : machine_.trace().take()) {
-            if (auto* const box = std::get_if<TraceBox>(&entry)) found.push_back(std::move(*box));
-        }
-        return found;
-    }
-};
-
-TEST_F(MessageBoxTest, TakesTheAnswersThatAreReady) {
-    machine_.queueAnswers({BoxAnswer::no});
-    EXPECT_EQ(AfxMessageBox("Να διαγραφεί;"_gr, BoxButtons::yesNo), BoxAnswer::no);
-    EXPECT_EQ(AfxMessageBox("b", BoxButtons::yesNo), BoxAnswer::yes);
-    EXPECT_EQ(AfxMessageBox("c"), BoxAnswer::ok);
-    const std::vector<TraceBox> told = boxes();
-    ASSERT_EQ(told.size(), 3U);
-    EXPECT_EQ(told[0].text, "Να διαγραφεί;"_gr);
-    EXPECT_EQ(told[0].caption, "Δοκιμή"_gr);
-    EXPECT_EQ(told[0].buttons, (std::vector{BoxAnswer::yes, BoxAnswer::no}));
-    EXPECT_EQ(told[0].answer, BoxAnswer::no);
-    EXPECT_EQ(told[2].buttons, std::vector{BoxAnswer::ok});
-    EXPECT_EQ(told[2].answer, BoxAnswer::ok);
-}
-
 /// A machine that does not answer: the box is shown.
-class ShownBoxTest : public MessageBoxTest {
+class ShownBoxTest : public ProgramTest {
   protected:
     ShownBoxTest() : silent_(::testing::TempDir(), MachineConfig(), Registry()) { setMachine(&silent_); }
 

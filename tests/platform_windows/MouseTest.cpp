@@ -17,8 +17,8 @@ class MouseTest : public ProgramTest {
         right_ = child("right", CRect::at(100, 10, 50, 50));
         log().clear();
     }
-    std::vector<std::string> mouse() { return log().lines({"MOUSE", "BUTTON", "WM_SETCURSOR"}); }
-    std::vector<std::string> buttons() { return log().lines({"BUTTON"}); }
+    Lines mouse() { return log().lines({"MOUSE", "BUTTON", "WM_SETCURSOR"}); }
+    Lines buttons() { return log().lines({"BUTTON"}); }
 
     /// Puts the pointer itself there, which events alone do not move.
     static void putPointer(const CWnd& window, int x, int y) {
@@ -32,38 +32,31 @@ class MouseTest : public ProgramTest {
 };
 
 TEST_F(MouseTest, MessagesGoToTheWindowUnderThePointer) {
-    press(*left_, 5, 6);
-    release(*left_, 5, 6);
-    press(*right_, 0, 49, Qt::RightButton);
-    release(*right_, 0, 49, Qt::RightButton);
-    press(view(), 80, 3);
-    release(view(), 80, 3);
-    EXPECT_EQ(buttons(), (std::vector<std::string>{"left WM_LBUTTONDOWN 5,6", "left WM_LBUTTONUP 5,6",
-                                                   "right WM_RBUTTONDOWN 0,49", "right WM_RBUTTONUP 0,49",
-                                                   "view WM_LBUTTONDOWN 80,3", "view WM_LBUTTONUP 80,3"}));
+    click(*left_, 5, 6);
+    click(*right_, 0, 49, Qt::RightButton);
+    click(view(), 80, 3);
+    EXPECT_EQ(buttons(),
+              (Lines{"left WM_LBUTTONDOWN 5,6", "left WM_LBUTTONUP 5,6", "right WM_RBUTTONDOWN 0,49",
+                     "right WM_RBUTTONUP 0,49", "view WM_LBUTTONDOWN 80,3", "view WM_LBUTTONUP 80,3"}));
 }
 
 TEST_F(MouseTest, ADoubleClickReplacesTheSecondPress) {
     doubleClick(*left_, 5, 6);
-    EXPECT_EQ(buttons(), (std::vector<std::string>{"left WM_LBUTTONDOWN 5,6", "left WM_LBUTTONUP 5,6",
-                                                   "left WM_LBUTTONDBLCLK 5,6", "left WM_LBUTTONUP 5,6"}));
+    EXPECT_EQ(buttons(), (Lines{"left WM_LBUTTONDOWN 5,6", "left WM_LBUTTONUP 5,6",
+                                "left WM_LBUTTONDBLCLK 5,6", "left WM_LBUTTONUP 5,6"}));
 }
 
 TEST_F(MouseTest, TheCursorIsAskedForBeforeEachMove) {
-    left_->hook = [](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
-        if (message != WM_SETCURSOR) return std::nullopt;
-        CCursor::resource(1).Set();
-        return 1;
-    };
+    left_->on(
+        WM_SETCURSOR, [](WPARAM) { CCursor::resource(1).Set(); }, 1);
     moveMouse(*left_, 15, 6);
     moveMouse(*left_, 7, 8);
     moveMouse(*right_, 7, 8);
-    EXPECT_EQ(mouse(), (std::vector<std::string>{"left WM_SETCURSOR", "left WM_MOUSEMOVE 15,6",
-                                                 "left WM_SETCURSOR", "left WM_MOUSEMOVE 7,8",
-                                                 "right WM_SETCURSOR", "right WM_MOUSEMOVE 7,8"}));
+    EXPECT_EQ(mouse(), (Lines{"left WM_SETCURSOR", "left WM_MOUSEMOVE 15,6", "left WM_SETCURSOR",
+                              "left WM_MOUSEMOVE 7,8", "right WM_SETCURSOR", "right WM_MOUSEMOVE 7,8"}));
     EXPECT_EQ(widgetOf(*left_).cursor().hotSpot(), QPoint(3, 5));
     EXPECT_EQ(widgetOf(*right_).cursor().shape(), Qt::ArrowCursor);
-    left_->hook = nullptr;
+    left_->on(WM_SETCURSOR, {});
     moveMouse(*left_, 1, 1);
     EXPECT_EQ(widgetOf(*left_).cursor().shape(), Qt::ArrowCursor);
 }
@@ -81,11 +74,10 @@ TEST_F(MouseTest, TheCapturingWindowGetsEverythingInItsOwnCoordinates) {
     moveMouse(*right_, 0, 0);
     moveMouse(view(), 0, 0);
     release(view(), 0, 0);
-    press(view(), 0, 0, Qt::RightButton);
-    release(view(), 0, 0, Qt::RightButton);
-    EXPECT_EQ(mouse(), (std::vector<std::string>{"left WM_MOUSEMOVE 90,0", "left WM_MOUSEMOVE -10,-10",
-                                                 "left WM_LBUTTONUP -10,-10", "left WM_RBUTTONDOWN -10,-10",
-                                                 "left WM_RBUTTONUP -10,-10"}));
+    click(view(), 0, 0, Qt::RightButton);
+    EXPECT_EQ(mouse(),
+              (Lines{"left WM_MOUSEMOVE 90,0", "left WM_MOUSEMOVE -10,-10", "left WM_LBUTTONUP -10,-10",
+                     "left WM_RBUTTONDOWN -10,-10", "left WM_RBUTTONUP -10,-10"}));
     CWnd::ReleaseCapture();
     log().clear();
     moveMouse(*right_, 0, 0);
@@ -97,22 +89,18 @@ TEST_F(MouseTest, ACapturedClickDoesNotMoveTheFocus) {
     left_->SetCapture();
     widgetOf(*right_).setFocusPolicy(Qt::ClickFocus);
     log().clear();
-    press(*right_, 2, 2);
-    release(*right_, 2, 2);
+    click(*right_, 2, 2);
     EXPECT_EQ(log().count("FOCUS"), 0U);
     CWnd::ReleaseCapture();
-    press(*right_, 2, 2);
-    release(*right_, 2, 2);
-    EXPECT_EQ(log().lines({"FOCUS"}), (std::vector<std::string>{"left WM_KILLFOCUS", "right WM_SETFOCUS"}));
+    click(*right_, 2, 2);
+    EXPECT_EQ(log().lines({"FOCUS"}), (Lines{"left WM_KILLFOCUS", "right WM_SETFOCUS"}));
 }
 
 TEST_F(MouseTest, TheCaptureEndsWithItsWindow) {
     left_->SetCapture();
     left_.reset();
-    press(*right_, 30, 30);
-    release(*right_, 30, 30);
-    EXPECT_EQ(buttons(),
-              (std::vector<std::string>{"right WM_LBUTTONDOWN 30,30", "right WM_LBUTTONUP 30,30"}));
+    click(*right_, 30, 30);
+    EXPECT_EQ(buttons(), (Lines{"right WM_LBUTTONDOWN 30,30", "right WM_LBUTTONUP 30,30"}));
 }
 
 TEST_F(MouseTest, TheWindowUnderAPointIsOneOfTheProgramsOwn) {

@@ -10,7 +10,7 @@ constexpr COLORREF red = RGB(255, 0, 0);
 
 class PaintTest : public ProgramTest {
   protected:
-    std::vector<std::string> paints() { return log().lines({"WM_PAINT", "WM_ERASEBKGND"}); }
+    Lines paints() { return log().lines({"WM_PAINT", "WM_ERASEBKGND"}); }
 };
 
 TEST_F(PaintTest, WhatIsDrawnOutsideOfPaintingIsShownAndStays) {
@@ -29,15 +29,12 @@ TEST_F(PaintTest, WhatIsDrawnOutsideOfPaintingIsShownAndStays) {
 TEST_F(PaintTest, AResizeKeepsThePictureUntilTheWholeIsPaintedAnew) {
     open();
     const auto window = child("child", CRect::at(0, 0, 50, 50));
-    window->hook = [&](UINT message, WPARAM, LPARAM) {
-        return message == WM_ERASEBKGND ? std::optional<LRESULT>(1) : std::nullopt;
-    };
+    window->on(WM_ERASEBKGND, {}, 1);
     CClientDC(*window).FillSolidRect({0, 0, 50, 50}, red);
     log().clear();
     window->MoveWindow(CRect::at(0, 0, 80, 30));
     settle();
-    EXPECT_EQ(log().lines(),
-              (std::vector<std::string>{"child WM_SIZE 0 80x30", "child WM_ERASEBKGND", "child WM_PAINT"}));
+    EXPECT_EQ(log().lines(), (Lines{"child WM_SIZE 0 80x30", "child WM_ERASEBKGND", "child WM_PAINT"}));
     EXPECT_EQ(shownColour(*window, 49, 29), "ff0000");
     EXPECT_EQ(shownColour(*window, 60, 10), "ffffff");
     log().clear();
@@ -54,12 +51,12 @@ TEST_F(PaintTest, InvalidationEndsWithOnePaint) {
     view().Invalidate(false);
     EXPECT_TRUE(paints().empty()) << "painting waits for the program to be idle";
     settle();
-    EXPECT_EQ(paints(), std::vector<std::string>{"view WM_PAINT"});
+    EXPECT_EQ(paints(), Lines{"view WM_PAINT"});
     log().clear();
     view().Invalidate(false);
     view().Invalidate();
     settle();
-    EXPECT_EQ(paints(), (std::vector<std::string>{"view WM_ERASEBKGND", "view WM_PAINT"}));
+    EXPECT_EQ(paints(), (Lines{"view WM_ERASEBKGND", "view WM_PAINT"}));
     settleFor(100);
     EXPECT_EQ(paints().size(), 2U);
     EXPECT_EQ(shownColour(view(), 3, 3), "ff0000");
@@ -84,7 +81,7 @@ TEST_F(PaintTest, AHiddenWindowIsPaintedWhenItIsShown) {
     EXPECT_TRUE(paints().empty());
     window->ShowWindow(SW_SHOW);
     settle();
-    EXPECT_EQ(paints(), (std::vector<std::string>{"child WM_ERASEBKGND", "child WM_PAINT"}));
+    EXPECT_EQ(paints(), (Lines{"child WM_ERASEBKGND", "child WM_PAINT"}));
 }
 
 TEST_F(PaintTest, APaintHandlerMayMoveAndRepaintOtherWindows) {
@@ -100,15 +97,6 @@ TEST_F(PaintTest, APaintHandlerMayMoveAndRepaintOtherWindows) {
     EXPECT_EQ(log().count("child WM_SIZE 0 60x60"), 1U);
     EXPECT_EQ(log().count("child WM_PAINT"), 1U);
     EXPECT_EQ(log().count("view WM_PAINT"), 1U);
-}
-
-TEST_F(PaintTest, WithoutAHandlerTheBackgroundIsWhite) {
-    open();
-    const auto window = child("child", CRect::at(0, 0, 50, 50));
-    CClientDC(*window).FillSolidRect({0, 0, 50, 50}, red);
-    window->Invalidate();
-    settle();
-    EXPECT_EQ(shownColour(*window, 10, 10), "ffffff");
 }
 
 }  // namespace

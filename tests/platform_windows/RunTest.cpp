@@ -26,21 +26,6 @@ TEST_F(RunTest, RunsUntilTheFrameIsClosed) {
     EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty());
 }
 
-TEST_F(RunTest, EndsAtOnceWhenTheStartFails) {
-    app().starts = false;
-    EXPECT_EQ(RunProgram(app()), 7);
-    EXPECT_EQ(log().count("WM_CREATE"), 0U);
-}
-
-TEST_F(RunTest, EndsWhenTheViewClosesTheFrameAtItsFirstPaint) {
-    QTimer::singleShot(0, [&] {
-        view().draw = [&](CDC&) { view().GetParentFrame()->PostMessage(WM_CLOSE); };
-        view().Invalidate();
-    });
-    EXPECT_EQ(RunProgram(app()), 7);
-    EXPECT_EQ(log().count("frame WM_DESTROY"), 1U);
-}
-
 TEST_F(RunTest, BecomesIdle) {
     open();
     // The frame's place is looked at once more a moment after it was shown.

@@ -6,20 +6,19 @@
 #include "platform/automation/ControlModule.h"
 #include "platform/automation/DispatchMap.h"
 
-/// A control with a text field, some operations and an event.
+/// A control with a text field.
 namespace {
 
 using namespace platform;
 
 class TestControl : public Control {
     static constexpr auto table() {
-        return std::array{
-            Method<1, &TestControl::add>("Add"), PropertyGet<2, &TestControl::editWindow>("EditWindow"),
-            PropertyGet<3, &TestControl::width>("Width"), Method<4, &TestControl::raise>("Raise")};
+        return std::array{PropertyGet<2, &TestControl::editWindow>("EditWindow"),
+                          PropertyGet<3, &TestControl::width>("Width")};
     }
 
   public:
-    TestControl(ControlSite& site, QWidget* parent) : site_(site), widget_(new QWidget(parent)) {
+    TestControl(ControlSite& site, QWidget* parent) : widget_(new QWidget(parent)) {
         auto* const edit = new QLineEdit(widget_);
         edit_ = site.registerWindow(*edit, "Edit",
                                     [](UINT message, WPARAM, LPARAM) -> LRESULT { return message; });
@@ -38,15 +37,9 @@ class TestControl : public Control {
     }
 
   private:
-    std::int32_t add(std::int32_t a, std::int16_t b) { return a + b; }
     std::int32_t editWindow() { return edit_; }
     std::int32_t width() { return widget_->width(); }
-    void raise(const std::string& text) {
-        std::array<Variant, 2> arguments{Variant(std::int32_t{5}), Variant(text)};
-        site_.raiseEvent(1, arguments);
-    }
 
-    ControlSite& site_;
     QWidget* widget_;
     HWND edit_;
 };

@@ -1,6 +1,7 @@
 #include "tests/platform_windows/TestProgram.h"
 
 #include <QTest>
+#include <QTimer>
 #include <QWidget>
 #include <QWindow>
 #include <array>
@@ -154,6 +155,21 @@ std::unique_ptr<TestWnd> ProgramTest::child(const std::string& name, const CRect
     EXPECT_TRUE(window->CreateWnd(name, WS_CHILD | WS_VISIBLE, rect, view(), 7));
     settle();
     return window;
+}
+
+void ProgramTest::useDialogs(std::span<const DialogTemplate> dialogs) {
+    ResourceTable resources = Resources();
+    resources.dialogs = dialogs;
+    SetResources(resources);
+}
+
+int ProgramTest::show(CDialog& dialog, const std::function<void()>& use) {
+    if (!app_->GetMainWnd()) open();
+    QTimer::singleShot(0, [&] {
+        settle();
+        use();
+    });
+    return dialog.DoModal();
 }
 
 void ProgramTest::press(const CWnd& window, int x, int y, Qt::MouseButton button) {

@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <span>
 
+#include "platform/framework/Dialog.h"
 #include "platform/framework/Document.h"
 #include "platform/framework/FrameWnd.h"
 #include "platform/framework/View.h"
@@ -92,9 +94,18 @@ class ProgramTest : public ::testing::Test {
     /// A child of the view, on show, named `name` in the log.
     std::unique_ptr<TestWnd> child(const std::string& name, const platform::CRect& rect);
 
+    /// The program has these dialogs.
+    void useDialogs(std::span<const platform::DialogTemplate> dialogs);
+    /// Shows a dialog before the frame and runs `use` once it is up; its result.
+    int show(platform::CDialog& dialog, const std::function<void()>& use);
+
     // What a person does at the screen; positions are in the window's client area.
     void press(const platform::CWnd& window, int x, int y, Qt::MouseButton button = Qt::LeftButton);
     void release(const platform::CWnd& window, int x, int y, Qt::MouseButton button = Qt::LeftButton);
+    void click(const platform::CWnd& window, int x, int y, Qt::MouseButton button = Qt::LeftButton) {
+        press(window, x, y, button);
+        release(window, x, y, button);
+    }
     void doubleClick(const platform::CWnd& window, int x, int y);
     void moveMouse(const platform::CWnd& window, int x, int y);
     void pressKey(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);

@@ -7,7 +7,7 @@
 #include <QThread>
 #include <QWidget>
 #include <algorithm>
-#include <map>
+#include <array>
 
 #include "platform/handles/WindowTable.h"
 #include "platform/windows/WindowWidget.h"
@@ -21,8 +21,8 @@ Log& Log::instance() {
     return log;
 }
 
-std::vector<std::string> Log::lines(std::initializer_list<std::string_view> messages) const {
-    std::vector<std::string> found;
+Lines Log::lines(std::initializer_list<std::string_view> messages) const {
+    Lines found;
     for (const std::string& line : lines_) {
         const bool asked = std::any_of(messages.begin(), messages.end(), [&](std::string_view message) {
             return line.find(message) != line.npos;
@@ -38,27 +38,17 @@ std::size_t Log::count(std::string_view text) const {
 }
 
 std::string describe(UINT message, WPARAM wParam, LPARAM lParam) {
-    static const std::map<UINT, std::string> names = {{WM_CREATE, "WM_CREATE"},
-                                                      {WM_DESTROY, "WM_DESTROY"},
-                                                      {WM_SIZE, "WM_SIZE"},
-                                                      {WM_SETFOCUS, "WM_SETFOCUS"},
-                                                      {WM_KILLFOCUS, "WM_KILLFOCUS"},
-                                                      {WM_PAINT, "WM_PAINT"},
-                                                      {WM_CLOSE, "WM_CLOSE"},
-                                                      {WM_ERASEBKGND, "WM_ERASEBKGND"},
-                                                      {WM_SETCURSOR, "WM_SETCURSOR"},
-                                                      {WM_KEYDOWN, "WM_KEYDOWN"},
-                                                      {WM_KEYUP, "WM_KEYUP"},
-                                                      {WM_COMMAND, "WM_COMMAND"},
-                                                      {WM_TIMER, "WM_TIMER"},
-                                                      {WM_MOUSEMOVE, "WM_MOUSEMOVE"},
-                                                      {WM_LBUTTONDOWN, "WM_LBUTTONDOWN"},
-                                                      {WM_LBUTTONUP, "WM_LBUTTONUP"},
-                                                      {WM_RBUTTONDOWN, "WM_RBUTTONDOWN"},
-                                                      {WM_RBUTTONUP, "WM_RBUTTONUP"},
-                                                      {WM_LBUTTONDBLCLK, "WM_LBUTTONDBLCLK"}};
-    const auto found = names.find(message);
-    std::string text = found == names.end() ? std::to_string(message) : found->second;
+#define NAMED(message) std::pair(message, #message)
+    constexpr std::array names = {
+        NAMED(WM_CREATE),      NAMED(WM_DESTROY),   NAMED(WM_SIZE),         NAMED(WM_SETFOCUS),
+        NAMED(WM_KILLFOCUS),   NAMED(WM_PAINT),     NAMED(WM_CLOSE),        NAMED(WM_ERASEBKGND),
+        NAMED(WM_SETCURSOR),   NAMED(WM_KEYDOWN),   NAMED(WM_KEYUP),        NAMED(WM_COMMAND),
+        NAMED(WM_TIMER),       NAMED(WM_MOUSEMOVE), NAMED(WM_LBUTTONDOWN),  NAMED(WM_LBUTTONUP),
+        NAMED(WM_RBUTTONDOWN), NAMED(WM_RBUTTONUP), NAMED(WM_LBUTTONDBLCLK)};
+#undef NAMED
+    const auto* const found =
+        std::ranges::find_if(names, [&](const auto& name) { return name.first == message; });
+    std::string text = found == std::end(names) ? std::to_string(message) : found->second;
     const CPoint point = unpackPoint(lParam);
     if (message == WM_SIZE) {
         text += " " + std::to_string(wParam) + " " + std::to_string(point.x) + "x" + std::to_string(point.y);

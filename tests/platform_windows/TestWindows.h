@@ -11,6 +11,8 @@
 /// Windows that tell what they receive.
 namespace windows_test {
 
+using Lines = std::vector<std::string>;
+
 /// What happened, as texts like "view WM_SIZE 0 640x460".
 class Log {
   public:
@@ -19,11 +21,11 @@ class Log {
     void clear() { lines_.clear(); }
     /// The lines since the last clear that have one of the messages (all lines when none is given), without
     /// WM_SETCURSOR unless asked for.
-    std::vector<std::string> lines(std::initializer_list<std::string_view> messages = {}) const;
+    Lines lines(std::initializer_list<std::string_view> messages = {}) const;
     std::size_t count(std::string_view text) const;
 
   private:
-    std::vector<std::string> lines_;
+    Lines lines_;
 };
 
 std::string describe(platform::UINT message, platform::WPARAM wParam, platform::LPARAM lParam);
@@ -34,15 +36,26 @@ class Logged : public Base {
   public:
     using Base::Base;
     std::string name = "window";
-    /// Looks at a message first; a value is the message's result.
-    std::function<std::optional<platform::LRESULT>(platform::UINT, platform::WPARAM, platform::LPARAM)> hook;
+    /// From now on does this first at that message, and gives it this result if there is one.
+    void on(platform::UINT message, std::function<void(platform::WPARAM)> act,
+            std::optional<platform::LRESULT> result = {}) {
+        message_ = message;
+        act_ = std::move(act);
+        result_ = result;
+    }
 
     platform::LRESULT WindowProc(platform::UINT message, platform::WPARAM wParam,
                                  platform::LPARAM lParam) override {
         Log::instance().add(name + " " + describe(message, wParam, lParam));
-        const auto result = hook ? hook(message, wParam, lParam) : std::nullopt;
-        return result ? *result : Base::WindowProc(message, wParam, lParam);
+        if (message == message_ && act_) act_(wParam);
+        if (message == message_ && result_) return *result_;
+        return Base::WindowProc(message, wParam, lParam);
     }
+
+  private:
+    platform::UINT message_ = 0;
+    std::function<void(platform::WPARAM)> act_;
+    std::optional<platform::LRESULT> result_;
 };
 
 /// A child window of its own class.

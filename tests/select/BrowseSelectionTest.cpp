@@ -19,15 +19,6 @@ class BrowseSelectionTest : public testing::Test {
     BrowseSelection selection_;
 };
 
-// What a host knows after the events, as it understands them.
-Place hostPlaceAfter(const ChoiceEvents& events, Place host) {
-    for (const ChoiceEvent& event : events) {
-        if (const auto* page = std::get_if<PageChosen>(&event)) host = {page->pageId, 0};
-        if (const auto* item = std::get_if<ItemChosen>(&event)) host.itemCode = item->itemCode;
-    }
-    return host;
-}
-
 TEST_F(BrowseSelectionTest, AnswersEveryPlaceThatNamesAPage) {
     const struct {
         Place asked;
@@ -43,18 +34,14 @@ TEST_F(BrowseSelectionTest, AnswersEveryPlaceThatNamesAPage) {
         {{410777, 0}, {PageChosen{410777, 410777}}, {}},
         {{410777, 778}, {ItemChosen{778}}, {}},
         {{410010, -5}, {PageChosen{410011, 410010}}, Row{1, {}}},
+        // What names no page changes nothing.
+        {{0, 0}, {}, Row{1, {}}},
+        {{-1, 0}, {}, Row{1, {}}},
     };
     for (const auto& c : cases) {
         EXPECT_EQ(selection_.show(c.asked), c.answer) << c.asked.pageId << ' ' << c.asked.itemCode;
         EXPECT_EQ(selection_.shownRow(), c.marked) << c.asked.pageId << ' ' << c.asked.itemCode;
     }
-}
-
-TEST_F(BrowseSelectionTest, KeepsThePlaceWhenAskedForNone) {
-    selection_.show({410020, 0});
-    EXPECT_EQ(selection_.show({0, 0}), ChoiceEvents{});
-    EXPECT_EQ(selection_.show({-1, 0}), ChoiceEvents{});
-    EXPECT_EQ(selection_.shown(), (Place{410020, 0}));
 }
 
 TEST_F(BrowseSelectionTest, StartPagesAnswerUnderTheirOwnNumber) {
@@ -65,12 +52,6 @@ TEST_F(BrowseSelectionTest, StartPagesAnswerUnderTheirOwnNumber) {
     for (const std::int32_t start : {410000, 170070, 370001, 550000}) {
         EXPECT_EQ(selection_.show({start, 0}), (ChoiceEvents{PageChosen{start, start}}));
     }
-}
-
-TEST_F(BrowseSelectionTest, OpensTheTopicOfThePlace) {
-    selection_.show({410010, 10003});
-    EXPECT_TRUE(selection_.list().opened(1));
-    EXPECT_FALSE(selection_.list().opened(2));
 }
 
 TEST_F(BrowseSelectionTest, APlaceOfAnotherSectionBringsThatSection) {
@@ -96,28 +77,6 @@ TEST_F(BrowseSelectionTest, AChosenEntryBringsItsTopicWhenTheHostShowsAnother) {
     EXPECT_EQ(selection_.choose({1, 1}), ChoiceEvents{ItemChosen{10011}});
     EXPECT_EQ(selection_.choose({1, {}}), (ChoiceEvents{PageChosen{410011, 410010}}));
     EXPECT_EQ(selection_.choose({2, 0}), (ChoiceEvents{PageChosen{410020, 410020}, ItemChosen{20001}}));
-}
-
-// The host keeps the place that the events leave behind; a bookmark of a start page reopens only that page.
-TEST_F(BrowseSelectionTest, ABookmarkOfAChosenPlaceLeadsBackToIt) {
-    for (const std::int16_t code : {sample::elements, sample::history}) {
-        for (const Row& row : {Row{0, {}}, Row{0, 0}, Row{1, {}}, Row{1, 0}}) {
-            if (code == sample::elements && row == Row{0, 0}) continue;  // has no such entry
-            selection_.setSection(code);
-            const Place start = selection_.shown();
-            const ChoiceEvents chosen = selection_.choose(row);
-            const Place bookmark = hostPlaceAfter(chosen, start);
-            EXPECT_EQ(bookmark, selection_.shown());
-
-            selection_.setSection(sample::elements);
-            selection_.setSection(code);
-            const ChoiceEvents back = isStartPage(bookmark.pageId)
-                                          ? ChoiceEvents{PageChosen{bookmark.pageId, bookmark.pageId}}
-                                          : selection_.show(bookmark);
-            EXPECT_EQ(back.back(), chosen.back());
-            EXPECT_EQ(selection_.shownRow(), row);
-        }
-    }
 }
 
 TEST_F(BrowseSelectionTest, FindsTitles) {

@@ -1,15 +1,11 @@
 #include "controls/select/SelectControl.h"
 
-#include <dlfcn.h>
 #include <gtest/gtest.h>
 
-#include <QClipboard>
 #include <QWidget>
 
 #include "formats/SectionTitles.h"
 #include "formats/TitleLists.h"
-#include "platform/automation/ControlModule.h"
-#include "platform/files/FileVersion.h"
 #include "tests/select/SelectHost.h"
 
 using namespace platform::literals;
@@ -22,35 +18,6 @@ constexpr std::int32_t getItemTitle = 4;
 constexpr std::int32_t setSection = 5;
 constexpr std::int32_t showItem = 6;
 constexpr std::int32_t getAuxHandle = 7;
-constexpr std::int32_t getEditWindow = 8;
-
-TEST(SelectControl, AnswersBeforeShowItemReturns) {
-    SelectHost host;
-    host.initialise();
-    EXPECT_EQ(host.takeEvents(), Lines{}) << "setting a section opens nothing";
-    host.call(showItem, 410010, 0, false);
-    EXPECT_EQ(host.takeEvents(), Lines{"page 410011 410010"});
-    host.call(showItem, 410010, 10011, false);
-    EXPECT_EQ(host.takeEvents(), Lines{"item 10011"});
-    host.call(showItem, 410555, 0, false);
-    EXPECT_EQ(host.takeEvents(), Lines{"page 410555 410555"});
-    host.call(showItem, 320010, 80001, false);
-    EXPECT_EQ(host.takeEvents(), Lines{"item 80001"});
-    EXPECT_EQ(host.pane().view().model()->rowCount(), 2) << "the other section is listed";
-}
-
-// As a host does it that goes back: the section, then once or twice the place.
-TEST(SelectControl, AnswersEachTimeWhenAPlaceIsAskedForTwice) {
-    SelectHost host;
-    host.initialise();
-    for (const std::int32_t page : {410000, 410020}) {
-        host.call(setSection, sample::elements);
-        host.call(showItem, page, 0, false);
-        host.call(showItem, page, 0, false);
-        const std::string answer = "page " + std::to_string(page) + ' ' + std::to_string(page);
-        EXPECT_EQ(host.takeEvents(), (Lines{answer, answer}));
-    }
-}
 
 TEST(SelectControl, WorksBeforeItIsInitialised) {
     SelectHost host;
@@ -105,23 +72,6 @@ TEST(SelectControl, TitlesComeFromTheIndexFirst) {
     EXPECT_EQ(host.text(getItemTitle, 0), "Οξέα, ΆΛΑΤΑ και βάσεις"_gr) << "the page on show";
 }
 
-TEST(SelectControl, TheFieldTakesCutCopyAndPaste) {
-    SelectHost host;
-    const platform::HWND edit = *host.call(getEditWindow).get<std::int32_t>();
-    auto& field = host.pane().field();
-    field.setText("οξύ");
-    field.selectAll();
-    host.sendMessage(edit, platform::WM_COPY, 0, 0);
-    EXPECT_EQ(QApplication::clipboard()->text(), "οξύ");
-    host.sendMessage(edit, platform::WM_PASTE, 0, 0);
-    host.sendMessage(edit, platform::WM_PASTE, 0, 0);
-    EXPECT_EQ(field.text(), "οξύοξύ");
-    field.setSelection(0, 4);
-    host.sendMessage(edit, platform::WM_CUT, 0, 0);
-    EXPECT_EQ(field.text(), "ξύ");
-    EXPECT_EQ(QApplication::clipboard()->text(), "οξύο");
-}
-
 TEST(SelectControl, EnterMessageOpensTheFirstMatchElseTheSelectedLine) {
     SelectHost host;
     host.initialise();
@@ -147,29 +97,6 @@ TEST(SelectControl, SurvivesTheWindowThatHoldsItsWidget) {
     window.reset();
     EXPECT_FALSE(control->invoke(setSection, platform::InvokeKind::method,
                                  std::array{platform::Variant(std::int16_t{1})}));
-}
-
-TEST(SelectModule, OffersTheControlUnderItsClassAndVersion) {
-    struct Registrar : platform::ModuleRegistrar {
-        void registerClass(std::string_view classId) override { registered += classId; }
-        std::string registered;
-    };
-    void* library = ::dlopen(SELECT_MODULE, RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
-    ASSERT_TRUE(library) << ::dlerror();
-    const auto registerServer =
-        reinterpret_cast<platform::RegisterServerFunction>(::dlsym(library, platform::registerServerName));
-    const auto classObject =
-        reinterpret_cast<platform::ClassObjectFunction>(::dlsym(library, platform::classObjectName));
-    ASSERT_TRUE(registerServer && classObject);
-    Registrar registrar;
-    registerServer(registrar);
-    EXPECT_EQ(registrar.registered, "5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E102");
-    EXPECT_EQ(registrar.registered, classObject()->classId);
-    SelectHost host;
-    const auto control = classObject()->create(host, nullptr);
-    const std::string version =
-        *control->invoke(1, platform::InvokeKind::propertyGet, {})->get<std::string>();
-    EXPECT_EQ(platform::fileVersionText(SELECT_MODULE), version + ".0");
 }
 
 }  // namespace

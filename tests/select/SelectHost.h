@@ -1,10 +1,6 @@
 #pragma once
 
 #include <QApplication>
-#include <QTemporaryDir>
-#include <filesystem>
-#include <fstream>
-#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,22 +13,7 @@
 #include "formats/BrowseIndex.h"
 #include "platform/files/FileSystem.h"
 #include "tests/select/SampleIndex.h"
-
-/// A data folder on drive D: that a test fills.
-class DataFolder {
-  public:
-    void write(const char* name, std::string_view content) {
-        std::ofstream(std::filesystem::path(folder_.path().toStdString()) / name, std::ios::binary)
-            << content;
-    }
-
-    platform::FileSystem files() const {
-        return platform::FileSystem({{'D', platform::DriveType::cdrom, folder_.path().toStdString()}});
-    }
-
-  private:
-    QTemporaryDir folder_;
-};
+#include "tests/support/TestFolder.h"
 
 /// Hosts a control and notes its events as "page 1 2" and "item 3".
 class SelectHost : public platform::ControlSite {
@@ -41,7 +22,7 @@ class SelectHost : public platform::ControlSite {
     /// With this content of the index file; none when empty.
     explicit SelectHost(std::string_view indexFile) {
         if (!indexFile.empty()) data.write("select.ndx", indexFile);
-        files_ = data.files();
+        files_.setDrives({{'D', platform::DriveType::cdrom, data.path()}});
         control = controls::select::createSelectControl(*this, nullptr);
     }
 
@@ -83,7 +64,7 @@ class SelectHost : public platform::ControlSite {
     }
     const platform::FileSystem& files() const override { return files_; }
 
-    DataFolder data;
+    TestFolder data;  ///< drive D:
     std::unique_ptr<platform::Control> control;
 
   private:

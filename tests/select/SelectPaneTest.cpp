@@ -3,8 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QLabel>
-#include <QMouseEvent>
-#include <QScrollBar>
+#include <QTest>
 
 #include "tests/select/SelectHost.h"
 
@@ -37,9 +36,9 @@ class SelectPaneTest : public testing::Test {
 
     static void settle() { QApplication::processEvents(); }
 
-    static void press(int key, const QString& text = {}, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    static void press(int key, const QString& text = {}) {
         for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-            QKeyEvent event(type, key, modifiers, text);
+            QKeyEvent event(type, key, Qt::NoModifier, text);
             QApplication::sendEvent(QApplication::focusWidget(), &event);
         }
         settle();
@@ -51,12 +50,7 @@ class SelectPaneTest : public testing::Test {
 
     void click(const QModelIndex& index, int x) {
         const QPoint at(x, view().visualRect(index).center().y());
-        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-            QMouseEvent event(type, at, view().viewport()->mapToGlobal(at), Qt::LeftButton,
-                              type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
-                              Qt::NoModifier);
-            QApplication::sendEvent(view().viewport(), &event);
-        }
+        QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, at);
         settle();
     }
 
@@ -78,18 +72,6 @@ class SelectPaneTest : public testing::Test {
 
     SelectHost host_;
 };
-
-TEST_F(SelectPaneTest, TypingNarrowsAndEnterOpensTheFirstMatch) {
-    type("ΛΙΘ");
-    EXPECT_EQ(model().rowCount(), 1);
-    EXPECT_TRUE(view().isExpanded(topic(0)));
-    press(Qt::Key_Return);
-    EXPECT_EQ(host_.takeEvents(), (Lines{"page 410011 410010", "item 10003"}));
-    EXPECT_EQ(marked(), QStringList{"Λίθιο"});
-    press(Qt::Key_Escape);
-    EXPECT_EQ(field().text(), "");
-    EXPECT_EQ(model().rowCount(), 4);
-}
 
 TEST_F(SelectPaneTest, KeysLeadThroughTheListAndBack) {
     press(Qt::Key_Down);
@@ -176,15 +158,6 @@ TEST_F(SelectPaneTest, APlaceThatTheNarrowedListHidesEndsTheNarrowing) {
     settle();
     EXPECT_EQ(field().text(), "");
     EXPECT_EQ(marked(), QStringList{"Νερό"});
-}
-
-TEST_F(SelectPaneTest, AnotherSectionEndsTheNarrowing) {
-    type("νερ");
-    host_.call(5, sample::history);
-    settle();
-    EXPECT_EQ(field().text(), "");
-    EXPECT_EQ(marked(), QStringList{"Ιστορία"});
-    EXPECT_EQ(pane().findChild<QLabel*>("sectionName")->text(), "Ιστορία");
 }
 
 TEST_F(SelectPaneTest, AnEmptyListSaysSo) {

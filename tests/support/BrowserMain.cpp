@@ -5,12 +5,15 @@
 #include "platform/automation/BrowserProcess.h"
 #include "platform/automation/PluginTypes.h"
 
+/// The main program of tests with the browser engine.
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     platform::prepareProcess();
-    platform::PluginTypes::instance().add("mol", ":/plugins/molecule.html");
-    platform::PluginTypes::instance().add("webm", ":/plugins/video.html");
+    auto& types = platform::PluginTypes::instance();
+    for (const char* molecule : {"mol", "sdf", "xyz", "pdb", "cml"})
+        types.add(molecule, ":/plugins/molecule.html");
+    for (const char* video : {"webm", "avi", "mov", "mpg"}) types.add(video, ":/plugins/video.html");
     const QApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }
