@@ -5,10 +5,7 @@
 #include <iterator>
 
 #include "formats/BrowseIndex.h"
-#include "formats/ElementIndex.h"
 #include "formats/PageNumber.h"
-#include "formats/SectionTitles.h"
-#include "formats/TitleLists.h"
 #include "formats/WordRecords.h"
 #include "platform/text/GreekLiteral.h"
 #include "tools/contentc/Content.h"
@@ -42,42 +39,6 @@ TEST_F(BundledContent, EveryPageHasItsFileAtItsPath) {
         EXPECT_EQ(bytes.find("{{"), std::string::npos) << page.place.file;
     }
     EXPECT_NE(dataFile("a.htm"), "");
-}
-
-TEST_F(BundledContent, EveryPageHasItsTitleInItsTitleFileAndInTheBrowseIndex) {
-    const auto index = formats::decodeBrowseIndex(dataFile("select.ndx"));
-    ASSERT_TRUE(index);
-    for (const contentc::PageSource& page : content.pages) {
-        if (page.kind == contentc::PageKind::Entry) {
-            const std::string list(*formats::titleListFile(formats::listNumberOf(page.number)));
-            EXPECT_EQ(formats::entryTitle(dataFile(list), formats::entryNumberOf(page.number)),
-                      page.title.text);
-            const auto place = formats::findEntry(*index, page.number);
-            ASSERT_TRUE(place) << page.place.file;
-            EXPECT_EQ(place->topic->pageId, page.topic);
-            EXPECT_EQ(place->entry->title, page.title.text);
-        } else {
-            const auto titles =
-                formats::decodeSectionTitles(dataFile(std::string(page.section->key) + ".dat"));
-            const formats::SectionTitleRecord record{page.title.text, page.number};
-            EXPECT_EQ(std::ranges::count(titles, record), 1) << page.place.file;
-            const formats::BrowseTopic* topic = formats::findTopic(*index, page.number);
-            ASSERT_TRUE(topic) << page.place.file;
-            EXPECT_EQ(topic->title, page.title.text);
-        }
-    }
-}
-
-TEST_F(BundledContent, EveryElementLeadsToATitledPage) {
-    const auto elements = formats::decodeElementIndex(dataFile("ptable.ndx"));
-    const auto titles = formats::decodeSectionTitles(dataFile("elemcomp.dat"));
-    EXPECT_EQ(elements.size(), content.elements.size());
-    EXPECT_FALSE(elements.empty());
-    for (const formats::ElementPageRecord& element : elements) {
-        EXPECT_NE(std::ranges::find(titles, element.pageId, &formats::SectionTitleRecord::pageId),
-                  titles.end())
-            << int{element.elementKey};
-    }
 }
 
 TEST_F(BundledContent, EveryOccurrenceIsOfAKnownWordAndOnAKnownPage) {

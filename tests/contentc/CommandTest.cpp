@@ -52,14 +52,6 @@ TEST_F(Command, SourceErrorsAreAllToldAndLeaveNoFolder) {
     EXPECT_FALSE(fs::exists(m_content.beside("out")));
 }
 
-TEST_F(Command, SourceErrorKeepsTheFormerFolder) {
-    EXPECT_EQ(compileTo("data"), 0);
-    const Files former = listAll(m_content.beside("out"));
-    m_content.remove("style.css");
-    EXPECT_EQ(compileTo("data"), 1);
-    EXPECT_EQ(listAll(m_content.beside("out")), former);
-}
-
 // As on a full disk: no file may be written beyond 512 bytes or so.
 TEST_F(Command, WriteErrorKeepsTheFormerFolder) {
     EXPECT_EQ(compileTo("data"), 0);
@@ -69,23 +61,6 @@ TEST_F(Command, WriteErrorKeepsTheFormerFolder) {
     EXPECT_EQ(compileTo("data"), 1);
     EXPECT_NE(m_errors.find("images/large.png: cannot be written"), std::string::npos) << m_errors;
     EXPECT_EQ(listAll(m_content.beside("out")), former);
-}
-
-TEST_F(Command, ImageAndMediaFoldersAreCompiledIn) {
-    m_content.write("../images/cm.bmp", "BM");
-    m_content.write("../drawings/atom.png", "PNG");
-    m_content.write("../media/fire.webm", "webm");
-    m_content.write("pages/uses/400010.page", "title: T\nkind: topic\n---\n{{video fire}}\n");
-    const auto folderArgument = [this](const char* name) {
-        return '\'' + m_content.beside(name).string() + "' ";
-    };
-    EXPECT_EQ(
-        run("--images " + folderArgument("images") + folderArgument("content") + folderArgument("data") +
-            "--media " + folderArgument("media") + "--images " + folderArgument("drawings")),
-        0);
-    EXPECT_EQ(readAll(m_content.beside("data/images/cm.bmp")), "BM");
-    EXPECT_EQ(readAll(m_content.beside("data/images/atom.png")), "PNG");
-    EXPECT_EQ(readAll(m_content.beside("data/video/fire.webm")), "webm");
 }
 
 TEST_F(Command, WrongArgumentsAreRefused) {

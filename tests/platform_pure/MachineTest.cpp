@@ -27,16 +27,6 @@ TEST(Machine, AFolderWithoutFilesIsABareMachine) {
     EXPECT_FALSE(Machine::open(folder / "none"));
 }
 
-TEST(Machine, DamagedFilesAreNamed) {
-    for (const std::string name : {"machine.json", "registry.reg"}) {
-        const TestFolder folder;
-        folder.write(name, "damaged");
-        const auto opened = Machine::open(folder.path());
-        EXPECT_FALSE(opened);
-        EXPECT_NE(opened.error.find(name), std::string::npos) << opened.error;
-    }
-}
-
 TEST(Machine, ProgramsOnOneFolderKeepEachOthersChanges) {
     const TestFolder folder;
     const auto open = [&] { return std::move(*Machine::open(folder.path()).value); };

@@ -2,7 +2,6 @@
 
 #include "src/app/DataPaths.h"
 #include "src/app/IniValue.h"
-#include "src/app/KalyxoApp.h"
 #include "src/app/Settings.h"
 #include "src/resources/ResourceTable.h"
 #include "tests/program/TestFolders.h"
@@ -10,7 +9,6 @@
 namespace kalyxo {
 namespace {
 
-using platform::CRect;
 using platform::HKEY_LOCAL_MACHINE;
 using platform::Registry;
 
@@ -49,40 +47,10 @@ TEST(DataPathsTest, ReadsNoFurtherThanAThousandBytes) {
     EXPECT_FALSE(found(1000));
 }
 
-class LayoutTest : public testing::Test {
-  protected:
-    void SetUp() override {
-        platform::SetResources(ProgramResources());
-        registry.createKey(HKEY_LOCAL_MACHINE, SettingsKeyPath());
-    }
-    platform::RegistryKey key() { return *registry.openKeyForWriting(HKEY_LOCAL_MACHINE, SettingsKeyPath()); }
+TEST(LayoutTest, ARegistryThatCannotBeWrittenSavesNothing) {
+    platform::SetResources(ProgramResources());
     Registry registry;
-};
-
-TEST_F(LayoutTest, EachValueOfAnotherTypeFallsBackOnItsOwn) {
-    const WindowLayout saved{300, 0, {10, 20, 810, 620}};
-    const struct {
-        const char* value;
-        WindowLayout expected;
-    } cases[] = {
-        {"", saved},
-        {"Splitter", {216, 0, saved.frame}},
-        {"Left", {300, 0, {0, 20, 810, 620}}},
-        {"Top", {300, 0, {10, 0, 810, 620}}},
-        {"Right", {300, 0, {10, 20, 640, 620}}},
-        {"Bottom", {300, 0, {10, 20, 810, 480}}},
-        {"Size", {300, 0, {192, 144, 832, 624}}},
-    };
-    for (const auto& c : cases) {
-        WriteLayout(registry, saved);
-        if (*c.value != '\0') key().setString(c.value, "text");
-        EXPECT_EQ(ReadLayout(key(), {1024, 768}), c.expected) << c.value;
-    }
-    key().setDword("Size", 1);
-    EXPECT_EQ(ReadLayout(key(), {1024, 768}).frameState, 2);
-}
-
-TEST_F(LayoutTest, ARegistryThatCannotBeWrittenSavesNothing) {
+    registry.createKey(HKEY_LOCAL_MACHINE, SettingsKeyPath());
     registry.setWritable(false);
     EXPECT_FALSE(WriteLayout(registry, {300, 2, {}}));
     EXPECT_FALSE(registry.openKey(HKEY_LOCAL_MACHINE, SettingsKeyPath())->queryDword("Size"));
