@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 #include <fstream>
 
+#include <fstream>
+
 #include "platform/text/GreekLiteral.h"
 #include "tests/search/SearchFolder.h"
 
