@@ -1,5 +1,7 @@
 #include "platform/framework/FrameWnd.h"
 
+#include <algorithm>
+
 #include "platform/framework/Document.h"
 #include "platform/framework/FrameWidget.h"
 #include "platform/framework/Resources.h"
@@ -14,6 +16,15 @@ namespace platform {
 namespace {
 
 constexpr UINT exitCommand = 57665;
+/// Window coordinates have 16 bits.
+constexpr int farthest = 0x7FFF;
+/// No screen is wider; more would ask for more memory than a picture of the window is worth.
+constexpr int longestSide = 8192;
+
+QRect placeOf(const CREATESTRUCT& cs) {
+    return {std::clamp(cs.x, -farthest, farthest), std::clamp(cs.y, -farthest, farthest),
+            std::clamp(cs.cx, 0, longestSide), std::clamp(cs.cy, 0, longestSide)};
+}
 
 }  // namespace
 
@@ -39,7 +50,7 @@ bool CFrameWnd::LoadFrame(const CRuntimeClass& viewClass, CDocument& document) {
     m_document = &document;
     auto* const widget = new FrameWidget(*this);
     SetWindowText(LoadString(AFX_IDS_APP_TITLE));
-    if (!cs.defaultPlacement) widget->place({cs.x, cs.y, cs.cx, cs.cy});
+    if (!cs.defaultPlacement) widget->place(placeOf(cs));
     if (SendMessage(WM_CREATE, 0, reinterpret_cast<LPARAM>(&cs)) != -1) return true;
     DestroyWindow();
     return false;

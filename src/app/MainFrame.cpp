@@ -13,6 +13,15 @@ namespace kalyxo {
 
 using namespace platform;
 
+namespace {
+
+/// Sides that were saved may be any numbers; what lies between them wraps round.
+int between(int from, int to) {
+    return static_cast<int>(static_cast<unsigned>(to) - static_cast<unsigned>(from));
+}
+
+}  // namespace
+
 const CRuntimeClass CMainFrame::runtimeClass = MakeRuntimeClass<CMainFrame>("CMainFrame");
 
 const MessageMap* CMainFrame::GetMessageMap() const {
@@ -33,8 +42,8 @@ bool CMainFrame::PreCreateWindow(CREATESTRUCT& cs) {
         const CRect& frame = app.m_rcFrame;
         cs.x = frame.left;
         cs.y = frame.top;
-        cs.cx = frame.Width();
-        cs.cy = frame.Height();
+        cs.cx = between(frame.left, frame.right);
+        cs.cy = between(frame.top, frame.bottom);
         cs.defaultPlacement = false;
     }
     return CFrameWnd::PreCreateWindow(cs);

@@ -45,12 +45,11 @@ void CKalyxoView::enterPageMode(std::int16_t sectionCode) {
 }
 
 void CKalyxoView::layOutPage() {
-    const PaneLayout panes{clientSize()};
-    const int width = TheApp().m_nSplitterPos;
-    m_splitter.Create(width, kBarHeight, panes.whole().Height(), false, kSmallestSplitterPos,
-                      panes.client.cx - 150, *this);
-    m_components.browser.MoveWindow(panes.browser(width));
-    m_components.select.MoveWindow(panes.browseSelection(width));
+    const CSize client = clientSize();
+    m_splitter.Create(TheApp().m_nSplitterPos, kBarHeight, client.cy - kBarHeight, false,
+                      kSmallestSplitterPos, client.cx - 150, *this);
+    // The bar keeps within its limits, whatever position was saved.
+    splitterMoved();
     m_components.select.ShowWindow(SW_SHOW);
     m_bLayoutPending = false;
 }
