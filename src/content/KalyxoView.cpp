@@ -38,6 +38,8 @@ void CKalyxoView::OnDraw(CDC& dc) {
     }
     if (m_mode == ContentMode::MainMenu) {
         PaintMainMenu(dc);
+        // The pointer may still be on it, and would not make it hot a second time.
+        if (m_menu.HotItem() >= 0) m_menu.Highlight(dc, m_menu.HotItem());
         m_bar.SetSelected(kMainMenuSlot);
         OnTimer(kTimerId);
     } else {
