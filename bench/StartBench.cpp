@@ -1,43 +1,21 @@
 #include <benchmark/benchmark.h>
-#include <unistd.h>
 
 #include <chrono>
-#include <filesystem>
 #include <thread>
 
-#include "bench/ChildProcess.h"
+#include "bench/TestMachine.h"
 
 /// Start to the first paint and memory three seconds later, beside a bare program that only shows a browser
 /// window; and from the click on a section slot to its page on show.
 namespace {
 
-namespace fs = std::filesystem;
+using namespace bench;
 using Clock = std::chrono::steady_clock;
 
-const std::string kBin = KALYXO_BIN_FOLDER;
-const std::string kContent = KALYXO_CONTENT_FOLDER;
-
-/// A machine with the bundled content, removed at the end.
-class TestMachine {
-  public:
-    TestMachine() : m_folder(fs::temp_directory_path() / ("kalyxo-bench-" + std::to_string(::getpid()))) {
-        ChildProcess maker({kBin + "/kalyxo-drive", "--new-machine", m_folder, "--data", kContent});
-        maker.readLine();
-    }
-    ~TestMachine() { fs::remove_all(m_folder); }
-    TestMachine(const TestMachine&) = delete;
-    TestMachine& operator=(const TestMachine&) = delete;
-    std::string folder() const { return m_folder; }
-    std::vector<std::string> driver() const { return {kBin + "/kalyxo-drive", "--machine", m_folder}; }
-
-    static const TestMachine& instance() {
-        static const TestMachine machine;
-        return machine;
-    }
-
-  private:
-    fs::path m_folder;
-};
+const TestMachine& machine() {
+    static const TestMachine bundled("start");
+    return bundled;
+}
 
 double secondsSince(Clock::time_point start) {
     return std::chrono::duration<double>(Clock::now() - start).count();
@@ -64,12 +42,12 @@ void StartOfBareBrowser(benchmark::State& state) { measureStart(state, {kBin + "
 BENCHMARK(StartOfBareBrowser)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(7);
 
 void StartOfKalyxo(benchmark::State& state) {
-    measureStart(state, {kBin + "/kalyxo-shown", TestMachine::instance().folder()});
+    measureStart(state, {kBin + "/kalyxo-shown", machine().folder()});
 }
 BENCHMARK(StartOfKalyxo)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(7);
 
 void ClickToPageShown(benchmark::State& state) {
-    ChildProcess program(TestMachine::instance().driver());
+    ChildProcess program(machine().driver());
     program.writeLine("start");
     program.readLine();
     int slot = 0;
