@@ -133,6 +133,7 @@ std::optional<std::string> CBookmarkDlg::askName(NameFor mode, const std::string
 }
 
 void CBookmarkDlg::OnNewFolder() {
+    m_tree.CancelDrag();
     const std::optional<std::string> name = askName(NameFor::newFolder, {});
     if (!name) return;
     auto folder = std::make_unique<CBMFolder>();
@@ -142,6 +143,7 @@ void CBookmarkDlg::OnNewFolder() {
 }
 
 void CBookmarkDlg::OnRename() {
+    m_tree.CancelDrag();
     const Item item = m_tree.GetSelectedItem();
     if (!item) return;
     const NameFor mode = m_tree.IsFolderItem(item) ? NameFor::folder : NameFor::bookmark;
@@ -170,6 +172,7 @@ void CBookmarkDlg::rename(Item item, const std::string& name) {
 }
 
 void CBookmarkDlg::OnDelete() {
+    m_tree.CancelDrag();
     m_tree.SetFocus();
     const Item item = m_tree.GetSelectedItem();
     if (!item) return;

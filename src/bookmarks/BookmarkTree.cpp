@@ -1,7 +1,5 @@
 #include "src/bookmarks/BookmarkTree.h"
 
-#include <utility>
-
 #include "platform/windows/MessageMap.h"
 #include "src/resources/ResourceIds.h"
 
@@ -143,14 +141,22 @@ bool CBookmarkTree::OnSetCursor() {
 
 void CBookmarkTree::OnLButtonUp(UINT, CPoint) {
     if (!m_bDragging) return Default();
-    m_bDragging = false;
-    CCursor::arrow().Set();
-    ReleaseCapture();
-    drop(FolderOf(std::exchange(m_dropTarget, nullptr)));
+    const Item dragged = m_dragged;
+    const Item folder = FolderOf(m_dropTarget);
+    CancelDrag();
+    drop(dragged, folder);
 }
 
-void CBookmarkTree::drop(Item folder) {
-    const Item dragged = std::exchange(m_dragged, nullptr);
+void CBookmarkTree::CancelDrag() {
+    if (!m_bDragging) return;
+    CCursor::arrow().Set();
+    ReleaseCapture();
+    m_bDragging = false;
+    m_dragged = nullptr;
+    m_dropTarget = nullptr;
+}
+
+void CBookmarkTree::drop(Item dragged, Item folder) {
     if (!folder || folder == GetParentItem(dragged)) return;
     const CBookmark& record = *RecordOf(dragged);
     DeleteItem(dragged);

@@ -42,6 +42,8 @@ class CBookmarkTree : public platform::CTreeCtrl {
 
     /// Starts to drag a bookmark; a folder is only selected.
     void BeginDrag(Item item);
+    /// Leaves a bookmark that is being dragged where it is.
+    void CancelDrag();
 
   private:
     void OnMouseMove(platform::UINT flags, platform::CPoint point);
@@ -51,7 +53,7 @@ class CBookmarkTree : public platform::CTreeCtrl {
     Item addItem(const CBookmark& record, Item folder, platform::TreePlace place);
     void aimAt(Item item);
     void showCursor(const platform::CCursor& cursor);
-    void drop(Item folder);
+    void drop(Item dragged, Item folder);
 
     bool m_bDragging = false;
     Item m_dragged = nullptr;

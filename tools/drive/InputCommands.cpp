@@ -97,9 +97,21 @@ void focus(Act& act, Program&) {
     widget.setFocus(Qt::OtherFocusReason);
 }
 
+std::string_view shapeName(Qt::CursorShape shape) {
+    if (shape == Qt::ArrowCursor) return "arrow";
+    if (shape == Qt::ForbiddenCursor) return "no";
+    return shape == Qt::BitmapCursor ? "picture" : "other";
+}
+
+void cursor(Act& act, Program&) {
+    const QCursor shown = Pointer::instance().cursor();
+    act.set("shape", shapeName(shown.shape()));
+    if (shown.shape() == Qt::BitmapCursor) act.set("hotSpot", {shown.hotSpot().x(), shown.hotSpot().y()});
+}
+
 constexpr Command kCommands[] = {
     {"mouse", 3, 4, mouse}, {"click", 2, 3, click}, {"key", 1, 2, key},
-    {"type", 1, 1, type},   {"focus", 1, 1, focus},
+    {"type", 1, 1, type},   {"focus", 1, 1, focus}, {"cursor", 0, 0, cursor},
 };
 
 }  // namespace

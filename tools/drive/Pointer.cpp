@@ -1,7 +1,6 @@
 #include "tools/drive/Pointer.h"
 
 #include <QApplication>
-#include <QCursor>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QTest>
@@ -128,6 +127,11 @@ void Pointer::pressAgain() { later(sendSecondPress); }
 
 void Pointer::turnWheel(int notches) {
     later([notches] { sendWheel(notches); });
+}
+
+QCursor Pointer::cursor() const {
+    const QWindow* window = windowAtPointer();
+    return window == nullptr ? QCursor() : window->cursor();
 }
 
 }  // namespace drive

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Qt>
+#include <QCursor>
 
 #include "platform/windows/Messages.h"
 
@@ -22,6 +22,9 @@ class Pointer {
     void pressAgain();
     /// By so many notches, away from the user where positive.
     void turnWheel(int notches);
+
+    /// How the window under it shows it.
+    QCursor cursor() const;
 
   private:
     Pointer() = default;

@@ -1,13 +1,11 @@
 #include "tools/drive/Windows.h"
 
-#include <QCursor>
 #include <QWidget>
 #include <map>
 
 #include "platform/framework/Dialog.h"
 #include "platform/framework/DialogControls.h"
 #include "platform/handles/WindowTable.h"
-#include "platform/windows/ControlLink.h"
 #include "platform/windows/ControlText.h"
 #include "platform/windows/QtConvert.h"
 #include "platform/windows/Wnd.h"
@@ -63,23 +61,6 @@ HWND parentOf(HWND window) {
     return standsAlone ? 0 : table().nearestHandle(widget.parentWidget());
 }
 
-/// The cursor that the pointer has over the inside of a widget; one of the program's own by its hot spot.
-Json cursorJson(QWidget& widget) {
-    const QCursor cursor = mouseWidgetOf(widget).cursor();
-    switch (cursor.shape()) {
-        case Qt::ArrowCursor:
-            return "arrow";
-        case Qt::ForbiddenCursor:
-            return "no";
-        case Qt::IBeamCursor:
-            return "text";
-        case Qt::BitmapCursor:
-            return Json::array({cursor.hotSpot().x(), cursor.hotSpot().y()});
-        default:
-            return "other";
-    }
-}
-
 using Children = std::multimap<HWND, HWND>;
 
 Json windowJson(HWND window, const Children& children) {
@@ -95,7 +76,6 @@ Json windowJson(HWND window, const Children& children) {
             {"visible", entry.widget->isVisible()},
             {"enabled", entry.widget->isEnabled()},
             {"focus", GetFocus() == window},
-            {"cursor", cursorJson(*entry.widget)},
             {"children", std::move(inside)}};
 }
 
