@@ -92,10 +92,7 @@ TEST_F(DrawingTest, DrawsBottomUpRowsWithTheirPadding) {
     // Two rows of three pixels: 9 bytes and 3 of padding each.
     const std::vector<std::uint8_t> pixels = {255, 0, 0,   255, 0,   0, 255, 0,   0,   9, 9, 9,
                                               0,   0, 255, 0,   255, 0, 255, 255, 255, 9, 9, 9};
-    BITMAPINFOHEADER header;
-    header.biWidth = 3;
-    header.biHeight = 2;
-    dc().SetDIBitsToDevice(4, 2, header, pixels.data());
+    dc().SetDIBitsToDevice(4, 2, {.biWidth = 3, .biHeight = 2}, pixels.data());
     EXPECT_EQ(row(2, 4, 7), "ff0000 00ff00 ffffff ");
     EXPECT_EQ(row(3, 4, 7), "0000ff 0000ff 0000ff ");
 }
@@ -104,10 +101,7 @@ TEST_F(DrawingTest, DrawsNoPictureOfAnImpossibleSize) {
     constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max();
     const std::uint8_t pixel[4] = {};
     for (const auto& [width, height] : {std::pair{0, 1}, {1, 0}, {-1, 1}, {1, -1}, {most, most}, {most, 1}}) {
-        BITMAPINFOHEADER header;
-        header.biWidth = width;
-        header.biHeight = height;
-        dc().SetDIBitsToDevice(0, 0, header, pixel);
+        dc().SetDIBitsToDevice(0, 0, {.biWidth = width, .biHeight = height}, pixel);
     }
     dc().SetDIBitsToDevice(0, 0, {.biWidth = 1, .biHeight = 1}, nullptr);
     EXPECT_EQ(shownColour(*window_, 0, 0), "ffffff");
@@ -119,9 +113,7 @@ TEST_F(DrawingTest, MakesBitmapsOfDeviceIndependentOnes) {
         return std::vector<std::byte>{static_cast<std::byte>(values)...};
     };
     const std::array<PALETTEENTRY, 2> colours = {{{255, 0, 0, 0}, {0, 255, 0, 0}}};
-    BITMAPINFOHEADER header;
-    header.biWidth = header.biHeight = 2;
-    header.biBitCount = 8;
+    const BITMAPINFOHEADER header{.biWidth = 2, .biHeight = 2, .biBitCount = 8};
     CBitmap bitmap;
     ASSERT_TRUE(bitmap.CreateDIBitmap(header, colours, bytes(1, 1, 9, 9, 0, 2, 9, 9)));
     CDC memory = CDC::CreateCompatibleDC(dc());
@@ -133,10 +125,8 @@ TEST_F(DrawingTest, MakesBitmapsOfDeviceIndependentOnes) {
     EXPECT_FALSE(bitmap.CreateDIBitmap(header, colours, bytes(1, 1, 9, 9, 0, 2, 9)));
     for (const auto& [width, height, bits] :
          {std::tuple{0, 2, 8}, {2, -2, 8}, {2, 2, 4}, {2, 2, 16}, {0x7FFFFFFF, 0x7FFFFFFF, 24}}) {
-        BITMAPINFOHEADER wrong;
-        wrong.biWidth = width;
-        wrong.biHeight = height;
-        wrong.biBitCount = static_cast<std::uint16_t>(bits);
+        const BITMAPINFOHEADER wrong{
+            .biWidth = width, .biHeight = height, .biBitCount = static_cast<std::uint16_t>(bits)};
         EXPECT_FALSE(bitmap.CreateDIBitmap(wrong, colours, bytes(1, 1, 9, 9, 0, 2, 9, 9))) << bits;
     }
 }
@@ -150,8 +140,7 @@ TEST_F(DrawingTest, DrawsPicturesWithMorePixelsInTheSizeOfTheirCoordinates) {
             pixels.insert(pixels.end(), {0, static_cast<std::uint8_t>(255 - left), left});
         }
     }
-    BITMAPINFOHEADER header;
-    header.biWidth = header.biHeight = 4;
+    const BITMAPINFOHEADER header{.biWidth = 4, .biHeight = 4};
     CBitmap bitmap;
     ASSERT_TRUE(bitmap.CreateDIBitmap(header, {}, std::as_bytes(std::span(pixels)), 2));
     EXPECT_EQ(bitmap.Width(), 2);

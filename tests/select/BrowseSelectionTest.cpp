@@ -77,6 +77,10 @@ TEST_F(BrowseSelectionTest, AChosenEntryBringsItsTopicWhenTheHostShowsAnother) {
     EXPECT_EQ(selection_.choose({1, 1}), ChoiceEvents{ItemChosen{10011}});
     EXPECT_EQ(selection_.choose({1, {}}), (ChoiceEvents{PageChosen{410011, 410010}}));
     EXPECT_EQ(selection_.choose({2, 0}), (ChoiceEvents{PageChosen{410020, 410020}, ItemChosen{20001}}));
+    selection_.setSection(sample::history);
+    EXPECT_EQ(selection_.choose({0, 0}), (ChoiceEvents{PageChosen{740001, 740001}}))
+        << "an entry of a start page is a page of its own";
+    EXPECT_EQ(selection_.shownRow(), (Row{0, 0}));
 }
 
 TEST_F(BrowseSelectionTest, FindsTitles) {
