@@ -1,3 +1,5 @@
+#include <QTest>
+
 #include "platform/automation/WebBrowserControl.h"
 #include "tests/platform_automation/BrowserMachine.h"
 
@@ -101,6 +103,21 @@ TEST_F(BrowserMachine, OpensNewWindowsInTheSameView) {
     ASSERT_TRUE(click("b"));
     EXPECT_EQ(url(), "D:\\b.htm");
     EXPECT_EQ(asked.back(), "D:\\b.htm");
+}
+
+TEST_F(BrowserMachine, ZoomsWithTheKeys) {
+    writePicture("D:\\x.png", 40, 40, Qt::red);
+    write("D:\\a.htm", "<BODY STYLE=\"margin:0\"><IMG SRC=\"x.png\" STYLE=\"display:block\"></BODY>");
+    open("D:\\a.htm");
+    const auto redAfter = [&](Qt::Key key) {
+        QTest::keyClick(input(), key, Qt::ControlModifier);
+        return count({0, 0, 640, 480}, Qt::red);
+    };
+    host().control().widget().setFocus();
+    EXPECT_EQ(count({0, 0, 640, 480}, Qt::red), 1600);
+    EXPECT_GT(redAfter(Qt::Key_Plus), 1800);
+    EXPECT_EQ(redAfter(Qt::Key_0), 1600);
+    EXPECT_LT(redAfter(Qt::Key_Minus), 1500);
 }
 
 TEST_F(BrowserMachine, GivesADocumentThatOutlivesThePage) {

@@ -2,6 +2,7 @@
 
 #include "src/components/ElementIndex.h"
 #include "src/content/BarLayout.h"
+#include "src/content/History.h"
 #include "src/content/HostedComponents.h"
 #include "src/content/MainMenuLayout.h"
 #include "src/content/PageCache.h"
@@ -12,6 +13,16 @@ namespace kalyxo {
 namespace {
 
 using platform::CPoint;
+
+TEST(HistoryTest, ANewPlaceEndsForwardFromAnywhere) {
+    History history;
+    for (int page = 1; page <= 4; ++page) history.Record({1, page, 0});
+    history.StepBack();
+    history.StepBack();
+    history.Record({1, 9, 0});
+    EXPECT_EQ(history.LastIndex(), 2);
+    EXPECT_FALSE(history.StepForward());
+}
 
 TEST(LayoutsOfTheScreens, EndAndBeginToThePixel) {
     BarLayout bar;

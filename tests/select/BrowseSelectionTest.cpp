@@ -76,6 +76,7 @@ TEST_F(BrowseSelectionTest, AChosenEntryBringsItsTopicWhenTheHostShowsAnother) {
     EXPECT_EQ(selection_.choose({1, 0}), (ChoiceEvents{PageChosen{410011, 410010}, ItemChosen{10003}}));
     EXPECT_EQ(selection_.choose({1, 1}), ChoiceEvents{ItemChosen{10011}});
     EXPECT_EQ(selection_.choose({1, {}}), (ChoiceEvents{PageChosen{410011, 410010}}));
+    EXPECT_EQ(selection_.shown(), (Place{410010, 0}));
     EXPECT_EQ(selection_.choose({2, 0}), (ChoiceEvents{PageChosen{410020, 410020}, ItemChosen{20001}}));
     selection_.setSection(sample::history);
     EXPECT_EQ(selection_.choose({0, 0}), (ChoiceEvents{PageChosen{740001, 740001}}))
