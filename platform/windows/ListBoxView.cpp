@@ -112,6 +112,13 @@ void ListBoxView::timerEvent(QTimerEvent* event) {
     entries_.settle();
 }
 
+void ListBoxView::mousePressEvent(QMouseEvent* event) {
+    const int before = selected();
+    QListView::mousePressEvent(event);
+    // A click picks also what the program had selected.
+    if (before >= 0 && indexAt(event->pos()).row() == before) sendCommand(*this, LBN_SELCHANGE);
+}
+
 void ListBoxView::mouseDoubleClickEvent(QMouseEvent* event) {
     QListView::mouseDoubleClickEvent(event);
     if (indexAt(event->pos()).isValid()) sendCommand(*this, LBN_DBLCLK);

@@ -54,6 +54,7 @@ class ListBoxView : public QListView {
 
   protected:
     void timerEvent(QTimerEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
