@@ -242,25 +242,6 @@ class BookmarksOnDisk : public testing::Test {
     BookmarkList list_;
 };
 
-TEST_F(BookmarksOnDisk, NoFileGivesTheDefaultFolderAndItsFile) {
-    EXPECT_EQ(load("C:\\x\\y\\bookmark.dat"), BookmarkLoad::noFile);
-    EXPECT_EQ(list_.CurrentFolderIndex(), 0U);
-    EXPECT_EQ(save("C:\\x\\y\\bookmark.dat"), BookmarkSave::saved);
-    EXPECT_EQ(drives_.get("C:\\x\\y\\bookmark.dat"), kDefaultFile);
-    EXPECT_FALSE(drives_.has("C:\\x\\y\\bookmark.dat.bak"));
-}
-
-TEST_F(BookmarksOnDisk, DamagedFileStaysAndIsKeptAsACopy) {
-    drives_.put("C:\\b.dat", "broken");
-    EXPECT_EQ(load("C:\\b.dat"), BookmarkLoad::damaged);
-    EXPECT_EQ(list_.Records().size(), 1U);
-    EXPECT_EQ(drives_.get("C:\\b.dat"), "broken");
-    drives_.put("C:\\b.dat.bak", "older");
-    EXPECT_EQ(save("C:\\b.dat"), BookmarkSave::saved);
-    EXPECT_EQ(drives_.get("C:\\b.dat"), kDefaultFile);
-    EXPECT_EQ(drives_.get("C:\\b.dat.bak"), "broken");
-}
-
 TEST_F(BookmarksOnDisk, TooLargeFileIsDamaged) {
     drives_.put("C:\\b.dat", kDefaultFile);
     std::filesystem::resize_file(drives_.host("C:\\b.dat"), kLargestBookmarkFile + 1);
@@ -284,30 +265,6 @@ TEST_F(BookmarksOnDisk, FailuresOfTheMediumAreTold) {
     // A device that is full at once.
     std::filesystem::create_symlink("/dev/full", drives_.host("C:\\full.dat"));
     EXPECT_EQ(save("C:\\full.dat"), BookmarkSave::notWritten);
-}
-
-TEST(BookmarkList, BookmarkGoesToTheEndOfTheCurrentFolder) {
-    const auto namesAfterAdding = [](std::optional<std::size_t> current) {
-        BookmarkArray records;
-        add<CBMFolder>(records, "A");
-        add<CBMPeriodic>(records, "a");
-        add<CBMFolder>(records, "B");
-        add<CBMFolder>(records, "C");
-        add<CBMPeriodic>(records, "c");
-        BookmarkList list;
-        list.Replace(std::move(records));
-        list.SetCurrentFolder(current ? list.Records()[*current].get() : nullptr);
-        auto added = std::make_unique<CBMPeriodic>();
-        added->name = "x";
-        list.Add(std::move(added));
-        std::string names;
-        for (const auto& record : list.Records()) names += record->name;
-        return names;
-    };
-    EXPECT_EQ(namesAfterAdding(0), "AaxBCc");
-    EXPECT_EQ(namesAfterAdding(2), "AaBxCc");
-    EXPECT_EQ(namesAfterAdding(3), "AaBCcx");
-    EXPECT_EQ(namesAfterAdding(std::nullopt), "AaxBCc");
 }
 
 TEST(BookmarkList, RearrangingFreesWhatIsLeftOut) {

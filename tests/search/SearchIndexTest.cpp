@@ -38,16 +38,6 @@ class SearchIndexTest : public testing::Test {
     SearchFolder folder;
 };
 
-TEST_F(SearchIndexTest, WithoutFilesNothingIsFoundAndNothingFails) {
-    SearchIndex empty = index();
-    EXPECT_TRUE(empty.LoadWordIndex().empty());
-    empty.LoadAlternatives();
-    EXPECT_TRUE(empty.LoadFirstLetterTable());
-    EXPECT_EQ(empty.ExpandAlternatives("a", true), Words{"a"});
-    empty.CollectHits("a");
-    EXPECT_EQ(empty.HitCount(), 0U);
-}
-
 TEST_F(SearchIndexTest, WordsStandInFileOrderAndAPartialLastRecordIsIgnored) {
     folder.put("D:\\words.ndx", "b"s + std::string(31, '\0') + "a\0rest"s + std::string(26, '\0') +
                                     std::string(32, 'x') + std::string(31, 'y'));
