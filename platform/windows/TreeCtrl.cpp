@@ -1,5 +1,6 @@
 #include "platform/windows/TreeCtrl.h"
 
+#include <QPixmapCache>
 #include <QStyle>
 #include <QTreeWidgetItemIterator>
 #include <algorithm>
@@ -38,6 +39,17 @@ HTREEITEM sibling(HTREEITEM item, int step) {
 QStyle::StandardPixmap pixmapOf(TreeImage image) {
     if (image == TreeImage::drive) return QStyle::SP_DriveHDIcon;
     return image == TreeImage::folder ? QStyle::SP_DirIcon : QStyle::SP_FileIcon;
+}
+
+/// Trees show the same few pictures many times.
+QPixmap bitmapPixmap(UINT bitmap) {
+    const QString name = QStringLiteral(":/bitmap/%1").arg(bitmap);
+    QPixmap picture;
+    if (!QPixmapCache::find(name, &picture)) {
+        picture = QPixmap::fromImage(artworkImage(name));
+        QPixmapCache::insert(name, picture);
+    }
+    return picture;
 }
 
 UINT sideOf(const QRect& area, QPoint point) {
@@ -96,8 +108,7 @@ void CTreeCtrl::SetItemImage(HTREEITEM item, TreeImage image) {
 }
 
 void CTreeCtrl::SetItemBitmap(HTREEITEM item, UINT bitmap) {
-    if (item)
-        toQt(item)->setIcon(0, QPixmap::fromImage(artworkImage(QStringLiteral(":/bitmap/%1").arg(bitmap))));
+    if (item) toQt(item)->setIcon(0, bitmapPixmap(bitmap));
 }
 
 HTREEITEM CTreeCtrl::GetRootItem() const {
