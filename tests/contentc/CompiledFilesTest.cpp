@@ -5,13 +5,11 @@
 #include "formats/SectionTitles.h"
 #include "formats/TitleLists.h"
 #include "platform/text/CodePage1253.h"
-#include "platform/text/GreekLiteral.h"
 #include "tests/contentc/ContentFolder.h"
 
 namespace {
 
 using namespace std::string_literals;
-using namespace platform::literals;
 
 std::string greek(const char* utf8) { return platform::fromUtf8(utf8); }
 

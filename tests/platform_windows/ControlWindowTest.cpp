@@ -1,5 +1,4 @@
 #include <QLineEdit>
-#include <QTest>
 
 #include "platform/handles/WindowTable.h"
 #include "platform/windows/ControlContainer.h"

@@ -8,7 +8,6 @@
 
 #include "platform/framework/DataExchange.h"
 #include "platform/framework/Dialog.h"
-#include "platform/framework/Resources.h"
 #include "platform/handles/WindowTable.h"
 #include "platform/text/GreekLiteral.h"
 #include "platform/windows/Edit.h"

@@ -4,7 +4,6 @@
 #include <QTest>
 #include <array>
 
-#include "platform/framework/Resources.h"
 #include "platform/handles/WindowTable.h"
 #include "platform/text/GreekLiteral.h"
 #include "platform/windows/MessageMap.h"

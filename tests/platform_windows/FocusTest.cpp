@@ -1,6 +1,5 @@
 #include <QWidget>
 
-#include "platform/handles/WindowTable.h"
 #include "tests/platform_windows/TestProgram.h"
 
 namespace windows_test {

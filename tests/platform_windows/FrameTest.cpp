@@ -2,15 +2,12 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QWidget>
-#include <QWindow>
 
-#include "platform/text/GreekLiteral.h"
 #include "tests/platform_windows/TestProgram.h"
 
 namespace windows_test {
 
 using namespace platform;
-using namespace platform::literals;
 
 namespace {
 

@@ -1,9 +1,8 @@
-#include <QTest>
+#include <QGuiApplication>
 #include <QWindow>
 #include <array>
 
 #include "platform/framework/Dialog.h"
-#include "platform/framework/Resources.h"
 #include "platform/windows/Button.h"
 #include "platform/windows/MessageMap.h"
 #include "platform/windows/ScreenRectangle.h"

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "platform/text/GreekLiteral.h"
 #include "src/app/DriveList.h"
 #include "src/content/GlossaryPopup.h"
 #include "src/content/GlossaryText.h"
@@ -9,7 +8,6 @@
 namespace kalyxo {
 namespace {
 
-using namespace platform::literals;
 using platform::CRect;
 
 TEST(GlossaryLinkTest, OnlyAddressesOfThatFormAreTakenOver) {
