@@ -39,6 +39,8 @@ void CTipEdit::Pop() {
     ShowWindow(SW_SHOW);
     SetFocus();
     SetCapture();
+    // From here on the box is not asked for a cursor any more.
+    m_cursor.Set();
 }
 
 void CTipEdit::Hide() {
