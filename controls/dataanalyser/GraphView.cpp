@@ -37,7 +37,9 @@ GraphView::GraphView(Analyser& analyser, std::function<void()> copy, QWidget* pa
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setViewportUpdateMode(MinimalViewportUpdate);
-    setAccessibleName(QStringLiteral("Γράφημα"));
+    for (QWidget* const widget : {static_cast<QWidget*>(this), viewport()}) {
+        widget->setAccessibleName(QStringLiteral("Γράφημα"));
+    }
 }
 
 void GraphView::refresh() { chart_->showGraph(analyser_); }

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPixmap>
+#include <QToolButton>
 
 #include "controls/select/Appearance.h"
 
@@ -46,8 +47,17 @@ FilterField::FilterField(QWidget* parent)
     setAccessibleDescription(
         QStringLiteral("Στενεύει τη λίστα των θεμάτων· Enter ανοίγει το πρώτο που βρέθηκε"));
     setClearButtonEnabled(true);
+    nameButtons();
     setMaxLength(maxTyped);
     setContextMenuPolicy(Qt::NoContextMenu);
+}
+
+/// They carry pictures only.
+void FilterField::nameButtons() {
+    for (QToolButton* const button : findChildren<QToolButton*>()) {
+        const bool glass = button->defaultAction() == glass_;
+        button->setAccessibleName(glass ? accessibleName() : QStringLiteral("Καθαρισμός"));
+    }
 }
 
 platform::LRESULT FilterField::receive(platform::UINT message) {

@@ -30,6 +30,7 @@ class FilterField : public QLineEdit {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
+    void nameButtons();
     QAction* glass_;
 };
 

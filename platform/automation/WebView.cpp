@@ -11,6 +11,7 @@
 #include <cmath>
 
 #include "platform/automation/QtChild.h"
+#include "platform/windows/TabOrder.h"
 
 namespace platform {
 
@@ -38,7 +39,9 @@ WebView::WebView(QWidget* parent) : QWebEngineView(parent) {
 WebView::~WebView() { disconnect(qApp, nullptr, this, nullptr); }
 
 void WebView::watchFocus(QWidget* winner) {
-    if (winner && isAncestorOf(winner)) winner->installEventFilter(this);
+    if (!winner || !isAncestorOf(winner)) return;
+    winner->installEventFilter(this);
+    if (!isInSight(*this)) QMetaObject::invokeMethod(this, &WebView::passFocusOn, Qt::QueuedConnection);
 }
 
 /// Another page may come with another of the engine's widgets, which is to have the focus of the former. Qt
@@ -50,6 +53,15 @@ bool WebView::eventFilter(QObject* engineWidget, QEvent* event) {
         QMetaObject::invokeMethod(this, &WebView::takeFocusBack, Qt::QueuedConnection);
     }
     return QWebEngineView::eventFilter(engineWidget, event);
+}
+
+/// By the tabulator the focus comes here too when the page is out of sight.
+void WebView::passFocusOn() {
+    QWidget* const focus = QApplication::focusWidget();
+    if (!focus || !isAncestorOf(focus) || isInSight(*this)) return;
+    if (!focusNextInSight(*focus, !(QApplication::keyboardModifiers() & Qt::ShiftModifier))) {
+        if (QWidget* const around = parentWidget()->parentWidget()) around->setFocus(Qt::OtherFocusReason);
+    }
 }
 
 void WebView::takeFocusBack() {
@@ -95,7 +107,7 @@ void WebView::zoomBy(int steps) {
 
 void WebView::zoomTo(double factor) {
     // Out of sight it keeps its size.
-    if (window()->rect().intersects({mapTo(window(), QPoint()), size()})) setZoomFactor(factor);
+    if (isInSight(*this)) setZoomFactor(factor);
 }
 
 }  // namespace platform

@@ -23,6 +23,7 @@ class WebView : public QWebEngineView {
   private:
     void watchFocus(QWidget* winner);
     void takeFocusBack();
+    void passFocusOn();
     void addZoomKeys();
     void zoomBy(int steps);
     void zoomTo(double factor);

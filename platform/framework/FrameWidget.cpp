@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QIcon>
 #include <QPixmap>
+#include <QShortcut>
 #include <QWindow>
 
 #include "platform/framework/FrameWnd.h"
@@ -35,6 +36,16 @@ FrameWidget::FrameWidget(CFrameWnd& owner)
     setPalette(lightPalette());
     setWindowIcon(programIcon());
     buildMenuBar(menuBar_, handle());
+    openMenuByKey();
+}
+
+/// The key that opens the first menu on every desktop; Alt does so only on some.
+void FrameWidget::openMenuByKey() {
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the window has it
+    auto* const key = new QShortcut(Qt::Key_F10, this);
+    connect(key, &QShortcut::activated, this, [this] {
+        if (!menuBar_.actions().isEmpty()) menuBar_.setActiveAction(menuBar_.actions().first());
+    });
 }
 
 QRect FrameWidget::clientArea() const { return rect().adjusted(0, menuHeight(), 0, 0); }

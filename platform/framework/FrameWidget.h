@@ -30,6 +30,7 @@ class FrameWidget : public WindowWidget {
 
   private:
     int menuHeight() const;
+    void openMenuByKey();
 
     QMenuBar menuBar_;
     FramePlacement placement_;

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 
 #include "platform/handles/WindowTable.h"
+#include "platform/windows/TabOrder.h"
 
 namespace platform {
 
@@ -37,6 +38,11 @@ void ControlContainer::end() {
 
 void ControlContainer::fitContent() {
     if (host_) host_->control().widget().setGeometry(rect());
+}
+
+void ControlContainer::moveEvent(QMoveEvent* event) {
+    WindowWidget::moveEvent(event);
+    if (!isInSight(*this)) moveFocusOut(*this);
 }
 
 // A key that the control has no use for is not the parent's.

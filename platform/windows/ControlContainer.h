@@ -23,6 +23,7 @@ class ControlContainer : public WindowWidget {
 
   protected:
     void fitContent() override;
+    void moveEvent(QMoveEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
 

@@ -58,8 +58,13 @@ inline constexpr int SW_SHOWMINIMIZED = 2;
 inline constexpr int SW_SHOWMAXIMIZED = 3;
 inline constexpr int SW_SHOW = 5;
 
+inline constexpr unsigned VK_TAB = 9;
 inline constexpr unsigned VK_RETURN = 13;
 inline constexpr unsigned VK_ESCAPE = 27;
+inline constexpr unsigned VK_LEFT = 37;
+inline constexpr unsigned VK_UP = 38;
+inline constexpr unsigned VK_RIGHT = 39;
+inline constexpr unsigned VK_DOWN = 40;
 
 /// A message on its way to a window.
 struct MSG {

@@ -6,11 +6,14 @@
 #include "platform/framework/FrameWnd.h"
 #include "platform/handles/WindowTable.h"
 #include "platform/windows/ControlLink.h"
+#include "platform/windows/ControlMessages.h"
 #include "platform/windows/ControlText.h"
 #include "platform/windows/KeyboardFocus.h"
+#include "platform/windows/MessageFilter.h"
 #include "platform/windows/MouseCapture.h"
 #include "platform/windows/QtConvert.h"
 #include "platform/windows/SurfaceWidget.h"
+#include "platform/windows/TabOrder.h"
 #include "platform/windows/WindowDestruction.h"
 
 namespace platform {
@@ -47,6 +50,7 @@ bool CWnd::CreateWnd(std::string_view text, DWORD style, const CRect& rect, CWnd
     if (m_hWnd != 0 || !parentWidget) return false;
     auto* const widget = new SurfaceWidget(*this, parentWidget, static_cast<int>(id));
     widget->setWindowTitle(toQt(text));
+    if (style & WS_TABSTOP) widget->setFocusPolicy(Qt::TabFocus);
     return widget->create({style, rect.left, rect.top, rect.Width(), rect.Height(), false});
 }
 
@@ -189,9 +193,21 @@ bool CWnd::OnCommand(WPARAM wParam, LPARAM) {
 
 LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM) {
     if (message == WM_CLOSE) DestroyWindow();
+    if (message == WM_KEYDOWN && wParam == VK_TAB) moveFocusOn();
     if (message != WM_ERASEBKGND || wParam == 0) return 0;
     reinterpret_cast<CDC*>(wParam)->FillSolidRect(GetClientRect(), RGB(255, 255, 255));
     return 1;
+}
+
+void CWnd::moveFocusOn() {
+    QWidget* const widget = widgetOf(*this);
+    if (widget && !(inputModifiers() & Qt::ControlModifier)) {
+        focusNextInSight(*widget, !(inputModifiers() & Qt::ShiftModifier));
+    }
+}
+
+void CWnd::SetAccessibleName(std::string_view name) {
+    if (QWidget* const widget = widgetOf(*this)) widget->setAccessibleName(toQt(name));
 }
 
 CPoint GetCursorPos() { return fromQt(QCursor::pos()); }

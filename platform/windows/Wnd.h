@@ -70,6 +70,8 @@ class CWnd : public CCmdTarget {
     bool IsZoomed() const;
 
     void SetWindowText(std::string_view text);
+    /// What screen readers call the window, where it is not its text.
+    void SetAccessibleName(std::string_view name);
     std::string GetWindowText() const;
 
     /// Has the window repainted when the program is next idle.
@@ -118,6 +120,8 @@ class CWnd : public CCmdTarget {
   private:
     friend class ControlLink;
     friend class WindowWidget;
+    void moveFocusOn();
+
     HWND m_hWnd = 0;
 };
 

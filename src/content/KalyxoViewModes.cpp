@@ -1,4 +1,5 @@
 #include "platform/windows/MessageMap.h"
+#include "platform/windows/TabPlace.h"
 #include "src/app/KalyxoApp.h"
 #include "src/bookmarks/AnalyserCapture.h"
 #include "src/content/KalyxoView.h"
@@ -48,6 +49,7 @@ void CKalyxoView::layOutPage() {
     const CSize client = clientSize();
     m_splitter.Create(TheApp().m_nSplitterPos, kBarHeight, client.cy - kBarHeight, false,
                       kSmallestSplitterPos, client.cx - 150, *this);
+    TabAfter(m_splitter.GetSafeHwnd(), m_components.select.GetSafeHwnd());
     // The bar keeps within its limits, whatever position was saved.
     splitterMoved();
     m_components.select.ShowWindow(SW_SHOW);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/text/GreekLiteral.h"
+#include "platform/windows/ControlMessages.h"
 #include "platform/windows/MessageMap.h"
 #include "src/resources/CommandIds.h"
 #include "src/resources/ResourceIds.h"
@@ -10,6 +12,7 @@
 namespace kalyxo {
 
 using namespace platform;
+using namespace platform::literals;
 
 namespace {
 
@@ -17,6 +20,9 @@ constexpr COLORREF kWhite = RGB(255, 255, 255);
 constexpr COLORREF kLightGrey = RGB(192, 192, 192);
 constexpr COLORREF kDarkGrey = RGB(128, 128, 128);
 constexpr COLORREF kBlack = RGB(0, 0, 0);
+
+/// Pixels by which an arrow key moves the bar.
+constexpr int kKeyStep = 8;
 
 /// Colours of the raised strip across its thickness.
 constexpr std::array<COLORREF, CSplitterBar::kThickness> kRaised = {
@@ -41,6 +47,9 @@ const MessageMap* CSplitterBar::GetMessageMap() const {
         OnMessage<WM_LBUTTONDOWN, &CSplitterBar::OnLButtonDown>(),
         OnMessage<WM_LBUTTONUP, &CSplitterBar::OnLButtonUp>(),
         OnMessage<WM_MOUSEMOVE, &CSplitterBar::OnMouseMove>(),
+        OnMessage<WM_KEYDOWN, &CSplitterBar::OnKeyDown>(),
+        OnMessage<WM_SETFOCUS, &CSplitterBar::OnFocus>(),
+        OnMessage<WM_KILLFOCUS, &CSplitterBar::OnFocus>(),
     };
     static const MessageMap map{CWnd::GetMessageMap(), entries};
     return &map;
@@ -55,7 +64,10 @@ bool CSplitterBar::Create(int x, int y, int length, bool horizontal, int min, in
     m_nPos = clampTo(horizontal ? y : x, min, max);
     m_nFixed = horizontal ? x : y;
     m_cursor = CCursor::resource(horizontal ? IDC_RESIZE_VERTICAL : IDC_RESIZE_HORIZONTAL);
-    return CreateWnd("ESGSplit", WS_CHILD | WS_VISIBLE, barRect(length), parent, IDC_SPLITTER);
+    if (!CreateWnd("ESGSplit", WS_CHILD | WS_VISIBLE | WS_TABSTOP, barRect(length), parent, IDC_SPLITTER))
+        return false;
+    SetAccessibleName("Διαχωριστής"_gr);
+    return true;
 }
 
 void CSplitterBar::SetRange(int min, int max) {
@@ -76,7 +88,7 @@ void CSplitterBar::SetLength(int length) { MoveWindow(barRect(length)); }
 
 void CSplitterBar::OnPaint() {
     CPaintDC dc(*this);
-    if (m_bDragging) {
+    if (m_bDragging || GetFocus() == GetSafeHwnd()) {
         paintDragged(dc);
     } else {
         paintRaised(dc);
@@ -108,6 +120,19 @@ void CSplitterBar::OnMouseMove(UINT, CPoint point) {
     moveTo(clampTo(along(inParent) - m_nGrab, m_nMin, m_nMax));
     m_pParent->SendMessage(WM_PAINT);
 }
+
+/// The arrows along the way move the bar; every other key is left alone.
+void CSplitterBar::OnKeyDown(UINT key) {
+    const bool back = key == (m_bHorizontal ? VK_UP : VK_LEFT);
+    if (!back && key != (m_bHorizontal ? VK_DOWN : VK_RIGHT)) {
+        DefWindowProc(WM_KEYDOWN, key, 0);
+        return;
+    }
+    moveTo(clampTo(m_nPos + (back ? -kKeyStep : kKeyStep), m_nMin, m_nMax));
+    notifyParent();
+}
+
+void CSplitterBar::OnFocus(HWND) { Invalidate(); }
 
 CRect CSplitterBar::barRect(int length) const {
     return m_bHorizontal ? CRect::at(m_nFixed, m_nPos, length, kThickness)

@@ -31,6 +31,8 @@ class CSplitterBar : public platform::CWnd {
     void OnLButtonDown(platform::UINT flags, platform::CPoint point);
     void OnLButtonUp(platform::UINT flags, platform::CPoint point);
     void OnMouseMove(platform::UINT flags, platform::CPoint point);
+    void OnKeyDown(platform::UINT key);
+    void OnFocus(platform::HWND other);
 
     int along(platform::CPoint p) const { return m_bHorizontal ? p.y : p.x; }
     platform::CRect barRect(int length) const;

@@ -82,8 +82,8 @@ constexpr std::array kSearch = {
                   {},
                   0,
                   kUsual | platform::ES_LOWERCASE | platform::ES_AUTOHSCROLL},
-    DialogControl{
-        Kind::listBox, IDC_WORD_LIST, CRect::at(5, 30, 90, 157), {}, 0, kUsual | platform::LBS_SORT},
+    DialogControl{Kind::listBox, IDC_WORD_LIST, CRect::at(5, 30, 90, 157), "Λέξεις"_gr, 0,
+                  kUsual | platform::LBS_SORT},
     DialogControl{Kind::checkBox, IDC_ALTERNATIVES, CRect::at(1, 192, 98, 8), "Αναζήτηση εναλλακτικών"_gr, 0,
                   kUsual | platform::BS_LEFTTEXT},
     DialogControl{Kind::listView, IDC_RESULTS, CRect::at(100, 16, 240, 184), "Αποτελέσματα"_gr, 0,

@@ -33,5 +33,6 @@ std::span<const Command> pageCommands();
 std::span<const Command> componentCommands();
 std::span<const Command> dialogCommands();
 std::span<const Command> controlCommands();
+std::span<const Command> accessibleCommands();
 
 }  // namespace drive
