@@ -49,6 +49,10 @@ void CEdit::SetColors(COLORREF text, COLORREF background) {
     widget->setPalette(colours);
 }
 
+void CEdit::SetReadOnly() {
+    if (MultiLineEdit* const edit = linesOf(*this)) edit->setTextInteractionFlags(Qt::NoTextInteraction);
+}
+
 void CEdit::HideCaret() {
     if (MultiLineEdit* const edit = linesOf(*this)) edit->setCursorWidth(0);
 }

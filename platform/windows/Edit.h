@@ -15,6 +15,8 @@ class CEdit : public CControl {
     void SetColors(COLORREF text, COLORREF background);
     /// Never shows the caret again.
     void HideCaret();
+    /// Has an edit of several lines take no text from the clipboard, an input method or the mouse.
+    void SetReadOnly();
 
     /// Selects the characters from `start` up to `end` (−1: to the end of the text), the caret after them and
     /// in view.

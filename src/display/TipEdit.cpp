@@ -32,6 +32,7 @@ bool CTipEdit::CreateHidden(CWnd& parent, UINT id) {
     if (!Create(WS_CHILD | WS_BORDER | ES_MULTILINE, parent.GetClientRect(), parent, id)) return false;
     SetFont(kFont);
     SetColors(kBlack, kLightYellow);
+    SetReadOnly();
     return true;
 }
 

@@ -1,6 +1,7 @@
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QApplication>
+#include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QTest>
 #include <QTextEdit>
@@ -302,6 +303,18 @@ TEST_F(ControlsTest, LinesOfAnEditFillItsHeightShownOrNot) {
         EXPECT_LE(widget.document()->size().height(), edit.GetClientRect().Height()) << c.text;
         EXPECT_LE(widget.document()->idealWidth(), edit.GetClientRect().Width()) << c.text;
     }
+}
+
+TEST_F(ControlsTest, AReadOnlyEditTakesNoTextFromAnInputMethod) {
+    open();
+    CEdit edit;
+    ASSERT_TRUE(edit.Create(WS_CHILD | ES_MULTILINE, {0, 0, 260, 100}, view(), 77));
+    edit.SetWindowText("a");
+    edit.SetReadOnly();
+    QInputMethodEvent event;
+    event.setCommitString(QStringLiteral("ά"));
+    QCoreApplication::sendEvent(&widgetOf(edit), &event);
+    EXPECT_EQ(edit.GetWindowText(), "a");
 }
 
 TEST_F(ControlsTest, ObjectsOutliveTheirControls) {
