@@ -38,9 +38,11 @@ DRIVER = """#!/bin/sh
 [ "$1" = --new-machine ] && mkdir "$2" && echo '{"a": {"b": 1, "c": 2}}' >"$2/machine.json" && exit
 while read -r line; do
     [ "$line" = die ] && exit 3
+    [ "$line" = "end badly" ] && status=3
     [ "$line" = wrong ] && ok=false || ok=true
     echo "{\\"ok\\": $ok, \\"line\\": \\"$line\\", \\"n\\": [{\\"handle\\": 7}]}"
 done
+exit ${status:-0}
 """
 # Scenarios, and the lines at which they fail.
 OUTCOMES = [
@@ -52,6 +54,9 @@ OUTCOMES = [
     ('wrong\n#= {"ok": false}\nwrong\nlast', ["3"]),
     ('go\n#= {"line": "no"}\n#= somewhere {"handle": 8}\n#= nowhere {"handle": 7}', ["2", "3", "4"]),
     ("go\ndie\nnever", ["2"]),
+    ("end badly\ngo", ["end"]),
+    ("end badly\n#! restart\ngo", ["2"]),
+    ("#! write c/x \"\"\n#? count c 1\n#? count c 0\n#? count c 2", ["3", "4"]),
     ("go\n#! restart\n#! delete machine.json\ngo\n#! delete a", ["5"]),
     ('#! machine {"a": {"b": null, "d": 3}}\n#? contains machine.json "{\\"a\\": {\\"c\\": 2, \\"d\\": 3}}"', []),
     ('#! bytes x "41 \'bc\'"\n#? bytes x "41 62 63"\n#? lacks x "bc"\n#? count y 1\n#? loaded libx', ["3", "4", "5"]),
