@@ -1,6 +1,6 @@
 #include "platform/windows/BitmapResource.h"
 
-#include <QFile>
+#include <QResource>
 
 #include "platform/windows/Artwork.h"
 
@@ -8,12 +8,10 @@ namespace platform {
 
 std::optional<BitmapResource> FindBitmapResource(UINT id) {
     const ArtworkFile artwork = artworkFile(QStringLiteral(":/bitmap/%1").arg(id), QStringLiteral(".dib"));
-    QFile file(artwork.name);
-    if (!file.open(QIODevice::ReadOnly)) return std::nullopt;
-    BitmapResource resource{std::vector<std::byte>(static_cast<std::size_t>(file.size())), artwork.scale};
-    const qint64 size = file.read(reinterpret_cast<char*>(resource.bytes.data()), file.size());
-    resource.bytes.resize(static_cast<std::size_t>(std::max<qint64>(size, 0)));
-    return resource;
+    const QResource file(artwork.name);
+    if (!file.isValid()) return std::nullopt;
+    const auto bytes = std::make_shared<const QByteArray>(file.uncompressedData());
+    return BitmapResource{std::as_bytes(std::span(*bytes)), bytes, artwork.scale};
 }
 
 }  // namespace platform

@@ -1,8 +1,9 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <optional>
-#include <vector>
+#include <span>
 
 #include "platform/windows/Messages.h"
 
@@ -11,7 +12,8 @@ namespace platform {
 /// A bitmap resource as a device-independent bitmap: the information header, the colour table if it has one,
 /// and the rows from the bottom up.
 struct BitmapResource {
-    std::vector<std::byte> bytes;
+    std::span<const std::byte> bytes;
+    std::shared_ptr<const void> owner;  ///< of the bytes, when they are not the program file's own
     int scale = 1;  ///< pixels of the picture, across and down, to one of the screen's coordinates
 };
 

@@ -1,6 +1,7 @@
 #include "platform/windows/DC.h"
 
 #include <QPainter>
+#include <algorithm>
 #include <limits>
 
 #include "platform/windows/DrawingTarget.h"
@@ -25,11 +26,31 @@ void paint(CDC::Target* target, const QRect& area, Draw draw) {
     target->drawn(area);
 }
 
+/// Whether pixels of a picture of this ratio do not fall on those of the target.
+bool isScaled(const QPainter& painter, qreal ratio) {
+    return ratio > 1 && ratio != painter.device()->devicePixelRatioF();
+}
+
 /// Pixels that do not fall on those of the target are blended.
 void smoothIfScaled(QPainter& painter, const QImage& picture) {
-    const bool scaled =
-        picture.devicePixelRatio() > 1 && picture.devicePixelRatio() != painter.device()->devicePixelRatioF();
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, scaled);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, isScaled(painter, picture.devicePixelRatio()));
+}
+
+/// Draws rows that are stored from the bottom up. They are turned over a few at a time, which takes no memory
+/// that is not warm yet: fresh memory for a whole picture costs more time than drawing it.
+void drawBottomUp(QPainter& painter, QPoint topLeft, const QImage& bottomUp, int scale) {
+    constexpr int strip = 32;
+    // Blended strips would show their edges.
+    const int step = isScaled(painter, scale) ? bottomUp.height() : strip;
+    for (int top = 0; top < bottomUp.height(); top += step) {
+        const int rows = std::min(step, bottomUp.height() - top);
+        const QImage part(bottomUp.constScanLine(bottomUp.height() - top - rows), bottomUp.width(), rows,
+                          bottomUp.bytesPerLine(), bottomUp.format());
+        QImage picture = part.mirrored();
+        picture.setDevicePixelRatio(scale);
+        smoothIfScaled(painter, picture);
+        painter.drawImage(topLeft + QPointF(0, static_cast<qreal>(top) / scale), picture);
+    }
 }
 
 /// Rows of `width` pixels of 3 bytes, each rounded up to a multiple of 4 bytes.
@@ -111,13 +132,9 @@ void CDC::SetDIBitsToDevice(int x, int y, const BITMAPINFOHEADER& header, const 
     if (!pixels || !isDrawable(header)) return;
     const QImage bottomUp(pixels, header.biWidth, header.biHeight,
                           static_cast<qsizetype>(dibStride(header.biWidth)), QImage::Format_BGR888);
-    QImage picture = bottomUp.mirrored();
-    picture.setDevicePixelRatio(scale);
-    const QRect area(QPoint(x, y), picture.deviceIndependentSize().toSize());
-    paint(target_.get(), area, [&](QPainter& painter) {
-        smoothIfScaled(painter, picture);
-        painter.drawImage(area.topLeft(), picture);
-    });
+    const QRect area(x, y, header.biWidth / scale, header.biHeight / scale);
+    paint(target_.get(), area,
+          [&](QPainter& painter) { drawBottomUp(painter, area.topLeft(), bottomUp, scale); });
 }
 
 CClientDC::CClientDC(CWnd& window) : CDC(std::make_unique<WindowTarget>(SurfaceWidget::of(window))) {}

@@ -38,7 +38,7 @@ bool CBitmap::CreateDIBitmap(const BITMAPINFOHEADER& header, std::span<const PAL
         }
         bottomUp.setColorTable(table);
     }
-    image_ = std::make_shared<QImage>(bottomUp.mirrored().convertToFormat(QImage::Format_RGB32));
+    image_ = std::make_shared<QImage>(bottomUp.convertToFormat(QImage::Format_RGB32).mirrored());
     image_->setDevicePixelRatio(scale);
     return true;
 }

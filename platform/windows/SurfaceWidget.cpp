@@ -29,7 +29,7 @@ void SurfaceWidget::invalidate(bool erase) {
 void SurfaceWidget::validate() { invalid_ = erase_ = false; }
 
 void SurfaceWidget::deliverPaint() {
-    if (!invalid_ || !owner() || !isVisible() || picture().isNull()) return;
+    if (!invalid_ || !owner() || !isVisible() || surface_.isNull()) return;
     invalid_ = false;
     if (std::exchange(erase_, false)) {
         CClientDC dc(*owner());
@@ -59,7 +59,7 @@ void SurfaceWidget::focusClicked() {
 
 void SurfaceWidget::paintEvent(QPaintEvent*) {
     // The ratio changes when the window comes to another screen.
-    if (!picture().isNull() && picture().devicePixelRatio() != devicePixelRatioF()) fitContent();
+    if (!surface_.isNull() && surface_.ratio() != devicePixelRatioF()) fitContent();
     QPainter(this).drawImage(clientArea().topLeft(), picture());
 }
 

@@ -26,7 +26,7 @@ CBitmap loadPicture(UINT id) {
     CBitmap bitmap;
     const std::optional<BitmapResource> resource = FindBitmapResource(id);
     if (!resource) return bitmap;
-    const std::span<const std::byte> bytes = resource->bytes;
+    const auto bytes = resource->bytes;
     std::uint32_t colours = 0;
     const auto palette = CreatePaletteFromHeader(bytes, colours);
     BITMAPINFOHEADER header;
