@@ -3,6 +3,7 @@
 #include <QPointer>
 #include <QUrl>
 #include <algorithm>
+#include <utility>
 
 #include "platform/automation/BrowserPolicy.h"
 #include "platform/automation/ControlLibrary.h"
@@ -71,13 +72,7 @@ WebBrowserControl::WebBrowserControl(ControlSite& site, QWidget* parent)
     : site_(site),
       view_(std::make_unique<WebView>(parent)),
       printer_(&makeQtChild<PagePrinter>(*view_)),
-      page_(std::make_unique<WebPage>(
-          [this](const QUrl& asking, const QUrl& url) { return passes(asking, url); }, nullptr)) {
-    view_->setPage(page_.get());
-    page_->setCommandHandler(
-        [this](const std::string& component, LPARAM command) { sendCommand(component, command); });
-    plugins_ = std::make_unique<PluginWindows>(*view_, *page_);
-}
+      exposure_(*view_, [this] { page(); }) {}
 
 WebBrowserControl::~WebBrowserControl() = default;
 
@@ -92,7 +87,20 @@ std::optional<Variant> WebBrowserControl::invoke(std::int32_t dispid, InvokeKind
     return dispatch(*this, operationTable, dispid, kind, arguments);
 }
 
+WebPage& WebBrowserControl::page() {
+    if (page_) return *page_;
+    page_ = std::make_unique<WebPage>(
+        [this](const QUrl& asking, const QUrl& url) { return passes(asking, url); }, nullptr);
+    page_->setCommandHandler(
+        [this](const std::string& component, LPARAM command) { sendCommand(component, command); });
+    plugins_ = std::make_unique<PluginWindows>(*view_, *page_);
+    view_->open(*page_);
+    if (!awaited_.isEmpty()) page_->open(std::exchange(awaited_, QUrl()));
+    return *page_;
+}
+
 bool WebBrowserControl::busy() const {
+    if (!page_) return !awaited_.isEmpty();
     return (click_ && click_->pending()) || page_->busy() || plugins_->busy() || printer_->busy() ||
            anyQuestionOpen();
 }
@@ -101,13 +109,18 @@ void WebBrowserControl::navigate(const std::string& address, const Variant& flag
                                  const Variant&, const Variant&) {
     const auto* number = flags.get<std::int32_t>();
     record(TraceNavigate{controlId(), address, number ? *number : 0});
-    page_->navigate(urlOfAddress(address));
+    const QUrl url = normalisedUrl(urlOfAddress(address));
+    if (page_) {
+        page_->navigate(url);
+    } else if (passes(QUrl(), url)) {
+        awaited_ = url;
+    }
 }
 
-void WebBrowserControl::refresh(const Variant&) { page_->reload(); }
+void WebBrowserControl::refresh(const Variant&) { page().reload(); }
 
 std::shared_ptr<Dispatch> WebBrowserControl::document() {
-    return std::make_shared<Document>(*page_, *printer_);
+    return std::make_shared<Document>(page(), *printer_);
 }
 
 bool WebBrowserControl::passes(const QUrl& asking, const QUrl& url) {
@@ -137,34 +150,38 @@ int WebBrowserControl::controlId() const {
     return entry ? entry->id : 0;
 }
 
-std::string WebBrowserControl::url() const { return addressOfUrl(page_->url()); }
+std::string WebBrowserControl::url() const { return page_ ? addressOfUrl(page_->url()) : std::string(); }
 
-std::string WebBrowserControl::title() const { return toText(page_->title()); }
+std::string WebBrowserControl::title() const { return page_ ? toText(page_->title()) : std::string(); }
 
-std::string WebBrowserControl::text() { return toText(textOf(*page_)); }
+std::string WebBrowserControl::text() { return toText(textOf(page())); }
 
-std::string WebBrowserControl::html() { return toText(htmlOf(*page_)); }
+std::string WebBrowserControl::html() { return toText(htmlOf(page())); }
 
 std::optional<CRect> WebBrowserControl::findLink(std::string_view linkText) {
-    return findLinkOf(*page_, linkText);
+    return findLinkOf(page(), linkText);
 }
 
 bool WebBrowserControl::clickLink(std::string_view linkText) {
     const auto link = findLink(linkText);
     if (!link) return false;
     const CPoint middle{(link->left + link->right) / 2, (link->top + link->bottom) / 2};
-    click_ = std::make_unique<LinkClick>(*page_, [this, middle] { view_->click(middle); });
+    click_ = std::make_unique<LinkClick>(page(), [this, middle] { view_->click(middle); });
     return true;
 }
 
 std::vector<CRect> WebBrowserControl::embeddedFrames() {
     std::vector<CRect> places;
-    for (const EmbeddedFrame& frame : embeddedFramesOf(*page_)) places.push_back(frame.place);
+    for (const EmbeddedFrame& frame : embeddedFramesOf(page())) places.push_back(frame.place);
     return places;
 }
 
-void WebBrowserControl::updatePluginWindows() { plugins_->update(); }
+void WebBrowserControl::updatePluginWindows() {
+    if (plugins_) plugins_->update();
+}
 
-std::string WebBrowserControl::pluginPicture(HWND window) { return plugins_->picture(window).toStdString(); }
+std::string WebBrowserControl::pluginPicture(HWND window) {
+    return plugins_ ? plugins_->picture(window).toStdString() : std::string();
+}
 
 }  // namespace platform

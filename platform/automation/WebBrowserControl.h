@@ -1,13 +1,13 @@
 #pragma once
 
+#include <QUrl>
 #include <array>
 #include <memory>
 #include <string>
 
 #include "platform/automation/DispatchMap.h"
+#include "platform/automation/FirstExposure.h"
 #include "platform/automation/WebPageInspector.h"
-
-class QUrl;
 
 namespace platform {
 
@@ -17,7 +17,9 @@ class PluginWindows;
 class WebPage;
 class WebView;
 
-/// The web browser control. Addresses are code page 1253: DOS paths (`D:\a.htm`, `c:/cache/1.htm`) or URLs.
+/// The web browser control. The engine costs as much time as the rest of the program's start: it is set going
+/// once the window can be seen, or when it is needed before. Addresses are code page 1253: DOS paths
+/// (`D:\a.htm`, `c:/cache/1.htm`) or URLs.
 class WebBrowserControl : public Control, public WebPageInspector {
   public:
     /// The control's published class id.
@@ -53,15 +55,19 @@ class WebBrowserControl : public Control, public WebPageInspector {
     std::shared_ptr<Dispatch> document();
 
   private:
+    WebPage& page();
     bool passes(const QUrl& asking, const QUrl& url);
     void sendCommand(const std::string& component, LPARAM command);
     int controlId() const;
 
     ControlSite& site_;
     std::unique_ptr<WebView> view_;
-    PagePrinter* printer_;           // the view's
-    std::unique_ptr<WebPage> page_;  // goes before its view, which does not own it
-    std::unique_ptr<PluginWindows> plugins_;
+    PagePrinter* printer_;  // the view's
+    QUrl awaited_;          // where to go once there is a page
+    // There is none before the engine is needed. It goes before its view, which does not own it.
+    std::unique_ptr<WebPage> page_;
+    std::unique_ptr<PluginWindows> plugins_;  // with the page
+    FirstExposure exposure_;
     std::unique_ptr<LinkClick> click_;  // the last one in the page
 };
 

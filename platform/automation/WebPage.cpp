@@ -43,10 +43,8 @@ WebPage::WebPage(Gate gate, QObject* parent)
     setBackgroundColor(Qt::white);
     arrivalLimit_.setSingleShot(true);
     copyLimit_.setSingleShot(true);
-    firstLoad_.setSingleShot(true);
     copyLimit_.setInterval(copyTime);
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &copyLimit_, &QTimer::stop);
-    connect(&firstLoad_, &QTimer::timeout, this, &WebPage::wake);
     connect(&arrivalLimit_, &QTimer::timeout, this, &WebPage::giveUpWaiting);
     connect(this, &QWebEnginePage::loadFinished, this, &WebPage::finished);
     connect(this, &QWebEnginePage::renderProcessTerminated, this, [this] { loading_ = false; });
@@ -60,20 +58,14 @@ void WebPage::go(const QUrl& asking, const QUrl& url) {
     const QUrl target = normalisedUrl(url);
     const QPointer<WebPage> alive(this);
     const bool passed = gate_(asking, target);
-    if (!alive || !passed) return;
+    if (alive && passed) open(target);
+}
+
+void WebPage::open(const QUrl& url) {
     startLoading();
     tries_ = missedTries;
     toldUnreachable_ = false;
-    target_ = target;
-    if (awake_) {
-        load(target_);
-    } else {
-        firstLoad_.start();
-    }
-}
-
-void WebPage::wake() {
-    awake_ = true;
+    target_ = url;
     load(target_);
 }
 

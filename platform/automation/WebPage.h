@@ -34,6 +34,8 @@ class WebPage : public QWebEnginePage {
 
     /// Asks the gate at once, and goes to the address if it lets it pass.
     void navigate(const QUrl& url);
+    /// Goes to an address that the gate has let pass, in its normalised form.
+    void open(const QUrl& url);
     /// Loads the page again, without asking the gate.
     void reload();
     /// Puts the selection on the clipboard, a moment later.
@@ -53,7 +55,6 @@ class WebPage : public QWebEnginePage {
     void finished(bool arrived);
     void startLoading();
     void settle(bool leadsOn);
-    void wake();
     /// Whether the page on show is not that of the load asked for last: the end of an earlier load may be
     /// told after a later one was asked for.
     bool missed() const;
@@ -61,9 +62,6 @@ class WebPage : public QWebEnginePage {
 
     Gate gate_;
     CommandHandler commandHandler_;
-    // The engine's first load sets so much going that the windows are shown before it.
-    QTimer firstLoad_;
-    bool awake_ = false;
     QTimer arrivalLimit_;  // runs while another page than that on show is expected
     int tries_ = 0;        // how often the load asked for last may still be asked for again
     bool toldUnreachable_ = false;

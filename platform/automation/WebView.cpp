@@ -38,6 +38,20 @@ WebView::WebView(QWidget* parent) : QWebEngineView(parent) {
 // The focus moves once more while the engine's widget goes.
 WebView::~WebView() { disconnect(qApp, nullptr, this, nullptr); }
 
+void WebView::open(QWebEnginePage& page) {
+    open_ = true;
+    setPage(&page);
+}
+
+/// The engine's own view would make itself a page.
+void WebView::showEvent(QShowEvent* event) {
+    open_ ? QWebEngineView::showEvent(event) : QWidget::showEvent(event);
+}
+
+void WebView::hideEvent(QHideEvent* event) {
+    open_ ? QWebEngineView::hideEvent(event) : QWidget::hideEvent(event);
+}
+
 void WebView::watchFocus(QWidget* winner) {
     if (!winner || !isAncestorOf(winner)) return;
     winner->installEventFilter(this);

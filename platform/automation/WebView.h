@@ -15,10 +15,17 @@ class WebView : public QWebEngineView {
     explicit WebView(QWidget* parent);
     ~WebView() override;
 
+    /// Gives it its page. Without one it is an empty white area, and the engine does not run for it.
+    void open(QWebEnginePage& page);
+
     /// Presses and releases the left mouse button at a point of the view, as a person would.
     void click(CPoint point);
 
     bool eventFilter(QObject* engineWidget, QEvent* event) override;
+
+  protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
   private:
     void watchFocus(QWidget* winner);
@@ -27,6 +34,8 @@ class WebView : public QWebEngineView {
     void addZoomKeys();
     void zoomBy(int steps);
     void zoomTo(double factor);
+
+    bool open_ = false;
 };
 
 }  // namespace platform

@@ -39,6 +39,27 @@ TEST_F(BrowserMachine, ShowsAPreparedPageWithItsPicturesAndStyle) {
     EXPECT_EQ(title() + ' ' + text(), "Αρχείο ώς");
 }
 
+TEST_F(BrowserMachine, StartsItsEngineOnceTheWindowIsSeenOrAfterAWhile) {
+    write("D:\\1.htm", "<TITLE>1</TITLE>");
+    write("D:\\2.htm", "<TITLE>2</TITLE>");
+    refuses = [](const std::string& address) { return address == "D:\\3.htm"; };
+    for (const bool shown : {true, false}) {
+        SCOPED_TRACE(shown);
+        asked.clear();
+        makeBrowser();
+        window.setVisible(shown);
+        for (const char* address : {"D:\\1.htm", "D:\\2.htm", "D:\\3.htm"}) navigate(address);
+        EXPECT_EQ(asked, (std::vector<std::string>{"D:\\1.htm", "D:\\2.htm", "D:\\3.htm"}));
+        EXPECT_EQ(input(), nullptr);
+        EXPECT_EQ(url(), "");
+        EXPECT_TRUE(host().control().busy());
+        waitForPage();
+        EXPECT_EQ(title(), "2");
+        EXPECT_EQ(asked.size(), 3U);
+        closeBrowser();
+    }
+}
+
 TEST_F(BrowserMachine, FollowsTheRedirectPageBeforeItIsIdle) {
     write("C:\\Kalyxo\\cache\\redirect.htm",
           "<HTML><HEAD><META HTTP-EQUIV=\"Refresh\" Content=\"0; URL=C:\\Kalyxo\\cache\\1.htm\"></HEAD>"
