@@ -7,7 +7,6 @@
 #include <QPointer>
 #include <QUrlQuery>
 #include <QWebEngineNewWindowRequest>
-#include <QWebEngineScript>
 #include <chrono>
 #include <utility>
 
@@ -20,19 +19,8 @@ namespace platform {
 
 namespace {
 
-/// How long a page that says it leads on to another may take to do so.
-constexpr std::chrono::seconds redirectTime{2};
-/// How long the last of several quick loads may stay away after an earlier one came, before it is asked for
-/// again: the engine may lose a load that begins while it hands over the page of another.
-constexpr std::chrono::milliseconds missedTime{500};
-constexpr int missedTries = 3;
 /// How long a copy may take to arrive.
 constexpr std::chrono::milliseconds copyTime{500};
-
-/// Whether the page refreshes itself within a second.
-constexpr auto leadsOnScript = QLatin1StringView(
-    "[...document.querySelectorAll('meta[http-equiv=refresh i]')]"
-    ".some(m => parseFloat(m.content) < 1 && /url/i.test(m.content))");
 
 bool isOnline(const QUrl& url) { return url.scheme().startsWith(QLatin1StringView("http")); }
 
@@ -41,13 +29,10 @@ bool isOnline(const QUrl& url) { return url.scheme().startsWith(QLatin1StringVie
 WebPage::WebPage(Gate gate, QObject* parent)
     : QWebEnginePage(&browserProfile(), parent), gate_(std::move(gate)) {
     setBackgroundColor(Qt::white);
-    arrivalLimit_.setSingleShot(true);
     copyLimit_.setSingleShot(true);
     copyLimit_.setInterval(copyTime);
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &copyLimit_, &QTimer::stop);
-    connect(&arrivalLimit_, &QTimer::timeout, this, &WebPage::giveUpWaiting);
     connect(this, &QWebEnginePage::loadFinished, this, &WebPage::finished);
-    connect(this, &QWebEnginePage::renderProcessTerminated, this, [this] { loading_ = false; });
     connect(this, &QWebEnginePage::newWindowRequested, this,
             [this](const QWebEngineNewWindowRequest& request) { requestLater(request.requestedUrl()); });
 }
@@ -62,28 +47,14 @@ void WebPage::go(const QUrl& asking, const QUrl& url) {
 }
 
 void WebPage::open(const QUrl& url) {
-    startLoading();
-    tries_ = missedTries;
     toldUnreachable_ = false;
-    target_ = url;
-    load(target_);
-}
-
-void WebPage::reload() {
-    startLoading();
-    triggerAction(Reload);
+    arrival_.load(url);
 }
 
 void WebPage::copySelection() {
     triggerAction(Copy);
     // The engine copies in a process of its own; the clipboard tells when that is done.
     if (hasSelection()) copyLimit_.start();
-}
-
-void WebPage::startLoading() {
-    arrivalLimit_.stop();
-    loading_ = true;
-    load_ = std::make_shared<int>();
 }
 
 bool WebPage::acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) {
@@ -113,45 +84,17 @@ void WebPage::requestLater(const QUrl& url) {
     ++waiting_;
     const auto request = [this, url] {
         --waiting_;
-        arrivalLimit_.stop();
-        loading_ = isLoading();
+        arrival_.interrupt();
         go(this->url(), url);
     };
     QMetaObject::invokeMethod(this, request, Qt::QueuedConnection);
 }
 
 void WebPage::finished(bool arrived) {
-    if (!arrived && isOnline(target_) && !std::exchange(toldUnreachable_, true)) {
-        setHtml(unreachablePage(target_), target_);
-        return;
-    }
-    runJavaScript(leadsOnScript, QWebEngineScript::ApplicationWorld,
-                  [this, load = std::weak_ptr(load_)](const QVariant& leadsOn) {
-                      if (!load.expired()) settle(leadsOn.toBool());
-                  });
-}
-
-void WebPage::settle(bool leadsOn) {
-    if (isLoading()) return;
-    if (missed()) {
-        arrivalLimit_.start(missedTime);
-    } else if (leadsOn) {
-        arrivalLimit_.start(redirectTime);
+    if (!arrived && isOnline(arrival_.target()) && !std::exchange(toldUnreachable_, true)) {
+        setHtml(unreachablePage(arrival_.target()), arrival_.target());
     } else {
-        arrivalLimit_.stop();
-        loading_ = false;
-    }
-}
-
-bool WebPage::missed() const { return !target_.isEmpty() && normalisedUrl(url()) != target_; }
-
-void WebPage::giveUpWaiting() {
-    if (missed() && tries_ > 0) {
-        --tries_;
-        load(target_);
-        arrivalLimit_.start(missedTime);
-    } else {
-        loading_ = false;
+        arrival_.look();
     }
 }
 

@@ -4,10 +4,10 @@
 #include <QUrl>
 #include <QWebEnginePage>
 #include <functional>
-#include <memory>
 #include <string>
 #include <utility>
 
+#include "platform/automation/PageArrival.h"
 #include "platform/windows/Messages.h"
 
 namespace platform {
@@ -37,13 +37,13 @@ class WebPage : public QWebEnginePage {
     /// Goes to an address that the gate has let pass, in its normalised form.
     void open(const QUrl& url);
     /// Loads the page again, without asking the gate.
-    void reload();
+    void reload() { arrival_.reload(); }
     /// Puts the selection on the clipboard, a moment later.
     void copySelection();
 
     /// Whether a navigation waits, a page is being loaded or the selection copied; a page that leads on to
     /// another at once counts as loading until that other one has come.
-    bool busy() const { return waiting_ > 0 || copyLimit_.isActive() || loading_; }
+    bool busy() const { return waiting_ > 0 || copyLimit_.isActive() || arrival_.pending(); }
 
   protected:
     bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) override;
@@ -53,25 +53,13 @@ class WebPage : public QWebEnginePage {
     bool isCommand(const QUrl& url);
     void go(const QUrl& asking, const QUrl& url);
     void finished(bool arrived);
-    void startLoading();
-    void settle(bool leadsOn);
-    /// Whether the page on show is not that of the load asked for last: the end of an earlier load may be
-    /// told after a later one was asked for.
-    bool missed() const;
-    void giveUpWaiting();
 
     Gate gate_;
     CommandHandler commandHandler_;
-    QTimer arrivalLimit_;  // runs while another page than that on show is expected
-    int tries_ = 0;        // how often the load asked for last may still be asked for again
+    PageArrival arrival_{*this};
     bool toldUnreachable_ = false;
     QTimer copyLimit_;  // runs while the engine copies
     int waiting_ = 0;   // navigations asked for by the page and not yet put to the gate
-    // A new one for each load: the engine's answers about an earlier page, or to a page that has gone since,
-    // are told from it.
-    std::shared_ptr<int> load_ = std::make_shared<int>();
-    QUrl target_;  // of the load asked for last
-    bool loading_ = false;
 };
 
 }  // namespace platform

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QObject>
+#include <QTimer>
+#include <QUrl>
+#include <memory>
+
+class QWebEnginePage;
+
+namespace platform {
+
+/// Waits until the page that was asked for last is on show: a page that leads on to another at once is not
+/// the one waited for, and a load that the engine lost is asked for again.
+class PageArrival : public QObject {
+  public:
+    explicit PageArrival(QWebEnginePage& page);
+
+    /// Loads an address, in its normalised form, and waits for its page.
+    void load(const QUrl& target);
+    /// Loads the page on show again.
+    void reload();
+    /// The page has asked to go elsewhere: what may come of that is not known yet.
+    void interrupt();
+
+    bool pending() const { return pending_; }
+    /// The address loaded last.
+    const QUrl& target() const { return target_; }
+
+    /// The engine's load has ended: looks whether the page is the one.
+    void look();
+
+  private:
+    void begin();
+    void settle(bool leadsOn);
+    /// Whether the page on show is not that of the load asked for last: the end of an earlier load may be
+    /// told after a later one was asked for.
+    bool missed() const;
+    void giveUp();
+
+    QWebEnginePage& page_;
+    QUrl target_;
+    bool pending_ = false;
+    QTimer limit_;   // runs while another page than that on show is expected
+    int tries_ = 0;  // how often the load may still be asked for again
+    // A new one for each load: the engine's answers about an earlier page, or to a page that has gone since,
+    // are told from it.
+    std::shared_ptr<int> load_ = std::make_shared<int>();
+};
+
+}  // namespace platform
