@@ -16,6 +16,8 @@ constexpr std::chrono::seconds redirectTime{2};
 /// again: the engine may lose a load that begins while it hands over the page of another.
 constexpr std::chrono::milliseconds missedTime{500};
 constexpr int missedTries = 3;
+/// How long a page out of sight may take.
+constexpr std::chrono::seconds unseenTime{2};
 
 /// Whether the page refreshes itself within a second.
 constexpr auto leadsOnScript = QLatin1StringView(
@@ -45,7 +47,13 @@ void PageArrival::reload() {
 void PageArrival::begin() {
     limit_.stop();
     pending_ = true;
+    begun_.start();
     load_ = std::make_shared<int>();
+}
+
+bool PageArrival::pending() const {
+    return pending_ &&
+           (page_.isVisible() || !begun_.hasExpired(std::chrono::milliseconds(unseenTime).count()));
 }
 
 void PageArrival::interrupt() {

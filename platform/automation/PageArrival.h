@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
 #include <QUrl>
@@ -22,7 +23,9 @@ class PageArrival : public QObject {
     /// The page has asked to go elsewhere: what may come of that is not known yet.
     void interrupt();
 
-    bool pending() const { return pending_; }
+    /// Whether it still waits. A page out of sight is not waited for to its end: the engine keeps the parts
+    /// of it that need drawing, such as films, until it can be seen.
+    bool pending() const;
     /// The address loaded last.
     const QUrl& target() const { return target_; }
 
@@ -40,6 +43,7 @@ class PageArrival : public QObject {
     QWebEnginePage& page_;
     QUrl target_;
     bool pending_ = false;
+    QElapsedTimer begun_;
     QTimer limit_;   // runs while another page than that on show is expected
     int tries_ = 0;  // how often the load may still be asked for again
     // A new one for each load: the engine's answers about an earlier page, or to a page that has gone since,
