@@ -67,6 +67,7 @@ ChildProcess::ChildProcess(const std::vector<std::string>& arguments) {
         posix_spawn_file_actions_addclose(&actions, end);
     }
     std::vector<char*> argv;
+    argv.reserve(arguments.size() + 1);
     for (const std::string& argument : arguments) argv.push_back(const_cast<char*>(argument.c_str()));
     argv.push_back(nullptr);
     if (::posix_spawn(&m_pid, argv[0], &actions, nullptr, argv.data(), environ) != 0) m_pid = -1;

@@ -19,7 +19,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int kPages = 2000;
-constexpr std::size_t kPageBytes = 8 * 1024;
+constexpr std::size_t kPageBytes = 8 * std::size_t{1024};
 
 /// A page as the content has them: markup, text, and here and there a marker.
 std::string makePage() {
@@ -61,7 +61,7 @@ class Pages {
 };
 
 void copyPlainly(const fs::path& from, const fs::path& to) {
-    std::array<char, 32 * 1024> buffer;
+    std::array<char, 32 * std::size_t{1024}> buffer;
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> in(std::fopen(from.c_str(), "rb"), &std::fclose);
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> out(std::fopen(to.c_str(), "wb"), &std::fclose);
     std::size_t count = 0;

@@ -74,6 +74,7 @@ class IndexFolder {
 
     void writeAlternatives() const {
         std::vector<formats::AlternativeRecord> records;
+        records.reserve(kForms);
         for (std::int32_t i = 0; i < kForms; ++i) records.push_back({1, formOf(i)});
         write("words.alt", *formats::encodeAlternatives(records));
     }

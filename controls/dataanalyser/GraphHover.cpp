@@ -24,7 +24,7 @@ QSizeF sizeOf(const QStringList& lines) {
     for (qsizetype i = 0; i < lines.size(); ++i) {
         widest = std::max(widest, QFontMetrics(fontOf(i)).horizontalAdvance(lines[i]));
     }
-    return QSizeF(widest + 2 * padding, static_cast<double>(lines.size()) * linePixels + 2 * padding - 4);
+    return {widest + 2.0 * padding, static_cast<double>(lines.size()) * linePixels + 2 * padding - 4};
 }
 
 }  // namespace

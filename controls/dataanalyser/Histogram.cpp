@@ -30,9 +30,10 @@ std::vector<HistogramBin> histogram(std::span<const double> values, bool logarit
     const double first = std::floor(scaled(least) / width + 1e-9);
     const double last = std::max(std::ceil(scaled(most) / width - 1e-9), first + 1);
     std::vector<HistogramBin> bins;
-    for (double at = first; at < last - 0.5; ++at) {
-        const double from = at * width;
-        const double to = (at + 1) * width;
+    const auto count = static_cast<int>(std::lround(last - first));
+    for (int i = 0; i < count; ++i) {
+        const double from = (first + i) * width;
+        const double to = (first + i + 1) * width;
         bins.push_back({logarithmic ? std::pow(10, from) : from, logarithmic ? std::pow(10, to) : to, 0});
     }
     for (const double value : values) {

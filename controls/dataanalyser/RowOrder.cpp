@@ -15,10 +15,10 @@ template <class Key, class IsKnown>
 void sortByKeys(std::vector<int>& rows, const std::vector<Key>& keys, bool descending,
                 const IsKnown& isKnown) {
     const auto keyOf = [&keys](int row) -> const Key& { return keys[static_cast<std::size_t>(row)]; };
-    const auto unknown = std::ranges::stable_partition(rows, [&](int row) { return isKnown(keyOf(row)); });
-    const auto known = std::ranges::subrange(rows.begin(), unknown.begin());
-    std::ranges::stable_sort(
-        known, [&](int a, int b) { return descending ? keyOf(b) < keyOf(a) : keyOf(a) < keyOf(b); });
+    const auto unknown =
+        std::stable_partition(rows.begin(), rows.end(), [&](int row) { return isKnown(keyOf(row)); });
+    std::stable_sort(rows.begin(), unknown,
+                     [&](int a, int b) { return descending ? keyOf(b) < keyOf(a) : keyOf(a) < keyOf(b); });
 }
 
 }  // namespace

@@ -12,11 +12,11 @@ QChar raised(QChar c) {
     if (c == u'+') return QChar(0x207A);
     if (c == u'-') return QChar(0x207B);
     if (c == u'1') return QChar(0xB9);
-    if (c == u'2' || c == u'3') return QChar(static_cast<char16_t>(0xB2 + c.digitValue() - 2));
+    if (c == u'2' || c == u'3') return {static_cast<char16_t>(0xB2 + c.digitValue() - 2)};
     return c.isDigit() ? QChar(static_cast<char16_t>(0x2070 + c.digitValue())) : c;
 }
 
-QChar lowered(QChar digit) { return QChar(static_cast<char16_t>(0x2080 + digit.digitValue())); }
+QChar lowered(QChar digit) { return {static_cast<char16_t>(0x2080 + digit.digitValue())}; }
 
 }  // namespace
 

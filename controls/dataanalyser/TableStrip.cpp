@@ -21,7 +21,7 @@ constexpr int roomForTitle = 960;
 constexpr int roomForCount = 780;
 
 QString countText(std::size_t rows, std::size_t selected) {
-    const QString listed = rows == 1 ? QStringLiteral("1 γραμμή") : QStringLiteral("%1 γραμμές").arg(rows);
+    QString listed = rows == 1 ? QStringLiteral("1 γραμμή") : QStringLiteral("%1 γραμμές").arg(rows);
     if (selected == 0) return listed;
     const QString chosen =
         selected == 1 ? QStringLiteral("1 επιλεγμένη") : QStringLiteral("%1 επιλεγμένες").arg(selected);

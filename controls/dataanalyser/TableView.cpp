@@ -124,7 +124,7 @@ std::vector<std::int16_t> TableView::selectedIds() const {
         }
     }
     std::ranges::sort(ids);
-    ids.erase(std::ranges::unique(ids).begin(), ids.end());
+    ids.erase(std::unique(ids.begin(), ids.end()), ids.end());
     return ids;
 }
 

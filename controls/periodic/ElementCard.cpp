@@ -160,6 +160,7 @@ std::vector<Fact> factsOf(const Element& element, const TableState& state) {
                               [&](Quantity each) { return each == *first; });
     }
     std::vector<Fact> facts;
+    facts.reserve(quantities.size() + 1);
     for (const Quantity quantity : quantities) {
         facts.push_back({factName(element, quantity), valueWithUnit(element, quantity)});
     }

@@ -20,7 +20,7 @@ QString withPower(double value) {
     // A little more, as 0,001 is stored as less than that.
     const int power = static_cast<int>(std::floor(std::log10(value) + 1e-10));
     const double factor = value / std::pow(10, power);
-    const QString raised =
+    QString raised =
         QStringLiteral("10^%1%2^").arg(power < 0 ? QStringLiteral("−") : QString()).arg(std::abs(power));
     if (std::abs(factor - 1) < 1e-6) return raised;
     return withComma(QString::number(factor, 'g', 3)) + QStringLiteral("·") + raised;

@@ -20,7 +20,7 @@ constexpr int swatchGap = 6;
 constexpr int tickHeight = 4;
 
 QString kindText(const TableState& state, int kind) {
-    const QString name = toQt(kindName(state.view, kind));
+    QString name = toQt(kindName(state.view, kind));
     if (state.view == TableView::families) return name;
     const auto count = std::ranges::count_if(elements(), [&](const Element& element) {
         return kindOf(element, state.view, state.kelvin) == kind;

@@ -1,13 +1,13 @@
 #include "platform/automation/ProcessStream.h"
 
 #include <fcntl.h>
-#include <signal.h>
 #include <sys/prctl.h>
 #include <unistd.h>
 
 #include <QMetaObject>
 #include <array>
 #include <cerrno>
+#include <csignal>
 
 namespace platform {
 

@@ -43,7 +43,7 @@ void WebView::open(QWebEnginePage& page) {
     setPage(&page);
 }
 
-/// The engine's own view would make itself a page.
+// NOLINTBEGIN(bugprone-parent-virtual-call): the engine's own view would make itself a page.
 void WebView::showEvent(QShowEvent* event) {
     open_ ? QWebEngineView::showEvent(event) : QWidget::showEvent(event);
 }
@@ -51,6 +51,7 @@ void WebView::showEvent(QShowEvent* event) {
 void WebView::hideEvent(QHideEvent* event) {
     open_ ? QWebEngineView::hideEvent(event) : QWidget::hideEvent(event);
 }
+// NOLINTEND(bugprone-parent-virtual-call)
 
 void WebView::watchFocus(QWidget* winner) {
     if (!winner || !isAncestorOf(winner)) return;

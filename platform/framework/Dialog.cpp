@@ -3,6 +3,7 @@
 #include <QPointer>
 #include <algorithm>
 
+#include "platform/automation/QtChild.h"
 #include "platform/framework/DataExchange.h"
 #include "platform/framework/DialogControls.h"
 #include "platform/framework/DialogWidget.h"
@@ -48,9 +49,9 @@ int CDialog::DoModal() {
     m_nResult = IDCANCEL;
     m_bModeless = false;
     const QPointer<QWidget> owner = ownerWindow();
-    auto* const widget = new DialogWidget(*this, *drawnUp, owner);
-    if (OnInitDialog()) widget->focusFirstControl();
-    widget->runModal();
+    auto& widget = makeQtChild<DialogWidget>(*this, *drawnUp, owner.data());
+    if (OnInitDialog()) widget.focusFirstControl();
+    widget.runModal();
     DestroyWindow();
     if (owner) owner->activateWindow();
     return m_nResult;
@@ -61,13 +62,13 @@ bool CDialog::Create(CWnd* owner) {
     if (!drawnUp || GetSafeHwnd() != 0) return false;
     m_bModeless = true;
     const WindowWidget* const around = owner ? WindowWidget::of(*owner) : nullptr;
-    auto* const widget = new DialogWidget(*this, *drawnUp, around ? around->window() : nullptr);
+    auto& widget = makeQtChild<DialogWidget>(*this, *drawnUp, around ? around->window() : nullptr);
     CREATESTRUCT cs;
-    if (widget->send(WM_CREATE, 0, reinterpret_cast<LPARAM>(&cs)) == -1) {
+    if (widget.send(WM_CREATE, 0, reinterpret_cast<LPARAM>(&cs)) == -1) {
         DestroyWindow();
         return false;
     }
-    if (OnInitDialog()) widget->focusFirstControl();
+    if (OnInitDialog()) widget.focusFirstControl();
     return true;
 }
 

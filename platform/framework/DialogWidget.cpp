@@ -71,7 +71,7 @@ void DialogWidget::centre() {
     const QRect around = parentWidget() ? parentWidget()->frameGeometry() : screen()->availableGeometry();
     QRect outer = rect().marginsAdded(windowFrame());
     outer.moveCenter(around.center());
-    place(outer);
+    DialogWidget::place(outer);
 }
 
 QRect DialogWidget::outerRect() const {

@@ -1,7 +1,9 @@
 #include "platform/framework/FrameWnd.h"
 
 #include <algorithm>
+#include <memory>
 
+#include "platform/automation/QtChild.h"
 #include "platform/framework/Document.h"
 #include "platform/framework/FrameWidget.h"
 #include "platform/framework/Resources.h"
@@ -48,7 +50,7 @@ bool CFrameWnd::LoadFrame(const CRuntimeClass& viewClass, CDocument& document) {
     if (GetSafeHwnd() != 0 || !PreCreateWindow(cs)) return false;
     m_viewClass = &viewClass;
     m_document = &document;
-    auto* const widget = new FrameWidget(*this);
+    auto* const widget = std::make_unique<FrameWidget>(*this).release();  // goes when it is closed
     SetWindowText(LoadString(AFX_IDS_APP_TITLE));
     if (!cs.defaultPlacement) widget->place(placeOf(cs));
     if (SendMessage(WM_CREATE, 0, reinterpret_cast<LPARAM>(&cs)) != -1) return true;
@@ -78,9 +80,9 @@ int CFrameWnd::OnCreate(CREATESTRUCT&) {
     m_view.reset(static_cast<CView*>(made.release()));
     m_view->m_pDocument = m_document;
     const QSize client = WindowWidget::of(*this)->clientArea().size();
-    auto* const widget = new SurfaceWidget(*m_view, WindowWidget::of(*this), AFX_IDW_PANE_FIRST);
-    widget->takeFocusOnClick();
-    return widget->create({WS_CHILD | WS_VISIBLE, 0, 0, client.width(), client.height(), false}) ? 0 : -1;
+    auto& widget = makeQtChild<SurfaceWidget>(*m_view, WindowWidget::of(*this), AFX_IDW_PANE_FIRST);
+    widget.takeFocusOnClick();
+    return widget.create({WS_CHILD | WS_VISIBLE, 0, 0, client.width(), client.height(), false}) ? 0 : -1;
 }
 
 void CFrameWnd::OnSize(UINT type, int width, int height) {

@@ -1,6 +1,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <memory>
 #include <vector>
 
 #include "platform/framework/LightPalette.h"
@@ -36,25 +37,29 @@ QString buttonText(BoxAnswer answer) {
 BoxAnswer show(std::string_view text, std::string_view caption, const std::vector<BoxAnswer>& buttons,
                BoxIcon icon) {
     // On the heap: the window it belongs to may go while the box is up.
-    QPointer<QMessageBox> box = new QMessageBox(ownerWindow());
+    auto box = std::make_unique<QMessageBox>(ownerWindow());
+    const QPointer<QMessageBox> alive = box.get();
     box->setPalette(lightPalette());
     box->setWindowTitle(toQt(caption));
     if (icon == BoxIcon::question) box->setIcon(QMessageBox::Question);
     box->setTextFormat(Qt::PlainText);
     box->setText(toQt(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
     std::vector<QAbstractButton*> widgets;
+    widgets.reserve(buttons.size());
     for (const BoxAnswer answer : buttons) {
         widgets.push_back(box->addButton(buttonText(answer), QMessageBox::AcceptRole));
     }
     box->setDefaultButton(static_cast<QPushButton*>(widgets.front()));
     box->setEscapeButton(widgets.back());
     box->exec();
-    if (!box) return buttons.back();
+    if (!alive) {
+        (void)box.release();
+        return buttons.back();
+    }
     BoxAnswer answer = buttons.back();
     for (std::size_t i = 0; i < buttons.size(); ++i) {
         if (widgets[i] == box->clickedButton()) answer = buttons[i];
     }
-    delete box;
     return answer;
 }
 

@@ -66,6 +66,7 @@ std::unique_ptr<QPrinter> choosePrinter(QWidget& chooser) {
     return dialog.exec() == QDialog::Accepted ? std::move(printer) : nullptr;
 }
 
+// NOLINTBEGIN(cppcoreguidelines-owning-memory): make_unique has no way to the private constructor
 std::unique_ptr<PrintJob> PrintJob::begin(std::string_view name, QWidget* chooser) {
     if (!hasPrinter()) return nullptr;
     std::unique_ptr<PrintJob> job;
@@ -81,10 +82,11 @@ std::unique_ptr<PrintJob> PrintJob::begin(std::string_view name, QWidget* choose
     }
     return job->painter_.isActive() ? std::move(job) : nullptr;
 }
+// NOLINTEND(cppcoreguidelines-owning-memory)
 
-PrintJob::PrintJob(std::string name, std::string file, const PrinterConfig& page,
+PrintJob::PrintJob(std::string name, std::string file, PrinterConfig page,
                    std::unique_ptr<QPagedPaintDevice> device)
-    : name_(std::move(name)), file_(std::move(file)), page_(page), device_(std::move(device)) {
+    : name_(std::move(name)), file_(std::move(file)), page_(std::move(page)), device_(std::move(device)) {
     painter_.begin(device_.get());
     painter_.setRenderHint(QPainter::LosslessImageRendering);
 }

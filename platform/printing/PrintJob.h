@@ -36,7 +36,7 @@ class PrintJob {
     const PrinterConfig& page() const { return page_; }
 
   private:
-    PrintJob(std::string name, std::string file, const PrinterConfig& page,
+    PrintJob(std::string name, std::string file, PrinterConfig page,
              std::unique_ptr<QPagedPaintDevice> device);
 
     std::string name_;
