@@ -11,14 +11,14 @@ const behind = 30;      // and behind it
 // The engine lets requests for the same address wait for each other, and a page may show a video twice.
 const frameOfPage = 'plugin=' + new URLSearchParams(location.search).get('plugin');
 
+const kindsIn = description => (description.streams ?? []).map(stream => stream.codec_type);
+
 class ConvertedVideo {
   constructor(video, description, fail) {
     this.video = video;
     this.fail = fail;
     this.duration = Number(description.format?.duration);
-    const kinds = (description.streams ?? []).map(stream => stream.codec_type);
-    if (!kinds.includes('video')) return fail();
-    this.type = kinds.includes('audio') ? 'video/webm; codecs="vp8,opus"' : 'video/webm; codecs="vp8"';
+    this.type = kindsIn(description).includes('audio') ? 'video/webm; codecs="vp8,opus"' : 'video/webm; codecs="vp8"';
     this.media = new MediaSource();
     this.media.addEventListener('sourceopen', () => this.opened(), { once: true });
     video.src = URL.createObjectURL(this.media);
@@ -96,15 +96,16 @@ class ConvertedVideo {
   }
 }
 
-/// Plays the file of this frame in the video element; calls `fail` when there is no video in it, with a text of its own
-/// when there is no file.
-function playConverted(video, fail) {
+/// Plays the file of this frame in the video element; calls `fail` when it cannot be played, with a text of its own
+/// when there is no file, and `noPictures` when there is no video in it.
+function playConverted(video, fail, noPictures = fail) {
   const request = new XMLHttpRequest();
   request.open('GET', location.pathname + '?describe&' + frameOfPage);
   request.onerror = () => fail('Το βίντεο δεν βρέθηκε.');
   request.onload = () => {
     let description;
     try { description = JSON.parse(request.responseText); } catch { return fail(); }
+    if (!kindsIn(description).includes('video')) return noPictures();
     new ConvertedVideo(video, description, fail);
   };
   request.send();

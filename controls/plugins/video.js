@@ -95,12 +95,31 @@ for (const change of ['timeupdate', 'seeked', 'durationchange']) video.addEventL
 for (const change of ['loadedmetadata', 'resize']) video.addEventListener(change, fit);
 addEventListener('resize', fit);
 
+// ---- the file ----
+
+/// Lets the engine play it, and has it converted, once, when the engine cannot: a name does not tell what is in the
+/// file.
+function playOrConvert() {
+  const trial = new AbortController();
+  const { signal } = trial;
+  const convert = noPictures => {
+    trial.abort();
+    playConverted(video, fail, noPictures);
+  };
+  video.addEventListener('error', () => convert(fail), { signal });
+  video.addEventListener('loadedmetadata', () => {
+    if (video.videoWidth > 0) return;
+    // The engine tells no error when it reads the sound alone. What does not begin to play waits for its pictures.
+    video.pause();
+    convert(() => { if (video.autoplay) video.play().catch(showState); });
+  }, { signal });
+  video.src = location.pathname + '?raw';
+}
+
 video.loop = isOn('loop');
 video.autoplay = isOn('autoplay');
 if (playable.test(location.pathname)) {
-  // What the engine does not play after all may be another kind of file than its name says.
-  video.addEventListener('error', () => playConverted(video, fail), { once: true });
-  video.src = location.pathname + '?raw';
+  playOrConvert();
 } else {
   playConverted(video, fail);
 }

@@ -45,6 +45,13 @@ TEST_F(ConvertedVideo, PlaysOldKindsOfFile) {
     }
 }
 
+// The engine reads the sound of such a file, and gives no error.
+TEST_F(ConvertedVideo, ShowsPicturesWhereTheEngineWouldPlaySoundAlone) {
+    openFilm("part2.mp4", "AUTOPLAY=TRUE");
+    EXPECT_TRUE(runUntil([&] { return text() == "0:01"; })) << text();
+    EXPECT_TRUE(showsFilm());
+}
+
 TEST_F(ConvertedVideo, WaitsGoesOnFromAnyPlaceAndEnds) {
     openFilm("cinepak.avi", "");
     EXPECT_TRUE(runUntil([&] { return showsFilm(); })) << "the first picture";

@@ -13,7 +13,7 @@ int main(int argc, char** argv) {
     auto& types = platform::PluginTypes::instance();
     for (const char* molecule : {"mol", "sdf", "xyz", "pdb", "cml"})
         types.add(molecule, ":/plugins/molecule.html");
-    for (const char* video : {"webm", "avi", "mov", "mpg"}) types.add(video, ":/plugins/video.html");
+    for (const char* video : {"webm", "mp4", "avi", "mov", "mpg"}) types.add(video, ":/plugins/video.html");
     const QApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }
