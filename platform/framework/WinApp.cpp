@@ -9,11 +9,14 @@
 #include "platform/framework/View.h"
 #include "platform/handles/WindowTable.h"
 #include "platform/machine/Machine.h"
+#include "platform/text/GreekLiteral.h"
 #include "platform/windows/ControlContainer.h"
 #include "platform/windows/MessageFilter.h"
 #include "platform/windows/WindowWidget.h"
 
 namespace platform {
+
+using namespace literals;
 
 namespace {
 
@@ -70,13 +73,17 @@ void CWinApp::AddDocTemplate(std::unique_ptr<CSingleDocTemplate> documentTemplat
     m_template = std::move(documentTemplate);
 }
 
-bool CWinApp::ProcessShellCommand() { return m_template && m_template->OpenNewDocument(); }
+bool CWinApp::ProcessShellCommand() {
+    if (m_template && m_template->OpenNewDocument()) return true;
+    AfxMessageBox("Δεν είναι δυνατή η δημιουργία νέου εγγράφου."_gr);
+    return false;
+}
 
 CFrameWnd* CWinApp::GetMainWnd() const {
     CFrameWnd* const frame = m_template ? m_template->GetFrame() : nullptr;
     return frame && frame->GetSafeHwnd() != 0 ? frame : nullptr;
 }
 
-bool AfxOleInit() { return hasMachine(); }
+bool AfxOleInit() { return machine().config().automation; }
 
 }  // namespace platform

@@ -32,7 +32,7 @@ class CWinApp : public CCmdTarget {
     virtual bool PreTranslateMessage(const MSG& message);
 
     void AddDocTemplate(std::unique_ptr<CSingleDocTemplate> documentTemplate);
-    /// Opens the new, empty document of the one template.
+    /// Opens the new, empty document of the one template; false, and the user is told, when that fails.
     bool ProcessShellCommand();
     /// The main frame, null before its window is made and after it is gone.
     CFrameWnd* GetMainWnd() const;

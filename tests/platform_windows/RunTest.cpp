@@ -4,11 +4,13 @@
 #include <QTimer>
 
 #include "platform/handles/WindowTable.h"
+#include "platform/text/GreekLiteral.h"
 #include "tests/platform_windows/TestProgram.h"
 
 namespace windows_test {
 
 using namespace platform;
+using namespace platform::literals;
 
 namespace {
 
@@ -24,6 +26,27 @@ TEST_F(RunTest, RunsUntilTheFrameIsClosed) {
     EXPECT_TRUE(shown);
     EXPECT_TRUE(WindowTable::instance().all().empty());
     EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty());
+}
+
+TEST_F(RunTest, TellsThatTheDocumentCannotBeOpened) {
+    static constexpr CRuntimeClass unmakable{"Unmakable"};
+    const struct {
+        const CRuntimeClass& document;
+        const CRuntimeClass& frame;
+        const CRuntimeClass& view;
+    } cases[] = {{unmakable, TestFrame::runtimeClass, TestView::runtimeClass},
+                 {TestDocument::runtimeClass, unmakable, TestView::runtimeClass},
+                 {TestDocument::runtimeClass, TestFrame::runtimeClass, unmakable},
+                 {TestDocument::runtimeClass, TestFrame::runtimeClass, TestDocument::runtimeClass}};
+    machine_.trace().enable();
+    for (const auto& row : cases) {
+        app().AddDocTemplate(std::make_unique<CSingleDocTemplate>(row.document, row.frame, row.view));
+        EXPECT_EQ(RunProgram(app()), 7);
+        const auto done = machine_.trace().take();
+        ASSERT_EQ(done.size(), 1U);
+        EXPECT_EQ(std::get<TraceBox>(done[0]).text, "Δεν είναι δυνατή η δημιουργία νέου εγγράφου."_gr);
+        EXPECT_TRUE(WindowTable::instance().all().empty());
+    }
 }
 
 TEST_F(RunTest, BecomesIdle) {
