@@ -4,6 +4,8 @@
 
 #include <QByteArray>
 #include <QCoreApplication>
+#include <QFileInfo>
+#include <QLibraryInfo>
 #include <QLoggingCategory>
 #include <QWebEngineUrlScheme>
 #include <algorithm>
@@ -71,6 +73,14 @@ void prepareProcess() {
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     // The engine lists its graphics set-up at every start without a screen.
     QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext*=false"));
+}
+
+bool engineIsInstalled() {
+    const QString given = qEnvironmentVariable("QTWEBENGINEPROCESS_PATH");
+    if (!given.isEmpty()) return QFileInfo::exists(given);
+    const QString name = QStringLiteral("/QtWebEngineProcess");
+    return QFileInfo::exists(QLibraryInfo::path(QLibraryInfo::LibraryExecutablesPath) + name) ||
+           QFileInfo::exists(QCoreApplication::applicationDirPath() + name);
 }
 
 void letEngineFind(const std::vector<std::string>& hosts) {

@@ -7,6 +7,7 @@
 #include <QWidget>
 #include <utility>
 
+#include "platform/automation/BrowserProcess.h"
 #include "platform/automation/ControlLibrary.h"
 #include "platform/automation/QtChild.h"
 #include "platform/automation/WebBrowserControl.h"
@@ -39,7 +40,7 @@ class Filling : public QObject {
 
 std::unique_ptr<Control> makeControl(std::string_view classId, ControlSite& site, QWidget* container) {
     if (equalsNoCase(classId, WebBrowserControl::classId)) {
-        return std::make_unique<WebBrowserControl>(site, container);
+        return engineIsInstalled() ? std::make_unique<WebBrowserControl>(site, container) : nullptr;
     }
     const ControlModule* module = loadRegisteredClass(classId);
     return module ? module->create(site, container) : nullptr;

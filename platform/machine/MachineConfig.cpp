@@ -77,6 +77,13 @@ class FieldReader {
         target = std::move(*text);
     }
 
+    void readTruth(const Json& object, const char* key, bool& target) {
+        const Json* value = field(object, key);
+        if (!value) return;
+        if (!value->is_boolean()) return fail(std::string(key) + " must be true or false");
+        target = value->get<bool>();
+    }
+
   private:
     std::string problem_;
 };
@@ -183,6 +190,7 @@ MachineConfig readConfig(FieldReader& reader, const Json& root) {
     reader.readText(root, "system", config.system);
     readPrinter(reader, root, config);
     readSites(reader, root, config.sites);
+    reader.readTruth(root, "automation", config.automation);
     if (const Json* slow = FieldReader::field(root, "msPerStep")) {
         reader.readInteger(*slow, "msPerStep", 0, std::numeric_limits<int>::max(), config.msPerStep);
     }
@@ -213,6 +221,7 @@ Json toJson(const MachineConfig& config) {
     root["temp"] = toUtf8(config.temp);
     root["system"] = toUtf8(config.system);
     root["sites"] = {{"product", config.sites.product}, {"maker", config.sites.maker}};
+    if (!config.automation) root["automation"] = false;
     if (config.msPerStep != 0) root["msPerStep"] = config.msPerStep;
     root["printer"] = nullptr;
     if (const auto& printer = config.printer) {

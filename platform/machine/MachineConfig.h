@@ -63,7 +63,8 @@ struct MachineConfig {
     std::string system = "C:\\Windows\\System";
     std::optional<PrinterConfig> printer;
     SitesConfig sites;
-    int msPerStep = 0;  ///< what each look at the clock takes with virtual time, to try out what is slow
+    bool automation = true;  ///< whether programs can host components
+    int msPerStep = 0;       ///< what each look at the clock takes with virtual time, to try out what is slow
 
     bool operator==(const MachineConfig&) const = default;
 };

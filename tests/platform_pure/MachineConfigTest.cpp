@@ -41,6 +41,7 @@ TEST(MachineConfig, WhatIsSavedIsLoaded) {
     config.temp = "";
     config.system = "C:\\";
     config.printer = PrinterConfig{1, 2, 3};
+    config.automation = false;
     for (const auto& saved : {config, MachineConfig()}) {
         ASSERT_TRUE(saveMachineConfig(saved, folder / "machine.json"));
         const auto loaded = loadMachineConfig(folder / "machine.json");
@@ -76,6 +77,7 @@ TEST(MachineConfig, WhatIsWrongIsToldByName) {
         {R"({"temp": "日"})", "m.json: temp has a character outside"},
         {R"({"system": null})", "m.json: system must be a text"},
         {R"({"printer": {"horzres": -1}})", "m.json: printer.horzres must be"},
+        {R"({"automation": "no"})", "m.json: automation must be true or false"},
         {R"({"printer": true})", "m.json: printer must be an object"},
     };
     for (const auto& [json, expected] : cases) {

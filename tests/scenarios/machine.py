@@ -1,6 +1,7 @@
 """The machine that a scenario runs on: its changes before the program starts, and checks of its files."""
 
 import json
+import os
 import re
 import shutil
 import struct
@@ -21,7 +22,7 @@ class Machine:
     """A machine folder, and a content folder whose files can be changed without harm to the original."""
 
     def __init__(self, driver, content):
-        self.driver, self.made, self.options = driver, False, []
+        self.driver, self.made, self.options, self.environment = driver, False, [], dict(os.environ)
         self.root = Path(tempfile.mkdtemp(prefix="kalyxo-scenario-"))
         self.folder, self.data = self.root / "machine", self.root / "data"
         link_folder(Path(content).resolve(), self.data)
@@ -47,6 +48,9 @@ class Machine:
             if self.made:
                 raise Problem("options come before all else")
             self.options = value
+            return
+        if what == "environment":
+            self.environment[words[0]] = value
             return
         self.make()
         if what == "machine":

@@ -122,7 +122,7 @@ class Run:
         except Problem as problem:
             raise Broken(problem) from problem
         self.driver = subprocess.Popen([self.driver_file, "--machine", self.machine.folder], cwd=self.machine.folder,
-                                       stdin=subprocess.PIPE, stdout=subprocess.PIPE, encoding="utf-8")
+                                       env=self.machine.environment, stdin=subprocess.PIPE, stdout=subprocess.PIPE, encoding="utf-8")
 
     def ask(self, line):
         """The line that answers this one; empty when the driver ends or takes too long."""

@@ -1,6 +1,7 @@
 #include <QWidget>
 
 #include "platform/framework/Resources.h"
+#include "platform/framework/View.h"
 #include "src/app/MainFrame.h"
 #include "tools/drive/Act.h"
 #include "tools/drive/CommandTable.h"
@@ -31,6 +32,14 @@ void command(Act& act, Program&) {
     // Told before it runs: a command that shows a dialog returns when that is closed.
     act.set("carriedOut", frame->UpdateCommand(*id).enabled());
     act.set("carriedOut", frame->RunCommand(*id));
+}
+
+/// As a component does: the view looks at the second parameter of the command message.
+void notify(Act& act, Program&) {
+    CMainFrame* frame = frameFor(act);
+    const std::optional<int> what = number<int>(act.word(0));
+    if (!what) return act.fail("no number: " + act.word(0));
+    if (frame != nullptr) frame->GetActiveView()->SendMessage(WM_COMMAND, 0, *what);
 }
 
 Json itemJson(const MenuItemState& item) {
@@ -124,7 +133,7 @@ void restore(Act& act, Program&) {
 constexpr Command kCommands[] = {
     {"command", 1, 1, command}, {"menu", 0, 0, menu},         {"size", 2, 2, size},
     {"place", 4, 4, place},     {"minimize", 0, 0, minimize}, {"maximize", 0, 0, maximize},
-    {"restore", 0, 0, restore},
+    {"restore", 0, 0, restore}, {"notify", 1, 1, notify},
 };
 
 }  // namespace
