@@ -61,6 +61,7 @@ inline constexpr int SW_SHOW = 5;
 inline constexpr unsigned VK_TAB = 9;
 inline constexpr unsigned VK_RETURN = 13;
 inline constexpr unsigned VK_ESCAPE = 27;
+inline constexpr unsigned VK_SPACE = 32;
 inline constexpr unsigned VK_LEFT = 37;
 inline constexpr unsigned VK_UP = 38;
 inline constexpr unsigned VK_RIGHT = 39;

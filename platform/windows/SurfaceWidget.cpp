@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/windows/DC.h"
+#include "platform/windows/DrawnPartsAccess.h"
 #include "platform/windows/InputMessages.h"
 #include "platform/windows/PaintQueue.h"
 
@@ -14,6 +15,7 @@ SurfaceWidget::SurfaceWidget(CWnd& owner, QWidget* parent, int controlId)
     : WindowWidget(owner, parent, controlId) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
+    tellOfDrawnParts();
 }
 
 SurfaceWidget* SurfaceWidget::of(const CWnd& window) {

@@ -7,10 +7,12 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/automation/Variant.h"
 #include "platform/windows/CmdTarget.h"
 #include "platform/windows/DC.h"
+#include "platform/windows/DrawnParts.h"
 #include "platform/windows/Geometry.h"
 #include "platform/windows/Messages.h"
 
@@ -73,6 +75,10 @@ class CWnd : public CCmdTarget {
     /// What screen readers call the window, where it is not its text.
     void SetAccessibleName(std::string_view name);
     std::string GetWindowText() const;
+    /// What the window draws that can be pushed, for screen readers; their indexes name the parts.
+    virtual std::vector<DrawnPart> DrawnParts() const { return {}; }
+    /// A screen reader's user pushes one of them.
+    virtual void PushDrawnPart(int) {}
 
     /// Has the window repainted when the program is next idle.
     void Invalidate(bool erase = true);

@@ -127,13 +127,13 @@ bool CKalyxoView::HitTestBar(CPoint point) {
 }
 
 void CKalyxoView::OnMouseMove(UINT, CPoint point) {
-    if (m_bInterceptionSuppressed) return;
+    if (m_bInterceptionSuppressed || keyboardChoiceStands(point)) return;
+    m_keyboard.End();
     const bool offBar = HitTestBar(point);
-    if (m_mode == ContentMode::MainMenu) hoverMainMenu(offBar && isUnder(point) ? point : CPoint{-1, -1});
+    if (m_mode == ContentMode::MainMenu) hoverMainMenu(offBar && isUnder(point) ? m_menu.ItemAt(point) : -1);
 }
 
-void CKalyxoView::hoverMainMenu(CPoint point) {
-    const int item = point.y < 0 ? -1 : m_menu.ItemAt(point);
+void CKalyxoView::hoverMainMenu(int item) {
     const int former = m_menu.HotItem();
     if (item == former) return;
     CClientDC dc(*this);
@@ -149,17 +149,26 @@ void CKalyxoView::OnTimer(UINT id) {
 }
 
 bool CKalyxoView::OnSetCursor() {
+    if (m_keyboard.Begun()) return false;
     const bool overSlot = m_bar.Hovered() >= 0 && m_bar.Hovered() != m_bar.Selected();
     if (!overSlot && m_menu.HotItem() < 0) return false;
     m_handCursor.Set();
     return true;
 }
 
-void CKalyxoView::OnLButtonDown(UINT, CPoint) {
+void CKalyxoView::OnLButtonDown(UINT flags, CPoint point) {
+    if (m_keyboard.Begun()) {
+        m_keyboard.End();
+        OnMouseMove(flags, point);
+    }
     const int item = m_bar.Hovered() >= 0 ? m_bar.Hovered() : m_menu.HotItem();
     if (item < 0) return;
     CCursor::arrow().Set();
-    switch (item) {
+    openSlot(item);
+}
+
+void CKalyxoView::openSlot(int slot) {
+    switch (slot) {
         case kPeriodicTableSlot:
             ShowPeriodicTable();
             break;
@@ -173,7 +182,7 @@ void CKalyxoView::OnLButtonDown(UINT, CPoint) {
             GetParentFrame()->RunCommand(ID_TOOLBAR);
             break;
         default:
-            openSectionOfSlot(item);
+            openSectionOfSlot(slot);
     }
 }
 

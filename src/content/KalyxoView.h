@@ -9,6 +9,7 @@
 #include "src/content/GlossaryPopup.h"
 #include "src/content/History.h"
 #include "src/content/HostedComponents.h"
+#include "src/content/KeyboardChoice.h"
 #include "src/content/MainMenuScreen.h"
 #include "src/content/OnlinePages.h"
 #include "src/content/PageCache.h"
@@ -36,6 +37,8 @@ class CKalyxoView : public platform::CView {
     bool OnCommand(platform::WPARAM wParam, platform::LPARAM lParam) override;
     void OnInitialUpdate() override;
     void OnDraw(platform::CDC& dc) override;
+    std::vector<platform::DrawnPart> DrawnParts() const override;
+    void PushDrawnPart(int index) override { openSlot(OpenableItems::SlotFor(index)); }
 
     /// Shows a section in page mode and, unless `pageNumber` is 0, opens that page.
     void OpenSection(std::int16_t sectionCode, std::int32_t pageNumber);
@@ -174,8 +177,18 @@ class CKalyxoView : public platform::CView {
     bool HitTestBar(platform::CPoint point);
     bool isUnder(platform::CPoint point) const;
     void PaintMainMenu(platform::CDC& dc);
-    void hoverMainMenu(platform::CPoint point);
+    void hoverMainMenu(int item);
+    void openSlot(int slot);
     bool focusIsInSelectEdit() const;
+
+    // The keyboard's choice among the slots and areas
+    void OnKeyDown(platform::UINT key);
+    void OnKillFocus(platform::HWND other);
+    OpenableItems openableItems() const;
+    int shownItem() const;
+    bool keyboardChoiceStands(platform::CPoint point) const;
+    void chooseByArrow(platform::UINT key);
+    void openChosen();
 
     ContentMode m_mode = ContentMode::MainMenu;
     PageAddress m_address;
@@ -183,6 +196,7 @@ class CKalyxoView : public platform::CView {
     PageContents m_contents;
     SectionBar m_bar;
     MainMenuScreen m_menu;
+    KeyboardChoice m_keyboard;
     PageCache m_cache;
     std::optional<PagePreparer> m_preparer;
     BookmarkList m_bookmarks;

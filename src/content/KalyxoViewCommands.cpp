@@ -49,6 +49,8 @@ const MessageMap* CKalyxoView::GetMessageMap() const {
         OnMessage<WM_MOUSEMOVE, &CKalyxoView::OnMouseMove>(),
         OnMessage<WM_TIMER, &CKalyxoView::OnTimer>(),
         OnMessage<WM_DESTROY, &CKalyxoView::OnDestroy>(),
+        OnMessage<WM_KEYDOWN, &CKalyxoView::OnKeyDown>(),
+        OnMessage<WM_KILLFOCUS, &CKalyxoView::OnKillFocus>(),
         OnCommandId<&CKalyxoView::OnSection<0>>(ID_SECTION_REACT),
         OnUpdateId<&CKalyxoView::OnUpdateSection<0>>(ID_SECTION_REACT),
         OnCommandId<&CKalyxoView::OnSection<1>>(ID_SECTION_STRUCT),

@@ -26,6 +26,7 @@ class MainMenuScreen {
     void Paint(platform::CDC& dc, platform::CSize client);
     /// Until the next Paint no point is in a hot area.
     void Displace() { m_origin.x = kDisplaced; }
+    bool Displaced() const { return m_origin.x == kDisplaced; }
     /// The item at a point of the view, −1 when none.
     int ItemAt(platform::CPoint p) const { return MainMenuLayout::ItemAt(p - m_origin); }
     /// Makes an item hot and draws its preview, connectors and the panel's frame.

@@ -1,5 +1,6 @@
 #include "src/resources/MenuTable.h"
 
+#include <algorithm>
 #include <array>
 
 #include "platform/text/GreekLiteral.h"
@@ -89,6 +90,14 @@ constexpr std::array kAccelerators = {
 }  // namespace
 
 std::span<const Menu> MainMenu() { return kMenu; }
+
+std::string_view MenuItemText(platform::UINT command) {
+    for (const Menu& menu : kMenu) {
+        const auto item = std::ranges::find(menu.items, command, &MenuItem::id);
+        if (item != menu.items.end()) return item->text;
+    }
+    return {};
+}
 
 std::span<const Accelerator> MainAccelerators() { return kAccelerators; }
 

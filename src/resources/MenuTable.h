@@ -8,6 +8,8 @@ namespace kalyxo {
 
 /// The one menu bar.
 std::span<const platform::Menu> MainMenu();
+/// The text of the menu item with a command, empty when there is none; code page 1253.
+std::string_view MenuItemText(platform::UINT command);
 /// The one accelerator table.
 std::span<const platform::Accelerator> MainAccelerators();
 

@@ -26,6 +26,7 @@ void list(QAccessibleInterface& part, Json& parts) {
         parts.push_back({{"role", roleName(part.role())},
                          {"name", part.text(QAccessible::Name).toStdString()},
                          {"focusable", bool(state.focusable)}});
+        if (state.focused) parts.back()["focused"] = true;
     }
     // Of a page the engine tells itself.
     if (part.role() == QAccessible::WebDocument) return;
