@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QProgressDialog>
+#include <chrono>
 #include <memory>
 
 #include "platform/framework/LightPalette.h"
@@ -21,6 +22,13 @@ constexpr std::uint64_t redrawAfter = 50;
 
 constexpr int wholeBar = 1000;
 constexpr int boxWidth = 360;
+
+/// Before there is a machine, by the host's own clock.
+std::uint64_t milliseconds() {
+    if (hasMachine()) return machine().milliseconds();
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    return static_cast<std::uint64_t>(std::chrono::duration_cast<std::chrono::milliseconds>(now).count());
+}
 
 }  // namespace
 
@@ -46,7 +54,7 @@ class CProgress::Box {
 
     /// Whether to go on.
     bool show(std::uint64_t done, std::uint64_t total) {
-        const std::uint64_t now = machine().milliseconds();
+        const std::uint64_t now = milliseconds();
         if (now < drawn_ + redrawAfter) return true;
         drawn_ = now;
         const double part = total == 0 ? 0.0 : static_cast<double>(done) / static_cast<double>(total);
@@ -61,13 +69,13 @@ class CProgress::Box {
     std::uint64_t drawn_ = 0;
 };
 
-CProgress::CProgress(std::string_view what) : m_what(what), m_nBegin(machine().milliseconds()) {}
+CProgress::CProgress(std::string_view what) : m_what(what), m_nBegin(milliseconds()) {}
 
 CProgress::~CProgress() = default;
 
 bool CProgress::goOn(std::uint64_t done, std::uint64_t total) {
     if (m_bCancelled) return false;
-    const std::uint64_t passed = machine().milliseconds() - m_nBegin;
+    const std::uint64_t passed = milliseconds() - m_nBegin;
     if (passed >= cursorAfter && !m_cursor) m_cursor.emplace();
     if (passed >= boxAfter && !m_bAsked) ask();
     if (m_box) m_bCancelled = !m_box->show(done, total);
@@ -77,7 +85,7 @@ bool CProgress::goOn(std::uint64_t done, std::uint64_t total) {
 void CProgress::ask() {
     m_bAsked = true;
     const std::vector<BoxAnswer> buttons = {BoxAnswer::ok, BoxAnswer::cancel};
-    const std::optional<BoxAnswer> ready = machine().nextAnswer(buttons);
+    const std::optional<BoxAnswer> ready = hasMachine() ? machine().nextAnswer(buttons) : std::nullopt;
     if (!ready) {
         m_box = std::make_unique<Box>(m_what);
         return;

@@ -59,21 +59,18 @@ Problem makeFolders(Machine& machine, const NewMachineOptions& options) {
     return std::nullopt;
 }
 
-Problem copyModules(const FileSystem& files, const NewMachineOptions& options) {
+Problem copyModules(const FileSystem& files, const NewMachineOptions& options, const ProgressStep& step) {
     if (options.modulesFrom.empty()) return std::nullopt;
     const auto target = files.nativePath(options.modulesTo);
-    std::size_t copied = 0;
-    std::error_code error;
-    std::error_code ignored;
-    for (fs::directory_iterator it(options.modulesFrom, error), end; !error && it != end;
-         it.increment(error)) {
-        if (!it->is_regular_file(ignored) || !isModule(it->path())) continue;
-        if (!target || !copyFileOver(it->path(), *target / it->path().filename())) {
-            return it->path().string() + ": cannot be copied to " + toUtf8(options.modulesTo);
+    const auto modules = modulesIn(options.modulesFrom);
+    if (!modules || modules->empty()) return options.modulesFrom.string() + ": no component modules there";
+    std::uint64_t copied = 0;
+    for (const fs::path& module : *modules) {
+        if (!GoesOn(step, copied++, modules->size())) return module.string() + ": cancelled";
+        if (!target || !copyFileOver(module, *target / module.filename())) {
+            return module.string() + ": cannot be copied to " + toUtf8(options.modulesTo);
         }
-        ++copied;
     }
-    if (error || copied == 0) return options.modulesFrom.string() + ": no component modules there";
     return std::nullopt;
 }
 
@@ -98,12 +95,12 @@ void registerComponents(Registry& registry, const NewMachineOptions& options) {
     }
 }
 
-Problem fillDrives(Machine& machine, const NewMachineOptions& options) {
+Problem fillDrives(Machine& machine, const NewMachineOptions& options, const ProgressStep& step) {
     const NewMachineFile program{machine.programPath(),
                                  "This file stands for the program on this machine.\r\n"};
     if (auto problem = writeFile(machine.files(), program)) return problem;
     if (auto problem = makeFolders(machine, options)) return problem;
-    if (auto problem = copyModules(machine.files(), options)) return problem;
+    if (auto problem = copyModules(machine.files(), options, step)) return problem;
     for (const auto& file : options.files) {
         if (auto problem = writeFile(machine.files(), file)) return problem;
     }
@@ -112,12 +109,20 @@ Problem fillDrives(Machine& machine, const NewMachineOptions& options) {
 
 }  // namespace
 
-bool isModule(const fs::path& file) {
-    const std::string extension = file.extension().string();
-    return equalsNoCase(extension, ".ocx") || equalsNoCase(extension, ".so");
+std::optional<std::vector<fs::path>> modulesIn(const fs::path& folder) {
+    std::vector<fs::path> modules;
+    std::error_code error;
+    std::error_code ignored;
+    for (fs::directory_iterator it(folder, error), end; !error && it != end; it.increment(error)) {
+        const std::string extension = it->path().extension().string();
+        const bool isModule = equalsNoCase(extension, ".ocx") || equalsNoCase(extension, ".so");
+        if (isModule && it->is_regular_file(ignored)) modules.push_back(it->path());
+    }
+    return error ? std::nullopt : std::optional(std::move(modules));
 }
 
-std::optional<std::string> makeMachine(const fs::path& folder, const NewMachineOptions& options) {
+std::optional<std::string> makeMachine(const fs::path& folder, const NewMachineOptions& options,
+                                       const ProgressStep& step) {
     std::error_code error;
     if (!options.discFolder.empty() && !fs::is_directory(options.discFolder, error)) {
         return options.discFolder.string() + ": no such folder";
@@ -128,7 +133,7 @@ std::optional<std::string> makeMachine(const fs::path& folder, const NewMachineO
         return cannotMake((folder / "machine.json").string());
 
     Machine machine(folder, config, Registry());
-    if (auto problem = fillDrives(machine, options)) return problem;
+    if (auto problem = fillDrives(machine, options, step)) return problem;
     fillSettings(machine.registry(), options);
     registerComponents(machine.registry(), options);
     const fs::path registryFile = folder / "registry.reg";

@@ -8,6 +8,7 @@
 #include <variant>
 #include <vector>
 
+#include "platform/files/ProgressStep.h"
 #include "platform/machine/MachineConfig.h"
 
 namespace platform {
@@ -28,7 +29,7 @@ struct NewMachineFile {
 struct NewMachineOptions {
     MachineConfig config;               ///< written to machine.json with the compact disc added
     std::filesystem::path discFolder;   ///< host folder that is the compact disc D:; none when empty
-    std::filesystem::path modulesFrom;  ///< host folder whose `isModule` files are copied; none when empty
+    std::filesystem::path modulesFrom;  ///< host folder whose modules are copied; none when empty
     std::string modulesTo;              ///< folder on the machine that receives them
     std::string settingsKey;  ///< key under HKEY_LOCAL_MACHINE, made even without values; none when empty
     std::vector<std::pair<std::string, std::variant<std::string, std::uint32_t>>> settings;  ///< its values
@@ -36,14 +37,16 @@ struct NewMachineOptions {
     std::vector<NewMachineFile> files;            ///< written after all else, with the folders above them
 };
 
-/// Whether a file of a folder of modules is one: a component (.ocx), or a library that a component loads
-/// (.so).
-bool isModule(const std::filesystem::path& file);
+/// The modules in a folder of the host: components (.ocx), and libraries that a component loads (.so).
+/// Nothing when the folder cannot be read.
+std::optional<std::vector<std::filesystem::path>> modulesIn(const std::filesystem::path& folder);
 
 /// Makes a machine folder: machine.json, registry.reg, drive C: with the program file (a placeholder that its
 /// path names), the temporary and system folders, the component modules and the files asked for. A folder
-/// that exists is kept, and what is named here is written anew. Returns an error text (UTF-8) that names what
+/// that exists is kept, and what is named here is written anew. `step` is told how many of the modules are
+/// copied; when it cancels, the machine has no registry.reg. Returns an error text (UTF-8) that names what
 /// could not be made, or nothing.
-std::optional<std::string> makeMachine(const std::filesystem::path& folder, const NewMachineOptions& options);
+std::optional<std::string> makeMachine(const std::filesystem::path& folder, const NewMachineOptions& options,
+                                       const ProgressStep& step = {});
 
 }  // namespace platform

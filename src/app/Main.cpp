@@ -1,4 +1,5 @@
 #include "platform/framework/Desktop.h"
+#include "platform/framework/Progress.h"
 #include "platform/framework/Resources.h"
 #include "platform/framework/Run.h"
 #include "platform/text/CodePage1253.h"
@@ -20,19 +21,27 @@ void tellNoMachine(const std::string& problem) {
                             std::string("\r\n\r\nΔιορθώστε ή διαγράψτε το αρχείο και ξεκινήστε πάλι."_gr));
 }
 
+/// Null when there is none; the user then knows why.
+std::unique_ptr<platform::Machine> openMachine(const platform::Desktop& desktop) {
+    std::optional<platform::CProgress> progress("Ετοιμάζεται ο φάκελος του Kalyxo…"_gr);
+    auto opened = kalyxo::OpenOwnMachine(
+        kalyxo::OwnMachineFolder(), kalyxo::FindInstalledFiles(kalyxo::RunningProgramsFolder()),
+        {desktop.screen(), desktop.metrics(), desktop.printer()}, kalyxo::PresentMedia(), progress->Step());
+    const bool cancelled = progress->Cancelled();
+    progress.reset();
+    if (opened) return std::move(*opened.value);
+    if (!cancelled) tellNoMachine(opened.error);
+    return nullptr;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     platform::SetResources(kalyxo::ProgramResources());
     const platform::Desktop desktop(argc, argv);
-    const auto opened = kalyxo::OpenOwnMachine(
-        kalyxo::OwnMachineFolder(), kalyxo::FindInstalledFiles(kalyxo::RunningProgramsFolder()),
-        {desktop.screen(), desktop.metrics(), desktop.printer()}, kalyxo::PresentMedia());
-    if (!opened) {
-        tellNoMachine(opened.error);
-        return kNoMachine;
-    }
-    platform::setMachine(opened.value->get());
+    const auto opened = openMachine(desktop);
+    if (!opened) return kNoMachine;
+    platform::setMachine(opened.get());
     kalyxo::CKalyxoApp program;
     return platform::RunProgram(program);
 }

@@ -20,6 +20,7 @@ namespace fs = std::filesystem;
 using platform::Loaded;
 using platform::Machine;
 using platform::MachineConfig;
+using platform::ProgressStep;
 
 namespace {
 
@@ -44,15 +45,16 @@ bool isFinished(const fs::path& folder) {
 }
 
 std::optional<std::string> finish(const fs::path& folder, const InstalledFiles& installed,
-                                  const MachineConfig& config) {
+                                  const MachineConfig& config, const ProgressStep& step) {
     platform::NewMachineOptions options = NewMachineOptions(installed.content, installed.modules, {});
     options.config = config;
     options.config.drives[kHostLetter] = {platform::DriveType::fixed, "/"};
-    return platform::makeMachine(folder, options);
+    return platform::makeMachine(folder, options, step);
 }
 
 /// One program makes the machine; another that starts meanwhile waits, and finds it made.
-std::optional<std::string> makeUnlessFinished(const fs::path& folder, const InstalledFiles& installed) {
+std::optional<std::string> makeUnlessFinished(const fs::path& folder, const InstalledFiles& installed,
+                                              const ProgressStep& step) {
     std::error_code ignored;
     fs::create_directories(folder, ignored);
     const auto lock = platform::FolderLock::wait(folder);
@@ -63,7 +65,7 @@ std::optional<std::string> makeUnlessFinished(const fs::path& folder, const Inst
         if (!config) return std::move(config.error);
         known = std::move(*config.value);
     }
-    return finish(folder, installed, known);
+    return finish(folder, installed, known, step);
 }
 
 bool sameContent(const fs::path& a, const fs::path& b) {
@@ -74,17 +76,19 @@ bool sameContent(const fs::path& a, const fs::path& b) {
     return std::equal(Bytes(first), Bytes(), Bytes(second), Bytes());
 }
 
-/// A module that cannot be replaced stays; the program then tells of its version itself.
-void updateModules(Machine& machine, const fs::path& modules) {
+/// A module that cannot be replaced stays; the program then tells of its version itself. False when that was
+/// cancelled.
+bool updateModules(Machine& machine, const fs::path& modules, const ProgressStep& step) {
     const auto target = machine.files().nativePath(NewMachineOptions({}, {}, {}).modulesTo);
-    std::error_code error;
-    if (!target || modules.empty()) return;
-    for (fs::directory_iterator at(modules, error), end; !error && at != end; at.increment(error)) {
-        const fs::path copy = *target / at->path().filename();
-        if (platform::isModule(at->path()) && !sameContent(at->path(), copy)) {
-            platform::copyFileOver(at->path(), copy);
-        }
+    if (!target || modules.empty()) return true;
+    const auto installed = platform::modulesIn(modules).value_or(std::vector<fs::path>());
+    std::uint64_t done = 0;
+    for (const fs::path& module : installed) {
+        if (!platform::GoesOn(step, done++, installed.size())) return false;
+        const fs::path copy = *target / module.filename();
+        if (!sameContent(module, copy)) platform::copyFileOver(module, copy);
     }
+    return true;
 }
 
 void followPresent(MachineConfig& config, const InstalledFiles& installed, const PresentScreen& present) {
@@ -109,8 +113,10 @@ fs::path OwnMachineFolder() {
 }
 
 OpenResult OpenOwnMachine(const fs::path& folder, const InstalledFiles& installed,
-                          const PresentScreen& present, const std::vector<MountedMedium>& media) {
-    if (auto problem = makeUnlessFinished(folder, installed)) return OpenResult::failure(std::move(*problem));
+                          const PresentScreen& present, const std::vector<MountedMedium>& media,
+                          const ProgressStep& step) {
+    if (auto problem = makeUnlessFinished(folder, installed, step))
+        return OpenResult::failure(std::move(*problem));
     Loaded<MachineConfig> config = platform::loadMachineConfig(configFile(folder));
     if (!config) return OpenResult::failure(std::move(config.error));
     Loaded<platform::Registry> registry = platform::loadRegFile(registryFile(folder));
@@ -123,7 +129,7 @@ OpenResult OpenOwnMachine(const fs::path& folder, const InstalledFiles& installe
         RememberLetters(machine->registry(), letters);
         machine->flushRegistry();
     }
-    updateModules(*machine, installed.modules);
+    if (!updateModules(*machine, installed.modules, step)) return OpenResult::failure("cancelled");
     return OpenResult::success(std::move(machine));
 }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/files/Loaded.h"
+#include "platform/files/ProgressStep.h"
 #include "platform/machine/Machine.h"
 #include "src/app/InstalledFiles.h"
 #include "src/app/MountedMedia.h"
@@ -29,10 +30,12 @@ std::filesystem::path OwnMachineFolder();
 /// modules that differ from the installed ones are replaced, a compact disc whose folder is gone is the
 /// installed content, and the media are drives (see `AddMediaDrives`). Several programs may do so at once:
 /// one makes the machine, the others wait for it. The error names the file that is damaged, which is left as
-/// it is, or what could not be made.
+/// it is, or what could not be made. `step` is told of the modules, which may lie on a slow medium; once it
+/// cancels, there is no machine, and the next start goes on where this one stopped.
 platform::Loaded<std::unique_ptr<platform::Machine>> OpenOwnMachine(const std::filesystem::path& folder,
                                                                     const InstalledFiles& installed,
                                                                     const PresentScreen& present,
-                                                                    const std::vector<MountedMedium>& media);
+                                                                    const std::vector<MountedMedium>& media,
+                                                                    const platform::ProgressStep& step = {});
 
 }  // namespace kalyxo

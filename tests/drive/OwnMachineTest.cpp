@@ -26,10 +26,10 @@ class OwnMachine : public testing::Test {
         m_root.write("content/data/a.htm", "<HTML>");
         m_root.write("bin/kalyxo", "");
     }
-    platform::Loaded<std::unique_ptr<platform::Machine>> open(
-        const std::vector<MountedMedium>& media = {}) const {
+    platform::Loaded<std::unique_ptr<platform::Machine>> open(const std::vector<MountedMedium>& media = {},
+                                                              const platform::ProgressStep& step = {}) const {
         const PresentScreen present{{1280, 800, 24}, {{"SM_CXMAXIMIZED", 1288}}};
-        return OpenOwnMachine(m_root / "own", FindInstalledFiles(m_root / "bin"), present, media);
+        return OpenOwnMachine(m_root / "own", FindInstalledFiles(m_root / "bin"), present, media, step);
     }
 
     TestFolder m_root;
@@ -79,6 +79,27 @@ TEST_F(OwnMachine, MakingThatWasBrokenOffIsTakenUpAgain) {
         EXPECT_TRUE((*opened.value)->files().exists("D:\\a.htm")) << missing;
         EXPECT_EQ(m_root.read(kCopiedModule), "version one");
     }
+}
+
+TEST_F(OwnMachine, CopyingThatIsCancelledIsTakenUpAgain) {
+    m_root.write("ActiveX/kzselectgk.ocx", "version one");
+    const auto cancelAt = [](std::uint64_t count) {
+        return [count](std::uint64_t done, std::uint64_t total) {
+            EXPECT_EQ(total, 2U);
+            return done < count;
+        };
+    };
+    for (const std::uint64_t count : {0U, 1U}) {
+        EXPECT_FALSE(open({}, cancelAt(count)));
+        EXPECT_FALSE(fs::exists(m_root / "own/registry.reg"));
+    }
+    ASSERT_TRUE(open());
+    EXPECT_EQ(m_root.read(kCopiedModule), "version one");
+    m_root.write(kModule, "version two");
+    EXPECT_FALSE(open({}, cancelAt(0)));
+    EXPECT_EQ(m_root.read(kCopiedModule), "version one");
+    ASSERT_TRUE(open({}, cancelAt(2)));
+    EXPECT_EQ(m_root.read(kCopiedModule), "version two");
 }
 
 TEST_F(OwnMachine, DamagedFilesAreNamedAndLeft) {
