@@ -1,5 +1,6 @@
 #include "platform/framework/ProgramStyle.h"
 
+#include <QApplication>
 #include <QIconEngine>
 #include <QPainter>
 
@@ -33,6 +34,34 @@ class LateIcon : public QIconEngine {
     QStyle::StandardPixmap picture_;
 };
 
+/// The style's own is one small picture, which a sharp screen shows blurred.
+QPixmap questionMark(int side) {
+    QPixmap picture(side, side);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0x3a, 0x7a, 0xa0));
+    painter.drawEllipse(picture.rect());
+    QFont font = QApplication::font();
+    font.setBold(true);
+    font.setPixelSize(side * 3 / 4);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    painter.drawText(picture.rect(), Qt::AlignCenter, QStringLiteral("?"));
+    return picture;
+}
+
+/// Side of the pictures in message boxes.
+constexpr int boxPicture = 32;
+
+/// For screens with one, two and three pixels to each coordinate.
+QIcon questionIcon() {
+    QIcon icon;
+    for (const int scale : {1, 2, 3}) icon.addPixmap(questionMark(boxPicture * scale));
+    return icon;
+}
+
 }  // namespace
 
 ProgramStyle::ProgramStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -43,9 +72,15 @@ QIcon ProgramStyle::standardIcon(StandardPixmap picture, const QStyleOption* opt
         case SP_ToolBarHorizontalExtensionButton:
         case SP_LineEditClearButton:
             return QIcon(std::make_unique<LateIcon>(*baseStyle(), picture).release());
+        case SP_MessageBoxQuestion:
+            return questionIcon();
         default:
             return QProxyStyle::standardIcon(picture, option, widget);
     }
+}
+
+int ProgramStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+    return metric == PM_MessageBoxIconSize ? boxPicture : QProxyStyle::pixelMetric(metric, option, widget);
 }
 
 }  // namespace platform
