@@ -59,6 +59,8 @@ void PagePrinter::printToFile() {
             QFile out(QString::fromStdString(file));
             if (!pdf.isEmpty() && out.open(QIODevice::WriteOnly) && out.write(pdf) == pdf.size()) {
                 recordPrint(title, countPages(pdf), file);
+            } else {
+                printFailed(file);
             }
             if (alive) printing_ = false;
         },

@@ -4,12 +4,19 @@
 #include <QFont>
 #include <QScreen>
 #include <QStandardPaths>
+#include <QTimer>
 
 #include "platform/automation/BrowserProcess.h"
 #include "platform/framework/LightPalette.h"
 #include "platform/framework/ProgramStyle.h"
+#include "platform/framework/WinApp.h"
+#include "platform/printing/PrintJob.h"
+#include "platform/text/CodePage1253.h"
+#include "platform/text/GreekLiteral.h"
 
 namespace platform {
+
+using namespace literals;
 
 namespace {
 
@@ -29,6 +36,14 @@ QFont programFont() {
     return font;
 }
 
+/// Without a printer nothing else shows that something came of it. Told later: the print may be under way.
+void tellOfPrint(const std::string& file, bool written) {
+    const std::string_view what = written ? "Η εκτύπωση αποθηκεύτηκε στο αρχείο:"_gr
+                                          : "Δεν είναι δυνατή η εγγραφή του αρχείου εκτύπωσης:"_gr;
+    const std::string text = std::string(what) + "\r\n" + fromUtf8(file);
+    QTimer::singleShot(0, qApp, [text] { AfxMessageBox(text); });
+}
+
 std::unique_ptr<QApplication> makeApplication(int& argc, char** argv) {
     prepareProcess();
     return std::make_unique<QApplication>(argc, argv);
@@ -42,9 +57,10 @@ Desktop::Desktop(int& argc, char** argv) : application_(makeApplication(argc, ar
     QApplication::setStyle(std::make_unique<ProgramStyle>().release());
     QApplication::setFont(programFont());
     wearLightPalette();
+    setPrintListener(tellOfPrint);
 }
 
-Desktop::~Desktop() = default;
+Desktop::~Desktop() { setPrintListener({}); }
 
 ScreenConfig Desktop::screen() const {
     const QScreen* const first = QGuiApplication::primaryScreen();

@@ -21,6 +21,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
+PrintListener listener;
+
 /// The printer that prints files, or null.
 const PrinterConfig* pdfPrinter() {
     const auto& printer = machine().printer();
@@ -80,15 +82,16 @@ std::unique_ptr<PrintJob> PrintJob::begin(std::string_view name, QWidget* choose
         const PrinterConfig page = pageOf(*printer);
         job.reset(new PrintJob(std::string(name), {}, page, std::move(printer)));
     }
-    return job->painter_.isActive() ? std::move(job) : nullptr;
+    if (job->painter_.isActive()) return job;
+    printFailed(job->file_);
+    return nullptr;
 }
 // NOLINTEND(cppcoreguidelines-owning-memory)
 
 PrintJob::PrintJob(std::string name, std::string file, PrinterConfig page,
                    std::unique_ptr<QPagedPaintDevice> device)
     : name_(std::move(name)), file_(std::move(file)), page_(std::move(page)), device_(std::move(device)) {
-    painter_.begin(device_.get());
-    painter_.setRenderHint(QPainter::LosslessImageRendering);
+    if (painter_.begin(device_.get())) painter_.setRenderHint(QPainter::LosslessImageRendering);
 }
 
 PrintJob::~PrintJob() {
@@ -102,14 +105,22 @@ std::string nextPrintFile() {
     if (!printer) return {};
     const fs::path folder = printer->folder.empty() ? machine().folder() : printer->folder;
     std::error_code ignored;
+    fs::create_directories(folder, ignored);
     for (int number = 1;; ++number) {
         const fs::path file = folder / ("print-" + std::to_string(number) + ".pdf");
         if (!fs::exists(file, ignored)) return file.string();
     }
 }
 
-void recordPrint(std::string_view name, int pages, std::string_view file) {
+void recordPrint(std::string_view name, int pages, const std::string& file) {
     machine().trace().record(TracePrint{std::string(name), pages, fs::path(file).filename().string()});
+    if (listener && !file.empty()) listener(file, true);
 }
+
+void printFailed(const std::string& file) {
+    if (listener && !file.empty()) listener(file, false);
+}
+
+void setPrintListener(PrintListener given) { listener = std::move(given); }
 
 }  // namespace platform

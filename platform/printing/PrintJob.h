@@ -3,6 +3,7 @@
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QString>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -47,11 +48,17 @@ class PrintJob {
 };
 
 /// The path at which the next printed PDF file is to be written, in UTF-8; empty where it is printed on
-/// paper.
+/// paper. Its folder is made if there is none.
 std::string nextPrintFile();
 
 /// Records a document that something else printed to a file of `nextPrintFile`.
-void recordPrint(std::string_view name, int pages, std::string_view file);
+void recordPrint(std::string_view name, int pages, const std::string& file);
+/// A file of `nextPrintFile` could not be written.
+void printFailed(const std::string& file);
+
+/// Who tells the user of each file that is printed (its path in UTF-8), or could not be; nobody at first.
+using PrintListener = std::function<void(const std::string& file, bool written)>;
+void setPrintListener(PrintListener listener);
 
 /// The desktop's default printer, after the user had his choice in a dialog over `chooser`; null when there
 /// is none or he gave up.
