@@ -1,4 +1,5 @@
 #include "platform/windows/Wnd.h"
+#include "platform/automation/QtChild.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -48,10 +49,10 @@ const MessageMap* CWnd::GetMessageMap() const {
 bool CWnd::CreateWnd(std::string_view text, DWORD style, const CRect& rect, CWnd& parent, UINT id) {
     WindowWidget* const parentWidget = WindowWidget::of(parent);
     if (m_hWnd != 0 || !parentWidget) return false;
-    auto* const widget = new SurfaceWidget(*this, parentWidget, static_cast<int>(id));
-    widget->setWindowTitle(toQt(text));
-    if (style & WS_TABSTOP) widget->setFocusPolicy(Qt::TabFocus);
-    return widget->create({style, rect.left, rect.top, rect.Width(), rect.Height(), false});
+    auto& widget = makeQtChild<SurfaceWidget>(*this, parentWidget, static_cast<int>(id));
+    widget.setWindowTitle(toQt(text));
+    if (style & WS_TABSTOP) widget.setFocusPolicy(Qt::TabFocus);
+    return widget.create({style, rect.left, rect.top, rect.Width(), rect.Height(), false});
 }
 
 bool CWnd::DestroyWindow() {

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "platform/automation/QtChild.h"
 #include "platform/machine/Machine.h"
 #include "platform/windows/ControlContainer.h"
 #include "platform/windows/QtConvert.h"
@@ -38,13 +39,13 @@ bool CWnd::CreateControl(std::string_view classId, std::string_view name, DWORD 
                          CWnd& parent, UINT id) {
     WindowWidget* const parentWidget = WindowWidget::of(parent);
     if (m_hWnd != 0 || !parentWidget) return false;
-    auto* const container = new ControlContainer(*this, parentWidget, static_cast<int>(id));
-    container->setWindowTitle(toQt(name));
-    if (!container->createControl(classId)) {
-        container->end();
+    auto& container = makeQtChild<ControlContainer>(*this, parentWidget, static_cast<int>(id));
+    container.setWindowTitle(toQt(name));
+    if (!container.createControl(classId)) {
+        container.end();
         return false;
     }
-    container->place(toQt(rect));
+    container.place(toQt(rect));
     if (style & WS_VISIBLE) ShowWindow(SW_SHOW);
     return true;
 }

@@ -11,7 +11,6 @@ namespace kalyxo {
 
 using platform::BinaryFile;
 using platform::CArchive;
-using platform::CRuntimeClass;
 using platform::FileHandle;
 using platform::FileSystem;
 
@@ -28,7 +27,7 @@ constexpr std::array kClasses = {&CBMFolder::runtimeClass, &CBMBrowse::runtimeCl
 std::unique_ptr<CBookmark> loadRecord(CArchive& archive, bool first) {
     std::unique_ptr<platform::CObject> object = archive.LoadObject();
     std::unique_ptr<CBookmark> record(dynamic_cast<CBookmark*>(object.get()));
-    if (record) object.release();
+    if (record) (void)object.release();
     if (record && first && !IsFolder(*record)) return nullptr;
     return record;
 }

@@ -17,6 +17,7 @@ constexpr std::uint16_t kSchema = 1;
 
 /// A record with the parts of another one.
 template <class Record>
+// NOLINTNEXTLINE(performance-unnecessary-value-param): it is moved from
 std::unique_ptr<Record> named(std::string name) {
     auto record = std::make_unique<Record>();
     record->name = std::move(name);
@@ -74,7 +75,7 @@ void CBMDataAn::exchangeBlocks(CArchive& archive) {
 
 std::unique_ptr<CBookmark> CBMDataAn::Renamed(std::string newName) const {
     auto record = named<CBMDataAn>(std::move(newName));
-    static_cast<AnalyserState&>(*record) = *this;
+    static_cast<AnalyserState&>(*record) = static_cast<const AnalyserState&>(*this);
     return record;
 }
 

@@ -15,6 +15,7 @@ struct FileVersionNumbers {
     std::uint32_t most = 0;   ///< first part × 65536 + second
     std::uint32_t least = 0;  ///< third part × 65536 + fourth
 
+    // NOLINTNEXTLINE(modernize-use-nullptr): taken for a null pointer
     friend auto operator<=>(const FileVersionNumbers&, const FileVersionNumbers&) = default;
 };
 

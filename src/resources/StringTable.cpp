@@ -17,7 +17,7 @@ constexpr std::array kStrings = {
                    "OLE initialization failed.  Make sure that the OLE libraries are the correct version."},
     StringResource{IDS_BOOKMARK_PERIODIC_TABLE, "Periodic Table"},
     StringResource{IDS_BOOKMARK_DATA_ANALYSER, "Data Analyser"},
-    StringResource{IDS_SETTINGS_KEY, "Software\\Orvane\\Kalyxo Greek\\"},
+    StringResource{IDS_SETTINGS_KEY, R"(Software\Orvane\Kalyxo Greek\)"},
     StringResource{IDS_APP_TITLE, "Kalyxo"},
     StringResource{IDS_BOOKMARKS_NOT_CREATED, "Δεν είναι δυνατή η εγγραφή του αρχείου σελιδοδείκτη: "_gr},
     StringResource{IDS_BOOKMARKS_NOT_WRITTEN,

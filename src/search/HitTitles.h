@@ -19,6 +19,7 @@ struct HitTexts {
     std::string topic;     ///< the section
     std::string subgroup;  ///< the page that holds the entry; empty for a page
 
+    // NOLINTNEXTLINE(modernize-use-nullptr): taken for a null pointer
     friend auto operator<=>(const HitTexts&, const HitTexts&) = default;
 };
 

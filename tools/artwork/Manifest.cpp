@@ -51,7 +51,8 @@ std::variant<Palette, Failure> readPalette(const QString& path) {
         auto& target = palette[QString::fromStdString(set)];
         for (const auto& [name, paint] : colours.items()) {
             if (!paint.is_string())
-                return Failure{path, QString::fromStdString(set + "." + name + " is not a text")};
+                return Failure{path, QStringLiteral("%1.%2 is not a text")
+                                         .arg(QString::fromStdString(set), QString::fromStdString(name))};
             target[QString::fromStdString(name)] = QString::fromStdString(paint.get<std::string>());
         }
     }

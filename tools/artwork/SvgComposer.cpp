@@ -32,10 +32,9 @@ std::variant<QDomDocument, Failure> load(const QString& path) {
 /// One walk over a source and all that it brings in.
 class Walk {
   public:
-    Walk(const Palette& palette, QDomDocument document)
-        : m_palette(palette), m_document(std::move(document)) {}
+    Walk(const Palette& palette, const QDomDocument& document) : m_palette(palette), m_document(document) {}
 
-    Problem resolve(QDomElement element, const QString& path, const Colours& colours, int depth) {
+    Problem resolve(const QDomElement& element, const QString& path, const Colours& colours, int depth) {
         if (Problem problem = paint(element, path, colours)) return problem;
         if (Problem problem = checkFont(element, path)) return problem;
         for (QDomElement child = element.firstChildElement(); !child.isNull();) {
@@ -57,7 +56,7 @@ class Walk {
     }
 
   private:
-    Problem include(QDomElement use, const QString& href, const QString& from, const Colours& colours,
+    Problem include(const QDomElement& use, const QString& href, const QString& from, const Colours& colours,
                     int depth) {
         if (depth >= kDeepestNesting) return Failure{from, "too many files inside one another at " + href};
         const QString path = QFileInfo(from).absolutePath() + "/" + href;
@@ -90,7 +89,7 @@ class Walk {
             group.appendChild(m_document.importNode(node, true));
     }
 
-    static Problem paint(QDomElement element, const QString& path, const Colours& colours) {
+    static Problem paint(const QDomElement& element, const QString& path, const Colours& colours) {
         static const QRegularExpression variable(R"(^var\(--([a-z0-9-]+)\)$)");
         const QDomNamedNodeMap attributes = element.attributes();
         for (int i = 0; i < attributes.count(); ++i) {
