@@ -28,7 +28,9 @@ namespace {
 constexpr int labelPixels = 11;
 constexpr int titlePixels = 12;
 constexpr int headingPixels = 15;
-constexpr int tickPixels = 80;
+// Least distances of ticks: numbers beside each other need more room than those above each other.
+constexpr double tickPixelsAcross = 80;
+constexpr double tickPixelsUp = 45;
 constexpr int roomForLegend = 560;
 constexpr double legendLine = 22;
 constexpr double legendSurroundings = 50;
@@ -58,9 +60,9 @@ QAbstractAxis* makeLogarithmicAxis(const AxisRange& range) {
     return axis;
 }
 
-QAbstractAxis* makeLinearAxis(const AxisRange& range, double pixels, double leastDistance) {
+QAbstractAxis* makeLinearAxis(const AxisRange& range, double ticks, double leastDistance) {
     auto* axis = new QValueAxis();
-    const int parts = std::max(2, static_cast<int>(pixels / tickPixels));
+    const int parts = std::max(2, static_cast<int>(ticks));
     const double distance = std::max(tickDistance(range.span(), parts), leastDistance);
     axis->setTickType(QValueAxis::TicksDynamic);
     axis->setTickAnchor(0);
@@ -72,9 +74,9 @@ QAbstractAxis* makeLinearAxis(const AxisRange& range, double pixels, double leas
     return axis;
 }
 
-QAbstractAxis* makeAxis(const AxisRange& range, const QString& title, double pixels, double leastDistance) {
+QAbstractAxis* makeAxis(const AxisRange& range, const QString& title, double ticks, double leastDistance) {
     QAbstractAxis* axis =
-        range.logarithmic ? makeLogarithmicAxis(range) : makeLinearAxis(range, pixels, leastDistance);
+        range.logarithmic ? makeLogarithmicAxis(range) : makeLinearAxis(range, ticks, leastDistance);
     axis->setTitleText(title);
     axis->setTitleFont(appearance::font(titlePixels, QFont::DemiBold));
     axis->setLabelsFont(appearance::font(labelPixels));
@@ -147,14 +149,14 @@ int GraphChart::hoveredRow() const {
 void GraphChart::setAxes(const Graph& graph, const AxisRange& x, const AxisRange& y) {
     const bool bars = graph.plan.kind == GraphKind::bar;
     const bool counts = graph.plan.kind == GraphKind::histogram;
-    QAbstractAxis* across = makeAxis(x, toQt(graph.xTitle), size().width(), 0);
+    QAbstractAxis* across = makeAxis(x, toQt(graph.xTitle), size().width() / tickPixelsAcross, 0);
     if (bars) {
         across->setLabelsVisible(false);
         across->setGridLineVisible(false);
         across->setTitleVisible(false);
     }
     addAxis(across, Qt::AlignBottom);
-    addAxis(makeAxis(y, toQt(graph.yTitle), size().height(), counts ? 1 : 0), Qt::AlignLeft);
+    addAxis(makeAxis(y, toQt(graph.yTitle), size().height() / tickPixelsUp, counts ? 1 : 0), Qt::AlignLeft);
 }
 
 void GraphChart::addSeries(QXYSeries& series) {
