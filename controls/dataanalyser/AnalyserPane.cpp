@@ -137,18 +137,19 @@ void AnalyserPane::refreshView() {
 QString AnalyserPane::leftOutNote() const {
     const int rows = graph_ && analyser_.graphShown() ? graph_->leftOut() : 0;
     if (rows == 0) return {};
-    return rows == 1 ? QStringLiteral(" · 1 γραμμή δεν έχει τιμή που να φαίνεται εδώ")
-                     : QStringLiteral(" · %1 γραμμές δεν έχουν τιμή που να φαίνεται εδώ").arg(rows);
+    return rows == 1 ? QStringLiteral("1 γραμμή δεν έχει τιμή που να φαίνεται εδώ")
+                     : QStringLiteral("%1 γραμμές δεν έχουν τιμή που να φαίνεται εδώ").arg(rows);
 }
 
 void AnalyserPane::refreshMessage() {
     const std::string& source = analyser_.dataSet().source;
-    QString note;
-    if (!source.empty()) note = QStringLiteral("Πηγή: %1").arg(toQt(source));
-    note += leftOutNote();
+    // What a narrow window cuts off is the end of the source.
+    QStringList notes;
+    if (const QString leftOut = leftOutNote(); !leftOut.isEmpty()) notes += leftOut;
+    if (!source.empty()) notes += QStringLiteral("Πηγή: %1").arg(toQt(source));
     QStringList warnings;
     for (const std::string& remark : analyser_.library().remarks()) warnings += toQt(remark);
-    message_->setTexts(note, warnings);
+    message_->setTexts(notes.join(QStringLiteral(" · ")), warnings);
 }
 
 void AnalyserPane::keyPressEvent(QKeyEvent* event) {

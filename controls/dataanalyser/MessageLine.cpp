@@ -25,8 +25,9 @@ QSize MessageLine::sizeHint() const { return {300, lineHeight}; }
 void MessageLine::setTexts(const QString& note, const QStringList& warnings) {
     note_ = note;
     warnings_ = warnings;
-    setToolTip(warnings.join(u'\n'));
-    setAccessibleDescription((QStringList(note) + warnings).join(u'\n'));
+    const QString whole = (QStringList(note) + warnings).join(u'\n');
+    setToolTip(whole);
+    setAccessibleDescription(whole);
     update();
 }
 
