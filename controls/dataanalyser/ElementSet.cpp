@@ -59,12 +59,25 @@ double yearValue(const Element& element) {
     return element.discovered == antiquity ? beforeAllYears : element.discovered;
 }
 
+/// Those that the columns of melting and boiling points need a remark for: "C, As".
+std::string sublimingElements() {
+    std::string symbols;
+    for (const Element& element : elements()) {
+        if (!element.sublimes()) continue;
+        if (!symbols.empty()) symbols += ", ";
+        symbols += element.symbol;
+    }
+    return symbols;
+}
+
 }  // namespace
 
 formats::DataSet elementSet() {
     formats::DataSet set;
     set.title = "Χημικά στοιχεία"_gr;
-    set.source = "Blue Obelisk Data Repository, IUPAC";
+    set.source = "Blue Obelisk Data Repository, IUPAC ("_gr;
+    set.source += sublimingElements();
+    set.source += ": εξάχνωση αντί για βρασμό, τήξη υπό πίεση)"_gr;
     for (const Element& element : elements()) set.rowIds.push_back(static_cast<std::int16_t>(element.number));
     set.columns = {
         numbers(

@@ -50,6 +50,11 @@ TEST(AnalyserRows, AntiquityIsOlderThanAnyYear) {
     EXPECT_GT(graph.whole.x.from, 1000) << "but no year that a graph could show";
 }
 
+TEST(AnalyserRows, ElementsThatSublimeAreTold) {
+    const std::string source = platform::toUtf8(elementSet().source);
+    EXPECT_TRUE(source.ends_with("(C, As: εξάχνωση αντί για βρασμό, τήξη υπό πίεση)")) << source;
+}
+
 TEST(AnalyserRows, TypedCharactersFindThem) {
     const auto set = elementSet();
     const auto rows = ordered(set, {});
