@@ -56,7 +56,9 @@ QAbstractAxis* makeLogarithmicAxis(const AxisRange& range) {
     axis->setBase(10);
     axis->setLabelFormat(QStringLiteral("%.6g"));
     axis->setMinorTickCount(8);
-    axis->setRange(range.from, range.to);
+    // The axis finds its decades with ln x / ln 10, by which 0.1 comes to lie above −1 and would have no
+    // label.
+    axis->setRange(range.from * (1 - 1e-9), range.to * (1 + 1e-9));
     return axis;
 }
 
