@@ -121,7 +121,13 @@ void DialogWidget::end() {
     SurfaceWidget::end();
 }
 
-bool DialogWidget::event(QEvent* event) { return frame_.takes(*event) || SurfaceWidget::event(event); }
+bool DialogWidget::event(QEvent* event) {
+    // A browser in the dialog may have Qt make the native window anew, and show it before it is modal again.
+    if (event->type() == QEvent::WinIdChange && loop_ && windowHandle()) {
+        windowHandle()->setModality(Qt::ApplicationModal);
+    }
+    return frame_.takes(*event) || SurfaceWidget::event(event);
+}
 
 void DialogWidget::paintEvent(QPaintEvent* event) {
     SurfaceWidget::paintEvent(event);

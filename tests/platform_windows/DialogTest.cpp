@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QTest>
+#include <QWindow>
 #include <array>
 
 #include "platform/handles/WindowTable.h"
@@ -68,6 +69,24 @@ class DialogTest : public ProgramTest {
     }
     TestDialog dialog_;
 };
+
+/// What Qt does with the window of a dialog in which a browser comes to life.
+struct NativeWindow : QWidget {
+    static void makeAnew(QWidget& widget) {
+        (widget.*&NativeWindow::destroy)(true, true);
+        (widget.*&NativeWindow::create)(0, true, true);
+        widget.windowHandle()->setVisible(true);
+    }
+};
+
+TEST_F(DialogTest, KeepsInputFromOthersWhenItsNativeWindowIsMadeAnew) {
+    show([&] {
+        NativeWindow::makeAnew(widgetOf(dialog_));
+        EXPECT_EQ(QApplication::activeModalWidget(), &widgetOf(dialog_));
+        dialog_.EndDialog(IDOK);
+    });
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
 
 TEST(DialogUnits, BecomePixels) {
     struct Case {
