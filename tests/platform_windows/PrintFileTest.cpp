@@ -1,9 +1,9 @@
 #include <filesystem>
-#include <fstream>
 
 #include "platform/printing/PrintJob.h"
 #include "platform/windows/PrinterDC.h"
 #include "tests/platform_windows/TestProgram.h"
+#include "tests/support/TestFolder.h"
 
 namespace windows_test {
 
@@ -16,32 +16,27 @@ namespace fs = std::filesystem;
 /// A desktop without a printer: what is printed lands in the user's folder, which may not be there.
 class PrintFileTest : public ProgramTest {
   protected:
-    PrintFileTest() : root_(fs::path(::testing::TempDir()) / "kalyxo-print-files") {
-        fs::remove_all(root_);
-        fs::create_directories(root_);
+    PrintFileTest() {
         setPrintListener([this](const std::string& file, bool written) {
-            told_.push_back(fs::path(file).lexically_relative(root_).string() +
+            told_.push_back(fs::path(file).lexically_relative(root_.path()).string() +
                             (written ? " written" : " not"));
         });
     }
-    ~PrintFileTest() override {
-        setPrintListener({});
-        fs::remove_all(root_);
-    }
+    ~PrintFileTest() override { setPrintListener({}); }
 
     /// Prints an empty page; whether it was begun.
     bool printTo(const fs::path& folder) {
         MachineConfig config;
         config.printer = PrinterConfig();
         config.printer->folder = folder;
-        Machine desktop(root_, config, Registry());
+        Machine desktop(root_.path(), config, Registry());
         setMachine(&desktop);
         const bool begun = CPrinterDC::Start("page").has_value();
         setMachine(&machine_);
         return begun;
     }
 
-    fs::path root_;
+    TestFolder root_;
     Lines told_;
 };
 
@@ -53,7 +48,7 @@ TEST_F(PrintFileTest, TellsOfEachFileAndMakesItsFolder) {
 }
 
 TEST_F(PrintFileTest, TellsOfAFileThatCannotBeWritten) {
-    std::ofstream(root_ / "file") << "no folder";
+    root_.write("file", "no folder");
     EXPECT_FALSE(printTo(root_ / "file/Documents"));
     EXPECT_EQ(told_, Lines{"file/Documents/print-1.pdf not"});
 }
