@@ -110,9 +110,11 @@ void WebBrowserControl::navigate(const std::string& address, const Variant& flag
     const auto* number = flags.get<std::int32_t>();
     record(TraceNavigate{controlId(), address, number ? *number : 0});
     const QUrl url = normalisedUrl(urlOfAddress(address));
+    if (!passes(QUrl(), url)) return;
+    // Asked only now: the page may have been made while a handler showed a message.
     if (page_) {
-        page_->navigate(url);
-    } else if (passes(QUrl(), url)) {
+        page_->open(url);
+    } else {
         awaited_ = url;
     }
 }

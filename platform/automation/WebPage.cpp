@@ -37,8 +37,6 @@ WebPage::WebPage(Gate gate, QObject* parent)
             [this](const QWebEngineNewWindowRequest& request) { requestLater(request.requestedUrl()); });
 }
 
-void WebPage::navigate(const QUrl& url) { go(QUrl(), url); }
-
 void WebPage::go(const QUrl& asking, const QUrl& url) {
     const QUrl target = normalisedUrl(url);
     const QPointer<WebPage> alive(this);

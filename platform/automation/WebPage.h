@@ -12,7 +12,7 @@
 
 namespace platform {
 
-/// A page of the engine whose every change of address, by the program or by the page, first passes a gate.
+/// A page of the engine: wherever it wants to lead by itself first passes a gate.
 ///
 /// The engine asks whether a navigation may go on while it is inside its own work; a dialog shown at that
 /// moment could load nothing. So a page's request is refused there, put to the gate once the engine has
@@ -21,8 +21,7 @@ class WebPage : public QWebEnginePage {
     Q_OBJECT
 
   public:
-    /// Says whether a navigation may go on that the page at `asking` wants; that address is empty when it is
-    /// the program that wants it. The gate may run an event loop.
+    /// Says whether a navigation may go on that the page at `asking` wants. The gate may run an event loop.
     using Gate = std::function<bool(const QUrl& asking, const QUrl& url)>;
 
     /// Takes a command that a component's part of the page sends (see PagePart): class id and number.
@@ -32,8 +31,6 @@ class WebPage : public QWebEnginePage {
 
     void setCommandHandler(CommandHandler handler) { commandHandler_ = std::move(handler); }
 
-    /// Asks the gate at once, and goes to the address if it lets it pass.
-    void navigate(const QUrl& url);
     /// Goes to an address that the gate has let pass, in its normalised form.
     void open(const QUrl& url);
     /// Loads the page again, without asking the gate.

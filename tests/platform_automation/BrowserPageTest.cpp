@@ -60,6 +60,16 @@ TEST_F(BrowserMachine, StartsItsEngineOnceTheWindowIsSeenOrAfterAWhile) {
     }
 }
 
+TEST_F(BrowserMachine, GoesWhereItWasSentAlthoughItsEngineStartedMeanwhile) {
+    write("D:\\1.htm", "<TITLE>1</TITLE>");
+    refuses = [this](const std::string&) {
+        EXPECT_TRUE(runUntil([this] { return input() != nullptr; }));
+        return false;
+    };
+    open("D:\\1.htm");
+    EXPECT_EQ(title(), "1");
+}
+
 TEST_F(BrowserMachine, FollowsTheRedirectPageBeforeItIsIdle) {
     write("C:\\Kalyxo\\cache\\redirect.htm",
           "<HTML><HEAD><META HTTP-EQUIV=\"Refresh\" Content=\"0; URL=C:\\Kalyxo\\cache\\1.htm\"></HEAD>"
