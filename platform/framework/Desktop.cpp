@@ -1,7 +1,6 @@
 #include "platform/framework/Desktop.h"
 
 #include <QApplication>
-#include <QFont>
 #include <QScreen>
 #include <QStandardPaths>
 #include <QTimer>
@@ -13,6 +12,7 @@
 #include "platform/printing/PrintJob.h"
 #include "platform/text/CodePage1253.h"
 #include "platform/text/GreekLiteral.h"
+#include "platform/windows/ProgramFont.h"
 
 namespace platform {
 
@@ -28,13 +28,8 @@ constexpr int dotsPerInch = 600;
 constexpr int a4Width = 4960;
 constexpr int a4Height = 7016;
 
-/// What is not told another font shows this one.
-QFont programFont() {
-    constexpr int pixels = 13;
-    QFont font(QStringLiteral("Liberation Sans"));
-    font.setPixelSize(pixels);
-    return font;
-}
+/// How high the letters are of what is not told another font.
+constexpr int fontPixels = 13;
 
 /// Without a printer nothing else shows that something came of it. Told later: the print may be under way.
 void tellOfPrint(const std::string& file, bool written) {
@@ -55,7 +50,7 @@ Desktop::Desktop(int& argc, char** argv) : application_(makeApplication(argc, ar
     // The name under which the desktop knows the program's windows.
     QGuiApplication::setDesktopFileName(QStringLiteral("kalyxo"));
     QApplication::setStyle(std::make_unique<ProgramStyle>().release());
-    QApplication::setFont(programFont());
+    QApplication::setFont(programFont(fontPixels));
     wearLightPalette();
     setPrintListener(tellOfPrint);
 }

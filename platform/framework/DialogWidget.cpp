@@ -1,7 +1,6 @@
 #include "platform/framework/DialogWidget.h"
 
 #include <QCloseEvent>
-#include <QFont>
 #include <QScreen>
 #include <QWindow>
 
@@ -10,6 +9,7 @@
 #include "platform/framework/LightPalette.h"
 #include "platform/handles/WindowTable.h"
 #include "platform/machine/Machine.h"
+#include "platform/windows/ProgramFont.h"
 #include "platform/windows/QtConvert.h"
 
 namespace platform {
@@ -18,12 +18,6 @@ namespace {
 
 /// As high as the letters of which the dialog units are made.
 constexpr int fontPixels = 11;
-
-QFont dialogFont() {
-    QFont font(QStringLiteral("Liberation Sans"));
-    font.setPixelSize(fontPixels);
-    return font;
-}
 
 QMargins frameByMetrics() {
     if (!hasMachine()) return {};
@@ -54,7 +48,7 @@ DialogWidget::DialogWidget(CDialog& owner, const DialogTemplate& drawnUp, QWidge
     setAttribute(Qt::WA_ShowWithoutActivating, drawnUp.frame != DialogFrame::window);
     setWindowTitle(toQt(drawnUp.caption));
     setPalette(lightPalette());
-    setFont(dialogFont());
+    setFont(programFont(fontPixels));
     createControls(drawnUp.controls, *this);
     const CSize client = dialogPixels(drawnUp.size);
     setFixedSize(QSize(client.cx, client.cy).grownBy(frame_.margins()));

@@ -8,6 +8,7 @@
 #include "platform/windows/ControlLink.h"
 #include "platform/windows/LineEdit.h"
 #include "platform/windows/MultiLineEdit.h"
+#include "platform/windows/ProgramFont.h"
 #include "platform/windows/QtConvert.h"
 #include "platform/windows/WindowWidget.h"
 
@@ -33,9 +34,7 @@ bool CEdit::Create(DWORD style, const CRect& rect, CWnd& parent, UINT id) {
 }
 
 void CEdit::SetFont(const LOGFONT& font) {
-    // Metrically the same as the faces that the program names.
-    QFont installed(QStringLiteral("Liberation Sans"));
-    installed.setPixelSize(std::abs(font.height));
+    QFont installed = programFont(std::abs(font.height));
     installed.setWeight(static_cast<QFont::Weight>(font.weight));
     if (QWidget* const widget = widgetOf(*this)) widget->setFont(installed);
 }
