@@ -1,4 +1,6 @@
-#include "platform/windows/MessageMap.h"
+#include <QLineEdit>
+#include <array>
+
 #include "tests/platform_windows/TestProgram.h"
 
 namespace windows_test {
@@ -7,63 +9,40 @@ using namespace platform;
 
 namespace {
 
-class Base : public CCmdTarget {
-  public:
-    const MessageMap* GetMessageMap() const override {
-        static constexpr MessageMapEntry entries[] = {OnCommandId<&Base::onOne>(1),
-                                                      OnCommandId<&Base::onTwo>(2)};
-        static const MessageMap map{nullptr, entries};
-        return &map;
-    }
-    std::string done;
-
-  protected:
-    void onOne() { done += "base1 "; }
-    void onTwo() { done += "base2 "; }
-};
-
-class Derived : public Base {
-  public:
-    const MessageMap* GetMessageMap() const override {
-        static constexpr MessageMapEntry entries[] = {OnCommandId<&Derived::onOne>(1)};
-        static const MessageMap map{Base::GetMessageMap(), entries};
-        return &map;
-    }
-
-  private:
-    void onOne() { done += "derived1 "; }
-};
-
-TEST(MessageMapTest, LooksFromTheClassDownToItsBases) {
-    Derived target;
-    EXPECT_TRUE(target.OnCmdMsg(1, CommandMessage::execute, nullptr));
-    EXPECT_TRUE(target.OnCmdMsg(2, CommandMessage::execute, nullptr));
-    EXPECT_FALSE(target.OnCmdMsg(3, CommandMessage::execute, nullptr));
-    EXPECT_EQ(target.done, "derived1 base2 ");
-}
-
 class CommandTest : public ProgramTest {};
 
-TEST_F(CommandTest, GoesToViewDocumentFrameAndApplication) {
+TEST_F(CommandTest, GoesToViewDocumentFrameAndApplicationUnlessItsRuleDisablesIt) {
     open();
     log().clear();
     for (const UINT id : {idSwitchable, idByDocument, idByApplication}) EXPECT_TRUE(frame().RunCommand(id));
     EXPECT_FALSE(frame().RunCommand(idUnhandled));
+    view().enabled = false;
+    EXPECT_FALSE(frame().RunCommand(idSwitchable));
     EXPECT_EQ(log().lines(), (Lines{"view command", "document command", "application command"}));
+    frame().SendMessage(WM_COMMAND, idSwitchable);
+    EXPECT_EQ(log().count("view command"), 1U);
 }
 
-TEST_F(CommandTest, IsNotCarriedOutWhenItsRuleDisablesIt) {
+/// A text field inside of the view, where Ctrl+Z undoes what was typed.
+TEST_F(CommandTest, AcceleratorsRunItInsteadOfReachingTheTextField) {
     open();
-    view().enabled = false;
+    QLineEdit edit(&widgetOf(view()));
+    edit.show();
+    edit.setFocus();
+    pressKey(Qt::Key_A);
     log().clear();
-    EXPECT_FALSE(frame().RunCommand(idSwitchable));
-    frame().SendMessage(WM_COMMAND, idSwitchable);
-    view().SendMessage(WM_COMMAND, idSwitchable);
-    EXPECT_EQ(log().count("view command"), 0U);
-    view().enabled = true;
-    frame().SendMessage(WM_COMMAND, idSwitchable);
-    view().SendMessage(WM_COMMAND, idSwitchable);
-    EXPECT_EQ(log().count("view command"), 2U);
+    pressKey(Qt::Key_Z, Qt::ControlModifier);
+    pressKey(Qt::Key_Backspace, Qt::AltModifier);
+    pressKey(Qt::Key(0x0396), Qt::ControlModifier);
+    EXPECT_EQ(log().count("view command"), 3U) << "the third is the same key on a Greek keyboard";
+    pressKey(Qt::Key_Z, Qt::ControlModifier | Qt::AltModifier);
+    pressKey(Qt::Key_Z);
+    EXPECT_EQ(log().count("view command"), 3U) << "with exactly their modifiers";
+    EXPECT_EQ(edit.text().toStdString(), "az");
+    view().enabled = false;
+    pressKey(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(log().count("view command"), 3U);
+    EXPECT_EQ(edit.text().toStdString(), "") << "disabled, it goes on to the text field";
 }
 
 TEST_F(CommandTest, EventsReachTheSinkOnlyWithTheArgumentsItDeclares) {

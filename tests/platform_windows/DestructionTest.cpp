@@ -48,20 +48,6 @@ TEST_F(DestructionTest, AHandlerMayDestroyChildrenAndTheWindowAgain) {
               (Lines{"frame WM_DESTROY", "view WM_DESTROY", "first WM_DESTROY", "second WM_DESTROY"}));
 }
 
-TEST_F(DestructionTest, HandlesAreNeverGivenOutTwice) {
-    TestWnd window;
-    HWND last = 0;
-    for (int i = 0; i < 5; ++i) {
-        ASSERT_TRUE(window.CreateWnd("", WS_CHILD, {0, 0, 5, 5}, view(), 1));
-        EXPECT_GT(window.GetSafeHwnd(), last);
-        EXPECT_EQ(CWnd::FromHandle(window.GetSafeHwnd()), &window);
-        last = window.GetSafeHwnd();
-        window.DestroyWindow();
-        EXPECT_EQ(CWnd::FromHandle(last), nullptr);
-        settle();
-    }
-}
-
 TEST_F(DestructionTest, EntriesVanishWithTheirWidget) {
     WindowTable& table = WindowTable::instance();
     auto widget = std::make_unique<QWidget>(&widgetOf(view()));
@@ -81,9 +67,9 @@ TEST_F(DestructionTest, EntriesVanishWithTheirWidget) {
     EXPECT_EQ(SendMessage(window, WM_COPY), 0);
     settle();
     EXPECT_EQ(received, 2);
-    EXPECT_EQ(table.find(0), nullptr);
-    EXPECT_EQ(table.find(-1), nullptr);
-    EXPECT_EQ(table.find(1'000'000), nullptr);
+    for (const HWND none : {0, -1, 1'000'000}) EXPECT_EQ(table.find(none), nullptr);
+    QWidget other;
+    EXPECT_GT(table.add({&other, "Edit", 3, {}}), window) << "no handle is given out twice";
 }
 
 TEST_F(DestructionTest, AWindowEndsAtTheLatestWithItsObject) {

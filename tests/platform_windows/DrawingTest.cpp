@@ -38,17 +38,13 @@ class DrawingTest : public ProgramTest {
     std::unique_ptr<TestWnd> window_;
 };
 
-TEST_F(DrawingTest, CopiesBitmapsPixelByPixel) {
-    CDC source = bitmapDC(1);
-    dc().BitBlt(2, 3, 2, 2, source, 1, 0);
-    EXPECT_EQ(row(3, 1, 5), "ffffff 00ff00 0000ff ffffff ");
-    EXPECT_EQ(row(4, 1, 5), "ffffff 000000 000000 ffffff ");
-}
-
-TEST_F(DrawingTest, StretchesWithoutBlending) {
+TEST_F(DrawingTest, CopiesBitmapsPixelByPixelAndStretchesThemWithoutBlending) {
     CDC source = bitmapDC(1);
     dc().StretchBlt(0, 0, 6, 1, source, 0, 0, 3, 1);
     EXPECT_EQ(row(0, 0, 7), "ff0000 ff0000 00ff00 00ff00 0000ff 0000ff ffffff ");
+    dc().BitBlt(2, 3, 2, 2, source, 1, 0);
+    EXPECT_EQ(row(3, 1, 5), "ffffff 00ff00 0000ff ffffff ");
+    EXPECT_EQ(row(4, 1, 5), "ffffff 000000 000000 ffffff ");
 }
 
 TEST_F(DrawingTest, CopiesOnlyWhatTheSourceHas) {

@@ -1,6 +1,5 @@
 #include <QApplication>
 #include <QContextMenuEvent>
-#include <QLineEdit>
 #include <QTest>
 
 #include "tests/platform_windows/TestProgram.h"
@@ -99,17 +98,6 @@ TEST_F(InputFilterTest, ASwallowedPressDoesNotMoveTheFocus) {
     swallowed_ = 0;
     click(view(), 35, 45, Qt::RightButton);
     EXPECT_TRUE(inner_->hasFocus());
-}
-
-TEST_F(InputFilterTest, SwallowsKeysOfTheWidgetThatHasTheFocus) {
-    QLineEdit edit(&widgetOf(view()));
-    edit.show();
-    edit.setFocus();
-    pressKey(Qt::Key_A);
-    swallowed_ = WM_KEYDOWN;
-    pressKey(Qt::Key_B);
-    EXPECT_EQ(edit.text().toStdString(), "a");
-    EXPECT_EQ(asked_, (Lines{"WM_KEYDOWN 65", "WM_KEYUP", "WM_KEYDOWN 66", "WM_KEYUP"}));
 }
 
 TEST_F(InputFilterTest, LooksAtDialogsToo) {

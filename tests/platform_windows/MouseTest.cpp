@@ -20,13 +20,6 @@ class MouseTest : public ProgramTest {
     Lines mouse() { return log().lines({"MOUSE", "BUTTON", "WM_SETCURSOR"}); }
     Lines buttons() { return log().lines({"BUTTON"}); }
 
-    /// Puts the pointer itself there, which events alone do not move.
-    static void putPointer(const CWnd& window, int x, int y) {
-        const CPoint screen = window.ClientToScreen({x, y});
-        QCursor::setPos(screen.x, screen.y);
-        settle();
-    }
-
     std::unique_ptr<TestWnd> left_;
     std::unique_ptr<TestWnd> right_;
 };
@@ -59,12 +52,6 @@ TEST_F(MouseTest, TheCursorIsAskedForBeforeEachMove) {
     left_->on(WM_SETCURSOR, {});
     moveMouse(*left_, 1, 1);
     EXPECT_EQ(widgetOf(*left_).cursor().shape(), Qt::ArrowCursor);
-}
-
-TEST_F(MouseTest, WithoutAQuestionTheCursorIsThatUnderThePointer) {
-    putPointer(*left_, 5, 6);
-    CCursor::resource(1).Set();
-    EXPECT_EQ(widgetOf(*left_).cursor().hotSpot(), QPoint(3, 5));
 }
 
 TEST_F(MouseTest, TheCapturingWindowGetsEverythingInItsOwnCoordinates) {
@@ -107,8 +94,12 @@ TEST_F(MouseTest, TheWindowUnderAPointIsOneOfTheProgramsOwn) {
     EXPECT_EQ(WindowFromPoint(left_->ClientToScreen({1, 1})), left_.get());
     EXPECT_EQ(WindowFromPoint(view().ClientToScreen({70, 70})), &view());
     EXPECT_EQ(WindowFromPoint({1, 1}), nullptr) << "beside the frame";
-    putPointer(*left_, 7, 8);
+    const CPoint screen = left_->ClientToScreen({7, 8});
+    QCursor::setPos(screen.x, screen.y);
+    settle();
     EXPECT_EQ(left_->ScreenToClient(GetCursorPos()), (CPoint{7, 8}));
+    CCursor::resource(1).Set();
+    EXPECT_EQ(widgetOf(*left_).cursor().hotSpot(), QPoint(3, 5)) << "set without a question";
 }
 
 }  // namespace

@@ -71,19 +71,6 @@ TEST_F(PaintTest, APaintContextMarksTheWindowAsPainted) {
     EXPECT_TRUE(paints().empty());
 }
 
-TEST_F(PaintTest, AHiddenWindowIsPaintedWhenItIsShown) {
-    open();
-    const auto window = child("child", CRect::at(0, 0, 50, 50));
-    window->ShowWindow(SW_HIDE);
-    log().clear();
-    window->Invalidate();
-    settle();
-    EXPECT_TRUE(paints().empty());
-    window->ShowWindow(SW_SHOW);
-    settle();
-    EXPECT_EQ(paints(), (Lines{"child WM_ERASEBKGND", "child WM_PAINT"}));
-}
-
 TEST_F(PaintTest, APaintHandlerMayMoveAndRepaintOtherWindows) {
     open();
     const auto window = child("child", CRect::at(0, 0, 50, 50));

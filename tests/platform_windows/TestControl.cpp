@@ -1,4 +1,3 @@
-#include <QHBoxLayout>
 #include <QLineEdit>
 #include <QWidget>
 #include <array>
@@ -13,8 +12,7 @@ using namespace platform;
 
 class TestControl : public Control {
     static constexpr auto table() {
-        return std::array{PropertyGet<2, &TestControl::editWindow>("EditWindow"),
-                          PropertyGet<3, &TestControl::width>("Width")};
+        return std::array{PropertyGet<2, &TestControl::editWindow>("EditWindow")};
     }
 
   public:
@@ -38,7 +36,6 @@ class TestControl : public Control {
 
   private:
     std::int32_t editWindow() { return edit_; }
-    std::int32_t width() { return widget_->width(); }
 
     QWidget* widget_;
     HWND edit_;
