@@ -34,14 +34,16 @@ TEST_F(BrowseSelectionTest, AnswersEveryPlaceThatNamesAPage) {
         {{410777, 0}, {PageChosen{410777, 410777}}, {}},
         {{410777, 778}, {ItemChosen{778}}, {}},
         {{410010, -5}, {PageChosen{410011, 410010}}, Row{1, {}}},
-        // What names no page changes nothing.
+        // What names no page changes nothing; a place of another section brings that section.
         {{0, 0}, {}, Row{1, {}}},
         {{-1, 0}, {}, Row{1, {}}},
+        {{320010, 80001}, {ItemChosen{80001}}, Row{1, 0}},
     };
     for (const auto& c : cases) {
         EXPECT_EQ(selection_.show(c.asked), c.answer) << c.asked.pageId << ' ' << c.asked.itemCode;
         EXPECT_EQ(selection_.shownRow(), c.marked) << c.asked.pageId << ' ' << c.asked.itemCode;
     }
+    EXPECT_EQ(selection_.section(), sample::history);
 }
 
 TEST_F(BrowseSelectionTest, StartPagesAnswerUnderTheirOwnNumber) {
@@ -52,12 +54,6 @@ TEST_F(BrowseSelectionTest, StartPagesAnswerUnderTheirOwnNumber) {
     for (const std::int32_t start : {410000, 170070, 370001, 550000}) {
         EXPECT_EQ(selection_.show({start, 0}), (ChoiceEvents{PageChosen{start, start}}));
     }
-}
-
-TEST_F(BrowseSelectionTest, APlaceOfAnotherSectionBringsThatSection) {
-    EXPECT_EQ(selection_.show({320010, 80001}), ChoiceEvents{ItemChosen{80001}});
-    EXPECT_EQ(selection_.section(), sample::history);
-    EXPECT_EQ(selection_.shownRow(), (Row{1, 0}));
 }
 
 TEST_F(BrowseSelectionTest, ASectionStartsAtItsStartPageWithoutAnEvent) {
@@ -82,16 +78,7 @@ TEST_F(BrowseSelectionTest, AChosenEntryBringsItsTopicWhenTheHostShowsAnother) {
     EXPECT_EQ(selection_.choose({0, 0}), (ChoiceEvents{PageChosen{740001, 740001}}))
         << "an entry of a start page is a page of its own";
     EXPECT_EQ(selection_.shownRow(), (Row{0, 0}));
-}
-
-TEST_F(BrowseSelectionTest, FindsTitles) {
-    EXPECT_EQ(selection_.pageTitle(410030), "Νερό"_gr);
-    EXPECT_EQ(selection_.pageTitle(320010), "Ο Λαβουαζιέ και ο νόμος"_gr) << "of another section";
-    EXPECT_EQ(selection_.pageTitle(740001), "Χρονολόγιο"_gr) << "of an entry that is a page of its own";
-    EXPECT_EQ(selection_.pageTitle(1), "");
-    EXPECT_EQ(selection_.itemTitle(10011), "Νάτριο"_gr);
-    EXPECT_EQ(selection_.itemTitle(80001), "Λαβουαζιέ"_gr);
-    EXPECT_EQ(selection_.itemTitle(1), "");
+    EXPECT_EQ(selection_.pageTitle(740001), "Χρονολόγιο"_gr);
 }
 
 }  // namespace

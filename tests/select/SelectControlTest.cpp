@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QWidget>
-
 #include "formats/SectionTitles.h"
 #include "formats/TitleLists.h"
 #include "tests/select/SelectHost.h"
@@ -88,15 +86,6 @@ TEST(SelectControl, EnterMessageOpensTheFirstMatchElseTheSelectedLine) {
     EXPECT_EQ(host.takeEvents(), Lines{"item 10011"}) << "the place on show is selected again";
     host.sendMessage(aux, platform::WM_PASTE, 0, 0);
     EXPECT_EQ(host.takeEvents(), Lines{});
-}
-
-TEST(SelectControl, SurvivesTheWindowThatHoldsItsWidget) {
-    SelectHost host;
-    auto window = std::make_unique<QWidget>();
-    const auto control = controls::select::createSelectControl(host, window.get());
-    window.reset();
-    EXPECT_FALSE(control->invoke(setSection, platform::InvokeKind::method,
-                                 std::array{platform::Variant(std::int16_t{1})}));
 }
 
 }  // namespace
