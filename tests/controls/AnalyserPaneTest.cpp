@@ -13,12 +13,9 @@ namespace {
 using platform::InvokeKind;
 
 bool isBlank(const QImage& picture) {
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            if (picture.pixelColor(x, y) != Qt::white) return false;
-        }
-    }
-    return true;
+    QImage white(picture.size(), QImage::Format_RGB32);
+    white.fill(Qt::white);
+    return picture.convertToFormat(QImage::Format_RGB32) == white;
 }
 
 TEST_F(AnalyserTest, FaultyRowsAreNamedInTheMessageLine) {
@@ -67,12 +64,6 @@ TEST_F(AnalyserTest, DataSetAndCategoryAreChosenInTheStrip) {
     EXPECT_EQ(boxes[1]->currentIndex(), 0);
 }
 
-TEST_F(AnalyserTest, TypingMovesTheCursor) {
-    QTest::keyClicks(&table(), QStringLiteral("au"));
-    EXPECT_EQ(property<std::int32_t>(control_, 4), 79);
-    EXPECT_EQ(selected(), std::vector<std::int16_t>{79});
-}
-
 TEST_F(AnalyserTest, CopySelectionPutsTextAndATableOnTheClipboard) {
     call(control_, 12);
     EXPECT_EQ(copiedText(), QStringLiteral("before")) << "nothing is selected";
@@ -118,7 +109,7 @@ TEST_F(AnalyserTest, GraphIsCopiedAndPrintedOnlyWhenShown) {
     EXPECT_FALSE(isBlank(site_.page));
 }
 
-TEST(AnalyserControlWithoutGraphs, SaysSoAndCopiesAndPrintsNothing) {
+TEST(AnalyserControlWithoutGraphs, SaysSo) {
     DataSite site;
     AnalyserControl control(site, nullptr, [] { return static_cast<const GraphParts*>(nullptr); });
     control.widget().show();
@@ -129,9 +120,6 @@ TEST(AnalyserControlWithoutGraphs, SaysSoAndCopiesAndPrintsNothing) {
         return label->isVisible() &&
                label->text().contains(QStringLiteral("δεν είναι δυνατό"), Qt::CaseInsensitive);
     }));
-    EXPECT_EQ(ask<std::int16_t>(control, 22, InvokeKind::method), 0);
-    call(control, 23);
-    EXPECT_TRUE(site.printed.empty());
 }
 
 TEST_F(AnalyserTest, PointerTellsThePointsName) {
@@ -167,8 +155,6 @@ TEST_F(AnalyserTest, KeysZoomMoveAndReset) {
     EXPECT_GT(graph().graphChart().marks().scenery().window.x.from, closer.x.from);
     QTest::keyClick(&graph(), Qt::Key_Home);
     EXPECT_EQ(graph().graphChart().marks().scenery().window, whole);
-    QTest::keyClick(&graph(), Qt::Key_Right);
-    EXPECT_EQ(graph().graphChart().hoverLines()[0], QStringLiteral("H, Υδρογόνο"));
 }
 
 }  // namespace

@@ -75,15 +75,15 @@ TEST(ElementCompiler, NoFaultInTheTablesPassesUnseen) {
     };
     const std::string rows = allRows();
     const std::string names(ownNames);
-    for (const auto& [corrections, own, message] :
-         std::vector<Case>{{"0\tE1\tmelting\t1\n", rows, "c:2: no atomic number"},
-                           {"119\tE1\tmelting\t1\n", rows, "c:2: no atomic number"},
-                           {"1\tE1\tcolour\t1\n", rows, "c:2: no field \"colour\""},
-                           {"1\tE2\tmelting\t1\n", rows, "c:2: number and symbol do not agree"},
-                           {"", names + "2x\tE2\tn\tf\t1\n", "o:2: no such element"},
-                           {"", names + "2\tE3\tn\tf\t1\n", "o:2: this is not the symbol of element 2"},
-                           {"", rows + "5\tE5\tn\tf\t1\n", "o:120: the second row of this element"},
-                           {"", rows.substr(0, rows.rfind("\n118\t") + 1), "no row for element 118"}}) {
+    const Case cases[] = {{"0\tE1\tmelting\t1\n", rows, "c:2: no atomic number"},
+                          {"119\tE1\tmelting\t1\n", rows, "c:2: no atomic number"},
+                          {"1\tE1\tcolour\t1\n", rows, "c:2: no field \"colour\""},
+                          {"1\tE2\tmelting\t1\n", rows, "c:2: number and symbol do not agree"},
+                          {"", names + "2x\tE2\tn\tf\t1\n", "o:2: no such element"},
+                          {"", names + "2\tE3\tn\tf\t1\n", "o:2: this is not the symbol of element 2"},
+                          {"", rows + "5\tE5\tn\tf\t1\n", "o:120: the second row of this element"},
+                          {"", rows.substr(0, rows.rfind("\n118\t") + 1), "no row for element 118"}};
+    for (const auto& [corrections, own, message] : cases) {
         EXPECT_EQ(merge(corrections, own).fault, message);
     }
     EXPECT_EQ(readTable("# note\na\tb\n1\n", "t").fault, "t:3: 1 cells under 2 names");

@@ -103,6 +103,19 @@ void refusesMisfits(platform::Control& control, const OperationInfo& operation) 
     }
 }
 
+void refusesAllBut(platform::Control& control) {
+    for (std::int32_t dispid = -2; dispid < 30; ++dispid) {
+        for (const InvokeKind kind : kinds) {
+            const auto is = [&](const OperationInfo& each) {
+                return each.dispid == dispid && each.kind == kind;
+            };
+            if (std::ranges::any_of(control.operations(), is)) continue;
+            EXPECT_FALSE(control.invoke(dispid, kind, {})) << dispid;
+            EXPECT_FALSE(control.invoke(dispid, kind, std::vector{Variant(std::int32_t{1})})) << dispid;
+        }
+    }
+}
+
 TEST(Operations, AreThoseOfTheInterfaceAndTakeTheirArgumentsOnly) {
     for (const Component& component : components) {
         SCOPED_TRACE(component.name);
@@ -114,33 +127,8 @@ TEST(Operations, AreThoseOfTheInterfaceAndTakeTheirArgumentsOnly) {
             refusesMisfits(*control, operation);
         }
         EXPECT_EQ(lines, component.operations);
+        refusesAllBut(*control);
         EXPECT_TRUE(site.events.empty());
-    }
-}
-
-TEST(Operations, OfAnotherNumberOrKindAreRefused) {
-    for (const Component& component : components) {
-        SCOPED_TRACE(component.name);
-        RecordingSite site;
-        const auto control = component.create(site, nullptr);
-        for (std::int32_t dispid = -2; dispid < 30; ++dispid) {
-            for (const InvokeKind kind : kinds) {
-                const auto is = [&](const OperationInfo& each) {
-                    return each.dispid == dispid && each.kind == kind;
-                };
-                if (std::ranges::any_of(control->operations(), is)) continue;
-                EXPECT_FALSE(control->invoke(dispid, kind, {})) << dispid;
-                EXPECT_FALSE(control->invoke(dispid, kind, std::vector{Variant(std::int32_t{1})})) << dispid;
-            }
-        }
-    }
-}
-
-TEST(Operations, TellTheVersion) {
-    for (const Component& component : components) {
-        RecordingSite site;
-        const auto control = component.create(site, nullptr);
-        EXPECT_EQ(ask<std::string>(*control, 1, control->operations()[0].kind), "1.0.40") << component.name;
     }
 }
 

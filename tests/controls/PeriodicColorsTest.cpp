@@ -83,11 +83,6 @@ TEST(ColorScale, GetsDarkerByEvenStepsForEveryKindOfColourVision) {
     }
 }
 
-TEST(ColorScale, ABeyondIsAnEnd) {
-    EXPECT_EQ(scaleColor(-1), scaleColor(0));
-    EXPECT_EQ(scaleColor(2), scaleColor(1));
-}
-
 TEST(CellLook, TextCanBeReadOnEveryCellInEveryState) {
     for (int code = 0; code < viewCount; ++code) {
         TableState state;
@@ -126,8 +121,11 @@ TEST(CellLook, KindsOfMetalsAndMatterDifferForEveryKindOfColourVision) {
     }
 }
 
-TEST(CellLook, MarksWhatIsNotKnownAndWhatIsNotYetFound) {
+TEST(CellLook, MarksWhatIsNotHighlightedNotKnownOrNotYetFound) {
     TableState state;
+    const int halogens = familyCode(Family::halogen);
+    EXPECT_EQ(lookOf(*findElement(17), state, halogens), lookOf(*findElement(17), state, 0));
+    EXPECT_EQ(lookOf(*findElement(18), state, halogens).fill, appearance::ground);
     state.view = TableView::electronegativity;
     EXPECT_EQ(lookOf(*findElement(2), state, 0).ground, CellLook::Ground::hatched);
     EXPECT_EQ(lookOf(*findElement(9), state, 0).ground, CellLook::Ground::plain);
@@ -139,13 +137,6 @@ TEST(CellLook, MarksWhatIsNotKnownAndWhatIsNotYetFound) {
     state.year = 1773;
     EXPECT_EQ(lookOf(*findElement(8), state, 0).ground, CellLook::Ground::empty);
     EXPECT_EQ(lookOf(*findElement(79), state, 0).ground, CellLook::Ground::plain);
-}
-
-TEST(CellLook, HighlightingGreysTheOtherKinds) {
-    const TableState state;
-    const int halogens = familyCode(Family::halogen);
-    EXPECT_EQ(lookOf(*findElement(17), state, halogens), lookOf(*findElement(17), state, 0));
-    EXPECT_EQ(lookOf(*findElement(18), state, halogens).fill, appearance::ground);
 }
 
 }  // namespace
