@@ -11,109 +11,12 @@ namespace {
 
 using platform::InvokeKind;
 
-/// A captured state, as a host keeps it with copies of the blocks' contents.
-struct State {
-    std::int16_t mode, viewMode, option3, option7, value9;
-    bool flag5, flag6;
-    std::int32_t option4, value8;
-    std::vector<std::byte> columns, selection;
-    std::vector<std::int32_t> entries;
-
-    bool operator==(const State&) const = default;
-};
-
-/// The count that the block of entries begins with.
-std::int32_t countAt(const AnalyserControl& control, std::int32_t location) {
-    std::int32_t count = 0;
-    const auto bytes = control.block(location);
-    EXPECT_GE(bytes.size(), sizeof count);
-    EXPECT_EQ(bytes.size() % sizeof count, 0U);
-    if (bytes.size() >= sizeof count) std::memcpy(&count, bytes.data(), sizeof count);
-    EXPECT_EQ(bytes.size() / sizeof count, static_cast<std::size_t>(count));
-    return count;
-}
-
-std::vector<std::byte> bytesAt(const AnalyserControl& control, std::int32_t location) {
-    const auto bytes = control.block(location);
-    return {bytes.begin(), bytes.end()};
-}
-
-State capture(AnalyserControl& control) {
-    State state{};
-    state.mode = ask<std::int16_t>(control, 13, InvokeKind::method);
-    const auto columns = ask<std::int32_t>(control, 14, InvokeKind::method);
-    state.columns = bytesAt(control, columns);
-    for (std::int32_t i = 0; i < countAt(control, columns) - 1; ++i) {
-        state.entries.push_back(
-            ask<std::int32_t>(control, 21, InvokeKind::method, static_cast<std::int16_t>(i)));
-    }
-    state.viewMode = property<std::int16_t>(control, 2);
-    state.option4 = property<std::int32_t>(control, 4);
-    state.option3 = property<std::int16_t>(control, 3);
-    state.flag5 = property<bool>(control, 5);
-    state.flag6 = property<bool>(control, 6);
-    state.option7 = property<std::int16_t>(control, 7);
-    state.value8 = property<std::int32_t>(control, 8);
-    state.value9 = property<std::int16_t>(control, 9);
-    state.selection = bytesAt(control, ask<std::int32_t>(control, 17, InvokeKind::method));
-    return state;
-}
-
-void restore(AnalyserControl& control, const State& state) {
-    put(control, 2, state.viewMode);
-    put(control, 6, state.flag6);
-    put(control, 3, state.option3);
-    put(control, 5, state.flag5);
-    call(control, 15, state.mode);
-    put(control, 7, state.option7);
-    call(control, 18, state.value8, state.value9, control.keepBlock(state.selection));
-    call(control, 16, control.keepBlock(state.columns));
-    for (std::size_t i = 0; i < state.entries.size(); ++i) {
-        call(control, 20, static_cast<std::int16_t>(i), state.entries[i]);
-    }
-    put(control, 4, state.option4);
-}
-
 TEST(AnalyserCreation, ReadsAndShowsNothingBeforeItIsShown) {
     RecordingSite site;  // asking it for files ends the test
     AnalyserControl control(site, nullptr, linkedGraphParts);
     call(control, 10, std::int32_t{1103}, std::string("D:\\"));
     EXPECT_EQ(property<std::int16_t>(control, 2), 0);
     EXPECT_TRUE(control.widget().children().isEmpty());
-}
-
-TEST_F(AnalyserTest, StateComesBack) {
-    const State nothing = capture(control_);
-    put(control_, 6, false);
-    put(control_, 3, std::int16_t{3});
-    put(control_, 5, true);
-    call(control_, 15, gases);
-    put(control_, 7, std::int16_t{1});
-    put(control_, 2, std::int16_t{1});
-    select({1, 4}, 4);
-    setEntry(0, 222);
-    setEntry(2, 0x10000);
-    setEntry(categoryWord, 1);
-    setEntry(graphXWord, 4);
-    setEntry(graphYWord, 3);
-    setEntry(graphOptionsWord, 6);
-    setEntry(windowLeftWord, std::bit_cast<std::int32_t>(1.5F));
-    setEntry(windowRightWord, std::bit_cast<std::int32_t>(60.0F));
-    setEntry(windowBottomWord, std::bit_cast<std::int32_t>(1.0F));
-    setEntry(windowTopWord, std::bit_cast<std::int32_t>(10.0F));
-    put(control_, 4, std::int32_t{4});
-    const State saved = capture(control_);
-    EXPECT_EQ(saved.mode, gases);
-    EXPECT_EQ(saved.value8, 4);
-    EXPECT_EQ(saved.value9, 4);
-    EXPECT_EQ(saved.entries.size(), 13U);
-
-    call(control_, 15, std::int16_t{0});
-    restore(control_, nothing);
-    EXPECT_FALSE(capture(control_) == saved);
-    restore(control_, saved);
-    EXPECT_TRUE(capture(control_) == saved);
-    EXPECT_EQ(graph().graphChart().marks().scenery().window.x, (AxisRange{1.5, 60, false}));
 }
 
 TEST_F(AnalyserTest, NonsenseFallsBack) {

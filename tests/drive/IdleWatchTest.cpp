@@ -54,18 +54,5 @@ TEST_F(IdleWatchTest, WaitsForWhatIsBusyButNotForTimers) {
     EXPECT_EQ(m_notes, "done idle ");
 }
 
-TEST_F(IdleWatchTest, IsFoundInADialogsEventLoopToo) {
-    later([this] {
-        m_watch.begin();
-        note("opened ");
-        EXPECT_TRUE(runLoop(m_loop));
-        note("closed ");
-    });
-    QEventLoop outer;
-    later([&] { outer.quit(); });
-    ASSERT_TRUE(runLoop(outer));
-    EXPECT_EQ(m_notes, "opened idle closed ");
-}
-
 }  // namespace
 }  // namespace drive

@@ -9,7 +9,8 @@ using namespace platform;
 
 namespace {
 
-constexpr const char* classId = "11111111-2222-3333-4444-555555555555";
+/// The browse selection, which has a text field.
+constexpr const char* classId = "5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E102";
 
 class TestWrapper : public CWnd {
   public:
@@ -17,7 +18,7 @@ class TestWrapper : public CWnd {
         static constexpr CRuntimeClass runtimeClass{"CTest"};
         return runtimeClass;
     }
-    HWND editWindow() { return Invoke<std::int32_t>(2, InvokeKind::propertyGet); }
+    HWND editWindow() { return Invoke<std::int32_t>(8, InvokeKind::method); }
 };
 
 using ControlWindowTest = ProgramTest;
@@ -26,12 +27,11 @@ TEST_F(ControlWindowTest, WindowsInsideOfItHaveHandlesButNoObjectAndEndWithIt) {
     open();
     machine_.registry()
         .createKey(HKEY_CLASSES_ROOT, std::string("CLSID\\{") + classId + "}\\InprocServer32")
-        ->setString("", "M:\\test-control.ocx");
+        ->setString("", "M:\\kzselectgk.ocx");
     TestWrapper control;
     ASSERT_TRUE(control.CreateControl(classId, "Test", WS_CHILD | WS_VISIBLE, CRect::at(10, 20, 100, 60),
                                       view(), 1035));
     const HWND edit = control.editWindow();
-    EXPECT_EQ(SendMessage(edit, WM_COPY), static_cast<LRESULT>(WM_COPY));
     EXPECT_EQ(CWnd::FromHandle(edit), nullptr);
     WindowTable::instance().widget(edit)->setFocus();
     EXPECT_EQ(GetFocus(), edit);

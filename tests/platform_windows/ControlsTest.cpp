@@ -1,4 +1,3 @@
-#include <QAbstractItemView>
 #include <QApplication>
 #include <QInputMethodEvent>
 #include <QLineEdit>
@@ -8,11 +7,9 @@
 
 #include "platform/framework/DataExchange.h"
 #include "platform/framework/Dialog.h"
-#include "platform/handles/WindowTable.h"
 #include "platform/text/GreekLiteral.h"
 #include "platform/windows/Edit.h"
 #include "platform/windows/ListBox.h"
-#include "platform/windows/MessageMap.h"
 #include "platform/windows/TreeCtrl.h"
 #include "tests/platform_windows/TestProgram.h"
 
@@ -40,15 +37,6 @@ constexpr std::array dialogs = {DialogTemplate{600, "Στοιχεία"_gr, {200,
 class ControlsDialog : public CDialog {
   public:
     ControlsDialog() : CDialog(600) {}
-    const MessageMap* GetMessageMap() const override {
-        static constexpr MessageMapEntry entries[] = {
-            OnControl<&ControlsDialog::onPicked>(idList, LBN_SELCHANGE),
-            OnControl<&ControlsDialog::onDoubleClick>(idList, LBN_DBLCLK),
-        };
-        static const MessageMap map{CDialog::GetMessageMap(), entries};
-        return &map;
-    }
-
     CEdit edit;
     CListBox list;
     CListBox plain;
@@ -61,10 +49,6 @@ class ControlsDialog : public CDialog {
         DDX_Control(exchange, idPlain, plain);
         DDX_Control(exchange, idTree, tree);
     }
-
-  private:
-    void onPicked() { Log::instance().add("picked " + std::to_string(list.GetCurSel())); }
-    void onDoubleClick() { Log::instance().add("double " + std::to_string(list.GetCurSel())); }
 };
 
 class ControlsTest : public ProgramTest {
@@ -73,23 +57,9 @@ class ControlsTest : public ProgramTest {
     /// Ends the dialog after `use`.
     void show(const std::function<void()>& use) {
         ProgramTest::show(dialog_, [&] {
-            log().clear();
             use();
             dialog_.EndDialog(IDOK);
         });
-    }
-    QWidget& control(int id) { return *WindowTable::instance().widget(dialog_.GetDlgItem(id)); }
-    template <class Widget>
-    Widget& native(int id) {
-        return dynamic_cast<Widget&>(control(id));
-    }
-    void type(const QString& text) {
-        for (const QChar c : text)
-            QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), Qt::Key_unknown, c,
-                                Qt::NoModifier);
-    }
-    void key(Qt::Key key) {
-        QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), key, QString(), Qt::NoModifier);
     }
 
     ControlsDialog dialog_;
@@ -98,9 +68,9 @@ class ControlsTest : public ProgramTest {
 TEST_F(ControlsTest, TheVisibleWidthOfAnEditStopsTypingOnly) {
     show([&] {
         dialog_.GotoDlgCtrl(idNarrow);
-        auto& narrow = native<QLineEdit>(idNarrow);
+        auto& narrow = dynamic_cast<QLineEdit&>(*QApplication::focusWidget());
         narrow.setText(QStringLiteral("ΩΩΩΩ"));
-        type(QStringLiteral("Ω"));
+        QTest::sendKeyEvent(QTest::Click, &narrow, Qt::Key_unknown, QChar(u'Ω'), Qt::NoModifier);
         EXPECT_EQ(narrow.text(), QStringLiteral("ΩΩΩΩ"));
         dialog_.SetDlgItemText(idNarrow, "πολύ μακρύ"_gr);
         EXPECT_EQ(dialog_.GetDlgItemText(idNarrow), "πολύ μακρύ"_gr);
@@ -127,25 +97,6 @@ TEST_F(ControlsTest, SortedListFindsByPrefixFromTheEntryAfter) {
         for (const Case& row : cases) EXPECT_EQ(dialog_.list.FindString(row.after, row.prefix), row.found);
         dialog_.list.ResetContent();
         EXPECT_EQ(dialog_.list.FindString(0, "α"_gr), -1);
-    });
-}
-
-TEST_F(ControlsTest, ListTellsWhatTheUserSelectsAndNotWhatTheProgramDoes) {
-    show([&] {
-        for (const auto word : {"ένα"_gr, "δύο"_gr, "τρία"_gr}) dialog_.list.AddString(word);
-        dialog_.list.SetCurSel(2);
-        dialog_.list.SetCurSel(-1);
-        EXPECT_EQ(dialog_.list.GetCurSel(), -1);
-        EXPECT_EQ(log().count("picked"), 0U);
-        auto& view = native<QAbstractItemView>(idList);
-        const QPoint second = view.visualRect(view.model()->index(1, 0)).center();
-        QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, second);
-        key(Qt::Key_Down);
-        key(Qt::Key_Home);
-        QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, second);
-        QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, second);
-        EXPECT_EQ(log().lines({"picked", "double"}),
-                  (Lines{"picked 1", "picked 2", "picked 0", "picked 1", "double 1"}));
     });
 }
 

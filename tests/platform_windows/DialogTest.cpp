@@ -7,7 +7,6 @@
 
 #include "platform/handles/WindowTable.h"
 #include "platform/text/GreekLiteral.h"
-#include "platform/windows/MessageMap.h"
 #include "tests/platform_windows/TestProgram.h"
 
 namespace windows_test {
@@ -26,7 +25,6 @@ constexpr std::array controls = {
     DialogControl{DialogControlKind::defaultPushButton, IDOK, CRect::at(90, 7, 50, 14), "OK"},
     DialogControl{DialogControlKind::pushButton, IDCANCEL, CRect::at(90, 24, 50, 14), "Άκυρο"_gr},
     DialogControl{DialogControlKind::pushButton, idOther, CRect::at(90, 41, 50, 14), "Άλλο"_gr},
-    DialogControl{DialogControlKind::bitmap, IDC_STATIC, CRect::at(7, 20, 0, 0), {}, 1},
 };
 constexpr std::array dialogs = {DialogTemplate{idTemplate, "Διάλογος"_gr, {147, 62}, controls}};
 
@@ -35,14 +33,6 @@ class TestDialog : public CDialog {
     explicit TestDialog(UINT id = idTemplate) : CDialog(id) {}
     static constexpr CRuntimeClass runtimeClass{"TestDialog"};
     const CRuntimeClass& GetRuntimeClass() const override { return runtimeClass; }
-    const MessageMap* GetMessageMap() const override {
-        static constexpr MessageMapEntry entries[] = {
-            OnMessage<WM_LBUTTONDOWN, &TestDialog::onClick>(),
-            OnCommandId<&TestDialog::onOther>(idOther),
-        };
-        static const MessageMap map{CDialog::GetMessageMap(), entries};
-        return &map;
-    }
     bool endsAtOnce = false;
 
   protected:
@@ -52,12 +42,6 @@ class TestDialog : public CDialog {
         if (endsAtOnce) EndDialog(idOther);
         return CDialog::OnInitDialog();
     }
-
-  private:
-    void onClick(UINT, CPoint p) {
-        Log::instance().add("click " + std::to_string(p.x) + "," + std::to_string(p.y));
-    }
-    void onOther() { Log::instance().add("other"); }
 };
 
 class DialogTest : public ProgramTest {
@@ -132,19 +116,6 @@ TEST_F(DialogTest, EndsByButtonsKeysAndItsOwnCaption) {
         EXPECT_EQ(dialog_.GetSafeHwnd(), 0) << row.name;
         EXPECT_EQ(GetFocus(), view().GetSafeHwnd()) << row.name;
     }
-}
-
-TEST_F(DialogTest, ClicksOnTextsAndPicturesReachItsMap) {
-    show([&] {
-        log().clear();
-        click(dialog_, 5, 90);
-        click(dialog_, 12, 14);  // on a text
-        click(dialog_, 12, 34);  // on a picture
-        click(dialog_, 140, 75);
-        EXPECT_EQ(log().lines({"click", "other"}),
-                  (Lines{"click 5,90", "click 12,14", "click 12,34", "other"}));
-        dialog_.EndDialog(IDOK);
-    });
 }
 
 TEST_F(DialogTest, IsNotShownWhenItEndsAtOnceOrHasNoTemplate) {

@@ -89,17 +89,6 @@ TEST_F(InputFilterTest, SwallowsRightClicksOnPlainWidgets) {
     EXPECT_EQ(inner_->seen.size(), 3U) << "press, menu and release";
 }
 
-TEST_F(InputFilterTest, ASwallowedPressDoesNotMoveTheFocus) {
-    inner_->setFocusPolicy(Qt::ClickFocus);
-    swallowed_ = WM_RBUTTONDOWN;
-    click(view(), 35, 45, Qt::RightButton);
-    EXPECT_EQ(GetFocus(), view().GetSafeHwnd());
-    EXPECT_FALSE(inner_->hasFocus());
-    swallowed_ = 0;
-    click(view(), 35, 45, Qt::RightButton);
-    EXPECT_TRUE(inner_->hasFocus());
-}
-
 TEST_F(InputFilterTest, LooksAtDialogsToo) {
     QWidget dialog(&widgetOf(frame()), Qt::Dialog);
     Probe probe(&dialog, QRect(0, 0, 20, 20));

@@ -24,15 +24,6 @@ class MouseTest : public ProgramTest {
     std::unique_ptr<TestWnd> right_;
 };
 
-TEST_F(MouseTest, MessagesGoToTheWindowUnderThePointer) {
-    click(*left_, 5, 6);
-    click(*right_, 0, 49, Qt::RightButton);
-    click(view(), 80, 3);
-    EXPECT_EQ(buttons(),
-              (Lines{"left WM_LBUTTONDOWN 5,6", "left WM_LBUTTONUP 5,6", "right WM_RBUTTONDOWN 0,49",
-                     "right WM_RBUTTONUP 0,49", "view WM_LBUTTONDOWN 80,3", "view WM_LBUTTONUP 80,3"}));
-}
-
 TEST_F(MouseTest, ADoubleClickReplacesTheSecondPress) {
     doubleClick(*left_, 5, 6);
     EXPECT_EQ(buttons(), (Lines{"left WM_LBUTTONDOWN 5,6", "left WM_LBUTTONUP 5,6",

@@ -62,15 +62,6 @@ TEST_F(PaintTest, InvalidationEndsWithOnePaint) {
     EXPECT_EQ(shownColour(view(), 3, 3), "ff0000");
 }
 
-TEST_F(PaintTest, APaintContextMarksTheWindowAsPainted) {
-    open();
-    log().clear();
-    view().Invalidate();
-    { CPaintDC dc(view()); }
-    settle();
-    EXPECT_TRUE(paints().empty());
-}
-
 TEST_F(PaintTest, APaintHandlerMayMoveAndRepaintOtherWindows) {
     open();
     const auto window = child("child", CRect::at(0, 0, 50, 50));
