@@ -57,6 +57,13 @@ TEST(Artwork, BarPiecesJoinWithoutSeams) {
     EXPECT_LT(qGray(resource("bitmap/188.png").pixel(0, 22)), qGray(normal.pixel(472, 23)));
 }
 
+TEST(Artwork, HalftoneIsACheckerboard) {
+    const QImage image = resource("bitmap/133.png");
+    for (int y = 0; y < 8; ++y)
+        for (int x = 0; x < 8; ++x)
+            EXPECT_EQ(image.pixel(x, y) == image.pixel(0, 0), (x + y) % 2 == 0) << x << ',' << y;
+}
+
 TEST(Artwork, ButtonPicturesStandOnTheButtonFace) {
     for (const char* file : {"bitmap/166.png", "bitmap/167.png", "bitmap/168.png", "bitmap/200.png"})
         EXPECT_EQ(resource(file).pixelColor(0, 0), QColor(192, 192, 192)) << file;

@@ -72,6 +72,11 @@ TEST_F(DialogTest, KeepsInputFromOthersWhenItsNativeWindowIsMadeAnew) {
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
+TEST(DialogUnits, AreRoundedAwayFromZeroWithoutOverflow) {
+    EXPECT_EQ(dialogPixels(CSize{-1, -4}), (CSize{-2, -7}));
+    EXPECT_EQ(MulDiv(2000000, 3000, 4), 1500000000);
+}
+
 TEST_F(DialogTest, ShowsItsTemplateInTheMiddleOfTheFrame) {
     show([&] {
         const CRect place = dialog_.GetWindowRect();

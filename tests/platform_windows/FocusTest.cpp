@@ -75,11 +75,11 @@ TEST_F(FocusTest, KeysGoToTheFocusWindowAlone) {
 
 TEST_F(FocusTest, ATimerHandlerMayEndItsWindow) {
     const auto window = child("child", CRect::at(0, 0, 50, 50));
-    window->SetTimer(1, 5);
-    window->SetTimer(2, 5);
+    window->SetTimer(2, 1);
     window->KillTimer(2);
+    window->SetTimer(1, 20);
     window->on(WM_TIMER, [&](WPARAM) { window->DestroyWindow(); });
-    settleFor(40);
+    settleFor(60);
     EXPECT_EQ(log().lines({"WM_TIMER"}), Lines{"child WM_TIMER 1"});
     EXPECT_EQ(window->GetSafeHwnd(), 0);
 }

@@ -57,6 +57,8 @@ TEST_F(PaintTest, InvalidationEndsWithOnePaint) {
     view().Invalidate();
     settle();
     EXPECT_EQ(paints(), (Lines{"view WM_ERASEBKGND", "view WM_PAINT"}));
+    view().Invalidate();
+    { CPaintDC marksItAsPainted(view()); }
     settleFor(100);
     EXPECT_EQ(paints().size(), 2U);
     EXPECT_EQ(shownColour(view(), 3, 3), "ff0000");

@@ -73,6 +73,7 @@ TEST_F(BrowseSelectionTest, AChosenEntryBringsItsTopicWhenTheHostShowsAnother) {
     EXPECT_EQ(selection_.choose({1, 1}), ChoiceEvents{ItemChosen{10011}});
     EXPECT_EQ(selection_.choose({1, {}}), (ChoiceEvents{PageChosen{410011, 410010}}));
     EXPECT_EQ(selection_.shown(), (Place{410010, 0}));
+    EXPECT_EQ(selection_.pageTitle(320010), "Ο Λαβουαζιέ και ο νόμος"_gr) << "of another section";
     EXPECT_EQ(selection_.choose({2, 0}), (ChoiceEvents{PageChosen{410020, 410020}, ItemChosen{20001}}));
     selection_.setSection(sample::history);
     EXPECT_EQ(selection_.choose({0, 0}), (ChoiceEvents{PageChosen{740001, 740001}}))
