@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
 
 #include "platform/text/GreekLiteral.h"
 #include "tests/HexBytes.h"
@@ -112,83 +111,6 @@ TEST(BookmarkFile, ManyRecordsHaveTheLargeForms) {
     EXPECT_EQ(WriteBookmarks(*read), large);
 }
 
-/// Lists of any records, the same at each run.
-class RandomLists {
-  public:
-    BookmarkArray next() {
-        BookmarkArray records;
-        add<CBMFolder>(records, name());
-        const int count = below(30);
-        for (int i = 0; i < count; ++i) addRecord(records);
-        return records;
-    }
-
-  private:
-    int below(int limit) { return std::uniform_int_distribution(0, limit - 1)(random_); }
-    std::int32_t any32() { return static_cast<std::int32_t>(random_()); }
-    std::int16_t any16() { return static_cast<std::int16_t>(random_()); }
-    std::string name() {
-        std::string text(static_cast<std::size_t>(below(8) == 0 ? below(70000) : below(300)), '\0');
-        for (char& c : text) c = static_cast<char>(random_());
-        return text;
-    }
-    void addRecord(BookmarkArray& records) {
-        switch (below(4)) {
-            case 0:
-                add<CBMFolder>(records, name());
-                break;
-            case 1: {
-                auto& page = add<CBMBrowse>(records, name());
-                page.itemCode = any32();
-                page.pageId = any32();
-                page.sectionCode = any16();
-                break;
-            }
-            case 2: {
-                auto& table = add<CBMPeriodic>(records, name());
-                table.stateA = any32();
-                table.stateB = any32();
-                break;
-            }
-            default:
-                addAnalyser(records);
-        }
-    }
-    void addAnalyser(BookmarkArray& records) {
-        auto& state = add<CBMDataAn>(records, name());
-        state.mode = any16();
-        state.viewMode = any16();
-        state.option3 = any16();
-        state.option4 = any32();
-        state.flag5 = below(2);
-        state.flag6 = below(2);
-        state.option7 = any16();
-        state.value9 = any16();
-        state.value8 = below(20) - 5;
-        for (int i = 0; i < state.value8; ++i) state.value11.push_back(static_cast<std::byte>(random_()));
-        state.entryBlock.front() = 1 + below(40);
-        for (int i = 1; i < state.entryBlock.front(); ++i) {
-            state.entryBlock.push_back(any32());
-            state.entries.push_back(any32());
-        }
-    }
-
-    std::mt19937 random_{20020611};
-};
-
-TEST(BookmarkFile, WhatIsWrittenIsReadBack) {
-    RandomLists lists;
-    for (int i = 0; i < 200; ++i) {
-        const BookmarkArray records = lists.next();
-        const std::string file = WriteBookmarks(records);
-        const auto read = ReadBookmarks(file);
-        ASSERT_TRUE(read) << "list " << i;
-        ASSERT_EQ(read->size(), records.size());
-        for (std::size_t r = 0; r < records.size(); ++r) ASSERT_EQ(read->at(r)->name, records[r]->name);
-        ASSERT_EQ(WriteBookmarks(*read), file) << "list " << i;
-    }
-}
-
 TEST(BookmarkFile, RefusesDamagedFiles) {
     const std::string head = "01 00 00 00  02 00 00 00  02 00 " + kFolderClass + "01 'f' ";
     const std::string analyser =
@@ -254,36 +176,6 @@ TEST_F(BookmarksOnDisk, CopyThatCannotBeMadeDoesNotMatter) {
     EXPECT_EQ(load("C:\\b.dat"), BookmarkLoad::loaded);
     EXPECT_EQ(save("C:\\b.dat"), BookmarkSave::saved);
     EXPECT_EQ(drives_.get("C:\\b.dat"), kFileOfAllClasses);
-}
-
-TEST_F(BookmarksOnDisk, FailuresOfTheMediumAreTold) {
-    list_.ResetBookmarks();
-    drives_.put("C:\\file", "");
-    EXPECT_EQ(save("C:\\file\\b.dat"), BookmarkSave::notCreated);
-    EXPECT_EQ(save("Q:\\b.dat"), BookmarkSave::notCreated);
-    EXPECT_EQ(save("b.dat"), BookmarkSave::notCreated);
-    // A device that is full at once.
-    std::filesystem::create_symlink("/dev/full", drives_.host("C:\\full.dat"));
-    EXPECT_EQ(save("C:\\full.dat"), BookmarkSave::notWritten);
-}
-
-TEST(BookmarkList, RearrangingFreesWhatIsLeftOut) {
-    BookmarkList list;
-    list.Replace(recordsOfAllClasses());
-    const CBookmark* const first = list.Records()[0].get();
-    const CBookmark* const second = list.Records()[4].get();
-    const CBookmark* const page = list.Records()[1].get();
-    BookmarkArray added;
-    const CBookmark* const renamed = &add<CBMFolder>(added, "new");
-    add<CBMFolder>(added, "made and deleted");
-    const std::vector<const CBookmark*> order{second, page, renamed};
-    list.SetCurrentFolder(second);
-    list.Rearrange(order, std::move(added));
-    EXPECT_EQ(list.Records().size(), 3U);
-    EXPECT_EQ(list.CurrentFolderIndex(), 0U);
-    list.SetCurrentFolder(first);
-    list.Rearrange(order, {});
-    EXPECT_EQ(list.CurrentFolder(), nullptr) << "it is no longer there";
 }
 
 TEST(BookmarkRecords, RenamedRecordIsTheSameButForItsName) {

@@ -3,8 +3,6 @@
 #include <set>
 
 #include "src/components/ElementIndex.h"
-#include "src/content/BarLayout.h"
-#include "src/content/History.h"
 #include "src/content/HostedComponents.h"
 #include "src/content/KeyboardChoice.h"
 #include "src/content/MainMenuLayout.h"
@@ -16,30 +14,6 @@ namespace kalyxo {
 namespace {
 
 using platform::CPoint;
-
-TEST(HistoryTest, ANewPlaceEndsForwardFromAnywhere) {
-    History history;
-    for (int page = 1; page <= 4; ++page) history.Record({1, page, 0});
-    history.StepBack();
-    history.StepBack();
-    history.Record({1, 9, 0});
-    EXPECT_EQ(history.LastIndex(), 2);
-    EXPECT_FALSE(history.StepForward());
-}
-
-TEST(LayoutsOfTheScreens, EndAndBeginToThePixel) {
-    BarLayout bar;
-    bar.SetWidth(636);
-    EXPECT_EQ(bar.SlotAt({10, -1}), -1);
-    EXPECT_EQ(bar.Place(9, true).x, 526);
-    EXPECT_EQ(bar.Place(10, false).x, 578);
-    EXPECT_EQ(bar.Place(11, false).width, 58);
-    EXPECT_EQ(MainMenuLayout::ItemAt({40, 239}), 0);
-    EXPECT_EQ(MainMenuLayout::ItemAt({98, 291}), 0);
-    EXPECT_EQ(MainMenuLayout::ItemAt({99, 291}), -1);
-    EXPECT_EQ(MainMenuLayout::Origin({1000, 700}, {628, 384}), (CPoint{186, 183}));
-    EXPECT_EQ(MainMenuLayout::Origin({600, 300}, {628, 384}), (CPoint{-14, 50}));
-}
 
 /// Which way an arrow key goes, by its letter.
 platform::UINT arrow(char way) {

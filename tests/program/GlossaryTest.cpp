@@ -10,29 +10,6 @@ namespace {
 
 using platform::CRect;
 
-TEST(GlossaryLinkTest, OnlyAddressesOfThatFormAreTakenOver) {
-    const struct {
-        std::string_view url;
-        bool enlarged;
-        std::optional<std::string> file;
-    } cases[] = {
-        {"D:\\a.htm", true, std::nullopt},
-        {"D:\\A.HTM", true, std::nullopt},
-        {"DD:\\a.htm", false, std::nullopt},
-        {":\\a.htm", false, std::nullopt},
-        {"", false, std::nullopt},
-        {"D:\\1.htm", false, std::nullopt},
-        {"c:\\cache\\PJQBHG12345678.HTM", false, "12345678.htm"},
-        {"pjqbhg", false, ""},
-        {"pjqbhg/pjqbhgx.htm", false, "/pjqbhgx.htm"},
-        {"c:\\pjqbh\\g.htm", false, std::nullopt},
-    };
-    for (const auto& c : cases) {
-        EXPECT_EQ(IsEnlargedViewLink(c.url), c.enlarged) << c.url;
-        EXPECT_EQ(GlossaryFile(c.url), c.file) << c.url;
-    }
-}
-
 TEST(DefinitionTest, IsWhatFollowsTheFirstLine) {
     const std::string longTitle(49, 't');
     const std::string longLine(4998, 'x');
