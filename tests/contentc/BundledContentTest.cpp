@@ -75,11 +75,4 @@ TEST_F(BundledContent, FormsOfAWordAreInOneGroupAndOtherWordsInAnother) {
     EXPECT_EQ(groupOf("και"_gr), 0);
 }
 
-TEST_F(BundledContent, HasTheMainMenuPictures) {
-    for (const char* name :
-         {"mainmenu", "pte", "da", "cm", "struct", "ca", "ec", "source", "history", "concepts"}) {
-        EXPECT_TRUE(dataFile("images\\" + std::string(name) + ".bmp").starts_with("BM")) << name;
-    }
-}
-
 }  // namespace
