@@ -34,21 +34,6 @@ TEST_F(BeforeNavigate, TellsTheResolvedAddressInDosForm) {
     EXPECT_FALSE(host().control().busy());
 }
 
-TEST_F(BeforeNavigate, AsksTheProgramToo) {
-    refuses = [](const std::string& address) { return address == "D:\\a.htm"; };
-    navigate("c:/Kalyxo/cache/1.htm", 14);
-    EXPECT_EQ(asked, Addresses{"C:\\Kalyxo\\cache\\1.htm"}) << "before the call returns";
-    waitForPage();
-    open("d:\\a.htm");
-    EXPECT_EQ(title(), "1");
-    const auto trace = takeTrace();
-    ASSERT_EQ(trace.size(), 3U);
-    EXPECT_EQ(std::get<TraceNavigate>(trace[0]).url, "c:/Kalyxo/cache/1.htm");
-    EXPECT_EQ(std::get<TraceNavigate>(trace[0]).flags, 14);
-    EXPECT_EQ(std::get<TraceNavigate>(trace[1]).url, "d:\\a.htm");
-    EXPECT_EQ(std::get<TraceRefused>(trace[2]).url, "D:\\a.htm");
-}
-
 TEST_F(BeforeNavigate, GoesToPlacesWithinThePageUnasked) {
     open("C:\\Kalyxo\\cache\\1.htm");
     ASSERT_TRUE(page().clickLink(cp1253("πάνω")));

@@ -136,21 +136,6 @@ TEST_F(BrowserMachine, OpensNewWindowsInTheSameView) {
     EXPECT_EQ(asked.back(), "D:\\b.htm");
 }
 
-TEST_F(BrowserMachine, ZoomsWithTheKeys) {
-    writePicture("D:\\x.png", 40, 40, Qt::red);
-    write("D:\\a.htm", "<BODY STYLE=\"margin:0\"><IMG SRC=\"x.png\" STYLE=\"display:block\"></BODY>");
-    open("D:\\a.htm");
-    const auto redAfter = [&](Qt::Key key) {
-        QTest::keyClick(input(), key, Qt::ControlModifier);
-        return count({0, 0, 640, 480}, Qt::red);
-    };
-    host().control().widget().setFocus();
-    EXPECT_EQ(count({0, 0, 640, 480}, Qt::red), 1600);
-    EXPECT_GT(redAfter(Qt::Key_Plus), 1800);
-    EXPECT_EQ(redAfter(Qt::Key_0), 1600);
-    EXPECT_LT(redAfter(Qt::Key_Minus), 1500);
-}
-
 TEST_F(BrowserMachine, GivesADocumentThatOutlivesThePage) {
     write("D:\\a.htm", "<BODY>Χημεία</BODY>");
     open("D:\\a.htm");

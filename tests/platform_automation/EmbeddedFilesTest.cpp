@@ -37,16 +37,6 @@ TEST_F(BrowserMachine, DrawsAMolecule) {
     EXPECT_NE(picture(), before) << "it spins";
 }
 
-TEST_F(BrowserMachine, HandsTheEmbeddingsAttributesToTheMolecule) {
-    write("D:\\mol\\x.mol", water);
-    write("D:\\a.htm", embedding("\"D:\\mol\\x.mol\" WIDTH=640 HEIGHT=480 BGCOLOR=\"#204060\" SPIN=false"));
-    open("D:\\a.htm");
-    EXPECT_GT(count(whole, QColor(0x20, 0x40, 0x60)), 150000);
-    EXPECT_GT(count(whole, isRed), 6000);
-    const QImage before = picture();
-    EXPECT_EQ(picture(), before);
-}
-
 TEST_F(BrowserMachine, ShowsTheMoleculeThatIsInTheFileNow) {
     write("C:\\cache\\1.htm", embedding("chime.mol WIDTH=340 HEIGHT=290"));
     write("C:\\cache\\2.htm", embedding("chime.mol WIDTH=340 HEIGHT=290"));

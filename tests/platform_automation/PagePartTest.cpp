@@ -44,16 +44,6 @@ class PagePart : public BrowserMachine {
     std::vector<LPARAM> commands_;
 };
 
-TEST_F(PagePart, StandsWhereThePageNamesTheComponent) {
-    openWithObject("0a1b2c3d-0000-4000-8000-00000000abcd");
-    EXPECT_TRUE(runUntil([&] { return text() == "όνομα"; })) << text();
-    const QColor green(0, 255, 0);
-    EXPECT_GT(count(CRect::at(0, 0, 200, 50), green), 7000);
-    EXPECT_EQ(count({200, 0, 640, 480}, green), 0);
-    EXPECT_EQ(count({0, 50, 640, 480}, green), 0);
-    EXPECT_TRUE(page().embeddedFrames().empty()) << "it is no window";
-}
-
 TEST_F(PagePart, SendsOnlyTheCommandsOfItsComponent) {
     openWithObject(classId);
     EXPECT_TRUE(runUntil([&] { return text() == "όνομα"; }));
