@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-
 #include "platform/text/GreekLiteral.h"
 #include "tests/HexBytes.h"
 #include "tests/program/TestFolders.h"
