@@ -25,11 +25,6 @@ void CListBox::ResetContent() {
     if (ListBoxView* const view = viewOf(*this)) view->entries().clear();
 }
 
-int CListBox::GetCount() const {
-    ListBoxView* const view = viewOf(*this);
-    return view ? view->entries().count() : 0;
-}
-
 std::string CListBox::GetText(int index) const {
     ListBoxView* const view = viewOf(*this);
     return view && index >= 0 && index < view->entries().count() ? view->entries().at(index) : std::string();

@@ -13,7 +13,6 @@ class CListBox : public CControl {
   public:
     void AddString(std::string_view text);
     void ResetContent();
-    int GetCount() const;
     /// Empty for an index that is none.
     std::string GetText(int index) const;
     /// The selected entry, −1 when there is none.

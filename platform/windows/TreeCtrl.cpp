@@ -2,7 +2,6 @@
 
 #include <QPixmapCache>
 #include <QStyle>
-#include <QTreeWidgetItemIterator>
 #include <algorithm>
 #include <memory>
 #include <vector>
@@ -75,15 +74,6 @@ void CTreeCtrl::DeleteAllItems() {
     if (TreeWidget* const tree = widgetOf(*this)) tree->clear();
 }
 
-int CTreeCtrl::GetCount() const {
-    TreeWidget* const tree = widgetOf(*this);
-    int count = 0;
-    if (tree) {
-        for (QTreeWidgetItemIterator it(tree); *it; ++it) ++count;
-    }
-    return count;
-}
-
 std::string CTreeCtrl::GetItemText(HTREEITEM item) const {
     return item ? fromQt(toQt(item)->text(0)) : std::string();
 }
@@ -154,8 +144,6 @@ void CTreeCtrl::SelectItem(HTREEITEM item) {
 void CTreeCtrl::Expand(HTREEITEM item) {
     if (item) toQt(item)->setExpanded(true);
 }
-
-bool CTreeCtrl::IsExpanded(HTREEITEM item) const { return item && toQt(item)->isExpanded(); }
 
 void CTreeCtrl::EnsureVisible(HTREEITEM item) {
     TreeWidget* const tree = widgetOf(*this);

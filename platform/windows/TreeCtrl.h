@@ -31,8 +31,6 @@ class CTreeCtrl : public CControl {
     /// Deletes the item and all below it.
     void DeleteItem(HTREEITEM item);
     void DeleteAllItems();
-    /// Number of items at all levels.
-    int GetCount() const;
 
     std::string GetItemText(HTREEITEM item) const;
     void SetItemText(HTREEITEM item, std::string_view text);
@@ -55,7 +53,6 @@ class CTreeCtrl : public CControl {
     /// Selects an item and scrolls it into view.
     void SelectItem(HTREEITEM item);
     void Expand(HTREEITEM item);
-    bool IsExpanded(HTREEITEM item) const;
     void EnsureVisible(HTREEITEM item);
     /// Sorts the items just below `item` alphabetically.
     void SortChildren(HTREEITEM item);

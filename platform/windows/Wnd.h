@@ -59,7 +59,6 @@ class CWnd : public CCmdTarget {
     bool IsWindowVisible() const;
     /// A window that is disabled takes no input.
     void EnableWindow(bool enable = true);
-    bool IsWindowEnabled() const;
     /// Moves and sizes within the parent (a top-level window: its outer rectangle on the screen).
     void MoveWindow(const CRect& rect);
     /// Area inside borders, caption and menu, with its corner at (0, 0).

@@ -22,8 +22,6 @@ class ElementIndex {
     /// The page id of the first record with this key; nothing for a key without record.
     std::optional<std::int32_t> PageOf(std::int16_t elementKey) const;
 
-    std::size_t Count() const { return m_records.size(); }
-
   private:
     std::vector<formats::ElementPageRecord> m_records;
 };

@@ -147,7 +147,7 @@ TEST_F(ControlsTest, AReadOnlyEditTakesNoTextFromAnInputMethod) {
 TEST_F(ControlsTest, ObjectsOutliveTheirControls) {
     show([] {});
     EXPECT_EQ(dialog_.tree.GetSafeHwnd(), 0);
-    EXPECT_EQ(dialog_.list.GetCount(), 0);
+    EXPECT_EQ(dialog_.list.GetCurSel(), -1);
     dialog_.edit.SetWindowText("x");
     EXPECT_EQ(dialog_.edit.GetWindowText(), "");
     // And are bound anew when the dialog is shown once more.
