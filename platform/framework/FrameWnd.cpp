@@ -82,6 +82,7 @@ int CFrameWnd::OnCreate(CREATESTRUCT&) {
     const QSize client = WindowWidget::of(*this)->clientArea().size();
     auto& widget = makeQtChild<SurfaceWidget>(*m_view, WindowWidget::of(*this), AFX_IDW_PANE_FIRST);
     widget.takeFocusOnClick();
+    widget.setFocusPolicy(Qt::TabFocus);
     return widget.create({WS_CHILD | WS_VISIBLE, 0, 0, client.width(), client.height(), false}) ? 0 : -1;
 }
 

@@ -1,6 +1,6 @@
 #include "platform/windows/SurfaceWidget.h"
 
-#include <QEvent>
+#include <QFocusEvent>
 #include <QPainter>
 #include <utility>
 
@@ -68,6 +68,11 @@ void SurfaceWidget::paintEvent(QPaintEvent*) {
 void SurfaceWidget::showEvent(QShowEvent* event) {
     WindowWidget::showEvent(event);
     invalidate(true);
+}
+
+void SurfaceWidget::focusInEvent(QFocusEvent* event) {
+    const bool tabbed = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    if (tabbed && owner()) owner()->OnTabbedTo();
 }
 
 }  // namespace platform

@@ -30,6 +30,7 @@ class SurfaceWidget : public WindowWidget {
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
 
   private:
     void focusClicked();

@@ -78,6 +78,8 @@ class CWnd : public CCmdTarget {
     virtual std::vector<DrawnPart> DrawnParts() const { return {}; }
     /// A screen reader's user pushes one of them.
     virtual void PushDrawnPart(int) {}
+    /// The tabulator has come to the window itself.
+    virtual void OnTabbedTo() {}
 
     /// Has the window repainted when the program is next idle.
     void Invalidate(bool erase = true);

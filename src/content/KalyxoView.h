@@ -39,6 +39,8 @@ class CKalyxoView : public platform::CView {
     void OnDraw(platform::CDC& dc) override;
     std::vector<platform::DrawnPart> DrawnParts() const override;
     void PushDrawnPart(int index) override { openSlot(OpenableItems::SlotFor(index)); }
+    /// Shows where the arrow keys go on from.
+    void OnTabbedTo() override { chooseByArrow(platform::VK_RIGHT); }
 
     /// Shows a section in page mode and, unless `pageNumber` is 0, opens that page.
     void OpenSection(std::int16_t sectionCode, std::int32_t pageNumber);

@@ -3,6 +3,7 @@
 #include "platform/framework/Resources.h"
 #include "platform/framework/WinApp.h"
 #include "platform/machine/Machine.h"
+#include "platform/text/GreekLiteral.h"
 #include "src/app/KalyxoApp.h"
 #include "src/components/ComponentCheck.h"
 #include "src/content/KalyxoView.h"
@@ -12,9 +13,11 @@
 namespace kalyxo {
 
 using namespace platform;
+using namespace platform::literals;
 
 void CKalyxoView::OnInitialUpdate() {
     CView::OnInitialUpdate();
+    SetAccessibleName("Ενότητες"_gr);
     m_handCursor = CCursor::resource(IDC_HAND_CURSOR);
     SetTimer(1, 250);
     readyBrowser();
