@@ -1,13 +1,10 @@
 #include "platform/windows/TreeCtrl.h"
 
-#include <QPixmapCache>
-#include <QStyle>
 #include <algorithm>
 #include <memory>
 #include <vector>
 
 #include "platform/handles/WindowTable.h"
-#include "platform/windows/Artwork.h"
 #include "platform/windows/Collation.h"
 #include "platform/windows/QtConvert.h"
 #include "platform/windows/TreeWidget.h"
@@ -33,22 +30,6 @@ HTREEITEM sibling(HTREEITEM item, int step) {
     QTreeWidgetItem* const above = it->parent() ? it->parent() : it->treeWidget()->invisibleRootItem();
     // An index knows its row, for which asking the item above would search.
     return handleOf(above->child(it->treeWidget()->indexFromItem(it).row() + step));
-}
-
-QStyle::StandardPixmap pixmapOf(TreeImage image) {
-    if (image == TreeImage::drive) return QStyle::SP_DriveHDIcon;
-    return image == TreeImage::folder ? QStyle::SP_DirIcon : QStyle::SP_FileIcon;
-}
-
-/// Trees show the same few pictures many times.
-QPixmap bitmapPixmap(UINT bitmap) {
-    const QString name = QStringLiteral(":/bitmap/%1").arg(bitmap);
-    QPixmap picture;
-    if (!QPixmapCache::find(name, &picture)) {
-        picture = QPixmap::fromImage(artworkImage(name));
-        QPixmapCache::insert(name, picture);
-    }
-    return picture;
 }
 
 UINT sideOf(const QRect& area, QPoint point) {
@@ -88,17 +69,6 @@ LPARAM CTreeCtrl::GetItemData(HTREEITEM item) const {
 
 void CTreeCtrl::SetItemData(HTREEITEM item, LPARAM data) {
     if (item) toQt(item)->setData(0, dataRole, qlonglong{data});
-}
-
-void CTreeCtrl::SetItemImage(HTREEITEM item, TreeImage image) {
-    const TreeWidget* const tree = widgetOf(*this);
-    if (!item || !tree) return;
-    const QIcon icon = image == TreeImage::none ? QIcon() : tree->style()->standardIcon(pixmapOf(image));
-    toQt(item)->setIcon(0, icon);
-}
-
-void CTreeCtrl::SetItemBitmap(HTREEITEM item, UINT bitmap) {
-    if (item) toQt(item)->setIcon(0, bitmapPixmap(bitmap));
 }
 
 HTREEITEM CTreeCtrl::GetRootItem() const {

@@ -10,9 +10,6 @@ namespace platform {
 /// Where a new item comes among those beside it.
 enum class TreePlace { last, sorted };
 
-/// The small picture before an item.
-enum class TreeImage { none, drive, folder, page };
-
 /// Parts of a tree view in which a point can lie, under their published values.
 inline constexpr UINT TVHT_NOWHERE = 0x0001;
 inline constexpr UINT TVHT_ONITEM = 0x0046;
@@ -36,9 +33,6 @@ class CTreeCtrl : public CControl {
     void SetItemText(HTREEITEM item, std::string_view text);
     LPARAM GetItemData(HTREEITEM item) const;
     void SetItemData(HTREEITEM item, LPARAM data);
-    void SetItemImage(HTREEITEM item, TreeImage image);
-    /// The same with a bitmap resource.
-    void SetItemBitmap(HTREEITEM item, UINT bitmap);
 
     HTREEITEM GetRootItem() const;
     HTREEITEM GetChildItem(HTREEITEM item) const;

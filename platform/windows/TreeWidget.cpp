@@ -5,7 +5,9 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QStyledItemDelegate>
 
+#include "platform/automation/QtChild.h"
 #include "platform/windows/Collation.h"
 #include "platform/windows/ControlLink.h"
 #include "platform/windows/VirtualKeys.h"
@@ -28,11 +30,21 @@ int placeFor(const QString& text, const QTreeWidgetItem& parent) {
     return low;
 }
 
+/// Rows of text alone would lie too close to follow the lines between them.
+class RowDelegate : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        return QStyledItemDelegate::sizeHint(option, index).expandedTo({0, 16});
+    }
+};
+
 }  // namespace
 
 TreeWidget::TreeWidget(QWidget& parent) : QTreeWidget(&parent) {
     setHeaderHidden(true);
     setUniformRowHeights(true);
+    setItemDelegate(&makeQtChild<RowDelegate>(this));
     setEditTriggers(NoEditTriggers);
     setDragEnabled(true);
     header()->setStretchLastSection(false);
@@ -92,6 +104,8 @@ void TreeWidget::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void TreeWidget::drawBranches(QPainter* painter, const QRect& rect, const QModelIndex& index) const {
+    // Of a selected row the text alone is to be marked.
+    painter->fillRect(rect, palette().base());
     drawLines(*painter, rect, index);
     QTreeWidget::drawBranches(painter, rect, index);
 }

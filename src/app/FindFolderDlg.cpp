@@ -53,7 +53,6 @@ void CFindFolderDlg::OnDriveSelected() {
     if (!letter) return;
     const CWaitCursor wait;
     const HTREEITEM root = m_tree.InsertItem(std::string{*letter, ':', '\\'});
-    m_tree.SetItemImage(root, TreeImage::drive);
     if (readSubfolders(root)) m_tree.Expand(root);
 }
 
@@ -80,9 +79,7 @@ bool CFindFolderDlg::insertSubfolders(HTREEITEM item) {
     const ProgressStep step = progress.Step();
     const std::vector<std::string> names = ListSubfolders(machine().files(), pathOf(item) + "\\", step);
     for (std::size_t i = 0; i < names.size() && step(i, names.size()); ++i) {
-        const HTREEITEM child = m_tree.InsertItem(names[i], item);
-        m_tree.SetItemImage(child, TreeImage::folder);
-        insertPlaceholder(child);
+        insertPlaceholder(m_tree.InsertItem(names[i], item));
     }
     if (!progress.Cancelled()) m_tree.SortChildren(item);
     return !progress.Cancelled();

@@ -7,16 +7,6 @@ namespace kalyxo {
 
 using namespace platform;
 
-namespace {
-
-UINT pictureOf(const CBookmark& record) {
-    if (IsFolder(record)) return IDB_TREE_FOLDER;
-    if (record.IsKindOf(CBMPeriodic::runtimeClass)) return IDB_TREE_PERIODIC_TABLE;
-    return record.IsKindOf(CBMDataAn::runtimeClass) ? IDB_TREE_DATA_ANALYSER : IDB_TREE_PAGE;
-}
-
-}  // namespace
-
 CBookmarkTree::CBookmarkTree() : m_dragCursor(CCursor::resource(IDC_DRAG_CURSOR)) {}
 
 const MessageMap* CBookmarkTree::GetMessageMap() const {
@@ -54,7 +44,6 @@ CBookmarkTree::Item CBookmarkTree::AddFolder(const CBookmark& folder) {
 CBookmarkTree::Item CBookmarkTree::addItem(const CBookmark& record, Item folder, TreePlace place) {
     const Item item = InsertItem(record.name, folder, place);
     SetItemData(item, reinterpret_cast<LPARAM>(&record));
-    SetItemBitmap(item, pictureOf(record));
     return item;
 }
 

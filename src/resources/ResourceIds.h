@@ -86,10 +86,6 @@ inline constexpr platform::UINT IDB_BAR_NORMAL = 197;
 inline constexpr platform::UINT IDB_TOOL_SEARCH = 200;
 inline constexpr platform::UINT IDB_ABOUT_PICTURE = 204;
 inline constexpr platform::UINT IDB_ABOUT_LOGO = 205;
-inline constexpr platform::UINT IDB_TREE_FOLDER = 301;
-inline constexpr platform::UINT IDB_TREE_PAGE = 302;
-inline constexpr platform::UINT IDB_TREE_PERIODIC_TABLE = 303;
-inline constexpr platform::UINT IDB_TREE_DATA_ANALYSER = 304;
 inline constexpr platform::UINT IDB_SPLASH = 207;
 
 /// Cursor ids.

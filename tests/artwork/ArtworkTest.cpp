@@ -27,7 +27,7 @@ TEST(Artwork, AllButIconsAndPatternsHaveTwiceThePixelsToo) {
             EXPECT_NE(twice, image.scaled(twice.size())) << name.toStdString() << ": only blown up";
         }
     }
-    EXPECT_EQ(pictures, 20);
+    EXPECT_EQ(pictures, 16);
 }
 
 TEST(Artwork, CursorsKnowTheirHotSpot) {
