@@ -1,9 +1,9 @@
 #include "platform/automation/PagePrinter.h"
 
-#include <QFile>
 #include <QPageLayout>
 #include <QPointer>
 #include <QPrinter>
+#include <QSaveFile>
 #include <QTimer>
 #include <QWebEngineView>
 #include <string>
@@ -56,8 +56,9 @@ void PagePrinter::printToFile() {
     view_.page()->printToPdf(
         [this, title, alive = QPointer<PagePrinter>(this)](const QByteArray& pdf) {
             const std::string file = nextPrintFile();
-            QFile out(QString::fromStdString(file));
-            if (!pdf.isEmpty() && out.open(QIODevice::WriteOnly) && out.write(pdf) == pdf.size()) {
+            QSaveFile out(QString::fromStdString(file));
+            if (!pdf.isEmpty() && out.open(QIODevice::WriteOnly) && out.write(pdf) == pdf.size() &&
+                out.flush() && out.commit()) {
                 recordPrint(title, countPages(pdf), file);
             } else {
                 printFailed(file);

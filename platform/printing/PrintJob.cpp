@@ -7,6 +7,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QSaveFile>
 #include <filesystem>
 #include <optional>
 #include <system_error>
@@ -32,9 +33,9 @@ const PrinterConfig* pdfPrinter() {
 
 QString unicode(std::string_view text) { return QString::fromStdString(toUtf8(text)); }
 
-std::unique_ptr<QPagedPaintDevice> makePdf(const std::string& file, const PrinterConfig& page,
+std::unique_ptr<QPagedPaintDevice> makePdf(QIODevice& file, const PrinterConfig& page,
                                            std::string_view name) {
-    auto writer = std::make_unique<QPdfWriter>(QString::fromStdString(file));
+    auto writer = std::make_unique<QPdfWriter>(&file);
     writer->setTitle(unicode(name));
     writer->setResolution(page.logpixelsy);
     const auto inches = [&](int pixels) { return static_cast<double>(pixels) / page.logpixelsy; };
@@ -73,8 +74,13 @@ std::unique_ptr<PrintJob> PrintJob::begin(std::string_view name, QWidget* choose
     if (!hasPrinter()) return nullptr;
     std::unique_ptr<PrintJob> job;
     if (const PrinterConfig* pdf = pdfPrinter()) {
-        const std::string file = nextPrintFile();
-        job.reset(new PrintJob(std::string(name), file, *pdf, makePdf(file, *pdf, name)));
+        auto file = std::make_unique<QSaveFile>(QString::fromStdString(nextPrintFile()));
+        if (!file->open(QIODevice::WriteOnly)) {
+            printFailed(file->fileName().toStdString());
+            return nullptr;
+        }
+        auto device = makePdf(*file, *pdf, name);
+        job.reset(new PrintJob(std::string(name), std::move(file), *pdf, std::move(device)));
     } else {
         std::unique_ptr<QPrinter> printer = chooser ? choosePrinter(*chooser) : defaultPrinter();
         if (!printer) return nullptr;
@@ -82,13 +88,11 @@ std::unique_ptr<PrintJob> PrintJob::begin(std::string_view name, QWidget* choose
         const PrinterConfig page = pageOf(*printer);
         job.reset(new PrintJob(std::string(name), {}, page, std::move(printer)));
     }
-    if (job->painter_.isActive()) return job;
-    printFailed(job->file_);
-    return nullptr;
+    return job->painter_.isActive() ? std::move(job) : nullptr;
 }
 // NOLINTEND(cppcoreguidelines-owning-memory)
 
-PrintJob::PrintJob(std::string name, std::string file, PrinterConfig page,
+PrintJob::PrintJob(std::string name, std::unique_ptr<QSaveFile> file, PrinterConfig page,
                    std::unique_ptr<QPagedPaintDevice> device)
     : name_(std::move(name)), file_(std::move(file)), page_(std::move(page)), device_(std::move(device)) {
     if (painter_.begin(device_.get())) painter_.setRenderHint(QPainter::LosslessImageRendering);
@@ -97,7 +101,12 @@ PrintJob::PrintJob(std::string name, std::string file, PrinterConfig page,
 PrintJob::~PrintJob() {
     if (!painter_.isActive()) return;
     painter_.end();
-    recordPrint(name_, 1, file_);
+    const std::string file = file_ ? file_->fileName().toStdString() : std::string();
+    if (file_ && !(file_->flush() && file_->commit())) {
+        printFailed(file);
+    } else {
+        recordPrint(name_, 1, file);
+    }
 }
 
 std::string nextPrintFile() {

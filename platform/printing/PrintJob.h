@@ -11,6 +11,7 @@
 #include "platform/machine/MachineConfig.h"
 
 class QPrinter;
+class QSaveFile;
 class QWidget;
 
 namespace platform {
@@ -37,11 +38,11 @@ class PrintJob {
     const PrinterConfig& page() const { return page_; }
 
   private:
-    PrintJob(std::string name, std::string file, PrinterConfig page,
+    PrintJob(std::string name, std::unique_ptr<QSaveFile> file, PrinterConfig page,
              std::unique_ptr<QPagedPaintDevice> device);
 
     std::string name_;
-    std::string file_;  // empty on a printer of the desktop
+    std::unique_ptr<QSaveFile> file_;  // null on a printer of the desktop
     PrinterConfig page_;
     std::unique_ptr<QPagedPaintDevice> device_;
     QPainter painter_;

@@ -1,7 +1,9 @@
 #include <QTest>
 
 #include "platform/automation/WebBrowserControl.h"
+#include "platform/printing/PrintJob.h"
 #include "tests/platform_automation/BrowserMachine.h"
+#include "tests/support/TestFolder.h"
 
 using namespace platform;
 
@@ -146,6 +148,25 @@ TEST_F(BrowserMachine, GivesADocumentThatOutlivesThePage) {
     EXPECT_FALSE(document->exec(7));
     closeBrowser();
     EXPECT_FALSE(document->exec(12)) << "the page is gone";
+}
+
+TEST_F(BrowserMachine, TellsOfAPageThatCannotBePrinted) {
+    open("D:\\a.htm");
+    const TestFolder root;
+    MachineConfig config;
+    config.printer = PrinterConfig();
+    config.printer->folder = root.write("file", "no folder");
+    Machine printing(root.path(), config, Registry());
+    setMachine(&printing);
+    std::string told;
+    setPrintListener([&](const std::string& file, bool written) { told = file + (written ? "" : " not"); });
+    const auto document = host().invoke(203, InvokeKind::propertyGet, {});
+    EXPECT_TRUE((*document->get<std::shared_ptr<Dispatch>>())->exec(6));
+    EXPECT_TRUE(runUntil([&] { return !told.empty(); }));
+    EXPECT_EQ(told, (root / "file/print-1.pdf").string() + " not");
+    setPrintListener({});
+    closeBrowser();
+    setMachine(nullptr);
 }
 
 TEST_F(BrowserMachine, RefusesCallsThatItDoesNotKnow) {

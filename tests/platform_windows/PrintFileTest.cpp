@@ -50,7 +50,12 @@ TEST_F(PrintFileTest, TellsOfEachFileAndMakesItsFolder) {
 TEST_F(PrintFileTest, TellsOfAFileThatCannotBeWritten) {
     root_.write("file", "no folder");
     EXPECT_FALSE(printTo(root_ / "file/Documents"));
-    EXPECT_EQ(told_, Lines{"file/Documents/print-1.pdf not"});
+    {
+        const FullDisk disk(100);
+        EXPECT_TRUE(printTo(root_ / "full"));
+    }
+    EXPECT_EQ(told_, (Lines{"file/Documents/print-1.pdf not", "full/print-1.pdf not"}));
+    EXPECT_FALSE(fs::exists(root_ / "full/print-1.pdf"));
 }
 
 }  // namespace
