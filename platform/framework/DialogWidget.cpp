@@ -7,6 +7,7 @@
 #include "platform/framework/Dialog.h"
 #include "platform/framework/DialogControls.h"
 #include "platform/framework/LightPalette.h"
+#include "platform/framework/OwnerWindow.h"
 #include "platform/handles/WindowTable.h"
 #include "platform/machine/Machine.h"
 #include "platform/windows/ProgramFont.h"
@@ -44,6 +45,7 @@ Qt::WindowFlags windowFlagsOf(DialogFrame frame) {
 DialogWidget::DialogWidget(CDialog& owner, const DialogTemplate& drawnUp, QWidget* parent)
     : SurfaceWidget(owner, parent, 0), frame_(*this, drawnUp.frame) {
     setWindowFlags(windowFlagsOf(drawnUp.frame));
+    stayBefore(*this, parent);
     // Who opens a box of tools goes on where he is.
     setAttribute(Qt::WA_ShowWithoutActivating, drawnUp.frame != DialogFrame::window);
     setWindowTitle(toQt(drawnUp.caption));

@@ -39,6 +39,7 @@ BoxAnswer show(std::string_view text, std::string_view caption, const std::vecto
     // On the heap: the window it belongs to may go while the box is up.
     auto box = std::make_unique<QMessageBox>(ownerWindow());
     const QPointer<QMessageBox> alive = box.get();
+    stayBefore(*box, box->parentWidget());
     box->setPalette(lightPalette());
     box->setWindowTitle(toQt(caption));
     if (icon == BoxIcon::question) box->setIcon(QMessageBox::Question);

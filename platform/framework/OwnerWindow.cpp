@@ -33,4 +33,10 @@ QWidget* ownerWindow() {
     return firstOnShow({});
 }
 
+void stayBefore(QWidget& window, const QWidget* owner) {
+    if (owner && owner->windowFlags() & Qt::WindowStaysOnTopHint) {
+        window.setWindowFlag(Qt::WindowStaysOnTopHint);
+    }
+}
+
 }  // namespace platform

@@ -8,4 +8,8 @@ namespace platform {
 /// that is on show, else none.
 QWidget* ownerWindow();
 
+/// Has a window that is not shown yet stay on top if its owner does: not every window manager keeps it before
+/// such an owner otherwise.
+void stayBefore(QWidget& window, const QWidget* owner);
+
 }  // namespace platform

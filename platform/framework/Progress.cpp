@@ -36,6 +36,7 @@ std::uint64_t milliseconds() {
 class CProgress::Box {
   public:
     explicit Box(const std::string& what) : dialog_(std::make_unique<QProgressDialog>(ownerWindow())) {
+        stayBefore(*dialog_, dialog_->parentWidget());
         dialog_->setPalette(lightPalette());
         dialog_->setWindowTitle(toQt(LoadString(AFX_IDS_APP_TITLE)));
         dialog_->setLabelText(toQt(what));

@@ -53,6 +53,17 @@ TEST_F(ShownBoxTest, ItsEndCountsAsTheLastButton) {
     EXPECT_EQ(AfxMessageBox("a"), BoxAnswer::ok);
 }
 
+TEST_F(ShownBoxTest, StaysBeforeAWindowThatStaysOnTop) {
+    open();
+    widgetOf(frame()).setWindowFlag(Qt::WindowStaysOnTopHint);
+    widgetOf(frame()).show();
+    whenShown([](QMessageBox& box) {
+        EXPECT_TRUE(box.windowFlags() & Qt::WindowStaysOnTopHint);
+        box.close();
+    });
+    AfxMessageBox("a");
+}
+
 }  // namespace
 
 }  // namespace windows_test
