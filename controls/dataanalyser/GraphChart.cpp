@@ -14,7 +14,7 @@
 
 #include "controls/common/QtText.h"
 #include "controls/dataanalyser/Analyser.h"
-#include "controls/dataanalyser/CategoryColors.h"
+#include "controls/dataanalyser/CategoryLook.h"
 #include "controls/dataanalyser/FigureText.h"
 #include "controls/dataanalyser/GraphHover.h"
 #include "controls/dataanalyser/GraphMarks.h"
@@ -32,6 +32,7 @@ constexpr int headingPixels = 15;
 constexpr double tickPixelsAcross = 80;
 constexpr double tickPixelsUp = 45;
 constexpr int roomForLegend = 560;
+constexpr double legendPixels = 10;
 constexpr double legendLine = 22;
 constexpr double legendSurroundings = 50;
 
@@ -46,6 +47,21 @@ std::vector<QString> barNames(const Analyser& analyser, const Graph& graph) {
         names.push_back(toQt(shortRowName(analyser.dataSet(), static_cast<std::size_t>(mark.row))));
     }
     return names;
+}
+
+QScatterSeries::MarkerShape legendShape(PointShape shape) {
+    switch (shape) {
+        case PointShape::square:
+            return QScatterSeries::MarkerShapeRectangle;
+        case PointShape::triangle:
+            return QScatterSeries::MarkerShapeTriangle;
+        case PointShape::diamond:
+            return QScatterSeries::MarkerShapeRotatedRectangle;
+        case PointShape::star:
+            return QScatterSeries::MarkerShapeStar;
+        default:
+            return QScatterSeries::MarkerShapeCircle;
+    }
 }
 
 // What is made here belongs to the chart.
@@ -108,7 +124,7 @@ GraphChart::GraphChart() : marks_(new GraphMarks(this)), hover_(new GraphHover(t
     legend()->setFont(appearance::font(labelPixels));
     legend()->setLabelColor(appearance::text);
     legend()->setAlignment(Qt::AlignRight);
-    legend()->setMarkerShape(QLegend::MarkerShapeCircle);
+    legend()->setMarkerShape(QLegend::MarkerShapeFromSeries);
     connect(this, &QChart::plotAreaChanged, this, [this] { placeMarks(); });
 }
 
@@ -129,7 +145,7 @@ void GraphChart::showGraph(const Analyser& analyser) {
     setTitle(toQt(nameOf(analyser)));
     GraphScenery scenery{{}, window, {}, {}, barNames(analyser, graph)};
     for (int i = 0; i < static_cast<int>(categories.names.size()); ++i) {
-        scenery.categories.push_back(categoryColors(categories, i));
+        scenery.categories.push_back(categoryLook(categories, i));
     }
     for (const std::int16_t id : analyser.selected()) scenery.selected.insert(analyser.placeOf(id));
     setMargins(QMargins(12, 8, 12, scenery.names.empty() ? 8 : GraphMarks::spaceFor(scenery.names)));
@@ -156,6 +172,9 @@ void GraphChart::setAxes(const Graph& graph, const AxisRange& x, const AxisRange
         across->setLabelsVisible(false);
         across->setGridLineVisible(false);
         across->setTitleVisible(false);
+        // The names are the marks of this axis; its own lie beyond it.
+        static_cast<QValueAxis*>(across)->setTickAnchor(2 * x.to + 1);
+        static_cast<QValueAxis*>(across)->setTickInterval(4 * x.to + 4);
     }
     addAxis(across, Qt::AlignBottom);
     addAxis(makeAxis(y, toQt(graph.yTitle), size().height() / tickPixelsUp, counts ? 1 : 0), Qt::AlignLeft);
@@ -201,7 +220,10 @@ void GraphChart::addLegendEntries(const Analyser& analyser, const Graph& graph) 
     for (const int category : present) {
         auto* entry = new QScatterSeries();
         entry->setName(toQt(analyser.categories().names[static_cast<std::size_t>(category)]));
-        entry->setColor(categoryColors(analyser.categories(), category).edge);
+        const CategoryLook look = categoryLook(analyser.categories(), category);
+        entry->setColor(look.colors.edge);
+        entry->setMarkerShape(legendShape(look.shape));
+        entry->setMarkerSize(legendPixels);
         entry->setBorderColor(Qt::transparent);
         addSeries(*entry);
     }

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "controls/dataanalyser/PointShapes.h"
+
 namespace controls::dataanalyser {
 
 namespace {
@@ -17,6 +19,11 @@ constexpr double leastNameWidth = 11;
 constexpr int namePixels = 11;
 constexpr int mostNameSpace = 120;
 constexpr int nameGap = 8;
+
+QColor halfway(const QColor& one, const QColor& other) {
+    return {(one.red() + other.red()) / 2, (one.green() + other.green()) / 2,
+            (one.blue() + other.blue()) / 2};
+}
 
 }  // namespace
 
@@ -83,10 +90,10 @@ int GraphMarks::spaceFor(const std::vector<QString>& names) {
 
 QRectF GraphMarks::boundingRect() const { return plotArea_.adjusted(-60, -10, 60, mostNameSpace); }
 
-appearance::FamilyColors GraphMarks::colorsOf(const GraphMark& mark) const {
+CategoryLook GraphMarks::lookOf(const GraphMark& mark) const {
     const auto category = static_cast<std::size_t>(mark.category);
     if (mark.category >= 0 && category < scenery_.categories.size()) return scenery_.categories[category];
-    return appearance::familyColors(Family::transition);
+    return {appearance::familyColors(Family::transition)};
 }
 
 void GraphMarks::paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget*) {
@@ -107,15 +114,17 @@ void GraphMarks::paintPoints(QPainter& painter, const QRectF& exposed) const {
     const auto& marks = scenery_.graph.marks;
     const double size = marks.size() > manyPoints ? smallRadius : radius;
     int category = -2;
+    CategoryLook look;
     for (const GraphMark& mark : marks) {
         const QPointF at = place(mark);
         if (!exposed.contains(at)) continue;
         if (mark.category != category) {
             category = mark.category;
-            painter.setBrush(colorsOf(mark).edge);
+            look = lookOf(mark);
+            painter.setBrush(look.colors.edge);
             painter.setPen(marks.size() > manyPoints ? QPen(Qt::NoPen) : QPen(appearance::paper, 1));
         }
-        painter.drawEllipse(at, size, size);
+        paintPoint(painter, look.shape, at, size);
     }
     if (scenery_.selected.empty()) return;
     painter.setBrush(Qt::NoBrush);
@@ -129,12 +138,17 @@ void GraphMarks::paintBars(QPainter& painter) const {
     for (const GraphMark& mark : scenery_.graph.marks) {
         const QRectF bar = barOf(mark);
         if (!bar.adjusted(-1, -1, 1, 1).intersects(plotArea_)) continue;
-        const auto colors = colorsOf(mark);
+        const CategoryLook look = lookOf(mark);
+        const QColor& edge = look.colors.edge;
         const bool chosen = scenery_.selected.contains(mark.row);
         const bool wide = bar.width() > 4;
-        painter.setBrush(chosen || !wide ? colors.edge : colors.fill.darker(108));
-        painter.setPen(wide ? QPen(chosen ? appearance::text : colors.edge, 1) : QPen(Qt::NoPen));
+        painter.setBrush(chosen || !wide ? edge : halfway(edge, appearance::paper));
+        painter.setPen(wide ? QPen(chosen ? appearance::text : edge, 1) : QPen(Qt::NoPen));
         painter.drawRect(wide ? bar : bar.adjusted(0, 0, std::max(0.0, 1 - bar.width()), 0));
+        if (mark.category < 0 || bar.width() < 2 * radius) continue;
+        painter.setBrush(edge);
+        painter.setPen(QPen(appearance::paper, 1));
+        paintPoint(painter, look.shape, place(mark), radius);
     }
 }
 

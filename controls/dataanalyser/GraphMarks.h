@@ -4,7 +4,7 @@
 #include <set>
 #include <vector>
 
-#include "controls/common/Appearance.h"
+#include "controls/dataanalyser/CategoryLook.h"
 #include "controls/dataanalyser/Graph.h"
 
 namespace controls::dataanalyser {
@@ -12,10 +12,10 @@ namespace controls::dataanalyser {
 /// What `GraphMarks` draws.
 struct GraphScenery {
     Graph graph;
-    GraphWindow window;                                ///< the part of the graph on show
-    std::vector<appearance::FamilyColors> categories;  ///< a colour for each category
-    std::set<int> selected;                            ///< rows, by place
-    std::vector<QString> names;                        ///< under a bar graph, one for each mark
+    GraphWindow window;                    ///< the part of the graph on show
+    std::vector<CategoryLook> categories;  ///< one for each category
+    std::set<int> selected;                ///< rows, by place
+    std::vector<QString> names;            ///< under a bar graph, one for each mark
 };
 
 /// The points or bars of a graph, all in one: ten thousand graphics items would be slow.
@@ -45,7 +45,7 @@ class GraphMarks : public QGraphicsItem {
     double across(double x) const;
     double down(double y) const;
     QRectF barOf(const GraphMark& mark) const;
-    appearance::FamilyColors colorsOf(const GraphMark& mark) const;
+    CategoryLook lookOf(const GraphMark& mark) const;
     void paintPoints(QPainter& painter, const QRectF& exposed) const;
     void paintBars(QPainter& painter) const;
     void paintNames(QPainter& painter) const;

@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "controls/common/Appearance.h"
-#include "controls/dataanalyser/CategoryColors.h"
+#include "controls/dataanalyser/CategoryLook.h"
 #include "controls/dataanalyser/TableModel.h"
 
 namespace controls::dataanalyser {
@@ -40,7 +40,7 @@ void paintChip(QPainter& painter, const QRect& cell, const QModelIndex& index) {
     const Categories& categories = modelOf(index).analyser().categories();
     const auto place = static_cast<std::size_t>(modelOf(index).placeAt(index.row()));
     if (categories.ofRow[place] < 0) return;
-    const auto colors = categoryColors(categories, categories.ofRow[place]);
+    const auto colors = categoryLook(categories, categories.ofRow[place]).colors;
     const QRect chip = cell.adjusted(2, 2, -4, -2);
     painter.fillRect(chip, colors.fill);
     painter.fillRect(QRect(chip.left(), chip.top(), 3, chip.height()), colors.edge);

@@ -7,6 +7,7 @@
 
 #include "controls/common/Appearance.h"
 #include "controls/common/Contrast.h"
+#include "controls/dataanalyser/CategoryLook.h"
 #include "controls/periodic/CellLook.h"
 #include "controls/periodic/ColorScale.h"
 #include "controls/periodic/ElementKinds.h"
@@ -137,6 +138,26 @@ TEST(CellLook, MarksWhatIsNotHighlightedNotKnownOrNotYetFound) {
     state.year = 1773;
     EXPECT_EQ(lookOf(*findElement(8), state, 0).ground, CellLook::Ground::empty);
     EXPECT_EQ(lookOf(*findElement(79), state, 0).ground, CellLook::Ground::plain);
+}
+
+TEST(CategoryLook, TellsTheGroupsOfOneGraphApart) {
+    using namespace dataanalyser;
+    Categories families;
+    for (int code = 1; code <= familyCount; ++code)
+        families.names.emplace_back(familyName(*familyOfCode(code)));
+    for (const Categories& groups : {families, Categories{std::vector<std::string>(18, "group"), {}}}) {
+        for (int one = 0; one < static_cast<int>(groups.names.size()); ++one) {
+            for (int other = 0; other < one; ++other) {
+                const CategoryLook looks[] = {categoryLook(groups, one), categoryLook(groups, other)};
+                for (const Vision& vision : visions) {
+                    const double apart =
+                        distance(vision.seen(looks[0].colors.edge), vision.seen(looks[1].colors.edge));
+                    EXPECT_GT(apart, looks[0].shape == looks[1].shape ? 30 : 0)
+                        << vision.name << ' ' << one << ' ' << other;
+                }
+            }
+        }
+    }
 }
 
 }  // namespace
