@@ -16,4 +16,7 @@ inline std::string fromQt(const QString& text) {
     return platform::fromUtf8(text.normalized(QString::NormalizationForm_C).toStdString());
 }
 
+/// Numbers for showing: with a minus, which the code page lacks, for each hyphen.
+inline QString withMinus(QString numbers) { return numbers.replace(u'-', QChar(0x2212)); }
+
 }  // namespace controls

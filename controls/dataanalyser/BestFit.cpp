@@ -35,11 +35,11 @@ std::optional<BestFit> bestFit(std::span<const PlanePoint> points) {
 
 std::string equation(const BestFit& fit, bool logX, bool logY) {
     std::string text = logY ? "log y = " : "y = ";
-    if (fit.slope < 0) text += "–"_gr;
+    if (fit.slope < 0) text += '-';
     text += shortFigure(std::abs(fit.slope));
     text += "·"_gr;
     text += logX ? "log x" : "x";
-    text += fit.intercept < 0 ? " – "_gr : " + "_gr;
+    text += fit.intercept < 0 ? " - " : " + ";
     return text + shortFigure(std::abs(fit.intercept));
 }
 

@@ -24,7 +24,7 @@ struct BestFit {
 /// the other.
 std::optional<BestFit> bestFit(std::span<const PlanePoint> points);
 
-/// The line's equation in code page 1253, such as "y = 2,5·x – 10" or "log y = 2·log x + 1".
+/// The line's equation in code page 1253, such as "y = 2,5·x - 10" or "log y = 2·log x + 1".
 std::string equation(const BestFit& fit, bool logX, bool logY);
 
 }  // namespace controls::dataanalyser

@@ -36,7 +36,7 @@ constexpr double legendPixels = 10;
 constexpr double legendLine = 22;
 constexpr double legendSurroundings = 50;
 
-QString figure(double value) { return toQt(shortFigure(value, 6)).replace(u'-', QChar(0x2212)); }
+QString figure(double value) { return withMinus(toQt(shortFigure(value, 6))); }
 
 std::string_view nameOf(const Analyser& analyser) { return analyser.dataSet().title; }
 
@@ -109,9 +109,10 @@ QAbstractAxis* makeAxis(const AxisRange& range, const QString& title, double tic
 }  // namespace
 
 GraphChart::GraphChart() : marks_(new GraphMarks(this)), hover_(new GraphHover(this)) {
-    QLocale greek(QLocale::Greek, QLocale::Greece);
-    greek.setNumberOptions(QLocale::OmitGroupSeparator);
-    setLocale(greek);
+    // Greek numbers have a hyphen for a minus; these are written alike but for a true one.
+    QLocale numbers(QLocale::Finnish);
+    numbers.setNumberOptions(QLocale::OmitGroupSeparator);
+    setLocale(numbers);
     setLocalizeNumbers(true);
     setAnimationOptions(NoAnimation);
     setContentsMargins(0, 0, 0, 0);
@@ -203,7 +204,7 @@ void GraphChart::addLines(const Graph& graph, const AxisRange& x) {
     line->setPen(QPen(appearance::warm.darker(115), 2, Qt::DashLine));
     addSeries(*line);
     for (QLegendMarker* marker : legend()->markers(line)) marker->setVisible(false);
-    const QString words = toQt(equation(*graph.fit, graph.plan.logX, graph.plan.logY)) +
+    const QString words = withMinus(toQt(equation(*graph.fit, graph.plan.logX, graph.plan.logY))) +
                           QStringLiteral(",   r² = ") + toQt(fixedFigure(graph.fit->rSquared, 4));
     setTitle(title() + QStringLiteral(":&nbsp; <span style=\"font-weight:normal\">%1</span>").arg(words));
 }

@@ -38,10 +38,8 @@ QString shownFormula(const QString& formula) {
 QString shownCell(const formats::DataColumn& column, std::size_t row, TemperatureUnit unit) {
     const std::string text = cellText(column, row, unit);
     if (text.empty()) return toQt(unknownText());
-    QString shown = toQt(text);
-    if (column.kind == formats::DataColumnKind::formula) return shownFormula(shown);
-    if (column.isNumber()) shown.replace(u'-', QChar(0x2212));
-    return shown;
+    if (column.kind == formats::DataColumnKind::formula) return shownFormula(toQt(text));
+    return column.isNumber() ? withMinus(toQt(text)) : toQt(text);
 }
 
 QString shownRowName(const formats::DataSet& set, std::size_t row) {

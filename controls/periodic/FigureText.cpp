@@ -20,8 +20,7 @@ QString withPower(double value) {
     // A little more, as 0,001 is stored as less than that.
     const int power = static_cast<int>(std::floor(std::log10(value) + 1e-10));
     const double factor = value / std::pow(10, power);
-    QString raised =
-        QStringLiteral("10^%1%2^").arg(power < 0 ? QStringLiteral("−") : QString()).arg(std::abs(power));
+    QString raised = withMinus(QStringLiteral("10^%1^").arg(power));
     if (std::abs(factor - 1) < 1e-6) return raised;
     return withComma(QString::number(factor, 'g', 3)) + QStringLiteral("·") + raised;
 }
@@ -29,8 +28,7 @@ QString withPower(double value) {
 /// Degrees Celsius in as many decimals as are known of the temperature in K, but no more than one.
 QString celsius(const Figure& kelvin) {
     const double value = kelvin.value().value_or(0) - zeroCelsius;
-    return withComma(QString::number(value, 'f', std::min(kelvin.decimals(), 1)))
-        .replace(QLatin1Char('-'), QStringLiteral("−"));
+    return withMinus(withComma(QString::number(value, 'f', std::min(kelvin.decimals(), 1))));
 }
 
 /// In one digit what needs a power of ten, in two what is small, else in those that are there.
@@ -80,10 +78,7 @@ QString valueWithUnit(const Element& element, Quantity quantity) {
 
 QString temperatureText(int kelvin) {
     const long celsiusDegrees = std::lround(kelvin - zeroCelsius);
-    return QStringLiteral("%1 K = %2%3 °C")
-        .arg(kelvin)
-        .arg(celsiusDegrees < 0 ? QStringLiteral("−") : QString())
-        .arg(std::abs(celsiusDegrees));
+    return withMinus(QStringLiteral("%1 K = %2 °C").arg(kelvin).arg(celsiusDegrees));
 }
 
 QString configurationText(const Element& element) {

@@ -100,7 +100,7 @@ TEST(AnalyserGraph, BestFitOfKnownPoints) {
     const PlanePoint upright[] = {{1, 1}, {1, 2}};
     EXPECT_FALSE(bestFit(upright));
     EXPECT_FALSE(bestFit(std::span(line, 1)));
-    EXPECT_EQ(equation({-0.5, -2.25, 0}, true, true), platform::fromUtf8("log y = –0,5·log x – 2,25"));
+    EXPECT_EQ(equation({-0.5, -2.25, 0}, true, true), platform::fromUtf8("log y = -0,5·log x - 2,25"));
 }
 
 TEST(AnalyserGraph, RowsWithoutANumberForTheAxesAreCounted) {
