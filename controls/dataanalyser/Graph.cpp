@@ -124,6 +124,13 @@ double Graph::fitted(double x) const {
     return plan.logY ? std::pow(10, y) : y;
 }
 
+std::set<int> Graph::categories() const {
+    std::set<int> present;
+    for (const GraphMark& mark : marks) present.insert(mark.category);
+    present.erase(-1);
+    return present;
+}
+
 Graph makeGraph(const formats::DataSet& set, const Categories& categories, std::span<const int> rows,
                 const GraphPlan& plan, TemperatureUnit unit) {
     return GraphMaker(set, categories, rows, plan, unit).run();

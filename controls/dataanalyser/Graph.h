@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <set>
 #include <span>
 #include <string>
 #include <vector>
@@ -54,6 +55,8 @@ struct Graph {
 
     /// The value of the best-fit line at a number of the x axis.
     double fitted(double x) const;
+    /// Those of its marks.
+    std::set<int> categories() const;
 };
 
 /// The graph of these rows.

@@ -31,6 +31,8 @@ constexpr int headingPixels = 15;
 // Least distances of ticks: numbers beside each other need more room than those above each other.
 constexpr double tickPixelsAcross = 80;
 constexpr double tickPixelsUp = 45;
+constexpr double decadePixelsUp = 25;
+constexpr double aroundPlot = 90;
 constexpr int roomForLegend = 560;
 constexpr double legendPixels = 10;
 constexpr double legendLine = 22;
@@ -67,11 +69,12 @@ QScatterSeries::MarkerShape legendShape(PointShape shape) {
 // What is made here belongs to the chart.
 // NOLINTBEGIN(cppcoreguidelines-owning-memory)
 
-QAbstractAxis* makeLogarithmicAxis(const AxisRange& range) {
+QAbstractAxis* makeLogarithmicAxis(const AxisRange& range, double ticks) {
     auto* axis = new QLogValueAxis();
-    axis->setBase(10);
+    const int step = decadesPerTick(range, static_cast<int>(ticks));
+    axis->setBase(std::pow(10, step));
     axis->setLabelFormat(QStringLiteral("%.6g"));
-    axis->setMinorTickCount(8);
+    axis->setMinorTickCount(step == 1 ? 8 : 0);
     // The axis finds its decades with ln x / ln 10, by which 0.1 comes to lie above −1 and would have no
     // label.
     axis->setRange(range.from * (1 - 1e-9), range.to * (1 + 1e-9));
@@ -94,7 +97,7 @@ QAbstractAxis* makeLinearAxis(const AxisRange& range, double ticks, double least
 
 QAbstractAxis* makeAxis(const AxisRange& range, const QString& title, double ticks, double leastDistance) {
     QAbstractAxis* axis =
-        range.logarithmic ? makeLogarithmicAxis(range) : makeLinearAxis(range, ticks, leastDistance);
+        range.logarithmic ? makeLogarithmicAxis(range, ticks) : makeLinearAxis(range, ticks, leastDistance);
     axis->setTitleText(title);
     axis->setTitleFont(appearance::font(titlePixels, QFont::DemiBold));
     axis->setLabelsFont(appearance::font(labelPixels));
@@ -144,12 +147,13 @@ void GraphChart::showGraph(const Analyser& analyser) {
     const GraphWindow window = analyser.window(graph);
     const Categories& categories = analyser.categories();
     setTitle(toQt(nameOf(analyser)));
-    GraphScenery scenery{{}, window, {}, {}, barNames(analyser, graph)};
+    GraphScenery scenery{{}, window, {}, {}, barNames(analyser, graph), 0};
     for (int i = 0; i < static_cast<int>(categories.names.size()); ++i) {
         scenery.categories.push_back(categoryLook(categories, i));
     }
     for (const std::int16_t id : analyser.selected()) scenery.selected.insert(analyser.placeOf(id));
-    setMargins(QMargins(12, 8, 12, scenery.names.empty() ? 8 : GraphMarks::spaceFor(scenery.names)));
+    scenery.nameSpace = scenery.names.empty() ? 8 : GraphMarks::spaceFor(scenery.names, size().height());
+    setMargins(QMargins(12, 8, 12, scenery.nameSpace));
     setAxes(graph, window.x, window.y);
     addLines(graph, window.x);
     addLegendEntries(analyser, graph);
@@ -168,17 +172,22 @@ int GraphChart::hoveredRow() const {
 void GraphChart::setAxes(const Graph& graph, const AxisRange& x, const AxisRange& y) {
     const bool bars = graph.plan.kind == GraphKind::bar;
     const bool counts = graph.plan.kind == GraphKind::histogram;
+    const double upright = y.logarithmic ? decadePixelsUp : tickPixelsUp;
     QAbstractAxis* across = makeAxis(x, toQt(graph.xTitle), size().width() / tickPixelsAcross, 0);
+    QAbstractAxis* up = makeAxis(y, toQt(graph.yTitle), size().height() / upright, counts ? 1 : 0);
+    const auto font = appearance::fittingFont(up->titleText(), static_cast<int>(size().height() - aroundPlot),
+                                              titlePixels, labelPixels - 2, QFont::DemiBold);
+    if (font) up->setTitleFont(*font);
     if (bars) {
         across->setLabelsVisible(false);
         across->setGridLineVisible(false);
         across->setTitleVisible(false);
-        // The names are the marks of this axis; its own lie beyond it.
-        static_cast<QValueAxis*>(across)->setTickAnchor(2 * x.to + 1);
-        static_cast<QValueAxis*>(across)->setTickInterval(4 * x.to + 4);
+        // The names are the marks of this axis; of its own it has only those at its ends.
+        static_cast<QValueAxis*>(across)->setTickAnchor(x.from);
+        static_cast<QValueAxis*>(across)->setTickInterval(x.span());
     }
     addAxis(across, Qt::AlignBottom);
-    addAxis(makeAxis(y, toQt(graph.yTitle), size().height() / tickPixelsUp, counts ? 1 : 0), Qt::AlignLeft);
+    addAxis(up, Qt::AlignLeft);
 }
 
 void GraphChart::addSeries(QXYSeries& series) {
@@ -210,9 +219,7 @@ void GraphChart::addLines(const Graph& graph, const AxisRange& x) {
 }
 
 void GraphChart::addLegendEntries(const Analyser& analyser, const Graph& graph) {
-    std::set<int> present;
-    for (const GraphMark& mark : graph.marks) present.insert(mark.category);
-    present.erase(-1);
+    const std::set<int> present = graph.categories();
     // A legend that is cut off tells less than none.
     const bool fits = size().width() > roomForLegend &&
                       static_cast<double>(present.size()) * legendLine < size().height() - legendSurroundings;

@@ -17,7 +17,8 @@ constexpr std::size_t manyPoints = 1000;
 constexpr double reach = 12;
 constexpr double leastNameWidth = 11;
 constexpr int namePixels = 11;
-constexpr int mostNameSpace = 120;
+constexpr int leastNameSpace = 120;
+constexpr int mostNameSpace = 180;
 constexpr int nameGap = 8;
 
 QColor halfway(const QColor& one, const QColor& other) {
@@ -81,11 +82,12 @@ int GraphMarks::markAt(const QPointF& position) const {
     return nearest;
 }
 
-int GraphMarks::spaceFor(const std::vector<QString>& names) {
+int GraphMarks::spaceFor(const std::vector<QString>& names, double height) {
     const QFontMetrics metrics(appearance::font(namePixels));
     int widest = 2 * nameGap;
     for (const QString& name : names) widest = std::max(widest, metrics.horizontalAdvance(name));
-    return std::min(widest + nameGap, mostNameSpace);
+    return std::min(widest + nameGap,
+                    std::clamp(static_cast<int>(height / 4), leastNameSpace, mostNameSpace));
 }
 
 QRectF GraphMarks::boundingRect() const { return plotArea_.adjusted(-60, -10, 60, mostNameSpace); }
@@ -135,6 +137,7 @@ void GraphMarks::paintPoints(QPainter& painter, const QRectF& exposed) const {
 }
 
 void GraphMarks::paintBars(QPainter& painter) const {
+    const bool hasGroups = scenery_.graph.categories().size() > 1;
     for (const GraphMark& mark : scenery_.graph.marks) {
         const QRectF bar = barOf(mark);
         if (!bar.adjusted(-1, -1, 1, 1).intersects(plotArea_)) continue;
@@ -145,7 +148,7 @@ void GraphMarks::paintBars(QPainter& painter) const {
         painter.setBrush(chosen || !wide ? edge : halfway(edge, appearance::paper));
         painter.setPen(wide ? QPen(chosen ? appearance::text : edge, 1) : QPen(Qt::NoPen));
         painter.drawRect(wide ? bar : bar.adjusted(0, 0, std::max(0.0, 1 - bar.width()), 0));
-        if (mark.category < 0 || bar.width() < 2 * radius) continue;
+        if (!hasGroups || mark.category < 0 || bar.width() < 2 * radius) continue;
         painter.setBrush(edge);
         painter.setPen(QPen(appearance::paper, 1));
         paintPoint(painter, look.shape, place(mark), radius);
@@ -174,7 +177,7 @@ void GraphMarks::paintNames(QPainter& painter) const {
         painter.save();
         painter.translate(x, plotArea_.bottom() + 4);
         painter.rotate(-90);
-        const int length = mostNameSpace - nameGap;
+        const int length = scenery_.nameSpace - nameGap;
         painter.drawText(QRectF(-length, -8, length, 16), Qt::AlignRight | Qt::AlignVCenter,
                          metrics.elidedText(name, Qt::ElideRight, length));
         painter.restore();

@@ -16,6 +16,7 @@ struct GraphScenery {
     std::vector<CategoryLook> categories;  ///< one for each category
     std::set<int> selected;                ///< rows, by place
     std::vector<QString> names;            ///< under a bar graph, one for each mark
+    int nameSpace = 0;                     ///< below the axis, in pixels
 };
 
 /// The points or bars of a graph, all in one: ten thousand graphics items would be slow.
@@ -38,8 +39,8 @@ class GraphMarks : public QGraphicsItem {
     QRectF boundingRect() const override;
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
-    /// The space that names need under the axis of a bar graph, in pixels.
-    static int spaceFor(const std::vector<QString>& names);
+    /// The space for names under the axis of a bar graph in a chart of this height, all in pixels.
+    static int spaceFor(const std::vector<QString>& names, double height);
 
   private:
     double across(double x) const;

@@ -104,6 +104,11 @@ double tickDistance(double span, int parts) {
     return 10 * power;
 }
 
+int decadesPerTick(const AxisRange& range, int parts) {
+    const double decades = std::log10(range.to / range.from);
+    return std::max(1, static_cast<int>(std::ceil(decades / std::max(parts, 1) - 1e-9)));
+}
+
 int decimalsOfTick(double distance) {
     return std::clamp(static_cast<int>(-std::floor(std::log10(distance) + 1e-9)), 0, 12);
 }

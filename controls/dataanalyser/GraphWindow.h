@@ -50,6 +50,9 @@ AxisRange partOf(const AxisRange& range, double fromPlace, double toPlace);
 /// A distance of 1, 2 or 5 times a power of ten that parts a span into about `parts`.
 double tickDistance(double span, int parts);
 
+/// How many decades lie from one tick of a logarithmic axis to the next, for at most about `parts` of them.
+int decadesPerTick(const AxisRange& range, int parts);
+
 /// How many decimals tell such a distance.
 int decimalsOfTick(double distance);
 

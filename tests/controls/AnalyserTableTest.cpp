@@ -136,6 +136,18 @@ TEST(AnalyserGraph, HistogramCountsEachValueOnce) {
     EXPECT_TRUE(histogram({}, false).empty());
 }
 
+TEST(AnalyserGraph, TicksAreRoundAndNoMoreThanFit) {
+    const std::tuple<double, int, double, int> linear[] = {
+        {100, 10, 10, 0}, {101, 10, 20, 0}, {0.3, 10, 0.05, 2}, {4700, 7, 1000, 0}, {3, 0, 5, 0}};
+    for (const auto& [span, parts, distance, decimals] : linear) {
+        EXPECT_DOUBLE_EQ(tickDistance(span, parts), distance) << span;
+        EXPECT_EQ(decimalsOfTick(distance), decimals) << distance;
+    }
+    EXPECT_EQ(decadesPerTick({0.1, 1e5, true}, 6), 1);
+    EXPECT_EQ(decadesPerTick({1e-13, 1e6, true}, 6), 4);
+    EXPECT_EQ(decadesPerTick({1, 10, true}, 0), 1);
+}
+
 TEST(AnalyserGraph, AxesZoomWithinTheWhole) {
     const AxisRange whole{0, 100, false};
     const AxisRange closer = zoomed(whole, 0.5, 0.25, whole);
