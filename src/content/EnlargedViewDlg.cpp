@@ -4,6 +4,8 @@
 
 #include "platform/framework/DataExchange.h"
 #include "platform/machine/Machine.h"
+#include "platform/windows/DC.h"
+#include "platform/windows/MessageMap.h"
 #include "src/content/EnlargedPages.h"
 #include "src/resources/ResourceIds.h"
 
@@ -25,6 +27,8 @@ InnerSize innerSize(EnlargedViewMode mode) {
 }
 
 constexpr CSize kButton{60, 20};
+/// That of the page around a film, which is a little smaller than the dialog.
+constexpr COLORREF kGround = RGB(192, 192, 192);
 /// Below the browser, for the button.
 constexpr int kButtonStrip = 26;
 constexpr int kButtonFromBottom = 22;
@@ -51,6 +55,19 @@ CEnlargedViewDlg::CEnlargedViewDlg(EnlargedViewMode mode, std::string address, s
       m_mode(mode),
       m_strAddress(std::move(address)),
       m_strCaption(std::move(caption)) {}
+
+const MessageMap* CEnlargedViewDlg::GetMessageMap() const {
+    static constexpr MessageMapEntry entries[] = {
+        OnMessage<WM_ERASEBKGND, &CEnlargedViewDlg::OnEraseBkgnd>()};
+    static const MessageMap map{CDialog::GetMessageMap(), entries};
+    return &map;
+}
+
+bool CEnlargedViewDlg::OnEraseBkgnd(CDC& dc) {
+    if (m_mode == EnlargedViewMode::plainPage) return false;
+    dc.FillSolidRect(GetClientRect(), kGround);
+    return true;
+}
 
 void CEnlargedViewDlg::DoDataExchange(CDataExchange& exchange) { DDX_Control(exchange, IDOK, m_ok); }
 

@@ -31,11 +31,15 @@ class CEnlargedViewDlg : public platform::CDialog {
     static const platform::CRuntimeClass runtimeClass;
     const platform::CRuntimeClass& GetRuntimeClass() const override { return runtimeClass; }
 
+    const platform::MessageMap* GetMessageMap() const override;
+
   protected:
     void DoDataExchange(platform::CDataExchange& exchange) override;
     bool OnInitDialog() override;
 
   private:
+    bool OnEraseBkgnd(platform::CDC& dc);
+
     EnlargedViewMode m_mode;
     std::string m_strAddress;
     std::string m_strCaption;
