@@ -1,9 +1,5 @@
 #include "controls/periodic/TableAccessible.h"
 
-#include <QAccessible>
-#include <QAccessibleInterface>
-#include <QAccessibleWidget>
-#include <array>
 #include <memory>
 
 #include "controls/common/QtText.h"
@@ -11,29 +7,18 @@
 #include "controls/periodic/FigureText.h"
 #include "controls/periodic/Lettering.h"
 #include "controls/periodic/PeriodicWidget.h"
+#include "platform/accessible/WidgetWithParts.h"
 
 namespace controls::periodic {
 
 namespace {
 
 /// The cell of one element.
-class CellAccessible : public QAccessibleInterface, public QAccessibleActionInterface {
+class CellAccessible : public platform::PushablePart {
   public:
-    CellAccessible(PeriodicWidget& table, int number) : table_(table), number_(number) {}
+    CellAccessible(PeriodicWidget& table, int number) : PushablePart(table), table_(table), number_(number) {}
 
     bool isValid() const override { return true; }
-    QObject* object() const override { return nullptr; }
-    QAccessibleInterface* childAt(int, int) const override { return nullptr; }
-    QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(&table_); }
-    QAccessibleInterface* child(int) const override { return nullptr; }
-    int childCount() const override { return 0; }
-    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
-    QAccessible::Role role() const override { return QAccessible::Button; }
-    void setText(QAccessible::Text, const QString&) override {}
-
-    QString text(QAccessible::Text kind) const override {
-        return kind == QAccessible::Name ? spokenText(*findElement(number_), table_.state()) : QString();
-    }
 
     QRect rect() const override {
         const QRect cell = table_.cellOf(number_);
@@ -49,73 +34,30 @@ class CellAccessible : public QAccessibleInterface, public QAccessibleActionInte
         return state;
     }
 
-    void* interface_cast(QAccessible::InterfaceType type) override {
-        return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
-                                                    : nullptr;
-    }
-    QStringList actionNames() const override { return {pressAction()}; }
-    void doAction(const QString& name) override {
-        if (name == pressAction()) table_.choose(number_);
-    }
-    QStringList keyBindingsForAction(const QString&) const override { return {}; }
+  protected:
+    QString name() const override { return spokenText(*findElement(number_), table_.state()); }
+    void push() override { table_.choose(number_); }
 
   private:
     PeriodicWidget& table_;
     int number_;
 };
 
-/// The table: the cells come first among its children, then its parts that are windows.
-class TableAccessible : public QAccessibleWidget {
+class TableAccessible : public platform::WidgetWithParts {
   public:
     explicit TableAccessible(PeriodicWidget& table)
-        : QAccessibleWidget(&table, QAccessible::Grouping), table_(table) {}
-    ~TableAccessible() override {
-        for (const QAccessible::Id id : ids_) {
-            if (id != 0) QAccessible::deleteAccessibleInterface(id);
-        }
-    }
-    TableAccessible(const TableAccessible&) = delete;
-    TableAccessible& operator=(const TableAccessible&) = delete;
+        : WidgetWithParts(&table, QAccessible::Grouping), table_(table) {}
 
-    int childCount() const override { return elementCount + QAccessibleWidget::childCount(); }
-
-    QAccessibleInterface* child(int index) const override {
-        return index < elementCount ? cell(index) : QAccessibleWidget::child(index - elementCount);
+  protected:
+    int partCount() const override { return elementCount; }
+    std::unique_ptr<platform::PushablePart> makePart(int index) const override {
+        return std::make_unique<CellAccessible>(table_, index + 1);
     }
-
-    int indexOfChild(const QAccessibleInterface* child) const override {
-        for (int i = 0; i < elementCount; ++i) {
-            if (ids_[static_cast<std::size_t>(i)] != 0 && cell(i) == child) return i;
-        }
-        const int window = QAccessibleWidget::indexOfChild(child);
-        return window < 0 ? window : window + elementCount;
-    }
-
-    QAccessibleInterface* childAt(int x, int y) const override {
-        const int number = table_.elementAt(table_.mapFromGlobal(QPoint(x, y)));
-        return number != 0 ? cell(number - 1) : QAccessibleWidget::childAt(x, y);
-    }
-
-    QAccessibleInterface* focusChild() const override {
-        const int selected = table_.state().selected;
-        return table_.hasFocus() && selected != 0 ? cell(selected - 1) : QAccessibleWidget::focusChild();
-    }
+    int partAt(QPoint point) const override { return table_.elementAt(table_.mapFromGlobal(point)) - 1; }
+    int chosenPart() const override { return table_.state().selected - 1; }
 
   private:
-    /// The cell, made when it is first asked for; Qt keeps it until its id is given up.
-    QAccessibleInterface* cell(int index) const {
-        if (index < 0) return nullptr;
-        QAccessible::Id& id = ids_[static_cast<std::size_t>(index)];
-        if (id == 0) {
-            auto made = std::make_unique<CellAccessible>(table_, index + 1);
-            // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): Qt destroys it
-            id = QAccessible::registerAccessibleInterface(made.release());
-        }
-        return QAccessible::accessibleInterface(id);
-    }
-
     PeriodicWidget& table_;
-    mutable std::array<QAccessible::Id, elementCount> ids_{};
 };
 
 QAccessibleInterface* accessibleOf(const QString&, QObject* object) {
@@ -152,10 +94,7 @@ TableAccess::~TableAccess() {
 }
 
 void TableAccess::focused(PeriodicWidget& table, int number) {
-    if (!QAccessible::isActive() || number == 0) return;
-    QAccessibleEvent event(&table, QAccessible::Focus);
-    event.setChild(number - 1);
-    QAccessible::updateAccessibility(&event);
+    if (number != 0) platform::tellPartChosen(table, number - 1);
 }
 
 }  // namespace controls::periodic

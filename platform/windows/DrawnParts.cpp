@@ -1,9 +1,10 @@
 #include "platform/windows/DrawnParts.h"
 
-#include <QAccessible>
-#include <QAccessibleWidget>
+#include <algorithm>
 #include <memory>
+#include <optional>
 
+#include "platform/accessible/WidgetWithParts.h"
 #include "platform/handles/WindowTable.h"
 #include "platform/windows/DrawnPartsAccess.h"
 #include "platform/windows/QtConvert.h"
@@ -21,32 +22,24 @@ std::vector<DrawnPart> partsOf(const QWidget& widget) {
     return window ? window->DrawnParts() : std::vector<DrawnPart>();
 }
 
+/// Where a part is on the screen.
+QRect placeOf(const QWidget& widget, const DrawnPart& part) {
+    const CWnd* const window = windowOf(widget);
+    if (!window) return {};
+    const CPoint corner = window->ClientToScreen(part.place.TopLeft());
+    return {corner.x, corner.y, part.place.Width(), part.place.Height()};
+}
+
 /// One part. The window is asked anew each time, since parts come and go.
-class PartAccessible : public QAccessibleInterface, public QAccessibleActionInterface {
+class PartAccessible : public PushablePart {
   public:
-    PartAccessible(QWidget& widget, int index) : widget_(widget), index_(index) {}
+    PartAccessible(QWidget& widget, int index) : PushablePart(widget), widget_(widget), index_(index) {}
 
     bool isValid() const override { return part().has_value(); }
-    QObject* object() const override { return nullptr; }
-    QAccessibleInterface* childAt(int, int) const override { return nullptr; }
-    QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(&widget_); }
-    QAccessibleInterface* child(int) const override { return nullptr; }
-    int childCount() const override { return 0; }
-    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
-    QAccessible::Role role() const override { return QAccessible::Button; }
-    void setText(QAccessible::Text, const QString&) override {}
-
-    QString text(QAccessible::Text kind) const override {
-        const auto known = part();
-        return known && kind == QAccessible::Name ? toQt(known->name) : QString();
-    }
 
     QRect rect() const override {
-        const CWnd* const window = windowOf(widget_);
         const auto known = part();
-        if (!window || !known) return {};
-        const CPoint corner = window->ClientToScreen(known->place.TopLeft());
-        return {corner.x, corner.y, known->place.Width(), known->place.Height()};
+        return known ? placeOf(widget_, *known) : QRect();
     }
 
     QAccessible::State state() const override {
@@ -60,16 +53,12 @@ class PartAccessible : public QAccessibleInterface, public QAccessibleActionInte
         return state;
     }
 
-    void* interface_cast(QAccessible::InterfaceType type) override {
-        return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
-                                                    : nullptr;
+  protected:
+    QString name() const override {
+        const auto known = part();
+        return known ? toQt(known->name) : QString();
     }
-    QStringList actionNames() const override { return {pressAction()}; }
-    void doAction(const QString& name) override {
-        CWnd* const window = windowOf(widget_);
-        if (window && isValid() && name == pressAction()) window->PushDrawnPart(index_);
-    }
-    QStringList keyBindingsForAction(const QString&) const override { return {}; }
+    void push() override { windowOf(widget_)->PushDrawnPart(index_); }
 
   private:
     std::optional<DrawnPart> part() const {
@@ -82,62 +71,27 @@ class PartAccessible : public QAccessibleInterface, public QAccessibleActionInte
     int index_;
 };
 
-/// A window with its parts: they come first among its children, then its child windows.
-class DrawnAccessible : public QAccessibleWidget {
+class DrawnAccessible : public WidgetWithParts {
   public:
-    explicit DrawnAccessible(QWidget& drawn) : QAccessibleWidget(&drawn, QAccessible::Client) {}
-    ~DrawnAccessible() override {
-        for (const QAccessible::Id id : ids_) QAccessible::deleteAccessibleInterface(id);
-    }
-    DrawnAccessible(const DrawnAccessible&) = delete;
-    DrawnAccessible& operator=(const DrawnAccessible&) = delete;
+    explicit DrawnAccessible(QWidget& drawn) : WidgetWithParts(&drawn, QAccessible::Client) {}
 
-    int childCount() const override { return partCount() + QAccessibleWidget::childCount(); }
-
-    QAccessibleInterface* child(int index) const override {
-        const int count = partCount();
-        return index < count ? part(index) : QAccessibleWidget::child(index - count);
+  protected:
+    int partCount() const override { return static_cast<int>(partsOf(*widget()).size()); }
+    std::unique_ptr<PushablePart> makePart(int index) const override {
+        return std::make_unique<PartAccessible>(*widget(), index);
     }
-
-    int indexOfChild(const QAccessibleInterface* child) const override {
-        const int count = partCount();
-        for (int i = 0; i < count; ++i) {
-            if (part(i) == child) return i;
-        }
-        const int window = QAccessibleWidget::indexOfChild(child);
-        return window < 0 ? window : window + count;
+    int partAt(QPoint point) const override {
+        return find([&](const DrawnPart& part) { return placeOf(*widget(), part).contains(point); });
     }
-
-    QAccessibleInterface* childAt(int x, int y) const override {
-        for (int i = 0; i < partCount(); ++i) {
-            if (part(i)->rect().contains(x, y)) return part(i);
-        }
-        return QAccessibleWidget::childAt(x, y);
-    }
-
-    QAccessibleInterface* focusChild() const override {
-        const auto parts = partsOf(*widget());
-        for (std::size_t i = 0; widget()->hasFocus() && i < parts.size(); ++i) {
-            if (parts[i].chosen) return part(static_cast<int>(i));
-        }
-        return QAccessibleWidget::focusChild();
-    }
+    int chosenPart() const override { return find(&DrawnPart::chosen); }
 
   private:
-    int partCount() const { return static_cast<int>(partsOf(*widget()).size()); }
-
-    /// Made when it is first asked for; Qt keeps it until its id is given up.
-    QAccessibleInterface* part(int index) const {
-        if (index < 0) return nullptr;
-        while (ids_.size() <= static_cast<std::size_t>(index)) {
-            auto made = std::make_unique<PartAccessible>(*widget(), static_cast<int>(ids_.size()));
-            // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): Qt destroys it
-            ids_.push_back(QAccessible::registerAccessibleInterface(made.release()));
-        }
-        return QAccessible::accessibleInterface(ids_[static_cast<std::size_t>(index)]);
+    template <class Condition>
+    int find(Condition condition) const {
+        const auto parts = partsOf(*widget());
+        const auto found = std::ranges::find_if(parts, condition);
+        return found == parts.end() ? -1 : static_cast<int>(found - parts.begin());
     }
-
-    mutable std::vector<QAccessible::Id> ids_;
 };
 
 QAccessibleInterface* accessibleOf(const QString&, QObject* object) {
@@ -154,11 +108,7 @@ void tellOfDrawnParts() {
 }
 
 void TellPartChosen(const CWnd& window, int index) {
-    QWidget* const widget = SurfaceWidget::of(window);
-    if (!widget || !QAccessible::isActive()) return;
-    QAccessibleEvent event(widget, QAccessible::Focus);
-    event.setChild(index);
-    QAccessible::updateAccessibility(&event);
+    if (QWidget* const widget = SurfaceWidget::of(window)) tellPartChosen(*widget, index);
 }
 
 }  // namespace platform
