@@ -14,14 +14,16 @@ const frameOfPage = 'plugin=' + new URLSearchParams(location.search).get('plugin
 const kindsIn = description => (description.streams ?? []).map(stream => stream.codec_type);
 
 class ConvertedVideo {
-  constructor(video, description, fail) {
+  constructor(video, description, fail, from) {
     this.video = video;
     this.fail = fail;
+    this.next = from;
     this.duration = Number(description.format?.duration);
     this.type = kindsIn(description).includes('audio') ? 'video/webm; codecs="vp8,opus"' : 'video/webm; codecs="vp8"';
     this.media = new MediaSource();
     this.media.addEventListener('sourceopen', () => this.opened(), { once: true });
     video.src = URL.createObjectURL(this.media);
+    video.currentTime = from;
   }
 
   opened() {
@@ -31,7 +33,6 @@ class ConvertedVideo {
     this.video.addEventListener('timeupdate', () => this.goOn());
     this.video.addEventListener('seeking', () => this.moved());
     this.video.addEventListener('error', () => this.fail());
-    this.next = 0;
     this.goOn();
   }
 
@@ -97,8 +98,8 @@ class ConvertedVideo {
 }
 
 /// Plays the file of this frame in the video element; calls `fail` when it cannot be played, with a text of its own
-/// when there is no file, and `noPictures` when there is no video in it.
-function playConverted(video, fail, noPictures = fail) {
+/// when there is no file, and `noPictures` when there is no video in it. `from` is the second that it begins at.
+function playConverted(video, fail, noPictures = fail, from = 0) {
   const request = new XMLHttpRequest();
   request.open('GET', location.pathname + '?describe&' + frameOfPage);
   request.onerror = () => fail('Το βίντεο δεν βρέθηκε.');
@@ -106,7 +107,7 @@ function playConverted(video, fail, noPictures = fail) {
     let description;
     try { description = JSON.parse(request.responseText); } catch { return fail(); }
     if (!kindsIn(description).includes('video')) return noPictures();
-    new ConvertedVideo(video, description, fail);
+    new ConvertedVideo(video, description, fail, from);
   };
   request.send();
 }

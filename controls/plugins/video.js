@@ -13,6 +13,8 @@ const [video, strip, play, position, time, sound] =
   ['video', '#strip', '#play', '#position', 'time', '#sound'].map(name => document.querySelector(name));
 const query = new URLSearchParams(location.search);
 const isOn = name => /^(true|yes|1)$/i.test(query.get(name) ?? '');
+// As the reader wants it; the engine stops a film that it cannot go on with.
+let isToPlay = isOn('autoplay');
 
 // ---- the strip ----
 
@@ -41,6 +43,7 @@ function showPosition() {
 }
 
 function toggle() {
+  isToPlay = video.paused;
   if (video.paused) video.play().catch(showState); else video.pause();
 }
 
@@ -97,14 +100,15 @@ addEventListener('resize', fit);
 
 // ---- the file ----
 
-/// Lets the engine play it, and has it converted, once, when the engine cannot: a name does not tell what is in the
-/// file.
+/// Lets the engine play it, and has it converted, once, when the engine cannot, from where it came to a stop: a name
+/// does not tell what is in the file.
 function playOrConvert() {
   const trial = new AbortController();
   const { signal } = trial;
   const convert = noPictures => {
     trial.abort();
-    playConverted(video, fail, noPictures);
+    video.autoplay = isToPlay;
+    playConverted(video, fail, noPictures, video.currentTime);
   };
   video.addEventListener('error', () => convert(fail), { signal });
   video.addEventListener('loadedmetadata', () => {
@@ -117,7 +121,7 @@ function playOrConvert() {
 }
 
 video.loop = isOn('loop');
-video.autoplay = isOn('autoplay');
+video.autoplay = isToPlay;
 if (playable.test(location.pathname)) {
   playOrConvert();
 } else {

@@ -1,6 +1,7 @@
 #include <unistd.h>
 #include <QDir>
 #include <QFile>
+#include <QTemporaryFile>
 #include <QTest>
 
 #include "tests/platform_automation/BrowserMachine.h"
@@ -25,8 +26,10 @@ int children(const QByteArray& name) {
 class ConvertedVideo : public BrowserMachine {
   protected:
     void openFilm(const std::string& film, const std::string& attributes) {
-        const std::string file = "D:\\" + film;
-        copyFile(MADE_FILMS "/" + film, file);
+        copyFile(MADE_FILMS "/" + film, "D:\\" + film);
+        embed("D:\\" + film, attributes);
+    }
+    void embed(const std::string& file, const std::string& attributes) {
         write("D:\\a.htm", "<BODY STYLE=\"margin:0\"><EMBED SRC=\"" + file + "\" WIDTH=320 HEIGHT=258 " +
                                attributes + ">");
         open("D:\\a.htm");
@@ -50,6 +53,25 @@ TEST_F(ConvertedVideo, ShowsPicturesWhereTheEngineWouldPlaySoundAlone) {
     openFilm("part2.mp4", "AUTOPLAY=TRUE");
     EXPECT_TRUE(runUntil([&] { return text() == "0:01"; })) << text();
     EXPECT_TRUE(showsFilm());
+}
+
+TEST_F(ConvertedVideo, TakesOverWhereTheEngineStops) {
+    QFile whole(QStringLiteral(MADE_FILMS "/keys.webm"));
+    ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
+    QByteArray bytes = whole.readAll();
+    // Each key frame begins so; this is at 0:03.
+    qsizetype third = -1;
+    for (int i = 0; i < 3; ++i) third = bytes.indexOf("\x9d\x01\x2a", third + 1);
+    ASSERT_GT(third, 0);
+    bytes[third] = 0;
+    QTemporaryFile spoilt;
+    ASSERT_TRUE(spoilt.open() && spoilt.write(bytes) == bytes.size() && spoilt.flush());
+    copyFile(spoilt.fileName().toStdString(), "D:\\spoilt.webm");
+    embed("D:\\spoilt.webm", "AUTOPLAY=TRUE");
+    EXPECT_TRUE(runUntil([&] { return text() == "0:01"; })) << text();
+    EXPECT_TRUE(runUntil([&] { return text() == "0:00" || text() == "0:05"; })) << text();
+    EXPECT_EQ(text(), "0:05");
+    EXPECT_TRUE(runUntil([&] { return showsFilm(); }));
 }
 
 TEST_F(ConvertedVideo, WaitsGoesOnFromAnyPlaceAndEnds) {
