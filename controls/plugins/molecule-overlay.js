@@ -9,6 +9,12 @@ const measureColour = '#ffd84a';
 const isLight = colour => { const [r, g, b] = channels(colour); return 0.3 * r + 0.59 * g + 0.11 * b > 140; };
 const withComma = (value, digits) => value.toFixed(digits).replace('.', ',');
 
+/// The distance between two atoms, the angle of three; molecules are in Å. Nothing for fewer.
+function measureOf(atoms) {
+  if (atoms.length === 2) return withComma(distanceOf(atoms) / 10, 3) + ' nm';
+  return atoms.length === 3 ? withComma(angleOf(atoms), 1) + '°' : undefined;
+}
+
 class Overlay {
   constructor(molecule, background) {
     this.element = document.createElement('canvas');
@@ -76,12 +82,11 @@ class Overlay {
     }
     c.font = 'bold 13px ' + overlayFont;
     c.textAlign = 'center';
-    if (picked.length === 2) {
-      const [p, q] = places;
-      this.text(withComma(distanceOf(picked), 2) + ' Å', (p.x + q.x) / 2, (p.y + q.y) / 2 - 9, measureColour);
-    } else if (picked.length === 3) {
-      this.text(withComma(angleOf(picked), 1) + '°', places[1].x, places[1].y - 16, measureColour);
-    }
+    const measure = measureOf(picked);
+    if (!measure) return;
+    const [p, q] = places;
+    const [x, y] = picked.length === 2 ? [(p.x + q.x) / 2, (p.y + q.y) / 2 - 9] : [q.x, q.y - 16];
+    this.text(measure, x, y, measureColour);
   }
 
   /// In rows at the bottom.

@@ -69,9 +69,10 @@ class Viewer {
   listen() {
     const pad = this.overlay.element;
     pad.tabIndex = 0;
-    pad.setAttribute('role', 'img');
-    pad.setAttribute('aria-label', 'Τρισδιάστατο μοντέλο του μορίου. Σύρετε για περιστροφή, ροδέλα για μεγέθυνση, ' +
-                                   'διπλό κλικ για επαναφορά.');
+    // What it is to screen readers leaves it its keys.
+    pad.setAttribute('role', 'application');
+    pad.setAttribute('aria-label', 'Τρισδιάστατο μοντέλο του μορίου. Βέλη για περιστροφή, + και − για μεγέθυνση, Home για ' +
+                                   'επαναφορά, διάστημα για το επόμενο άτομο, Enter για μέτρηση.');
     pad.addEventListener('pointerdown', event => this.pressed(event));
     pad.addEventListener('pointermove', event => this.moved(event));
     pad.addEventListener('pointerup', event => this.released(event));
@@ -91,7 +92,9 @@ class Viewer {
   }
 
   moved(event) {
-    if (!this.overlay.element.hasPointerCapture(event.pointerId)) return this.showTip(event);
+    if (!this.overlay.element.hasPointerCapture(event.pointerId)) {
+      return this.showTip(this.atomAt(event.offsetX, event.offsetY), event.offsetX, event.offsetY);
+    }
     this.dragged += Math.abs(event.movementX) + Math.abs(event.movementY);
     const perPixel = Math.PI / Math.min(this.camera.width, this.camera.height);
     this.camera.turnBy(event.movementX * perPixel, event.movementY * perPixel);
@@ -99,18 +102,48 @@ class Viewer {
   }
 
   released(event) {
-    if (!this.state.measure || this.dragged > 4) return;
-    const atom = this.atomAt(event.offsetX, event.offsetY);
-    if (!atom || this.picked.includes(atom)) return;
-    this.picked = this.picked.length >= 3 ? [atom] : [...this.picked, atom];
+    if (this.dragged <= 4) this.pick(this.atomAt(event.offsetX, event.offsetY));
+  }
+
+  /// Measures with one more atom; without one, begins anew.
+  pick(atom) {
+    if (!this.state.measure || this.picked.includes(atom)) return;
+    this.picked = !atom ? [] : this.picked.length >= 3 ? [atom] : [...this.picked, atom];
     this.request();
   }
 
+  /// Points at the atom that is so many behind the one pointed at last.
+  pointOn(steps) {
+    this.stopSpinning();
+    const atoms = this.molecule.atoms.filter(this.isShown);
+    if (atoms.length === 0) return;
+    const before = Math.max(atoms.indexOf(this.pointed), steps < 0 ? 0 : -1);
+    this.pointed = atoms[(before + steps + atoms.length) % atoms.length];
+    this.showTipOfPointed();
+  }
+
+  pickPointed() {
+    if (!this.pointed || !this.isShown(this.pointed)) return;
+    this.pick(this.pointed);
+    this.showTipOfPointed(measureOf(this.picked));
+  }
+
+  showTipOfPointed(measure) {
+    const { x, y } = this.camera.projector()(this.pointed.at);
+    this.showTip(this.pointed, x, y, measure);
+  }
+
   typed(event) {
+    const action = {
+      ' ': () => this.pointOn(event.shiftKey ? -1 : 1), Enter: () => this.pickPointed(), Home: () => this.reset(),
+      Escape: () => this.pick(),
+    }[event.key];
     const step = { ArrowLeft: [-1, 0], ArrowRight: [1, 0], ArrowUp: [0, -1], ArrowDown: [0, 1] }[event.key];
     const zoom = event.ctrlKey ? undefined : { '+': 1.15, '-': 1 / 1.15 }[event.key];
-    if (!step && !zoom) return;
+    if (!action && !step && !zoom) return;
     event.preventDefault();
+    this.tip.hidden = true;
+    if (action) return action();
     if (zoom) return this.zoomBy(zoom);
     this.stopSpinning();
     this.camera.turnBy(step[0] * 0.12, step[1] * 0.12);
@@ -150,16 +183,17 @@ class Viewer {
     return found;
   }
 
-  showTip(event) {
-    const atom = this.atomAt(event.offsetX, event.offsetY);
+  /// Names the atom beside a place, with a measure; hides the name when there is none.
+  showTip(atom, x, y, measure) {
     this.tip.hidden = !atom;
     if (!atom) return;
     const number = this.molecule.atoms.indexOf(atom) + 1;
-    this.tip.textContent = `${nameOf(atom.element)} (${atom.element}), άτομο ${number}${atom.note ? ', ' + atom.note : ''}`;
-    this.tip.style.left = Math.max(2, Math.min(event.offsetX + 12, innerWidth - this.tip.offsetWidth - 2)) + 'px';
-    const below = event.offsetY + 18;
+    this.tip.textContent = `${nameOf(atom.element)} (${atom.element}), άτομο ${number}${atom.note ? ', ' + atom.note : ''}` +
+                           (measure ? ': ' + measure : '');
+    this.tip.style.left = Math.max(2, Math.min(x + 12, innerWidth - this.tip.offsetWidth - 2)) + 'px';
+    const below = y + 18;
     const isLow = below + this.tip.offsetHeight > innerHeight - 2;
-    this.tip.style.top = (isLow ? event.offsetY - this.tip.offsetHeight - 6 : below) + 'px';
+    this.tip.style.top = (isLow ? y - this.tip.offsetHeight - 6 : below) + 'px';
   }
 
   // ---- drawing ----

@@ -152,6 +152,12 @@ TEST_F(MoleculeFiles, AreLabelledAndMeasured) {
         QTest::mouseClick(input(), Qt::LeftButton, {}, middleOfBlue(CRect::at(half * 170, 0, 170, 270)));
     }
     EXPECT_TRUE(runUntil([&] { return count(frame, measure) > 60; })) << "the line and the distance";
+    QTest::keyClick(input(), Qt::Key_Escape);
+    EXPECT_TRUE(runUntil([&] { return count(frame, measure) == 0; }));
+    for (const auto key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Space, Qt::Key_Return}) {
+        QTest::keyClick(input(), key);
+    }
+    EXPECT_TRUE(runUntil([&] { return count(frame, measure) > 60; })) << "by keys";
 }
 
 }  // namespace
