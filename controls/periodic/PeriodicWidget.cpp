@@ -205,7 +205,12 @@ void PeriodicWidget::paintEvent(QPaintEvent* event) {
 
 void PeriodicWidget::paintCardOf(QPainter& painter, const QRect& area) {
     const Element* shown = findElement(hovered_ != 0 ? hovered_ : state_.selected);
-    shown ? paintCard(painter, lettering_, area, *shown, state_) : paintEmptyCard(painter, lettering_, area);
+    if (shown) return paintCard(painter, lettering_, area, *shown, state_);
+    paintEmptyCard(painter, lettering_, area);
+    if (!hasFocus()) return;
+    // No cell shows it.
+    painter.setPen(QPen(appearance::deep, 2));
+    painter.drawRect(area.adjusted(1, 1, -1, -1));
 }
 
 void PeriodicWidget::paintElements(const CellPainter& cells, const TableLayout& layout,
@@ -316,6 +321,13 @@ bool PeriodicWidget::stepSlider(int key) {
     }
 }
 
+bool PeriodicWidget::highlightByKey(int key) {
+    if (key < Qt::Key_0 || key > Qt::Key_9) return false;
+    const int kind = key == Qt::Key_0 ? 10 : key - Qt::Key_0;
+    if (kind <= kindCount(state_.view)) highlight(kind);
+    return true;
+}
+
 void PeriodicWidget::typed(const QKeyEvent& event) {
     if (const int found = typeAhead_.type(fromQt(event.text()), clock_.elapsed())) {
         hover(0);
@@ -327,7 +339,7 @@ void PeriodicWidget::keyPressEvent(QKeyEvent* event) {
     const bool plain = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) == 0;
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (stepView(*event)) return;
-    if (plain && (step(event->key()) || stepSlider(event->key()))) return;
+    if (plain && (step(event->key()) || stepSlider(event->key()) || highlightByKey(event->key()))) return;
     if (plain && isPrintable(event->text())) return typed(*event);
     if (!plain || !enter) return QWidget::keyPressEvent(event);
     if (state_.selected != 0) chosen_(state_.selected);

@@ -70,6 +70,7 @@ class PeriodicWidget : public QWidget {
     bool step(int key);
     bool stepView(const QKeyEvent& event);
     bool stepSlider(int key);
+    bool highlightByKey(int key);
     void typed(const QKeyEvent& event);
     void paintElements(const CellPainter& cells, const TableLayout& layout, const QRegion& dirty) const;
     void paintPlaceholders(const CellPainter& cells, const TableLayout& layout) const;
