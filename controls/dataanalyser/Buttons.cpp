@@ -22,7 +22,18 @@ QPushButton* makeToggle(const QString& text, const QString& name, QWidget* paren
 }
 
 void addChoice(QButtonGroup& group, int id, const QString& text, const QString& name, QWidget* parent) {
-    group.addButton(makeToggle(text, name, parent), id);
+    QPushButton* button = makeToggle(text, name, parent);
+    // By this it is a radio button to assistive technology.
+    button->setAutoExclusive(true);
+    group.addButton(button, id);
+}
+
+void choose(const QButtonGroup& group, int id) {
+    for (QAbstractButton* button : group.buttons()) {
+        const bool chosen = group.id(button) == id;
+        if (chosen) button->setChecked(true);
+        button->setFocusPolicy(chosen ? Qt::StrongFocus : Qt::ClickFocus);
+    }
 }
 
 QWidget* joinedButtons(const QButtonGroup& group, QWidget* parent) {

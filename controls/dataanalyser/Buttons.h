@@ -12,8 +12,11 @@ QPushButton* makeButton(const QString& text, const QString& name, QWidget* paren
 /// A button that stays pressed.
 QPushButton* makeToggle(const QString& text, const QString& name, QWidget* parent);
 
-/// Adds a toggle to a group of which one is pressed at a time.
+/// Adds to a group a toggle of which one is pressed at a time.
 void addChoice(QButtonGroup& group, int id, const QString& text, const QString& name, QWidget* parent);
+
+/// Presses the button of this id. Tab leads to it, and arrow keys from it to the others of its group.
+void choose(const QButtonGroup& group, int id);
 
 /// A row of a group's buttons side by side.
 QWidget* joinedButtons(const QButtonGroup& group, QWidget* parent);

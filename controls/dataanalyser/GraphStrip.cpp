@@ -78,6 +78,11 @@ void GraphStrip::layOut() {
     halves_->addLayout(axes, 1);
     for (ChoiceBox* box : {xs_, ys_}) box->setMinimumContentsLength(3);
     for (QPushButton* button : {closer_, farther_}) button->setFixedWidth(28);
+    // As it is read.
+    QList<QWidget*> order;
+    for (QAbstractButton* kind : kinds_->buttons()) order.append(kind);
+    order << fit_ << closer_ << farther_ << whole_ << xs_ << logX_ << ys_ << logY_;
+    for (qsizetype i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
 }
 
 // NOLINTEND(cppcoreguidelines-owning-memory)
@@ -116,7 +121,7 @@ void GraphStrip::refresh() {
     const GraphPlan plan = analyser_.plan();
     xs_->setItems(numbers, static_cast<int>(plan.x));
     ys_->setItems(numbers, static_cast<int>(plan.y));
-    kinds_->button(static_cast<int>(plan.kind))->setChecked(true);
+    choose(*kinds_, static_cast<int>(plan.kind));
     logX_->setChecked(plan.logX);
     logY_->setChecked(plan.logY);
     fit_->setChecked(plan.bestFit);

@@ -85,7 +85,9 @@ void GraphView::move(double across, double up) {
 
 void GraphView::step(int by) {
     const auto count = static_cast<int>(chart_->marks().scenery().graph.marks.size());
-    if (count > 0) chart_->setHovered((std::max(chart_->hovered() + by, by > 0 ? 0 : -1) + count) % count);
+    if (count == 0) return;
+    chart_->setHovered((std::max(chart_->hovered() + by, by > 0 ? 0 : -1) + count) % count);
+    setAccessibleDescription(chart_->hoverLines().join(QStringLiteral(", ")));
 }
 
 void GraphView::chooseHovered(bool toggle) {

@@ -14,13 +14,15 @@ QLabel#nograph { background: #ffffff; color: #1c2733; font-size: 14px; }
 QComboBox { background: #ffffff; color: #1c2733; border: 1px solid #a9bfcd; border-radius: 4px;
             padding: 2px 18px 2px 6px; min-height: 18px; }
 QComboBox::drop-down { border: none; width: 20px; }
-QComboBox:hover, QComboBox:focus { border-color: #3a7aa0; }
+QComboBox:hover { border-color: #3a7aa0; }
+QComboBox:focus { border: 2px solid #1f4e6b; padding: 1px 17px 1px 5px; }
 QComboBox:disabled { color: #9aa7b4; border-color: #d0dae3; }
 QComboBox QAbstractItemView { background: #ffffff; color: #1c2733; border: 1px solid #a9bfcd; outline: none;
                               selection-background-color: #d3e5f0; selection-color: #1c2733; }
 QPushButton { background: #ffffff; color: #1c2733; border: 1px solid #a9bfcd; padding: 2px 8px; min-height: 18px; }
-QPushButton:hover, QPushButton:focus { border-color: #1f4e6b; }
+QPushButton:hover { border-color: #1f4e6b; }
 QPushButton:checked { background: #1f4e6b; color: #ffffff; border-color: #1f4e6b; }
+QPushButton:focus { border: 2px solid #1f4e6b; padding: 1px 7px; }
 QPushButton:checked:focus { border-color: #e0a030; }
 QPushButton:disabled { color: #9aa7b4; border-color: #d0dae3; }
 QPushButton:checked:disabled { background: #d0dae3; color: #ffffff; border-color: #d0dae3; }
@@ -29,6 +31,8 @@ QMenu { background: #ffffff; color: #1c2733; border: 1px solid #a9bfcd; padding:
 QMenu::item { padding: 3px 24px 3px 26px; }
 QMenu::item:selected { background: #d3e5f0; color: #1c2733; }
 QMenu::separator { height: 1px; background: #d0dae3; margin: 4px 8px; }
+QGraphicsView { border: 2px solid #ffffff; }
+QGraphicsView:focus { border-color: #3a7aa0; }
 QTableView { background: #ffffff; border: none; }
 QTableView QTableCornerButton::section { background: #1f4e6b; border: none; }
 QHeaderView { background: #1f4e6b; border: none; }

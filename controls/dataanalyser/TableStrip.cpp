@@ -132,8 +132,8 @@ void TableStrip::refresh() {
 
     const bool hasTemperatures = std::ranges::any_of(analyser_.dataSet().columns, isTemperature);
     for (QAbstractButton* button : units_->buttons()) button->setEnabled(hasTemperatures);
-    units_->button(static_cast<int>(analyser_.unit()))->setChecked(true);
-    views_->button(analyser_.graphShown() ? 1 : 0)->setChecked(true);
+    choose(*units_, static_cast<int>(analyser_.unit()));
+    choose(*views_, analyser_.graphShown() ? 1 : 0);
     columns_->setVisible(!analyser_.graphShown());
     refreshCount();
 }
