@@ -75,9 +75,8 @@ QAbstractAxis* makeLogarithmicAxis(const AxisRange& range, double ticks) {
     axis->setBase(std::pow(10, step));
     axis->setLabelFormat(QStringLiteral("%.6g"));
     axis->setMinorTickCount(step == 1 ? 8 : 0);
-    // The axis finds its decades with ln x / ln 10, by which 0.1 comes to lie above −1 and would have no
-    // label.
-    axis->setRange(range.from * (1 - 1e-9), range.to * (1 + 1e-9));
+    const AxisRange drawn = withRoundingRoom(range);
+    axis->setRange(drawn.from, drawn.to);
     return axis;
 }
 
@@ -270,6 +269,9 @@ QStringList GraphChart::linesOf(int index) const {
         return toQt(title) + QStringLiteral(": ") + shownCell(set.columns[column], row, analyser_->unit());
     };
     QStringList lines{shownRowName(set, row)};
+    if (mark.category >= 0) {
+        lines += toQt(analyser_->categories().names[static_cast<std::size_t>(mark.category)]);
+    }
     if (graph.plan.hasPoints()) lines += line(graph.plan.x, graph.xTitle);
     lines += line(graph.plan.y, graph.yTitle);
     return lines;

@@ -127,12 +127,15 @@ TEST_F(AnalyserTest, PointerTellsThePointsName) {
     put(control_, 2, std::int16_t{1});
     const GraphMarks& marks = graph().graphChart().marks();
     ASSERT_EQ(marks.scenery().graph.marks.size(), 3U) << "without the row that has no mass";
+    const QString told =
+        control_.widget().findChild<QWidget*>(QStringLiteral("message"))->accessibleDescription();
+    EXPECT_TRUE(told.startsWith(QStringLiteral("1 γραμμή δεν έχει τιμή"))) << told.toStdString();
     const QPointF place = marks.place(marks.scenery().graph.marks[1]);
     const QPoint at = graph().mapFromScene(graph().graphChart().mapToScene(place));
     QTest::mouseMove(graph().viewport(), at);
     EXPECT_EQ(graph().graphChart().hoverLines(),
-              (QStringList{QStringLiteral("μεθάνιο, CH₄"), QStringLiteral("Μάζα: 16,04"),
-                           QStringLiteral("Βρασμός (°C): −161,5")}));
+              (QStringList{QStringLiteral("μεθάνιο, CH₄"), QStringLiteral("άλλα"),
+                           QStringLiteral("Μάζα: 16,04"), QStringLiteral("Βρασμός (°C): −161,5")}));
     QTest::mouseClick(graph().viewport(), Qt::LeftButton, {}, at);
     EXPECT_EQ(selected(), std::vector<std::int16_t>{2});
 }

@@ -146,6 +146,11 @@ TEST(AnalyserGraph, TicksAreRoundAndNoMoreThanFit) {
     EXPECT_EQ(decadesPerTick({0.1, 1e5, true}, 6), 1);
     EXPECT_EQ(decadesPerTick({1e-13, 1e6, true}, 6), 4);
     EXPECT_EQ(decadesPerTick({1, 10, true}, 0), 1);
+    for (int decade = -15; decade < 15; ++decade) {
+        const AxisRange drawn = withRoundingRoom({std::pow(10, decade), std::pow(10, decade + 1), true});
+        EXPECT_EQ(std::ceil(std::log(drawn.from) / std::log(10)), decade);
+        EXPECT_EQ(std::floor(std::log(drawn.to) / std::log(10)), decade + 1);
+    }
 }
 
 TEST(AnalyserGraph, AxesZoomWithinTheWhole) {
