@@ -1,8 +1,5 @@
-#include "platform/framework/Resources.h"
-#include "platform/framework/WinApp.h"
 #include "platform/machine/Machine.h"
 #include "platform/windows/MessageMap.h"
-#include "platform/windows/PrinterDC.h"
 #include "src/app/KalyxoApp.h"
 #include "src/content/EnlargedViewDlg.h"
 #include "src/content/KalyxoView.h"
@@ -144,9 +141,7 @@ void CKalyxoView::showPlainPage(const std::string& address) {
 }
 
 void CKalyxoView::OnPrint() {
-    if (!HasPrinter()) {
-        AfxMessageBox(LoadString(IDS_NO_PRINTER));
-    } else if (m_mode == ContentMode::DataAnalyser) {
+    if (m_mode == ContentMode::DataAnalyser) {
         m_components.dataAnalyser.PrintView();
     } else {
         execInDocument(CWebBrowser::kCommandPrint);
