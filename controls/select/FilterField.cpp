@@ -1,11 +1,12 @@
 #include "controls/select/FilterField.h"
 
 #include <QAction>
-#include <QIcon>
+#include <QIconEngine>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPixmap>
 #include <QToolButton>
+#include <memory>
 
 #include "controls/select/Appearance.h"
 
@@ -18,28 +19,32 @@ constexpr int iconSize = 16;
 // Below this the text needs the room.
 constexpr int narrowWidth = 150;
 
-QPixmap drawGlass(int scale) {
-    QPixmap pixmap(iconSize * scale, iconSize * scale);
-    pixmap.fill(Qt::transparent);
-    pixmap.setDevicePixelRatio(scale);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(appearance::accent, 1.6, Qt::SolidLine, Qt::RoundCap));
-    painter.drawEllipse(QRectF(2.5, 2.5, 8, 8));
-    painter.drawLine(QPointF(9.6, 9.6), QPointF(13.5, 13.5));
-    return pixmap;
-}
-
-QIcon glassIcon() {
-    QIcon icon;
-    for (const int scale : {1, 2, 3}) icon.addPixmap(drawGlass(scale));
-    return icon;
-}
+/// Drawn in each size that it is shown in: on screens of one and a half pixels to a coordinate, too, it is
+/// sharp.
+class GlassEngine : public QIconEngine {
+  public:
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override {
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->scale(1.0 * rect.width() / iconSize, 1.0 * rect.height() / iconSize);
+        painter->setPen(QPen(appearance::accent, 1.6, Qt::SolidLine, Qt::RoundCap));
+        painter->drawEllipse(QRectF(2.5, 2.5, 8, 8));
+        painter->drawLine(QPointF(9.6, 9.6), QPointF(13.5, 13.5));
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, pixmap.rect(), mode, state);
+        return pixmap;
+    }
+    QIconEngine* clone() const override { return std::make_unique<GlassEngine>().release(); }
+};
 
 }  // namespace
 
 FilterField::FilterField(QWidget* parent)
-    : QLineEdit(parent), glass_(addAction(glassIcon(), QLineEdit::LeadingPosition)) {
+    : QLineEdit(parent),
+      glass_(addAction(QIcon(std::make_unique<GlassEngine>().release()), QLineEdit::LeadingPosition)) {
     setObjectName(QStringLiteral("filterField"));
     setFont(appearance::font());
     setPlaceholderText(QStringLiteral("Βρες θέμα…"));
