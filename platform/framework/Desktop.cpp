@@ -9,6 +9,7 @@
 #include "platform/framework/LightPalette.h"
 #include "platform/framework/ProgramStyle.h"
 #include "platform/framework/WinApp.h"
+#include "platform/printing/PrintDialogTexts.h"
 #include "platform/printing/PrintJob.h"
 #include "platform/text/CodePage1253.h"
 #include "platform/text/GreekLiteral.h"
@@ -46,7 +47,9 @@ std::unique_ptr<QApplication> makeApplication(int& argc, char** argv) {
 
 }  // namespace
 
-Desktop::Desktop(int& argc, char** argv) : application_(makeApplication(argc, argv)) {
+Desktop::Desktop(int& argc, char** argv)
+    : application_(makeApplication(argc, argv)), printDialogTexts_(std::make_unique<PrintDialogTexts>()) {
+    QCoreApplication::installTranslator(printDialogTexts_.get());
     // The name under which the desktop knows the program's windows.
     QGuiApplication::setDesktopFileName(QStringLiteral("kalyxo"));
     QApplication::setStyle(std::make_unique<ProgramStyle>().release());

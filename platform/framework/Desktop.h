@@ -11,6 +11,8 @@ class QApplication;
 
 namespace platform {
 
+class PrintDialogTexts;
+
 /// The connection to the user's desktop: the process made ready for windows and the web browser. Stands
 /// before any window and outlives all of them; one in a process.
 class Desktop {
@@ -31,6 +33,7 @@ class Desktop {
 
   private:
     std::unique_ptr<QApplication> application_;
+    std::unique_ptr<PrintDialogTexts> printDialogTexts_;
 };
 
 }  // namespace platform

@@ -1,5 +1,15 @@
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QRegularExpression>
+#include <QTabWidget>
 #include <filesystem>
 
+#include "platform/printing/PrintDialogTexts.h"
 #include "platform/printing/PrintJob.h"
 #include "platform/windows/PrinterDC.h"
 #include "tests/platform_windows/TestProgram.h"
@@ -56,6 +66,33 @@ TEST_F(PrintFileTest, TellsOfAFileThatCannotBeWritten) {
     }
     EXPECT_EQ(told_, (Lines{"file/Documents/print-1.pdf not", "full/print-1.pdf not"}));
     EXPECT_FALSE(fs::exists(root_ / "full/print-1.pdf"));
+}
+
+/// What a dialog says.
+QStringList textsIn(const QWidget& dialog) {
+    QStringList texts;
+    for (const auto* label : dialog.findChildren<QLabel*>()) texts += label->text();
+    for (const auto* button : dialog.findChildren<QAbstractButton*>()) texts += button->text();
+    for (const auto* group : dialog.findChildren<QGroupBox*>()) texts += group->title();
+    for (const auto* box : dialog.findChildren<QComboBox*>()) texts += box->currentText();
+    for (const auto* tabs : dialog.findChildren<QTabWidget*>())
+        for (int i = 0; i < tabs->count(); ++i) texts += tabs->tabText(i);
+    return texts;
+}
+
+TEST(PrintDialogTextsTest, AreGreek) {
+    PrintDialogTexts greek;
+    QCoreApplication::installTranslator(&greek);
+    QPrinter printer;
+    const QPrintDialog dialog(&printer);
+    // The last printer is a file.
+    for (auto* box : dialog.findChildren<QComboBox*>()) box->setCurrentIndex(box->count() - 1);
+    const QStringList texts = textsIn(dialog);
+    EXPECT_GT(texts.size(), 30);
+    const QRegularExpression latin(QStringLiteral("[A-Za-z]"));
+    for (QString text : texts) {
+        EXPECT_FALSE(text.remove(QStringLiteral("PDF")).contains(latin)) << text.toStdString();
+    }
 }
 
 }  // namespace
