@@ -63,8 +63,10 @@ void GraphView::zoom(double factor) {
 
 void GraphView::zoomAbout(double factor, const QPointF& place) {
     const GraphWindow now = window();
+    // Bars that lose their feet, or are not reached at all, tell nothing.
+    const bool upright = chart_->marks().scenery().graph.plan.hasPoints() || factor > 1;
     const GraphWindow next{zoomed(now.x, factor, place.x(), whole().x),
-                           zoomed(now.y, factor, place.y(), whole().y)};
+                           upright ? zoomed(now.y, factor, place.y(), whole().y) : now.y};
     analyser_.setWindow(next == whole() ? std::nullopt : std::optional(next));
 }
 

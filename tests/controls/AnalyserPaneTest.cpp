@@ -158,6 +158,11 @@ TEST_F(AnalyserTest, KeysZoomMoveAndReset) {
     EXPECT_GT(graph().graphChart().marks().scenery().window.x.from, closer.x.from);
     QTest::keyClick(&graph(), Qt::Key_Home);
     EXPECT_EQ(graph().graphChart().marks().scenery().window, whole);
+    put(control_, 7, std::int16_t{2});
+    QTest::keyClick(&graph(), Qt::Key_Plus);
+    const GraphScenery& bars = graph().graphChart().marks().scenery();
+    EXPECT_LT(bars.window.x.span(), bars.graph.whole.x.span());
+    EXPECT_NEAR(bars.window.y.span(), bars.graph.whole.y.span(), 1e-4) << "bars keep their feet";
 }
 
 }  // namespace
