@@ -36,6 +36,7 @@ QGraphicsView:focus { border-color: #3a7aa0; }
 QTableView { background: #ffffff; border: none; }
 QTableView QTableCornerButton::section { background: #1f4e6b; border: none; }
 QHeaderView { background: #1f4e6b; border: none; }
+QAbstractScrollArea::corner { background: #f3f6f9; border: none; }
 QScrollBar:vertical { background: #f3f6f9; width: 12px; margin: 0; border: none; }
 QScrollBar:horizontal { background: #f3f6f9; height: 12px; margin: 0; border: none; }
 QScrollBar::handle { background: #b5c8d4; border-radius: 4px; margin: 2px; }
