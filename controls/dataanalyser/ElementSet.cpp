@@ -3,6 +3,7 @@
 #include <limits>
 
 #include "controls/common/Element.h"
+#include "controls/common/ElementQuantity.h"
 #include "platform/text/GreekLiteral.h"
 
 namespace controls::dataanalyser {
@@ -97,7 +98,10 @@ formats::DataSet elementSet() {
         figures<&Element::density>("Πυκνότητα"_gr, "g/cm³"_gr),
         figures<&Element::electronegativity>("Ηλεκτραρνητικότητα"_gr, ""),
         numbers("Έτος ανακάλυψης"_gr, "", yearText, yearValue),
-        figures<&Element::ionisation>("Ενέργεια πρώτου ιοντισμού"_gr, "eV"),
+        numbers(
+            quantityName(Quantity::ionisation), quantityUnit(Quantity::ionisation),
+            [](const Element& e) { return quantityText(e, Quantity::ionisation); },
+            [](const Element& e) { return quantityValue(e, Quantity::ionisation).value_or(unknown); }),
         figures<&Element::covalentRadius>("Ομοιοπολική ακτίνα"_gr, "pm"),
         figures<&Element::crust>("Αφθονία στον φλοιό της Γης"_gr, "mg/kg"),
         words(DataColumnKind::category, "Οικογένεια"_gr,
