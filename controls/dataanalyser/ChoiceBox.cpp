@@ -2,8 +2,10 @@
 
 #include <QPainter>
 #include <QPolygon>
+#include <QStyledItemDelegate>
 
 #include "controls/common/Appearance.h"
+#include "platform/automation/QtChild.h"
 
 namespace controls::dataanalyser {
 
@@ -13,6 +15,8 @@ ChoiceBox::ChoiceBox(const QString& accessibleName, QWidget* parent) : QComboBox
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(8);
     setMaxVisibleItems(24);
+    // The usual one of combo boxes heeds no style sheet.
+    setItemDelegate(&platform::makeQtChild<QStyledItemDelegate>(this));
 }
 
 void ChoiceBox::setItems(const QList<QPair<QString, int>>& items, int chosen) {

@@ -12,13 +12,14 @@ QLabel, QPushButton, QComboBox, QMenu { font-family: "Liberation Sans"; font-siz
 #strip QLabel#count { color: #526070; }
 QLabel#nograph { background: #ffffff; color: #1c2733; font-size: 14px; }
 QComboBox { background: #ffffff; color: #1c2733; border: 1px solid #a9bfcd; border-radius: 4px;
-            padding: 2px 18px 2px 6px; min-height: 18px; }
+            padding: 2px 18px 2px 6px; min-height: 18px; combobox-popup: 0; }
 QComboBox::drop-down { border: none; width: 20px; }
 QComboBox:hover { border-color: #3a7aa0; }
 QComboBox:focus { border: 2px solid #1f4e6b; padding: 1px 17px 1px 5px; }
 QComboBox:disabled { color: #9aa7b4; border-color: #d0dae3; }
 QComboBox QAbstractItemView { background: #ffffff; color: #1c2733; border: 1px solid #a9bfcd; outline: none;
                               selection-background-color: #d3e5f0; selection-color: #1c2733; }
+QComboBox QAbstractItemView::item { min-height: 20px; padding-left: 3px; }
 QPushButton { background: #ffffff; color: #1c2733; border: 1px solid #a9bfcd; padding: 2px 8px; min-height: 18px; }
 QPushButton:hover { border-color: #1f4e6b; }
 QPushButton:checked { background: #1f4e6b; color: #ffffff; border-color: #1f4e6b; }
@@ -45,7 +46,8 @@ QScrollBar::handle:horizontal { min-width: 28px; }
 QScrollBar::handle:hover { background: #3a7aa0; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; border: none; }
 QScrollBar::add-page, QScrollBar::sub-page { background: #f3f6f9; }
-QToolTip { background: #1f4e6b; color: #ffffff; border: 1px solid #1f4e6b; padding: 4px; }
+QToolTip { background: #1f4e6b; color: #ffffff; border: 1px solid #1f4e6b; padding: 4px;
+           font-family: "Liberation Sans"; font-size: 12px; }
 )";
 
 }  // namespace controls::dataanalyser
