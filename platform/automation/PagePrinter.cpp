@@ -1,12 +1,14 @@
 #include "platform/automation/PagePrinter.h"
 
 #include <QPageLayout>
+#include <QPageRanges>
 #include <QPointer>
 #include <QPrinter>
 #include <QSaveFile>
 #include <QTimer>
 #include <QWebEngineView>
 #include <string>
+#include <utility>
 
 #include "platform/printing/PrintJob.h"
 #include "platform/text/CodePage1253.h"
@@ -43,19 +45,24 @@ PagePrinter::~PagePrinter() = default;
 
 void PagePrinter::print() {
     if (printing_ || printer_ || !hasPrinter()) return;
-    if (nextPrintFile().empty()) {
-        printOnPaper();
+    if (!nextPrintFile().empty()) return printToFile({}, kPaper, {});
+    auto printer = choosePrinter(*view_.window());
+    if (!printer) return;
+    if (printer->outputFormat() == QPrinter::PdfFormat) {
+        // On a printer that is a file, the engine would put pictures of pages.
+        printToFile(printer->outputFileName().toStdString(), printer->pageLayout(), printer->pageRanges());
     } else {
-        printToFile();
+        printOnPaper(std::move(printer));
     }
 }
 
-void PagePrinter::printToFile() {
+void PagePrinter::printToFile(const std::string& chosen, const QPageLayout& layout,
+                              const QPageRanges& ranges) {
     printing_ = true;
     const std::string title = fromUtf8(view_.title().toStdString());
     view_.page()->printToPdf(
-        [this, title, alive = QPointer<PagePrinter>(this)](const QByteArray& pdf) {
-            const std::string file = nextPrintFile();
+        [this, title, chosen, alive = QPointer<PagePrinter>(this)](const QByteArray& pdf) {
+            const std::string file = chosen.empty() ? nextPrintFile() : chosen;
             QSaveFile out(QString::fromStdString(file));
             if (!pdf.isEmpty() && out.open(QIODevice::WriteOnly) && out.write(pdf) == pdf.size() &&
                 out.flush() && out.commit()) {
@@ -65,12 +72,11 @@ void PagePrinter::printToFile() {
             }
             if (alive) printing_ = false;
         },
-        kPaper);
+        layout, ranges);
 }
 
-void PagePrinter::printOnPaper() {
-    printer_ = choosePrinter(*view_.window());
-    if (!printer_) return;
+void PagePrinter::printOnPaper(std::unique_ptr<QPrinter> printer) {
+    printer_ = std::move(printer);
     printing_ = true;
     printer_->setDocName(view_.title());
     view_.print(printer_.get());

@@ -2,8 +2,10 @@
 
 #include <QObject>
 #include <memory>
+#include <string>
 
-class QByteArray;
+class QPageLayout;
+class QPageRanges;
 class QPrinter;
 class QWebEngineView;
 
@@ -21,8 +23,9 @@ class PagePrinter : public QObject {
     bool busy() const { return printing_; }
 
   private:
-    void printToFile();
-    void printOnPaper();
+    /// To the next free file when none is chosen.
+    void printToFile(const std::string& chosen, const QPageLayout& layout, const QPageRanges& ranges);
+    void printOnPaper(std::unique_ptr<QPrinter> printer);
 
     QWebEngineView& view_;
     std::unique_ptr<QPrinter> printer_;  // the engine prints on it for a while
