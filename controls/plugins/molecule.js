@@ -135,8 +135,11 @@ class Viewer {
 
   typed(event) {
     const action = {
-      ' ': () => this.pointOn(event.shiftKey ? -1 : 1), Enter: () => this.pickPointed(), Home: () => this.reset(),
-      Escape: () => this.pick(),
+      ' ': () => this.pointOn(event.shiftKey ? -1 : 1),
+      Home: () => this.reset(),
+      // Else these are keys of the dialog around it.
+      Enter: this.state.measure && (() => this.pickPointed()),
+      Escape: this.picked.length > 0 && (() => this.pick()),
     }[event.key];
     const step = { ArrowLeft: [-1, 0], ArrowRight: [1, 0], ArrowUp: [0, -1], ArrowDown: [0, 1] }[event.key];
     const zoom = event.ctrlKey ? undefined : { '+': 1.15, '-': 1 / 1.15 }[event.key];
