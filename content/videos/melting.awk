@@ -10,23 +10,44 @@ function draw(t, u,    hot, melt, row, column, i, shake, home, x, y, goal, reach
             i = row * 7 + column
             shake = 0.6 + 2.2 * hot
             home = 69 + column * 21
-            # In the liquid the same 42 particles lie in four loose rows of ten or eleven.
-            depth = int(i / 11)
-            goal = 54 + (i % 11) * 15.6 + (depth % 2) * 3
+            # In the liquid the same 42 particles lie in five loose rows, each in the gaps of the one below; the six
+            # of the uppermost are spread over it.
+            depth = int(i / 9)
+            goal = 54 + (i % 9) * (depth < 4 ? 18.8 : 31) + (depth % 2) * 9
             reach = clamp(melt * 1.8 - 0.8 * (5 - row) / 5)
-            x = home + (goal - home) * reach + shake * sin(2 * pi * (1.3 + noise(i)) * t + 6 * noise(i + 50)) \
+            x[i] = home + (goal - home) * reach + shake * sin(2 * pi * (1.3 + noise(i)) * t + 6 * noise(i + 50)) \
                 + melt * 4 * sin(2 * pi * (0.22 + 0.2 * noise(i + 90)) * t + 6 * noise(i + 7))
-            y = 186 - row * 20 + ((186 - depth * 19) - (186 - row * 20)) * reach \
+            y[i] = 186 - row * 20 + ((186 - depth * 17) - (186 - row * 20)) * reach \
                 + shake * cos(2 * pi * (1.2 + noise(i + 20)) * t + 6 * noise(i + 70))
-            if (x < 51) x = 51
-            if (x > 213) x = 213
-            if (y > 186) y = 186
-            circle(x, y, 9, "#3f7cc4", "#ffffff", 1)
         }
     }
+    keep_apart(x, y, 42, 18.4)
+    for (i = 0; i < 42; i++) circle(x[i], y[i], 9, "#3f7cc4", "#ffffff", 1)
     burner(t, 132)
     thermometer(u, 252)
     label(132, 28, u < 0.38 ? "στερεό" : u < 0.82 ? "τήξη" : "υγρό", 18, "middle", "#12366b", "bold")
+}
+
+# Pushes particles that are nearer to each other than `least` apart, within the vessel.
+function keep_apart(x, y, count, least,    pass, i, j, dx, dy, distance, push) {
+    for (pass = 0; pass < 24; pass++) {
+        for (i = 0; i < count; i++) {
+            for (j = 0; j < i; j++) {
+                dx = x[i] - x[j]
+                dy = y[i] - y[j]
+                distance = sqrt(dx * dx + dy * dy)
+                if (distance >= least || distance == 0) continue
+                push = (least - distance) / distance / 2
+                x[i] += dx * push; y[i] += dy * push
+                x[j] -= dx * push; y[j] -= dy * push
+            }
+        }
+        for (i = 0; i < count; i++) {
+            if (x[i] < 51) x[i] = 51
+            if (x[i] > 213) x[i] = 213
+            if (y[i] > 186) y[i] = 186
+        }
+    }
 }
 
 function burner(t, x,    h) {
