@@ -1,11 +1,11 @@
 #include "controls/dataanalyser/GraphChart.h"
 
+#include <QCategoryAxis>
 #include <QGraphicsLayout>
 #include <QLegend>
 #include <QLegendMarker>
 #include <QLineSeries>
 #include <QLocale>
-#include <QLogValueAxis>
 #include <QScatterSeries>
 #include <QValueAxis>
 #include <algorithm>
@@ -38,7 +38,7 @@ constexpr double legendPixels = 10;
 constexpr double legendLine = 22;
 constexpr double legendSurroundings = 50;
 
-QString figure(double value) { return withMinus(toQt(shortFigure(value, 6))); }
+QString figure(double value) { return shownFigures(toQt(shortFigure(value, 6))); }
 
 std::string_view nameOf(const Analyser& analyser) { return analyser.dataSet().title; }
 
@@ -69,16 +69,29 @@ QScatterSeries::MarkerShape legendShape(PointShape shape) {
 // What is made here belongs to the chart.
 // NOLINTBEGIN(cppcoreguidelines-owning-memory)
 
+int decadeOf(double power) { return static_cast<int>(std::lround(std::log10(power))); }
+
+QString decadeText(int decade) {
+    if (decade < -4 || decade > 6) return shownFormula(QStringLiteral("10^%1").arg(decade));
+    return toQt(fixedFigure(std::pow(10, decade), std::max(0, -decade)));
+}
+
+/// Of decimal logarithms, as the library's own logarithmic axis writes "1E-07".
 QAbstractAxis* makeLogarithmicAxis(const AxisRange& range, double ticks) {
-    auto* axis = new QLogValueAxis();
-    const int step = decadesPerTick(range, static_cast<int>(ticks));
-    axis->setBase(std::pow(10, step));
-    axis->setLabelFormat(QStringLiteral("%.6g"));
-    axis->setMinorTickCount(step == 1 ? 8 : 0);
-    const AxisRange drawn = withRoundingRoom(range);
-    axis->setRange(drawn.from, drawn.to);
+    auto* axis = new QCategoryAxis();
+    axis->setLabelsPosition(QCategoryAxis::AxisLabelsPositionOnValue);
+    const int first = decadeOf(range.from);
+    const int last = decadeOf(range.to);
+    axis->setStartValue(first);
+    for (int decade = first; decade <= last; decade += decadesPerTick(range, static_cast<int>(ticks))) {
+        axis->append(decadeText(decade), decade);
+    }
+    axis->setRange(first, last);
     return axis;
 }
+
+/// A number as the axis has it.
+double onAxis(const AxisRange& range, double value) { return range.logarithmic ? std::log10(value) : value; }
 
 QAbstractAxis* makeLinearAxis(const AxisRange& range, double ticks, double leastDistance) {
     auto* axis = new QValueAxis();
@@ -154,7 +167,7 @@ void GraphChart::showGraph(const Analyser& analyser) {
     scenery.nameSpace = scenery.names.empty() ? 8 : GraphMarks::spaceFor(scenery.names, size().height());
     setMargins(QMargins(12, 8, 12, scenery.nameSpace));
     setAxes(graph, window.x, window.y);
-    addLines(graph, window.x);
+    addLines(graph, window);
     addLegendEntries(analyser, graph);
     scenery.graph = std::move(graph);
     marks_->setScenery(std::move(scenery));
@@ -194,25 +207,28 @@ void GraphChart::addSeries(QXYSeries& series) {
     for (QAbstractAxis* axis : axes()) series.attachAxis(axis);
 }
 
-void GraphChart::addLines(const Graph& graph, const AxisRange& x) {
+void GraphChart::addLines(const Graph& graph, const GraphWindow& window) {
+    const auto& [x, y] = window;
+    const auto pointAt = [&](double across, double up) { return QPointF(onAxis(x, across), onAxis(y, up)); };
     if (graph.plan.kind == GraphKind::line) {
         auto* line = new QLineSeries();
         QList<QPointF> points;
-        for (const GraphMark& mark : graph.marks) points.append({mark.x, mark.y});
+        for (const GraphMark& mark : graph.marks) points.append(pointAt(mark.x, mark.y));
         line->append(points);
         line->setPen(QPen(appearance::accent, 1.5));
         addSeries(*line);
         for (QLegendMarker* marker : legend()->markers(line)) marker->setVisible(false);
     }
-    const QPointF left(x.from, graph.fitted(x.from));
-    const QPointF right(x.to, graph.fitted(x.to));
-    if (!graph.fit || !std::isfinite(left.y()) || !std::isfinite(right.y())) return;
+    if (!graph.fit) return;
+    const QPointF left = pointAt(x.from, graph.fitted(x.from));
+    const QPointF right = pointAt(x.to, graph.fitted(x.to));
+    if (!std::isfinite(left.y()) || !std::isfinite(right.y())) return;
     auto* line = new QLineSeries();
     line->append({left, right});
     line->setPen(QPen(appearance::warm.darker(115), 2, Qt::DashLine));
     addSeries(*line);
     for (QLegendMarker* marker : legend()->markers(line)) marker->setVisible(false);
-    const QString words = withMinus(toQt(equation(*graph.fit, graph.plan.logX, graph.plan.logY))) +
+    const QString words = shownFigures(toQt(equation(*graph.fit, graph.plan.logX, graph.plan.logY))) +
                           QStringLiteral(",   r² = ") + toQt(fixedFigure(graph.fit->rSquared, 4));
     setTitle(title() + QStringLiteral(":&nbsp; <span style=\"font-weight:normal\">%1</span>").arg(words));
 }

@@ -12,6 +12,7 @@ class GraphHover;
 class GraphMarks;
 struct AxisRange;
 struct Graph;
+struct GraphWindow;
 
 /// The graph that the analyser tells of, as a chart: axes, lines and legend are Qt Charts' own, points and
 /// bars are `GraphMarks`.
@@ -34,7 +35,7 @@ class GraphChart : public QChart {
   private:
     void setAxes(const Graph& graph, const AxisRange& x, const AxisRange& y);
     void addLegendEntries(const Analyser& analyser, const Graph& graph);
-    void addLines(const Graph& graph, const AxisRange& x);
+    void addLines(const Graph& graph, const GraphWindow& window);
     void addSeries(QXYSeries& series);
     void placeMarks();
     QStringList linesOf(int index) const;

@@ -86,7 +86,8 @@ int GraphMarks::spaceFor(const std::vector<QString>& names, double height) {
     const QFontMetrics metrics(appearance::font(namePixels));
     int widest = 2 * nameGap;
     for (const QString& name : names) widest = std::max(widest, metrics.horizontalAdvance(name));
-    return std::min(widest + nameGap,
+    // A pixel more, as widths are rounded.
+    return std::min(widest + 1 + nameGap,
                     std::clamp(static_cast<int>(height / 4), leastNameSpace, mostNameSpace));
 }
 

@@ -109,10 +109,6 @@ int decadesPerTick(const AxisRange& range, int parts) {
     return std::max(1, static_cast<int>(std::ceil(decades / std::max(parts, 1) - 1e-9)));
 }
 
-AxisRange withRoundingRoom(const AxisRange& range) {
-    return {range.from * (1 - 1e-9), range.to * (1 + 1e-9), true};
-}
-
 int decimalsOfTick(double distance) {
     return std::clamp(static_cast<int>(-std::floor(std::log10(distance) + 1e-9)), 0, 12);
 }

@@ -53,10 +53,6 @@ double tickDistance(double span, int parts);
 /// How many decades lie from one tick of a logarithmic axis to the next, for at most about `parts` of them.
 int decadesPerTick(const AxisRange& range, int parts);
 
-/// A logarithmic range made wider by as much as the quotient of natural logarithms, by which charts find its
-/// decades, may be wrong: by that 0.1 comes to lie above −1 and would have no label.
-AxisRange withRoundingRoom(const AxisRange& range);
-
 /// How many decimals tell such a distance.
 int decimalsOfTick(double distance);
 

@@ -1,5 +1,6 @@
 #include "controls/dataanalyser/ShownText.h"
 
+#include <QRegularExpression>
 #include <QStringList>
 
 #include "controls/common/QtText.h"
@@ -35,11 +36,20 @@ QString shownFormula(const QString& formula) {
     return shown;
 }
 
+QString shownFigures(QString figures) {
+    static const QRegularExpression exponent(QStringLiteral("[eE]([+-]?[0-9]+)"));
+    for (auto found = exponent.match(figures); found.hasMatch(); found = exponent.match(figures)) {
+        const QString power = QStringLiteral("·10^%1").arg(found.captured(1).toInt());
+        figures.replace(found.capturedStart(), found.capturedLength(), shownFormula(power));
+    }
+    return withMinus(std::move(figures));
+}
+
 QString shownCell(const formats::DataColumn& column, std::size_t row, TemperatureUnit unit) {
     const std::string text = cellText(column, row, unit);
     if (text.empty()) return toQt(unknownText());
     if (column.kind == formats::DataColumnKind::formula) return shownFormula(toQt(text));
-    return column.isNumber() ? withMinus(toQt(text)) : toQt(text);
+    return column.isNumber() ? shownFigures(toQt(text)) : toQt(text);
 }
 
 QString shownRowName(const formats::DataSet& set, std::size_t row) {
