@@ -172,12 +172,6 @@ bool WebBrowserControl::clickLink(std::string_view linkText) {
     return true;
 }
 
-std::vector<CRect> WebBrowserControl::embeddedFrames() {
-    std::vector<CRect> places;
-    for (const EmbeddedFrame& frame : embeddedFramesOf(page())) places.push_back(frame.place);
-    return places;
-}
-
 void WebBrowserControl::updatePluginWindows() {
     if (plugins_) plugins_->update();
 }

@@ -41,7 +41,6 @@ class WebBrowserControl : public Control, public WebPageInspector {
     std::string html() override;
     std::optional<CRect> findLink(std::string_view linkText) override;
     bool clickLink(std::string_view linkText) override;
-    std::vector<CRect> embeddedFrames() override;
     void updatePluginWindows() override;
     std::string pluginPicture(HWND window) override;
 

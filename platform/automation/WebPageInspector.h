@@ -3,7 +3,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "platform/windows/Geometry.h"
 #include "platform/windows/Messages.h"
@@ -31,12 +30,8 @@ class WebPageInspector {
     /// page has handled it.
     virtual bool clickLink(std::string_view linkText) = 0;
 
-    /// The frames that embedded files are shown in, as laid out, in the control's client area and in the
-    /// order of the page.
-    virtual std::vector<CRect> embeddedFrames() = 0;
-
-    /// Brings the windows of those frames (class "Plugin", children of the control's window) to where the
-    /// frames are now.
+    /// Brings the windows of the frames that embedded files are shown in (class "Plugin", children of the
+    /// control's window) to where the page has laid them out now.
     virtual void updatePluginWindows() = 0;
     /// The picture that the viewer in such a window gives of itself, whatever covers it: a PNG file; of a
     /// video without its control strip. Empty when the window is none or has no picture.

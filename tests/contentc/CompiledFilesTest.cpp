@@ -27,24 +27,29 @@ TEST(CompiledFiles, WarningsAndLinesOfTheGreatestLengthStopNothing) {
     EXPECT_EQ(content.messages, std::vector{"glossary/helium00.term:1: warning: no page uses this term"s});
 }
 
-TEST(CompiledFiles, PageIsItsScaffoldWithTheBodyInCodePage1253) {
-    ContentFolder content;
-    content.write("pages/uses/400010.page", topic("Άλας & <νερό>", "", "<P>Άλας\r\n\n[[hydrogen|υ]]"));
-    EXPECT_EQ(content.compiled("40\\0010"), "<HTML>\r\n<TITLE>" + greek("Άλας &amp; &lt;νερό&gt;") +
-                                                "</TITLE>\r\n<LINK HREF=\"\x05..style\\kalyxo.css\">\r\n"
-                                                "<BODY CLASS=\"uses\">\r\n<P>" +
-                                                greek("Η χημεία στην πράξη") + "</P>\r\n<P>" + greek("Άλας") +
-                                                "\r\n\r\n~Ghydrogen" + greek("υ") +
-                                                "~G\r\n</BODY></HTML>\r\n");
-}
-
-TEST(CompiledFiles, DataSetKeepsItsLines) {
-    ContentFolder content;
-    content.write("datasets/gases.data",
-                  "number: 1\ntitle: Αέρια\ncolumn: text | N\ncolumn: number | V\n---\nήλιο\t4.003\n");
-    EXPECT_EQ(content.compiled("datasets\\gases.dat"),
-              greek("number: 1\r\ntitle: Αέρια\r\ncolumn: text | N\r\ncolumn: number | V\r\n---\r\n"
-                    "ήλιο\t4.003\r\n"));
+TEST(CompiledFiles, HoldTheirSourceInCodePage1253) {
+    const struct {
+        const char* source;
+        std::string text;
+        const char* file;
+        const char* compiled;  // UTF-8
+    } cases[] = {
+        {"pages/uses/400010.page", topic("Άλας & <νερό>", "", "<P>Άλας\r\n\n[[hydrogen|υ]]"), "40\\0010",
+         "<HTML>\r\n<TITLE>Άλας &amp; &lt;νερό&gt;</TITLE>\r\n<LINK HREF=\"\x05..style\\kalyxo.css\">\r\n"
+         "<BODY CLASS=\"uses\">\r\n<P>Η χημεία στην πράξη</P>\r\n<P>Άλας\r\n\r\n~Ghydrogenυ~G\r\n"
+         "</BODY></HTML>\r\n"},
+        {"datasets/gases.data",
+         "number: 1\ntitle: Αέρια\ncolumn: text | N\ncolumn: number | V\n---\nήλιο\t4.003\n",
+         "datasets\\gases.dat",
+         "number: 1\r\ntitle: Αέρια\r\ncolumn: text | N\r\ncolumn: number | V\r\n---\r\nήλιο\t4.003\r\n"},
+        {"glossary/hydrogen.term", "υδρογόνο\nΠρώτη γραμμή.\n\nΤρίτη.\n\n\n", "glossary\\hydrogen.htm",
+         "υδρογόνο\r\nΠρώτη γραμμή.\r\n\r\nΤρίτη.\r\n"},
+    };
+    for (const auto& [source, text, file, compiled] : cases) {
+        ContentFolder content;
+        content.write(source, text);
+        EXPECT_EQ(content.compiled(file), greek(compiled)) << source;
+    }
 }
 
 TEST(CompiledFiles, MarksBecomeMarkers) {
@@ -96,13 +101,6 @@ TEST(CompiledFiles, PlainPagesHaveATitleAndRelativeAddresses) {
                                "</TITLE>\r\n</HEAD>\r\n<BODY>\r\n<LINK HREF=\"style/kalyxo.css\">\r\n"
                                "</BODY>\r\n</HTML>\r\n"));
     EXPECT_NE(content.compiled("a.htm").find("<P>Welcome</P>"), std::string::npos);
-}
-
-TEST(CompiledFiles, GlossaryFileHoldsTermAndDefinition) {
-    ContentFolder content;
-    content.write("glossary/hydrogen.term", "υδρογόνο\nΠρώτη γραμμή.\n\nΤρίτη.\n\n\n");
-    EXPECT_EQ(content.compiled("glossary\\hydrogen.htm"),
-              greek("υδρογόνο") + "\r\n" + greek("Πρώτη γραμμή.") + "\r\n\r\n" + greek("Τρίτη.") + "\r\n");
 }
 
 TEST(CompiledFiles, PicturesAreCopiedAndTwoOfOneNameRefused) {

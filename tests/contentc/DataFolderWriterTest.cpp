@@ -35,12 +35,6 @@ class DataFolderWriter : public testing::Test {
 
 const Files kWritten{"01/4/123: page", "a.htm: start"};
 
-TEST_F(DataFolderWriter, CreatesTheFolderAndThoseAboveIt) {
-    EXPECT_EQ(write(), "");
-    EXPECT_EQ(listAll(folder()), kWritten);
-    EXPECT_EQ(names(), Files{"data"});
-}
-
 TEST_F(DataFolderWriter, ReplacesAnEmptyFolderAndAFormerDataFolder) {
     fs::create_directories(folder() / "");
     EXPECT_EQ(write(), "");

@@ -81,21 +81,6 @@ TEST_F(AnalyserTest, CopySelectionPutsTextAndATableOnTheClipboard) {
     EXPECT_EQ(copiedText().count(QLatin1Char('\n')), 2);
 }
 
-TEST_F(AnalyserTest, CopyAllDataFollowsOrderUnitAndColumns) {
-    put(control_, 3, std::int16_t{6});
-    put(control_, 6, false);
-    setEntry(0, 0x10000);
-    call(control_, 11);
-    const QStringList lines = copiedText().split(QLatin1Char('\n'));
-    ASSERT_EQ(lines.size(), 120);
-    EXPECT_TRUE(lines[0].startsWith(QStringLiteral("Σύμβολο\t")));
-    EXPECT_TRUE(lines[0].contains(QStringLiteral("Σημείο τήξης (K)")));
-    EXPECT_TRUE(lines[1].startsWith(QStringLiteral("He\t")));
-    put(control_, 6, true);
-    call(control_, 11);
-    EXPECT_TRUE(copiedText().contains(QStringLiteral("\t-272,20\t")));
-}
-
 TEST_F(AnalyserTest, GraphIsCopiedAndPrintedOnlyWhenShown) {
     EXPECT_EQ(ask<std::int16_t>(control_, 22, InvokeKind::method), 0);
     call(control_, 23);

@@ -87,14 +87,6 @@ TEST_F(PeriodicControlTest, ArrowKeysWalkThroughTheTable) {
     EXPECT_TRUE(site_.events.empty());
 }
 
-TEST_F(PeriodicControlTest, TypingInGreekJumps) {
-    QKeyEvent sigma(QEvent::KeyPress, 0, Qt::NoModifier, QStringLiteral("σ"));
-    QKeyEvent iota(QEvent::KeyPress, 0, Qt::NoModifier, QStringLiteral("ί"));
-    QCoreApplication::sendEvent(&table(), &sigma);
-    QCoreApplication::sendEvent(&table(), &iota);
-    EXPECT_EQ(selected(), 26);
-}
-
 TEST_F(PeriodicControlTest, AClickInTheLegendHighlightsAFamilyUntilTheNext) {
     const TableLayout layout(table().size());
     const int kind = familyCode(Family::halogen);

@@ -29,7 +29,6 @@ class ControlLibrary : public testing::Test {
         std::filesystem::create_directories(modules);
         std::filesystem::copy(MODULES, modules, std::filesystem::copy_options::recursive);
         std::ofstream(modules / "text.ocx") << "not a module";
-        std::ofstream(modules.parent_path() / "file.txt") << "content";
     }
     ~ControlLibrary() override { setMachine(nullptr); }
 
@@ -88,21 +87,6 @@ TEST_F(ControlLibrary, RefusesOtherInterfacesAndOtherClasses) {
     EXPECT_FALSE(make(otherInterfaceId));
     enter(otherInterfaceId, "C:\\ActiveX\\TestControl.ocx");
     EXPECT_FALSE(make(otherInterfaceId)) << "the module serves another class";
-}
-
-TEST_F(ControlLibrary, CallsAControlAndFillsItsWindow) {
-    window_.resize(300, 200);
-    window_.show();
-    const auto host = makeTestControl();
-    ASSERT_TRUE(host);
-    EXPECT_EQ(host->control().widget().size(), QSize(300, 200));
-    window_.resize(320, 240);
-    EXPECT_EQ(host->control().widget().size(), QSize(320, 240));
-    EXPECT_EQ(*host->invoke(1, InvokeKind::propertyGet, {})->get<std::string>(), "1.2.3");
-    EXPECT_EQ(call<std::string>(*host, 3, std::string("C:\\FILE.TXT")), "content");
-    const HWND handle = call<std::int32_t>(*host, 4);
-    EXPECT_EQ(WindowTable::instance().send(handle, 18871), 18872);
-    EXPECT_EQ(WindowTable::instance().find(handle)->className, "Edit");
 }
 
 TEST_F(ControlLibrary, TakesTheHandlersAnswerBack) {

@@ -84,23 +84,6 @@ TEST(KeyboardChoiceTest, ComesToEverything) {
     }
 }
 
-TEST(KeyboardChoiceTest, StandsUntilThePointerIsMoved) {
-    KeyboardChoice choice;
-    EXPECT_FALSE(choice.Stands({5, 5}));
-    choice.Begin({5, 5});
-    EXPECT_TRUE(choice.Stands({5, 5}));
-    EXPECT_FALSE(choice.Stands({5, 6}));
-    choice.End();
-    EXPECT_FALSE(choice.Stands({5, 5}));
-}
-
-TEST(PageCacheTest, WithoutItsFolderWritesNothing) {
-    TestDrives drives;
-    PageCache nowhere(drives.files);
-    nowhere.Open({"C:\\no\\such\\", false});
-    EXPECT_EQ(nowhere.WriteRedirect("x"), "");
-}
-
 TEST(PageCacheTest, TwoProgramsAtOnceHaveAFolderEach) {
     TestDrives drives;
     drives.put("C:\\Kalyxo\\kalyxo.exe", "");

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "src/app/DriveList.h"
 #include "src/content/GlossaryPopup.h"
 #include "src/content/GlossaryText.h"
 #include "tests/program/TestFolders.h"
@@ -58,17 +57,6 @@ TEST(GlossaryPopupTest, StaysInTheClientArea) {
         EXPECT_EQ(PlaceGlossaryPopup(c.pointer, {636, 454}, c.lines), c.place)
             << c.pointer.x << "," << c.pointer.y;
     }
-}
-
-TEST(DriveListTest, WithoutAFixedDiskTheFirstIsSelected) {
-    const auto selected = [](std::vector<platform::Drive> drives) {
-        return ListDrives(platform::FileSystem(std::move(drives))).selected;
-    };
-    EXPECT_EQ(selected({}), -1);
-    EXPECT_EQ(selected({{'A', platform::DriveType::removable, "a"}, {'D', platform::DriveType::cdrom, "d"}}),
-              0);
-    EXPECT_EQ(DriveLetter("none"), std::nullopt);
-    EXPECT_EQ(DriveLetter(":"), std::nullopt);
 }
 
 }  // namespace

@@ -60,13 +60,6 @@ TEST_F(PagePreparation, PutsTheComponentsClassIdsIn) {
               "CLSID:" + std::string(kMolCtrlClass) + " " + page + " " + std::string(kKzZoomClass) + "\r\n");
 }
 
-TEST_F(PagePreparation, NotesVideosAndMoleculesForThePageOnly) {
-    prepare("<EMBED SRC=\"\x04..v.webm\">\n");
-    EXPECT_TRUE(contents.video && !contents.molecule);
-    prepare("plain\n");
-    EXPECT_FALSE(contents.video || contents.molecule);
-}
-
 TEST_F(PagePreparation, CopiesTheMoleculeBesideThePage) {
     drives.put("D:\\mol\\water.mol", "atoms");
     EXPECT_EQ(prepare("<EMBED SRC=\"\x03..mol\\water.mol\" ALT=\"\" X=D:\\mol\\water.mol>\n"),
@@ -109,13 +102,6 @@ TEST_F(PagePreparation, IsAPageAsFarAsItWentWhenCancelled) {
     const std::string prepared = drives.get("C:\\1.htm");
     EXPECT_TRUE(prepared.starts_with("<P>\r\n"));
     EXPECT_LT(prepared.size(), page.size());
-}
-
-TEST_F(PagePreparation, WritesTheEnlargedVideoPage) {
-    prepare("<EMBED SRC=\"\x04..v.webm\" WIDTH=320>\n");
-    EXPECT_EQ(drives.get("C:\\bigvid.htm"),
-              "<HTML>\r\n<BODY BGCOLOR=\"#c0c0c0\" LEFTMARGIN=0 TOPMARGIN=0>\r\n"
-              "<EMBED SRC=\"D:\\v.webm\" WIDTH=640 HEIGHT=498 AUTOPLAY=TRUE SCALE=2>\r\n</BODY></HTML>\r\n");
 }
 
 TEST_F(PagePreparation, WritesTheEnlargedMoleculePage) {

@@ -1,7 +1,6 @@
 #include "src/search/SearchIndex.h"
 
 #include <gtest/gtest.h>
-#include <fstream>
 
 #include <fstream>
 

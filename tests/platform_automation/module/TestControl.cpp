@@ -3,7 +3,6 @@
 
 #include "platform/automation/ControlModule.h"
 #include "platform/automation/DispatchMap.h"
-#include "platform/files/FileSystem.h"
 
 using namespace platform;
 
@@ -29,11 +28,6 @@ class TestControl : public Control {
         raised_ += answer ? 100 : 1;
         return raised_;
     }
-    std::string read(const std::string& path) { return site_.files().readAll(path, 100).value_or("none"); }
-    std::int32_t registerWindow() {
-        const auto proc = [](UINT message, WPARAM, LPARAM) { return static_cast<LRESULT>(message) + 1; };
-        return site_.registerWindow(*widget_, "Edit", proc);
-    }
 
   private:
     ControlSite& site_;
@@ -44,8 +38,6 @@ class TestControl : public Control {
 constexpr std::array table = {
     PropertyGet<1, &TestControl::version>("Version"),
     Method<2, &TestControl::raise>("Raise"),
-    Method<3, &TestControl::read>("Read"),
-    Method<4, &TestControl::registerWindow>("RegisterWindow"),
 };
 constexpr auto infos = describe(table);
 
