@@ -6,12 +6,12 @@ from dataclasses import dataclass, field
 
 # How many plain words stand before the JSON value of a line, and whether there is a value.
 CHANGES = {"machine": (0, True), "options": (0, True), "setting": (1, True), "write": (1, True), "bytes": (1, True),
-           "cut": (1, True), "copy": (2, False), "version": (1, True), "replace": (1, True), "delete": (1, False),
+           "cut": (1, True), "copy": (2, False), "replace": (1, True), "delete": (1, False),
            "environment": (1, True), "restart": (0, False)}
 CHECKS = {"file": (1, False), "no-file": (1, False), "contains": (1, True), "lacks": (1, True), "bytes": (1, True),
           "count": (1, True), "loaded": (1, False), "not-loaded": (1, False), "printed": (1, True)}
 EXPECTATION = re.compile(r"(?P<query>[^{]*?)\s*(?:\b(?P<kind>somewhere|nowhere)\b)?\s*(?P<fragment>\{.*)")
-CAPTURE = re.compile(r"(?P<name>\w+)\s+(?P<field>\w+)\s+(?P<fragment>\{.*)")
+CAPTURE = re.compile(r"(?P<name>\w+)\s+(?P<field>\w+)\s+(?P<query>[^{]*?)\s*(?P<fragment>\{.*)")
 
 
 @dataclass
@@ -89,7 +89,8 @@ def step_of(where, line):
             return [Step(where, "expectation", found["query"], [found["kind"]], json.loads(found["fragment"]))]
         case "#$":
             found = matched(CAPTURE, rest)
-            return [Step(where, "capture", found["name"], [found["field"]], json.loads(found["fragment"]))]
+            query = [Step(where, "command", found["query"])] if found["query"] else []
+            return [*query, Step(where, "capture", found["name"], [found["field"]], json.loads(found["fragment"]))]
         case "#.":
             raise ValueError(line)
     return [] if line == "" or line.startswith("#") else [Step(where, "command", line)]

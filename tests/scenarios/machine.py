@@ -4,7 +4,6 @@ import json
 import os
 import re
 import shutil
-import struct
 import subprocess
 import tempfile
 from pathlib import Path
@@ -68,8 +67,6 @@ class Machine:
             raise Problem(f"{words[0]} does not exist")
         if what == "copy":
             replace(self.path(words[1]), file.read_bytes())
-        elif what == "version":
-            set_version(file, value.encode())
         elif what == "replace":
             former, later = map(cp1253, value)
             if former not in file.read_bytes():
@@ -147,22 +144,6 @@ def add_setting(registry, name, value):
     quoted = json.dumps(value, ensure_ascii=False) if isinstance(value, str) else f"dword:{value & 0xFFFFFFFF:08x}"
     entry = f'\r\n[{SETTINGS_KEY}]\r\n"{name}"={quoted}\r\n'
     replace(registry, registry.read_bytes() + entry.encode())
-
-
-def set_version(module, version):
-    """Writes the version into the module's section of it, which keeps its size."""
-    content = bytearray(module.read_bytes())
-    table, = struct.unpack_from("<Q", content, 0x28)
-    entry_size, count, names_index = struct.unpack_from("<HHH", content, 0x3A)
-    # Of each section: where its name stands in the names, where it begins, and its size.
-    sections = [struct.unpack_from("<I20xQQ", content, table + i * entry_size) for i in range(count)]
-    names = sections[names_index][1]
-    for name, offset, size in sections:
-        if content.startswith(b".kalyxo.version\0", names + name):
-            demand(len(version) < size, f"{module} has a shorter version")
-            content[offset:offset + size] = version.ljust(size, b"\0")
-            return replace(module, content)
-    raise Problem(f"{module} carries no version")
 
 
 def printed_pages(pdf):
