@@ -1,16 +1,13 @@
 #pragma once
 
 #include <QClipboard>
-#include <QDir>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QImage>
 #include <QPainter>
-#include <QTemporaryDir>
 #include <QTest>
 #include <algorithm>
 #include <cstring>
-#include <fstream>
 #include <vector>
 
 #include "controls/dataanalyser/AnalyserControl.h"
@@ -18,6 +15,7 @@
 #include "controls/dataanalyser/TableView.h"
 #include "platform/text/CodePage1253.h"
 #include "tests/controls/RecordingSite.h"
+#include "tests/support/TestFolder.h"
 
 namespace controls::dataanalyser {
 
@@ -26,20 +24,17 @@ namespace controls::dataanalyser {
 class DataSite : public RecordingSite {
   public:
     DataSite() {
-        write("gases.dat",
-              "number: 7\r\ntitle: Αέρια\r\nsource: δοκιμή\r\ncolumn: text | Όνομα\r\n"
-              "column: formula | Τύπος\r\ncolumn: category | Είδος\r\ncolumn: number | Μάζα\r\n"
-              "column: number | Βρασμός | °C\r\ngraph: 4 5\r\n---\r\n"
-              "ήλιο\tHe\tευγενή\t4.00\t-268.9\r\n"
-              "μεθάνιο\tCH4\tάλλα\t16.04\t-161.5\r\n"
-              "λάθος\tX\tάλλα\tπολύ\t1\r\n"
-              "νέον\tNe\tευγενή\t20.18\t-246.0\r\n"
-              "άγνωστο\tQ\tάλλα\t\t5\r\n"
-              "κομμένο\tY\tάλλα\t1");
-    }
-    void write(const char* name, const char* text) const {
-        QDir(folder_.path()).mkpath(QStringLiteral("datasets"));
-        std::ofstream(folder_.path().toStdString() + "/datasets/" + name) << platform::fromUtf8(text);
+        folder_.write("datasets/gases.dat",
+                      platform::fromUtf8(
+                          "number: 7\r\ntitle: Αέρια\r\nsource: δοκιμή\r\ncolumn: text | Όνομα\r\n"
+                          "column: formula | Τύπος\r\ncolumn: category | Είδος\r\ncolumn: number | Μάζα\r\n"
+                          "column: number | Βρασμός | °C\r\ngraph: 4 5\r\n---\r\n"
+                          "ήλιο\tHe\tευγενή\t4.00\t-268.9\r\n"
+                          "μεθάνιο\tCH4\tάλλα\t16.04\t-161.5\r\n"
+                          "λάθος\tX\tάλλα\tπολύ\t1\r\n"
+                          "νέον\tNe\tευγενή\t20.18\t-246.0\r\n"
+                          "άγνωστο\tQ\tάλλα\t\t5\r\n"
+                          "κομμένο\tY\tάλλα\t1"));
     }
     const platform::FileSystem& files() const override { return files_; }
     bool print(std::string_view document, const platform::PagePainter& painter) override {
@@ -55,8 +50,8 @@ class DataSite : public RecordingSite {
     QImage page;
 
   private:
-    QTemporaryDir folder_;
-    platform::FileSystem files_{{{'D', platform::DriveType::cdrom, folder_.path().toStdString()}}};
+    TestFolder folder_;
+    platform::FileSystem files_{{{'D', platform::DriveType::cdrom, folder_.path()}}};
 };
 
 /// The number of its data set.

@@ -1,10 +1,8 @@
 #include "tests/platform_automation/BrowserMachine.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QElapsedTimer>
 #include <QEventLoop>
-#include <QFile>
 #include <QMouseEvent>
 #include <QTimer>
 #include <algorithm>
@@ -19,10 +17,8 @@ using namespace platform;
 BrowserMachine::BrowserMachine() {
     MachineConfig config;
     config.drives['D'] = {DriveType::cdrom, "d"};
-    const std::filesystem::path folder = folder_.path().toStdString();
-    std::filesystem::create_directories(folder / "c");
-    std::filesystem::create_directories(folder / "d");
-    machine_ = std::make_unique<Machine>(folder, config, Registry());
+    for (const char* drive : {"c", "d"}) std::filesystem::create_directory(folder_ / drive);
+    machine_ = std::make_unique<Machine>(folder_.path(), config, Registry());
     machine_->trace().enable();
     setMachine(machine_.get());
     window.resize(640, 480);
@@ -34,32 +30,21 @@ BrowserMachine::~BrowserMachine() {
     setMachine(nullptr);
 }
 
-std::string BrowserMachine::hostPath(const std::string& dosPath) const {
-    const QString drive(QChar::fromLatin1(dosPath[0]).toLower());
-    const QString rest = QString::fromStdString(dosPath.substr(2)).replace('\\', '/');
-    const QString path = folder_.path() + '/' + drive + rest;
-    QDir().mkpath(path.section('/', 0, -2));
-    return path.toStdString();
-}
-
-void BrowserMachine::write(const std::string& dosPath, const std::string& text) {
-    QFile file(QString::fromStdString(hostPath(dosPath)));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(QByteArray::fromStdString(cp1253(text)));
-}
-
-void BrowserMachine::copyData(const std::string& name, const std::string& dosPath) {
-    copyFile(TEST_DATA "/" + name, dosPath);
+std::filesystem::path BrowserMachine::writeBytes(const std::string& dosPath, std::string_view bytes) {
+    std::string name = dosPath;
+    std::ranges::replace(name, '\\', '/');
+    return folder_.write((name[0] == 'C' ? 'c' : 'd') + name.substr(2), bytes);
 }
 
 void BrowserMachine::copyFile(const std::string& native, const std::string& dosPath) {
-    ASSERT_TRUE(QFile::copy(QString::fromStdString(native), QString::fromStdString(hostPath(dosPath))));
+    std::filesystem::copy_file(native, writeBytes(dosPath, ""),
+                               std::filesystem::copy_options::overwrite_existing);
 }
 
 void BrowserMachine::writePicture(const std::string& dosPath, int width, int height, QColor colour) {
     QImage image(width, height, QImage::Format_RGB32);
     image.fill(colour);
-    ASSERT_TRUE(image.save(QString::fromStdString(hostPath(dosPath)), "PNG"));
+    ASSERT_TRUE(image.save(QString::fromStdString(writeBytes(dosPath, "").string()), "PNG"));
 }
 
 void BrowserMachine::makeBrowser() {

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QImage>
-#include <QTemporaryDir>
 #include <QWidget>
 #include <functional>
 #include <memory>
@@ -14,6 +13,7 @@
 #include "platform/automation/ControlHost.h"
 #include "platform/automation/WebPageInspector.h"
 #include "platform/machine/Machine.h"
+#include "tests/support/TestFolder.h"
 
 /// A machine with drives C: and D: and a browser window of 640 × 480 on it. Texts and paths are UTF-8 here.
 class BrowserMachine : public testing::Test {
@@ -21,10 +21,10 @@ class BrowserMachine : public testing::Test {
     BrowserMachine();
     ~BrowserMachine() override;
 
-    /// Writes a file in code page 1253, and the folders above it.
-    void write(const std::string& dosPath, const std::string& text);
-    /// Copies one of the files of the tests.
-    void copyData(const std::string& name, const std::string& dosPath);
+    /// Writes a file, and the folders above it; where it is.
+    std::filesystem::path writeBytes(const std::string& dosPath, std::string_view bytes);
+    /// The same in code page 1253.
+    void write(const std::string& dosPath, const std::string& text) { writeBytes(dosPath, cp1253(text)); }
     /// Copies a file of the operating system.
     void copyFile(const std::string& native, const std::string& dosPath);
     /// A picture of one colour.
@@ -73,9 +73,7 @@ class BrowserMachine : public testing::Test {
     QWidget window;
 
   private:
-    std::string hostPath(const std::string& dosPath) const;
-
-    QTemporaryDir folder_;
+    TestFolder folder_;
     std::unique_ptr<platform::Machine> machine_;
     std::unique_ptr<platform::ControlHost> host_;
 };

@@ -2,14 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <QTemporaryDir>
 #include <QTest>
 #include <QWidget>
 #include <filesystem>
-#include <fstream>
 
 #include "platform/automation/ControlHost.h"
 #include "platform/machine/Machine.h"
+#include "tests/support/TestFolder.h"
 
 using namespace platform;
 
@@ -24,11 +23,8 @@ class ControlLibrary : public testing::Test {
     ControlLibrary() {
         machine_.trace().enable();
         setMachine(&machine_);
-        const std::filesystem::path modules =
-            std::filesystem::path(folder_.path().toStdString()) / "c/ActiveX";
-        std::filesystem::create_directories(modules);
-        std::filesystem::copy(MODULES, modules, std::filesystem::copy_options::recursive);
-        std::ofstream(modules / "text.ocx") << "not a module";
+        folder_.write("c/ActiveX/text.ocx", "not a module");
+        std::filesystem::copy(MODULES, folder_ / "c/ActiveX", std::filesystem::copy_options::recursive);
     }
     ~ControlLibrary() override { setMachine(nullptr); }
 
@@ -57,8 +53,8 @@ class ControlLibrary : public testing::Test {
         return value ? *value : R{};
     }
 
-    QTemporaryDir folder_;
-    Machine machine_{folder_.path().toStdString(), MachineConfig{}, Registry{}};
+    TestFolder folder_;
+    Machine machine_{folder_.path(), MachineConfig{}, Registry{}};
     QWidget window_;
 };
 
@@ -87,6 +83,13 @@ TEST_F(ControlLibrary, RefusesOtherInterfacesAndOtherClasses) {
     EXPECT_FALSE(make(otherInterfaceId));
     enter(otherInterfaceId, "C:\\ActiveX\\TestControl.ocx");
     EXPECT_FALSE(make(otherInterfaceId)) << "the module serves another class";
+}
+
+TEST_F(ControlLibrary, FillsItsWindow) {
+    window_.show();
+    const auto host = makeTestControl();
+    window_.resize(320, 240);
+    EXPECT_EQ(host->control().widget().size(), QSize(320, 240));
 }
 
 TEST_F(ControlLibrary, TakesTheHandlersAnswerBack) {

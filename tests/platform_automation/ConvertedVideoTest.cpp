@@ -1,7 +1,6 @@
 #include <unistd.h>
 #include <QDir>
 #include <QFile>
-#include <QTemporaryFile>
 #include <QTest>
 
 #include "tests/platform_automation/BrowserMachine.h"
@@ -58,9 +57,7 @@ TEST_F(ConvertedVideo, TakesOverWhereTheEngineStops) {
     for (int i = 0; i < 3; ++i) third = bytes.indexOf("\x9d\x01\x2a", third + 1);
     ASSERT_GT(third, 0);
     bytes[third] = 0;
-    QTemporaryFile spoilt;
-    ASSERT_TRUE(spoilt.open() && spoilt.write(bytes) == bytes.size() && spoilt.flush());
-    copyFile(spoilt.fileName().toStdString(), "D:\\spoilt.webm");
+    writeBytes("D:\\spoilt.webm", bytes.toStdString());
     embed("D:\\spoilt.webm", "AUTOPLAY=TRUE");
     EXPECT_TRUE(runUntil([&] { return text() == "0:01"; })) << text();
     EXPECT_TRUE(runUntil([&] { return text() == "0:00" || text() == "0:05"; })) << text();

@@ -56,7 +56,7 @@ TEST_F(BrowserMachine, TurnsAMoleculeWithTheMouse) {
 }
 
 TEST_F(BrowserMachine, PlaysAVideoAboveItsStrip) {
-    copyData("film.webm", "D:\\video\\x.webm");
+    copyFile(TEST_DATA "/film.webm", "D:\\video\\x.webm");
     write("D:\\a.htm", embedding("\"D:\\video\\x.webm\" WIDTH=320 HEIGHT=258"));
     write("D:\\b.htm", embedding("\"D:\\video\\x.webm\" WIDTH=320 HEIGHT=258 AUTOPLAY=TRUE SCALE=2"));
     const QColor blue(0x20, 0x50, 0xe0);

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "src/components/ClassIds.h"
 #include "src/content/PagePreparer.h"
 #include "tests/program/TestFolders.h"
 
@@ -51,13 +50,6 @@ TEST_F(PagePreparation, RewritesEachMarker) {
         {"tilde that is no term hides the term", "~ ~G12345678a~G\n", "~ ~G12345678a~G\r\n"},
     };
     for (const LineCase& c : cases) EXPECT_EQ(prepare(c.source, "D:\\x\\"), c.prepared) << c.what;
-}
-
-TEST_F(PagePreparation, PutsTheComponentsClassIdsIn) {
-    const std::string page(kPageMolCtrlClass);
-    const std::string zoom(kPageKzZoomClass);
-    EXPECT_EQ(prepare("CLSID:" + page + " " + page + " " + zoom + "\n"),
-              "CLSID:" + std::string(kMolCtrlClass) + " " + page + " " + std::string(kKzZoomClass) + "\r\n");
 }
 
 TEST_F(PagePreparation, CopiesTheMoleculeBesideThePage) {

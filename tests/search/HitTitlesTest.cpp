@@ -31,12 +31,6 @@ class HitTitlesTest : public testing::Test {
     HitTitles titles{folder.files, "D:\\"};
 };
 
-TEST_F(HitTitlesTest, PageTitleIsThatOfTheFirstRecordWithThePageId) {
-    EXPECT_EQ(titles.LookUpPageTitle("struct", 370010), "Water");
-    for (const auto& [key, page] : {std::pair{"struct", 370011}, {"react", 370010}, {"", 370010}})
-        EXPECT_EQ(titles.LookUpPageTitle(key, page), "") << key << page;
-}
-
 TEST_F(HitTitlesTest, EntryTitleIsInTheListOfItsNumber) {
     const struct {
         std::int32_t itemCode;
