@@ -20,7 +20,6 @@ using platform::TypeCode;
 using platform::Variant;
 
 constexpr InvokeKind kinds[] = {InvokeKind::method, InvokeKind::propertyGet, InvokeKind::propertyPut};
-constexpr TypeCode argumentTypes[] = {TypeCode::i2, TypeCode::i4, TypeCode::boolean, TypeCode::text};
 
 struct Component {
     const char* name;
@@ -47,39 +46,37 @@ const Component components[] = {
     {"molecule zoom", zoom::createMoleculeZoom, "1 call GetVersion\n"},
 };
 
-Variant valueOf(TypeCode type) {
-    switch (type) {
-        case TypeCode::i2:
-            return Variant(std::int16_t{1});
-        case TypeCode::i4:
-            return Variant(std::int32_t{1});
-        case TypeCode::boolean:
-            return Variant(true);
-        case TypeCode::text:
-            return Variant(std::string("x"));
-        default:
-            return {};
-    }
+/// A type of arguments, its word in the lines, and a value of it.
+struct ArgumentType {
+    TypeCode code;
+    const char* word;
+    Variant value;
+};
+
+const ArgumentType argumentTypes[] = {{TypeCode::i2, "I2", Variant(std::int16_t{1})},
+                                      {TypeCode::i4, "I4", Variant(std::int32_t{1})},
+                                      {TypeCode::boolean, "BOOL", Variant(true)},
+                                      {TypeCode::text, "text", Variant(std::string("x"))}};
+
+const ArgumentType& typeOf(TypeCode code) {
+    const auto* found = std::ranges::find(argumentTypes, code, &ArgumentType::code);
+    if (found == std::end(argumentTypes)) std::abort();
+    return *found;
 }
 
 std::string lineOf(const OperationInfo& operation) {
-    constexpr const char* words[] = {"I2", "I4", "BOOL", "text"};
     std::string line = std::to_string(operation.dispid);
     line += operation.kind == InvokeKind::method        ? " call "
             : operation.kind == InvokeKind::propertyGet ? " get "
                                                         : " put ";
     line += operation.name;
-    for (const TypeCode type : operation.arguments) {
-        const auto* at = std::ranges::find(argumentTypes, type);
-        line += ' ';
-        line += at == std::end(argumentTypes) ? "?" : words[at - std::begin(argumentTypes)];
-    }
+    for (const TypeCode type : operation.arguments) line += std::string(" ") + typeOf(type).word;
     return line + '\n';
 }
 
 std::vector<Variant> fitting(const OperationInfo& operation) {
     std::vector<Variant> values;
-    for (const TypeCode type : operation.arguments) values.push_back(valueOf(type));
+    for (const TypeCode type : operation.arguments) values.push_back(typeOf(type).value);
     return values;
 }
 
@@ -95,9 +92,9 @@ void refusesMisfits(platform::Control& control, const OperationInfo& operation) 
         arguments = fitting(operation);
         arguments[i] = Variant();
         refuses(arguments);
-        for (const TypeCode type : argumentTypes) {
-            arguments[i] = valueOf(type);
-            if (type != operation.arguments[i]) refuses(arguments);
+        for (const ArgumentType& type : argumentTypes) {
+            arguments[i] = type.value;
+            if (type.code != operation.arguments[i]) refuses(arguments);
         }
         refuses({arguments.begin(), arguments.begin() + static_cast<std::ptrdiff_t>(i)});
     }

@@ -72,21 +72,6 @@ TEST_F(BrowserMachine, GoesWhereItWasSentAlthoughItsEngineStartedMeanwhile) {
     EXPECT_EQ(title(), "1");
 }
 
-TEST_F(BrowserMachine, FollowsTheRedirectPageBeforeItIsIdle) {
-    write("C:\\Kalyxo\\cache\\redirect.htm",
-          "<HTML><HEAD><META HTTP-EQUIV=\"Refresh\" Content=\"0; URL=C:\\Kalyxo\\cache\\1.htm\"></HEAD>"
-          "<BODY BGCOLOR=\"#949494\"></BODY></HTML>");
-    write("C:\\Kalyxo\\cache\\1.htm", "<TITLE>1</TITLE><A HREF=\"2.htm\">2</A>");
-    write("C:\\Kalyxo\\cache\\2.htm", "<TITLE>2</TITLE>");
-    open("C:\\Kalyxo\\cache\\redirect.htm");
-    EXPECT_EQ(url(), "C:\\Kalyxo\\cache\\1.htm");
-    EXPECT_EQ(asked,
-              (std::vector<std::string>{"C:\\Kalyxo\\cache\\redirect.htm", "C:\\Kalyxo\\cache\\1.htm"}));
-    // Relative links start at the page, although the redirect was written with backslashes.
-    ASSERT_TRUE(click("2"));
-    EXPECT_EQ(title(), "2");
-}
-
 TEST_F(BrowserMachine, SaysThatAPageIsMissing) {
     write("D:\\a.htm", "<TITLE>a</TITLE><IMG SRC=\"nix.gif\"><IFRAME SRC=\"nix.htm\"></IFRAME>");
     open("D:\\nix.htm");
