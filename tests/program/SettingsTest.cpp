@@ -18,8 +18,6 @@ TEST(IniValue, FindsTheFirstMentionOfTheKey) {
         std::string value;
     } cases[] = {
         {"[Settings]\r\nDataPath=D:\\data\r\n", "D:\\data"},
-        {"DataPath=D:", "D:"},
-        {"OldDataPath=E:\r\nDataPath=D:", "E:"},
         {"DataPath\r\nother=x\r\n", "x"},
         {"DataPath", ""},
         {"nothing", ""},
