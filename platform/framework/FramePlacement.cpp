@@ -16,7 +16,17 @@ constexpr int settleMs = 100;
 FramePlacement::FramePlacement(QWidget& widget) : widget_(widget) {
     // Makes the native window: some window systems know the frame from then on.
     widget_.winId();
-    widget_.windowHandle()->installEventFilter(this);
+    followNativeWindow();
+    widget_.installEventFilter(this);
+}
+
+void FramePlacement::followNativeWindow() {
+    if (!widget_.windowHandle() || widget_.windowHandle() == window_) return;
+    window_ = widget_.windowHandle();
+    window_->installEventFilter(this);
+    if (isNormal()) return;
+    if (wanted_) window_->setGeometry(*wanted_);
+    window_->setWindowStates(widget_.windowState());
 }
 
 void FramePlacement::place(const QRect& outer) {
@@ -34,7 +44,11 @@ void FramePlacement::remember() {
 
 QRect FramePlacement::outer() const { return wanted_ && isNormal() ? *wanted_ : present(); }
 
-bool FramePlacement::eventFilter(QObject*, QEvent* event) {
+bool FramePlacement::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == &widget_) {
+        if (event->type() == QEvent::WinIdChange) followNativeWindow();
+        return false;
+    }
     const bool mayKnowFrame = event->type() == QEvent::Expose || event->type() == QEvent::WindowStateChange;
     if (!mayKnowFrame || !wanted_ || !isNormal() || !widget_.windowHandle()->isExposed()) return false;
     putRight();

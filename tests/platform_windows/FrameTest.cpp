@@ -2,6 +2,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QWidget>
+#include <QWindow>
 
 #include "tests/platform_windows/TestProgram.h"
 
@@ -58,6 +59,26 @@ TEST_F(FrameTest, ResizesTellFrameAndView) {
     EXPECT_FALSE(frame().IsZoomed());
     sizes = sizesAfter(SW_SHOWNORMAL);
     EXPECT_EQ(sizes, both("0 "));
+    EXPECT_EQ(frame().GetWindowRect(), place);
+}
+
+/// As Qt does for the first browser in a window.
+struct MadeAnew : QWidget {
+    static void make(QWidget& widget) {
+        (widget.*&MadeAnew::destroy)(true, true);
+        (widget.*&MadeAnew::create)(0, true, true);
+        widget.windowHandle()->setVisible(true);
+    }
+};
+
+TEST_F(FrameTest, StaysMaximisedWhenItsNativeWindowIsMadeAnew) {
+    open();
+    frame().ShowWindow(SW_SHOWMAXIMIZED);
+    MadeAnew::make(widgetOf(frame()));
+    EXPECT_EQ(widgetOf(frame()).windowHandle()->windowStates(), Qt::WindowMaximized);
+    settle();
+    frame().ShowWindow(SW_SHOWNORMAL);
+    settle();
     EXPECT_EQ(frame().GetWindowRect(), place);
 }
 
