@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include "platform/framework/Document.h"
+#include "platform/framework/EndRequests.h"
 #include "platform/framework/FrameWnd.h"
 #include "platform/framework/WinApp.h"
 #include "platform/handles/WindowTable.h"
@@ -18,6 +19,9 @@ int RunProgram(CWinApp& app) {
     if (frame) {
         const QWidget* const widget = WindowTable::instance().widget(frame->GetSafeHwnd());
         QObject::connect(widget, &QObject::destroyed, qApp, [] { QCoreApplication::exit(); });
+        const EndRequests requests([&app] {
+            if (CFrameWnd* const open = app.GetMainWnd()) open->SendMessage(WM_CLOSE);
+        });
         QCoreApplication::exec();
     }
     return EndProgram(app);

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QTimer>
+#include <csignal>
 
 #include "platform/handles/WindowTable.h"
 #include "platform/text/GreekLiteral.h"
@@ -26,6 +27,16 @@ TEST_F(RunTest, RunsUntilTheFrameIsClosed) {
     EXPECT_TRUE(shown);
     EXPECT_TRUE(WindowTable::instance().all().empty());
     EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty());
+}
+
+TEST_F(RunTest, ClosesTheFrameWhenTheSessionEnds) {
+    QTimer::singleShot(30, [&] {
+        log().clear();
+        std::raise(SIGTERM);
+    });
+    EXPECT_EQ(RunProgram(app()), 7);
+    EXPECT_EQ(log().lines({"WM_CLOSE", "WM_DESTROY"}),
+              (Lines{"frame WM_CLOSE", "frame WM_DESTROY", "view WM_DESTROY"}));
 }
 
 TEST_F(RunTest, TellsThatTheDocumentCannotBeOpened) {
