@@ -208,8 +208,9 @@ void GraphChart::addSeries(QXYSeries& series) {
 }
 
 void GraphChart::addLines(const Graph& graph, const GraphWindow& window) {
-    const auto& [x, y] = window;
-    const auto pointAt = [&](double across, double up) { return QPointF(onAxis(x, across), onAxis(y, up)); };
+    const auto pointAt = [&](double across, double up) {
+        return QPointF(onAxis(window.x, across), onAxis(window.y, up));
+    };
     if (graph.plan.kind == GraphKind::line) {
         auto* line = new QLineSeries();
         QList<QPointF> points;
@@ -220,8 +221,8 @@ void GraphChart::addLines(const Graph& graph, const GraphWindow& window) {
         for (QLegendMarker* marker : legend()->markers(line)) marker->setVisible(false);
     }
     if (!graph.fit) return;
-    const QPointF left = pointAt(x.from, graph.fitted(x.from));
-    const QPointF right = pointAt(x.to, graph.fitted(x.to));
+    const QPointF left = pointAt(window.x.from, graph.fitted(window.x.from));
+    const QPointF right = pointAt(window.x.to, graph.fitted(window.x.to));
     if (!std::isfinite(left.y()) || !std::isfinite(right.y())) return;
     auto* line = new QLineSeries();
     line->append({left, right});
