@@ -32,8 +32,9 @@ Qt::WindowFlags windowFlagsOf(DialogFrame frame) {
         case DialogFrame::tool:
             return Qt::Tool | Qt::FramelessWindowHint;
         case DialogFrame::plain:
+            // A click has some window managers raise it, also before the dialogs that belong to it.
             return Qt::SplashScreen | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
-                   Qt::WindowDoesNotAcceptFocus;
+                   Qt::WindowDoesNotAcceptFocus | Qt::WindowTransparentForInput;
         case DialogFrame::window:
             break;
     }
