@@ -38,7 +38,7 @@ class DataSite : public RecordingSite {
     }
     const platform::FileSystem& files() const override { return files_; }
     bool print(std::string_view document, const platform::PagePainter& painter) override {
-        printed.push_back(std::string(document));
+        printed.emplace_back(document);
         page = QImage(600, 800, QImage::Format_RGB32);
         page.fill(Qt::white);
         QPainter onPage(&page);
