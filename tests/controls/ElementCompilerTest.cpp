@@ -31,7 +31,7 @@ std::string allRows() {
     std::string text(ownNames);
     for (int number = 1; number <= elementCount; ++number) {
         const std::string digits = std::to_string(number);
-        text += digits + "\tE" + digits + "\tΌνομα\ttransition\t1.0\n";
+        text.append(digits).append("\tE").append(digits).append("\tΌνομα\ttransition\t1.0\n");
     }
     return text;
 }

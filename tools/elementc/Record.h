@@ -24,10 +24,8 @@ struct Outcome {
 };
 
 template <class T>
-Outcome<T> failed(std::string fault) {
-    Outcome<T> outcome;
-    outcome.fault = std::move(fault);
-    return outcome;
+Outcome<T> failed(const std::string& fault) {
+    return {{}, fault};
 }
 
 /// The text of a field, empty where there is none.
