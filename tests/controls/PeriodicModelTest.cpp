@@ -12,6 +12,27 @@
 namespace controls::periodic {
 namespace {
 
+TEST(PeriodicState, EveryStateComesBackFromItsHalves) {
+    for (int code = 0; code < viewCount; ++code) {
+        const TableView view = *viewOfCode(code);
+        for (int highlighted = 0; highlighted <= kindCount(view); ++highlighted) {
+            for (const bool other : {false, hasOtherScale(view)}) {
+                for (const int kelvin : {0, 1, 297, 298, 299, 6000}) {
+                    for (const int year : {1650, 1651, 1899, 2009, 2010}) {
+                        const TableState state{.selected = kelvin % 119,
+                                               .view = view,
+                                               .otherScale = other,
+                                               .highlighted = highlighted,
+                                               .kelvin = kelvin,
+                                               .year = year};
+                        EXPECT_EQ(stateOf(firstHalf(state), secondHalf(state)), state);
+                    }
+                }
+            }
+        }
+    }
+}
+
 TEST(PeriodicState, AnyTwoNumbersMakeAStateThatStays) {
     std::uint32_t random = 1;
     const auto next = [&] { return static_cast<std::int32_t>(random = random * 1664525U + 1013904223U); };
