@@ -132,15 +132,15 @@ TEST_F(OwnMachine, MediaAreDrivesAndKeepTheirLetters) {
 }
 
 TEST_F(OwnMachine, ProgramsThatStartAtOnceMakeItOnce) {
-    std::vector<std::future<bool>> starts;
-    for (int i = 0; i < 8; ++i) {
-        starts.push_back(std::async(std::launch::async, [this] {
+    std::vector<std::future<bool>> starts(8);
+    for (auto& start : starts) {
+        start = std::async(std::launch::async, [this] {
             const auto opened = open();
             if (!opened) return false;
             auto key = (*opened.value)->registry().createKey(platform::HKEY_LOCAL_MACHINE, SettingsKeyPath());
             return key && key->queryString("Directory", 256) == "C:\\Kalyxo" && key->setDword("Left", 7) &&
                    (*opened.value)->flushRegistry();
-        }));
+        });
     }
     for (auto& start : starts) EXPECT_TRUE(start.get());
     // Had one made it after another had closed, the layout would be gone.
