@@ -94,7 +94,7 @@ TEST_F(BrowserMachine, SaysThatAnEmbeddedFileIsMissingOrNoVideo) {
     for (const auto& [file, message] : wrong) {
         write("D:\\a.htm", embedding(file + " WIDTH=340 HEIGHT=290"));
         open("D:\\a.htm");
-        EXPECT_TRUE(runUntil([&] { return text() == message; })) << file << ": " << text();
+        EXPECT_TRUE(runUntil([&, &told = message] { return text() == told; })) << file << ": " << text();
     }
 }
 

@@ -88,12 +88,12 @@ TEST_F(ControlsTest, SortedListFindsByPrefixFromTheEntryAfter) {
         EXPECT_EQ(dialog_.plain.GetText(6), "");
         struct Case {
             int after;
-            std::string_view prefix;
             int found;
+            std::string_view prefix;
         };
-        const Case cases[] = {{0, "οξ"_gr, 4}, {4, "ΟΞ"_gr, 5}, {5, "οξ"_gr, 4},
-                              {0, "α"_gr, 0},  {0, "Ν"_gr, 2},  {-1, "", 0},
-                              {0, "", 1},      {0, "ζ"_gr, -1}, {0, "νερό"_gr, 3}};
+        const Case cases[] = {{0, 4, "οξ"_gr}, {4, 5, "ΟΞ"_gr}, {5, 4, "οξ"_gr},
+                              {0, 0, "α"_gr},  {0, 2, "Ν"_gr},  {-1, 0, ""},
+                              {0, 1, ""},      {0, -1, "ζ"_gr}, {0, 3, "νερό"_gr}};
         for (const Case& row : cases) EXPECT_EQ(dialog_.list.FindString(row.after, row.prefix), row.found);
         dialog_.list.ResetContent();
         EXPECT_EQ(dialog_.list.FindString(0, "α"_gr), -1);

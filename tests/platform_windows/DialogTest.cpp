@@ -80,7 +80,7 @@ TEST(DialogUnits, AreRoundedAwayFromZeroWithoutOverflow) {
 TEST_F(DialogTest, ShowsItsTemplateInTheMiddleOfTheFrame) {
     show([&] {
         const CRect place = dialog_.GetWindowRect();
-        EXPECT_EQ(dialog_.GetClientRect(), CRect(0, 0, 221, 101));
+        EXPECT_EQ(dialog_.GetClientRect(), CRect::at(0, 0, 221, 101));
         EXPECT_NEAR(place.left + place.right, 100 + 740, 2);
         EXPECT_NEAR(place.top + place.bottom, 80 + 560, 2);
         EXPECT_EQ(dialog_.GetDlgItemText(idText), "Τέλος"_gr);

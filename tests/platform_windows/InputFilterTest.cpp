@@ -36,7 +36,7 @@ class InputFilterTest : public ProgramTest {
     void SetUp() override {
         open();
         outer_ = std::make_unique<Probe>(&widgetOf(view()), QRect(20, 30, 100, 100));
-        inner_ = new Probe(outer_.get(), QRect(10, 10, 50, 50));
+        inner_ = std::make_unique<Probe>(outer_.get(), QRect(10, 10, 50, 50)).release();
         settle();
         app().filter = [this](const MSG& message) {
             if (message.message == WM_MOUSEMOVE) return false;

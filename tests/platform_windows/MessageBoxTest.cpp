@@ -20,7 +20,7 @@ class ShownBoxTest : public ProgramTest {
     ShownBoxTest() : silent_(::testing::TempDir(), MachineConfig(), Registry()) { setMachine(&silent_); }
 
     /// Runs `answer` once the box is up.
-    void whenShown(std::function<void(QMessageBox&)> answer) {
+    void whenShown(const std::function<void(QMessageBox&)>& answer) {
         QTimer::singleShot(0, [answer] {
             auto* const box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
             ASSERT_NE(box, nullptr);
