@@ -81,12 +81,12 @@ TEST(BookmarkFile, EachRecordClassHasItsBytes) {
 TEST(BookmarkFile, LongNamesHaveTheirLengthForms) {
     const std::vector<std::pair<std::size_t, std::string>> forms = {
         {254, "FE"}, {255, "FF FF 00"}, {0xFFFD, "FF FD FF"}, {0xFFFE, "FF FF FF FE FF 00 00"}};
+    const std::string begin = hexBytes("01 00 00 00  01 00 00 00  01 00 " + kFolderClass);
     for (const auto& [length, prefix] : forms) {
         BookmarkArray records;
         add<CBMFolder>(records, std::string(length, '\xE1'));
         const std::string file = WriteBookmarks(records);
-        EXPECT_EQ(file.substr(0, 25 + hexBytes(prefix).size()),
-                  hexBytes("01 00 00 00  01 00 00 00  01 00 " + kFolderClass + prefix));
+        EXPECT_EQ(file.substr(0, 25 + hexBytes(prefix).size()), begin + hexBytes(prefix));
         const auto read = ReadBookmarks(file);
         ASSERT_TRUE(read) << length;
         EXPECT_EQ(read->front()->name, records.front()->name);
