@@ -15,8 +15,8 @@
 #include "platform/windows/KeyboardFocus.h"
 #include "platform/windows/MouseCapture.h"
 #include "platform/windows/PaintQueue.h"
+#include "platform/windows/SurfaceWidget.h"
 #include "platform/windows/VirtualKeys.h"
-#include "platform/windows/WindowWidget.h"
 
 namespace platform {
 
@@ -50,6 +50,28 @@ bool deliverCaptured(const QEvent& event) {
     return true;
 }
 
+/// The widget that a press in the window reaches; null when a menu or another dialog takes it, and for the
+/// windows that the web engine has inside of widgets.
+QWidget* widgetInReach(const QWindow& window, QPoint position) {
+    if (!window.inherits("QWidgetWindow")) return nullptr;
+    QWidget* const top = QWidget::find(window.winId());
+    if (!top || QApplication::activePopupWidget() || isBlockedByDialog(*top)) return nullptr;
+    QWidget* const child = top->childAt(position);
+    return child ? child : top;
+}
+
+/// Qt tells no move when the pointer, coming from outside, stays where it came in; but what is pressed next
+/// is what the pointer was last moved to.
+void moveToEntrance(const QWindow& window, const QEnterEvent& entering) {
+    auto* const surface = dynamic_cast<SurfaceWidget*>(widgetInReach(window, entering.position().toPoint()));
+    if (!surface) return;
+    QMouseEvent move(QEvent::MouseMove, surface->mapFromGlobal(entering.globalPosition()),
+                     entering.scenePosition(), entering.globalPosition(), Qt::NoButton, entering.buttons(),
+                     entering.modifiers());
+    move.setTimestamp(entering.timestamp());
+    QApplication::sendEvent(surface, &move);
+}
+
 class MessageFilter : public QObject {
   public:
     explicit MessageFilter(QApplication& application) : QObject(&application) {
@@ -67,6 +89,9 @@ class MessageFilter : public QObject {
         if (type == QEvent::Expose || type == QEvent::Paint || type == QEvent::UpdateRequest) {
             deliverScheduledPaints();
         }
+        if (type == QEvent::Enter) {
+            moveToEntrance(static_cast<QWindow&>(*receiver), static_cast<QEnterEvent&>(*event));
+        }
         if (!isMouse(type)) return false;
         auto& mouse = static_cast<QMouseEvent&>(*event);
         if (type == QEvent::MouseMove || type == QEvent::MouseButtonRelease) return followsTakenPress(mouse);
@@ -75,17 +100,14 @@ class MessageFilter : public QObject {
 
   private:
     /// A press is looked at before Qt moves the focus to the widget: a press that is swallowed moves nothing.
-    bool pressAtWindow(QWindow& window, const QMouseEvent& event) {
-        // The web engine has windows of its own inside of widgets; and Qt keeps the press that became a
-        // double click from the widgets.
-        if (!window.inherits("QWidgetWindow") || event.flags() & Qt::MouseEventCreatedDoubleClick)
-            return false;
-        QWidget* const top = QWidget::find(window.winId());
-        if (!top || QApplication::activePopupWidget() || isBlockedByDialog(*top)) return false;
+    bool pressAtWindow(const QWindow& window, const QMouseEvent& event) {
+        // Qt keeps the press that became a double click from the widgets.
+        if (event.flags() & Qt::MouseEventCreatedDoubleClick) return false;
+        QWidget* const widget = widgetInReach(window, event.position().toPoint());
+        if (!widget) return false;
         route_.arriveAtWindow(event);
         currentModifiers = event.modifiers();
-        QWidget* const child = top->childAt(event.position().toPoint());
-        const bool taken = deliverCaptured(event) || swallowsInput(event, child ? *child : *top);
+        const bool taken = deliverCaptured(event) || swallowsInput(event, *widget);
         taken_.setFlag(event.button(), taken);
         return taken;
     }

@@ -1,5 +1,8 @@
+#include <QApplication>
 #include <QCursor>
+#include <QEnterEvent>
 #include <QWidget>
+#include <QWindow>
 
 #include "tests/platform_windows/TestProgram.h"
 
@@ -43,6 +46,15 @@ TEST_F(MouseTest, TheCursorIsAskedForBeforeEachMove) {
     left_->on(WM_SETCURSOR, {});
     moveMouse(*left_, 1, 1);
     EXPECT_EQ(widgetOf(*left_).cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST_F(MouseTest, ThePointerComesInByAMove) {
+    QWidget& top = *widgetOf(*left_).window();
+    const QPointF global = widgetOf(*left_).mapToGlobal(QPointF(3, 4));
+    const QPointF inside = top.mapFromGlobal(global);
+    QEnterEvent entering(inside, inside, global);
+    QApplication::sendEvent(top.windowHandle(), &entering);
+    EXPECT_EQ(log().lines({"MOUSE"}), (Lines{"left WM_MOUSEMOVE 3,4"}));
 }
 
 TEST_F(MouseTest, TheCapturingWindowGetsEverythingInItsOwnCoordinates) {
