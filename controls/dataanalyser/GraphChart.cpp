@@ -76,16 +76,15 @@ QString decadeText(int decade) {
     return toQt(fixedFigure(std::pow(10, decade), std::max(0, -decade)));
 }
 
-/// Of decimal logarithms, as the library's own logarithmic axis writes "1E-07".
+/// An axis of the decimal logarithms: the library's own logarithmic axis can write no more than "1E-07".
 QAbstractAxis* makeLogarithmicAxis(const AxisRange& range, double ticks) {
     auto* axis = new QCategoryAxis();
     axis->setLabelsPosition(QCategoryAxis::AxisLabelsPositionOnValue);
     const int first = decadeOf(range.from);
     const int last = decadeOf(range.to);
     axis->setStartValue(first);
-    for (int decade = first; decade <= last; decade += decadesPerTick(range, static_cast<int>(ticks))) {
-        axis->append(decadeText(decade), decade);
-    }
+    const int step = decadesPerTick(range, static_cast<int>(ticks));
+    for (int decade = first; decade <= last; decade += step) axis->append(decadeText(decade), decade);
     axis->setRange(first, last);
     return axis;
 }
@@ -117,7 +116,6 @@ QAbstractAxis* makeAxis(const AxisRange& range, const QString& title, double tic
     axis->setLabelsColor(appearance::text);
     axis->setLinePenColor(appearance::muted);
     axis->setGridLineColor(appearance::line);
-    axis->setMinorGridLineColor(appearance::ground);
     return axis;
 }
 
