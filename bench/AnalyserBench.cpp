@@ -5,8 +5,8 @@
 #include <random>
 #include <string>
 
-#include "controls/dataanalyser/AnalyserControl.h"
-#include "controls/dataanalyser/TableView.h"
+#include "controls/dataanalyser/AnalyserComponent.h"
+#include "controls/dataanalyser/table/TableView.h"
 #include "formats/DataSetFile.h"
 
 /// The data analyser with a data set of 10,000 rows.

@@ -3,11 +3,11 @@
 #include <QWidget>
 #include <cstdio>
 
+#include "platform/base/Resources.h"
 #include "platform/framework/Desktop.h"
-#include "platform/framework/Resources.h"
 #include "platform/framework/Run.h"
-#include "platform/handles/WindowTable.h"
 #include "platform/machine/Machine.h"
+#include "platform/qt/WindowTable.h"
 #include "src/app/KalyxoApp.h"
 #include "src/resources/ResourceTable.h"
 

@@ -10,7 +10,7 @@
 #include <string>
 
 #include "platform/files/FileSystem.h"
-#include "src/content/PagePreparer.h"
+#include "src/pages/PagePreparer.h"
 
 /// Preparing 2,000 pages of 8 KB on a memory file system, beside a plain read-and-write copy of the same
 /// files.

@@ -13,6 +13,9 @@ if(KALYXO_SANITIZE)
     add_link_options(-fsanitize=address,undefined)
 endif()
 
+# Rooms link all that they build on; what a program does not use is not loaded with it.
+add_link_options(-Wl,--as-needed)
+
 find_program(CCACHE ccache)
 if(CCACHE)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})

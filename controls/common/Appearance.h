@@ -5,7 +5,7 @@
 #include <QString>
 #include <optional>
 
-#include "controls/common/Element.h"
+#include "controls/elements/Element.h"
 
 /// Colours and fonts of the components. They are all their own, so that they look the same under any theme of
 /// the desktop.

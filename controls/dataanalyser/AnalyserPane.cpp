@@ -14,11 +14,11 @@
 #include "controls/common/Appearance.h"
 #include "controls/common/QtText.h"
 #include "controls/dataanalyser/GraphStrip.h"
-#include "controls/dataanalyser/MessageLine.h"
-#include "controls/dataanalyser/StyleRules.h"
-#include "controls/dataanalyser/TableStrip.h"
-#include "controls/dataanalyser/TableText.h"
-#include "controls/dataanalyser/TableView.h"
+#include "controls/dataanalyser/look/MessageLine.h"
+#include "controls/dataanalyser/look/StyleRules.h"
+#include "controls/dataanalyser/model/TableText.h"
+#include "controls/dataanalyser/table/TableStrip.h"
+#include "controls/dataanalyser/table/TableView.h"
 
 namespace controls::dataanalyser {
 

@@ -4,8 +4,8 @@
 #include <memory>
 #include <set>
 
-#include "controls/dataanalyser/Analyser.h"
-#include "controls/dataanalyser/GraphParts.h"
+#include "controls/dataanalyser/look/GraphParts.h"
+#include "controls/dataanalyser/model/Analyser.h"
 
 class QLabel;
 class QStackedWidget;

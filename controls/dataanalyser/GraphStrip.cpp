@@ -6,9 +6,9 @@
 #include <utility>
 
 #include "controls/common/QtText.h"
-#include "controls/dataanalyser/Analyser.h"
-#include "controls/dataanalyser/Buttons.h"
-#include "controls/dataanalyser/ChoiceBox.h"
+#include "controls/dataanalyser/look/Buttons.h"
+#include "controls/dataanalyser/look/ChoiceBox.h"
+#include "controls/dataanalyser/model/Analyser.h"
 
 namespace controls::dataanalyser {
 

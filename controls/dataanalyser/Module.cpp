@@ -1,5 +1,5 @@
-#include "controls/dataanalyser/AnalyserControl.h"
-#include "platform/automation/ControlModule.h"
+#include "controls/dataanalyser/AnalyserComponent.h"
+#include "platform/components/ComponentModule.h"
 
 // The version that the file tells; the first three numbers are those that the component reports.
 __attribute__((section(".kalyxo.version"), used)) const char versionText[] = "1.0.40.0";
@@ -7,15 +7,16 @@ __attribute__((section(".kalyxo.version"), used)) const char versionText[] = "1.
 extern "C" {
 
 __attribute__((visibility("default"))) void DllRegisterServer(platform::ModuleRegistrar& registrar);
-__attribute__((visibility("default"))) const platform::ControlModule* DllGetClassObject();
+__attribute__((visibility("default"))) const platform::ComponentModule* DllGetClassObject();
 
 void DllRegisterServer(platform::ModuleRegistrar& registrar) {
     registrar.registerClass(controls::dataanalyser::classId);
 }
 
-const platform::ControlModule* DllGetClassObject() {
-    static constexpr platform::ControlModule module{.classId = controls::dataanalyser::classId,
-                                                    .create = controls::dataanalyser::createAnalyserControl};
+const platform::ComponentModule* DllGetClassObject() {
+    static constexpr platform::ComponentModule module{
+        .classId = controls::dataanalyser::classId,
+        .create = controls::dataanalyser::createAnalyserComponent};
     return &module;
 }
 

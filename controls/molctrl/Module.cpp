@@ -1,5 +1,5 @@
 #include "controls/molctrl/MoleculeController.h"
-#include "platform/automation/ControlModule.h"
+#include "platform/components/ComponentModule.h"
 
 // The version that the file tells; the first three numbers are those that the component reports.
 __attribute__((section(".kalyxo.version"), used)) const char versionText[] = "1.0.40.0";
@@ -7,16 +7,16 @@ __attribute__((section(".kalyxo.version"), used)) const char versionText[] = "1.
 extern "C" {
 
 __attribute__((visibility("default"))) void DllRegisterServer(platform::ModuleRegistrar& registrar);
-__attribute__((visibility("default"))) const platform::ControlModule* DllGetClassObject();
+__attribute__((visibility("default"))) const platform::ComponentModule* DllGetClassObject();
 
 void DllRegisterServer(platform::ModuleRegistrar& registrar) {
     registrar.registerClass(controls::molctrl::classId);
 }
 
-const platform::ControlModule* DllGetClassObject() {
-    static constexpr platform::ControlModule module{.classId = controls::molctrl::classId,
-                                                    .create = controls::molctrl::createMoleculeController,
-                                                    .pagePart = {":/molctrl/controller.html", {}}};
+const platform::ComponentModule* DllGetClassObject() {
+    static constexpr platform::ComponentModule module{.classId = controls::molctrl::classId,
+                                                      .create = controls::molctrl::createMoleculeController,
+                                                      .pagePart = {":/molctrl/controller.html", {}}};
     return &module;
 }
 

@@ -3,7 +3,7 @@
 #include <memory>
 #include <string_view>
 
-#include "platform/automation/Control.h"
+#include "platform/components/Component.h"
 
 namespace controls::molctrl {
 
@@ -11,6 +11,6 @@ namespace controls::molctrl {
 inline constexpr std::string_view classId = "5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E104";
 
 /// Makes the molecule controller, which tells its version and shows its name.
-std::unique_ptr<platform::Control> createMoleculeController(platform::ControlSite& site, QWidget* parent);
+std::unique_ptr<platform::Component> createMoleculeController(platform::ComponentSite& site, QWidget* parent);
 
 }  // namespace controls::molctrl

@@ -6,9 +6,9 @@
 #include "controls/common/Contrast.h"
 #include "controls/common/QtText.h"
 #include "controls/periodic/ColorScale.h"
-#include "controls/periodic/ElementKinds.h"
 #include "controls/periodic/FigureText.h"
-#include "controls/periodic/QuantityScale.h"
+#include "controls/periodic/model/ElementKinds.h"
+#include "controls/periodic/model/QuantityScale.h"
 
 namespace controls::periodic {
 

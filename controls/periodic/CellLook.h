@@ -3,8 +3,8 @@
 #include <QColor>
 #include <QString>
 
-#include "controls/common/Element.h"
-#include "controls/periodic/TableState.h"
+#include "controls/elements/Element.h"
+#include "controls/periodic/model/TableState.h"
 
 namespace controls::periodic {
 

@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <QSize>
 
-#include "controls/common/Element.h"
+#include "controls/elements/Element.h"
 #include "controls/periodic/CellLook.h"
 #include "controls/periodic/Lettering.h"
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "controls/common/Appearance.h"
-#include "controls/common/ElectronShells.h"
 #include "controls/common/QtText.h"
+#include "controls/elements/ElectronShells.h"
 #include "controls/periodic/FigureText.h"
 #include "controls/periodic/ShellDrawing.h"
 

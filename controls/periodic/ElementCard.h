@@ -4,9 +4,9 @@
 #include <QString>
 #include <vector>
 
-#include "controls/common/Element.h"
+#include "controls/elements/Element.h"
 #include "controls/periodic/Lettering.h"
-#include "controls/periodic/TableState.h"
+#include "controls/periodic/model/TableState.h"
 
 namespace controls::periodic {
 

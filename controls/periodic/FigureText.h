@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "controls/common/ElementQuantity.h"
+#include "controls/elements/ElementQuantity.h"
 
 namespace controls::periodic {
 

@@ -8,9 +8,9 @@
 #include "controls/periodic/CellLook.h"
 #include "controls/periodic/CellPainter.h"
 #include "controls/periodic/ColorScale.h"
-#include "controls/periodic/ElementKinds.h"
 #include "controls/periodic/FigureText.h"
-#include "controls/periodic/QuantityScale.h"
+#include "controls/periodic/model/ElementKinds.h"
+#include "controls/periodic/model/QuantityScale.h"
 
 namespace controls::periodic {
 

@@ -4,7 +4,7 @@
 
 #include "controls/periodic/Lettering.h"
 #include "controls/periodic/TableLayout.h"
-#include "controls/periodic/TableState.h"
+#include "controls/periodic/model/TableState.h"
 
 namespace controls::periodic {
 

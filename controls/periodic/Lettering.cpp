@@ -22,10 +22,10 @@ QFont raised(QFont font) {
 /// Calls `each` with every part of a text and whether it is raised.
 template <class Each>
 void forParts(const QString& words, const Each& each) {
-    bool high = false;
+    bool raise = false;
     for (const QString& part : words.split(QLatin1Char('^'))) {
-        if (!part.isEmpty()) each(part, high);
-        high = !high;
+        if (!part.isEmpty()) each(part, raise);
+        raise = !raise;
     }
 }
 
@@ -63,18 +63,18 @@ void Lettering::draw(QPainter& painter, const QRect& area, const QString& words,
     const QFontMetrics metrics = painter.fontMetrics();
     int x = leftEdge(area, widthOf(words, font), alignment);
     const int y = baseline(area, metrics, alignment);
-    forParts(words, [&](const QString& part, bool high) {
-        const QFont partFont = high ? raised(font) : font;
+    forParts(words, [&](const QString& part, bool raise) {
+        const QFont partFont = raise ? raised(font) : font;
         painter.setFont(partFont);
-        painter.drawText(x, high ? y - metrics.ascent() * liftPercent / 100 : y, part);
+        painter.drawText(x, raise ? y - metrics.ascent() * liftPercent / 100 : y, part);
         x += QFontMetrics(partFont).horizontalAdvance(part);
     });
 }
 
 int Lettering::widthOf(const QString& words, const QFont& font) {
     int width = 0;
-    forParts(words, [&](const QString& part, bool high) {
-        width += QFontMetrics(high ? raised(font) : font).horizontalAdvance(part);
+    forParts(words, [&](const QString& part, bool raise) {
+        width += QFontMetrics(raise ? raised(font) : font).horizontalAdvance(part);
     });
     return width;
 }

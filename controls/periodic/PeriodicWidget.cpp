@@ -12,14 +12,14 @@
 #include "controls/common/QtText.h"
 #include "controls/periodic/CellPainter.h"
 #include "controls/periodic/ElementCard.h"
-#include "controls/periodic/ElementKinds.h"
 #include "controls/periodic/FigureText.h"
 #include "controls/periodic/Legend.h"
-#include "controls/periodic/QuantityScale.h"
 #include "controls/periodic/ScaleBox.h"
 #include "controls/periodic/ValueSlider.h"
 #include "controls/periodic/ViewStrip.h"
-#include "platform/automation/QtChild.h"
+#include "controls/periodic/model/ElementKinds.h"
+#include "controls/periodic/model/QuantityScale.h"
+#include "platform/qt/QtChild.h"
 
 namespace controls::periodic {
 

@@ -4,12 +4,12 @@
 #include <QWidget>
 #include <functional>
 
-#include "controls/common/TypeAhead.h"
-#include "controls/periodic/ElementGrid.h"
+#include "controls/elements/TypeAhead.h"
 #include "controls/periodic/Lettering.h"
 #include "controls/periodic/TableAccessible.h"
 #include "controls/periodic/TableLayout.h"
-#include "controls/periodic/TableState.h"
+#include "controls/periodic/model/ElementGrid.h"
+#include "controls/periodic/model/TableState.h"
 
 namespace controls::periodic {
 

@@ -5,8 +5,8 @@
 #include <numbers>
 
 #include "controls/common/Appearance.h"
-#include "controls/common/ElectronShells.h"
 #include "controls/common/QtText.h"
+#include "controls/elements/ElectronShells.h"
 
 namespace controls::periodic {
 

@@ -2,7 +2,7 @@
 
 #include <QPainter>
 
-#include "controls/common/Element.h"
+#include "controls/elements/Element.h"
 #include "controls/periodic/Lettering.h"
 
 namespace controls::periodic {

@@ -3,11 +3,11 @@
 #include <memory>
 
 #include "controls/common/QtText.h"
-#include "controls/periodic/ElementKinds.h"
 #include "controls/periodic/FigureText.h"
 #include "controls/periodic/Lettering.h"
 #include "controls/periodic/PeriodicWidget.h"
-#include "platform/accessible/WidgetWithParts.h"
+#include "controls/periodic/model/ElementKinds.h"
+#include "platform/qt/WidgetWithParts.h"
 
 namespace controls::periodic {
 

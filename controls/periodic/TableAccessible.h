@@ -2,8 +2,8 @@
 
 #include <QString>
 
-#include "controls/common/Element.h"
-#include "controls/periodic/TableState.h"
+#include "controls/elements/Element.h"
+#include "controls/periodic/model/TableState.h"
 
 class QWidget;
 

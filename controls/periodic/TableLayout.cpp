@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "controls/periodic/ElementKinds.h"
+#include "controls/periodic/model/ElementKinds.h"
 
 namespace controls::periodic {
 

@@ -4,9 +4,9 @@
 #include <QRect>
 #include <QSize>
 
-#include "controls/common/Element.h"
-#include "controls/periodic/ElementGrid.h"
-#include "controls/periodic/TableView.h"
+#include "controls/elements/Element.h"
+#include "controls/periodic/model/ElementGrid.h"
+#include "controls/periodic/model/TableView.h"
 
 namespace controls::periodic {
 

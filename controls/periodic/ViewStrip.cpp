@@ -6,7 +6,7 @@
 
 #include "controls/common/Appearance.h"
 #include "controls/common/QtText.h"
-#include "platform/automation/QtChild.h"
+#include "platform/qt/QtChild.h"
 
 namespace controls::periodic {
 

@@ -5,7 +5,7 @@
 #include <functional>
 
 #include "controls/periodic/Lettering.h"
-#include "controls/periodic/TableView.h"
+#include "controls/periodic/model/TableView.h"
 
 namespace controls::periodic {
 

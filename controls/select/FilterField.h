@@ -2,7 +2,7 @@
 
 #include <QLineEdit>
 
-#include "platform/windows/Messages.h"
+#include "platform/base/Messages.h"
 
 class QAction;
 

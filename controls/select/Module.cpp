@@ -1,5 +1,5 @@
-#include "controls/select/SelectControl.h"
-#include "platform/automation/ControlModule.h"
+#include "controls/select/SelectComponent.h"
+#include "platform/components/ComponentModule.h"
 
 // The version that the file tells; the first three numbers are those of the `Version` property.
 __attribute__((section(".kalyxo.version"), used)) const char versionText[] = "1.0.40.0";
@@ -7,15 +7,15 @@ __attribute__((section(".kalyxo.version"), used)) const char versionText[] = "1.
 extern "C" {
 
 __attribute__((visibility("default"))) void DllRegisterServer(platform::ModuleRegistrar& registrar);
-__attribute__((visibility("default"))) const platform::ControlModule* DllGetClassObject();
+__attribute__((visibility("default"))) const platform::ComponentModule* DllGetClassObject();
 
 void DllRegisterServer(platform::ModuleRegistrar& registrar) {
     registrar.registerClass(controls::select::classId);
 }
 
-const platform::ControlModule* DllGetClassObject() {
-    static constexpr platform::ControlModule module{.classId = controls::select::classId,
-                                                    .create = controls::select::createSelectControl};
+const platform::ComponentModule* DllGetClassObject() {
+    static constexpr platform::ComponentModule module{.classId = controls::select::classId,
+                                                      .create = controls::select::createSelectComponent};
     return &module;
 }
 

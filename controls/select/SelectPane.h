@@ -4,7 +4,7 @@
 #include <QWidget>
 #include <functional>
 
-#include "controls/select/BrowseSelection.h"
+#include "controls/select/model/BrowseSelection.h"
 
 class QLabel;
 

@@ -3,7 +3,7 @@
 #include <QAbstractItemModel>
 #include <utility>
 
-#include "controls/select/BrowseSelection.h"
+#include "controls/select/model/BrowseSelection.h"
 
 namespace controls::select {
 

@@ -1,7 +1,7 @@
 #include <array>
 
 #include "controls/zoom/MoleculeZoom.h"
-#include "platform/automation/ControlModule.h"
+#include "platform/components/ComponentModule.h"
 
 // The version that the file tells; the first three numbers are those that the component reports.
 __attribute__((section(".kalyxo.version"), used)) const char versionText[] = "1.0.40.0";
@@ -9,17 +9,17 @@ __attribute__((section(".kalyxo.version"), used)) const char versionText[] = "1.
 extern "C" {
 
 __attribute__((visibility("default"))) void DllRegisterServer(platform::ModuleRegistrar& registrar);
-__attribute__((visibility("default"))) const platform::ControlModule* DllGetClassObject();
+__attribute__((visibility("default"))) const platform::ComponentModule* DllGetClassObject();
 
 void DllRegisterServer(platform::ModuleRegistrar& registrar) {
     registrar.registerClass(controls::zoom::classId);
 }
 
-const platform::ControlModule* DllGetClassObject() {
+const platform::ComponentModule* DllGetClassObject() {
     static constexpr std::array commands = {controls::zoom::showEnlargedView};
-    static constexpr platform::ControlModule module{.classId = controls::zoom::classId,
-                                                    .create = controls::zoom::createMoleculeZoom,
-                                                    .pagePart = {":/zoom/zoom.html", commands}};
+    static constexpr platform::ComponentModule module{.classId = controls::zoom::classId,
+                                                      .create = controls::zoom::createMoleculeZoom,
+                                                      .pagePart = {":/zoom/zoom.html", commands}};
     return &module;
 }
 

@@ -1,12 +1,12 @@
 #include "controls/zoom/MoleculeZoom.h"
 
-#include "controls/common/NamedControl.h"
+#include "controls/common/NamedComponent.h"
 
 namespace controls::zoom {
 
-std::unique_ptr<platform::Control> createMoleculeZoom(platform::ControlSite&, QWidget* parent) {
-    return std::make_unique<NamedControl>(QStringLiteral("Μεγέθυνση μορίου"), platform::InvokeKind::method,
-                                          "GetVersion", parent);
+std::unique_ptr<platform::Component> createMoleculeZoom(platform::ComponentSite&, QWidget* parent) {
+    return std::make_unique<NamedComponent>(QStringLiteral("Μεγέθυνση μορίου"), platform::InvokeKind::method,
+                                            "GetVersion", parent);
 }
 
 }  // namespace controls::zoom

@@ -3,7 +3,7 @@
 #include <memory>
 #include <string_view>
 
-#include "platform/automation/Control.h"
+#include "platform/components/Component.h"
 
 namespace controls::zoom {
 
@@ -14,6 +14,6 @@ inline constexpr std::string_view classId = "5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E10
 inline constexpr platform::LPARAM showEnlargedView = 9821;
 
 /// Makes the molecule zoom, which tells its version and shows its name.
-std::unique_ptr<platform::Control> createMoleculeZoom(platform::ControlSite& site, QWidget* parent);
+std::unique_ptr<platform::Component> createMoleculeZoom(platform::ComponentSite& site, QWidget* parent);
 
 }  // namespace controls::zoom

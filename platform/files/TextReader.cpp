@@ -7,7 +7,7 @@ namespace platform {
 
 namespace {
 
-constexpr std::size_t blockSize = std::size_t{32} * 1024;
+constexpr std::size_t readBlockSize = std::size_t{32} * 1024;
 constexpr char endMark = 0x1A;
 
 const char* find(const char* begin, const char* end, char wanted) {
@@ -35,7 +35,7 @@ std::size_t joinLineEnds(char* block, std::size_t size) {
 }  // namespace
 
 TextReader::TextReader(FileHandle file)
-    : file_(std::move(file)), block_(std::make_unique_for_overwrite<char[]>(blockSize)) {}
+    : file_(std::move(file)), block_(std::make_unique_for_overwrite<char[]>(readBlockSize)) {}
 
 std::optional<TextReader> TextReader::open(FileHandle file) {
     if (!file) return std::nullopt;
@@ -59,7 +59,7 @@ bool TextReader::fill() {
         // A CR at the end of a block waits for the byte after it.
         const std::size_t kept = heldCr_ ? 1 : 0;
         if (heldCr_) block_[0] = '\r';
-        const auto got = file_.read(block_.get() + kept, blockSize - kept);
+        const auto got = file_.read(block_.get() + kept, readBlockSize - kept);
         failed_ = !got;
         atEnd_ = got.value_or(0) == 0;
         end_ = kept + got.value_or(0);

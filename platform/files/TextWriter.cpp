@@ -6,12 +6,12 @@ namespace platform {
 
 namespace {
 
-constexpr std::size_t blockSize = std::size_t{32} * 1024;
+constexpr std::size_t writeBlockSize = std::size_t{32} * 1024;
 
 }  // namespace
 
 TextWriter::TextWriter(FileHandle file)
-    : file_(std::move(file)), block_(std::make_unique_for_overwrite<char[]>(blockSize)) {}
+    : file_(std::move(file)), block_(std::make_unique_for_overwrite<char[]>(writeBlockSize)) {}
 
 TextWriter::~TextWriter() { close(); }
 
@@ -39,8 +39,8 @@ void TextWriter::write(std::string_view text) {
 }
 
 void TextWriter::append(std::string_view bytes) {
-    if (bytes.size() > blockSize - used_) flush();
-    if (bytes.size() > blockSize) {
+    if (bytes.size() > writeBlockSize - used_) flush();
+    if (bytes.size() > writeBlockSize) {
         failed_ = failed_ || !file_.write(bytes.data(), bytes.size());
         return;
     }

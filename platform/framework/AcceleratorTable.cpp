@@ -2,8 +2,8 @@
 
 #include <QKeySequence>
 
-#include "platform/windows/QtConvert.h"
-#include "platform/windows/VirtualKeys.h"
+#include "platform/input/VirtualKeys.h"
+#include "platform/qt/QtConvert.h"
 
 namespace platform {
 

@@ -5,7 +5,7 @@
 #include <span>
 #include <vector>
 
-#include "platform/framework/Resources.h"
+#include "platform/base/Resources.h"
 
 namespace platform {
 

@@ -5,15 +5,16 @@
 #include <QStandardPaths>
 #include <QTimer>
 
-#include "platform/automation/BrowserProcess.h"
-#include "platform/framework/LightPalette.h"
-#include "platform/framework/ProgramStyle.h"
+#include "platform/browser/BrowserProcess.h"
+#include "platform/dialogs/MessageBox.h"
+#include "platform/drawing/LightPalette.h"
+#include "platform/drawing/ProgramFont.h"
+#include "platform/drawing/ProgramStyle.h"
 #include "platform/framework/WinApp.h"
 #include "platform/printing/PrintDialogTexts.h"
 #include "platform/printing/PrintJob.h"
 #include "platform/text/CodePage1253.h"
 #include "platform/text/GreekLiteral.h"
-#include "platform/windows/ProgramFont.h"
 
 namespace platform {
 

@@ -6,13 +6,13 @@
 #include <QShortcut>
 #include <QWindow>
 
+#include "platform/base/Resources.h"
+#include "platform/drawing/Artwork.h"
+#include "platform/drawing/LightPalette.h"
 #include "platform/framework/FrameWnd.h"
-#include "platform/framework/LightPalette.h"
 #include "platform/framework/MenuBuilder.h"
-#include "platform/framework/Resources.h"
-#include "platform/windows/Artwork.h"
+#include "platform/qt/QtConvert.h"
 #include "platform/windows/PaintQueue.h"
-#include "platform/windows/QtConvert.h"
 
 namespace platform {
 

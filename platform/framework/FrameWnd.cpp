@@ -3,14 +3,14 @@
 #include <algorithm>
 #include <memory>
 
-#include "platform/automation/QtChild.h"
+#include "platform/base/Resources.h"
 #include "platform/framework/Document.h"
 #include "platform/framework/FrameWidget.h"
-#include "platform/framework/Resources.h"
 #include "platform/framework/View.h"
 #include "platform/framework/WinApp.h"
+#include "platform/qt/QtChild.h"
+#include "platform/qt/QtConvert.h"
 #include "platform/windows/MessageMap.h"
-#include "platform/windows/QtConvert.h"
 #include "platform/windows/SurfaceWidget.h"
 
 namespace platform {

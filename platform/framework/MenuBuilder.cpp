@@ -4,11 +4,11 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include "platform/base/Resources.h"
+#include "platform/drawing/LightPalette.h"
 #include "platform/framework/FrameWnd.h"
-#include "platform/framework/LightPalette.h"
-#include "platform/framework/Resources.h"
-#include "platform/handles/WindowTable.h"
-#include "platform/windows/QtConvert.h"
+#include "platform/qt/QtConvert.h"
+#include "platform/qt/WindowTable.h"
 
 namespace platform {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/windows/Messages.h"
+#include "platform/base/Messages.h"
 
 class QMenuBar;
 

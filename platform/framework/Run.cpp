@@ -7,7 +7,7 @@
 #include "platform/framework/EndRequests.h"
 #include "platform/framework/FrameWnd.h"
 #include "platform/framework/WinApp.h"
-#include "platform/handles/WindowTable.h"
+#include "platform/qt/WindowTable.h"
 
 namespace platform {
 

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "platform/windows/Object.h"
+#include "platform/base/Object.h"
 
 namespace platform {
 

@@ -1,7 +1,9 @@
 #include "platform/framework/View.h"
 
 #include "platform/framework/Document.h"
+#include "platform/framework/FrameWnd.h"
 #include "platform/windows/MessageMap.h"
+#include "platform/windows/WindowDC.h"
 
 namespace platform {
 
@@ -18,6 +20,13 @@ bool CView::OnCmdMsg(UINT id, CommandMessage what, CCmdUI* ui) {
 void CView::OnPaint() {
     CPaintDC dc(*this);
     OnDraw(dc);
+}
+
+CFrameWnd* CView::GetParentFrame() const {
+    for (CWnd* window = GetParent(); window; window = window->GetParent()) {
+        if (auto* const frame = dynamic_cast<CFrameWnd*>(window)) return frame;
+    }
+    return nullptr;
 }
 
 }  // namespace platform

@@ -5,11 +5,14 @@
 namespace platform {
 
 class CDocument;
+class CFrameWnd;
 
 /// The window inside the frame that shows the document.
 class CView : public CWnd {
   public:
     const MessageMap* GetMessageMap() const override;
+    /// The frame around it, null without one.
+    CFrameWnd* GetParentFrame() const;
     CDocument* GetDocument() const { return m_pDocument; }
 
     /// Paints the whole client area.

@@ -2,15 +2,16 @@
 
 #include <cstdlib>
 
+#include "platform/dialogs/Dialog.h"
+#include "platform/dialogs/MessageBox.h"
 #include "platform/framework/AcceleratorTable.h"
-#include "platform/framework/Dialog.h"
 #include "platform/framework/Document.h"
 #include "platform/framework/FrameWnd.h"
 #include "platform/framework/View.h"
-#include "platform/handles/WindowTable.h"
 #include "platform/machine/Machine.h"
+#include "platform/qt/WindowTable.h"
 #include "platform/text/GreekLiteral.h"
-#include "platform/windows/ControlContainer.h"
+#include "platform/windows/ComponentContainer.h"
 #include "platform/windows/MessageFilter.h"
 #include "platform/windows/WindowWidget.h"
 
@@ -31,7 +32,7 @@ std::optional<UINT> acceleratorCommand(const CFrameWnd* frame, HWND window, UINT
 
 /// The dialog around a hosted control, which would keep the key that ends dialogs; null for other windows.
 CWnd* dialogAroundControl(HWND window) {
-    CWnd* const control = controlHostOf(window) ? CWnd::FromHandle(window) : nullptr;
+    CWnd* const control = componentHostOf(window) ? CWnd::FromHandle(window) : nullptr;
     return control ? dynamic_cast<CDialog*>(control->GetParent()) : nullptr;
 }
 

@@ -5,16 +5,11 @@
 #include <string_view>
 
 #include "platform/framework/SingleDocTemplate.h"
-#include "platform/machine/BoxAnswer.h"
 #include "platform/windows/CmdTarget.h"
 
 namespace platform {
 
 class CFrameWnd;
-
-/// Buttons of a message box.
-enum class BoxButtons { ok, yesNo };
-enum class BoxIcon { none, question };
 
 /// The application object; a program has exactly one.
 class CWinApp : public CCmdTarget {
@@ -45,12 +40,6 @@ class CWinApp : public CCmdTarget {
     std::unique_ptr<CSingleDocTemplate> m_template;
 };
 
-/// A plain message box with the application's title; `text` in code page 1253. When the machine has answers
-/// ready, nothing is shown and the next one is taken. Either way the box is recorded in the trace.
-BoxAnswer AfxMessageBox(std::string_view text, BoxButtons buttons = BoxButtons::ok);
-/// The same with a caption of its own, code page 1253.
-BoxAnswer MessageBox(std::string_view text, std::string_view caption, BoxButtons buttons = BoxButtons::ok,
-                     BoxIcon icon = BoxIcon::none);
 /// Readies automation for hosting controls; false when the machine cannot.
 bool AfxOleInit();
 

@@ -2,10 +2,10 @@
 
 #include <QWidget>
 
-#include "platform/automation/WebPageInspector.h"
-#include "platform/handles/WindowTable.h"
-#include "platform/windows/ControlContainer.h"
-#include "platform/windows/QtConvert.h"
+#include "platform/components/WebPageInspector.h"
+#include "platform/qt/QtConvert.h"
+#include "platform/qt/WindowTable.h"
+#include "platform/windows/ComponentContainer.h"
 #include "platform/windows/WindowWidget.h"
 #include "platform/windows/Wnd.h"
 
@@ -23,7 +23,7 @@ bool isInside(HWND window, HWND parent) {
 }
 
 WebPageInspector* browserIn(HWND window) {
-    ControlHost* const host = controlHostOf(window);
+    ComponentHost* const host = componentHostOf(window);
     return host == nullptr ? nullptr : dynamic_cast<WebPageInspector*>(&host->control());
 }
 
@@ -52,16 +52,14 @@ CPoint ClientToScreen(HWND window, CPoint p) {
     return widget == nullptr ? p : fromQt(widget->mapToGlobal(toQt(p)));
 }
 
-bool CBitmap::LoadPlugin(HWND window) {
+CBitmap PluginPicture(HWND window) {
     const WindowTable& table = WindowTable::instance();
     const QWidget* widget = table.widget(window);
     WebPageInspector* const browser =
         widget == nullptr ? nullptr : browserIn(table.nearestHandle(widget->parentWidget()));
-    const std::string file = browser == nullptr ? std::string() : browser->pluginPicture(window);
-    const QImage image = QImage::fromData(QByteArray::fromStdString(file));
-    if (image.isNull()) return false;
-    image_ = std::make_shared<QImage>(image.convertToFormat(QImage::Format_RGB32));
-    return true;
+    CBitmap picture;
+    if (browser != nullptr) picture.LoadFile(browser->pluginPicture(window));
+    return picture;
 }
 
 }  // namespace platform

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/windows/DC.h"
+#include "platform/drawing/DC.h"
 
 namespace platform {
 

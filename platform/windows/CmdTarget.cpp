@@ -1,6 +1,6 @@
 #include "platform/windows/CmdTarget.h"
 
-#include "platform/windows/ControlMessages.h"
+#include "platform/base/ControlMessages.h"
 
 namespace platform {
 

@@ -3,9 +3,9 @@
 #include <cstdint>
 #include <span>
 
-#include "platform/automation/Variant.h"
-#include "platform/windows/Messages.h"
-#include "platform/windows/Object.h"
+#include "platform/base/Messages.h"
+#include "platform/base/Object.h"
+#include "platform/components/Variant.h"
 
 namespace platform {
 

@@ -1,24 +1,20 @@
 #include "platform/windows/ControlLink.h"
 
-#include <QAbstractScrollArea>
 #include <QPointer>
 #include <utility>
 
-#include "platform/automation/QtChild.h"
-#include "platform/handles/WindowTable.h"
-#include "platform/windows/InputMessages.h"
-#include "platform/windows/WindowWidget.h"
+#include "platform/input/InputMessages.h"
+#include "platform/qt/ClientArea.h"
+#include "platform/qt/QtChild.h"
+#include "platform/qt/WindowTable.h"
+#include "platform/windows/InputDelivery.h"
+#include "platform/windows/Wnd.h"
 
 namespace platform {
 
 namespace {
 
 WindowTable& table() { return WindowTable::instance(); }
-
-bool isMouse(QEvent::Type type) {
-    return type == QEvent::MouseMove || type == QEvent::MouseButtonPress ||
-           type == QEvent::MouseButtonRelease || type == QEvent::MouseButtonDblClick;
-}
 
 }  // namespace
 
@@ -86,24 +82,13 @@ bool ControlLink::notify(NMHDR& header, int code) {
 }
 
 bool ControlLink::eventFilter(QObject* receiver, QEvent* event) {
-    if (!object_ || (isMouse(event->type()) && receiver != &mouseWidgetOf(control_))) return false;
+    if (!object_ || (isMouseEvent(event->type()) && receiver != &mouseWidgetOf(control_))) return false;
     const std::optional<MSG> message = inputMessageFor(*event, handle_);
     if (!message) return false;
     left_ = false;
     const QPointer<ControlLink> self(this);
     deliverInput(*message);
     return !self || !left_;
-}
-
-QWidget& mouseWidgetOf(QWidget& widget) {
-    auto* const area = qobject_cast<QAbstractScrollArea*>(&widget);
-    return area ? *area->viewport() : widget;
-}
-
-QRect clientAreaOf(const QWidget& widget) {
-    if (const auto* const window = dynamic_cast<const WindowWidget*>(&widget)) return window->clientArea();
-    const auto* const area = qobject_cast<const QAbstractScrollArea*>(&widget);
-    return area ? area->viewport()->geometry() : widget.rect();
 }
 
 void sendCommand(const QWidget& control, int code) {

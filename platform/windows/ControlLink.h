@@ -3,7 +3,7 @@
 #include <QObject>
 #include <string>
 
-#include "platform/windows/ControlMessages.h"
+#include "platform/base/ControlMessages.h"
 
 class QWidget;
 
@@ -51,11 +51,6 @@ class ControlLink : public QObject {
     CWnd* object_ = nullptr;
     bool left_ = false;
 };
-
-/// The area of a widget that counts as client area, in its coordinates.
-QRect clientAreaOf(const QWidget& widget);
-/// The widget that receives the mouse: the inside of one that scrolls, else itself.
-QWidget& mouseWidgetOf(QWidget& widget);
 
 /// Sends a control's command, unless it has no link any more.
 void sendCommand(const QWidget& control, int code);

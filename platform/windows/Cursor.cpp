@@ -3,13 +3,14 @@
 #include <QPixmap>
 #include <utility>
 
-#include "platform/framework/Resources.h"
-#include "platform/handles/WindowTable.h"
-#include "platform/windows/Artwork.h"
+#include "platform/base/Resources.h"
+#include "platform/drawing/Artwork.h"
+#include "platform/input/MouseCapture.h"
+#include "platform/qt/ClientArea.h"
+#include "platform/qt/QtConvert.h"
+#include "platform/qt/WindowTable.h"
 #include "platform/windows/ControlLink.h"
 #include "platform/windows/CursorShape.h"
-#include "platform/windows/MouseCapture.h"
-#include "platform/windows/QtConvert.h"
 #include "platform/windows/WindowWidget.h"
 
 namespace platform {

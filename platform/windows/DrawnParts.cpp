@@ -4,10 +4,10 @@
 #include <memory>
 #include <optional>
 
-#include "platform/accessible/WidgetWithParts.h"
-#include "platform/handles/WindowTable.h"
+#include "platform/qt/QtConvert.h"
+#include "platform/qt/WidgetWithParts.h"
+#include "platform/qt/WindowTable.h"
 #include "platform/windows/DrawnPartsAccess.h"
-#include "platform/windows/QtConvert.h"
 #include "platform/windows/SurfaceWidget.h"
 
 namespace platform {

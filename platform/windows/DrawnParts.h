@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/windows/Geometry.h"
+#include "platform/base/Geometry.h"
 
 namespace platform {
 

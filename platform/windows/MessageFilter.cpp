@@ -9,14 +9,15 @@
 #include <memory>
 #include <utility>
 
-#include "platform/handles/WindowTable.h"
-#include "platform/windows/InputMessages.h"
-#include "platform/windows/InputRoute.h"
-#include "platform/windows/KeyboardFocus.h"
-#include "platform/windows/MouseCapture.h"
+#include "platform/input/InputMessages.h"
+#include "platform/input/InputRoute.h"
+#include "platform/input/KeyboardFocus.h"
+#include "platform/input/MouseCapture.h"
+#include "platform/input/VirtualKeys.h"
+#include "platform/qt/WindowTable.h"
+#include "platform/windows/InputDelivery.h"
 #include "platform/windows/PaintQueue.h"
 #include "platform/windows/SurfaceWidget.h"
-#include "platform/windows/VirtualKeys.h"
 
 namespace platform {
 
@@ -27,11 +28,6 @@ Qt::KeyboardModifiers currentModifiers;
 
 bool swallows(const std::optional<MSG>& message) {
     return message && currentHooks.preTranslate && currentHooks.preTranslate(*message);
-}
-
-bool isMouse(QEvent::Type type) {
-    return type == QEvent::MouseMove || type == QEvent::MouseButtonPress ||
-           type == QEvent::MouseButtonRelease || type == QEvent::MouseButtonDblClick;
 }
 
 bool isKey(QEvent::Type type) { return type == QEvent::KeyPress || type == QEvent::KeyRelease; }
@@ -92,7 +88,7 @@ class MessageFilter : public QObject {
         if (type == QEvent::Enter) {
             moveToEntrance(static_cast<QWindow&>(*receiver), static_cast<QEnterEvent&>(*event));
         }
-        if (!isMouse(type)) return false;
+        if (!isMouseEvent(type)) return false;
         auto& mouse = static_cast<QMouseEvent&>(*event);
         if (type == QEvent::MouseMove || type == QEvent::MouseButtonRelease) return followsTakenPress(mouse);
         return pressAtWindow(static_cast<QWindow&>(*receiver), mouse);
@@ -125,14 +121,14 @@ class MessageFilter : public QObject {
         const QEvent::Type type = event.type();
         if (type == QEvent::ContextMenu) return isUnwantedMenu(event);
         if (type == QEvent::ShortcutOverride) return claim(widget, static_cast<QKeyEvent&>(event));
-        if (!isMouse(type) && !isKey(type)) return false;
+        if (!isMouseEvent(type) && !isKey(type)) return false;
         const bool popup = QApplication::activePopupWidget();
         if (isKey(type) && popup) return false;
         auto& input = static_cast<QInputEvent&>(event);
         if (!route_.arriveAtWidget(input, widget)) return false;
         currentModifiers = input.modifiers();
         const bool taken =
-            (isMouse(type) && !popup && deliverCaptured(event)) || swallowsInput(event, widget);
+            (isMouseEvent(type) && !popup && deliverCaptured(event)) || swallowsInput(event, widget);
         if (taken) event.accept();
         return taken;
     }

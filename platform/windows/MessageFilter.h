@@ -3,7 +3,7 @@
 #include <Qt>
 #include <functional>
 
-#include "platform/windows/Messages.h"
+#include "platform/base/Messages.h"
 
 /// The place through which all input of the program passes, whichever widget it is for: those of hosted
 /// controls and of the web engine too.

@@ -4,9 +4,9 @@
 #include <type_traits>
 #include <utility>
 
+#include "platform/base/ControlMessages.h"
+#include "platform/drawing/DC.h"
 #include "platform/windows/CmdTarget.h"
-#include "platform/windows/ControlMessages.h"
-#include "platform/windows/DC.h"
 
 /// Builders of message-map and event-sink rows: they check each handler's signature and unpack the
 /// parameters. Signatures by message:

@@ -4,10 +4,12 @@
 #include <QPainter>
 #include <utility>
 
-#include "platform/windows/DC.h"
+#include "platform/drawing/DC.h"
+#include "platform/input/InputMessages.h"
 #include "platform/windows/DrawnPartsAccess.h"
-#include "platform/windows/InputMessages.h"
+#include "platform/windows/InputDelivery.h"
 #include "platform/windows/PaintQueue.h"
+#include "platform/windows/WindowDC.h"
 
 namespace platform {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/windows/Surface.h"
+#include "platform/drawing/Surface.h"
 #include "platform/windows/WindowWidget.h"
 
 namespace platform {

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "platform/handles/WindowTable.h"
+#include "platform/qt/WindowTable.h"
 #include "platform/windows/ControlLink.h"
 #include "platform/windows/WindowWidget.h"
 

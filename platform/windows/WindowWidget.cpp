@@ -3,7 +3,7 @@
 #include <QTimerEvent>
 #include <algorithm>
 
-#include "platform/handles/WindowTable.h"
+#include "platform/qt/WindowTable.h"
 #include "platform/windows/MessageFilter.h"
 #include "platform/windows/WindowDestruction.h"
 

@@ -5,14 +5,15 @@
 #include <map>
 #include <optional>
 
-#include "platform/windows/Messages.h"
+#include "platform/base/Messages.h"
+#include "platform/qt/ClientArea.h"
 #include "platform/windows/Wnd.h"
 
 namespace platform {
 
 /// The widget behind a CWnd's window. It stands in the window table as long as the window exists, and knows
 /// the object whose window it is.
-class WindowWidget : public QWidget {
+class WindowWidget : public QWidget, public HasClientArea {
   public:
     /// Makes the widget, hidden, and gives `owner` its handle.
     WindowWidget(CWnd& owner, QWidget* parent, int controlId);
@@ -30,8 +31,7 @@ class WindowWidget : public QWidget {
     CWnd* owner() const { return owner_; }
     HWND handle() const { return handle_; }
 
-    /// The client area in this widget's coordinates.
-    virtual QRect clientArea() const { return rect(); }
+    QRect clientArea() const override { return rect(); }
     /// The window's rectangle on the screen, borders and caption included.
     virtual QRect outerRect() const { return {mapToGlobal(QPoint(0, 0)), size()}; }
     /// Moves and sizes the window: in the parent's client area, or on the screen when it has no parent.

@@ -1,20 +1,20 @@
 #include "platform/windows/Wnd.h"
-#include "platform/automation/QtChild.h"
+#include "platform/qt/QtChild.h"
 
 #include <QApplication>
 #include <QCursor>
 
-#include "platform/framework/FrameWnd.h"
-#include "platform/handles/WindowTable.h"
+#include "platform/base/ControlMessages.h"
+#include "platform/input/KeyboardFocus.h"
+#include "platform/input/MouseCapture.h"
+#include "platform/input/TabOrder.h"
+#include "platform/qt/ClientArea.h"
+#include "platform/qt/QtConvert.h"
+#include "platform/qt/WindowTable.h"
 #include "platform/windows/ControlLink.h"
-#include "platform/windows/ControlMessages.h"
 #include "platform/windows/ControlText.h"
-#include "platform/windows/KeyboardFocus.h"
 #include "platform/windows/MessageFilter.h"
-#include "platform/windows/MouseCapture.h"
-#include "platform/windows/QtConvert.h"
 #include "platform/windows/SurfaceWidget.h"
-#include "platform/windows/TabOrder.h"
 #include "platform/windows/WindowDestruction.h"
 
 namespace platform {
@@ -67,13 +67,6 @@ CWnd* CWnd::FromHandle(HWND window) {
 }
 
 CWnd* CWnd::GetParent() const { return FromHandle(GetParentWindow(m_hWnd)); }
-
-CFrameWnd* CWnd::GetParentFrame() const {
-    for (CWnd* window = GetParent(); window; window = window->GetParent()) {
-        if (auto* const frame = dynamic_cast<CFrameWnd*>(window)) return frame;
-    }
-    return nullptr;
-}
 
 int CWnd::GetDlgCtrlID() const {
     const WindowEntry* const entry = WindowTable::instance().find(m_hWnd);

@@ -9,16 +9,15 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/automation/Variant.h"
+#include "platform/base/Geometry.h"
+#include "platform/base/Messages.h"
+#include "platform/components/Variant.h"
+#include "platform/drawing/DC.h"
 #include "platform/windows/CmdTarget.h"
-#include "platform/windows/DC.h"
 #include "platform/windows/DrawnParts.h"
-#include "platform/windows/Geometry.h"
-#include "platform/windows/Messages.h"
 
 namespace platform {
 
-class CFrameWnd;
 class ControlLink;
 class WindowWidget;
 
@@ -52,7 +51,6 @@ class CWnd : public CCmdTarget {
     /// The object whose window this is, or null (also for windows of hosted controls' insides).
     static CWnd* FromHandle(HWND window);
     CWnd* GetParent() const;
-    CFrameWnd* GetParentFrame() const;
     int GetDlgCtrlID() const;
 
     void ShowWindow(int showCommand);
@@ -119,10 +117,10 @@ class CWnd : public CCmdTarget {
 
     /// The bytes at a location in the hosted control's memory, valid until its next call; empty when no block
     /// is there.
-    std::span<const std::byte> ControlBlock(std::int32_t location) const;
+    std::span<const std::byte> ComponentBlock(std::int32_t location) const;
     /// Hands the hosted control a block for the calls that follow; the location to name it by, 0 when it
     /// takes none. Two blocks at least are kept at a time.
-    std::int32_t KeepControlBlock(std::span<const std::byte> bytes);
+    std::int32_t KeepComponentBlock(std::span<const std::byte> bytes);
 
   private:
     friend class ControlLink;
@@ -136,12 +134,8 @@ class CWnd : public CCmdTarget {
 CPoint GetCursorPos();
 /// The window under a screen point, or null when it is none of the program's own objects' windows.
 CWnd* WindowFromPoint(CPoint screen);
-/// The window with the keyboard focus, 0 when none.
-HWND GetFocus();
 /// The window around a window, or that a top-level one belongs to; 0 when none.
 HWND GetParentWindow(HWND window);
-/// Gives any window of the window table the keyboard focus.
-void SetFocus(HWND window);
 /// Sends a message to any window of the window table.
 LRESULT SendMessage(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 

@@ -4,7 +4,7 @@
 
 #include "platform/framework/Shell.h"
 #include "platform/windows/MessageMap.h"
-#include "src/content/LastPreparedPage.h"
+#include "src/pages/LastPreparedPage.h"
 #include "src/resources/ResourceIds.h"
 
 namespace kalyxo {

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "platform/framework/Dialog.h"
-#include "src/content/HostedComponents.h"
+#include "platform/dialogs/Dialog.h"
+#include "src/components/HostedComponents.h"
 
 namespace kalyxo {
 

@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "platform/framework/DataExchange.h"
-#include "platform/framework/Progress.h"
+#include "platform/dialogs/DataExchange.h"
+#include "platform/dialogs/Progress.h"
 #include "platform/machine/Machine.h"
 #include "platform/text/GreekLiteral.h"
 #include "platform/windows/MessageMap.h"

@@ -2,10 +2,10 @@
 
 #include <string>
 
-#include "platform/framework/Dialog.h"
-#include "platform/windows/ComboBox.h"
-#include "platform/windows/TreeCtrl.h"
-#include "src/app/DataPaths.h"
+#include "platform/dialogs/Dialog.h"
+#include "platform/widgets/ComboBox.h"
+#include "platform/widgets/TreeCtrl.h"
+#include "src/state/DataPaths.h"
 
 namespace kalyxo {
 

@@ -2,7 +2,8 @@
 
 #include <memory>
 
-#include "platform/framework/Resources.h"
+#include "platform/base/Resources.h"
+#include "platform/dialogs/MessageBox.h"
 #include "platform/framework/Wait.h"
 #include "platform/machine/Machine.h"
 #include "platform/text/GreekLiteral.h"
@@ -11,10 +12,12 @@
 #include "src/app/FindFolderDlg.h"
 #include "src/app/MainFrame.h"
 #include "src/app/SplashDlg.h"
-#include "src/content/KalyxoDoc.h"
-#include "src/content/KalyxoView.h"
 #include "src/resources/CommandIds.h"
 #include "src/resources/ResourceIds.h"
+#include "src/state/DataPaths.h"
+#include "src/state/Settings.h"
+#include "src/view/KalyxoDoc.h"
+#include "src/view/KalyxoView.h"
 
 namespace kalyxo {
 
@@ -37,8 +40,6 @@ CSize screenSize() { return {machine().metric(SM_CXSCREEN), machine().metric(SM_
 }  // namespace
 
 const CRuntimeClass CKalyxoApp::runtimeClass{"CKalyxoApp"};
-
-CKalyxoApp& TheApp() { return static_cast<CKalyxoApp&>(CWinApp::instance()); }
 
 const MessageMap* CKalyxoApp::GetMessageMap() const {
     static constexpr MessageMapEntry entries[] = {OnCommandId<&CKalyxoApp::OnAppAbout>(ID_APP_ABOUT)};

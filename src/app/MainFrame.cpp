@@ -2,12 +2,14 @@
 
 #include <algorithm>
 
-#include "platform/framework/Resources.h"
+#include "platform/base/Resources.h"
+#include "platform/framework/WinApp.h"
 #include "platform/machine/Machine.h"
 #include "platform/windows/MessageMap.h"
-#include "src/app/KalyxoApp.h"
-#include "src/content/KalyxoView.h"
 #include "src/resources/ResourceIds.h"
+#include "src/state/ProgramState.h"
+#include "src/state/Settings.h"
+#include "src/view/KalyxoView.h"
 
 namespace kalyxo {
 
@@ -36,10 +38,10 @@ const MessageMap* CMainFrame::GetMessageMap() const {
 
 bool CMainFrame::PreCreateWindow(CREATESTRUCT& cs) {
     cs.style &= ~FWS_ADDTOTITLE;
-    CKalyxoApp& app = TheApp();
+    CWinApp& app = CWinApp::instance();
     if (app.m_nCmdShow != SW_SHOWMAXIMIZED) {
-        if (app.m_nFrameState == kFrameMaximised) app.m_nCmdShow = SW_SHOWMAXIMIZED;
-        const CRect& frame = app.m_rcFrame;
+        if (TheApp().m_nFrameState == kFrameMaximised) app.m_nCmdShow = SW_SHOWMAXIMIZED;
+        const CRect& frame = TheApp().m_rcFrame;
         cs.x = frame.left;
         cs.y = frame.top;
         cs.cx = between(frame.left, frame.right);
@@ -82,7 +84,7 @@ CRect WithLeastFrameSize(const CRect& frame, CSize maximised) {
 void CMainFrame::OnDestroy() {
     CFrameWnd::OnDestroy();
     if (IsIconic()) return;
-    CKalyxoApp& app = TheApp();
+    ProgramState& app = TheApp();
     app.m_nFrameState = IsZoomed() ? kFrameMaximised : kFrameNormal;
     if (app.m_nFrameState == kFrameNormal) app.m_rcFrame = GetWindowRect();
     if (WriteLayout(machine().registry(), {app.m_nSplitterPos, app.m_nFrameState, app.m_rcFrame})) {

@@ -2,10 +2,11 @@
 
 #include <cstring>
 
+#include "platform/drawing/BitmapResource.h"
 #include "platform/framework/Wait.h"
 #include "platform/machine/Machine.h"
-#include "platform/windows/BitmapResource.h"
 #include "platform/windows/MessageMap.h"
+#include "platform/windows/WindowDC.h"
 #include "src/display/BitmapPalette.h"
 #include "src/resources/ResourceIds.h"
 

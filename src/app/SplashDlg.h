@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/framework/Dialog.h"
+#include "platform/dialogs/Dialog.h"
 
 namespace kalyxo {
 

@@ -2,10 +2,12 @@
 
 #include <utility>
 
-#include "platform/framework/DataExchange.h"
-#include "platform/framework/Progress.h"
-#include "platform/framework/Resources.h"
+#include "platform/base/Resources.h"
+#include "platform/dialogs/DataExchange.h"
+#include "platform/dialogs/MessageBox.h"
+#include "platform/dialogs/Progress.h"
 #include "platform/framework/WinApp.h"
+#include "platform/input/KeyboardFocus.h"
 #include "platform/machine/Machine.h"
 #include "platform/text/GreekLiteral.h"
 #include "platform/windows/MessageMap.h"
@@ -18,7 +20,7 @@ using namespace platform::literals;
 
 namespace {
 
-constexpr int kLongestName = 80;
+constexpr int kLongestBookmarkName = 80;
 constexpr UINT kDeleteKey = 46;
 constexpr UINT kF2Key = 113;
 
@@ -68,7 +70,7 @@ void CBookmarkDlg::DoDataExchange(CDataExchange& exchange) {
     DDX_Control(exchange, IDC_BOOKMARK_ADVANCED, m_advanced);
     DDX_Control(exchange, IDC_BOOKMARK_NAME, m_name);
     DDX_Text(exchange, IDC_BOOKMARK_NAME, m_strName);
-    DDV_MaxChars(exchange, m_strName, kLongestName);
+    DDV_MaxChars(exchange, m_strName, kLongestBookmarkName);
 }
 
 bool CBookmarkDlg::OnInitDialog() {

@@ -5,9 +5,9 @@
 #include <string>
 #include <string_view>
 
-#include "platform/framework/Dialog.h"
-#include "platform/windows/Button.h"
-#include "platform/windows/Edit.h"
+#include "platform/dialogs/Dialog.h"
+#include "platform/widgets/Button.h"
+#include "platform/widgets/Edit.h"
 #include "src/bookmarks/BookmarkList.h"
 #include "src/bookmarks/BookmarkTree.h"
 #include "src/bookmarks/FolderNameDlg.h"

@@ -4,8 +4,8 @@
 #include <new>
 #include <span>
 
+#include "platform/base/Archive.h"
 #include "platform/files/BinaryFile.h"
-#include "platform/framework/Archive.h"
 
 namespace kalyxo {
 

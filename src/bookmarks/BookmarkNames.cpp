@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "platform/framework/Resources.h"
+#include "platform/base/Resources.h"
 #include "src/resources/ResourceIds.h"
 
 namespace kalyxo {

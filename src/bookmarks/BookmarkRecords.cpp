@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/framework/Archive.h"
+#include "platform/base/Archive.h"
 
 namespace kalyxo {
 

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/windows/Object.h"
-#include "src/content/PageAddress.h"
+#include "platform/base/Object.h"
+#include "src/pages/PageAddress.h"
 
 namespace kalyxo {
 

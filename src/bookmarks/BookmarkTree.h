@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "platform/files/ProgressStep.h"
-#include "platform/windows/TreeCtrl.h"
+#include "platform/widgets/TreeCtrl.h"
 #include "src/bookmarks/BookmarkList.h"
 
 namespace kalyxo {

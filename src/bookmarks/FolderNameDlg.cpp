@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "platform/framework/DataExchange.h"
-#include "platform/framework/Resources.h"
+#include "platform/base/Resources.h"
+#include "platform/dialogs/DataExchange.h"
 #include "platform/text/GreekLiteral.h"
 #include "src/resources/ResourceIds.h"
 
@@ -14,7 +14,7 @@ using namespace platform::literals;
 
 namespace {
 
-constexpr int kLongestName = 60;
+constexpr int kLongestFolderName = 60;
 
 std::string_view captionOf(NameFor mode) {
     if (mode == NameFor::newFolder) return "Νέος φάκελος"_gr;
@@ -38,7 +38,7 @@ std::string CFolderNameDlg::Text() const {
 void CFolderNameDlg::DoDataExchange(CDataExchange& exchange) {
     DDX_Control(exchange, IDC_BOOKMARK_NAME, m_edit);
     DDX_Text(exchange, IDC_BOOKMARK_NAME, m_text);
-    DDV_MaxChars(exchange, m_text, kLongestName);
+    DDV_MaxChars(exchange, m_text, kLongestFolderName);
 }
 
 bool CFolderNameDlg::OnInitDialog() {

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "platform/framework/Dialog.h"
-#include "platform/windows/Edit.h"
+#include "platform/dialogs/Dialog.h"
+#include "platform/widgets/Edit.h"
 
 namespace kalyxo {
 

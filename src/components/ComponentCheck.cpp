@@ -3,7 +3,7 @@
 #include <array>
 #include <optional>
 
-#include "platform/automation/ControlLibrary.h"
+#include "platform/components/ComponentLibrary.h"
 #include "platform/machine/Machine.h"
 #include "src/components/ClassIds.h"
 #include "src/components/FileVersionNumbers.h"

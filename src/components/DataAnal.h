@@ -48,9 +48,9 @@ class CDataAnal : public Component<CDataAnal> {
     std::int32_t GetEntry(std::int16_t index) { return Method<std::int32_t>(21, index); }
     void SetEntry(std::int16_t index, std::int32_t value) { Method<void>(20, index, value); }
     /// The bytes at a location that the component gave, valid until its next call.
-    std::span<const std::byte> Block(std::int32_t location) const { return ControlBlock(location); }
+    std::span<const std::byte> Block(std::int32_t location) const { return ComponentBlock(location); }
     /// Gives the component a block, and the location to name it by; two are kept at a time.
-    std::int32_t KeepBlock(std::span<const std::byte> bytes) { return KeepControlBlock(bytes); }
+    std::int32_t KeepBlock(std::span<const std::byte> bytes) { return KeepComponentBlock(bytes); }
     /// @}
 
     /// Once, right after creation.

@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-#include "platform/windows/DC.h"
+#include "platform/drawing/DC.h"
 
 namespace kalyxo {
 

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "platform/windows/Geometry.h"
+#include "platform/base/Geometry.h"
 
 namespace kalyxo {
 

@@ -4,7 +4,7 @@
 #include <memory>
 #include <string_view>
 
-#include "platform/windows/DC.h"
+#include "platform/drawing/DC.h"
 
 namespace platform {
 class FileSystem;

@@ -4,17 +4,13 @@
 #include <initializer_list>
 
 #include "platform/windows/MessageMap.h"
+#include "src/display/FrameColours.h"
 
 namespace kalyxo {
 
 using namespace platform;
 
 namespace {
-
-constexpr COLORREF kWhite = RGB(255, 255, 255);
-constexpr COLORREF kLightGrey = RGB(192, 192, 192);
-constexpr COLORREF kDarkGrey = RGB(128, 128, 128);
-constexpr COLORREF kBlack = RGB(0, 0, 0);
 
 /// One for all buttons.
 HWND focusReturn = 0;

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "platform/windows/Button.h"
+#include "platform/widgets/Button.h"
 
 namespace kalyxo {
 

@@ -3,9 +3,12 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/base/ControlMessages.h"
+#include "platform/input/KeyboardFocus.h"
 #include "platform/text/GreekLiteral.h"
-#include "platform/windows/ControlMessages.h"
 #include "platform/windows/MessageMap.h"
+#include "platform/windows/WindowDC.h"
+#include "src/display/FrameColours.h"
 #include "src/resources/CommandIds.h"
 #include "src/resources/ResourceIds.h"
 
@@ -15,11 +18,6 @@ using namespace platform;
 using namespace platform::literals;
 
 namespace {
-
-constexpr COLORREF kWhite = RGB(255, 255, 255);
-constexpr COLORREF kLightGrey = RGB(192, 192, 192);
-constexpr COLORREF kDarkGrey = RGB(128, 128, 128);
-constexpr COLORREF kBlack = RGB(0, 0, 0);
 
 /// Pixels by which an arrow key moves the bar.
 constexpr int kKeyStep = 8;

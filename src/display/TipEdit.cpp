@@ -1,6 +1,7 @@
 #include "src/display/TipEdit.h"
 
 #include "platform/windows/MessageMap.h"
+#include "src/display/FrameColours.h"
 
 namespace kalyxo {
 
@@ -9,7 +10,6 @@ using namespace platform;
 namespace {
 
 constexpr COLORREF kLightYellow = RGB(255, 255, 224);
-constexpr COLORREF kBlack = RGB(0, 0, 0);
 constexpr LOGFONT kFont{"Arial Greek", -11};
 
 }  // namespace

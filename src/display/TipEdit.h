@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/windows/Edit.h"
+#include "platform/widgets/Edit.h"
 
 namespace kalyxo {
 

@@ -1,10 +1,11 @@
 #include "src/display/ToolPanel.h"
 
 #include "platform/framework/Wait.h"
+#include "platform/input/KeyboardFocus.h"
 #include "platform/machine/Machine.h"
+#include "platform/qt/ScreenRectangle.h"
 #include "platform/text/GreekLiteral.h"
 #include "platform/windows/MessageMap.h"
-#include "platform/windows/ScreenRectangle.h"
 #include "src/display/FlightPath.h"
 #include "src/resources/CommandIds.h"
 #include "src/resources/ResourceIds.h"

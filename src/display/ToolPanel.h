@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "platform/framework/Dialog.h"
+#include "platform/dialogs/Dialog.h"
 #include "src/display/PictureButton.h"
 
 namespace kalyxo {

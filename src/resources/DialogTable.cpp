@@ -41,7 +41,7 @@ constexpr DialogControl version(int line, int id) {
     return {Kind::staticText, id, CRect::at(121, versionTop(line), 34, 8), "?"};
 }
 
-constexpr std::array kAbout = {
+constexpr std::array kAboutDialog = {
     DialogControl{Kind::defaultPushButton, IDOK, CRect::at(160, 60, 50, 14), "OK"},
     bitmap(7, 9, IDB_ABOUT_PICTURE),
     bitmap(145, 7, IDB_ABOUT_LOGO),
@@ -60,11 +60,11 @@ constexpr std::array kAbout = {
 };
 
 /// The dialog takes its sizes from the system's metrics and brings its browser itself.
-constexpr std::array kEnlargedView = {
+constexpr std::array kEnlargedViewDialog = {
     DialogControl{Kind::defaultPushButton, IDOK, CRect::at(200, 312, 40, 12), "OK"},
 };
 
-constexpr std::array kFindFolder = {
+constexpr std::array kFindFolderDialog = {
     DialogControl{Kind::staticText, IDC_FOLDER_PROMPT, CRect::at(7, 7, 173, 10)},
     DialogControl{Kind::treeView, IDC_FOLDER_TREE, CRect::at(7, 20, 173, 110), "Folders"},
     DialogControl{Kind::comboBox, IDC_FOLDER_DRIVES, CRect::at(7, 135, 173, 80), "Drives"},
@@ -74,7 +74,7 @@ constexpr std::array kFindFolder = {
 
 constexpr platform::DWORD kUsual = platform::WS_VISIBLE | platform::WS_TABSTOP;
 
-constexpr std::array kSearch = {
+constexpr std::array kSearchDialog = {
     DialogControl{Kind::staticText, IDC_SEARCH_LABEL, CRect::at(5, 5, 40, 8), "Αναζήτηση"_gr},
     DialogControl{Kind::edit,
                   IDC_SEARCH_WORD,
@@ -100,7 +100,7 @@ constexpr DialogControl button(int id, const CRect& rect, std::string_view text)
     return {Kind::pushButton, id, rect, text};
 }
 
-constexpr std::array kBookmark = {
+constexpr std::array kBookmarkDialog = {
     DialogControl{Kind::defaultPushButton, IDOK, CRect::at(141, 24, 50, 14), "OK"},
     button(IDCANCEL, CRect::at(87, 24, 50, 14), "Ακύρωση"_gr),
     DialogControl{.kind = Kind::edit,
@@ -116,19 +116,19 @@ constexpr std::array kBookmark = {
                   "Φάκελοι και σελιδοδείκτες"_gr},
 };
 
-constexpr std::array kFolderName = {
+constexpr std::array kFolderNameDialog = {
     DialogControl{Kind::edit, IDC_BOOKMARK_NAME, CRect::at(7, 7, 172, 14), "Όνομα"_gr},
     DialogControl{Kind::defaultPushButton, IDOK, CRect::at(39, 26, 50, 14), "OK"},
     button(IDCANCEL, CRect::at(96, 26, 50, 14), "Cancel"),
 };
 
 constexpr std::array kDialogs = {
-    DialogTemplate{IDD_ABOUT, "Πληροφορίες για Kalyxo"_gr, {217, 81}, kAbout},
-    DialogTemplate{IDD_BOOKMARK, "Bookmark", {224, 231}, kBookmark},
-    DialogTemplate{IDD_FOLDER_NAME, "Folder", {186, 47}, kFolderName},
-    DialogTemplate{IDD_ENLARGED_VIEW, {}, {433, 326}, kEnlargedView},
-    DialogTemplate{IDD_FIND_FOLDER, "Find Folder", {187, 177}, kFindFolder},
-    DialogTemplate{IDD_SEARCH, "Αναζήτηση"_gr, {347, 226}, kSearch},
+    DialogTemplate{IDD_ABOUT, "Πληροφορίες για Kalyxo"_gr, {217, 81}, kAboutDialog},
+    DialogTemplate{IDD_BOOKMARK, "Bookmark", {224, 231}, kBookmarkDialog},
+    DialogTemplate{IDD_FOLDER_NAME, "Folder", {186, 47}, kFolderNameDialog},
+    DialogTemplate{IDD_ENLARGED_VIEW, {}, {433, 326}, kEnlargedViewDialog},
+    DialogTemplate{IDD_FIND_FOLDER, "Find Folder", {187, 177}, kFindFolderDialog},
+    DialogTemplate{IDD_SEARCH, "Αναζήτηση"_gr, {347, 226}, kSearchDialog},
     // The program gives both their size.
     DialogTemplate{IDD_SPLASH, {}, {1, 1}, {}, DialogFrame::plain},
     DialogTemplate{IDD_TOOL_PANEL, {}, {186, 49}, {}, DialogFrame::tool},

@@ -2,7 +2,7 @@
 
 #include <span>
 
-#include "platform/framework/DialogTemplate.h"
+#include "platform/base/DialogTemplate.h"
 
 namespace kalyxo {
 

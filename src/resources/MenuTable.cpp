@@ -17,7 +17,7 @@ namespace {
 
 constexpr MenuItem kSeparator{};
 
-constexpr std::array kFile = {
+constexpr std::array kFileMenu = {
     MenuItem{"Εκτύπωση"_gr, ID_FILE_PRINT},
     MenuItem{"Εκτύπωση μορίου"_gr, ID_PRINT_MOLECULE},
     MenuItem{"Εκτύπωση βίντεο"_gr, ID_PRINT_VIDEO},
@@ -25,7 +25,7 @@ constexpr std::array kFile = {
     MenuItem{"Έξοδος"_gr, ID_APP_EXIT},
 };
 
-constexpr std::array kEdit = {
+constexpr std::array kEditMenu = {
     MenuItem{"Αποκοπή"_gr, ID_EDIT_CUT},
     MenuItem{"Αντιγραφή"_gr, ID_EDIT_COPY},
     MenuItem{"Αντιγραφή μορίου"_gr, ID_COPY_MOLECULE},
@@ -36,7 +36,7 @@ constexpr std::array kEdit = {
     MenuItem{"Επικόλληση"_gr, ID_EDIT_PASTE},
 };
 
-constexpr std::array kGo = {
+constexpr std::array kGoMenu = {
     MenuItem{"Επιστροφή"_gr, ID_BACK},
     MenuItem{"Επόμενο"_gr, ID_FORWARD},
     kSeparator,
@@ -54,27 +54,31 @@ constexpr std::array kGo = {
     MenuItem{"Αναζήτηση"_gr, ID_SEARCH},
 };
 
-constexpr std::array kOptions = {MenuItem{"Γραμμή εργαλείων"_gr, ID_TOOLBAR}};
+constexpr std::array kOptionsMenu = {MenuItem{"Γραμμή εργαλείων"_gr, ID_TOOLBAR}};
 
-constexpr std::array kBookmark = {
+constexpr std::array kBookmarkMenu = {
     MenuItem{"Προσθήκη"_gr, ID_BOOKMARK_ADD},
     MenuItem{"Μετάβαση"_gr, ID_BOOKMARK_GOTO},
 };
 
-constexpr std::array kOnline = {
+constexpr std::array kOnlineMenu = {
     MenuItem{"Ηλεκτρονική υποστήριξη"_gr, ID_ONLINE_SUPPORT},
     MenuItem{"Orvane", ID_ONLINE_PRODUCTS},
 };
 
-constexpr std::array kHelp = {
+constexpr std::array kHelpMenu = {
     MenuItem{"Περιεχόμενα"_gr, ID_HELP_CONTENTS},
     MenuItem{"Πληροφορίες για..."_gr, ID_APP_ABOUT},
 };
 
 constexpr std::array kMenu = {
-    Menu{"Αρχείο"_gr, kFile},      Menu{"Επεξεργασία"_gr, kEdit},       Menu{"Μετάβαση"_gr, kGo},
-    Menu{"Επιλογές"_gr, kOptions}, Menu{"Σελιδοδείκτης"_gr, kBookmark}, Menu{"Στο δίκτυο"_gr, kOnline},
-    Menu{"Βοήθεια"_gr, kHelp},
+    Menu{"Αρχείο"_gr, kFileMenu},
+    Menu{"Επεξεργασία"_gr, kEditMenu},
+    Menu{"Μετάβαση"_gr, kGoMenu},
+    Menu{"Επιλογές"_gr, kOptionsMenu},
+    Menu{"Σελιδοδείκτης"_gr, kBookmarkMenu},
+    Menu{"Στο δίκτυο"_gr, kOnlineMenu},
+    Menu{"Βοήθεια"_gr, kHelpMenu},
 };
 
 constexpr std::array kAccelerators = {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/framework/Resources.h"
+#include "platform/base/Resources.h"
 
 namespace kalyxo {
 

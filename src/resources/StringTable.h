@@ -2,7 +2,7 @@
 
 #include <span>
 
-#include "platform/framework/Resources.h"
+#include "platform/base/Resources.h"
 
 namespace kalyxo {
 

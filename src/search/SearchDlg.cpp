@@ -3,9 +3,11 @@
 #include <unordered_map>
 #include <utility>
 
-#include "platform/framework/DataExchange.h"
-#include "platform/framework/Progress.h"
+#include "platform/dialogs/DataExchange.h"
+#include "platform/dialogs/MessageBox.h"
+#include "platform/dialogs/Progress.h"
 #include "platform/framework/WinApp.h"
+#include "platform/input/KeyboardFocus.h"
 #include "platform/text/GreekLiteral.h"
 #include "platform/windows/MessageMap.h"
 #include "src/resources/ResourceIds.h"

@@ -2,11 +2,11 @@
 
 #include <string>
 
-#include "platform/framework/Dialog.h"
-#include "platform/windows/Button.h"
-#include "platform/windows/Edit.h"
-#include "platform/windows/ListBox.h"
-#include "platform/windows/ListCtrl.h"
+#include "platform/dialogs/Dialog.h"
+#include "platform/widgets/Button.h"
+#include "platform/widgets/Edit.h"
+#include "platform/widgets/ListBox.h"
+#include "platform/widgets/ListCtrl.h"
 #include "src/search/ResultRows.h"
 #include "src/search/SearchState.h"
 

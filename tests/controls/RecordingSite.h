@@ -7,10 +7,10 @@
 #include <utility>
 #include <vector>
 
-#include "platform/automation/Control.h"
+#include "platform/components/Component.h"
 
 /// Host of a control under test: notes the events raised, and calls operations by id.
-class RecordingSite : public platform::ControlSite {
+class RecordingSite : public platform::ComponentSite {
   public:
     struct Event {
         std::int32_t dispid;
@@ -32,21 +32,21 @@ class RecordingSite : public platform::ControlSite {
 };
 
 template <class... A>
-std::optional<platform::Variant> invoke(platform::Control& control, std::int32_t dispid,
+std::optional<platform::Variant> invoke(platform::Component& control, std::int32_t dispid,
                                         platform::InvokeKind kind, A&&... arguments) {
     const std::vector<platform::Variant> values{platform::Variant(std::forward<A>(arguments))...};
     return control.invoke(dispid, kind, values);
 }
 
 template <class... A>
-void call(platform::Control& control, std::int32_t dispid, A&&... arguments) {
+void call(platform::Component& control, std::int32_t dispid, A&&... arguments) {
     const auto result = invoke(control, dispid, platform::InvokeKind::method, std::forward<A>(arguments)...);
     ASSERT_TRUE(result && result->empty()) << "operation " << dispid;
 }
 
 /// The result of an operation, which must be of this type.
 template <class R, class... A>
-R ask(platform::Control& control, std::int32_t dispid, platform::InvokeKind kind, A&&... arguments) {
+R ask(platform::Component& control, std::int32_t dispid, platform::InvokeKind kind, A&&... arguments) {
     const std::optional<platform::Variant> result =
         invoke(control, dispid, kind, std::forward<A>(arguments)...);
     const R* value = result ? result->get<R>() : nullptr;
@@ -55,12 +55,12 @@ R ask(platform::Control& control, std::int32_t dispid, platform::InvokeKind kind
 }
 
 template <class R>
-R property(platform::Control& control, std::int32_t dispid) {
+R property(platform::Component& control, std::int32_t dispid) {
     return ask<R>(control, dispid, platform::InvokeKind::propertyGet);
 }
 
 template <class T>
-void put(platform::Control& control, std::int32_t dispid, T value) {
+void put(platform::Component& control, std::int32_t dispid, T value) {
     const auto result = invoke(control, dispid, platform::InvokeKind::propertyPut, value);
     ASSERT_TRUE(result && result->empty()) << "property " << dispid;
 }

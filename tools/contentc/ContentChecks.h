@@ -2,9 +2,9 @@
 
 #include <filesystem>
 
-#include "tools/contentc/Content.h"
-#include "tools/contentc/OutputFiles.h"
-#include "tools/contentc/References.h"
+#include "tools/contentc/source/Content.h"
+#include "tools/contentc/source/OutputFiles.h"
+#include "tools/contentc/source/References.h"
 
 namespace contentc {
 

@@ -3,12 +3,12 @@
 #include <algorithm>
 
 #include "formats/PageNumber.h"
-#include "tools/contentc/Content.h"
 #include "tools/contentc/ContentChecks.h"
-#include "tools/contentc/DataSetSource.h"
 #include "tools/contentc/IndexFiles.h"
 #include "tools/contentc/PageCompiler.h"
 #include "tools/contentc/PageScaffold.h"
+#include "tools/contentc/source/Content.h"
+#include "tools/contentc/source/DataSetSource.h"
 
 namespace contentc {
 namespace {

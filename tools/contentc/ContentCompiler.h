@@ -2,8 +2,8 @@
 
 #include <optional>
 
-#include "tools/contentc/OutputFiles.h"
-#include "tools/contentc/SourceTree.h"
+#include "tools/contentc/source/OutputFiles.h"
+#include "tools/contentc/source/SourceTree.h"
 
 namespace contentc {
 

@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <string>
 
-#include "tools/contentc/OutputFiles.h"
+#include "tools/contentc/source/OutputFiles.h"
 
 namespace contentc {
 

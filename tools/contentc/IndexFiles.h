@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tools/contentc/Content.h"
-#include "tools/contentc/OutputFiles.h"
+#include "tools/contentc/source/Content.h"
+#include "tools/contentc/source/OutputFiles.h"
 
 namespace contentc {
 

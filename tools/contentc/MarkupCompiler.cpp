@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cctype>
 
-#include "tools/contentc/TermSource.h"
+#include "tools/contentc/source/TermSource.h"
 
 namespace contentc {
 namespace {

@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "tools/contentc/References.h"
-#include "tools/contentc/SourceText.h"
+#include "tools/contentc/source/References.h"
+#include "tools/contentc/source/SourceText.h"
 
 namespace contentc {
 

@@ -5,7 +5,7 @@
 #include <span>
 #include <string_view>
 
-#include "tools/contentc/SourceTree.h"
+#include "tools/contentc/source/SourceTree.h"
 
 namespace contentc {
 

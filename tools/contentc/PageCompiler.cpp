@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "tools/contentc/MarkupCompiler.h"
-#include "tools/contentc/MoleculeLayout.h"
+#include "tools/contentc/source/MoleculeLayout.h"
 
 namespace contentc {
 namespace {

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "tools/contentc/PageScaffold.h"
-#include "tools/contentc/PageSource.h"
-#include "tools/contentc/References.h"
+#include "tools/contentc/source/PageSource.h"
+#include "tools/contentc/source/References.h"
 
 namespace contentc {
 

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "tools/contentc/SourceText.h"
+#include "tools/contentc/source/SourceText.h"
 
 namespace contentc {
 

@@ -4,7 +4,7 @@
 #include <map>
 
 #include "tools/contentc/GreekStemmer.h"
-#include "tools/contentc/PageText.h"
+#include "tools/contentc/source/PageText.h"
 
 namespace contentc {
 namespace {

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "formats/WordRecords.h"
-#include "tools/contentc/Content.h"
+#include "tools/contentc/source/Content.h"
 
 namespace contentc {
 

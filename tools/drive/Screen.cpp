@@ -7,7 +7,7 @@
 #include <QString>
 #include <cmath>
 
-#include "tools/drive/Json.h"
+#include "tools/drive/script/Json.h"
 
 namespace drive {
 

@@ -4,11 +4,11 @@
 #include <cstdio>
 #include <utility>
 
-#include "tools/drive/Act.h"
-#include "tools/drive/ClipboardWatch.h"
-#include "tools/drive/CommandTable.h"
-#include "tools/drive/Controls.h"
-#include "tools/drive/Words.h"
+#include "tools/drive/commands/CommandTable.h"
+#include "tools/drive/desktop/ClipboardWatch.h"
+#include "tools/drive/desktop/Controls.h"
+#include "tools/drive/script/Act.h"
+#include "tools/drive/script/Words.h"
 
 namespace drive {
 

@@ -4,9 +4,9 @@
 #include <memory>
 #include <string>
 
-#include "tools/drive/IdleWatch.h"
-#include "tools/drive/Program.h"
-#include "tools/drive/ScriptReader.h"
+#include "tools/drive/desktop/Program.h"
+#include "tools/drive/script/IdleWatch.h"
+#include "tools/drive/script/ScriptReader.h"
 
 namespace drive {
 

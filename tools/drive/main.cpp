@@ -6,19 +6,19 @@
 #include <cstdio>
 #include <span>
 
-#include "platform/automation/BrowserProcess.h"
-#include "platform/framework/LightPalette.h"
-#include "platform/framework/Resources.h"
+#include "platform/base/Resources.h"
+#include "platform/browser/BrowserProcess.h"
+#include "platform/drawing/LightPalette.h"
 #include "platform/framework/Run.h"
 #include "platform/machine/Machine.h"
-#include "src/app/InstalledFiles.h"
 #include "src/app/KalyxoApp.h"
-#include "src/app/MachineSetup.h"
+#include "src/host/InstalledFiles.h"
+#include "src/host/MachineSetup.h"
 #include "src/resources/ResourceTable.h"
-#include "tools/drive/CommandLine.h"
 #include "tools/drive/Death.h"
 #include "tools/drive/Screen.h"
 #include "tools/drive/Session.h"
+#include "tools/drive/script/CommandLine.h"
 
 namespace drive {
 namespace {

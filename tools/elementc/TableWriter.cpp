@@ -10,7 +10,7 @@ namespace {
 constexpr std::string_view head = R"(// Made by elementc; where each figure comes from: docs/third-party.md.
 #include <array>
 
-#include "controls/common/Element.h"
+#include "controls/elements/Element.h"
 #include "platform/text/GreekLiteral.h"
 
 namespace controls {

@@ -1,0 +1,11 @@
+# A component: the loadable module NAME.ocx, made of the current folder's room and of Module.cpp, which holds the two
+# exports and the version text.
+function(add_component_module NAME)
+    this_room(ROOM PARTS)
+    add_library(${NAME} MODULE Module.cpp ${ARGN})
+    use_rooms(${NAME} PRIVATE)
+    target_link_libraries(${NAME} PRIVATE ${PARTS} Qt6::Widgets)
+    target_link_options(${NAME} PRIVATE -Wl,--exclude-libs,ALL)
+    set_target_properties(${NAME} PROPERTIES
+        PREFIX "" SUFFIX ".ocx" LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/ActiveX)
+endfunction()

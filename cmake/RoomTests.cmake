@@ -1,0 +1,26 @@
+include(GoogleTest)
+
+# The tests of the current folder, as one program NAME with all its sources. MAIN "windows" makes an application object
+# on the offscreen platform, "browser" the browser engine too, of which one runs at a time. SOURCES are compiled in,
+# LIBRARIES linked, DEFINITIONS defined, and TARGETS built before it.
+function(add_room_tests NAME)
+    cmake_parse_arguments(GIVEN "" "MAIN" "SOURCES;LIBRARIES;DEFINITIONS;TARGETS" ${ARGN})
+    file(GLOB SOURCES CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+    add_executable(${NAME} ${SOURCES} ${GIVEN_SOURCES})
+    use_rooms(${NAME} PRIVATE)
+    target_compile_definitions(${NAME} PRIVATE ${GIVEN_DEFINITIONS})
+    target_link_libraries(${NAME} PRIVATE ${GIVEN_LIBRARIES} GTest::gtest)
+    if(GIVEN_TARGETS)
+        add_dependencies(${NAME} ${GIVEN_TARGETS})
+    endif()
+    if(GIVEN_MAIN STREQUAL "browser")
+        gtest_discover_tests(${NAME} PROPERTIES RUN_SERIAL ON TIMEOUT 120)
+    elseif(GIVEN_MAIN STREQUAL "windows")
+        target_sources(${NAME} PRIVATE ${CMAKE_SOURCE_DIR}/tests/support/main.cpp)
+        target_link_libraries(${NAME} PRIVATE Qt6::Widgets)
+        gtest_discover_tests(${NAME} PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)
+    else()
+        target_link_libraries(${NAME} PRIVATE GTest::gtest_main)
+        gtest_discover_tests(${NAME})
+    endif()
+endfunction()

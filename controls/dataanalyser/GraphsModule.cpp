@@ -1,6 +1,0 @@
-#include "controls/dataanalyser/GraphParts.h"
-
-extern "C" __attribute__((visibility("default"))) const controls::dataanalyser::GraphParts*
-KalyxoGraphParts() {
-    return controls::dataanalyser::linkedGraphParts();
-}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "controls/dataanalyser/look/CategoryLook.h"
+
+class QPainter;
+class QPointF;
+
+namespace controls::dataanalyser {
+
+/// Draws a point with the painter's pen and brush, as large to the eye as a circle of this radius.
+void paintPoint(QPainter& painter, PointShape shape, const QPointF& place, double radius);
+
+}  // namespace controls::dataanalyser

@@ -1,0 +1,151 @@
+#include "controls/dataanalyser/table/TableStrip.h"
+
+#include <QButtonGroup>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <algorithm>
+
+#include "controls/common/QtText.h"
+#include "controls/dataanalyser/look/Buttons.h"
+#include "controls/dataanalyser/look/ChoiceBox.h"
+#include "controls/dataanalyser/model/Analyser.h"
+
+namespace controls::dataanalyser {
+
+namespace {
+
+// Narrower than this the strip does without its title and the count.
+constexpr int roomForTitle = 960;
+constexpr int roomForCount = 780;
+
+QString countText(std::size_t rows, std::size_t selected) {
+    QString listed = rows == 1 ? QStringLiteral("1 γραμμή") : QStringLiteral("%1 γραμμές").arg(rows);
+    if (selected == 0) return listed;
+    const QString chosen =
+        selected == 1 ? QStringLiteral("1 επιλεγμένη") : QStringLiteral("%1 επιλεγμένες").arg(selected);
+    return listed + QStringLiteral(" · ") + chosen;
+}
+
+}  // namespace
+
+// What is made here belongs to its Qt parent.
+// NOLINTBEGIN(cppcoreguidelines-owning-memory)
+
+TableStrip::TableStrip(Analyser& analyser, QWidget* parent)
+    : QWidget(parent),
+      analyser_(analyser),
+      title_(new QLabel(QStringLiteral("Αναλυτής δεδομένων"), this)),
+      sets_(new ChoiceBox(QStringLiteral("Σύνολο δεδομένων"), this)),
+      categories_(new ChoiceBox(QStringLiteral("Κατηγορία"), this)),
+      count_(new QLabel(this)),
+      columns_(makeButton(QStringLiteral("Στήλες"), QStringLiteral("Ποιες στήλες φαίνονται"), this)),
+      columnMenu_(new QMenu(columns_)),
+      units_(new QButtonGroup(this)),
+      views_(new QButtonGroup(this)) {
+    setObjectName(QStringLiteral("strip"));
+    setAttribute(Qt::WA_StyledBackground);
+    title_->setObjectName(QStringLiteral("title"));
+    count_->setObjectName(QStringLiteral("count"));
+    makeChoices();
+    layOut();
+    connectChoices();
+}
+
+void TableStrip::makeChoices() {
+    addChoice(*units_, static_cast<int>(TemperatureUnit::kelvin), QStringLiteral("K"),
+              QStringLiteral("Θερμοκρασίες σε Κέλβιν"), this);
+    addChoice(*units_, static_cast<int>(TemperatureUnit::celsius), QStringLiteral("°C"),
+              QStringLiteral("Θερμοκρασίες σε βαθμούς Κελσίου"), this);
+    addChoice(*views_, 0, QStringLiteral("Πίνακας"), QStringLiteral("Εμφάνιση του πίνακα (F8)"), this);
+    addChoice(*views_, 1, QStringLiteral("Γράφημα"), QStringLiteral("Εμφάνιση του γραφήματος (F8)"), this);
+    columns_->setMenu(columnMenu_);
+    sets_->setMinimumContentsLength(14);
+    categories_->setMinimumContentsLength(13);
+}
+
+void TableStrip::layOut() {
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(10, 5, 10, 5);
+    row->setSpacing(8);
+    row->addWidget(title_);
+    row->addWidget(sets_, 3);
+    row->addWidget(categories_, 2);
+    row->addWidget(count_);
+    row->addStretch(1);
+    row->addWidget(columns_);
+    row->addWidget(joinedButtons(*units_, this));
+    row->addWidget(joinedButtons(*views_, this));
+    sets_->setMaximumWidth(240);
+    categories_->setMaximumWidth(240);
+}
+
+// NOLINTEND(cppcoreguidelines-owning-memory)
+
+void TableStrip::connectChoices() {
+    connect(sets_, &QComboBox::activated, this, [this] {
+        analyser_.setSortColumn(-1);
+        analyser_.setDescending(false);
+        analyser_.setDataSet(static_cast<std::int16_t>(sets_->chosen()));
+    });
+    connect(categories_, &QComboBox::activated, this, [this] {
+        analyser_.noteTop(0);
+        analyser_.setCategory(categories_->chosen());
+    });
+    connect(units_, &QButtonGroup::idClicked, this,
+            [this](int id) { analyser_.setUnit(static_cast<TemperatureUnit>(id)); });
+    connect(views_, &QButtonGroup::idClicked, this, [this](int id) { analyser_.setGraphShown(id != 0); });
+    connect(columnMenu_, &QMenu::aboutToShow, this, [this] { fillColumnMenu(); });
+}
+
+void TableStrip::fillColumnMenu() {
+    columnMenu_->clear();
+    const ColumnLayout layout = analyser_.layout();
+    const auto& columns = analyser_.dataSet().columns;
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        QAction* action = columnMenu_->addAction(toQt(heading(columns[i], analyser_.unit())));
+        action->setCheckable(true);
+        action->setChecked(layout.shown(i));
+        connect(action, &QAction::triggered, this, [this, i](bool shown) {
+            ColumnLayout next = analyser_.layout();
+            next.setShown(i, shown);
+            analyser_.setLayout(next);
+        });
+    }
+    columnMenu_->addSeparator();
+    connect(columnMenu_->addAction(QStringLiteral("Όλες οι στήλες")), &QAction::triggered, this,
+            [this] { analyser_.setLayout(ColumnLayout(analyser_.dataSet().columns.size())); });
+}
+
+void TableStrip::refresh() {
+    QList<QPair<QString, int>> sets;
+    for (const auto& set : analyser_.library().sets()) sets.append({toQt(set.title), set.number});
+    sets_->setItems(sets, analyser_.dataSet().number);
+
+    QList<QPair<QString, int>> categories;
+    const auto& names = analyser_.categories().names;
+    if (!names.empty()) categories.append({QStringLiteral("Όλες οι κατηγορίες"), 0});
+    for (std::size_t i = 0; i < names.size(); ++i)
+        categories.append({toQt(names[i]), static_cast<int>(i + 1)});
+    categories_->setItems(categories, analyser_.order().category);
+
+    const bool hasTemperatures = std::ranges::any_of(analyser_.dataSet().columns, isTemperature);
+    for (QAbstractButton* button : units_->buttons()) button->setEnabled(hasTemperatures);
+    choose(*units_, static_cast<int>(analyser_.unit()));
+    choose(*views_, analyser_.graphShown() ? 1 : 0);
+    columns_->setVisible(!analyser_.graphShown());
+    refreshCount();
+}
+
+void TableStrip::refreshCount() {
+    count_->setText(countText(analyser_.rows().size(), analyser_.selected().size()));
+}
+
+void TableStrip::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    title_->setVisible(width() >= roomForTitle);
+    count_->setVisible(width() >= roomForCount);
+}
+
+}  // namespace controls::dataanalyser

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QTableView>
+#include <functional>
+#include <vector>
+
+#include "controls/dataanalyser/model/Analyser.h"
+#include "controls/dataanalyser/model/RowNames.h"
+
+namespace controls::dataanalyser {
+
+class TableModel;
+
+/// The table on the screen. What the reader does in it goes to the analyser, which tells when to `refresh`.
+class TableView : public QTableView {
+  public:
+    /// `copy` is called when the reader asks to copy the selected rows by key.
+    TableView(Analyser& analyser, std::function<void()> copy, QWidget* parent);
+
+    /// Brings the table into line with the analyser.
+    void refreshRows();
+    void refreshUnit();
+    void refreshColumns();
+    void refreshSelection();
+    void refreshTop();
+
+    void keyboardSearch(const QString& search) override;
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void scrollContentsBy(int dx, int dy) override;
+
+  private:
+    void setUpHeadings();
+    void measureColumns();
+    void setWidth(int section, int pixels);
+    void sortBy(int section);
+    void sort(int section, bool descending);
+    bool sortByKey(const QKeyEvent& event);
+    std::vector<std::int16_t> selectedIds() const;
+    int rowOfId(std::int32_t id) const;
+
+    Analyser& analyser_;
+    std::function<void()> copy_;
+    TableModel* rows_;
+    std::vector<int> needed_;  // widths that the columns need at least
+    int cursorColumn_ = 0;
+    bool refreshing_ = false;
+    RowSearch search_;
+    QElapsedTimer clock_;
+};
+
+}  // namespace controls::dataanalyser

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QPointer>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "controls/select/model/BrowseFolder.h"
+#include "controls/select/model/BrowseSelection.h"
+#include "platform/components/Component.h"
+
+namespace controls::select {
+
+class SelectPane;
+
+/// The class id of the browse selection.
+inline constexpr std::string_view classId = "5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E102";
+
+/// Sent to the window of `getAuxHandle` when Enter is pressed in the text field.
+inline constexpr platform::UINT enterPressedMessage = 0x49B7;
+
+/// The browse selection as its host sees it.
+class SelectComponent : public platform::Component {
+  public:
+    SelectComponent(platform::ComponentSite& site, QWidget* parent);
+    ~SelectComponent() override;
+    SelectComponent(const SelectComponent&) = delete;
+    SelectComponent& operator=(const SelectComponent&) = delete;
+
+    QWidget& widget() override;
+    std::span<const platform::OperationInfo> operations() const override;
+    std::span<const platform::EventInfo> events() const override;
+    std::optional<platform::Variant> invoke(std::int32_t dispid, platform::InvokeKind kind,
+                                            std::span<const platform::Variant> arguments) override;
+
+    /// @name Operations, called through `invoke`.
+    /// @{
+    std::string version() const;
+    std::string getPageTitle(std::int32_t pageId) const;
+    void initialise(std::int16_t hostCode, std::string dataFolder, std::int32_t viewWindow);
+    std::string getItemTitle(std::int32_t itemCode) const;
+    void setSection(std::int16_t code);
+    void showItem(std::int32_t pageId, std::int32_t itemCode, bool reserved);
+    std::int32_t getAuxHandle() const;
+    std::int32_t getEditWindow() const;
+    /// @}
+
+  private:
+    void raise(const ChoiceEvents& events);
+
+    platform::ComponentSite& site_;
+    BrowseSelection selection_;
+    std::optional<BrowseFolder> folder_;
+    // The parent that the host gave it may destroy it first.
+    QPointer<SelectPane> pane_;
+    platform::HWND editWindow_ = 0;
+    platform::HWND auxWindow_ = 0;
+};
+
+/// Makes the control of a module.
+std::unique_ptr<platform::Component> createSelectComponent(platform::ComponentSite& site, QWidget* parent);
+
+}  // namespace controls::select

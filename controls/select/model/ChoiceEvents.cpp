@@ -1,0 +1,47 @@
+#include "controls/select/model/ChoiceEvents.h"
+
+#include <algorithm>
+
+#include "formats/SectionTable.h"
+
+namespace controls::select {
+
+namespace {
+
+constexpr std::int32_t startPageStep = 10'000;
+
+// The host has already opened a start page under its own id, so no other number may answer for it.
+std::int32_t pageNumberOf(std::int32_t pageId, const formats::BrowseTopic* topic) {
+    return topic && !isStartPage(pageId) ? topic->pageNumber : pageId;
+}
+
+}  // namespace
+
+bool isStartPage(std::int32_t pageId) {
+    return pageId % startPageStep == 0 ||
+           std::ranges::any_of(formats::sectionTable(), [pageId](const formats::Section& section) {
+               return section.startPage == pageId;
+           });
+}
+
+ChoiceEvents answerTo(const Place& asked, const formats::BrowseSection* section) {
+    if (asked.itemCode > 0) return {ItemChosen{asked.itemCode}};
+    if (asked.pageId <= 0) return {};
+    const formats::BrowseTopic* topic = section ? formats::findTopic(*section, asked.pageId) : nullptr;
+    return {PageChosen{pageNumberOf(asked.pageId, topic), asked.pageId}};
+}
+
+ChoiceEvents choiceOf(const formats::BrowseTopic& topic) {
+    return {PageChosen{pageNumberOf(topic.pageId, &topic), topic.pageId}};
+}
+
+ChoiceEvents choiceOf(const formats::BrowseTopic& topic, const formats::BrowseEntry& entry,
+                      const Place& shown) {
+    if (isStartPage(topic.pageId)) return {PageChosen{entry.itemCode, entry.itemCode}};
+    ChoiceEvents events;
+    if (shown.pageId != topic.pageId) events = choiceOf(topic);
+    events.emplace_back(ItemChosen{entry.itemCode});
+    return events;
+}
+
+}  // namespace controls::select

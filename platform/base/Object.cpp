@@ -1,0 +1,10 @@
+#include "platform/base/Object.h"
+
+namespace platform {
+
+const CRuntimeClass& CObject::GetRuntimeClass() const {
+    static constexpr CRuntimeClass runtimeClass{"CObject"};
+    return runtimeClass;
+}
+
+}  // namespace platform

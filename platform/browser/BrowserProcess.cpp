@@ -1,0 +1,101 @@
+#include "platform/browser/BrowserProcess.h"
+
+#include <unistd.h>
+
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QLibraryInfo>
+#include <QLoggingCategory>
+#include <QWebEngineUrlScheme>
+#include <algorithm>
+#include <cstdio>
+#include <iterator>
+#include <string_view>
+
+#include "platform/browser/WebBrowserComponent.h"
+#include "platform/components/ComponentHost.h"
+
+namespace platform {
+
+namespace {
+
+constexpr const char* sandboxVariable = "QTWEBENGINE_DISABLE_SANDBOX";
+constexpr const char* flagsVariable = "QTWEBENGINE_CHROMIUM_FLAGS";
+
+void registerDriveSchemes() {
+    for (char letter = 'a'; letter <= 'z'; ++letter) {
+        QWebEngineUrlScheme scheme(QByteArray(1, letter));
+        scheme.setSyntax(QWebEngineUrlScheme::Syntax::Path);
+        scheme.setFlags(QWebEngineUrlScheme::LocalScheme | QWebEngineUrlScheme::LocalAccessAllowed |
+                        QWebEngineUrlScheme::CorsEnabled);
+        QWebEngineUrlScheme::registerScheme(scheme);
+    }
+}
+
+void switchSandboxOffForRoot() {
+    if (geteuid() != 0 || qEnvironmentVariableIsSet(sandboxVariable)) return;
+    qputenv(sandboxVariable, "1");
+    std::fputs("Started as root: the browser engine runs without its sandbox.\n", stderr);
+}
+
+/// The engine's switch that lets it find these hosts only.
+QByteArray hostRules(const std::vector<std::string>& hosts) {
+    QByteArray rules = " --host-resolver-rules=\"MAP * ~NOTFOUND";
+    for (const std::string& host : hosts) rules += " , EXCLUDE " + QByteArray::fromStdString(host);
+    return rules + '"';
+}
+
+bool isHostName(std::string_view name) {
+    return !name.empty() && std::all_of(name.begin(), name.end(), [](char c) {
+        return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '-' || c == '.';
+    });
+}
+
+void setEngineFlags() {
+    // No name resolves at first, so that no request that the policy does not see can reach the network
+    // either. All pages come from the same hands: one process draws them, instead of a new one for each that
+    // is opened.
+    QByteArray flags =
+        "--disable-background-networking --disable-component-update --disable-domain-reliability "
+        "--disable-sync --no-pings --log-level=3 "
+        "--renderer-process-limit=1";
+    flags += hostRules({});
+    const QByteArray platformName = qgetenv("QT_QPA_PLATFORM");
+    if (platformName.startsWith("offscreen") || platformName.startsWith("minimal")) flags += " --disable-gpu";
+    const QByteArray given = qgetenv(flagsVariable);
+    qputenv(flagsVariable, given.isEmpty() ? flags : given + ' ' + flags);
+}
+
+std::unique_ptr<Component> makeBrowser(ComponentSite& site, QWidget* container) {
+    return engineIsInstalled() ? std::make_unique<WebBrowserComponent>(site, container) : nullptr;
+}
+
+}  // namespace
+
+void prepareProcess() {
+    ComponentHost::addBuiltIn(std::string(WebBrowserComponent::classId), makeBrowser);
+    registerDriveSchemes();
+    switchSandboxOffForRoot();
+    setEngineFlags();
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    // The engine lists its graphics set-up at every start without a screen.
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext*=false"));
+}
+
+bool engineIsInstalled() {
+    const QString given = qEnvironmentVariable("QTWEBENGINEPROCESS_PATH");
+    if (!given.isEmpty()) return QFileInfo::exists(given);
+    const QString name = QStringLiteral("/QtWebEngineProcess");
+    return QFileInfo::exists(QLibraryInfo::path(QLibraryInfo::LibraryExecutablesPath) + name) ||
+           QFileInfo::exists(QCoreApplication::applicationDirPath() + name);
+}
+
+void letEngineFind(const std::vector<std::string>& hosts) {
+    std::vector<std::string> names;
+    std::copy_if(hosts.begin(), hosts.end(), std::back_inserter(names), isHostName);
+    // Of two switches of one name the later one counts.
+    qputenv(flagsVariable, qgetenv(flagsVariable) + hostRules(names));
+}
+
+}  // namespace platform

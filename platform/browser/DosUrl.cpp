@@ -1,0 +1,82 @@
+#include "platform/browser/DosUrl.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QUrl>
+#include <algorithm>
+
+#include "platform/text/CodePage1253.h"
+
+namespace platform {
+
+namespace {
+
+bool isLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+
+bool isDosPath(std::string_view text) {
+    return text.size() >= 2 && isLetter(text[0]) && text[1] == ':' &&
+           (text.size() == 2 || text[2] == '\\' || text[2] == '/');
+}
+
+QUrl driveUrl(char letter, const QByteArray& escapedPath) {
+    const QByteArray scheme(1, lower(letter));
+    return QUrl::fromEncoded(scheme + ':' + escapedPath, QUrl::TolerantMode);
+}
+
+QByteArray escaped(std::string_view path) {
+    QByteArray utf8 = QByteArray::fromStdString(toUtf8(path));
+    utf8.replace('\\', '/');
+    return utf8.toPercentEncoding("/:@!$&'()*+,;=");
+}
+
+/// Authors escape with the bytes of their code page, the engine with those of UTF-8.
+std::optional<std::string> textOfBytes(const QByteArray& raw) {
+    if (QString::fromUtf8(raw).contains(QChar::ReplacementCharacter)) return raw.toStdString();
+    return fromUtf8Strict(raw.toStdString());
+}
+
+}  // namespace
+
+bool isDriveUrl(const QUrl& url) {
+    const QString scheme = url.scheme();
+    return scheme.size() == 1 && isLetter(scheme[0].toLatin1());
+}
+
+QUrl urlOfAddress(std::string_view address) {
+    if (!isDosPath(address))
+        return QUrl::fromEncoded(QByteArray::fromStdString(toUtf8(address)), QUrl::TolerantMode);
+    const std::size_t hash = std::min(address.find('#'), address.size());
+    QUrl url = driveUrl(address[0], escaped(address.substr(2, hash - 2)));
+    if (hash < address.size()) {
+        url.setFragment(QString::fromStdString(toUtf8(address.substr(hash + 1))), QUrl::TolerantMode);
+    }
+    return url;
+}
+
+QUrl normalisedUrl(const QUrl& url) {
+    if (!isDriveUrl(url)) return url;
+    QByteArray text = url.toEncoded(QUrl::RemoveQuery | QUrl::RemoveFragment);
+    text.replace("%5C", "/").replace('\\', '/');
+    QUrl result = QUrl::fromEncoded(text, QUrl::TolerantMode);
+    if (url.hasQuery()) result.setQuery(url.query(QUrl::FullyEncoded), QUrl::TolerantMode);
+    if (url.hasFragment()) result.setFragment(url.fragment(QUrl::FullyEncoded), QUrl::TolerantMode);
+    return result;
+}
+
+std::optional<std::string> dosPathOfUrl(const QUrl& url) {
+    if (!isDriveUrl(url)) return std::nullopt;
+    auto path = textOfBytes(QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toUtf8()));
+    if (!path) return std::nullopt;
+    std::replace(path->begin(), path->end(), '/', '\\');
+    return std::string{url.scheme()[0].toUpper().toLatin1()} + ':' + *path;
+}
+
+std::string addressOfUrl(const QUrl& url) {
+    auto path = dosPathOfUrl(url);
+    if (!path) return fromUtf8(url.toEncoded().toStdString());
+    if (url.hasQuery()) *path += '?' + fromUtf8(url.query(QUrl::FullyDecoded).toStdString());
+    if (url.hasFragment()) *path += '#' + fromUtf8(url.fragment(QUrl::FullyDecoded).toStdString());
+    return *path;
+}
+
+}  // namespace platform

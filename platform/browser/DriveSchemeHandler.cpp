@@ -1,0 +1,100 @@
+#include "platform/browser/DriveSchemeHandler.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QFileInfo>
+#include <QMap>
+#include <QUrl>
+#include <QWebEngineUrlRequestJob>
+#include <memory>
+
+#include "platform/browser/DosUrl.h"
+#include "platform/machine/Machine.h"
+#include "platform/plugins/FileType.h"
+#include "platform/plugins/FrameAnswer.h"
+#include "platform/text/CodePage1253.h"
+
+namespace platform {
+
+namespace {
+
+constexpr qint64 headLength = 1024;
+
+/// Hands the opened device over to the request, which reads from it until it ends.
+void reply(QWebEngineUrlRequestJob* job, const QByteArray& type, std::unique_ptr<QIODevice> device) {
+    QIODevice* const given = device.release();
+    QObject::connect(job, &QObject::destroyed, given, &QObject::deleteLater);
+    job->reply(type, given);
+}
+
+/// Where the file lies; nothing when there is none.
+std::optional<QString> nativeFile(const std::string& dosPath) {
+    const auto native = hasMachine() ? machine().files().nativePath(dosPath) : std::nullopt;
+    if (!native) return std::nullopt;
+    const QString path = QString::fromStdString(native->string());
+    return QFileInfo(path).isFile() ? std::optional(path) : std::nullopt;
+}
+
+void replyMissingPage(QWebEngineUrlRequestJob* job, const std::string& dosPath) {
+    static constexpr auto page = QLatin1StringView(
+        "<!DOCTYPE html><html lang=\"el\"><head><title>%1</title><style>body{margin:24px;color:#1c2733;"
+        "background:#fff;font:16px/1.5 sans-serif}p{color:#526070;overflow-wrap:anywhere}</style></head>"
+        "<body><h1 style=\"font-size:20px\">%1</h1><p>%2</p></body></html>");
+    auto buffer = std::make_unique<QBuffer>();
+    buffer->setData(QString(page)
+                        .arg(QStringLiteral("Η σελίδα δεν βρέθηκε"),
+                             QString::fromStdString(toUtf8(dosPath)).toHtmlEscaped())
+                        .toUtf8());
+    reply(job, "text/html;charset=utf-8", openForReading(std::move(buffer)));
+}
+
+/// The file's media type. Pages are in the machine's code page unless they say otherwise.
+QByteArray contentType(const std::string& dosPath, QIODevice& file) {
+    const std::string_view type = mediaTypeOf(dosPath);
+    QByteArray result(type.data(), static_cast<qsizetype>(type.size()));
+    const bool isText = type.starts_with("text/");
+    if (isText && !declaresCharset(file.peek(headLength).toStdString())) result += ";charset=windows-1253";
+    return result;
+}
+
+bool isFrame(QWebEngineUrlRequestJob& job) {
+    return job.requestHeaders().value(DriveSchemeHandler::frameHeader) == "1";
+}
+
+void replyFile(QWebEngineUrlRequestJob* job, const std::string& dosPath, const QString& native) {
+    auto file = openForReading(std::make_unique<QFile>(native));
+    if (!file) {
+        job->fail(QWebEngineUrlRequestJob::RequestFailed);
+        return;
+    }
+    const QByteArray type = contentType(dosPath, *file);
+    reply(job, type, std::move(file));
+}
+
+}  // namespace
+
+void DriveSchemeHandler::requestStarted(QWebEngineUrlRequestJob* job) {
+    const QUrl url = job->requestUrl();
+    if (normalisedUrl(url) != url) {
+        job->redirect(normalisedUrl(url));
+        return;
+    }
+    const auto path = dosPathOfUrl(url);
+    const auto native = path ? nativeFile(*path) : std::nullopt;
+    const bool frame = isFrame(*job);
+    if (auto special = path ? frameAnswer(url, *path, native, frame) : std::nullopt) {
+        if (special->device) {
+            reply(job, special->type, std::move(special->device));
+        } else {
+            job->fail(QWebEngineUrlRequestJob::UrlNotFound);
+        }
+    } else if (native) {
+        replyFile(job, *path, *native);
+    } else if (frame) {
+        replyMissingPage(job, path.value_or(addressOfUrl(url)));
+    } else {
+        job->fail(QWebEngineUrlRequestJob::UrlNotFound);
+    }
+}
+
+}  // namespace platform

@@ -1,0 +1,41 @@
+#include "platform/browser/FirstExposure.h"
+
+#include <QEvent>
+#include <QWidget>
+#include <chrono>
+#include <utility>
+
+namespace platform {
+
+namespace {
+
+/// What a window system may take to show a window, and what a window that stays hidden costs.
+constexpr std::chrono::milliseconds longestWait{250};
+
+}  // namespace
+
+FirstExposure::FirstExposure(QWidget& widget, std::function<void()> call) : call_(std::move(call)) {
+    wait_.setSingleShot(true);
+    connect(&wait_, &QTimer::timeout, this, [this] { std::exchange(call_, [] {})(); });
+    wait_.start(longestWait);
+    widget.installEventFilter(this);
+    watchWindow(widget);
+}
+
+void FirstExposure::watchWindow(const QWidget& widget) {
+    window_ = widget.window()->windowHandle();
+    if (window_) window_->installEventFilter(this);
+}
+
+bool FirstExposure::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Show && !window_ && watched->isWidgetType()) {
+        watchWindow(*static_cast<QWidget*>(watched));
+    } else if (event->type() == QEvent::Expose && watched == window_ && window_->isExposed()) {
+        // The window draws itself while it handles the event: the call comes after that.
+        window_->removeEventFilter(this);
+        wait_.start(0);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+}  // namespace platform

@@ -1,0 +1,85 @@
+#include "platform/browser/PagePrinter.h"
+
+#include <QPageLayout>
+#include <QPageRanges>
+#include <QPointer>
+#include <QPrinter>
+#include <QSaveFile>
+#include <QTimer>
+#include <QWebEngineView>
+#include <string>
+#include <utility>
+
+#include "platform/printing/PrintJob.h"
+#include "platform/text/CodePage1253.h"
+
+namespace platform {
+
+namespace {
+
+const QPageLayout kPaper(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(15, 15, 15, 15),
+                         QPageLayout::Millimeter);
+
+/// Pages of a PDF file as the engine writes it, where each page is an object of its own in plain text.
+int countPages(const QByteArray& pdf) {
+    const QByteArray page = "/Type /Page";
+    int count = 0;
+    for (qsizetype at = pdf.indexOf(page); at >= 0; at = pdf.indexOf(page, at + page.size())) {
+        const qsizetype behind = at + page.size();
+        if (behind >= pdf.size() || pdf[behind] != 's') ++count;
+    }
+    return count;
+}
+
+}  // namespace
+
+PagePrinter::PagePrinter(QWebEngineView& view) : QObject(&view), view_(view) {
+    connect(&view, &QWebEngineView::printFinished, this, [this] {
+        printing_ = false;
+        // The engine still has it in hand.
+        QTimer::singleShot(0, this, [this] { printer_.reset(); });
+    });
+}
+
+PagePrinter::~PagePrinter() = default;
+
+void PagePrinter::print() {
+    if (printing_ || printer_ || !hasPrinter()) return;
+    if (!nextPrintFile().empty()) return printToFile({}, kPaper, {});
+    auto printer = choosePrinter(*view_.window());
+    if (!printer) return;
+    if (printer->outputFormat() == QPrinter::PdfFormat) {
+        // On a printer that is a file, the engine would put pictures of pages.
+        printToFile(printer->outputFileName().toStdString(), printer->pageLayout(), printer->pageRanges());
+    } else {
+        printOnPaper(std::move(printer));
+    }
+}
+
+void PagePrinter::printToFile(const std::string& chosen, const QPageLayout& layout,
+                              const QPageRanges& ranges) {
+    printing_ = true;
+    const std::string title = fromUtf8(view_.title().toStdString());
+    view_.page()->printToPdf(
+        [this, title, chosen, alive = QPointer<PagePrinter>(this)](const QByteArray& pdf) {
+            const std::string file = chosen.empty() ? nextPrintFile() : chosen;
+            QSaveFile out(QString::fromStdString(file));
+            if (!pdf.isEmpty() && out.open(QIODevice::WriteOnly) && out.write(pdf) == pdf.size() &&
+                out.flush() && out.commit()) {
+                recordPrint(title, countPages(pdf), file);
+            } else {
+                printFailed(file);
+            }
+            if (alive) printing_ = false;
+        },
+        layout, ranges);
+}
+
+void PagePrinter::printOnPaper(std::unique_ptr<QPrinter> printer) {
+    printer_ = std::move(printer);
+    printing_ = true;
+    printer_->setDocName(view_.title());
+    view_.print(printer_.get());
+}
+
+}  // namespace platform

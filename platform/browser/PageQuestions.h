@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <functional>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "platform/base/Geometry.h"
+
+class QWebEnginePage;
+
+/// Questions about a page that the engine answers later: each runs the event loop until the answer is
+/// there, five seconds at most, and gives an empty answer after that. Rectangles are in the widget that
+/// shows the page.
+namespace platform {
+
+/// Whether one of them is not answered yet.
+bool anyQuestionOpen();
+
+QString textOf(QWebEnginePage& page);
+QString htmlOf(QWebEnginePage& page);
+
+/// Scrolls the first link with this text (code page 1253, blanks at its ends apart) into view and says
+/// where it is.
+std::optional<CRect> findLinkOf(QWebEnginePage& page, std::string_view linkText);
+
+/// The frame of an embedded file: the number that the page's script gave it (see EmbedScript), its place in
+/// the view, and its size in the page's own units, which is the same however the page is zoomed.
+struct EmbeddedFrame {
+    int number = 0;
+    CRect place;
+    CSize size;
+};
+
+/// The frames of embedded files, in the order of the page.
+std::vector<EmbeddedFrame> embeddedFramesOf(QWebEnginePage& page);
+/// The same without waiting; nothing is called when the page goes before.
+void askEmbeddedFramesOf(QWebEnginePage& page,
+                         const std::function<void(const std::vector<EmbeddedFrame>&)>& answer);
+
+/// The picture that the viewer of an embedded file gives of itself, as PNG; empty when it gives none within
+/// two seconds.
+QByteArray pictureOfEmbedded(QWebEnginePage& page, int number);
+
+}  // namespace platform

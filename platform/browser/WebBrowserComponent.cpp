@@ -1,0 +1,183 @@
+#include "platform/browser/WebBrowserComponent.h"
+
+#include <QPointer>
+#include <QUrl>
+#include <algorithm>
+#include <utility>
+
+#include "platform/browser/BrowserPolicy.h"
+#include "platform/browser/DosUrl.h"
+#include "platform/browser/LinkClick.h"
+#include "platform/browser/PagePrinter.h"
+#include "platform/browser/PageQuestions.h"
+#include "platform/browser/PluginWindows.h"
+#include "platform/browser/WebPage.h"
+#include "platform/browser/WebView.h"
+#include "platform/components/ComponentLibrary.h"
+#include "platform/machine/Machine.h"
+#include "platform/qt/QtChild.h"
+#include "platform/text/CodePage1253.h"
+
+namespace platform {
+
+namespace {
+
+constexpr std::int32_t beforeNavigateEvent = 100;
+constexpr std::int32_t printCommand = 6;
+constexpr std::int32_t copyCommand = 12;
+
+constexpr std::array operationTable = {
+    Method<104, &WebBrowserComponent::navigate>("Navigate"),
+    Method<105, &WebBrowserComponent::refresh>("Refresh2"),
+    PropertyGet<203, &WebBrowserComponent::document>("Document"),
+};
+constexpr auto operationInfos = describe(operationTable);
+
+constexpr std::array beforeNavigateTypes = {TypeCode::text,    TypeCode::i4,   TypeCode::text,
+                                            TypeCode::variant, TypeCode::text, TypeCode::booleanRef};
+constexpr std::array<EventInfo, 1> eventInfos = {
+    {{beforeNavigateEvent, "BeforeNavigate", beforeNavigateTypes}}};
+
+/// The page as an automation object; it does nothing once the page is gone.
+class Document : public Dispatch {
+  public:
+    Document(WebPage& page, PagePrinter& printer) : page_(&page), printer_(&printer) {}
+
+    bool exec(std::int32_t command) override {
+        if (page_ && command == copyCommand) {
+            page_->copySelection();
+            return true;
+        }
+        if (printer_ && command == printCommand) {
+            printer_->print();
+            return true;
+        }
+        return false;
+    }
+
+  private:
+    QPointer<WebPage> page_;
+    QPointer<PagePrinter> printer_;
+};
+
+void record(TraceEntry entry) {
+    if (hasMachine()) machine().trace().record(std::move(entry));
+}
+
+std::string toText(const QString& unicode) { return fromUtf8(unicode.toStdString()); }
+
+}  // namespace
+
+WebBrowserComponent::WebBrowserComponent(ComponentSite& site, QWidget* parent)
+    : site_(site),
+      view_(std::make_unique<WebView>(parent)),
+      printer_(&makeQtChild<PagePrinter>(*view_)),
+      exposure_(*view_, [this] { page(); }) {}
+
+WebBrowserComponent::~WebBrowserComponent() = default;
+
+QWidget& WebBrowserComponent::widget() { return *view_; }
+
+std::span<const OperationInfo> WebBrowserComponent::operations() const { return operationInfos; }
+
+std::span<const EventInfo> WebBrowserComponent::events() const { return eventInfos; }
+
+std::optional<Variant> WebBrowserComponent::invoke(std::int32_t dispid, InvokeKind kind,
+                                                   std::span<const Variant> arguments) {
+    return dispatch(*this, operationTable, dispid, kind, arguments);
+}
+
+WebPage& WebBrowserComponent::page() {
+    if (page_) return *page_;
+    page_ = std::make_unique<WebPage>(
+        [this](const QUrl& asking, const QUrl& url) { return passes(asking, url); }, nullptr);
+    page_->setCommandHandler(
+        [this](const std::string& component, LPARAM command) { sendCommand(component, command); });
+    plugins_ = std::make_unique<PluginWindows>(*view_, *page_);
+    view_->open(*page_);
+    if (!awaited_.isEmpty()) page_->open(std::exchange(awaited_, QUrl()));
+    return *page_;
+}
+
+bool WebBrowserComponent::busy() const {
+    if (!page_) return !awaited_.isEmpty();
+    return (click_ && click_->pending()) || page_->busy() || plugins_->busy() || printer_->busy() ||
+           anyQuestionOpen();
+}
+
+void WebBrowserComponent::navigate(const std::string& address, const Variant& flags, const Variant&,
+                                   const Variant&, const Variant&) {
+    const auto* number = flags.get<std::int32_t>();
+    record(TraceNavigate{controlId(), address, number ? *number : 0});
+    const QUrl url = normalisedUrl(urlOfAddress(address));
+    if (!passes(QUrl(), url)) return;
+    // Asked only now: the page may have been made while a handler showed a message.
+    if (page_) {
+        page_->open(url);
+    } else {
+        awaited_ = url;
+    }
+}
+
+void WebBrowserComponent::refresh(const Variant&) { page().reload(); }
+
+std::shared_ptr<Dispatch> WebBrowserComponent::document() {
+    return std::make_shared<Document>(page(), *printer_);
+}
+
+bool WebBrowserComponent::passes(const QUrl& asking, const QUrl& url) {
+    const std::string address = addressOfUrl(url);
+    bool cancel = false;
+    std::array arguments = {Variant(address), Variant(std::int32_t{0}), Variant(std::string()),
+                            Variant(),        Variant(std::string()),   Variant(&cancel)};
+    site_.raiseEvent(beforeNavigateEvent, arguments);
+    if (!cancel && BrowserPolicy::instance().admit(addressOfUrl(asking), address)) return true;
+    record(TraceRefused{address});
+    return false;
+}
+
+void WebBrowserComponent::sendCommand(const std::string& component, LPARAM command) {
+    const ComponentModule* module = loadRegisteredClass(component);
+    if (!module) return;
+    const auto commands = module->pagePart.commands;
+    if (std::find(commands.begin(), commands.end(), command) == commands.end()) return;
+    const WindowTable& windows = WindowTable::instance();
+    const QWidget* own = windows.widget(windows.nearestHandle(view_.get()));
+    if (own) site_.sendMessage(windows.nearestHandle(own->parentWidget()), WM_COMMAND, 0, command);
+}
+
+int WebBrowserComponent::controlId() const {
+    const WindowTable& windows = WindowTable::instance();
+    const WindowEntry* entry = windows.find(windows.nearestHandle(view_.get()));
+    return entry ? entry->id : 0;
+}
+
+std::string WebBrowserComponent::url() const { return page_ ? addressOfUrl(page_->url()) : std::string(); }
+
+std::string WebBrowserComponent::title() const { return page_ ? toText(page_->title()) : std::string(); }
+
+std::string WebBrowserComponent::text() { return toText(textOf(page())); }
+
+std::string WebBrowserComponent::html() { return toText(htmlOf(page())); }
+
+std::optional<CRect> WebBrowserComponent::findLink(std::string_view linkText) {
+    return findLinkOf(page(), linkText);
+}
+
+bool WebBrowserComponent::clickLink(std::string_view linkText) {
+    const auto link = findLink(linkText);
+    if (!link) return false;
+    const CPoint middle{(link->left + link->right) / 2, (link->top + link->bottom) / 2};
+    click_ = std::make_unique<LinkClick>(page(), [this, middle] { view_->click(middle); });
+    return true;
+}
+
+void WebBrowserComponent::updatePluginWindows() {
+    if (plugins_) plugins_->update();
+}
+
+std::string WebBrowserComponent::pluginPicture(HWND window) {
+    return plugins_ ? plugins_->picture(window).toStdString() : std::string();
+}
+
+}  // namespace platform

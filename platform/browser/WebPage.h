@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QTimer>
+#include <QUrl>
+#include <QWebEnginePage>
+#include <functional>
+#include <string>
+#include <utility>
+
+#include "platform/base/Messages.h"
+#include "platform/browser/PageArrival.h"
+
+namespace platform {
+
+/// A page of the engine: wherever it wants to lead by itself first passes a gate.
+///
+/// The engine asks whether a navigation may go on while it is inside its own work; a dialog shown at that
+/// moment could load nothing. So a page's request is refused there, put to the gate once the engine has
+/// returned, and carried out as a navigation of our own.
+class WebPage : public QWebEnginePage {
+    Q_OBJECT
+
+  public:
+    /// Says whether a navigation may go on that the page at `asking` wants. The gate may run an event loop.
+    using Gate = std::function<bool(const QUrl& asking, const QUrl& url)>;
+
+    /// Takes a command that a component's part of the page sends (see PagePart): class id and number.
+    using CommandHandler = std::function<void(const std::string& classId, LPARAM command)>;
+
+    WebPage(Gate gate, QObject* parent);
+
+    void setCommandHandler(CommandHandler handler) { commandHandler_ = std::move(handler); }
+
+    /// Goes to an address that the gate has let pass, in its normalised form.
+    void open(const QUrl& url);
+    /// Loads the page again, without asking the gate.
+    void reload() { arrival_.reload(); }
+    /// Puts the selection on the clipboard, a moment later.
+    void copySelection();
+
+    /// Whether a navigation waits, a page is being loaded or the selection copied; a page that leads on to
+    /// another at once counts as loading until that other one has come.
+    bool busy() const { return waiting_ > 0 || copyLimit_.isActive() || arrival_.pending(); }
+
+  protected:
+    bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) override;
+
+  private:
+    void requestLater(const QUrl& url);
+    bool isCommand(const QUrl& url);
+    void go(const QUrl& asking, const QUrl& url);
+    void finished(bool arrived);
+
+    Gate gate_;
+    CommandHandler commandHandler_;
+    PageArrival arrival_{*this};
+    bool toldUnreachable_ = false;
+    QTimer copyLimit_;  // runs while the engine copies
+    int waiting_ = 0;   // navigations asked for by the page and not yet put to the gate
+};
+
+}  // namespace platform

@@ -1,0 +1,128 @@
+#include "platform/browser/WebView.h"
+
+#include <QApplication>
+#include <QCoreApplication>
+#include <QCursor>
+#include <QMouseEvent>
+#include <QPalette>
+#include <QShortcut>
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "platform/input/TabOrder.h"
+#include "platform/qt/QtChild.h"
+
+namespace platform {
+
+namespace {
+
+/// The zoom factors that the keys go through.
+constexpr std::array<double, 11> zoomSteps = {0.5, 0.67, 0.75, 0.9, 1.0, 1.1, 1.25, 1.5, 1.75, 2.0, 2.5};
+
+}  // namespace
+
+WebView::WebView(QWidget* parent) : QWebEngineView(parent) {
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setAcceptDrops(false);
+    QPalette colours = palette();
+    colours.setColor(QPalette::Window, Qt::white);
+    colours.setColor(QPalette::Base, Qt::white);
+    colours.setColor(QPalette::Text, Qt::black);
+    setPalette(colours);
+    addZoomKeys();
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget*, QWidget* winner) { watchFocus(winner); });
+}
+
+// The focus moves once more while the engine's widget goes.
+WebView::~WebView() { disconnect(qApp, nullptr, this, nullptr); }
+
+void WebView::open(QWebEnginePage& page) {
+    open_ = true;
+    setPage(&page);
+}
+
+// NOLINTBEGIN(bugprone-parent-virtual-call): the engine's own view would make itself a page.
+void WebView::showEvent(QShowEvent* event) {
+    open_ ? QWebEngineView::showEvent(event) : QWidget::showEvent(event);
+}
+
+void WebView::hideEvent(QHideEvent* event) {
+    open_ ? QWebEngineView::hideEvent(event) : QWidget::hideEvent(event);
+}
+// NOLINTEND(bugprone-parent-virtual-call)
+
+void WebView::watchFocus(QWidget* winner) {
+    if (!winner || !isAncestorOf(winner)) return;
+    winner->installEventFilter(this);
+    if (!isInSight(*this)) QMetaObject::invokeMethod(this, &WebView::passFocusOn, Qt::QueuedConnection);
+}
+
+/// Another page may come with another of the engine's widgets, which is to have the focus of the former. Qt
+/// would move it on as the tabulator does, into a link of the page.
+bool WebView::eventFilter(QObject* engineWidget, QEvent* event) {
+    QWidget* const focus = QApplication::focusWidget();
+    if (event->type() == QEvent::Hide && focus == engineWidget && isVisible()) {
+        focus->clearFocus();
+        QMetaObject::invokeMethod(this, &WebView::takeFocusBack, Qt::QueuedConnection);
+    }
+    return QWebEngineView::eventFilter(engineWidget, event);
+}
+
+/// By the tabulator the focus comes here too when the page is out of sight.
+void WebView::passFocusOn() {
+    QWidget* const focus = QApplication::focusWidget();
+    if (!focus || !isAncestorOf(focus) || isInSight(*this)) return;
+    if (!focusNextInSight(*focus, !(QApplication::keyboardModifiers() & Qt::ShiftModifier))) {
+        if (QWidget* const around = parentWidget()->parentWidget()) around->setFocus(Qt::OtherFocusReason);
+    }
+}
+
+void WebView::takeFocusBack() {
+    if (isVisible() && !QApplication::focusWidget()) setFocus(Qt::OtherFocusReason);
+}
+
+void WebView::click(CPoint point) {
+    // The engine's own widget, which takes the input.
+    QWidget* const target = focusProxy();
+    if (!target) return;
+    const QPointF local = target->mapFrom(this, QPointF(point.x, point.y));
+    const QPointF global = target->mapToGlobal(local);
+    const auto send = [&](QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons held) {
+        QMouseEvent event(type, local, global, button, held, Qt::NoModifier);
+        QCoreApplication::sendEvent(target, &event);
+    };
+    QCursor::setPos(global.toPoint());
+    send(QEvent::MouseMove, Qt::NoButton, Qt::NoButton);
+    send(QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+    send(QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
+}
+
+void WebView::addZoomKeys() {
+    const auto add = [this](const QKeySequence& keys, auto action) {
+        auto& shortcut = makeQtChild<QShortcut>(keys, this);
+        shortcut.setContext(Qt::WindowShortcut);
+        connect(&shortcut, &QShortcut::activated, this, action);
+    };
+    add(Qt::CTRL | Qt::Key_Plus, [this] { zoomBy(1); });
+    add(Qt::CTRL | Qt::Key_Equal, [this] { zoomBy(1); });
+    add(Qt::CTRL | Qt::Key_Minus, [this] { zoomBy(-1); });
+    add(Qt::CTRL | Qt::Key_0, [this] { zoomTo(1.0); });
+}
+
+void WebView::zoomBy(int steps) {
+    const auto nearest = std::min_element(zoomSteps.begin(), zoomSteps.end(), [this](double a, double b) {
+        return std::abs(a - zoomFactor()) < std::abs(b - zoomFactor());
+    });
+    const auto wanted = nearest - zoomSteps.begin() + steps;
+    const auto last = static_cast<std::ptrdiff_t>(zoomSteps.size()) - 1;
+    zoomTo(zoomSteps[static_cast<std::size_t>(std::clamp<std::ptrdiff_t>(wanted, 0, last))]);
+}
+
+void WebView::zoomTo(double factor) {
+    // Out of sight it keeps its size.
+    if (isInSight(*this)) setZoomFactor(factor);
+}
+
+}  // namespace platform

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QWebEngineView>
+
+#include "platform/base/Geometry.h"
+
+namespace platform {
+
+/// The widget that shows a page: white in any colour scheme, without a context menu, and zoomed with
+/// Ctrl and plus, minus or nought, wherever in its window the keyboard focus is.
+class WebView : public QWebEngineView {
+    Q_OBJECT
+
+  public:
+    explicit WebView(QWidget* parent);
+    ~WebView() override;
+
+    /// Gives it its page. Without one it is an empty white area, and the engine does not run for it.
+    void open(QWebEnginePage& page);
+
+    /// Presses and releases the left mouse button at a point of the view, as a person would.
+    void click(CPoint point);
+
+    bool eventFilter(QObject* engineWidget, QEvent* event) override;
+
+  protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+  private:
+    void watchFocus(QWidget* winner);
+    void takeFocusBack();
+    void passFocusOn();
+    void addZoomKeys();
+    void zoomBy(int steps);
+    void zoomTo(double factor);
+
+    bool open_ = false;
+};
+
+}  // namespace platform

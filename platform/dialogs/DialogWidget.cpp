@@ -1,0 +1,140 @@
+#include "platform/dialogs/DialogWidget.h"
+
+#include <QCloseEvent>
+#include <QScreen>
+#include <QWindow>
+
+#include "platform/dialogs/Dialog.h"
+#include "platform/dialogs/DialogControls.h"
+#include "platform/dialogs/OwnerWindow.h"
+#include "platform/drawing/LightPalette.h"
+#include "platform/drawing/ProgramFont.h"
+#include "platform/machine/Machine.h"
+#include "platform/qt/QtConvert.h"
+#include "platform/qt/WindowTable.h"
+
+namespace platform {
+
+namespace {
+
+/// As high as the letters of which the dialog units are made.
+constexpr int fontPixels = 11;
+
+QMargins frameByMetrics() {
+    if (!hasMachine()) return {};
+    const int side = machine().metric(SM_CXDLGFRAME);
+    const int edge = machine().metric(SM_CYDLGFRAME);
+    return {side, edge + machine().metric(SM_CYCAPTION), side, edge};
+}
+
+Qt::WindowFlags windowFlagsOf(DialogFrame frame) {
+    switch (frame) {
+        case DialogFrame::tool:
+            return Qt::Tool | Qt::FramelessWindowHint;
+        case DialogFrame::plain:
+            // A click has some window managers raise it, also before the dialogs that belong to it.
+            return Qt::SplashScreen | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
+                   Qt::WindowDoesNotAcceptFocus | Qt::WindowTransparentForInput;
+        case DialogFrame::window:
+            break;
+    }
+    return Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
+}
+
+}  // namespace
+
+DialogWidget::DialogWidget(CDialog& owner, const DialogTemplate& drawnUp, QWidget* parent)
+    : SurfaceWidget(owner, parent, 0), frame_(*this, drawnUp.frame) {
+    setWindowFlags(windowFlagsOf(drawnUp.frame));
+    stayBefore(*this, parent);
+    // Who opens a box of tools goes on where he is.
+    setAttribute(Qt::WA_ShowWithoutActivating, drawnUp.frame != DialogFrame::window);
+    setWindowTitle(toQt(drawnUp.caption));
+    setPalette(lightPalette());
+    setFont(programFont(fontPixels));
+    createControls(drawnUp.controls, *this);
+    const CSize client = dialogPixels(drawnUp.size);
+    setFixedSize(QSize(client.cx, client.cy).grownBy(frame_.margins()));
+    centre();
+}
+
+DialogWidget::~DialogWidget() { finish(); }
+
+QMargins DialogWidget::windowFrame() const {
+    return frame_.margins().isNull() ? frameByMetrics() : QMargins();
+}
+
+void DialogWidget::centre() {
+    const QRect around = parentWidget() ? parentWidget()->frameGeometry() : screen()->availableGeometry();
+    QRect outer = rect().marginsAdded(windowFrame());
+    outer.moveCenter(around.center());
+    DialogWidget::place(outer);
+}
+
+QRect DialogWidget::outerRect() const {
+    return {frameGeometry().topLeft(), rect().marginsAdded(windowFrame()).size()};
+}
+
+void DialogWidget::place(const QRect& rect) {
+    const QRect client = rect.marginsRemoved(windowFrame());
+    setFixedSize(client.size());
+    move(rect.topLeft());
+    sizeChanged();
+}
+
+void DialogWidget::showAs(int showCommand) {
+    const bool leaves = showCommand == SW_HIDE && isActiveWindow() && parentWidget();
+    SurfaceWidget::showAs(showCommand);
+    // The window behind goes on, not just any of the desktop's.
+    if (leaves) parentWidget()->activateWindow();
+}
+
+void DialogWidget::focusFirstControl() {
+    for (const HWND control : dialogControls(handle())) {
+        QWidget* const widget = WindowTable::instance().widget(control);
+        if (!(widget->focusPolicy() & Qt::TabFocus) || !widget->isEnabled() || widget->isHidden()) continue;
+        widget->setFocus(Qt::OtherFocusReason);
+        return;
+    }
+}
+
+void DialogWidget::runModal() {
+    if (finished_) return;
+    QEventLoop loop;
+    loop_ = &loop;
+    setWindowModality(Qt::ApplicationModal);
+    show();
+    activateWindow();
+    loop.exec();
+}
+
+void DialogWidget::finish() {
+    finished_ = true;
+    if (loop_) loop_->quit();
+}
+
+void DialogWidget::end() {
+    finish();
+    SurfaceWidget::end();
+}
+
+bool DialogWidget::event(QEvent* event) {
+    // A browser in the dialog may have Qt make the native window anew, and show it before it is modal again.
+    if (event->type() == QEvent::WinIdChange && loop_ && windowHandle()) {
+        windowHandle()->setModality(Qt::ApplicationModal);
+    }
+    return frame_.takes(*event) || SurfaceWidget::event(event);
+}
+
+void DialogWidget::paintEvent(QPaintEvent* event) {
+    SurfaceWidget::paintEvent(event);
+    frame_.paint();
+}
+
+void DialogWidget::closeEvent(QCloseEvent* event) {
+    // The program decides whether and when the window goes.
+    event->ignore();
+    send(WM_CLOSE);
+}
+
+}  // namespace platform

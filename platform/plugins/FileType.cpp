@@ -1,0 +1,48 @@
+#include "platform/plugins/FileType.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "platform/text/CodePage1253.h"
+
+namespace platform {
+
+namespace {
+
+using Entry = std::pair<std::string_view, std::string_view>;
+
+constexpr std::array<Entry, 23> mediaTypes = {{
+    {"", "text/html"},       {"htm", "text/html"},      {"html", "text/html"},   {"txt", "text/plain"},
+    {"css", "text/css"},     {"js", "text/javascript"}, {"xml", "text/xml"},     {"gif", "image/gif"},
+    {"jpg", "image/jpeg"},   {"jpeg", "image/jpeg"},    {"png", "image/png"},    {"bmp", "image/bmp"},
+    {"ico", "image/x-icon"}, {"svg", "image/svg+xml"},  {"webp", "image/webp"},  {"webm", "video/webm"},
+    {"mp4", "video/mp4"},    {"ogv", "video/ogg"},      {"ogg", "audio/ogg"},    {"mp3", "audio/mpeg"},
+    {"wav", "audio/wav"},    {"ttf", "font/ttf"},       {"woff2", "font/woff2"},
+}};
+
+constexpr std::size_t searchedForCharset = 1024;
+
+}  // namespace
+
+std::string extensionOf(std::string_view path) {
+    const std::string_view name = path.substr(path.find_last_of("\\/") + 1);
+    const std::size_t stop = name.rfind('.');
+    return stop == name.npos ? std::string() : toLower(name.substr(stop + 1));
+}
+
+std::string_view mediaTypeOf(std::string_view path) {
+    const std::string extension = extensionOf(path);
+    const auto found = std::find_if(mediaTypes.begin(), mediaTypes.end(),
+                                    [&](const Entry& entry) { return entry.first == extension; });
+    return found == mediaTypes.end() ? "application/octet-stream" : found->second;
+}
+
+bool declaresCharset(std::string_view head) {
+    if (head.starts_with("\xEF\xBB\xBF") || head.starts_with("\xFF\xFE") || head.starts_with("\xFE\xFF")) {
+        return true;
+    }
+    return toLower(head.substr(0, searchedForCharset)).find("charset=") != std::string::npos;
+}
+
+}  // namespace platform

@@ -1,0 +1,58 @@
+#include "platform/plugins/VideoConversion.h"
+
+#include <QStringList>
+
+#include "platform/plugins/ProcessStream.h"
+
+namespace platform {
+
+namespace {
+
+/// Only these kinds of file, whatever the name says: others, such as playlists, would open further files.
+QStringList trustedInput(const QString& file) {
+    return {QStringLiteral("-protocol_whitelist"),
+            QStringLiteral("file,pipe"),
+            QStringLiteral("-format_whitelist"),
+            QStringLiteral("avi,mov,mp4,mpeg,mpegvideo,mpegts,matroska,webm,ogg,asf,flv"),
+            QStringLiteral("-i"),
+            QStringLiteral("file:") + file};
+}
+
+/// Pictures of square pixels, as browsers take them, and stereo sound where there is any. Gaps between
+/// pictures are filled: the engine would leave out all that follows one, up to the next key frame.
+QStringList webm() {
+    return QStringLiteral(
+               "-map 0:v:0 -map 0:a:0? -vf "
+               "fps='min(source_fps,60)':start_time=0,scale=trunc(iw*sar/2)*2:trunc(ih/2)*2,setsar=1 "
+               "-pix_fmt yuv420p "
+               "-c:v libvpx -deadline realtime -cpu-used 6 -auto-alt-ref 0 -g 30 -b:v 2M -crf 8 "
+               "-c:a libopus -b:a 96k -ac 2 -f webm pipe:1")
+        .split(u' ');
+}
+
+QString seconds(double number) { return QString::number(number, 'f', 3); }
+
+}  // namespace
+
+std::unique_ptr<QIODevice> convertedVideo(const QString& file, double from, double length) {
+    const QStringList part = {QStringLiteral("-nostdin"),
+                              QStringLiteral("-v"),
+                              QStringLiteral("error"),
+                              QStringLiteral("-ss"),
+                              seconds(from),
+                              QStringLiteral("-t"),
+                              seconds(length)};
+    return std::make_unique<ProcessStream>(QStringLiteral("ffmpeg"), part + trustedInput(file) + webm());
+}
+
+std::unique_ptr<QIODevice> videoDescription(const QString& file) {
+    const QStringList arguments = {QStringLiteral("-v"),
+                                   QStringLiteral("error"),
+                                   QStringLiteral("-of"),
+                                   QStringLiteral("json"),
+                                   QStringLiteral("-show_entries"),
+                                   QStringLiteral("format=duration:stream=codec_type")};
+    return std::make_unique<ProcessStream>(QStringLiteral("ffprobe"), arguments + trustedInput(file));
+}
+
+}  // namespace platform

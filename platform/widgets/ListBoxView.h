@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QBasicTimer>
+#include <QListView>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/base/ControlMessages.h"
+
+namespace platform {
+
+/// The entries of a list box, in code page 1253. A sorted box has them in order whenever they are looked at,
+/// which costs one sorting however many were added before.
+class ListBoxEntries : public QAbstractListModel {
+  public:
+    explicit ListBoxEntries(bool sorted) : sorted_(sorted) {}
+
+    void add(std::string_view text);
+    void clear();
+    int count() const { return static_cast<int>(entries_.size()); }
+    const std::string& at(int index) const;
+    /// The first entry that begins with `prefix` in any letter case, looked for from the one after `after` on
+    /// and then from the first; −1 when there is none.
+    int find(int after, std::string_view prefix) const;
+
+    int rowCount(const QModelIndex& parent) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+
+    /// Puts the entries added since the last time in their places and shows them.
+    void settle();
+
+  private:
+    void putInOrder() const;
+
+    bool sorted_;
+    mutable bool inOrder_ = true;
+    mutable std::vector<std::string> entries_;
+    int shown_ = 0;
+};
+
+/// A list box in which one entry can be selected.
+class ListBoxView : public QListView {
+  public:
+    ListBoxView(DWORD style, QWidget& parent);
+
+    ListBoxEntries& entries() { return entries_; }
+    /// Shows what was added since, when the program is back in its event loop.
+    void settleLater();
+    /// The index of the selected entry, −1 for none.
+    int selected() const;
+    /// Selects an entry and brings it into view; −1 selects none.
+    void select(int index);
+
+  protected:
+    void timerEvent(QTimerEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+
+  private:
+    ListBoxEntries entries_;
+    QBasicTimer settling_;
+    bool bySelect_ = false;
+};
+
+}  // namespace platform

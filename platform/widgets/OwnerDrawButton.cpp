@@ -1,0 +1,47 @@
+#include "platform/widgets/OwnerDrawButton.h"
+
+#include <QPainter>
+
+#include "platform/drawing/DrawingTarget.h"
+#include "platform/drawing/Surface.h"
+#include "platform/widgets/Button.h"
+#include "platform/windows/ControlLink.h"
+
+namespace platform {
+
+namespace {
+
+/// Draws on a picture that lives as long as a paint event.
+class PictureDC : public CDC {
+  public:
+    explicit PictureDC(Surface& surface) : CDC(std::make_unique<Picture>(surface)) {}
+
+  private:
+    class Picture : public Target {
+      public:
+        explicit Picture(Surface& surface) : surface_(surface) {}
+        QImage* image() override { return &surface_.image(); }
+
+      private:
+        Surface& surface_;
+    };
+};
+
+}  // namespace
+
+OwnerDrawButton::OwnerDrawButton(QWidget& parent) : QAbstractButton(&parent) {
+    connect(this, &QAbstractButton::clicked, this, [this] { sendCommand(*this, BN_CLICKED); });
+}
+
+void OwnerDrawButton::paintEvent(QPaintEvent*) {
+    const ControlLink* const link = ControlLink::of(this);
+    auto* const object = link ? dynamic_cast<CButton*>(link->object()) : nullptr;
+    if (!object) return;
+    Surface surface;
+    surface.resize(size(), devicePixelRatioF());
+    PictureDC dc(surface);
+    object->DrawItem({dc, {0, 0, width(), height()}, isDown()});
+    QPainter(this).drawImage(0, 0, surface.image());
+}
+
+}  // namespace platform

@@ -1,0 +1,84 @@
+#include "platform/widgets/ReportView.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QMouseEvent>
+
+#include "platform/widgets/Collation.h"
+#include "platform/windows/ControlLink.h"
+
+namespace platform {
+
+ReportView::ReportView(DWORD style, QWidget& parent)
+    : QTreeWidget(&parent), sorted_(style & LVS_SORTASCENDING) {
+    setColumnCount(0);
+    setRootIsDecorated(false);
+    setItemsExpandable(false);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setEditTriggers(NoEditTriggers);
+    header()->setSectionsClickable(true);
+    header()->setSectionsMovable(false);
+    header()->setStretchLastSection(false);
+    header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    connect(header(), &QHeaderView::sectionClicked, this,
+            [this](int column) { tell(LVN_COLUMNCLICK, column); });
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget* from) {
+        if (from == this) tell(NM_KILLFOCUS);
+    });
+}
+
+int ReportView::addRow(const QString& text) {
+    const int row = sorted_ ? placeFor(text) : topLevelItemCount();
+    auto item = std::make_unique<QTreeWidgetItem>(QStringList(text));
+    insertTopLevelItem(row, item.release());
+    return row;
+}
+
+int ReportView::selectedRow() const {
+    const QList<QTreeWidgetItem*> chosen = selectedItems();
+    return chosen.isEmpty() ? -1 : indexOfTopLevelItem(chosen.front());
+}
+
+void ReportView::mousePressEvent(QMouseEvent* event) {
+    if (!itemAt(event->pos())) clearSelection();
+    QTreeWidget::mousePressEvent(event);
+}
+
+void ReportView::mouseReleaseEvent(QMouseEvent* event) {
+    QTreeWidget::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton) tell(NM_CLICK);
+}
+
+void ReportView::mouseDoubleClickEvent(QMouseEvent* event) {
+    QTreeWidget::mouseDoubleClickEvent(event);
+    tell(NM_DBLCLK);
+}
+
+void ReportView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+    QTreeWidget::selectionChanged(selected, deselected);
+    tell(LVN_ITEMCHANGED);
+}
+
+void ReportView::tell(int code, int column) {
+    NMLISTVIEW notification;
+    notification.iItem = selectedRow();
+    notification.iSubItem = column;
+    sendNotification(*this, code, notification);
+}
+
+int ReportView::placeFor(const QString& text) const {
+    int low = 0;
+    int high = topLevelItemCount();
+    while (low < high) {
+        const int middle = low + (high - low) / 2;
+        if (greekOrder().compare(topLevelItem(middle)->text(0), text) <= 0) {
+            low = middle + 1;
+        } else {
+            high = middle;
+        }
+    }
+    return low;
+}
+
+}  // namespace platform

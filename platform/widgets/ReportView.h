@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QTreeWidget>
+
+#include "platform/base/ControlMessages.h"
+
+namespace platform {
+
+/// A list view in report mode: rows of texts under column headers, of which one can be selected.
+class ReportView : public QTreeWidget {
+  public:
+    ReportView(DWORD style, QWidget& parent);
+
+    /// The index of the new row: its place in the order of column 0 in a sorted list, else the last.
+    int addRow(const QString& text);
+    /// The index of the selected row, −1 for none.
+    int selectedRow() const;
+
+  protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+
+  private:
+    void tell(int code, int column = -1);
+    int placeFor(const QString& text) const;
+
+    bool sorted_;
+};
+
+}  // namespace platform

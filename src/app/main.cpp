@@ -1,0 +1,48 @@
+#include "platform/base/Resources.h"
+#include "platform/dialogs/MessageBox.h"
+#include "platform/dialogs/Progress.h"
+#include "platform/framework/Desktop.h"
+#include "platform/framework/Run.h"
+#include "platform/text/CodePage1253.h"
+#include "platform/text/GreekLiteral.h"
+#include "src/app/KalyxoApp.h"
+#include "src/host/OwnMachine.h"
+#include "src/resources/ResourceTable.h"
+
+namespace {
+
+using namespace platform::literals;
+
+constexpr int kNoMachine = 1;
+
+/// `problem` names the file, in UTF-8.
+void tellNoMachine(const std::string& problem) {
+    platform::AfxMessageBox(std::string("Το Kalyxo δεν μπορεί να ξεκινήσει.\r\n\r\n"_gr) +
+                            platform::fromUtf8(problem) +
+                            std::string("\r\n\r\nΔιορθώστε ή διαγράψτε το αρχείο και ξεκινήστε πάλι."_gr));
+}
+
+/// Null when there is none; the user then knows why.
+std::unique_ptr<platform::Machine> openMachine(const platform::Desktop& desktop) {
+    std::optional<platform::CProgress> progress("Ετοιμάζεται ο φάκελος του Kalyxo…"_gr);
+    auto opened = kalyxo::OpenOwnMachine(
+        kalyxo::OwnMachineFolder(), kalyxo::FindInstalledFiles(kalyxo::RunningProgramsFolder()),
+        {desktop.screen(), desktop.metrics(), desktop.printer()}, kalyxo::PresentMedia(), progress->Step());
+    const bool cancelled = progress->Cancelled();
+    progress.reset();
+    if (opened) return std::move(*opened.value);
+    if (!cancelled) tellNoMachine(opened.error);
+    return nullptr;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    platform::SetResources(kalyxo::ProgramResources());
+    const platform::Desktop desktop(argc, argv);
+    const auto opened = openMachine(desktop);
+    if (!opened) return kNoMachine;
+    platform::setMachine(opened.get());
+    kalyxo::CKalyxoApp program;
+    return platform::RunProgram(program);
+}

@@ -1,0 +1,107 @@
+#include "src/components/HostedComponents.h"
+
+#include <array>
+
+#include "platform/base/Resources.h"
+#include "src/components/ComponentCheck.h"
+#include "src/components/MoleculeComponents.h"
+#include "src/resources/CommandIds.h"
+#include "src/resources/ResourceIds.h"
+
+namespace kalyxo {
+
+using platform::CRect;
+using platform::CWnd;
+using platform::UINT;
+using platform::WS_CHILD;
+using platform::WS_VISIBLE;
+
+namespace {
+
+/// What creating one component takes.
+struct Creation {
+    CWnd& view;
+    const std::string& programFolder;
+
+    /// Two tries, the second after registering the file.
+    template <class Wrapper>
+    bool create(Wrapper& wrapper, std::string_view windowName, UINT id, std::string_view file) const {
+        const CRect client = view.GetClientRect();
+        if (wrapper.Create(windowName, WS_CHILD, client, view, id)) return true;
+        RegisterComponentFile(programFolder, file);
+        return wrapper.Create(windowName, WS_CHILD, client, view, id);
+    }
+};
+
+/// The browser starts out of sight to the left of the client area.
+CRect browserParkedIn(const CWnd& view) { return {-800, 0, -500, view.GetClientRect().Height()}; }
+
+struct RequiredVersion {
+    std::string ComponentVersions::*reported;
+    std::string_view key;
+    std::string_view minimum;
+};
+
+constexpr std::array kRequired = {
+    RequiredVersion{&ComponentVersions::dataAn, "KZDATAAN", "1.0.032"},
+    RequiredVersion{&ComponentVersions::periodic, "KYPT", "1.0.023"},
+    RequiredVersion{&ComponentVersions::select, "KZSELECT", "1.0.021"},
+    RequiredVersion{&ComponentVersions::molCtrl, "KYMOL", "1.0.012"},
+    RequiredVersion{&ComponentVersions::zoom, "KZZOOM", "1.0.010"},
+};
+
+}  // namespace
+
+std::optional<std::string> HostedComponents::Create(CWnd& view, const ComponentSurroundings& surroundings,
+                                                    ComponentVersions& versions,
+                                                    SelectWindows& selectWindows) {
+    const Creation creation{view, surroundings.programFolder};
+    if (!creation.create(periodicTable, "PTable", IDC_PERIODIC_TABLE, kPeriodTableFile)) {
+        return std::string(platform::LoadString(IDS_NO_PERIODIC_TABLE));
+    }
+    versions.periodic = periodicTable.Version();
+    periodicTable.SetDataFolder(surroundings.dataFolder);
+
+    if (!creation.create(select, "", IDC_SELECT, kSelectFile)) {
+        return "Browser selection component not installed correctly";
+    }
+    select.Initialise(kSelectHostCode, surroundings.dataFolder, view.GetSafeHwnd());
+    selectWindows.edit = select.GetEditWindow();
+    selectWindows.target = select.GetAuxHandle();
+    versions.select = select.Version();
+
+    if (!creation.create(dataAnalyser, "DataAn", IDC_DATA_ANALYSER, kDataAnalFile)) {
+        return "Data Analyser component not installed correctly";
+    }
+    dataAnalyser.Initialise(kDataAnalHostCode, surroundings.dataFolder);
+    versions.dataAn = dataAnalyser.Version();
+
+    CMolCtrl molCtrl;
+    if (!creation.create(molCtrl, "MolCtrl", IDC_VERSION_CHECK, kMolCtrlFile)) {
+        return "Molecule Controller component not installed correctly";
+    }
+    versions.molCtrl = molCtrl.Version();
+    molCtrl.DestroyWindow();
+
+    CKzZoom zoom;
+    if (!creation.create(zoom, "KzZoom", IDC_VERSION_CHECK, kKzZoomFile)) {
+        return "Molecule Zoom component not installed correctly";
+    }
+    versions.zoom = zoom.GetVersion();
+    zoom.DestroyWindow();
+
+    if (!browser.Create("Web", WS_CHILD | WS_VISIBLE, browserParkedIn(view), view, IDC_WEB)) {
+        return std::string(platform::LoadString(IDS_NO_BROWSER));
+    }
+    return std::nullopt;
+}
+
+std::vector<std::string_view> OutdatedComponents(const ComponentVersions& versions) {
+    std::vector<std::string_view> keys;
+    for (const RequiredVersion& row : kRequired) {
+        if (versions.*row.reported < row.minimum) keys.push_back(row.key);
+    }
+    return keys;
+}
+
+}  // namespace kalyxo

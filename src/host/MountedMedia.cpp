@@ -1,0 +1,149 @@
+#include "src/host/MountedMedia.h"
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+#include <initializer_list>
+#include <iterator>
+#include <optional>
+#include <sstream>
+#include <system_error>
+
+namespace kalyxo {
+
+namespace fs = std::filesystem;
+
+using platform::DriveType;
+
+namespace {
+
+constexpr std::array<std::string_view, 2> kDiscTypes = {"iso9660", "udf"};
+constexpr std::array<std::string_view, 17> kRemoteTypes = {"9p",
+                                                           "afs",
+                                                           "ceph",
+                                                           "cifs",
+                                                           "davfs",
+                                                           "fuse.ceph",
+                                                           "fuse.curlftpfs",
+                                                           "fuse.davfs",
+                                                           "fuse.glusterfs",
+                                                           "fuse.rclone",
+                                                           "fuse.s3fs",
+                                                           "fuse.sshfs",
+                                                           "ncpfs",
+                                                           "nfs",
+                                                           "nfs4",
+                                                           "smb3",
+                                                           "virtiofs"};
+constexpr std::array<std::string_view, 3> kUserPlaces = {"/media", "/mnt", "/run/media"};
+constexpr std::array<std::string_view, 8> kSystemPlaces = {"/boot", "/dev", "/etc", "/proc",
+                                                           "/run",  "/sys", "/usr", "/var"};
+
+/// The fields of a line that count here.
+struct MountLine {
+    std::string device;
+    std::string folder;
+    std::string type;
+};
+
+bool isOctal(char c) { return c >= '0' && c <= '7'; }
+
+/// Blanks, line ends and backslashes of names are written as a backslash with three octal digits.
+std::string withoutEscapes(std::string_view text) {
+    std::string result;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const std::string_view digits = text.substr(i + 1, 3);
+        if (text[i] == '\\' && digits.size() == 3 && std::all_of(digits.begin(), digits.end(), isOctal)) {
+            result += static_cast<char>((digits[0] - '0') * 64 + (digits[1] - '0') * 8 + (digits[2] - '0'));
+            i += 3;
+        } else {
+            result += text[i];
+        }
+    }
+    return result;
+}
+
+std::optional<MountLine> readLine(const std::string& line) {
+    MountLine fields;
+    std::istringstream in(line);
+    if (!(in >> fields.device >> fields.folder >> fields.type)) return std::nullopt;
+    fields.device = withoutEscapes(fields.device);
+    fields.folder = withoutEscapes(fields.folder);
+    return fields;
+}
+
+template <std::size_t N>
+bool isOneOf(std::string_view name, const std::array<std::string_view, N>& names) {
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+template <std::size_t N>
+bool liesBelowOneOf(std::string_view folder, const std::array<std::string_view, N>& places) {
+    return std::any_of(places.begin(), places.end(), [folder](std::string_view place) {
+        return folder.starts_with(place) && (folder.size() == place.size() || folder[place.size()] == '/');
+    });
+}
+
+/// Whether `part` is the disk's own device or one of its partitions: `sdb`, `sdb1`, `mmcblk0p1`.
+bool isPartOf(std::string_view part, std::string_view disk) {
+    if (!part.starts_with(disk)) return false;
+    std::string_view number = part.substr(disk.size());
+    if (number.starts_with('p')) number.remove_prefix(1);
+    return number.find_first_not_of("0123456789") == number.npos;
+}
+
+std::optional<DriveType> diskType(std::string_view device, bool inUserPlace, const RemovableTexts& texts) {
+    const std::string_view part = device.substr(device.rfind('/') + 1);
+    if (isPartOf(part, "sr")) return DriveType::cdrom;
+    // Of a card the host tells that its reader stays, not that the card goes.
+    const bool isCard = part.starts_with("mmcblk") && inUserPlace;
+    const bool goesOut = std::any_of(texts.begin(), texts.end(), [part](const auto& disk) {
+        return disk.second.starts_with('1') && isPartOf(part, disk.first);
+    });
+    if (isCard || goesOut) return DriveType::removable;
+    return inUserPlace ? std::optional(DriveType::fixed) : std::nullopt;
+}
+
+std::optional<DriveType> typeOf(const MountLine& line, const RemovableTexts& removable) {
+    const bool inUserPlace = liesBelowOneOf(line.folder, kUserPlaces);
+    if (line.folder == "/" || (liesBelowOneOf(line.folder, kSystemPlaces) && !inUserPlace)) return {};
+    if (isOneOf(line.type, kDiscTypes)) return DriveType::cdrom;
+    if (isOneOf(line.type, kRemoteTypes)) return DriveType::remote;
+    if (line.type == "tmpfs") return inUserPlace ? std::optional(DriveType::ramdisk) : std::nullopt;
+    return line.device.starts_with("/dev/") ? diskType(line.device, inUserPlace, removable) : std::nullopt;
+}
+
+std::string textOf(const fs::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+RemovableTexts presentRemovableTexts() {
+    RemovableTexts texts;
+    std::error_code error;
+    for (fs::directory_iterator at("/sys/block", error), end; !error && at != end; at.increment(error)) {
+        texts[at->path().filename().string()] = textOf(at->path() / "removable");
+    }
+    return texts;
+}
+
+}  // namespace
+
+std::vector<MountedMedium> ReadMountedMedia(std::string_view mounts, const RemovableTexts& removable) {
+    std::map<std::string, std::optional<DriveType>> types;
+    std::istringstream in{std::string(mounts)};
+    for (std::string text; std::getline(in, text);) {
+        if (const auto line = readLine(text)) types[line->folder] = typeOf(*line, removable);
+    }
+    std::vector<MountedMedium> media;
+    for (const auto& [folder, type] : types) {
+        if (type) media.push_back({folder, *type});
+    }
+    return media;
+}
+
+std::vector<MountedMedium> PresentMedia() {
+    return ReadMountedMedia(textOf("/proc/mounts"), presentRemovableTexts());
+}
+
+}  // namespace kalyxo

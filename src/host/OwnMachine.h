@@ -1,0 +1,41 @@
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/files/Loaded.h"
+#include "platform/files/ProgressStep.h"
+#include "platform/machine/Machine.h"
+#include "src/host/InstalledFiles.h"
+#include "src/host/MountedMedia.h"
+
+namespace kalyxo {
+
+/// The screen and the printer that the program finds at this start.
+struct PresentScreen {
+    platform::ScreenConfig screen;
+    std::map<std::string, int, std::less<>> metrics;  ///< those that follow from the screen, by name
+    platform::PrinterConfig printer = {};
+};
+
+/// The user's machine folder: `kalyxo` in $XDG_DATA_HOME or, without it, in ~/.local/share. Empty when
+/// neither is known.
+std::filesystem::path OwnMachineFolder();
+
+/// Opens the user's machine. At the first start it is made from what is installed, with the host's whole file
+/// system as drive Z:. At every start the screen's measures are those of the present screen, component
+/// modules that differ from the installed ones are replaced, a compact disc whose folder is gone is the
+/// installed content, and the media are drives (see `AddMediaDrives`). Several programs may do so at once:
+/// one makes the machine, the others wait for it. The error names the file that is damaged, which is left as
+/// it is, or what could not be made. `step` is told of the modules, which may lie on a slow medium; once it
+/// cancels, there is no machine, and the next start goes on where this one stopped.
+platform::Loaded<std::unique_ptr<platform::Machine>> OpenOwnMachine(const std::filesystem::path& folder,
+                                                                    const InstalledFiles& installed,
+                                                                    const PresentScreen& present,
+                                                                    const std::vector<MountedMedium>& media,
+                                                                    const platform::ProgressStep& step = {});
+
+}  // namespace kalyxo

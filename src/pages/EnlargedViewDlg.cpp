@@ -1,0 +1,86 @@
+#include "src/pages/EnlargedViewDlg.h"
+
+#include <utility>
+
+#include "platform/dialogs/DataExchange.h"
+#include "platform/drawing/DC.h"
+#include "platform/machine/Machine.h"
+#include "platform/windows/MessageMap.h"
+#include "src/pages/EnlargedPages.h"
+#include "src/resources/ResourceIds.h"
+
+namespace kalyxo {
+
+using namespace platform;
+
+namespace {
+
+struct InnerSize {
+    int width;
+    int height;
+    int extraWidth;  ///< of the browser, beyond the dialog
+};
+
+InnerSize innerSize(EnlargedViewMode mode) {
+    if (mode == EnlargedViewMode::plainPage) return {580, 380, 0};
+    return {650, 530, machine().metric(SM_CXVSCROLL) + 14};
+}
+
+constexpr CSize kButton{60, 20};
+/// That of the page around a film, which is a little smaller than the dialog.
+constexpr COLORREF kGround = RGB(192, 192, 192);
+/// Below the browser, for the button.
+constexpr int kButtonStrip = 26;
+constexpr int kButtonFromBottom = 22;
+
+}  // namespace
+
+EnlargedViewLayout LayOutEnlargedView(EnlargedViewMode mode) {
+    const InnerSize inner = innerSize(mode);
+    const Machine& system = machine();
+    const CSize outer{inner.width + 2 * system.metric(SM_CXDLGFRAME),
+                      inner.height + system.metric(SM_CYCAPTION) + 2 * system.metric(SM_CYDLGFRAME)};
+    return {
+        CRect::at((system.metric(SM_CXSCREEN) - outer.cx) / 2, (system.metric(SM_CYMAXIMIZED) - outer.cy) / 2,
+                  outer.cx, outer.cy),
+        CRect::at(0, 0, inner.width + inner.extraWidth, inner.height - kButtonStrip),
+        CRect::at((outer.cx - kButton.cx) / 2, inner.height - kButtonFromBottom, kButton.cx, kButton.cy),
+    };
+}
+
+const CRuntimeClass CEnlargedViewDlg::runtimeClass{"CEnlargedViewDlg"};
+
+CEnlargedViewDlg::CEnlargedViewDlg(EnlargedViewMode mode, std::string address, std::string caption)
+    : CDialog(IDD_ENLARGED_VIEW),
+      m_mode(mode),
+      m_strAddress(std::move(address)),
+      m_strCaption(std::move(caption)) {}
+
+const MessageMap* CEnlargedViewDlg::GetMessageMap() const {
+    static constexpr MessageMapEntry entries[] = {
+        OnMessage<WM_ERASEBKGND, &CEnlargedViewDlg::OnEraseBkgnd>()};
+    static const MessageMap map{CDialog::GetMessageMap(), entries};
+    return &map;
+}
+
+bool CEnlargedViewDlg::OnEraseBkgnd(CDC& dc) {
+    if (m_mode == EnlargedViewMode::plainPage) return false;
+    dc.FillSolidRect(GetClientRect(), kGround);
+    return true;
+}
+
+void CEnlargedViewDlg::DoDataExchange(CDataExchange& exchange) { DDX_Control(exchange, IDOK, m_ok); }
+
+bool CEnlargedViewDlg::OnInitDialog() {
+    const bool defaultFocus = CDialog::OnInitDialog();
+    SetWindowText(m_strCaption);
+    const EnlargedViewLayout layout = LayOutEnlargedView(m_mode);
+    MoveWindow(layout.outer);
+    m_ok.MoveWindow(layout.button);
+    if (m_mode == EnlargedViewMode::enlargedView) m_strAddress += kEnlargedPage;
+    m_browser.Create({}, WS_VISIBLE, layout.browser, *this, IDC_ENLARGED_BROWSER);
+    m_browser.Navigate(m_strAddress);
+    return defaultFocus;
+}
+
+}  // namespace kalyxo

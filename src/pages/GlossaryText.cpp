@@ -1,0 +1,53 @@
+#include "src/pages/GlossaryText.h"
+
+#include <vector>
+
+#include "platform/files/TextReader.h"
+#include "platform/text/CodePage1253.h"
+#include "src/pages/GlossaryMarkup.h"
+
+namespace kalyxo {
+
+using platform::TextReader;
+
+namespace {
+
+/// Room for a line and its end: longer lines count as several.
+constexpr std::size_t kTitleRoom = 50;
+constexpr std::size_t kLineRoom = 4999;
+constexpr std::size_t kShortestDefinition = 5;
+
+std::string_view untilLineEnd(std::string_view line) {
+    using namespace std::string_view_literals;
+    return line.substr(0, line.find_first_of("\n\0"sv));
+}
+
+}  // namespace
+
+bool IsEnlargedViewLink(std::string_view url) {
+    constexpr std::size_t length = 8;
+    return url.size() == length && platform::equalsNoCase(url.substr(3), "a.htm");
+}
+
+std::optional<std::string> GlossaryFile(std::string_view url) {
+    const std::string lower = platform::toLower(url);
+    const std::size_t at = lower.find(kGlossaryPrefix);
+    if (at == std::string::npos) return std::nullopt;
+    return lower.substr(at + kGlossaryPrefix.size());
+}
+
+std::optional<std::string> ReadDefinition(const platform::FileSystem& files, std::string_view path) {
+    std::optional<TextReader> reader = TextReader::open(files, path);
+    if (!reader) return std::nullopt;
+    std::vector<char> line(kLineRoom);
+    reader->readLine(line.data(), kTitleRoom);
+    std::string text;
+    while (const std::size_t length = reader->readLine(line.data(), line.size())) {
+        if (!text.empty()) text += "\r\n";
+        text += untilLineEnd({line.data(), length});
+    }
+    if (text.size() < kShortestDefinition) return std::nullopt;
+    return text;
+}
+
+}  // namespace kalyxo

@@ -1,0 +1,30 @@
+#include "src/pages/History.h"
+
+#include <algorithm>
+
+namespace kalyxo {
+
+void History::Record(const HistoryEntry& place) {
+    if (m_bReplaying) return;
+    ++m_nCurrent;
+    if (m_nCurrent == kCapacity) {
+        std::shift_left(m_entries.begin(), m_entries.end(), 1);
+        m_nCurrent = kCapacity - 1;
+    }
+    m_nLast = m_nCurrent;
+    m_entries[static_cast<std::size_t>(m_nCurrent)] = place;
+}
+
+bool History::StepBack() {
+    if (!CanGoBack()) return false;
+    --m_nCurrent;
+    return true;
+}
+
+bool History::StepForward() {
+    if (!CanGoForward()) return false;
+    ++m_nCurrent;
+    return true;
+}
+
+}  // namespace kalyxo

@@ -1,0 +1,76 @@
+#include "src/pages/PageCache.h"
+
+#include <utility>
+
+#include "platform/files/FileSystem.h"
+#include "platform/files/TextWriter.h"
+
+namespace kalyxo {
+
+namespace {
+
+constexpr int kPagesKept = 20;
+/// So many programs on one machine have a cache folder of their own.
+constexpr int kMostPrograms = 99;
+
+std::string withoutLastBackslash(const std::string& folder) { return folder.substr(0, folder.size() - 1); }
+
+}  // namespace
+
+CacheLocation LocateCache(std::string_view programFolder, std::string_view tempFolder,
+                          bool outsideInstallFolder) {
+    const std::string folder =
+        outsideInstallFolder ? std::string(tempFolder) + "klyx" : std::string(programFolder) + "\\cache";
+    return {folder + '\\', outsideInstallFolder};
+}
+
+void PageCache::Open(CacheLocation location) {
+    m_location = std::move(location);
+    const CacheLocation first = m_location;
+    for (int program = 2; !take(m_location) && program <= kMostPrograms; ++program) {
+        m_location = {withoutLastBackslash(first.folder) + std::to_string(program) + '\\', true};
+    }
+    if (!m_lock) m_location = first;
+}
+
+bool PageCache::take(const CacheLocation& location) {
+    const std::string folder = withoutLastBackslash(location.folder);
+    m_files.createFolder(folder);
+    if (const auto native = m_files.nativePath(folder)) m_lock = platform::FolderLock::tryNow(*native);
+    return m_lock.has_value();
+}
+
+std::string PageCache::NextTarget() { return numbered(m_nNext++); }
+
+std::string PageCache::WriteRedirect(std::string_view target) const {
+    std::optional<platform::TextWriter> page = platform::TextWriter::open(m_files, redirectPath());
+    if (!page) return {};
+    page->write(R"(<HTML><HEAD><META HTTP-EQUIV="Refresh" Content="0; URL=)");
+    page->write(target);
+    page->write(R"("></HEAD><BODY BGCOLOR="#949494"></BODY></HTML>)");
+    return redirectPath();
+}
+
+void PageCache::CleanCache(bool final) {
+    deletePagesBelow(final ? m_nNext : m_nNext - kPagesKept);
+    if (!final) return;
+    m_files.deleteFile(redirectPath());
+    m_files.deleteFile(m_location.folder + "bigvid.htm");
+    m_files.deleteFile(m_location.folder + "chime.mol");
+    if (m_location.removeAtEnd) {
+        m_files.removeFolder(withoutLastBackslash(m_location.folder));
+    }
+    m_lock.reset();
+}
+
+std::string PageCache::numbered(int number) const {
+    return m_location.folder + std::to_string(number) + ".htm";
+}
+
+std::string PageCache::redirectPath() const { return m_location.folder + "redirect.htm"; }
+
+void PageCache::deletePagesBelow(int limit) {
+    for (; m_nOldest < limit; ++m_nOldest) m_files.deleteFile(numbered(m_nOldest));
+}
+
+}  // namespace kalyxo

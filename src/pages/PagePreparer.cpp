@@ -1,0 +1,80 @@
+#include "src/pages/PagePreparer.h"
+
+#include <memory>
+#include <optional>
+#include <utility>
+
+#include "platform/files/FileSystem.h"
+#include "platform/files/TextReader.h"
+#include "platform/files/TextWriter.h"
+#include "src/pages/EnlargedPages.h"
+#include "src/pages/LineRewriter.h"
+
+namespace kalyxo {
+
+using platform::TextReader;
+using platform::TextWriter;
+
+namespace {
+
+/// Longer lines are rewritten in pieces of this many bytes, a terminating zero included.
+constexpr std::size_t kLineLimit = 26000;
+/// Room for what a line grows by.
+constexpr std::size_t kWorkingSize = 30000;
+/// Lines between two looks at the clock.
+constexpr std::uint64_t kLinesPerStep = 256;
+constexpr std::string_view kMoleculeCopy = "chime.mol";
+
+/// Copies a molecule file beside the page `target`.
+std::string copyMolecule(const platform::FileSystem& files, const std::string& target,
+                         const std::string& molecule) {
+    const std::size_t slash = target.rfind('\\');
+    if (slash == std::string::npos || slash == 0) return {};
+    const std::string copy = target.substr(0, slash + 1).append(kMoleculeCopy);
+    return files.copyFile(molecule, copy) ? std::string(kMoleculeCopy) : std::string();
+}
+
+void rewriteLines(TextReader& source, TextWriter& target, const LineRewriter& rewriter, PageNotes& notes,
+                  const platform::ProgressStep& step) {
+    const auto buffer = std::make_unique_for_overwrite<char[]>(kLineLimit);
+    std::string working;
+    working.reserve(kWorkingSize);
+    std::uint64_t lines = 0;
+    while (const std::size_t length = source.readLine(buffer.get(), kLineLimit)) {
+        if (++lines % kLinesPerStep == 0 && !platform::GoesOn(step, lines, 0)) break;
+        const std::string_view line(buffer.get(), length);
+        if (LineRewriter::Concerns(line)) {
+            working = line;
+            rewriter.Rewrite(working, notes);
+            target.write(working);
+        } else {
+            target.write(line);
+        }
+    }
+}
+
+}  // namespace
+
+PagePreparer::PagePreparer(const platform::FileSystem& files, std::string dataFolder, std::string cacheFolder)
+    : m_files(files), m_strDataFolder(std::move(dataFolder)), m_strCacheFolder(std::move(cacheFolder)) {}
+
+PrepareResult PagePreparer::PreparePage(const std::string& source, const std::string& target,
+                                        PageContents& contents, const platform::ProgressStep& step) const {
+    std::optional<TextReader> reader = TextReader::open(m_files, source);
+    if (!reader) return PrepareResult::noSource;
+    std::optional<TextWriter> writer = TextWriter::open(m_files, target);
+    if (!writer) return PrepareResult::noTarget;
+    PageNotes notes;
+    const LineRewriter rewriter(m_strDataFolder, [&](const std::string& molecule) {
+        return copyMolecule(m_files, target, molecule);
+    });
+    rewriteLines(*reader, *writer, rewriter, notes, step);
+    writer->close();
+    contents = {notes.video, notes.molecule};
+    const std::string enlarged = m_strCacheFolder + std::string(kEnlargedPage);
+    if (notes.video) WriteEnlargedVideoPage(m_files, enlarged, notes.videoText);
+    if (notes.molecule) WriteEnlargedMoleculePage(m_files, enlarged, target);
+    return PrepareResult::prepared;
+}
+
+}  // namespace kalyxo

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+
+#include "platform/base/Geometry.h"
+#include "platform/base/Messages.h"
+
+namespace kalyxo {
+
+/// Versions that the components report.
+struct ComponentVersions {
+    std::string periodic;
+    std::string select;
+    std::string dataAn;
+    std::string molCtrl;
+    std::string zoom;
+};
+
+/// The settings and paths of the run, which the start-up sequence fills and everything else reads. There is
+/// one, a part of the application object.
+struct ProgramState {
+    ProgramState();
+    ~ProgramState();
+    ProgramState(const ProgramState&) = delete;
+    ProgramState& operator=(const ProgramState&) = delete;
+
+    bool m_bOutsideInstallFolder = false;
+    int m_nSplitterPos = 0;     ///< left edge of the splitter in view pixels
+    platform::CRect m_rcFrame;  ///< main frame, outer rectangle in screen pixels
+    int m_nFrameState = 0;      ///< kFrameNormal or kFrameMaximised
+    platform::HWND m_hwndSelectTarget = 0;
+    platform::HWND m_hwndSelectEdit = 0;
+    std::string m_strProgramFolder;  ///< no trailing backslash
+    ComponentVersions m_versions;
+    std::string m_strDataFolder;  ///< ends with a backslash
+    std::string m_strBookmarkFile;
+};
+
+/// The one state of this run; there must be an application object.
+ProgramState& TheApp();
+
+}  // namespace kalyxo

@@ -1,0 +1,78 @@
+#include "src/state/Settings.h"
+
+#include "platform/base/Resources.h"
+#include "platform/text/CodePage1253.h"
+#include "src/resources/ResourceIds.h"
+
+namespace kalyxo {
+
+using platform::CRect;
+using platform::HKEY_LOCAL_MACHINE;
+using platform::RegistryKey;
+
+namespace {
+
+constexpr int kDefaultWidth = 640;
+constexpr int kDefaultHeight = 480;
+constexpr int kDefaultSplitter = 216;
+constexpr int kNarrowScreen = 700;
+
+int numberOr(const RegistryKey& key, std::string_view name, int fallback) {
+    const std::optional<std::uint32_t> stored = key.queryDword(name);
+    return stored ? static_cast<int>(*stored) : fallback;
+}
+
+void useDefaultFrame(WindowLayout& layout, platform::CSize screen) {
+    const bool narrow = screen.cx < kNarrowScreen;
+    layout.frameState = narrow ? kFrameMaximised : kFrameNormal;
+    const int left = narrow ? 0 : (screen.cx - kDefaultWidth) / 2;
+    const int top = narrow ? 0 : (screen.cy - kDefaultHeight) / 2;
+    layout.frame = CRect::at(left, top, kDefaultWidth, kDefaultHeight);
+}
+
+}  // namespace
+
+std::string SettingsKeyPath() {
+    return std::string(platform::LoadString(IDS_SETTINGS_KEY)) + "Library Edition";
+}
+
+ProgramLocation LocateProgram(std::string_view programFile, const std::optional<std::string>& directory) {
+    const std::string_view ownFolder = programFile.substr(0, programFile.rfind('\\'));
+    if (directory && platform::toLower(*directory) == platform::toLower(ownFolder)) {
+        return {*directory, false};
+    }
+    return {std::string(ownFolder), true};
+}
+
+WindowLayout ReadLayout(const RegistryKey& key, platform::CSize screen) {
+    WindowLayout layout;
+    layout.splitterPos = numberOr(key, "Splitter", kDefaultSplitter);
+    const std::optional<std::uint32_t> size = key.queryDword("Size");
+    if (!size) {
+        useDefaultFrame(layout, screen);
+        return layout;
+    }
+    layout.frameState = *size == kFrameNormal ? kFrameNormal : kFrameMaximised;
+    layout.frame = {numberOr(key, "Left", 0), numberOr(key, "Top", 0), numberOr(key, "Right", kDefaultWidth),
+                    numberOr(key, "Bottom", kDefaultHeight)};
+    return layout;
+}
+
+bool WriteLayout(platform::Registry& registry, const WindowLayout& layout) {
+    const std::string path = SettingsKeyPath();
+    std::optional<RegistryKey> key = registry.openKeyForWriting(HKEY_LOCAL_MACHINE, path);
+    if (!key) key = registry.createKey(HKEY_LOCAL_MACHINE, path);
+    if (!key) return false;
+    const auto write = [&](std::string_view name, int value) {
+        key->setDword(name, static_cast<std::uint32_t>(value));
+    };
+    write("Size", layout.frameState);
+    write("Left", layout.frame.left);
+    write("Top", layout.frame.top);
+    write("Right", layout.frame.right);
+    write("Bottom", layout.frame.bottom);
+    write("Splitter", layout.splitterPos);
+    return true;
+}
+
+}  // namespace kalyxo

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/base/Geometry.h"
+#include "platform/registry/Registry.h"
+
+namespace kalyxo {
+
+/// Frame states as the registry holds them.
+inline constexpr int kFrameNormal = 0;
+inline constexpr int kFrameMaximised = 2;
+
+/// The saved window layout, in pixels.
+struct WindowLayout {
+    int splitterPos = 216;
+    int frameState = kFrameNormal;
+    platform::CRect frame;
+
+    friend bool operator==(const WindowLayout&, const WindowLayout&) = default;
+};
+
+/// Where the program runs.
+struct ProgramLocation {
+    std::string folder;  ///< no trailing backslash
+    bool outsideInstallFolder = false;
+};
+
+/// Path of the settings key under HKEY_LOCAL_MACHINE.
+std::string SettingsKeyPath();
+
+/// The program folder from the full path of the running program file and the installed folder of the
+/// settings; a missing or different installed folder means that the program runs outside of it.
+ProgramLocation LocateProgram(std::string_view programFile, const std::optional<std::string>& directory);
+
+/// The layout values of the settings key. What is missing or of another type takes its default; without a
+/// usable state the whole is a window of 640 × 480 in the middle of the screen, or maximised on a screen
+/// narrower than 700.
+WindowLayout ReadLayout(const platform::RegistryKey& key, platform::CSize screen);
+
+/// Writes the layout to the settings key, which is created when it is missing; false when it can be neither
+/// opened nor created.
+bool WriteLayout(platform::Registry& registry, const WindowLayout& layout);
+
+}  // namespace kalyxo

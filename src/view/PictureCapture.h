@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string_view>
+
+#include "platform/base/Geometry.h"
+#include "platform/base/Messages.h"
+
+namespace kalyxo {
+
+/// The pictures that pages embed.
+enum class PluginKind { molecule, video };
+
+/// Where the picture and its title go on a printed page, in device pixels.
+struct PrintedPicture {
+    platform::CRect picture;
+    platform::CRect title;
+    int letterHeight;
+
+    friend bool operator==(const PrintedPicture&, const PrintedPicture&) = default;
+};
+
+/// The picture half a page wide in the middle, at a third of the height that it leaves free; the title over
+/// it in letters of a seventh of an inch.
+PrintedPicture LayOutPrintedPicture(PluginKind kind, platform::CSize page, int logPixelsY);
+
+/// Copies or prints the picture of the molecule or video in a page. It is found among the windows inside the
+/// browser by the size of its window.
+class PictureCapture {
+  public:
+    explicit PictureCapture(platform::HWND browser) : m_browser(browser) {}
+
+    /// Puts the picture on the clipboard; nothing happens when the page has none.
+    void Copy(PluginKind kind) const;
+    /// Prints the picture under a title. Without a printer the user is told; nothing happens when the page
+    /// has no picture.
+    void Print(PluginKind kind, std::string_view title) const;
+
+  private:
+    platform::HWND m_browser;
+};
+
+}  // namespace kalyxo

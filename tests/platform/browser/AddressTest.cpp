@@ -1,0 +1,73 @@
+#include <gtest/gtest.h>
+
+#include <QUrl>
+
+#include "platform/browser/DosUrl.h"
+#include "platform/plugins/FileType.h"
+#include "platform/text/CodePage1253.h"
+
+using namespace platform;
+
+namespace {
+
+TEST(Address, TurnsIntoAUrlAndBack) {
+    struct Case {
+        const char* address;  // UTF-8
+        const char* url;
+        const char* told;
+    };
+    const Case cases[] = {
+        {"D:\\a.htm", "d:/a.htm", "D:\\a.htm"},
+        {"c:/cache/1.htm", "c:/cache/1.htm", "C:\\cache\\1.htm"},
+        {"D:\\Αρχείο 1.htm", "d:/%CE%91%CF%81%CF%87%CE%B5%CE%AF%CE%BF%201.htm", "D:\\Αρχείο 1.htm"},
+        {"D:\\100%\\a?.htm#τέλος", "d:/100%25/a%3F.htm#%CF%84%CE%AD%CE%BB%CE%BF%CF%82",
+         "D:\\100%\\a?.htm#τέλος"},
+        {"about:blank", "about:blank", "about:blank"},
+        {"http://example.org/a%20b", "http://example.org/a%20b", "http://example.org/a%20b"},
+        {"", "", ""},
+    };
+    for (const auto& one : cases) {
+        const QUrl url = urlOfAddress(fromUtf8(one.address));
+        EXPECT_EQ(url.toEncoded().toStdString(), one.url) << one.address;
+        EXPECT_EQ(toUtf8(addressOfUrl(url)), one.told) << one.address;
+    }
+}
+
+TEST(Address, ReadsWhatPagesWrite) {
+    struct Case {
+        const char* url;
+        const char* path;        // UTF-8; empty for none
+        const char* normalised;  // the same when there is nothing to change
+    };
+    const Case cases[] = {
+        {"d:%5Cimages%5Cx.gif", "D:\\images\\x.gif", "d:/images/x.gif"},
+        {"d:/mol/x.mol?spin=true#a", "D:\\mol\\x.mol", "d:/mol/x.mol?spin=true#a"},
+        // Alpha and beta escaped as UTF-8 and as code page 1253.
+        {"d:/%CE%B1%CE%B2", "D:\\αβ", "d:/%CE%B1%CE%B2"},
+        {"d:/%E1%E2", "D:\\αβ", "d:/%E1%E2"},
+        {"d:/%E4%B8%AD", "", "d:/%E4%B8%AD"},
+        {"http://example.org/%5C", "", "http://example.org/%5C"},
+    };
+    for (const auto& one : cases) {
+        const QUrl url = QUrl::fromEncoded(one.url);
+        EXPECT_EQ(toUtf8(dosPathOfUrl(url).value_or("")), one.path) << one.url;
+        EXPECT_EQ(normalisedUrl(url).toEncoded().toStdString(), one.normalised) << one.url;
+    }
+}
+
+TEST(FileType, GoesByExtension) {
+    EXPECT_EQ(mediaTypeOf("D:\\01\\4\\123"), "text/html");
+    EXPECT_EQ(mediaTypeOf("D:\\v1.2\\page"), "text/html");
+    EXPECT_EQ(mediaTypeOf("D:\\IMAGES\\X.GIF"), "image/gif");
+    EXPECT_EQ(mediaTypeOf("D:\\x.exe"), "application/octet-stream");
+}
+
+TEST(FileType, SeesACharsetInTheFirstKilobyteOnly) {
+    const std::string meta = "<META CONTENT=\"text/html; CharSet=utf-8\">";
+    EXPECT_TRUE(declaresCharset(meta));
+    EXPECT_TRUE(declaresCharset("\xEF\xBB\xBF<HTML>"));
+    EXPECT_FALSE(declaresCharset("<HTML>"));
+    EXPECT_FALSE(declaresCharset(std::string(1020, ' ') + meta));
+}
+
+}  // namespace

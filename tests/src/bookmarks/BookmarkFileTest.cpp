@@ -1,0 +1,195 @@
+#include "src/bookmarks/BookmarkFile.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/text/GreekLiteral.h"
+#include "tests/support/HexBytes.h"
+#include "tests/support/TestDrives.h"
+
+namespace kalyxo {
+namespace {
+
+using namespace platform::literals;
+
+const std::string kFolderClass = "FF FF 01 00 09 00 'CBMFolder' ";
+const std::string kPageClass = "FF FF 01 00 09 00 'CBMBrowse' ";
+const std::string kTableClass = "FF FF 01 00 0B 00 'CBMPeriodic' ";
+const std::string kAnalyserClass = "FF FF 01 00 09 00 'CBMDataAn' ";
+const std::string kDefaultFile = hexBytes("01 00 00 00  01 00 00 00  01 00 " + kFolderClass +
+                                          "14 CF E9 20 F3 E5 EB E9 E4 EF E4 E5 DF EA F4 E5 F2 20 EC EF F5");
+
+template <class Record>
+Record& add(BookmarkArray& records, std::string_view name) {
+    auto record = std::make_unique<Record>();
+    record->name = name;
+    Record& added = *record;
+    records.push_back(std::move(record));
+    return added;
+}
+
+BookmarkArray recordsOfAllClasses() {
+    BookmarkArray records;
+    add<CBMFolder>(records, "Α"_gr);
+    auto& page = add<CBMBrowse>(records, "p");
+    page.pageId = 290123;
+    page.itemCode = -2;
+    page.sectionCode = 3;
+    auto& table = add<CBMPeriodic>(records, "t");
+    table.stateA = 0x01020304;
+    table.stateB = 5;
+    auto& analyser = add<CBMDataAn>(records, "d");
+    analyser.mode = 1;
+    analyser.viewMode = 2;
+    analyser.option3 = 3;
+    analyser.flag5 = 1;
+    analyser.flag6 = 0;
+    analyser.option4 = 4;
+    analyser.option7 = 7;
+    analyser.value8 = 2;
+    analyser.value9 = -1;
+    analyser.value11 = {std::byte{0xAB}, std::byte{0xCD}};
+    analyser.entryBlock = {3, 10, 20};
+    analyser.entries = {100, -100};
+    add<CBMFolder>(records, "");
+    add<CBMBrowse>(records, "q");
+    return records;
+}
+
+const std::string kFileOfAllClasses =
+    hexBytes("01 00 00 00  06 00 00 00  06 00 " +                                         //
+             kFolderClass + "01 C1 " +                                                    // class 1, record 2
+             kPageClass + "4B 6D 04 00  FE FF FF FF  03 00  01 'p' " +                    // 3, 4
+             kTableClass + "04 03 02 01  05 00 00 00  01 't' " +                          // 5, 6
+             kAnalyserClass + "01 'd'  01 00  02 00  01 00 00 00  03 00  00 00 00 00 " +  // 7, 8
+             "04 00 00 00  07 00  02 00 00 00  FF FF  AB CD " +                           //
+             "03 00 00 00  0A 00 00 00  14 00 00 00  64 00 00 00  9C FF FF FF " +         //
+             "01 80  00 " +                                                               // 9
+             "03 80  00 00 00 00  00 00 00 00  00 00  01 'q'");                           // 10
+
+TEST(BookmarkFile, EachRecordClassHasItsBytes) {
+    EXPECT_EQ(WriteBookmarks(recordsOfAllClasses()), kFileOfAllClasses);
+    const auto read = ReadBookmarks(kFileOfAllClasses);
+    ASSERT_TRUE(read);
+    EXPECT_EQ(WriteBookmarks(*read), kFileOfAllClasses);
+    const auto* analyser = dynamic_cast<const CBMDataAn*>(read->at(3).get());
+    ASSERT_TRUE(analyser);
+    EXPECT_EQ(analyser->flag5, 1);
+    EXPECT_EQ(analyser->entries, (std::vector<std::int32_t>{100, -100}));
+    EXPECT_EQ(analyser->value9, -1);
+}
+
+TEST(BookmarkFile, LongNamesHaveTheirLengthForms) {
+    const std::vector<std::pair<std::size_t, std::string>> forms = {
+        {254, "FE"}, {255, "FF FF 00"}, {0xFFFD, "FF FD FF"}, {0xFFFE, "FF FF FF FE FF 00 00"}};
+    const std::string begin = hexBytes("01 00 00 00  01 00 00 00  01 00 " + kFolderClass);
+    for (const auto& [length, prefix] : forms) {
+        BookmarkArray records;
+        add<CBMFolder>(records, std::string(length, '\xE1'));
+        const std::string file = WriteBookmarks(records);
+        EXPECT_EQ(file.substr(0, 25 + hexBytes(prefix).size()), begin + hexBytes(prefix));
+        const auto read = ReadBookmarks(file);
+        ASSERT_TRUE(read) << length;
+        EXPECT_EQ(read->front()->name, records.front()->name);
+    }
+}
+
+TEST(BookmarkFile, ManyRecordsHaveTheLargeForms) {
+    BookmarkArray records;
+    add<CBMFolder>(records, "");
+    for (int i = 0; i < 0x7FFF - 4; ++i) add<CBMBrowse>(records, "");
+    add<CBMPeriodic>(records, "");  // gets the class index 0x7FFF
+    add<CBMPeriodic>(records, "");
+    const std::string file = WriteBookmarks(records);
+    const std::string tail = hexBytes("FF 7F FF 7F 00 80  00 00 00 00  00 00 00 00  00");
+    EXPECT_EQ(file.substr(file.size() - tail.size()), tail);
+    while (records.size() < 0xFFFF) add<CBMPeriodic>(records, "");
+    const std::string large = WriteBookmarks(records);
+    EXPECT_EQ(large.substr(0, 14), hexBytes("01 00 00 00  FF FF 00 00  FF FF FF FF 00 00"));
+    const auto read = ReadBookmarks(large);
+    ASSERT_TRUE(read);
+    EXPECT_EQ(WriteBookmarks(*read), large);
+}
+
+TEST(BookmarkFile, RefusesDamagedFiles) {
+    const std::string head = "01 00 00 00  02 00 00 00  02 00 " + kFolderClass + "01 'f' ";
+    const std::string analyser =
+        kAnalyserClass + "00  00 00 00 00  00 00 00 00  00 00  00 00 00 00  00 00 00 00  00 00 ";
+    const std::pair<const char*, std::string> cases[] = {
+        {"empty", ""},
+        {"version 2", "02 00 00 00  01 00 00 00  01 00 " + kFolderClass + "00"},
+        {"count 0", "01 00 00 00  00 00 00 00  01 00 " + kFolderClass + "00"},
+        {"both counts 0", "01 00 00 00  00 00 00 00  00 00"},
+        {"count -1", "01 00 00 00  FF FF FF FF  FF FF FF FF FF FF " + kFolderClass + "00"},
+        {"counts differ", "01 00 00 00  02 00 00 00  01 00 " + kFolderClass + "00"},
+        {"more records than bytes", "01 00 00 00  FF FF FF 7F  FF FF FF FF FF 7F " + kFolderClass + "00"},
+        {"name of 4 GB", "01 00 00 00  01 00 00 00  01 00 " + kFolderClass + "FF FF FF FF FF FF FF 'x'"},
+        {"Unicode name", "01 00 00 00  01 00 00 00  01 00 " + kFolderClass + "FF FE FF 01 'x' 00"},
+        {"no folder first", "01 00 00 00  01 00 00 00  01 00 " + kTableClass + "00 00 00 00 00 00 00 00 00"},
+        {"schema 2", "01 00 00 00  01 00 00 00  01 00 FF FF 02 00 09 00 'CBMFolder' 00"},
+        {"unknown class", head + "FF FF 01 00 06 00 'CBMFoo' 00"},
+        {"class name of 64 KB", head + "FF FF 01 00 FF FF 'CBMFolder' 00"},
+        {"null element", head + "00 00"},
+        {"reference to a record", head + "02 00"},
+        {"reference to a record, large form", head + "FF 7F 02 00 00 00"},
+        {"class index of a record", head + "02 80 00"},
+        {"class index of nothing", head + "FF 7F 09 00 00 80 00"},
+        {"K = 2,000,000,000", head + analyser + "00 00 00 00  00 00  00 94 35 77  00 00 00 00"},
+        {"K = 0", head + analyser + "00 00 00 00  00 00  00 00 00 00"},
+        {"K = -1", head + analyser + "00 00 00 00  00 00  FF FF FF FF"},
+        {"fewer entries than K - 1", head + analyser + "00 00 00 00  00 00  02 00 00 00  01 00 00 00  00"},
+        {"N = 2 GB", head + analyser + "FF FF FF 7F  00 00  01 00 00 00"},
+    };
+    for (const auto& [what, text] : cases) EXPECT_FALSE(ReadBookmarks(hexBytes(text))) << what;
+    EXPECT_TRUE(ReadBookmarks(hexBytes(head + analyser + "00 00 00 00  00 00  01 00 00 00")))
+        << "the rest is whole";
+    EXPECT_TRUE(ReadBookmarks(hexBytes(head + analyser + "FB FF FF FF  00 00  01 00 00 00"))) << "N below 0";
+    EXPECT_TRUE(ReadBookmarks(hexBytes(head + "FF 7F 01 00 00 80  01 'g'")))
+        << "a small index in the large form";
+}
+
+TEST(BookmarkFile, RefusesEachBeginningOfAFile) {
+    for (std::size_t length = 0; length < kFileOfAllClasses.size(); ++length) {
+        EXPECT_FALSE(ReadBookmarks(kFileOfAllClasses.substr(0, length))) << length;
+    }
+    EXPECT_TRUE(ReadBookmarks(kFileOfAllClasses + "more"));
+}
+
+class BookmarksOnDisk : public testing::Test {
+  protected:
+    BookmarkLoad load(const std::string& path) { return LoadBookmarks(drives_.files, path, list_); }
+    BookmarkSave save(const std::string& path) { return SaveBookmarks(drives_.files, path, list_.Records()); }
+
+    TestDrives drives_;
+    BookmarkList list_;
+};
+
+TEST_F(BookmarksOnDisk, TooLargeFileIsDamaged) {
+    drives_.put("C:\\b.dat", kDefaultFile);
+    std::filesystem::resize_file(drives_.host("C:\\b.dat"), kLargestBookmarkFile + 1);
+    EXPECT_EQ(load("C:\\b.dat"), BookmarkLoad::damaged);
+}
+
+TEST_F(BookmarksOnDisk, CopyThatCannotBeMadeDoesNotMatter) {
+    drives_.put("C:\\b.dat", kFileOfAllClasses);
+    drives_.put("C:\\b.dat.bak\\in the way", "");
+    EXPECT_EQ(load("C:\\b.dat"), BookmarkLoad::loaded);
+    EXPECT_EQ(save("C:\\b.dat"), BookmarkSave::saved);
+    EXPECT_EQ(drives_.get("C:\\b.dat"), kFileOfAllClasses);
+}
+
+TEST(BookmarkRecords, RenamedRecordIsTheSameButForItsName) {
+    const BookmarkArray originals = recordsOfAllClasses();
+    for (std::size_t i = 0; i < originals.size(); ++i) {
+        EXPECT_EQ(originals[i]->Renamed("other")->name, "other");
+        BookmarkArray expected;
+        BookmarkArray renamed;
+        add<CBMFolder>(expected, "");
+        add<CBMFolder>(renamed, "");
+        expected.push_back(std::move(recordsOfAllClasses()[i]));
+        renamed.push_back(originals[i]->Renamed(originals[i]->name));
+        EXPECT_EQ(WriteBookmarks(renamed), WriteBookmarks(expected)) << i;
+    }
+}
+
+}  // namespace
+}  // namespace kalyxo

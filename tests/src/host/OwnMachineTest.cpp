@@ -1,0 +1,165 @@
+#include <gtest/gtest.h>
+
+#include <future>
+#include <vector>
+
+#include "platform/base/Resources.h"
+#include "src/host/OwnMachine.h"
+#include "src/resources/ResourceTable.h"
+#include "src/state/Settings.h"
+#include "tests/support/TestFolder.h"
+
+namespace kalyxo {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kModule = "ActiveX/kyptgk.ocx";
+constexpr const char* kCopiedModule = "own/c/Kalyxo/ActiveX/kyptgk.ocx";
+
+/// What is installed, and a place for the user's machine.
+class OwnMachine : public testing::Test {
+  protected:
+    OwnMachine() {
+        platform::SetResources(ProgramResources());
+        m_root.write(kModule, "version one");
+        m_root.write("content/data/a.htm", "<HTML>");
+        m_root.write("bin/kalyxo", "");
+    }
+    platform::Loaded<std::unique_ptr<platform::Machine>> open(const std::vector<MountedMedium>& media = {},
+                                                              const platform::ProgressStep& step = {}) const {
+        const PresentScreen present{{1280, 800, 24}, {{"SM_CXMAXIMIZED", 1288}}};
+        return OpenOwnMachine(m_root / "own", FindInstalledFiles(m_root / "bin"), present, media, step);
+    }
+
+    TestFolder m_root;
+};
+
+TEST_F(OwnMachine, FirstStartNeedsNoQuestion) {
+    const auto opened = open();
+    ASSERT_TRUE(opened) << opened.error;
+    platform::Machine& machine = **opened.value;
+    EXPECT_TRUE(machine.files().exists("D:\\a.htm"));
+    EXPECT_TRUE(machine.files().exists("Z:\\etc"));
+    EXPECT_EQ(machine.files().readAll("C:\\Kalyxo\\ActiveX\\kyptgk.ocx", 100), "version one");
+    const auto key = machine.registry().openKey(platform::HKEY_LOCAL_MACHINE, SettingsKeyPath());
+    ASSERT_TRUE(key);
+    EXPECT_EQ(key->queryString("Directory", 256), "C:\\Kalyxo");
+    EXPECT_TRUE(machine.registry().openKey(platform::HKEY_CLASSES_ROOT,
+                                           "CLSID\\{5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E101}\\InprocServer32"));
+    const std::string ini = machine.files().readAll("C:\\Kalyxo\\cset.ini", 1000).value_or("");
+    EXPECT_NE(ini.find("Bookmark=C:\\Kalyxo\\bookmark.dat\r\n"), std::string::npos);
+}
+
+TEST_F(OwnMachine, LaterStartsFollowScreenModulesAndContentAndKeepTheRest) {
+    ASSERT_TRUE(open());
+    m_root.write("own/c/Kalyxo/bookmark.dat", "kept");
+    m_root.write(kModule, "version two");
+    fs::rename(m_root / "content", m_root / "elsewhere");
+    m_root.write("share/kalyxo/content/a.htm", "<HTML>");
+
+    const auto opened = open();
+    ASSERT_TRUE(opened) << opened.error;
+    EXPECT_EQ((*opened.value)->screen().width, 1280);
+    EXPECT_EQ((*opened.value)->metric(platform::SM_CXMAXIMIZED), 1288);
+    EXPECT_EQ(m_root.read(kCopiedModule), "version two");
+    EXPECT_TRUE((*opened.value)->files().exists("D:\\a.htm"));
+    EXPECT_EQ(m_root.read("own/c/Kalyxo/bookmark.dat"), "kept");
+}
+
+TEST_F(OwnMachine, MakingThatWasBrokenOffIsTakenUpAgain) {
+    for (const char* missing : {"own/registry.reg", "own/machine.json"}) {
+        ASSERT_TRUE(open());
+        fs::remove(m_root / missing);
+        fs::remove(m_root / kCopiedModule);
+        const auto opened = open();
+        ASSERT_TRUE(opened) << opened.error;
+        EXPECT_TRUE((*opened.value)->registry().openKey(platform::HKEY_LOCAL_MACHINE, SettingsKeyPath()));
+        EXPECT_TRUE((*opened.value)->files().exists("D:\\a.htm")) << missing;
+        EXPECT_EQ(m_root.read(kCopiedModule), "version one");
+    }
+}
+
+TEST_F(OwnMachine, CopyingThatIsCancelledIsTakenUpAgain) {
+    m_root.write("ActiveX/kzselectgk.ocx", "version one");
+    const auto cancelAt = [](std::uint64_t count) {
+        return [count](std::uint64_t done, std::uint64_t total) {
+            EXPECT_EQ(total, 2U);
+            return done < count;
+        };
+    };
+    for (const std::uint64_t count : {0U, 1U}) {
+        EXPECT_FALSE(open({}, cancelAt(count)));
+        EXPECT_FALSE(fs::exists(m_root / "own/registry.reg"));
+    }
+    ASSERT_TRUE(open());
+    EXPECT_EQ(m_root.read(kCopiedModule), "version one");
+    m_root.write(kModule, "version two");
+    EXPECT_FALSE(open({}, cancelAt(0)));
+    EXPECT_EQ(m_root.read(kCopiedModule), "version one");
+    ASSERT_TRUE(open({}, cancelAt(2)));
+    EXPECT_EQ(m_root.read(kCopiedModule), "version two");
+}
+
+TEST_F(OwnMachine, DamagedFilesAreNamedAndLeftAndNothingInstalledIsAnError) {
+    for (const char* name : {"own/machine.json", "own/registry.reg"}) {
+        ASSERT_TRUE(open());
+        m_root.write(name, "neither JSON nor registry");
+        const auto opened = open();
+        EXPECT_FALSE(opened) << name;
+        EXPECT_NE(opened.error.find((m_root / name).string()), std::string::npos) << opened.error;
+        EXPECT_EQ(m_root.read(name), "neither JSON nor registry");
+        fs::remove_all(m_root / "own");
+    }
+    fs::remove(m_root / kModule);
+    m_root.write("ActiveX/readme.txt", "");
+    EXPECT_FALSE(open());
+}
+
+TEST_F(OwnMachine, MediaAreDrivesAndKeepTheirLetters) {
+    m_root.write("stick/a.htm", "<HTML>");
+    const MountedMedium stick{m_root / "stick", platform::DriveType::removable};
+    const MountedMedium net{m_root / "earlier in the alphabet", platform::DriveType::remote};
+    ASSERT_TRUE(open({stick}));
+    const auto opened = open({net, stick});
+    ASSERT_TRUE(opened) << opened.error;
+    const platform::FileSystem& files = (*opened.value)->files();
+    EXPECT_EQ(files.driveType('E'), platform::DriveType::removable);
+    EXPECT_TRUE(files.exists("E:\\a.htm"));
+    EXPECT_EQ(files.driveType('F'), platform::DriveType::remote);
+    EXPECT_EQ(files.driveType('G'), platform::DriveType::noRoot);
+    EXPECT_EQ((*open().value)->files().driveType('E'), platform::DriveType::noRoot);
+}
+
+TEST_F(OwnMachine, ProgramsThatStartAtOnceMakeItOnce) {
+    std::vector<std::future<bool>> starts(8);
+    for (auto& start : starts) {
+        start = std::async(std::launch::async, [this] {
+            const auto opened = open();
+            if (!opened) return false;
+            auto key = (*opened.value)->registry().createKey(platform::HKEY_LOCAL_MACHINE, SettingsKeyPath());
+            return key && key->queryString("Directory", 256) == "C:\\Kalyxo" && key->setDword("Left", 7) &&
+                   (*opened.value)->flushRegistry();
+        });
+    }
+    for (auto& start : starts) EXPECT_TRUE(start.get());
+    // Had one made it after another had closed, the layout would be gone.
+    const auto opened = open();
+    ASSERT_TRUE(opened) << opened.error;
+    const auto key = (*opened.value)->registry().openKey(platform::HKEY_LOCAL_MACHINE, SettingsKeyPath());
+    EXPECT_EQ(key->queryDword("Left"), 7U);
+}
+
+TEST_F(OwnMachine, LiesInTheUsersDataFolder) {
+    ::setenv("XDG_DATA_HOME", "/data", 1);
+    EXPECT_EQ(OwnMachineFolder(), "/data/kalyxo");
+    ::setenv("XDG_DATA_HOME", "relative/counts/as/unset", 1);
+    ::setenv("HOME", "/home/x", 1);
+    EXPECT_EQ(OwnMachineFolder(), "/home/x/.local/share/kalyxo");
+    ::unsetenv("XDG_DATA_HOME");
+    ::unsetenv("HOME");
+    EXPECT_EQ(OwnMachineFolder(), "");
+}
+
+}  // namespace
+}  // namespace kalyxo

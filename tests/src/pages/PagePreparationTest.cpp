@@ -1,0 +1,113 @@
+#include <gtest/gtest.h>
+
+#include "src/pages/PagePreparer.h"
+#include "tests/support/TestDrives.h"
+
+namespace kalyxo {
+namespace {
+
+class PagePreparation : public testing::Test {
+  protected:
+    /// The prepared form of a page on D:, with its line ends as the program writes them.
+    std::string prepare(const std::string& page, const std::string& dataFolder = "D:\\") {
+        drives.put("D:\\page", page);
+        const PagePreparer preparer(drives.files, dataFolder, "C:\\");
+        EXPECT_EQ(preparer.PreparePage("D:\\page", "C:\\1.htm", contents), PrepareResult::prepared);
+        return drives.get("C:\\1.htm");
+    }
+
+    TestDrives drives;
+    PageContents contents;
+};
+
+struct LineCase {
+    const char* what;
+    std::string source;
+    std::string prepared;
+};
+
+TEST_F(PagePreparation, RewritesEachMarker) {
+    const LineCase cases[] = {
+        {"nothing to do", "<P>text</P>\n", "<P>text</P>\r\n"},
+        {"last line without end", "<P>text", "<P>text"},
+        {"data folder, twice", "\x05..a.gif \x05..b.gif\n", "D:\\x\\a.gif D:\\x\\b.gif\r\n"},
+        {"marker as the last byte", "end\x05", "endD:\\x\\"},
+        {"video, only the first", "<EMBED SRC=\"\x04..v.webm\" \x04..w>\n",
+         "<EMBED SRC=\"D:\\x\\v.webm\" \x04..w>\r\n"},
+        {"body colours", "<BODY BGCOLOR=\"#FFFFFF\">\n", "<BODY VLINK=\"#0059CA\" BGCOLOR=\"#FFFFFF\">\r\n"},
+        {"body with own visited colour", "<BODY VLINK=\"#111111\" ALINK=\"#FFFFFF\">\n",
+         "<BODY VLINK=\"#111111\" ALINK=\"#0059CA\">\r\n"},
+        {"lower-case body stays", "<body ALINK=\"#FFFFFF\">\n", "<body ALINK=\"#FFFFFF\">\r\n"},
+        {"capital alpha with tonos", "\xA2\xA2<\xA2>\n", "&#x0386;&#x0386;<&#x0386;>\r\n"},
+        {"credit line", "<DIV ALIGN=right>2001 Orvane Press</DIV></DIV>\n", "2001 Orvane Press\r\n"},
+        {"other line with such a wrapper", "<DIV ALIGN=right>Press</DIV>\n",
+         "<DIV ALIGN=right>Press</DIV>\r\n"},
+        {"term", "~G12345678water~G boils\n", "<A HREF=\"pjqbhg12345678.htm\"><U>water</U></A> boils\r\n"},
+        {"two terms", "~G12345678a~G,~G87654321b~G.\n",
+         "<A HREF=\"pjqbhg12345678.htm\"><U>a</U></A>,<A HREF=\"pjqbhg87654321.htm\"><U>b</U></A>.\r\n"},
+        {"term without end", "~G12345678water \x05..\n", "~G12345678water D:\\x\\\r\n"},
+        {"term that ends within its key", "~G1234~G5678water\n", "~G1234~G5678water\r\n"},
+        {"tilde that is no term hides the term", "~ ~G12345678a~G\n", "~ ~G12345678a~G\r\n"},
+    };
+    for (const LineCase& c : cases) EXPECT_EQ(prepare(c.source, "D:\\x\\"), c.prepared) << c.what;
+}
+
+TEST_F(PagePreparation, CopiesTheMoleculeBesideThePage) {
+    drives.put("D:\\mol\\water.mol", "atoms");
+    EXPECT_EQ(prepare("<EMBED SRC=\"\x03..mol\\water.mol\" ALT=\"\" X=D:\\mol\\water.mol>\n"),
+              "<EMBED SRC=\"chime.mol\" ALT=\"\" X=chime.mol>\r\n");
+    EXPECT_EQ(drives.get("C:\\chime.mol"), "atoms");
+    EXPECT_EQ(prepare("<EMBED SRC=\"\x03..mol\\none.mol\">\n"), "<EMBED SRC=\"D:\\mol\\none.mol\">\r\n");
+    EXPECT_TRUE(contents.molecule);
+}
+
+TEST_F(PagePreparation, TakesLinesOfAnyLength) {
+    const std::string megabyte(1 << 20, 'x');
+    EXPECT_EQ(prepare(megabyte + "\n"), megabyte + "\r\n");
+    // 5,000 placeholders on a line outgrow the working buffer many times over.
+    std::string markers;
+    std::string paths;
+    for (int i = 0; i < 5000; ++i) {
+        markers += "\x05..";
+        paths += "D:\\a long data folder\\";
+    }
+    EXPECT_EQ(prepare(markers + "\n", "D:\\a long data folder\\"), paths + "\r\n");
+}
+
+TEST_F(PagePreparation, FailuresLeaveTheFlagsAndWriteNothing) {
+    prepare("<EMBED SRC=\"\x04..v.webm\">\n");
+    const PagePreparer preparer(drives.files, "D:\\", "C:\\");
+    EXPECT_EQ(preparer.PreparePage("D:\\missing", "C:\\2.htm", contents), PrepareResult::noSource);
+    EXPECT_FALSE(drives.has("C:\\2.htm"));
+    EXPECT_EQ(preparer.PreparePage("D:\\page", "C:\\no\\such\\folder\\2.htm", contents),
+              PrepareResult::noTarget);
+    EXPECT_TRUE(contents.video);
+}
+
+TEST_F(PagePreparation, IsAPageAsFarAsItWentWhenCancelled) {
+    std::string page;
+    for (int i = 0; i < 1000; ++i) page += "<P>\n";
+    drives.put("D:\\page", page);
+    const PagePreparer preparer(drives.files, "D:\\", "C:\\");
+    const auto never = [](std::uint64_t, std::uint64_t) { return false; };
+    EXPECT_EQ(preparer.PreparePage("D:\\page", "C:\\1.htm", contents, never), PrepareResult::prepared);
+    const std::string prepared = drives.get("C:\\1.htm");
+    EXPECT_TRUE(prepared.starts_with("<P>\r\n"));
+    EXPECT_LT(prepared.size(), page.size());
+}
+
+TEST_F(PagePreparation, WritesTheEnlargedMoleculePage) {
+    std::string page = "<HTML>\n";
+    for (int line = 2; line <= 12; ++line) page += "head\n";
+    page += "<EMBED SRC=\"\x03..m.mol\" WIDTH=340 HEIGHT=290\nspin\ndisplay=true>\nkept\n</TD>\nlost\n";
+    prepare(page);
+    EXPECT_EQ(
+        drives.get("C:\\bigvid.htm"),
+        "<HTML>\r\n<BODY BGCOLOR=\"#000000\">\r\n<EMBED SRC=\"D:\\m.mol\" WIDTH=640 HEIGHT=498\r\nspin\r\n"
+        "display=false\r\nkept\r\n</BODY></HTML>\r\n");
+    prepare("<HTML>\n\x03..m.mol\n");
+    EXPECT_EQ(drives.get("C:\\bigvid.htm"), "<HTML>\r\n<BODY BGCOLOR=\"#000000\">\r\n\r\n</BODY></HTML>\r\n");
+}
+
+}  // namespace
+}  // namespace kalyxo

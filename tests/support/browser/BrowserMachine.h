@@ -1,0 +1,82 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/components/ComponentHost.h"
+#include "platform/components/WebPageInspector.h"
+#include "platform/machine/Machine.h"
+#include "tests/support/TestFolder.h"
+
+/// Whether a pixel belongs to something drawn in blue, as nitrogen is.
+inline bool isBlue(QColor colour) { return colour.blue() > 80 && colour.blue() > 2 * colour.red(); }
+
+/// A machine with drives C: and D: and a browser window of 640 × 480 on it. Texts and paths are UTF-8 here.
+class BrowserMachine : public testing::Test {
+  protected:
+    BrowserMachine();
+    ~BrowserMachine() override;
+
+    /// Writes a file, and the folders above it; where it is.
+    std::filesystem::path writeBytes(const std::string& dosPath, std::string_view bytes);
+    /// The same in code page 1253.
+    void write(const std::string& dosPath, const std::string& text) { writeBytes(dosPath, cp1253(text)); }
+    /// Copies a file of the operating system.
+    void copyFile(const std::string& native, const std::string& dosPath);
+    /// A picture of one colour.
+    void writePicture(const std::string& dosPath, int width, int height, QColor colour);
+
+    void makeBrowser();
+    void closeBrowser() { host_.reset(); }
+    /// Navigates as the program does, and waits for the page.
+    void open(const std::string& address, std::int32_t flags = 0);
+    /// The same without waiting.
+    void navigate(const std::string& address, std::int32_t flags = 0);
+    /// Clicks a link, and waits for what comes of it.
+    bool click(const std::string& linkText);
+    /// Runs the event loop until nothing is being loaded any more.
+    void waitForPage();
+    void run(int milliseconds);
+    /// Runs the event loop until it is so, ten seconds at most; whether it came so.
+    bool runUntil(const std::function<bool()>& condition);
+
+    platform::ComponentHost& host() { return *host_; }
+    platform::WebPageInspector& page();
+    std::string url() { return utf8(page().url()); }
+    std::string title() { return utf8(page().title()); }
+    /// The page's text, its blanks and line ends as one blank each.
+    std::string text();
+    QImage picture();
+    /// How many pixels of the area are so, or near this colour.
+    int count(const platform::CRect& area, const std::function<bool(QColor)>& counts);
+    int count(const platform::CRect& area, QColor colour);
+
+    /// The widget that takes mouse and keyboard for the page.
+    QWidget* input() { return host_->control().widget().focusProxy(); }
+    void doubleClick(QPoint point);
+
+    platform::Registry& registry() { return machine_->registry(); }
+    std::vector<platform::TraceEntry> takeTrace() { return machine_->trace().take(); }
+    /// Addresses of the navigations that were cancelled since the last call.
+    std::vector<std::string> takeRefused();
+
+    static std::string utf8(std::string_view text);
+    static std::string cp1253(std::string_view text);
+
+    /// Addresses told by BeforeNavigate; those that `refuses` likes are cancelled.
+    std::vector<std::string> asked;
+    std::function<bool(const std::string&)> refuses = [](const std::string&) { return false; };
+    QWidget window;
+
+  private:
+    TestFolder folder_;
+    std::unique_ptr<platform::Machine> machine_;
+    std::unique_ptr<platform::ComponentHost> host_;
+};

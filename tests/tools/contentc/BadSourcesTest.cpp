@@ -1,0 +1,228 @@
+#include <gtest/gtest.h>
+
+#include "tests/tools/contentc/ContentFolder.h"
+
+namespace {
+
+using Messages = std::vector<std::string>;
+
+const std::string kTopicHeader = "title: T\nkind: topic\n---\n";
+
+constexpr const char* kPage = "pages/uses/400010.page";
+constexpr const char* kMolecule = "templates/molecule.html";
+
+// The molecule page's lines, from the one with the EMBED on; the twelve before them are blank.
+std::string moleculeTemplate(const std::string& fromLine13, int linesBefore = 12) {
+    return "{{title}}{{section}}" + std::string(static_cast<std::size_t>(linesBefore), '\n') + fromLine13 +
+           "{{body}}\n";
+}
+
+const std::string kEmbed = "<EMBED SRC=\"{{molfile}}\" WIDTH=340 HEIGHT=290\n";
+const std::string kNoEmbed =
+    "13: line 13 of the finished molecule page must hold the '<EMBED ' of the molecule with the sizes 340 "
+    "and 290";
+const std::string kNoTrue = "15: line 15 of the finished molecule page must end in its only 'true'";
+
+/// One file of the sources with a text that is wrong, and all that there is to say about it; messages that
+/// begin with a line number are about this file.
+const struct {
+    const char* file;
+    std::string text;
+    Messages messages;
+} kBadSources[] = {
+    // Data sets.
+    {"datasets/gases.data",
+     "number: 1\ntitle: T\ncolumn: text | N\ncolumn: number | V\n---\nα\t1\nβ\tδύο\nγ\n",
+     {"7: the row of 'β' has words where a number belongs",
+      "8: the row of 'γ' has not as many cells as there are columns"}},
+    {"datasets/gases.data",
+     "number: 0\ntitle: T\ncolumn: text | N\ncolumn: number | V\n---\n",
+     {"1: no field with a right value",
+      "5: the head needs 'number', 'title', a first column of words, a column of numbers, and a 'graph' of "
+      "such"}},
+    {"datasets/gases.txt", "", {"1: not a *.data file"}},
+    // Headers of pages.
+    {kPage, "title: T\nkind: topic\n<P>", {"3: no line '---' between header and body"}},
+    {kPage, "", {"1: no line '---' between header and body"}},
+    {kPage,
+     "title T\ncolour: red\nkind: topic\nkind: entry\n---\n",
+     {"1: not a header line 'name: value'", "2: unknown header field 'colour'",
+      "4: header field 'kind' stands twice", "5: header field 'title' is missing"}},
+    {kPage,
+     "title:\nkind: page\norder: first\ntemplate: film\n---\n",
+     {"1: header field 'title' is empty", "2: unknown kind 'page'", "3: not a number: 'first'",
+      "4: unknown template 'film'"}},
+    {kPage, "title: T\nkind: topic\ntopic: 400000\n---\n", {"3: only an entry has a topic"}},
+    {kPage,
+     "title: " + std::string(108, 'x') + "\nkind: topic\n---\n",
+     {"1: title has 108 bytes, at most 107 fit"}},
+    {"pages/uses/40001.page",
+     "title: " + std::string(60, 'x') + "\nkind: entry\ntopic: 400000\n---\n",
+     {"1: title has 60 bytes, at most 59 fit"}},
+    {"start.page", "title: T\nkind: start\n---\n", {"2: unknown header field 'kind'"}},
+    // Page numbers.
+    {"pages/uses/1000000.page", kTopicHeader, {"1: file name is not a page number: '1000000'"}},
+    {"pages/uses/0400010.page", kTopicHeader, {"1: file name is not a page number: '0400010'"}},
+    {"pages/uses/intro.page", kTopicHeader, {"1: file name is not a page number: 'intro'"}},
+    {"pages/uses/410010.page",
+     kTopicHeader,
+     {"1: '41\\0010' is already made from pages/elemcomp/410010.page"}},
+    {"pages/uses/400000.page", kTopicHeader, {"1: page 400000 must be of kind 'start'"}},
+    {"pages/uses/400001.page",
+     "title: T\nkind: start\n---\n",
+     {"1: the start page of this section is 400000, not 400001"}},
+    {"pages/uses/30001.page",
+     "title: T\nkind: entry\ntopic: 400000\n---\n",
+     {"1: entry 30001 belongs to no title list"}},
+    {"pages/uses/40000.page",
+     "title: T\nkind: entry\ntopic: 400000\n---\n",
+     {"1: entry 40000 belongs to no title list"}},
+    {"pages/uses/40001.page",
+     "title: T\nkind: entry\ntopic: 410010\n---\n",
+     {"3: section 'uses' has no topic 410010"}},
+    {"pages/elemcomp/10002.page",
+     "title: T\nkind: entry\ntopic: 10001\n---\n",
+     {"3: section 'elemcomp' has no topic 10001"}},
+    {"pages/elemcomp/10002.page", "title: T\nkind: entry\n---\n", {"3: header field 'topic' is missing"}},
+    {"elements.txt",
+     "# keys\n\n1 10001\n2 400000\n119 410010\n1 410010\n3\n4 410010 x\n",
+     {"4: section 'elemcomp' has no page 400000", "5: not a line 'atomic-number page-id'",
+      "6: element 1 stands twice", "7: not a line 'atomic-number page-id'",
+      "8: not a line 'atomic-number page-id'"}},
+    // Marks in the text.
+    {kPage,
+     kTopicHeader + "ok\n[[hydrogen|H\n[[hydrogen]]\n[[hydroge|H]]\n[[Hydrogen|H]]\n",
+     {"5: '[[' is not closed on its line", "6: '[[' without '|'",
+      "7: glossary key 'hydroge' is not 8 characters of a-z and 0-9",
+      "8: glossary key 'Hydrogen' is not 8 characters of a-z and 0-9"}},
+    {kPage,
+     kTopicHeader + "[[helium00|He]]\n[[hydrogen| ]]\n[[hydrogen|a [[hydrogen|b]]\n~ [[hydrogen|H]]\n~Graph\n"
+                    "[[hydrogen|a~b]]\n{{date}}\n{{title}}\n{{data\n",
+     {"4: no glossary term has the key 'helium00'", "5: a glossary link without words",
+      "6: '[[' inside a glossary link", "7: '~' would be taken for a glossary link",
+      "8: '~' would be taken for a glossary link", "9: '~' would be taken for a glossary link",
+      "10: unknown mark '{{date}}'", "11: unknown mark '{{title}}'", "12: '{{' is not closed on its line"}},
+    {kPage,
+     kTopicHeader + "{{video none}}\n<P>{{video none}}\n{{molecule water}}\n{{video a\\b}}\n",
+     {"4: no video is named 'none'",
+      "5: '{{video none}}' is not '{{video NAME}}' or '{{molecule NAME}}' on a line of its own",
+      "6: a molecule needs the header line 'template: molecule'",
+      "7: '{{video a\\b}}' is not '{{video NAME}}' or '{{molecule NAME}}' on a line of its own"}},
+    {kPage,
+     kTopicHeader + "<IMG SRC=\"{{data}}images\\none.png\">\n<IMG SRC={{data}}images/none.gif>\n",
+     {"4: the data folder has no file 'images\\none.png'",
+      "5: the data folder has no file 'images/none.gif'"}},
+    {"pages/struct/370010.page",
+     "title: T\nkind: topic\ntemplate: molecule\n---\n{{molecule none}}\n{{molecule water}}\n",
+     {"5: no molecule is named 'none'", "6: a second molecule on the page"}},
+    {"pages/struct/370010.page",
+     "title: T\nkind: topic\ntemplate: molecule\n---\n",
+     {"1: a page of template 'molecule' needs a line '{{molecule NAME}}'"}},
+    {"start.page",
+     "title: T\n---\n[[hydrogen|H]]\n",
+     {"3: a glossary link works only on a page of a section"}},
+    // What text may hold.
+    {kPage,
+     "title: H\xE2\x82\x82O\nkind: topic\n---\nok\n\xE2\x86\x92\xE2\x86\x92\n",
+     {"1: not in code page 1253: '\xE2\x82\x82' (U+2082)",
+      "5: not in code page 1253: '\xE2\x86\x92' (U+2192)"}},
+    {kPage,
+     kTopicHeader + "\xE1\n\x05..\n\xC2\x81\n" + std::string(20001, 'x') + "\n",
+     {"4: not UTF-8", "5: control character U+0005", "6: control character U+0081",
+      "7: line has 20001 bytes, at most 20000 are allowed"}},
+    {"style.css", "P { }\n/* \xE2\x82\x82 */\n", {"2: not in code page 1253: '\xE2\x82\x82' (U+2082)"}},
+    {"glossary/hydrogen.term",
+     "",
+     {"1: the first line must be the term",
+      "pages/elemcomp/410010.page:5: no glossary term has the key 'hydrogen'"}},
+    {"glossary/hydrogen.term", "H\nabcd\n\n", {"1: definition is missing or too short to be shown"}},
+    {"glossary/hydrogen.term",
+     std::string(49, 'H') + "\nok\n" + std::string(4998, 'x') + "\n",
+     {"1: term is longer than 48 bytes", "3: line is longer than 4997 bytes"}},
+    {"glossary/Water.term",
+     "water\nH2O, liquid\n",
+     {"1: glossary key 'Water' is not 8 characters of a-z and 0-9", "1: warning: no page uses this term"}},
+    // Files.
+    {"pages/iron/1.page", "", {"pages/iron:1: no section is named 'iron'"}},
+    {"pages/uses/400010.pag", "", {"1: not a *.page file"}},
+    {"glossary/water.txt", "", {"1: not a *.term file"}},
+    {"pictures/atom.svg", "<svg/>", {"1: no image folder has the rendered picture 'atom.png'"}},
+    {"pictures/my atom.png",
+     "",
+     {"1: 'images\\my atom.png' has characters other than a-z, 0-9, '.', '-' and '_'"}},
+    {"templates/page.html",
+     "<HTML>{{titel}}\n",
+     {"1: placeholder '{{body}}' is missing", "1: placeholder '{{section}}' is missing",
+      "1: placeholder '{{title}}' is missing"}},
+    {"templates/page.html", "{{title}}{{section}}\n<TD>{{body}}\n{{foot}}\n", {"3: unknown mark '{{foot}}'"}},
+    {kMolecule, "{{title}}{{section}}\n\n{{body}}\n", {"1: placeholder '{{molfile}}' is missing"}},
+    // The layout of molecule pages.
+    {kMolecule, moleculeTemplate(kEmbed + "\ntrue\n</TD>\n", 13), {kNoEmbed, kNoTrue}},
+    {kMolecule,
+     moleculeTemplate("<EMBED SRC=\"{{molfile}}\" WIDTH=340 HEIGHT=300\n\nS=true>\n</TD>\n"),
+     {kNoEmbed, kNoTrue}},
+    {kMolecule, moleculeTemplate(kEmbed + "\na=true b=true\n</TD>\n"), {kNoTrue}},
+    {kMolecule,
+     moleculeTemplate(kEmbed + "</TD>\ntrue\n </TD>\n"),
+     {"pages/struct/370010.page:1: no line after line 15 of the finished page begins with '</TD>'"}},
+    {kMolecule,
+     moleculeTemplate("<EMBED TYPE=\"mol\" SRC=\"{{molfile}}\" WIDTH=340 HEIGHT=290\n\ntrue\n</TD>\n"),
+     {"13: the molecule file must be the first text in quotes on its line"}},
+};
+
+TEST(BadSources, AreReportedByLine) {
+    for (const auto& [file, text, messages] : kBadSources) {
+        ContentFolder content;
+        content.write(file, text);
+        EXPECT_FALSE(content.compile());
+        Messages expected;
+        for (const std::string& message : messages) {
+            const bool ofThisFile = message.front() >= '0' && message.front() <= '9';
+            expected.push_back(ofThisFile ? std::string(file) + ':' + message : message);
+        }
+        EXPECT_EQ(content.messages, expected) << file << ":\n" << text.substr(0, 200);
+    }
+}
+
+TEST(DataSets, OfOneNumberAreReported) {
+    ContentFolder content;
+    const std::string text = "number: 1\ntitle: T\ncolumn: text | N\ncolumn: number | V\n---\n";
+    content.write("datasets/gases.data", text);
+    content.write("datasets/salts.data", text);
+    EXPECT_FALSE(content.compile());
+    EXPECT_EQ(content.messages, Messages{"datasets/salts.data:1: another data set has the number 1 too"});
+}
+
+TEST(MissingSources, AreReported) {
+    const std::pair<const char*, std::string> cases[] = {
+        {"start.page", "start.page:1: missing"},
+        {"elements.txt", "elements.txt:1: missing"},
+        {"templates/page.html", "templates/page.html:1: missing"},
+        {"templates/molecule.html", "templates/molecule.html:1: missing"},
+        {"molecules", "pages/struct/370010.page:5: no molecule is named 'water'"},
+        {"style.css", "templates/page.html:3: the data folder has no file 'style\\kalyxo.css'"},
+        {"glossary", "pages/elemcomp/410010.page:5: no glossary term has the key 'hydrogen'"},
+        {"pages/uses", "pages/uses/400000.page:1: start page of the section missing"},
+    };
+    for (const auto& [missing, message] : cases) {
+        ContentFolder content;
+        content.remove(missing);
+        EXPECT_FALSE(content.compile());
+        EXPECT_EQ(content.messages, Messages{message}) << missing;
+    }
+}
+
+TEST(SharedTitleList, RefusesOneEntryWithTwoTitles) {
+    ContentFolder content;
+    const std::string header = "kind: entry\ntopic: 320000\n---\n";
+    content.write("pages/history/740005.page", "title: Lavoisier\n" + header);
+    content.write("pages/history/760005.page", "title: Lavoisier\n" + header);
+    EXPECT_TRUE(content.compile());
+    content.write("pages/history/770005.page", "title: Curie\n" + header);
+    EXPECT_FALSE(content.compile());
+    EXPECT_EQ(content.messages,
+              Messages{"pages/history/770005.page:1: entry 5 of 'history.ttl' has another title in "
+                       "pages/history/740005.page"});
+}
+
+}  // namespace

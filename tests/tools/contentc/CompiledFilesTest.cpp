@@ -1,0 +1,163 @@
+#include <gtest/gtest.h>
+
+#include "formats/BrowseIndex.h"
+#include "formats/ElementIndex.h"
+#include "formats/SectionTitles.h"
+#include "formats/TitleLists.h"
+#include "platform/text/CodePage1253.h"
+#include "tests/tools/contentc/ContentFolder.h"
+
+namespace {
+
+using namespace std::string_literals;
+
+std::string greek(const char* utf8) { return platform::fromUtf8(utf8); }
+
+std::string topic(const std::string& title, const std::string& more, const std::string& body) {
+    return "title: " + title + "\nkind: topic\n" + more + "---\n" + body;
+}
+
+TEST(CompiledFiles, WarningsAndLinesOfTheGreatestLengthStopNothing) {
+    ContentFolder content;
+    content.write("pages/uses/400010.page", topic("T", "", std::string(20000, 'x')));
+    EXPECT_TRUE(content.compile());
+    EXPECT_EQ(content.messages, std::vector<std::string>{});
+    content.write("glossary/helium00.term", "ήλιο\nΤο δεύτερο στοιχείο.\n");
+    EXPECT_TRUE(content.compile());
+    EXPECT_EQ(content.messages, std::vector{"glossary/helium00.term:1: warning: no page uses this term"s});
+}
+
+TEST(CompiledFiles, HoldTheirSourceInCodePage1253) {
+    const struct {
+        const char* source;
+        std::string text;
+        const char* file;
+        const char* compiled;  // UTF-8
+    } cases[] = {
+        {"pages/uses/400010.page", topic("Άλας & <νερό>", "", "<P>Άλας\r\n\n[[hydrogen|υ]]"), "40\\0010",
+         "<HTML>\r\n<TITLE>Άλας &amp; &lt;νερό&gt;</TITLE>\r\n<LINK HREF=\"\x05..style\\kalyxo.css\">\r\n"
+         "<BODY CLASS=\"uses\">\r\n<P>Η χημεία στην πράξη</P>\r\n<P>Άλας\r\n\r\n~Ghydrogenυ~G\r\n"
+         "</BODY></HTML>\r\n"},
+        {"datasets/gases.data",
+         "number: 1\ntitle: Αέρια\ncolumn: text | N\ncolumn: number | V\n---\nήλιο\t4.003\n",
+         "datasets\\gases.dat",
+         "number: 1\r\ntitle: Αέρια\r\ncolumn: text | N\r\ncolumn: number | V\r\n---\r\nήλιο\t4.003\r\n"},
+        {"glossary/hydrogen.term", "υδρογόνο\nΠρώτη γραμμή.\n\nΤρίτη.\n\n\n", "glossary\\hydrogen.htm",
+         "υδρογόνο\r\nΠρώτη γραμμή.\r\n\r\nΤρίτη.\r\n"},
+    };
+    for (const auto& [source, text, file, compiled] : cases) {
+        ContentFolder content;
+        content.write(source, text);
+        EXPECT_EQ(content.compiled(file), greek(compiled)) << source;
+    }
+}
+
+TEST(CompiledFiles, MarksBecomeMarkers) {
+    ContentFolder content;
+    content.write("built/fire.webm", "video");
+    content.write("built/atom.png", "picture");
+    content.write("templates/page.html", "{{title}}{{section}}\n{{body}}\n");
+    const struct {
+        const char* source;
+        std::string line;
+    } cases[] = {
+        {"{{data}}images\\atom.png {{data}}images/ATOM.png", "\x05..images\\atom.png \x05..images/ATOM.png"},
+        {"[[hydrogen|H]] and [[hydrogen|<I>H</I>]]!", "~GhydrogenH~G and ~Ghydrogen<I>H</I>~G!"},
+        {"[[hydrogen|<IMG SRC={{data}}images/atom.png>]]", "~Ghydrogen<IMG SRC=\x05..images/atom.png>~G"},
+        {"  {{video fire}} ", "<EMBED SRC=\"\x04..video\\fire.webm\" WIDTH=320 HEIGHT=258 AUTOPLAY=FALSE>"},
+        {"a[b] ]] } ~ g", "a[b] ]] } ~ g"},
+        {"\tx", "\tx"},
+    };
+    for (const auto& [source, line] : cases) {
+        content.write("pages/uses/400010.page", topic("T", "", source));
+        EXPECT_EQ(content.compiled("40\\0010"), "Tuses\r\n" + line + "\r\n") << source;
+    }
+}
+
+TEST(CompiledFiles, BodyTakesItsPlaceInALineOfTheScaffold) {
+    ContentFolder content;
+    content.write("templates/page.html", "{{title}}{{section}}\n<TD>{{body}}</TD>\nend");
+    content.write("pages/uses/400010.page", topic("T", "", "1\n2\n"));
+    EXPECT_EQ(content.compiled("40\\0010"), "Tuses\r\n<TD>\r\n1\r\n2\r\n</TD>\r\nend\r\n");
+}
+
+TEST(CompiledFiles, MoleculePageNamesItsFileAndKeepsTheLayout) {
+    ContentFolder content;
+    const std::string page = content.compiled("37\\0010");
+    EXPECT_NE(page.find("\r\n<EMBED SRC=\"\x03..mol\\water.mol\" WIDTH=340 HEIGHT=290\r\n"),
+              std::string::npos);
+    EXPECT_EQ(page.find("{{"), std::string::npos);
+    EXPECT_NE(page.find("</TABLE>\r\n<P>H<SUB>2</SUB>O</P>\r\n"), std::string::npos);
+    EXPECT_EQ(content.compiled("mol\\water.mol"), "water\n");
+}
+
+TEST(CompiledFiles, PlainPagesHaveATitleAndRelativeAddresses) {
+    ContentFolder content;
+    content.write("help.page", "title: Βοήθεια\n---\n<LINK HREF=\"{{data}}style/kalyxo.css\">\n");
+    const std::string page = content.compiled("help.htm");
+    EXPECT_TRUE(page.starts_with("<HTML>\r\n<HEAD>\r\n"));
+    EXPECT_NE(page.find("charset=windows-1253"), std::string::npos);
+    EXPECT_TRUE(page.ends_with("<TITLE>" + greek("Βοήθεια") +
+                               "</TITLE>\r\n</HEAD>\r\n<BODY>\r\n<LINK HREF=\"style/kalyxo.css\">\r\n"
+                               "</BODY>\r\n</HTML>\r\n"));
+    EXPECT_NE(content.compiled("a.htm").find("<P>Welcome</P>"), std::string::npos);
+}
+
+TEST(CompiledFiles, PicturesAreCopiedAndTwoOfOneNameRefused) {
+    ContentFolder content;
+    content.write("pictures/atom.png", "\x89PNG\r\n\0"s);
+    content.write("built/mainmenu.bmp", "BM");
+    content.write("built/notes.txt", "not a picture");
+    EXPECT_EQ(content.compiled("images\\atom.png"), "\x89PNG\r\n\0"s);
+    EXPECT_EQ(content.compiled("images\\mainmenu.bmp"), "BM");
+    content.write("built/Atom.png", "");
+    EXPECT_FALSE(content.compile());
+    EXPECT_EQ(content.messages,
+              std::vector{"built/Atom.png:1: 'images\\Atom.png' is already made from pictures/atom.png"s});
+}
+
+TEST(CompiledFiles, IndexesListThePagesInDisplayOrder) {
+    ContentFolder content;
+    content.write("pages/uses/400030.page", topic("Second", "order: 2\n", ""));
+    content.write("pages/uses/400050.page", topic("First", "order: -1\n", ""));
+    content.write("pages/uses/400040.page", topic("Third", "order: 2\n", ""));
+    for (const char* entry : {"40003", "40001", "120002"}) {
+        content.write("pages/uses/"s + entry + ".page",
+                      "title: E"s + entry + "\nkind: entry\ntopic: 400030\n---\n");
+    }
+    content.write("pages/uses/40002.page", "title: Athens\nkind: entry\ntopic: 400000\n---\n");
+
+    const std::vector<formats::SectionTitleRecord> titles{
+        {"Start of uses", 400000}, {"First", 400050}, {"Second", 400030}, {"Third", 400040}};
+    EXPECT_EQ(formats::decodeSectionTitles(content.compiled("uses.dat")), titles);
+
+    const std::string countries = content.compiled("country.ttl");
+    EXPECT_EQ(countries.size(), 3 * formats::kTitleListRecordSize);
+    EXPECT_EQ(formats::entryTitle(countries, 1), "E40001");
+    EXPECT_EQ(formats::entryTitle(countries, 2), "Athens");
+    EXPECT_EQ(formats::entryTitle(content.compiled("video.ttl"), 2), "E120002");
+    EXPECT_EQ(content.compile()->contains("photo.ttl"), true);
+
+    const auto index = formats::decodeBrowseIndex(content.compiled("select.ndx"));
+    ASSERT_TRUE(index);
+    const formats::BrowseSection expected{
+        4,
+        {{400000, 400000, "Start of uses", {{40002, "Athens"}}},
+         {400050, 400050, "First", {}},
+         {400030, 400030, "Second", {{40001, "E40001"}, {40003, "E40003"}, {120002, "E120002"}}},
+         {400040, 400040, "Third", {}}}};
+    EXPECT_EQ(*formats::findSection(*index, 4), expected);
+    EXPECT_EQ(index->sections.size(), 7U);
+}
+
+TEST(CompiledFiles, ElementMayLeadToATopicOrToAnEntryThatGetsAPageTitle) {
+    ContentFolder content;
+    content.write("elements.txt", "# hydrogen and its like\n2\t410010\n 1   10001\n3 10001\n");
+    const std::vector<formats::ElementPageRecord> elements{{2, 410010}, {1, 10001}, {3, 10001}};
+    EXPECT_EQ(formats::decodeElementIndex(content.compiled("ptable.ndx")), elements);
+    const std::vector<formats::SectionTitleRecord> titles{
+        {"Start of elemcomp", 410000}, {greek("Αέρια"), 410010}, {greek("Υδρογόνο"), 10001}};
+    EXPECT_EQ(formats::decodeSectionTitles(content.compiled("elemcomp.dat")), titles);
+}
+
+}  // namespace

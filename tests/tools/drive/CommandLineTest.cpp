@@ -1,0 +1,32 @@
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "tools/drive/script/CommandLine.h"
+
+namespace drive {
+namespace {
+
+TEST(CommandLine, SaysWhatIsWrong) {
+    const std::vector<std::vector<const char*>> wrong = {
+        {},
+        {"--machine"},
+        {"script.kys"},
+        {"--machine", "m", "a.kys", "b.kys"},
+        {"--machine", "m", "--bare"},
+        {"--machine", "m", "--data", "d"},
+        {"--new-machine", "m"},
+        {"--new-machine", "m", "--data"},
+        {"--new-machine", "m", "--data", "d", "a.kys"},
+        {"--new-machine", "m", "--machine", "m", "--data", "d"},
+        {"--machine", "m", "--quick"},
+    };
+    for (const auto& arguments : wrong) {
+        const Task task = taskOf(arguments);
+        ASSERT_TRUE(std::holds_alternative<std::string>(task)) << testing::PrintToString(arguments);
+        EXPECT_FALSE(std::get<std::string>(task).empty());
+    }
+}
+
+}  // namespace
+}  // namespace drive

@@ -1,0 +1,83 @@
+#include "tools/contentc/source/Content.h"
+
+#include <algorithm>
+#include <tuple>
+
+namespace contentc {
+namespace {
+
+bool pageComesBefore(const PageSource* a, const PageSource* b) {
+    const auto rank = [](const PageSource& page) {
+        return std::tuple(page.kind != PageKind::Start, page.order, page.number);
+    };
+    return rank(*a) < rank(*b);
+}
+
+template <typename Condition>
+std::vector<const PageSource*> pagesInOrder(const Content& content, Condition isWanted) {
+    std::vector<const PageSource*> wanted;
+    for (const PageSource& page : content.pages) {
+        if (isWanted(page)) wanted.push_back(&page);
+    }
+    std::ranges::sort(wanted, pageComesBefore);
+    return wanted;
+}
+
+std::optional<PageSource> readRequiredPage(const std::optional<SourceFile>& file,
+                                           const std::filesystem::path& path, Diagnostics& diagnostics) {
+    if (file) return readPlainPage(*file, diagnostics);
+    diagnostics.error({path.generic_string()}, "missing");
+    return std::nullopt;
+}
+
+void readSection(const SectionFolder& folder, Content& content, Diagnostics& diagnostics) {
+    const formats::Section* section = formats::sectionByKey(folder.folder.name());
+    if (!section) {
+        diagnostics.error(folder.folder.place(), "no section is named '" + folder.folder.name() + '\'');
+        return;
+    }
+    for (const SourceFile& file : folder.pages) {
+        if (auto page = readSectionPage(file, *section, diagnostics))
+            content.pages.push_back(std::move(*page));
+    }
+}
+
+}  // namespace
+
+Content readContent(const SourceTree& tree, Diagnostics& diagnostics) {
+    Content content;
+    content.startPage = readRequiredPage(tree.startPage, tree.root / "start.page", diagnostics);
+    if (tree.helpPage) content.helpPage = readPlainPage(*tree.helpPage, diagnostics);
+    for (const SectionFolder& folder : tree.sections) readSection(folder, content, diagnostics);
+    for (const SourceFile& file : tree.terms) {
+        if (auto term = readTerm(file, diagnostics)) content.terms.push_back(std::move(*term));
+    }
+    if (tree.elements) {
+        content.elements = readElements(*tree.elements, diagnostics);
+    } else {
+        diagnostics.error({(tree.root / "elements.txt").generic_string()}, "missing");
+    }
+    content.words = readWords(tree.stopWords, tree.wordForms, diagnostics);
+    return content;
+}
+
+std::vector<const PageSource*> topicsOf(const Content& content, const formats::Section& section) {
+    return pagesInOrder(content, [&section](const PageSource& page) {
+        return page.section == &section && page.kind != PageKind::Entry;
+    });
+}
+
+std::vector<const PageSource*> entriesOf(const Content& content, const PageSource& topic) {
+    return pagesInOrder(content, [&topic](const PageSource& page) {
+        return page.section == topic.section && page.kind == PageKind::Entry && page.topic == topic.number;
+    });
+}
+
+const PageSource* elementPage(const Content& content, const ElementLine& element) {
+    const auto found = std::ranges::find_if(content.pages, [&element](const PageSource& page) {
+        return page.section->key == "elemcomp" && page.number == element.record.pageId;
+    });
+    return found == content.pages.end() ? nullptr : &*found;
+}
+
+}  // namespace contentc

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "tools/contentc/source/ElementsSource.h"
+#include "tools/contentc/source/PageSource.h"
+#include "tools/contentc/source/SourceTree.h"
+#include "tools/contentc/source/TermSource.h"
+#include "tools/contentc/source/WordsSource.h"
+
+namespace contentc {
+
+/// The sources, parsed.
+struct Content {
+    /// The pages of all sections.
+    std::vector<PageSource> pages;
+    std::optional<PageSource> startPage;
+    std::optional<PageSource> helpPage;
+    std::vector<TermSource> terms;
+    std::vector<ElementLine> elements;
+    WordsSource words;
+};
+
+/// Parses all sources; what is wrong is reported, and what is too faulty is left out.
+Content readContent(const SourceTree& tree, Diagnostics& diagnostics);
+
+/// The start page and the topics of a section in display order.
+std::vector<const PageSource*> topicsOf(const Content& content, const formats::Section& section);
+
+/// The entries of a topic or start page in display order.
+std::vector<const PageSource*> entriesOf(const Content& content, const PageSource& topic);
+
+/// The page of the section `elemcomp` that a click on the element opens: a topic or an entry. Null when there
+/// is none.
+const PageSource* elementPage(const Content& content, const ElementLine& element);
+
+}  // namespace contentc

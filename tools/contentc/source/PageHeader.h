@@ -1,0 +1,41 @@
+#pragma once
+
+#include <initializer_list>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "tools/contentc/source/SourceText.h"
+
+namespace contentc {
+
+/// The `name: value` lines at the head of a page source.
+class PageHeader {
+  public:
+    /// Takes the header off `lines`, which then hold the body. Lines that are no fields and fields named
+    /// twice are reported; so is a missing `---`, and then there is no header.
+    static std::optional<PageHeader> take(const SourceFile& file, std::vector<TextLine>& lines,
+                                          Diagnostics& diagnostics);
+
+    /// Reports each field that is not one of `known`.
+    void allowOnly(std::initializer_list<std::string_view> known, Diagnostics& diagnostics) const;
+
+    /// Null when the page does not have the field.
+    const TextLine* find(std::string_view name) const;
+
+    /// As `find`; a missing or empty field is reported.
+    const TextLine* require(std::string_view name, Diagnostics& diagnostics) const;
+
+  private:
+    explicit PageHeader(SourcePlace end) : m_end(std::move(end)) {}
+
+    void add(const TextLine& line, Diagnostics& diagnostics);
+
+    std::map<std::string, TextLine, std::less<>> m_fields;
+    /// The line `---`, where a missing field is reported.
+    SourcePlace m_end;
+};
+
+}  // namespace contentc

@@ -1,0 +1,80 @@
+#include "tools/contentc/source/SourceText.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdio>
+
+#include "platform/text/CodePage1253.h"
+#include "platform/text/CodePageTable.h"
+
+namespace contentc {
+namespace {
+
+using platform::codepage::Utf8Character;
+
+std::string codePoint(char32_t value) {
+    char code[16];
+    std::snprintf(code, sizeof code, "U+%04X", static_cast<unsigned>(value));
+    return code;
+}
+
+bool isControl(char32_t value) { return (value < 0x20 && value != '\t') || (value >= 0x7F && value < 0xA0); }
+
+bool isPrivate(char32_t value) { return value >= 0xE000 && value < 0xF900; }
+
+/// What is wrong with a character, or nothing. Controls and private characters have bytes in the code page,
+/// but no meaning on a page.
+std::string faultOf(const Utf8Character& character, std::string_view bytes) {
+    if (character.value == Utf8Character::malformed) return "not UTF-8";
+    if (isControl(character.value)) return "control character " + codePoint(character.value);
+    if (platform::codepage::fromUnicode(character.value) >= 0 && !isPrivate(character.value)) return {};
+    return "not in code page 1253: '" + std::string(bytes) + "' (" + codePoint(character.value) + ')';
+}
+
+std::string encodeLine(std::string_view utf8, const SourcePlace& place, Diagnostics& diagnostics) {
+    std::string encoded;
+    std::string firstFault;
+    for (std::size_t at = 0; at < utf8.size();) {
+        const Utf8Character character = platform::codepage::decodeUtf8(utf8, at);
+        const std::string fault = faultOf(character, utf8.substr(at, character.length));
+        if (!fault.empty() && firstFault.empty()) firstFault = fault;
+        encoded.push_back(fault.empty() ? static_cast<char>(platform::codepage::fromUnicode(character.value))
+                                        : '?');
+        at += character.length;
+    }
+    if (!firstFault.empty()) diagnostics.error(place, firstFault);
+    return encoded;
+}
+
+}  // namespace
+
+std::vector<TextLine> readLines(const SourceFile& file, Diagnostics& diagnostics) {
+    std::vector<TextLine> lines;
+    std::string_view rest = file.bytes;
+    while (!rest.empty()) {
+        std::string_view line = rest.substr(0, rest.find('\n'));
+        rest.remove_prefix(std::min(rest.size(), line.size() + 1));
+        if (line.ends_with('\r')) line.remove_suffix(1);
+        const SourcePlace place = file.place(static_cast<int>(lines.size()) + 1);
+        lines.push_back({encodeLine(line, place, diagnostics), place});
+    }
+    return lines;
+}
+
+std::string_view trimmed(std::string_view text) {
+    constexpr std::string_view kBlanks = " \t";
+    const std::size_t first = text.find_first_not_of(kBlanks);
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+std::optional<std::int32_t> parseNumber(std::string_view text) {
+    std::int32_t number = 0;
+    const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (fault != std::errc{} || end != text.data() + text.size()) return std::nullopt;
+    return number;
+}
+
+std::string inQuotes(std::string_view text) { return '\'' + platform::toUtf8(text) + '\''; }
+
+}  // namespace contentc

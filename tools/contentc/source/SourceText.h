@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "tools/contentc/source/Diagnostics.h"
+#include "tools/contentc/source/SourceTree.h"
+
+namespace contentc {
+
+/// One line in code page 1253, with the place it comes from.
+struct TextLine {
+    std::string text;
+    SourcePlace place;
+};
+
+/// The lines of a UTF-8 source file in code page 1253, without line ends. Characters outside the code page,
+/// bytes that are no UTF-8 and control characters (some are markers in finished pages) are reported, one for
+/// each line, and come out as '?'.
+std::vector<TextLine> readLines(const SourceFile& file, Diagnostics& diagnostics);
+
+/// The text without blanks and tabs at its ends.
+std::string_view trimmed(std::string_view text);
+
+/// A decimal number of 32 bits and nothing else.
+std::optional<std::int32_t> parseNumber(std::string_view text);
+
+/// `text` in quotes for a message; code page 1253 becomes UTF-8.
+std::string inQuotes(std::string_view text);
+
+}  // namespace contentc

@@ -1,0 +1,79 @@
+#include "tools/drive/script/CommandLine.h"
+
+#include <vector>
+
+namespace drive {
+
+namespace {
+
+/// The arguments by their form; texts that are null were not given.
+struct Given {
+    std::optional<std::string> machine;
+    std::optional<std::string> newMachine;
+    std::optional<std::string> data;
+    bool outside = false;
+    bool bare = false;
+    std::vector<std::string> rest;
+};
+
+std::optional<std::string>* valueOf(Given& given, std::string_view option) {
+    if (option == "--machine") return &given.machine;
+    if (option == "--new-machine") return &given.newMachine;
+    if (option == "--data") return &given.data;
+    return nullptr;
+}
+
+bool* flagOf(Given& given, std::string_view option) {
+    if (option == "--outside") return &given.outside;
+    if (option == "--bare") return &given.bare;
+    return nullptr;
+}
+
+/// Sorts the arguments; an error text for one that has no place.
+std::string sortOut(std::span<const char* const> arguments, Given& given) {
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const std::string argument = arguments[i];
+        if (auto* value = valueOf(given, argument)) {
+            if (++i == arguments.size()) return argument + " needs a value";
+            *value = arguments[i];
+        } else if (bool* flag = flagOf(given, argument)) {
+            *flag = true;
+        } else if (argument.starts_with("--")) {
+            return argument + ": unknown option";
+        } else {
+            given.rest.push_back(argument);
+        }
+    }
+    return {};
+}
+
+Task newMachine(const Given& given) {
+    if (!given.data) return "--new-machine needs --data";
+    if (given.machine || !given.rest.empty()) return "--new-machine takes no machine and no script to run";
+    return NewMachine{*given.newMachine, *given.data, given.outside, given.bare};
+}
+
+Task runScript(const Given& given) {
+    if (!given.machine) return "--machine or --new-machine is missing";
+    if (given.data || given.outside || given.bare) return "--data, --outside and --bare make new machines";
+    if (given.rest.size() > 1) return "more than one script";
+    RunScript run{*given.machine, std::nullopt};
+    if (!given.rest.empty()) run.script = given.rest.front();
+    return run;
+}
+
+}  // namespace
+
+Task taskOf(std::span<const char* const> arguments) {
+    Given given;
+    std::string problem = sortOut(arguments, given);
+    if (!problem.empty()) return problem;
+    return given.newMachine ? newMachine(given) : runScript(given);
+}
+
+std::string_view usage() {
+    return "usage: kalyxo-drive --machine DIR [SCRIPT]\n"
+           "       kalyxo-drive --new-machine DIR --data FOLDER [--outside] [--bare]\n";
+}
+
+}  // namespace drive
