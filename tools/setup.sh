@@ -9,6 +9,8 @@ PACKAGES=(
 )
 # npm fetches a library of the molecule viewer; one that is there already will do, from wherever it came.
 command -v npm >/dev/null || PACKAGES+=(npm)
+# node runs the tests of the tools in pages.
+command -v node >/dev/null || PACKAGES+=(nodejs)
 
 say() { printf '\n== %s\n' "$*"; }
 

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "formats/TitleLists.h"
+#include "tools/contentc/ToolCompiler.h"
 
 namespace contentc {
 namespace {
@@ -89,6 +90,10 @@ void checkReferences(const References& references, const Content& content, const
     for (const Reference& molecule : references.molecules) {
         if (outputs.contains("mol\\" + molecule.name + ".mol")) continue;
         diagnostics.error(molecule.place, "no molecule is named '" + molecule.name + '\'');
+    }
+    for (const Reference& tool : references.tools) {
+        if (outputs.contains(toolScript(tool.name))) continue;
+        diagnostics.error(tool.place, "no tool is named '" + tool.name + '\'');
     }
     for (const Reference& path : references.dataPaths) {
         if (path.name.empty() || outputs.contains(path.name)) continue;

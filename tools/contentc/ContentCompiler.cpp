@@ -4,6 +4,7 @@
 
 #include "formats/PageNumber.h"
 #include "tools/contentc/ContentChecks.h"
+#include "tools/contentc/ElementScript.h"
 #include "tools/contentc/IndexFiles.h"
 #include "tools/contentc/PageCompiler.h"
 #include "tools/contentc/PageScaffold.h"
@@ -26,6 +27,7 @@ class ContentCompilation {
         addCopies("images\\", m_tree.pictures);
         addCopies("mol\\", m_tree.molecules);
         addCopies("video\\", m_tree.videos);
+        addTools();
         checkDrawings();
         checkContent(m_content, m_tree.root, m_diagnostics);
         checkReferences(m_references, m_content, m_outputs, m_diagnostics);
@@ -83,6 +85,16 @@ class ContentCompilation {
         for (const SourceFile& file : files) {
             m_outputs.add(folder + file.name(), file.bytes, file.place(), m_diagnostics);
         }
+    }
+
+    void addTools() {
+        if (m_tree.tools.empty()) return;
+        for (const SourceFile& file : m_tree.tools) {
+            const std::string folder = file.path.parent_path().filename().string();
+            m_outputs.add("tools\\" + folder + '\\' + file.name(), file.bytes, file.place(), m_diagnostics);
+        }
+        m_outputs.add("tools\\shared\\elements.js", elementScript(),
+                      {(m_tree.root / "tools").generic_string()}, m_diagnostics);
     }
 
     void checkDrawings() {

@@ -25,6 +25,8 @@ bool isMediaName(std::string_view text) {
 /// The marks that are lines of their own.
 bool isLineMark(std::string_view name) { return name.starts_with("video") || name.starts_with("molecule"); }
 
+bool isToolMark(std::string_view name) { return name.starts_with("tool") || name == "end"; }
+
 }  // namespace
 
 MarkupCompiler::MarkupCompiler(MarkValues values, bool glossary, References& references,
@@ -71,6 +73,11 @@ void MarkupCompiler::compileMark() {
     } else if (isLineMark(name)) {
         error(inQuotes("{{" + std::string(name) + "}}") +
               " is not '{{video NAME}}' or '{{molecule NAME}}' on a line " + "of its own");
+    } else if (isToolMark(name)) {
+        error(inQuotes("{{" + std::string(name) + "}}") +
+              " is not '{{tool NAME}}', with settings as 'name=\"value\"', or the '{{end}}' of a quiz, on a "
+              "line "
+              "of its own");
     } else {
         error("unknown mark " + inQuotes("{{" + std::string(name) + "}}"));
     }

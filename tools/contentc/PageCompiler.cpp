@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <optional>
 
+#include "tools/contentc/EscapeHtml.h"
 #include "tools/contentc/MarkupCompiler.h"
+#include "tools/contentc/ToolCompiler.h"
 #include "tools/contentc/source/MoleculeLayout.h"
 
 namespace contentc {
@@ -13,29 +15,6 @@ constexpr std::string_view kVideoMarker = "\x04..";
 // A small video of 320 × 240 pixels with its control strip of 18.
 constexpr std::string_view kVideoAttributes = "WIDTH=320 HEIGHT=258 AUTOPLAY=FALSE";
 constexpr std::string_view kMoleculeMarker = "\x03..";
-
-std::string escapeHtml(std::string_view text) {
-    std::string escaped;
-    for (const char c : text) {
-        switch (c) {
-            case '&':
-                escaped += "&amp;";
-                break;
-            case '<':
-                escaped += "&lt;";
-                break;
-            case '>':
-                escaped += "&gt;";
-                break;
-            case '"':
-                escaped += "&quot;";
-                break;
-            default:
-                escaped += c;
-        }
-    }
-    return escaped;
-}
 
 class PageCompilation {
   public:
@@ -76,13 +55,15 @@ class PageCompilation {
     std::vector<TextLine> compileBody() {
         MarkupCompiler markup(bodyMarks(), isPrepared(), m_references, m_diagnostics);
         std::vector<TextLine> lines;
-        for (const TextLine& line : m_page.body) {
-            if (const auto video = nameInMarkLine(line.text, "video")) {
-                lines.push_back(videoLine(*video, line.place));
-            } else if (const auto molecule = nameInMarkLine(line.text, "molecule")) {
-                setMolecule(*molecule, line.place);
+        for (auto line = m_page.body.begin(); line != m_page.body.end(); ++line) {
+            if (const auto video = nameInMarkLine(line->text, "video")) {
+                lines.push_back(videoLine(*video, line->place));
+            } else if (const auto molecule = nameInMarkLine(line->text, "molecule")) {
+                setMolecule(*molecule, line->place);
+            } else if (const auto tool = readToolLine(line->text)) {
+                line = addTool(*tool, line, markup, lines);
             } else {
-                lines.push_back(markup.compile(line));
+                lines.push_back(markup.compile(*line));
             }
         }
         if (m_page.scaffold == PageTemplate::Molecule && !m_molecule) {
@@ -98,6 +79,31 @@ class PageCompilation {
         std::string line = "<EMBED SRC=\"";
         line.append(kVideoMarker).append("video\\").append(name).append(".webm\" ");
         return {line.append(kVideoAttributes) + ">", place};
+    }
+
+    using Line = std::vector<TextLine>::const_iterator;
+
+    /// Adds the tool of a line; the result is the last line that goes with it.
+    Line addTool(const ToolLine& tool, Line line, MarkupCompiler& markup, std::vector<TextLine>& lines) {
+        const SourcePlace place = line->place;
+        if (!isPrepared()) m_diagnostics.error(place, "a tool works only on a page of a section");
+        m_references.tools.push_back({place, tool.name});
+        lines.push_back({openTool(tool), place});
+        if (tool.name == kQuizTool) line = addQuiz(line, markup, lines);
+        lines.push_back({closeTool(tool), place});
+        return line;
+    }
+
+    Line addQuiz(Line line, MarkupCompiler& markup, std::vector<TextLine>& lines) {
+        const auto isEnd = [](const TextLine& next) { return trimmed(next.text) == kEndLine; };
+        const Line end = std::find_if(line + 1, m_page.body.end(), isEnd);
+        if (end == m_page.body.end()) {
+            m_diagnostics.error(line->place, "the quiz has no line '{{end}}'");
+            return end - 1;
+        }
+        const auto quiz = compileQuiz({line + 1, end}, line->place, markup, m_diagnostics);
+        lines.insert(lines.end(), quiz.begin(), quiz.end());
+        return end;
     }
 
     void setMolecule(std::string_view name, const SourcePlace& place) {

@@ -118,9 +118,30 @@ const struct {
     {"pages/struct/370010.page",
      "title: T\nkind: topic\ntemplate: molecule\n---\n",
      {"1: a page of template 'molecule' needs a line '{{molecule NAME}}'"}},
+    // Tools.
+    {kPage,
+     kTopicHeader + "{{tool none}}\n<P>{{tool clock}}\n{{tool clock at=3}}\n{{end}}\n",
+     {"4: no tool is named 'none'",
+      "5: '{{tool clock}}' is not '{{tool NAME}}', with settings as 'name=\"value\"', or the '{{end}}' of a "
+      "quiz, "
+      "on a line of its own",
+      "6: '{{tool clock at=3}}' is not '{{tool NAME}}', with settings as 'name=\"value\"', or the '{{end}}' "
+      "of a "
+      "quiz, on a line of its own",
+      "7: '{{end}}' is not '{{tool NAME}}', with settings as 'name=\"value\"', or the '{{end}}' of a quiz, "
+      "on a "
+      "line of its own"}},
+    {kPage,
+     kTopicHeader + "{{tool quiz}}\n+ a\n? q\n+ a\nb\n> c\n? q\n+ a\n+ b\n? q\n> c\n- a\n- b\n{{end}}\n"
+                    "{{tool quiz}}\n\n{{end}}\n{{tool quiz}}\n? q\n",
+     {"5: a quiz begins with a question: '? …'", "6: a question needs two answers or more",
+      "8: a line of a quiz begins with '?', '-', '+', '>' or '!'",
+      "10: a question needs one right answer: '+ …'", "13: a question needs one right answer: '+ …'",
+      "14: a line of a quiz begins with '?', '-', '+', '>' or '!'", "18: a quiz without questions",
+      "21: the quiz has no line '{{end}}'"}},
     {"start.page",
-     "title: T\n---\n[[hydrogen|H]]\n",
-     {"3: a glossary link works only on a page of a section"}},
+     "title: T\n---\n[[hydrogen|H]]\n{{tool clock}}\n",
+     {"3: a glossary link works only on a page of a section", "4: a tool works only on a page of a section"}},
     // What text may hold.
     {kPage,
      "title: H\xE2\x82\x82O\nkind: topic\n---\nok\n\xE2\x86\x92\xE2\x86\x92\n",
@@ -173,6 +194,8 @@ const struct {
 TEST(BadSources, AreReportedByLine) {
     for (const auto& [file, text, messages] : kBadSources) {
         ContentFolder content;
+        content.write("tools/clock/face.js", "");
+        content.write("tools/quiz/face.js", "");
         content.write(file, text);
         EXPECT_FALSE(content.compile());
         Messages expected;

@@ -74,6 +74,51 @@ TEST(CompiledFiles, MarksBecomeMarkers) {
     }
 }
 
+TEST(CompiledFiles, ToolsAreBoxesWithTheirScripts) {
+    ContentFolder content;
+    content.write("tools/clock/face.js", "");
+    content.write("tools/quiz/face.js", "");
+    content.write("templates/page.html", "{{title}}{{section}}\n{{body}}\n");
+    const auto scripts = [](const std::string& name) {
+        return "</DIV><LINK REL=\"stylesheet\" HREF=\"\x05..tools\\shared\\style.css\"><SCRIPT "
+               "TYPE=\"module\" "
+               "SRC=\"\x05..tools\\" +
+               name + "\\face.js\"></SCRIPT>";
+    };
+    content.write(
+        "pages/uses/400010.page",
+        topic("T", "",
+              " {{tool clock at=\"<3 & ώρα\" of=\"\"}}\n{{tool quiz}}\n? [[hydrogen|H]]\n- a\n> no\n"
+              "\n+ b\n! so\n? q\n+ a\n- b\n{{end}}\nend"));
+    EXPECT_EQ(
+        content.compiled("40\\0010"),
+        "Tuses\r\n<DIV CLASS=\"tool\" DATA-TOOL=\"clock\" DATA-at=\"&lt;3 &amp; " + greek("ώρα") +
+            "\" DATA-of=\"\">\r\n" + scripts("clock") +
+            "\r\n<DIV CLASS=\"tool\" DATA-TOOL=\"quiz\">\r\n"
+            "<DIV CLASS=\"question\"><P CLASS=\"asked\">~GhydrogenH~G</P><UL>\r\n"
+            "<LI><SPAN CLASS=\"answer\">a</SPAN>\r\n<P CLASS=\"why\">no</P>\r\n"
+            "<LI CLASS=\"right\"><SPAN CLASS=\"answer\">b</SPAN>\r\n"
+            "</UL><P CLASS=\"explanation\">so</P></DIV>\r\n"
+            "<DIV CLASS=\"question\"><P CLASS=\"asked\">q</P><UL>\r\n"
+            "<LI CLASS=\"right\"><SPAN CLASS=\"answer\">a</SPAN>\r\n<LI><SPAN CLASS=\"answer\">b</SPAN>\r\n"
+            "</UL></DIV>\r\n" +
+            scripts("quiz") + "\r\nend\r\n");
+}
+
+TEST(CompiledFiles, ScriptsOfToolsAreCopiedAndFindTheElements) {
+    ContentFolder content;
+    EXPECT_EQ(content.compiled("tools\\shared\\elements.js"), "");
+    content.write("tools/clock/face.js", "'ώρα'\n");
+    content.write("tools/clock/notes.txt", "");
+    EXPECT_EQ(content.compiled("tools\\clock\\face.js"), "'ώρα'\n");
+    EXPECT_FALSE(content.compile()->contains("tools\\clock\\notes.txt"));
+    const std::string elements = content.compiled("tools\\shared\\elements.js");
+    EXPECT_NE(elements.find("\n  Cl: { number: 17, name: 'Χλώριο', mass: '35.45', isStandard: true },\n"),
+              std::string::npos);
+    EXPECT_NE(elements.find("\n  Tc: { number: 43, name: 'Τεχνήτιο', mass: '97', isStandard: false },\n"),
+              std::string::npos);
+}
+
 TEST(CompiledFiles, BodyTakesItsPlaceInALineOfTheScaffold) {
     ContentFolder content;
     content.write("templates/page.html", "{{title}}{{section}}\n<TD>{{body}}</TD>\nend");

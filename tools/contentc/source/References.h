@@ -20,6 +20,8 @@ struct References {
     /// Names of videos and molecules without folder and extension.
     std::vector<Reference> videos;
     std::vector<Reference> molecules;
+    /// Names of tools, which are folders of scripts.
+    std::vector<Reference> tools;
     /// Files of the data folder, as written behind `{{data}}`.
     std::vector<Reference> dataPaths;
 };

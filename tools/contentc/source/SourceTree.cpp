@@ -21,6 +21,10 @@ std::vector<fs::path> listFolder(const fs::path& folder) {
     return entries;
 }
 
+void append(std::vector<SourceFile>& files, std::vector<SourceFile> more) {
+    std::ranges::move(more, std::back_inserter(files));
+}
+
 class TreeReader {
   public:
     explicit TreeReader(Diagnostics& diagnostics) : m_diagnostics(diagnostics) {}
@@ -65,13 +69,17 @@ class TreeReader {
         return sections;
     }
 
+    /// The files with one of the extensions in the folders below a folder.
+    std::vector<SourceFile> readFilesBelow(const fs::path& folder,
+                                           std::initializer_list<std::string_view> extensions) {
+        std::vector<SourceFile> files;
+        for (const fs::path& path : listFolder(folder)) append(files, readFiles(path, extensions));
+        return files;
+    }
+
   private:
     Diagnostics& m_diagnostics;
 };
-
-void append(std::vector<SourceFile>& files, std::vector<SourceFile> more) {
-    std::ranges::move(more, std::back_inserter(files));
-}
 
 }  // namespace
 
@@ -92,6 +100,7 @@ SourceTree readSourceTree(const SourceFolders& folders, Diagnostics& diagnostics
     tree.terms = reader.readFilesStrictly(root / "glossary", ".term");
     tree.dataSets = reader.readFilesStrictly(root / "datasets", ".data");
     tree.molecules = reader.readFiles(root / "molecules", {".mol"});
+    tree.tools = reader.readFilesBelow(root / "tools", {".js", ".css"});
     tree.drawings = reader.readFiles(root / "pictures", {".svg"});
     tree.pictures = reader.readFiles(root / "pictures", {".png"});
     for (const fs::path& images : folders.images)

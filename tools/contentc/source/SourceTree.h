@@ -45,6 +45,8 @@ struct SourceTree {
     std::vector<SourceFile> dataSets;
     std::vector<SourceFile> terms;
     std::vector<SourceFile> molecules;
+    /// Scripts and style sheets of the tools in pages, which lie in a folder for each tool.
+    std::vector<SourceFile> tools;
     /// Drawings that have to be rendered beforehand; only their names count.
     std::vector<SourceFile> drawings;
     /// Pictures that are copied: those of the sources and those made by the build.
