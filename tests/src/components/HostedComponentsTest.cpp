@@ -1,0 +1,29 @@
+#include "src/components/HostedComponents.h"
+
+#include <gtest/gtest.h>
+
+#include "src/components/ElementIndex.h"
+#include "tests/support/TestDrives.h"
+
+namespace kalyxo {
+namespace {
+
+TEST(ElementIndexTest, TheFirstRecordOfAKeyCounts) {
+    TestDrives drives;
+    ElementIndex index;
+    EXPECT_FALSE(index.Load(drives.files, "D:\\"));
+    drives.put("D:\\ptable.ndx", std::string("\x01\x0A\x00\x00\x00\xFF\x0B\x00\x00\x00\x01", 11));
+    EXPECT_TRUE(index.Load(drives.files, "D:\\"));
+    EXPECT_EQ(index.PageOf(1), 10);
+    EXPECT_EQ(index.PageOf(255), 11);
+    EXPECT_FALSE(index.PageOf(-1) || index.PageOf(257) || index.PageOf(2));
+}
+
+TEST(ComponentVersionsTest, AreComparedAsText) {
+    EXPECT_TRUE(OutdatedComponents({"1.0.023", "1.0.21", "1.0.100", "1.0.012", "1.0.010"}).empty());
+    EXPECT_EQ(OutdatedComponents({"1.0.022", "", "1.0.03", "1.0.0", "0"}),
+              (std::vector<std::string_view>{"KZDATAAN", "KYPT", "KZSELECT", "KYMOL", "KZZOOM"}));
+}
+
+}  // namespace
+}  // namespace kalyxo
