@@ -1,11 +1,9 @@
 #include "src/app/AboutDlg.h"
 
-#include <utility>
-
 #include "platform/framework/Shell.h"
 #include "platform/windows/MessageMap.h"
-#include "src/pages/LastPreparedPage.h"
 #include "src/resources/ResourceIds.h"
+#include "src/state/ProgramState.h"
 
 namespace kalyxo {
 
@@ -20,7 +18,7 @@ constexpr CRect kLogo{218, 11, 315, 40};
 
 const CRuntimeClass CAboutDlg::runtimeClass{"CAboutDlg"};
 
-CAboutDlg::CAboutDlg(ComponentVersions versions) : CDialog(IDD_ABOUT), m_versions(std::move(versions)) {}
+CAboutDlg::CAboutDlg() : CDialog(IDD_ABOUT) {}
 
 const MessageMap* CAboutDlg::GetMessageMap() const {
     static constexpr MessageMapEntry entries[] = {OnMessage<WM_LBUTTONDOWN, &CAboutDlg::OnLButtonDown>()};
@@ -29,17 +27,18 @@ const MessageMap* CAboutDlg::GetMessageMap() const {
 }
 
 bool CAboutDlg::OnInitDialog() {
-    SetDlgItemText(IDC_VERSION_DATA_ANALYSER, m_versions.dataAn);
-    SetDlgItemText(IDC_VERSION_PERIODIC_TABLE, m_versions.periodic);
-    SetDlgItemText(IDC_VERSION_SELECT, m_versions.select);
-    SetDlgItemText(IDC_VERSION_MOLECULE_CONTROLLER, m_versions.molCtrl);
-    SetDlgItemText(IDC_VERSION_MOLECULE_ZOOM, m_versions.zoom);
+    const ProgramState& app = TheApp();
+    SetDlgItemText(IDC_VERSION_DATA_ANALYSER, app.m_strVerDataAn);
+    SetDlgItemText(IDC_VERSION_PERIODIC_TABLE, app.m_strVerPeriodic);
+    SetDlgItemText(IDC_VERSION_SELECT, app.m_strVerSelect);
+    SetDlgItemText(IDC_VERSION_MOLECULE_CONTROLLER, app.m_strVerMolCtrl);
+    SetDlgItemText(IDC_VERSION_MOLECULE_ZOOM, app.m_strVerZoom);
     return CDialog::OnInitDialog();
 }
 
 void CAboutDlg::OnLButtonDown(UINT, CPoint point) {
-    if (!kLogo.PtInRect(point) || LastPreparedPage().empty()) return;
-    ShellExecute("open", "notepad.exe", LastPreparedPage(), "c:\\");
+    const std::string& page = TheApp().m_strLastPreparedPage;
+    if (kLogo.PtInRect(point) && !page.empty()) ShellExecute("open", "notepad.exe", page, "c:\\");
 }
 
 }  // namespace kalyxo

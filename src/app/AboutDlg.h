@@ -1,9 +1,6 @@
 #pragma once
 
-#include <string>
-
 #include "platform/dialogs/Dialog.h"
-#include "src/components/HostedComponents.h"
 
 namespace kalyxo {
 
@@ -11,7 +8,7 @@ namespace kalyxo {
 /// prepared last in the text editor.
 class CAboutDlg : public platform::CDialog {
   public:
-    explicit CAboutDlg(ComponentVersions versions);
+    CAboutDlg();
 
     static const platform::CRuntimeClass runtimeClass;
     const platform::CRuntimeClass& GetRuntimeClass() const override { return runtimeClass; }
@@ -22,8 +19,6 @@ class CAboutDlg : public platform::CDialog {
 
   private:
     void OnLButtonDown(platform::UINT flags, platform::CPoint point);
-
-    ComponentVersions m_versions;
 };
 
 }  // namespace kalyxo

@@ -105,7 +105,7 @@ void CKalyxoApp::warnOfFewColours() {
     if (!warning.empty()) AfxMessageBox(warning);
 }
 
-void CKalyxoApp::OnAppAbout() { CAboutDlg(m_versions).DoModal(); }
+void CKalyxoApp::OnAppAbout() { CAboutDlg().DoModal(); }
 
 bool CKalyxoApp::PreTranslateMessage(const MSG& message) {
     if (message.message == WM_RBUTTONDOWN || message.message == WM_RBUTTONUP) return true;

@@ -62,7 +62,7 @@ void CMainFrame::OnSize(UINT type, int width, int height) {
     CFrameWnd::OnSize(type, width, height);
     if (type == SIZE_MINIMIZED) {
         auto* view = static_cast<CKalyxoView*>(GetActiveView());
-        if (view != nullptr) view->Components().periodicTable.Redraw();
+        if (view != nullptr) view->OnFrameMinimised();
     } else if (type != SIZE_MAXIMIZED) {
         keepLeastSize();
     }

@@ -60,7 +60,7 @@ const MessageMap* CBookmarkDlg::GetMessageMap() const {
     return &map;
 }
 
-void CBookmarkDlg::SetUpAdd(std::string proposedName) {
+void CBookmarkDlg::Setup(std::string proposedName) {
     m_bAdd = true;
     m_strName = std::move(proposedName);
 }

@@ -26,7 +26,7 @@ class CBookmarkDlg : public platform::CDialog {
     const platform::MessageMap* GetMessageMap() const override;
 
     /// Asks for a new bookmark's name, of which this one is proposed; otherwise for the bookmark to go to.
-    void SetUpAdd(std::string proposedName);
+    void Setup(std::string proposedName);
 
     /// After OK the name of the new bookmark; the list's current folder takes it.
     const std::string& Name() const { return m_strName; }

@@ -43,9 +43,7 @@ void CBMBrowse::Serialize(CArchive& archive) { archive.Exchange(pageId, itemCode
 
 std::unique_ptr<CBookmark> CBMBrowse::Renamed(std::string newName) const {
     auto record = named<CBMBrowse>(std::move(newName));
-    record->itemCode = itemCode;
-    record->pageId = pageId;
-    record->sectionCode = sectionCode;
+    static_cast<PageAddress&>(*record) = *this;
     return record;
 }
 
@@ -75,7 +73,7 @@ void CBMDataAn::exchangeBlocks(CArchive& archive) {
 
 std::unique_ptr<CBookmark> CBMDataAn::Renamed(std::string newName) const {
     auto record = named<CBMDataAn>(std::move(newName));
-    static_cast<AnalyserState&>(*record) = static_cast<const AnalyserState&>(*this);
+    static_cast<AnalyserState&>(*record) = *this;
     return record;
 }
 

@@ -33,17 +33,13 @@ class CBMFolder : public CBookmark {
     std::unique_ptr<CBookmark> Renamed(std::string newName) const override;
 };
 
-/// A content page.
-class CBMBrowse : public CBookmark {
+/// A content page. A file may hold any section code.
+class CBMBrowse : public CBookmark, public PageAddress {
   public:
     static const platform::CRuntimeClass runtimeClass;
     const platform::CRuntimeClass& GetRuntimeClass() const override { return runtimeClass; }
     void Serialize(platform::CArchive& archive) override;
     std::unique_ptr<CBookmark> Renamed(std::string newName) const override;
-
-    std::int32_t itemCode = 0;
-    std::int32_t pageId = 0;
-    std::int16_t sectionCode = 0;  ///< 1 to 7; a file may hold others
 };
 
 /// A state of the periodic table, in the two halves in which the component gives it.

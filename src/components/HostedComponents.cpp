@@ -43,11 +43,11 @@ struct RequiredVersion {
 };
 
 constexpr std::array kRequired = {
-    RequiredVersion{&ComponentVersions::dataAn, "KZDATAAN", "1.0.032"},
-    RequiredVersion{&ComponentVersions::periodic, "KYPT", "1.0.023"},
-    RequiredVersion{&ComponentVersions::select, "KZSELECT", "1.0.021"},
-    RequiredVersion{&ComponentVersions::molCtrl, "KYMOL", "1.0.012"},
-    RequiredVersion{&ComponentVersions::zoom, "KZZOOM", "1.0.010"},
+    RequiredVersion{&ComponentVersions::m_strVerDataAn, "KZDATAAN", "1.0.032"},
+    RequiredVersion{&ComponentVersions::m_strVerPeriodic, "KYPT", "1.0.023"},
+    RequiredVersion{&ComponentVersions::m_strVerSelect, "KZSELECT", "1.0.021"},
+    RequiredVersion{&ComponentVersions::m_strVerMolCtrl, "KYMOL", "1.0.012"},
+    RequiredVersion{&ComponentVersions::m_strVerZoom, "KZZOOM", "1.0.010"},
 };
 
 }  // namespace
@@ -59,7 +59,7 @@ std::optional<std::string> HostedComponents::Create(CWnd& view, const ComponentS
     if (!creation.create(periodicTable, "PTable", IDC_PERIODIC_TABLE, kPeriodTableFile)) {
         return std::string(platform::LoadString(IDS_NO_PERIODIC_TABLE));
     }
-    versions.periodic = periodicTable.Version();
+    versions.m_strVerPeriodic = periodicTable.Version();
     periodicTable.SetDataFolder(surroundings.dataFolder);
 
     if (!creation.create(select, "", IDC_SELECT, kSelectFile)) {
@@ -68,26 +68,26 @@ std::optional<std::string> HostedComponents::Create(CWnd& view, const ComponentS
     select.Initialise(kSelectHostCode, surroundings.dataFolder, view.GetSafeHwnd());
     selectWindows.edit = select.GetEditWindow();
     selectWindows.target = select.GetAuxHandle();
-    versions.select = select.Version();
+    versions.m_strVerSelect = select.Version();
 
     if (!creation.create(dataAnalyser, "DataAn", IDC_DATA_ANALYSER, kDataAnalFile)) {
         return "Data Analyser component not installed correctly";
     }
     dataAnalyser.Initialise(kDataAnalHostCode, surroundings.dataFolder);
-    versions.dataAn = dataAnalyser.Version();
+    versions.m_strVerDataAn = dataAnalyser.Version();
 
     CMolCtrl molCtrl;
     if (!creation.create(molCtrl, "MolCtrl", IDC_VERSION_CHECK, kMolCtrlFile)) {
         return "Molecule Controller component not installed correctly";
     }
-    versions.molCtrl = molCtrl.Version();
+    versions.m_strVerMolCtrl = molCtrl.Version();
     molCtrl.DestroyWindow();
 
     CKzZoom zoom;
     if (!creation.create(zoom, "KzZoom", IDC_VERSION_CHECK, kKzZoomFile)) {
         return "Molecule Zoom component not installed correctly";
     }
-    versions.zoom = zoom.GetVersion();
+    versions.m_strVerZoom = zoom.GetVersion();
     zoom.DestroyWindow();
 
     if (!browser.Create("Web", WS_CHILD | WS_VISIBLE, browserParkedIn(view), view, IDC_WEB)) {

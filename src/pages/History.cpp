@@ -4,7 +4,7 @@
 
 namespace kalyxo {
 
-void History::Record(const HistoryEntry& place) {
+void History::Record(const PageAddress& place) {
     if (m_bReplaying) return;
     ++m_nCurrent;
     if (m_nCurrent == kCapacity) {

@@ -6,9 +6,6 @@
 
 namespace kalyxo {
 
-/// One place shown.
-using HistoryEntry = PageAddress;
-
 /// The places shown, for Back and Forward. It holds the last 50; it is not saved.
 class History {
   public:
@@ -16,7 +13,7 @@ class History {
 
     /// Adds a place behind the current one and drops those that Forward could have reached; does nothing
     /// while a place is being restored.
-    void Record(const HistoryEntry& place);
+    void Record(const PageAddress& place);
 
     bool CanGoBack() const { return m_nCurrent >= 1; }
     bool CanGoForward() const { return m_nCurrent < m_nLast; }
@@ -28,8 +25,8 @@ class History {
     int CurrentIndex() const { return m_nCurrent; }
     int LastIndex() const { return m_nLast; }
     /// The place with an index from 0 to LastIndex().
-    const HistoryEntry& At(int index) const { return m_entries[static_cast<std::size_t>(index)]; }
-    const HistoryEntry& Current() const { return At(m_nCurrent); }
+    const PageAddress& At(int index) const { return m_entries[static_cast<std::size_t>(index)]; }
+    const PageAddress& Current() const { return At(m_nCurrent); }
 
     /// Nothing is recorded while one of these lives.
     class Replay {
@@ -44,7 +41,7 @@ class History {
     };
 
   private:
-    std::array<HistoryEntry, kCapacity> m_entries{};
+    std::array<PageAddress, kCapacity> m_entries{};
     int m_nCurrent = -1;
     int m_nLast = -1;
     bool m_bReplaying = false;

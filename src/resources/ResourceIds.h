@@ -29,6 +29,17 @@ inline constexpr platform::UINT IDS_OLDER_VERSION = 61228;
 inline constexpr platform::UINT IDS_NO_PERIODIC_TABLE = 61229;
 inline constexpr platform::UINT IDS_RUN_AGAIN = 61230;
 inline constexpr platform::UINT IDS_NO_PRINTER = 61232;
+inline constexpr platform::UINT IDS_MAIN_MENU = 61300;
+inline constexpr platform::UINT IDS_SECTIONS = 61301;
+inline constexpr platform::UINT IDS_PREPARING_PAGE = 61302;
+inline constexpr platform::UINT IDS_PAGE_NOT_OPENED = 61303;
+inline constexpr platform::UINT IDS_PAGE_NOT_CREATED = 61304;
+inline constexpr platform::UINT IDS_NO_ELEMENT_INDEX = 61305;
+inline constexpr platform::UINT IDS_OUT_OF_MEMORY = 61306;
+inline constexpr platform::UINT IDS_PICTURE_DAMAGED = 61307;
+inline constexpr platform::UINT IDS_BOOKMARKS_DAMAGED = 61308;
+inline constexpr platform::UINT IDS_BOOKMARK_INTRODUCTION = 61309;
+inline constexpr platform::UINT IDS_INTERNAL_ERROR = 61310;
 
 /// Dialog ids.
 inline constexpr platform::UINT IDD_ABOUT = 100;

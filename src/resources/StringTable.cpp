@@ -53,6 +53,18 @@ constexpr std::array kStrings = {
     StringResource{IDS_RUN_AGAIN,
                    "Έχουν κατοχυρωθεί νέα συστατικά. Παρακαλώ εκτελέστε ξανά το πρόγραμμα για την ολοκλήρωση "
                    "της διαδικασίας."_gr},
+    StringResource{IDS_MAIN_MENU, "Κεντρικό μενού"_gr},
+    StringResource{IDS_SECTIONS, "Ενότητες"_gr},
+    StringResource{IDS_PREPARING_PAGE, "Ετοιμάζεται η σελίδα…"_gr},
+    StringResource{IDS_PAGE_NOT_OPENED, "ERROR: Can't open "},
+    StringResource{IDS_PAGE_NOT_CREATED, "Unable to create temporary file"},
+    StringResource{IDS_NO_ELEMENT_INDEX, "Can't open ptable.ndx"},
+    StringResource{IDS_OUT_OF_MEMORY, "Out of memory"},
+    StringResource{IDS_PICTURE_DAMAGED, "BMP file error"},
+    StringResource{IDS_BOOKMARKS_DAMAGED,
+                   "Το αρχείο σελιδοδεικτών είναι κατεστραμμένο. Οι υπάρχοντες σελιδοδείκτες θα χαθούν."_gr},
+    StringResource{IDS_BOOKMARK_INTRODUCTION, "Introduction"},
+    StringResource{IDS_INTERNAL_ERROR, "Internal error!"},
 };
 
 }  // namespace

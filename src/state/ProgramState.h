@@ -9,16 +9,16 @@ namespace kalyxo {
 
 /// Versions that the components report.
 struct ComponentVersions {
-    std::string periodic;
-    std::string select;
-    std::string dataAn;
-    std::string molCtrl;
-    std::string zoom;
+    std::string m_strVerPeriodic;
+    std::string m_strVerSelect;
+    std::string m_strVerDataAn;
+    std::string m_strVerMolCtrl;
+    std::string m_strVerZoom;
 };
 
 /// The settings and paths of the run, which the start-up sequence fills and everything else reads. There is
 /// one, a part of the application object.
-struct ProgramState {
+struct ProgramState : ComponentVersions {
     ProgramState();
     ~ProgramState();
     ProgramState(const ProgramState&) = delete;
@@ -31,9 +31,9 @@ struct ProgramState {
     platform::HWND m_hwndSelectTarget = 0;
     platform::HWND m_hwndSelectEdit = 0;
     std::string m_strProgramFolder;  ///< no trailing backslash
-    ComponentVersions m_versions;
-    std::string m_strDataFolder;  ///< ends with a backslash
+    std::string m_strDataFolder;     ///< ends with a backslash
     std::string m_strBookmarkFile;
+    std::string m_strLastPreparedPage;  ///< DOS path of the page file written last; empty before the first
 };
 
 /// The one state of this run; there must be an application object.

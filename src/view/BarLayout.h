@@ -21,7 +21,6 @@ class BarLayout {
     static constexpr int kHeight = 50;
 
     void SetWidth(int clientWidth) { m_nMainMenuX = clientWidth - 110; }
-    int MainMenuX() const { return m_nMainMenuX; }
 
     SlotPlace Place(int slot, bool selected) const;
     /// The slot at a point of the view's client area, −1 off the bar and on the filler.

@@ -1,13 +1,15 @@
 #include "src/view/KalyxoView.h"
 
+#include "platform/base/Resources.h"
+#include "platform/dialogs/MessageBox.h"
 #include "platform/framework/FrameWnd.h"
-#include "platform/input/KeyboardFocus.h"
 #include "platform/machine/Machine.h"
-#include "platform/windows/MessageMap.h"
 #include "platform/windows/WindowDC.h"
+#include "src/bookmarks/AnalyserCapture.h"
 #include "src/resources/CommandIds.h"
 #include "src/resources/ResourceIds.h"
 #include "src/state/ProgramState.h"
+#include "src/view/ComponentStart.h"
 #include "src/view/PaneLayout.h"
 
 namespace kalyxo {
@@ -17,9 +19,8 @@ using namespace platform;
 namespace {
 
 constexpr UINT kTimerId = 1;
+constexpr int kTimerMs = 250;
 constexpr COLORREF kBlack = RGB(0, 0, 0);
-/// Shows between the panes while the splitter is dragged away from them.
-constexpr COLORREF kBetweenPanes = RGB(255, 255, 255);
 
 /// Identifiers that components and the splitter put into the second parameter of WM_COMMAND.
 constexpr LPARAM kRefreshBrowser = 9822;
@@ -29,64 +30,104 @@ constexpr LPARAM kSplitterMoved = IDC_SPLITTER;
 
 const CRuntimeClass CKalyxoView::runtimeClass = MakeRuntimeClass<CKalyxoView>("CKalyxoView");
 
-CKalyxoView::CKalyxoView() : m_cache(machine().files()) {}
+CKalyxoView::CKalyxoView()
+    : m_pages(machine().files(), m_components.browser),
+      m_panes(*this, m_components, m_pages),
+      m_items(*this, m_panes),
+      m_navigator(*this),
+      m_bookmarks(m_components, m_navigator, *this),
+      m_edit(m_components, m_panes, m_navigator),
+      m_rules(m_panes, m_navigator, m_pages.Contents(), m_components.dataAnalyser) {}
 
 CKalyxoView::~CKalyxoView() = default;
+
+ViewInspection CKalyxoView::Inspection() const {
+    return {m_panes.Mode(),
+            m_navigator,
+            m_items,
+            m_pages,
+            m_bookmarks.Bookmarks(),
+            m_glossary,
+            m_panes.Splitter(),
+            m_panel.GetSafeHwnd(),
+            m_bStartupFailed};
+}
+
+void CKalyxoView::OnInitialUpdate() {
+    CView::OnInitialUpdate();
+    SetAccessibleName(LoadString(IDS_SECTIONS));
+    SetTimer(kTimerId, kTimerMs);
+    PagePresenter::ReadyBrowser();
+    if (!ComponentStart(*this, m_components).Run()) {
+        m_bStartupFailed = true;
+        return;
+    }
+    m_components.browser.Navigate(TheApp().m_strDataFolder + "a.htm");
+    m_panel.Create(this);
+    openCache();
+    m_bookmarks.LoadBookmarks();
+    LoadElementIndex();
+    loadPictures();
+    m_glossary.Create(*this);
+    ComponentStart::CheckComponentVersions();
+}
+
+void CKalyxoView::openCache() {
+    const ProgramState& app = TheApp();
+    m_pages.OpenCache(
+        LocateCache(app.m_strProgramFolder, machine().tempFolder(), app.m_bOutsideInstallFolder));
+}
+
+void CKalyxoView::LoadElementIndex() {
+    if (!m_elements.Load(machine().files(), TheApp().m_strDataFolder)) {
+        AfxMessageBox(LoadString(IDS_NO_ELEMENT_INDEX));
+    }
+}
+
+void CKalyxoView::loadPictures() {
+    m_items.LoadPictures(machine().files(), TheApp().m_strDataFolder + "images\\", [](PictureResult result) {
+        AfxMessageBox(
+            LoadString(result == PictureResult::outOfMemory ? IDS_OUT_OF_MEMORY : IDS_PICTURE_DAMAGED));
+    });
+}
+
+void CKalyxoView::OnDestroy() {
+    if (m_bStartupFailed) return;
+    m_components.browser.DestroyWindow();
+    m_bookmarks.SaveBookmarks();
+    KillTimer(kTimerId);
+    m_pages.CleanCache();
+}
 
 void CKalyxoView::OnDraw(CDC& dc) {
     if (m_bStartupFailed) {
         GetParentFrame()->PostMessage(WM_CLOSE);
         return;
     }
-    if (m_mode == ContentMode::MainMenu) {
-        PaintMainMenu(dc);
-        // The pointer may still be on it, and would not make it hot a second time.
-        if (m_menu.HotItem() >= 0) m_menu.Highlight(dc, m_menu.HotItem());
-        m_bar.SetSelected(kMainMenuSlot);
+    if (m_panes.Mode() == ContentMode::MainMenu) {
+        m_items.Draw(dc);
         OnTimer(kTimerId);
     } else {
-        m_bar.DrawBar(dc);
-        if (m_mode == ContentMode::Page) dc.FillSolidRect(PaneLayout{clientSize()}.whole(), kBetweenPanes);
-        m_components.select.Invalidate();
-        if (m_bLayoutPending) {
-            splitterMoved();
-            m_bLayoutPending = false;
-        }
+        m_items.DrawBar(dc);
+        m_panes.Paint(dc);
     }
     m_bInterceptionSuppressed = false;
 }
 
-void CKalyxoView::PaintMainMenu(CDC& dc) {
-    if (m_bStartupFailed) return;
-    m_bar.DrawBar(dc);
-    m_menu.Paint(dc, clientSize());
+bool CKalyxoView::OnEraseBkgnd(CDC& dc) {
+    if (m_panes.Mode() == ContentMode::MainMenu) dc.FillSolidRect(areaBelowBar(), kBlack);
+    return true;
 }
 
-bool CKalyxoView::OnEraseBkgnd(CDC& dc) {
-    if (m_mode == ContentMode::MainMenu) dc.FillSolidRect(PaneLayout{clientSize()}.whole(), kBlack);
-    return true;
+CRect CKalyxoView::areaBelowBar() const {
+    const CRect client = GetClientRect();
+    return PaneLayout{{client.Width(), client.Height()}}.whole();
 }
 
 void CKalyxoView::OnSize(UINT type, int width, int height) {
     if (type == SIZE_MINIMIZED || m_bStartupFailed) return;
-    m_menu.Displace();
-    m_bLayoutPending = true;
-    m_bar.SetWidth(width);
-    const PaneLayout panes{{width, height}};
-    switch (m_mode) {
-        case ContentMode::PeriodicTable:
-            m_components.periodicTable.MoveWindow(panes.whole());
-            break;
-        case ContentMode::DataAnalyser:
-            m_components.dataAnalyser.MoveWindow(panes.whole());
-            break;
-        case ContentMode::Page:
-            m_splitter.SetLength(height - kBarHeight);
-            m_splitter.SetRange(150, width - 150);
-            break;
-        case ContentMode::MainMenu:
-            break;
-    }
+    m_items.Resize(width);
+    m_panes.Resize({width, height});
 }
 
 bool CKalyxoView::OnCommand(WPARAM wParam, LPARAM lParam) {
@@ -98,75 +139,47 @@ bool CKalyxoView::OnCommand(WPARAM wParam, LPARAM lParam) {
             m_components.browser.Refresh2();
             return true;
         case kSplitterMoved:
-            splitterMoved();
+            m_panes.SplitterMoved();
             return true;
         default:
             return CView::OnCommand(wParam, lParam);
     }
 }
 
-void CKalyxoView::splitterMoved() {
-    if (m_mode != ContentMode::Page) return;
-    const int position = m_splitter.GetPos();
-    if (position >= kSmallestSplitterPos) TheApp().m_nSplitterPos = position;
-    const PaneLayout panes{clientSize()};
-    m_components.select.MoveWindow(panes.browseSelection(position));
-    m_components.browser.MoveWindow(panes.browser(position));
-}
-
-CSize CKalyxoView::clientSize() const {
-    const CRect client = GetClientRect();
-    return {client.Width(), client.Height()};
-}
-
-bool CKalyxoView::isUnder(CPoint point) const { return WindowFromPoint(ClientToScreen(point)) == this; }
-
-bool CKalyxoView::HitTestBar(CPoint point) {
-    const int slot = isUnder(point) ? m_bar.Layout().SlotAt(point) : -1;
-    CClientDC dc(*this);
-    m_bar.Hover(slot, dc);
-    return slot < 0;
-}
-
 void CKalyxoView::OnMouseMove(UINT, CPoint point) {
-    if (m_bInterceptionSuppressed || keyboardChoiceStands(point)) return;
-    m_keyboard.End();
-    const bool offBar = HitTestBar(point);
-    if (m_mode == ContentMode::MainMenu) hoverMainMenu(offBar && isUnder(point) ? m_menu.ItemAt(point) : -1);
-}
-
-void CKalyxoView::hoverMainMenu(int item) {
-    const int former = m_menu.HotItem();
-    if (item == former) return;
-    CClientDC dc(*this);
-    if (former >= 0) {
-        m_menu.ClearHotItem();
-        PaintMainMenu(dc);
-    }
-    if (item >= 0) m_menu.Highlight(dc, item);
+    if (!m_bInterceptionSuppressed) m_items.FollowPointer(point);
 }
 
 void CKalyxoView::OnTimer(UINT id) {
     if (id == kTimerId) OnMouseMove(0, ScreenToClient(GetCursorPos()));
 }
 
-bool CKalyxoView::OnSetCursor() {
-    if (m_keyboard.Begun()) return false;
-    const bool overSlot = m_bar.Hovered() >= 0 && m_bar.Hovered() != m_bar.Selected();
-    if (!overSlot && m_menu.HotItem() < 0) return false;
-    m_handCursor.Set();
-    return true;
+void CKalyxoView::OnLButtonDown(UINT, CPoint point) {
+    const int slot = m_items.SlotClicked(point);
+    if (slot < 0) return;
+    CCursor::arrow().Set();
+    openSlot(slot);
 }
 
-void CKalyxoView::OnLButtonDown(UINT flags, CPoint point) {
-    if (m_keyboard.Begun()) {
-        m_keyboard.End();
-        OnMouseMove(flags, point);
+void CKalyxoView::OnKeyDown(UINT key) {
+    switch (key) {
+        case VK_LEFT:
+        case VK_RIGHT:
+        case VK_UP:
+        case VK_DOWN:
+            chooseByArrow(key);
+            break;
+        case VK_RETURN:
+        case VK_SPACE:
+            if (const int slot = m_items.TakeChosenSlot(); slot >= 0) openSlot(slot);
+            break;
+        default:
+            DefWindowProc(WM_KEYDOWN, key, 0);
     }
-    const int item = m_bar.Hovered() >= 0 ? m_bar.Hovered() : m_menu.HotItem();
-    if (item < 0) return;
-    CCursor::arrow().Set();
-    openSlot(item);
+}
+
+void CKalyxoView::chooseByArrow(UINT key) {
+    if (!m_bInterceptionSuppressed) m_items.ChooseByArrow(key);
 }
 
 void CKalyxoView::openSlot(int slot) {
@@ -175,7 +188,7 @@ void CKalyxoView::openSlot(int slot) {
             ShowPeriodicTable();
             break;
         case kDataAnalyserSlot:
-            ShowDataAnalyser();
+            OnDataAnalyser();
             break;
         case kMainMenuSlot:
             ShowMainMenu();
@@ -184,21 +197,50 @@ void CKalyxoView::openSlot(int slot) {
             GetParentFrame()->RunCommand(ID_TOOLBAR);
             break;
         default:
-            openSectionOfSlot(slot);
+            m_navigator.OpenStartPage(SectionCommands().at(static_cast<std::size_t>(slot)).code);
     }
 }
 
-void CKalyxoView::OnDestroy() {
-    if (m_bStartupFailed) return;
-    m_components.browser.DestroyWindow();
-    SaveBookmarks();
-    m_bookmarks.Clear();
-    KillTimer(kTimerId);
-    m_cache.CleanCache(true);
+void CKalyxoView::ShowMainMenu() {
+    if (m_panes.Mode() == ContentMode::MainMenu) return;
+    m_items.SelectSlot(kMainMenuSlot);
+    m_panes.EnterMode(ContentMode::MainMenu);
+    CClientDC dc(*this);
+    dc.FillSolidRect(areaBelowBar(), kBlack);
+    m_items.PaintMainMenu(dc);
 }
 
-bool CKalyxoView::focusIsInSelectEdit() const {
-    return GetFocus() != 0 && GetFocus() == TheApp().m_hwndSelectEdit;
+bool CKalyxoView::EnterPageMode(std::int16_t sectionCode) {
+    m_items.SelectSlot(SlotOfSection(sectionCode));
+    const bool needLayout = m_panes.EnterMode(ContentMode::Page);
+    m_items.ClearHotItem();
+    m_components.select.SetSection(sectionCode);
+    return needLayout;
+}
+
+void CKalyxoView::ShowItem(std::int32_t pageId, std::int32_t itemCode) {
+    m_components.select.ShowItem(pageId, itemCode, false);
+}
+
+void CKalyxoView::ShowPeriodicTable() {
+    m_items.SelectSlot(kPeriodicTableSlot);
+    m_panes.EnterMode(ContentMode::PeriodicTable);
+    m_items.ClearHotItem();
+    m_navigator.RecordHistory({kPeriodicTableCode, 0, 0});
+    m_components.periodicTable.Redraw();
+    m_panes.ShowWhole(m_components.periodicTable);
+}
+
+void CKalyxoView::ShowDataAnalyser(const CBMDataAn* bookmark) {
+    if (m_panes.Mode() == ContentMode::DataAnalyser && bookmark == nullptr) return;
+    m_items.SelectSlot(kDataAnalyserSlot);
+    m_panes.EnterMode(ContentMode::DataAnalyser);
+    m_items.ClearHotItem();
+    m_navigator.RecordHistory({kDataAnalyserCode, 0, 0});
+    m_panes.ShowWhole(m_components.dataAnalyser);
+    if (bookmark == nullptr) return;
+    m_components.dataAnalyser.SendMessage(WM_PAINT);
+    RestoreAnalyser(m_components.dataAnalyser, *bookmark);
 }
 
 }  // namespace kalyxo

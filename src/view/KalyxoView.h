@@ -1,30 +1,20 @@
 #pragma once
 
-#include <optional>
-
 #include "platform/framework/View.h"
-#include "src/bookmarks/BookmarkList.h"
 #include "src/components/ElementIndex.h"
-#include "src/components/HostedComponents.h"
-#include "src/display/SplitterBar.h"
 #include "src/display/ToolPanel.h"
-#include "src/pages/GlossaryPopup.h"
-#include "src/pages/History.h"
 #include "src/pages/OnlinePages.h"
-#include "src/pages/PageCache.h"
-#include "src/pages/PagePreparer.h"
 #include "src/search/SearchState.h"
-#include "src/view/ContentMode.h"
-#include "src/view/KeyboardChoice.h"
-#include "src/view/MainMenuScreen.h"
-#include "src/view/PictureCapture.h"
-#include "src/view/SectionBar.h"
+#include "src/view/BookmarkCommands.h"
+#include "src/view/CommandRules.h"
+#include "src/view/EditCommands.h"
+#include "src/view/ViewInspection.h"
 
 namespace kalyxo {
 
 /// The one content window: the section bar above, and below it the main menu, a component, or a page beside
 /// its topics. It turns messages, commands and component events into calls of the objects it owns.
-class CKalyxoView : public platform::CView {
+class CKalyxoView : public platform::CView, private ContentHost {
   public:
     CKalyxoView();
     ~CKalyxoView() override;
@@ -37,39 +27,14 @@ class CKalyxoView : public platform::CView {
     bool OnCommand(platform::WPARAM wParam, platform::LPARAM lParam) override;
     void OnInitialUpdate() override;
     void OnDraw(platform::CDC& dc) override;
-    std::vector<platform::DrawnPart> DrawnParts() const override;
+    std::vector<platform::DrawnPart> DrawnParts() const override { return m_items.Parts(); }
     void PushDrawnPart(int index) override { openSlot(OpenableItems::SlotFor(index)); }
     /// Shows where the arrow keys go on from.
     void OnTabbedTo() override { chooseByArrow(platform::VK_RIGHT); }
+    /// Has the periodic table drawn anew, since the frame has been minimised.
+    void OnFrameMinimised() { m_components.periodicTable.Redraw(); }
 
-    /// Shows a section in page mode and, unless `pageNumber` is 0, opens that page.
-    void OpenSection(std::int16_t sectionCode, std::int32_t pageNumber);
-    /// Prepares a page, shows it and records the current address in the history.
-    void OpenPage(std::int32_t pageNumber);
-    void GoBack();
-    void GoForward();
-    void ShowMainMenu();
-    void ShowPeriodicTable();
-    /// Given a bookmark, brings its state back; otherwise does nothing in this mode already.
-    void ShowDataAnalyser(const CBMDataAn* bookmark = nullptr);
-    /// Shows the page's video or molecule large, in a dialog under the title of what is on show.
-    void ShowEnlargedView();
-
-    ContentMode Mode() const { return m_mode; }
-    /// What page mode shows; keeps its last value in the other modes.
-    const PageAddress& Address() const { return m_address; }
-    const History& Places() const { return m_history; }
-    const SectionBar& Bar() const { return m_bar; }
-    const MainMenuScreen& Menu() const { return m_menu; }
-    const PageContents& Contents() const { return m_contents; }
-    const PageCache& Cache() const { return m_cache; }
-    BookmarkList& Bookmarks() { return m_bookmarks; }
-    const BookmarkList& Bookmarks() const { return m_bookmarks; }
-    bool StartupFailed() const { return m_bStartupFailed; }
-    HostedComponents& Components() { return m_components; }
-    const GlossaryPopup& Glossary() const { return m_glossary; }
-    CSplitterBar& Splitter() { return m_splitter; }
-    const CToolPanel& Panel() const { return m_panel; }
+    ViewInspection Inspection() const;
 
   private:
     /// In the second parameter of WM_COMMAND, from a component or the view itself: opens the enlarged view.
@@ -77,52 +42,41 @@ class CKalyxoView : public platform::CView {
 
     // Window messages
     void OnSize(platform::UINT type, int width, int height);
-    bool OnSetCursor();
+    bool OnSetCursor() { return m_items.ShowHand(); }
     void OnLButtonDown(platform::UINT flags, platform::CPoint point);
     bool OnEraseBkgnd(platform::CDC& dc);
     void OnMouseMove(platform::UINT flags, platform::CPoint point);
     void OnTimer(platform::UINT id);
     void OnDestroy();
+    void OnKeyDown(platform::UINT key);
+    void OnKillFocus(platform::HWND) { m_items.EndChoice(); }
 
     // Commands and their rules
+    template <bool (CommandRules::*Rule)() const>
+    void EnableBy(platform::CCmdUI& ui);
+    template <bool (CommandRules::*Rule)() const>
+    void CheckBy(platform::CCmdUI& ui);
     template <std::size_t Slot>
     void OnSection();
     template <std::size_t Slot>
     void OnUpdateSection(platform::CCmdUI& ui);
+    template <void (EditCommands::*Command)()>
+    void OnEdit();
     template <OnlinePage Page>
     void OnOnlinePage();
     void OnHelp();
     void showPlainPage(const std::string& address);
-    void OnPrint();
-    void OnUpdatePrint(platform::CCmdUI& ui);
     void OnSearch();
-    void OnCut();
-    void OnCopy();
-    void execInDocument(std::int32_t command);
-    void OnPaste();
-    template <PluginKind Kind>
-    void OnCopyPicture();
-    template <PluginKind Kind>
-    void OnPrintPicture();
-    template <PluginKind Kind>
-    void OnUpdatePicture(platform::CCmdUI& ui);
-    void OnCopyAllData();
-    void OnCopySelected();
-    void OnCopyGraph();
-    void OnUpdateCopy(platform::CCmdUI& ui);
-    void OnUpdateCutAndPaste(platform::CCmdUI& ui);
-    void OnUpdateCopyAllData(platform::CCmdUI& ui);
-    void OnUpdateCopySelected(platform::CCmdUI& ui);
-    void OnUpdateCopyGraph(platform::CCmdUI& ui);
-    void OnUpdateBack(platform::CCmdUI& ui);
-    void OnUpdateForward(platform::CCmdUI& ui);
-    void OnUpdatePeriodicTable(platform::CCmdUI& ui);
-    void OnDataAnalyser() { ShowDataAnalyser(); }
-    void OnUpdateBookmarkAdd(platform::CCmdUI& ui);
-    void OnUpdateDataAnalyser(platform::CCmdUI& ui);
+    void OnBookmarkAdd() { m_bookmarks.OnBookmarkAdd(m_panes.Mode()); }
+    void OnBookmarkGoto() { m_bookmarks.OnBookmarkGoto(); }
+    void GoBack() { m_navigator.GoBack(); }
+    void GoForward() { m_navigator.GoForward(); }
+    void OnDataAnalyser() { ShowDataAnalyser(nullptr); }
     void OnToolbar();
     void OnUpdateToolbar(platform::CCmdUI& ui);
-    void AnimateShow();
+    void AnimateShow() { m_panel.AnimateShow(GetWindowRect()); }
+    /// Shows the page's video or molecule large, in a dialog under the title of what is on show.
+    void ShowEnlargedView();
 
     // Component events
     bool OnPageChosen(std::int32_t pageNumber, std::int32_t pageId);
@@ -130,87 +84,40 @@ class CKalyxoView : public platform::CView {
     bool OnElementChosen(std::int16_t elementKey);
     bool OnBeforeNavigate(const std::string& url, std::int32_t flags, const std::string& frame,
                           const platform::Variant& postData, const std::string& headers, bool* cancel);
+    void showDefinition(const std::string& file);
 
-    // Start-up
-    void readyBrowser();
-    CacheLocation cacheLocation() const;
-    bool componentsAreUpToDate();
-    bool createComponents();
-    void CheckComponentVersions();
+    // Showing what navigation and bookmarks decide on
+    void ShowMainMenu();
+    bool EnterPageMode(std::int16_t sectionCode) override;
+    void LayOutPage() override { m_panes.LayOutPage(); }
+    void ShowPage(std::int32_t pageNumber) override { m_pages.ShowPage(pageNumber); }
+    void ShowItem(std::int32_t pageId, std::int32_t itemCode) override;
+    void ShowPeriodicTable() override;
+    /// Without a bookmark it does nothing in this mode already.
+    void ShowDataAnalyser(const CBMDataAn* bookmark) override;
+    void openSlot(int slot);
+    void chooseByArrow(platform::UINT key);
+
+    // The first update
     void openCache();
-    void LoadBookmarks();
     void LoadElementIndex();
     void loadPictures();
 
-    // Bookmarks
-    void SaveBookmarks();
-    void OnBookmarkAdd();
-    void OnBookmarkGoto();
-    std::unique_ptr<CBookmark> MakeBookmark(const std::string& name);
-    std::unique_ptr<CBookmark> MakeBrowseBookmark(const std::string& name) const;
-    std::unique_ptr<CBookmark> MakePeriodicBookmark(const std::string& name);
-    std::unique_ptr<CBookmark> MakeDataAnBookmark(const std::string& name);
-    std::string proposedName();
-    std::string pageTitle();
-    void openBookmark(const CBookmark& bookmark);
-    void openPageBookmark(const CBMBrowse& bookmark);
+    platform::CRect areaBelowBar() const;
 
-    // Navigation
-    void ReplayHistory();
-    void openPlace(const PageAddress& place);
-    void restorePage(const PageAddress& place);
-    void RecordHistory(const PageAddress& place) { m_history.Record(place); }
-    PrepareResult preparePage(const std::string& source, const std::string& target);
-    void ShowPreparedPage(const std::string& target);
-    void openSectionOfSlot(int slot);
-    void showDefinition(const std::string& file);
-
-    // Modes and panes
-    void selectSlot(int slot);
-    void hideComponentOfMode();
-    void leaveMode();
-    void enterPageMode(std::int16_t sectionCode);
-    void layOutPage();
-    void placeWhole(platform::CWnd& component);
-    void splitterMoved();
-    platform::CSize clientSize() const;
-
-    // Hovering
-    bool HitTestBar(platform::CPoint point);
-    bool isUnder(platform::CPoint point) const;
-    void PaintMainMenu(platform::CDC& dc);
-    void hoverMainMenu(int item);
-    void openSlot(int slot);
-    bool focusIsInSelectEdit() const;
-
-    // The keyboard's choice among the slots and areas
-    void OnKeyDown(platform::UINT key);
-    void OnKillFocus(platform::HWND other);
-    OpenableItems openableItems() const;
-    int shownItem() const;
-    bool keyboardChoiceStands(platform::CPoint point) const;
-    void chooseByArrow(platform::UINT key);
-    void openChosen();
-
-    ContentMode m_mode = ContentMode::MainMenu;
-    PageAddress m_address;
-    History m_history;
-    PageContents m_contents;
-    SectionBar m_bar;
-    MainMenuScreen m_menu;
-    KeyboardChoice m_keyboard;
-    PageCache m_cache;
-    std::optional<PagePreparer> m_preparer;
-    BookmarkList m_bookmarks;
+    HostedComponents m_components;
+    PagePresenter m_pages;
+    ContentPanes m_panes;
+    HotItems m_items;
+    Navigator m_navigator;
+    BookmarkCommands m_bookmarks;
+    EditCommands m_edit;
+    CommandRules m_rules;
     ElementIndex m_elements;
     SearchState m_search;
-    HostedComponents m_components;
-    CSplitterBar m_splitter;
     GlossaryPopup m_glossary;
     CToolPanel m_panel;
     bool m_bPanelNeverShown = true;
-    platform::CCursor m_handCursor;
-    bool m_bLayoutPending = false;
     /// Until the first paint neither navigations nor the mouse are looked at.
     bool m_bInterceptionSuppressed = true;
     bool m_bStartupFailed = false;

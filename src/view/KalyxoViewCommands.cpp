@@ -1,40 +1,40 @@
 #include "platform/machine/Machine.h"
 #include "platform/windows/MessageMap.h"
 #include "src/pages/EnlargedViewDlg.h"
+#include "src/pages/GlossaryText.h"
 #include "src/resources/CommandIds.h"
-#include "src/resources/ResourceIds.h"
+#include "src/search/SearchDlg.h"
 #include "src/state/ProgramState.h"
 #include "src/view/KalyxoView.h"
 
-/// The view's maps, and the commands with their rules.
+/// The view's maps, its commands, and what it does on its components' events.
 namespace kalyxo {
 
 using namespace platform;
 
+template <bool (CommandRules::*Rule)() const>
+void CKalyxoView::EnableBy(CCmdUI& ui) {
+    ui.Enable((m_rules.*Rule)());
+}
+
+template <bool (CommandRules::*Rule)() const>
+void CKalyxoView::CheckBy(CCmdUI& ui) {
+    ui.SetCheck((m_rules.*Rule)());
+}
+
 template <std::size_t Slot>
 void CKalyxoView::OnSection() {
-    openSectionOfSlot(Slot);
+    m_navigator.OpenStartPage(SectionCommands()[Slot].code);
 }
 
 template <std::size_t Slot>
 void CKalyxoView::OnUpdateSection(CCmdUI& ui) {
-    ui.SetCheck(m_mode == ContentMode::Page && m_address.sectionCode == SectionCommands()[Slot].code);
+    ui.SetCheck(m_rules.Section(SectionCommands()[Slot].code));
 }
 
-template <PluginKind Kind>
-void CKalyxoView::OnCopyPicture() {
-    PictureCapture(m_components.browser.GetSafeHwnd()).Copy(Kind);
-}
-
-template <PluginKind Kind>
-void CKalyxoView::OnPrintPicture() {
-    const std::string title = m_components.select.GetItemTitle(m_address.itemCode);
-    PictureCapture(m_components.browser.GetSafeHwnd()).Print(Kind, title);
-}
-
-template <PluginKind Kind>
-void CKalyxoView::OnUpdatePicture(CCmdUI& ui) {
-    ui.Enable(Kind == PluginKind::molecule ? m_contents.molecule : m_contents.video);
+template <void (EditCommands::*Command)()>
+void CKalyxoView::OnEdit() {
+    (m_edit.*Command)();
 }
 
 const MessageMap* CKalyxoView::GetMessageMap() const {
@@ -63,47 +63,47 @@ const MessageMap* CKalyxoView::GetMessageMap() const {
         OnCommandId<&CKalyxoView::OnSection<6>>(ID_SECTION_CONCEPT),
         OnUpdateId<&CKalyxoView::OnUpdateSection<6>>(ID_SECTION_CONCEPT),
         OnCommandId<&CKalyxoView::ShowPeriodicTable>(ID_PERIODIC_TABLE),
-        OnUpdateId<&CKalyxoView::OnUpdatePeriodicTable>(ID_PERIODIC_TABLE),
+        OnUpdateId<&CKalyxoView::CheckBy<&CommandRules::PeriodicTable>>(ID_PERIODIC_TABLE),
         OnCommandId<&CKalyxoView::OnDataAnalyser>(ID_DATA_ANALYSER),
-        OnUpdateId<&CKalyxoView::OnUpdateDataAnalyser>(ID_DATA_ANALYSER),
+        OnUpdateId<&CKalyxoView::CheckBy<&CommandRules::DataAnalyser>>(ID_DATA_ANALYSER),
         OnCommandId<&CKalyxoView::OnBookmarkAdd>(ID_BOOKMARK_ADD),
-        OnUpdateId<&CKalyxoView::OnUpdateBookmarkAdd>(ID_BOOKMARK_ADD),
+        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::BookmarkAdd>>(ID_BOOKMARK_ADD),
         OnCommandId<&CKalyxoView::OnBookmarkGoto>(ID_BOOKMARK_GOTO),
         OnCommandId<&CKalyxoView::OnToolbar>(ID_TOOLBAR),
         OnUpdateId<&CKalyxoView::OnUpdateToolbar>(ID_TOOLBAR),
         OnCommandId<&CKalyxoView::GoBack>(ID_BACK),
-        OnUpdateId<&CKalyxoView::OnUpdateBack>(ID_BACK),
+        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::Back>>(ID_BACK),
         OnCommandId<&CKalyxoView::GoForward>(ID_FORWARD),
-        OnUpdateId<&CKalyxoView::OnUpdateForward>(ID_FORWARD),
+        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::Forward>>(ID_FORWARD),
         OnCommandId<&CKalyxoView::ShowMainMenu>(ID_FILE_NEW),
         OnCommandId<&CKalyxoView::OnBookmarkGoto>(ID_FILE_OPEN),
         OnCommandId<&CKalyxoView::OnOnlinePage<OnlinePage::product>>(ID_ONLINE_PRODUCT),
         OnCommandId<&CKalyxoView::OnOnlinePage<OnlinePage::support>>(ID_ONLINE_SUPPORT),
         OnCommandId<&CKalyxoView::OnOnlinePage<OnlinePage::products>>(ID_ONLINE_PRODUCTS),
         OnCommandId<&CKalyxoView::OnHelp>(ID_HELP_CONTENTS),
-        OnCommandId<&CKalyxoView::OnPrint>(ID_FILE_PRINT),
-        OnUpdateId<&CKalyxoView::OnUpdatePrint>(ID_FILE_PRINT),
+        OnCommandId<&CKalyxoView::OnEdit<&EditCommands::Print>>(ID_FILE_PRINT),
+        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::Print>>(ID_FILE_PRINT),
         OnCommandId<&CKalyxoView::OnSearch>(ID_SEARCH),
-        OnCommandId<&CKalyxoView::OnCut>(ID_EDIT_CUT),
-        OnUpdateId<&CKalyxoView::OnUpdateCutAndPaste>(ID_EDIT_CUT),
-        OnCommandId<&CKalyxoView::OnCopy>(ID_EDIT_COPY),
-        OnUpdateId<&CKalyxoView::OnUpdateCopy>(ID_EDIT_COPY),
-        OnCommandId<&CKalyxoView::OnPaste>(ID_EDIT_PASTE),
-        OnUpdateId<&CKalyxoView::OnUpdateCutAndPaste>(ID_EDIT_PASTE),
-        OnCommandId<&CKalyxoView::OnCopyPicture<PluginKind::molecule>>(ID_COPY_MOLECULE),
-        OnUpdateId<&CKalyxoView::OnUpdatePicture<PluginKind::molecule>>(ID_COPY_MOLECULE),
-        OnCommandId<&CKalyxoView::OnCopyPicture<PluginKind::video>>(ID_COPY_VIDEO),
-        OnUpdateId<&CKalyxoView::OnUpdatePicture<PluginKind::video>>(ID_COPY_VIDEO),
-        OnCommandId<&CKalyxoView::OnPrintPicture<PluginKind::molecule>>(ID_PRINT_MOLECULE),
-        OnUpdateId<&CKalyxoView::OnUpdatePicture<PluginKind::molecule>>(ID_PRINT_MOLECULE),
-        OnCommandId<&CKalyxoView::OnPrintPicture<PluginKind::video>>(ID_PRINT_VIDEO),
-        OnUpdateId<&CKalyxoView::OnUpdatePicture<PluginKind::video>>(ID_PRINT_VIDEO),
-        OnCommandId<&CKalyxoView::OnCopyAllData>(ID_COPY_ALL_DATA),
-        OnUpdateId<&CKalyxoView::OnUpdateCopyAllData>(ID_COPY_ALL_DATA),
-        OnCommandId<&CKalyxoView::OnCopySelected>(ID_COPY_SELECTED),
-        OnUpdateId<&CKalyxoView::OnUpdateCopySelected>(ID_COPY_SELECTED),
-        OnCommandId<&CKalyxoView::OnCopyGraph>(ID_COPY_GRAPH),
-        OnUpdateId<&CKalyxoView::OnUpdateCopyGraph>(ID_COPY_GRAPH),
+        OnCommandId<&CKalyxoView::OnEdit<&EditCommands::Cut>>(ID_EDIT_CUT),
+        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::CutAndPaste>>(ID_EDIT_CUT),
+        OnCommandId<&CKalyxoView::OnEdit<&EditCommands::CopyToClipboard>>(ID_EDIT_COPY),
+        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::Copy>>(ID_EDIT_COPY),
+        OnCommandId<&CKalyxoView::OnEdit<&EditCommands::Paste>>(ID_EDIT_PASTE),
+        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::CutAndPaste>>(ID_EDIT_PASTE),
+        OnCommandId<&CKalyxoView::OnEdit<&EditCommands::CopyMolecule>>(ID_COPY_MOLECULE),
+        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::Molecule>>(ID_COPY_MOLECULE),
+        OnCommandId<&CKalyxoView::OnEdit<&EditCommands::CopyVideo>>(ID_COPY_VIDEO),
+        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::Video>>(ID_COPY_VIDEO),
+        OnCommandId<&CKalyxoView::OnEdit<&EditCommands::PrintMolecule>>(ID_PRINT_MOLECULE),
+        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::Molecule>>(ID_PRINT_MOLECULE),
+        OnCommandId<&CKalyxoView::OnEdit<&EditCommands::PrintVideo>>(ID_PRINT_VIDEO),
+        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::Video>>(ID_PRINT_VIDEO),
+        OnCommandId<&CKalyxoView::OnEdit<&EditCommands::CopyAllData>>(ID_COPY_ALL_DATA),
+        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::CopyAllData>>(ID_COPY_ALL_DATA),
+        OnCommandId<&CKalyxoView::OnEdit<&EditCommands::CopySelected>>(ID_COPY_SELECTED),
+        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::CopySelected>>(ID_COPY_SELECTED),
+        OnCommandId<&CKalyxoView::OnEdit<&EditCommands::CopyGraph>>(ID_COPY_GRAPH),
+        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::CopyGraph>>(ID_COPY_GRAPH),
     };
     static const MessageMap map{CView::GetMessageMap(), entries};
     return &map;
@@ -120,14 +120,6 @@ const EventSinkMap* CKalyxoView::GetEventSinkMap() const {
     return &map;
 }
 
-void CKalyxoView::OnUpdateBack(CCmdUI& ui) { ui.Enable(m_history.CanGoBack()); }
-
-void CKalyxoView::OnUpdateForward(CCmdUI& ui) { ui.Enable(m_history.CanGoForward()); }
-
-void CKalyxoView::OnUpdatePeriodicTable(CCmdUI& ui) { ui.SetCheck(m_mode == ContentMode::PeriodicTable); }
-
-void CKalyxoView::OnUpdateDataAnalyser(CCmdUI& ui) { ui.SetCheck(m_mode == ContentMode::DataAnalyser); }
-
 template <OnlinePage Page>
 void CKalyxoView::OnOnlinePage() {
     const SitesConfig& sites = machine().sites();
@@ -140,65 +132,71 @@ void CKalyxoView::showPlainPage(const std::string& address) {
     CEnlargedViewDlg(EnlargedViewMode::plainPage, address, {}).DoModal();
 }
 
-void CKalyxoView::OnPrint() {
-    if (m_mode == ContentMode::DataAnalyser) {
-        m_components.dataAnalyser.PrintView();
+void CKalyxoView::ShowEnlargedView() {
+    const PageAddress& place = m_navigator.Address();
+    std::string title = place.itemCode != 0 ? m_components.select.GetItemTitle(place.itemCode)
+                                            : m_components.select.GetPageTitle(place.pageId);
+    CEnlargedViewDlg(EnlargedViewMode::enlargedView, m_pages.Cache().Folder(), std::move(title)).DoModal();
+}
+
+void CKalyxoView::OnSearch() {
+    CSearchDlg dialog(machine().files(), TheApp().m_strDataFolder, m_search);
+    if (dialog.DoModal() != IDOK || dialog.Chosen().pageId < 1) return;
+    m_search = dialog.State();
+    const SearchHit& hit = dialog.Chosen();
+    m_navigator.OpenTopic({hit.sectionCode, hit.pageId, hit.itemCode});
+}
+
+void CKalyxoView::OnToolbar() {
+    if (m_panel.IsWindowVisible()) {
+        m_panel.AnimateHide();
+    } else if (m_bPanelNeverShown) {
+        m_panel.ShowAtViewCorner(GetWindowRect());
+        m_bPanelNeverShown = false;
     } else {
-        execInDocument(CWebBrowser::kCommandPrint);
+        AnimateShow();
     }
 }
 
-void CKalyxoView::OnUpdatePrint(CCmdUI& ui) {
-    ui.Enable(m_mode == ContentMode::Page ||
-              (m_mode == ContentMode::DataAnalyser && m_components.dataAnalyser.GetViewMode() != 0));
+void CKalyxoView::OnUpdateToolbar(CCmdUI& ui) { ui.SetCheck(m_panel.IsWindowVisible()); }
+
+bool CKalyxoView::OnPageChosen(std::int32_t pageNumber, std::int32_t pageId) {
+    m_navigator.OnPageChosen(pageNumber, pageId);
+    return true;
 }
 
-void CKalyxoView::OnUpdateBookmarkAdd(CCmdUI& ui) {
-    const bool page = m_mode == ContentMode::Page && m_address.pageId > 0;
-    ui.Enable(page || m_mode == ContentMode::PeriodicTable || m_mode == ContentMode::DataAnalyser);
+bool CKalyxoView::OnItemChosen(std::int32_t itemCode) {
+    m_navigator.OnItemChosen(itemCode);
+    return true;
 }
 
-void CKalyxoView::OnCut() {
-    if (focusIsInSelectEdit()) platform::SendMessage(TheApp().m_hwndSelectEdit, WM_CUT);
+bool CKalyxoView::OnElementChosen(std::int16_t elementKey) {
+    constexpr std::int16_t elementsAndCompounds = 6;
+    const std::optional<std::int32_t> page = m_elements.PageOf(elementKey);
+    if (m_panes.Mode() != ContentMode::PeriodicTable || !page) return true;
+    m_navigator.OpenSection(elementsAndCompounds, 0);
+    ShowItem(*page, 0);
+    return true;
 }
 
-void CKalyxoView::OnPaste() {
-    if (focusIsInSelectEdit()) platform::SendMessage(TheApp().m_hwndSelectEdit, WM_PASTE);
-}
-
-void CKalyxoView::OnUpdateCutAndPaste(CCmdUI& ui) {
-    ui.Enable(m_mode == ContentMode::Page && focusIsInSelectEdit());
-}
-
-void CKalyxoView::OnCopy() {
-    if (focusIsInSelectEdit()) {
-        platform::SendMessage(TheApp().m_hwndSelectEdit, WM_COPY);
-        return;
+bool CKalyxoView::OnBeforeNavigate(const std::string& url, std::int32_t, const std::string&, const Variant&,
+                                   const std::string&, bool* cancel) {
+    if (m_bInterceptionSuppressed) return true;
+    if (IsEnlargedViewLink(url)) {
+        *cancel = true;
+        // Not from within the browser's question, during which no page can be loaded.
+        PostMessage(WM_COMMAND, 0, kShowEnlargedView);
+    } else if (const std::optional<std::string> file = GlossaryFile(url)) {
+        *cancel = true;
+        showDefinition(*file);
     }
-    execInDocument(CWebBrowser::kCommandCopy);
+    return true;
 }
 
-void CKalyxoView::execInDocument(std::int32_t command) {
-    const std::shared_ptr<Dispatch> document = m_components.browser.Document();
-    if (document) document->exec(command);
-}
-
-void CKalyxoView::OnUpdateCopy(CCmdUI& ui) { ui.Enable(m_mode == ContentMode::Page); }
-
-void CKalyxoView::OnCopyAllData() { m_components.dataAnalyser.CopyAllData(); }
-
-void CKalyxoView::OnUpdateCopyAllData(CCmdUI& ui) { ui.Enable(m_mode == ContentMode::DataAnalyser); }
-
-void CKalyxoView::OnCopySelected() { m_components.dataAnalyser.CopySelection(); }
-
-void CKalyxoView::OnUpdateCopySelected(CCmdUI& ui) {
-    ui.Enable(m_mode == ContentMode::DataAnalyser && m_components.dataAnalyser.GetViewMode() == 0);
-}
-
-void CKalyxoView::OnCopyGraph() { m_components.dataAnalyser.CopyGraph(); }
-
-void CKalyxoView::OnUpdateCopyGraph(CCmdUI& ui) {
-    ui.Enable(m_mode == ContentMode::DataAnalyser && m_components.dataAnalyser.GetViewMode() != 0);
+void CKalyxoView::showDefinition(const std::string& file) {
+    m_glossary.Hide();
+    const std::string path = TheApp().m_strDataFolder + "glossary\\" + file;
+    if (const auto definition = ReadDefinition(machine().files(), path)) m_glossary.Show(*definition);
 }
 
 }  // namespace kalyxo

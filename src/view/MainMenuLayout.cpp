@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "src/view/PaneLayout.h"
+#include "src/view/BarLayout.h"
 
 namespace kalyxo {
 
@@ -41,8 +41,8 @@ const std::array<MainMenuArea, MainMenuLayout::kAreas>& MainMenuLayout::Areas() 
 const std::array<CRect, 4>& MainMenuLayout::Frame() { return kFrame; }
 
 CPoint MainMenuLayout::Origin(CSize client, CSize picture) {
-    const int y = (client.cy - picture.cy - kBarHeight) / 2 + kBarHeight;
-    return {(client.cx - picture.cx) / 2, std::max(y, kBarHeight)};
+    const int y = (client.cy - picture.cy - BarLayout::kHeight) / 2 + BarLayout::kHeight;
+    return {(client.cx - picture.cx) / 2, std::max(y, BarLayout::kHeight)};
 }
 
 int MainMenuLayout::ItemAt(CPoint relative) {

@@ -46,6 +46,19 @@ std::optional<CBitmap> takePicture(HWND plugin, PluginKind kind) {
     return taken.ResizedTo(size.cx, size.cy);
 }
 
+void print(HWND plugin, PluginKind kind, std::string_view title) {
+    if (!HasPrinter()) {
+        AfxMessageBox(LoadString(IDS_NO_PRINTER));
+        return;
+    }
+    const std::optional<CBitmap> picture = takePicture(plugin, kind);
+    std::optional<CPrinterDC> printer = picture ? CPrinterDC::Start(LoadString(IDS_APP_TITLE)) : std::nullopt;
+    if (!printer) return;
+    const PrintedPicture places = LayOutPrintedPicture(kind, printer->PageSize(), printer->LogPixelsY());
+    printer->StretchBitmap(places.picture, *picture);
+    printer->DrawTitle(title, places.title, places.letterHeight);
+}
+
 }  // namespace
 
 PrintedPicture LayOutPrintedPicture(PluginKind kind, CSize page, int logPixelsY) {
@@ -56,25 +69,14 @@ PrintedPicture LayOutPrintedPicture(PluginKind kind, CSize page, int logPixelsY)
     return {CRect::at(page.cx / 4, top, width, height), CRect{0, top / 3, page.cx, top}, logPixelsY / 7};
 }
 
-void PictureCapture::Copy(PluginKind kind) const {
-    const std::optional<HWND> plugin = findPlugin(m_browser, kind);
-    const std::optional<CBitmap> picture = plugin ? takePicture(*plugin, kind) : std::nullopt;
-    if (picture) SetClipboardBitmap(*picture);
-}
-
-void PictureCapture::Print(PluginKind kind, std::string_view title) const {
+void PictureCapture::capture(PluginKind kind, CaptureMode mode, std::string_view title) const {
     const std::optional<HWND> plugin = findPlugin(m_browser, kind);
     if (!plugin) return;
-    if (!HasPrinter()) {
-        AfxMessageBox(LoadString(IDS_NO_PRINTER));
-        return;
+    if (mode == CaptureMode::print) {
+        print(*plugin, kind, title);
+    } else if (const std::optional<CBitmap> picture = takePicture(*plugin, kind)) {
+        SetClipboardBitmap(*picture);
     }
-    const std::optional<CBitmap> picture = takePicture(*plugin, kind);
-    std::optional<CPrinterDC> printer = picture ? CPrinterDC::Start(LoadString(IDS_APP_TITLE)) : std::nullopt;
-    if (!printer) return;
-    const PrintedPicture places = LayOutPrintedPicture(kind, printer->PageSize(), printer->LogPixelsY());
-    printer->StretchBitmap(places.picture, *picture);
-    printer->DrawTitle(title, places.title, places.letterHeight);
 }
 
 }  // namespace kalyxo

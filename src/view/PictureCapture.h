@@ -23,19 +23,27 @@ struct PrintedPicture {
 /// it in letters of a seventh of an inch.
 PrintedPicture LayOutPrintedPicture(PluginKind kind, platform::CSize page, int logPixelsY);
 
+/// Where a picture goes.
+enum class CaptureMode { copy, print };
+
 /// Copies or prints the picture of the molecule or video in a page. It is found among the windows inside the
 /// browser by the size of its window.
 class PictureCapture {
   public:
     explicit PictureCapture(platform::HWND browser) : m_browser(browser) {}
 
-    /// Puts the picture on the clipboard; nothing happens when the page has none.
-    void Copy(PluginKind kind) const;
-    /// Prints the picture under a title. Without a printer the user is told; nothing happens when the page
-    /// has no picture.
-    void Print(PluginKind kind, std::string_view title) const;
+    /// Both put the picture on the clipboard, or print it under a title. Without a printer the user is told;
+    /// nothing happens when the page has no picture.
+    void CaptureMolecule(CaptureMode mode, std::string_view title = {}) const {
+        capture(PluginKind::molecule, mode, title);
+    }
+    void CaptureVideo(CaptureMode mode, std::string_view title = {}) const {
+        capture(PluginKind::video, mode, title);
+    }
 
   private:
+    void capture(PluginKind kind, CaptureMode mode, std::string_view title) const;
+
     platform::HWND m_browser;
 };
 

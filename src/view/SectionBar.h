@@ -20,8 +20,6 @@ class SectionBar {
     void DrawBar(platform::CDC& dc) const;
     /// Selects a slot, ends the hovering of any other, and redraws what changes.
     void Select(int slot, platform::CDC& dc);
-    /// Selects without drawing, for a bar that is about to be drawn whole.
-    void SetSelected(int slot) { m_nSelected = slot; }
     /// Hovers a slot, −1 for none, and redraws what changes.
     void Hover(int slot, platform::CDC& dc);
 

@@ -58,10 +58,11 @@ void dialog(Act& act, Program&) { act.whenIdle(tellDialog); }
 
 void tellTip(Act& act) {
     const kalyxo::CKalyxoView* view = Program::view();
-    const bool visible = view != nullptr && view->Glossary().IsVisible();
+    const kalyxo::GlossaryPopup* box = view == nullptr ? nullptr : &view->Inspection().glossary;
+    const bool visible = box != nullptr && box->IsVisible();
     act.set("visible", visible);
-    act.set("text", visible ? text(view->Glossary().Text()) : Json(""));
-    act.set("rect", rectangle(visible ? view->Glossary().Place() : CRect()));
+    act.set("text", visible ? text(box->Text()) : Json(""));
+    act.set("rect", rectangle(visible ? box->Place() : CRect()));
 }
 
 void tip(Act& act, Program&) { act.whenIdle(tellTip); }

@@ -39,23 +39,24 @@ Json historyJson(const History& history) {
 }
 
 void tellState(Act& act) {
-    const CKalyxoView* view = Program::view();
-    if (view == nullptr) return act.fail("there is no main window");
-    act.set("mode", modeName(view->Mode()));
-    act.set("section", view->Address().sectionCode);
-    act.set("pageId", view->Address().pageId);
-    act.set("itemCode", view->Address().itemCode);
-    act.set("selectedSlot", view->Bar().Selected());
-    act.set("hoveredSlot", view->Bar().Hovered());
-    act.set("hotItem", view->Menu().HotItem());
-    act.set("video", view->Contents().video);
-    act.set("molecule", view->Contents().molecule);
-    act.set("history", historyJson(view->Places()));
-    act.set("nextCache", view->Cache().NextNumber());
-    act.set("oldestCache", view->Cache().OldestNumber());
-    act.set("startupFailed", view->StartupFailed());
-    const auto folder = view->Bookmarks().CurrentFolderIndex();
-    act.set("bookmarks", bookmarksJson(view->Bookmarks()));
+    if (Program::view() == nullptr) return act.fail("there is no main window");
+    const ViewInspection view = Program::view()->Inspection();
+    const PageAddress& address = view.navigator.Address();
+    act.set("mode", modeName(view.mode));
+    act.set("section", address.sectionCode);
+    act.set("pageId", address.pageId);
+    act.set("itemCode", address.itemCode);
+    act.set("selectedSlot", view.items.Bar().Selected());
+    act.set("hoveredSlot", view.items.Bar().Hovered());
+    act.set("hotItem", view.items.Menu().HotItem());
+    act.set("video", view.pages.Contents().video);
+    act.set("molecule", view.pages.Contents().molecule);
+    act.set("history", historyJson(view.navigator.Places()));
+    act.set("nextCache", view.pages.Cache().NextNumber());
+    act.set("oldestCache", view.pages.Cache().OldestNumber());
+    act.set("startupFailed", view.startupFailed);
+    const auto folder = view.bookmarks.CurrentFolderIndex();
+    act.set("bookmarks", bookmarksJson(view.bookmarks));
     act.set("currentFolder", folder ? static_cast<int>(*folder) : -1);
 }
 
@@ -68,11 +69,11 @@ void tellApp(Act& act) {
     act.set("splitterPos", app.m_nSplitterPos);
     act.set("frameRect", rectangle(app.m_rcFrame));
     act.set("frameState", app.m_nFrameState);
-    act.set("versions", {{"periodic", text(app.m_versions.periodic)},
-                         {"select", text(app.m_versions.select)},
-                         {"dataAn", text(app.m_versions.dataAn)},
-                         {"molCtrl", text(app.m_versions.molCtrl)},
-                         {"zoom", text(app.m_versions.zoom)}});
+    act.set("versions", {{"periodic", text(app.m_strVerPeriodic)},
+                         {"select", text(app.m_strVerSelect)},
+                         {"dataAn", text(app.m_strVerDataAn)},
+                         {"molCtrl", text(app.m_strVerMolCtrl)},
+                         {"zoom", text(app.m_strVerZoom)}});
 }
 
 template <void (*Tell)(Act&)>

@@ -32,9 +32,9 @@ HWND find(NamedWindow name) {
         case NamedWindow::frame:
             return handleOf(Program::frame());
         case NamedWindow::splitter:
-            return Program::view() == nullptr ? 0 : Program::view()->Splitter().GetSafeHwnd();
+            return Program::view() == nullptr ? 0 : Program::view()->Inspection().splitter;
         case NamedWindow::panel:
-            return Program::view() == nullptr ? 0 : Program::view()->Panel().GetSafeHwnd();
+            return Program::view() == nullptr ? 0 : Program::view()->Inspection().panel;
     }
     return 0;
 }

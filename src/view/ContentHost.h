@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstdint>
+
+namespace kalyxo {
+
+class CBMDataAn;
+
+/// What navigation and bookmarks ask of the window: to show the place that they have decided on.
+class ContentHost {
+  public:
+    /// Changes to page mode and gives the browse selection a section. True when the panes are still to be
+    /// laid out, false in page mode, whose panes stand already.
+    virtual bool EnterPageMode(std::int16_t sectionCode) = 0;
+    virtual void LayOutPage() = 0;
+    /// Prepares a content page and has the browser show it.
+    virtual void ShowPage(std::int32_t pageNumber) = 0;
+    /// Has the browse selection show a topic or one of its entries. It answers with the number of the page.
+    virtual void ShowItem(std::int32_t pageId, std::int32_t itemCode) = 0;
+    virtual void ShowPeriodicTable() = 0;
+    /// Without a bookmark, whatever state the data analyser is in.
+    virtual void ShowDataAnalyser(const CBMDataAn* bookmark) = 0;
+
+  protected:
+    ~ContentHost() = default;
+};
+
+}  // namespace kalyxo

@@ -1,0 +1,104 @@
+#include "src/view/ContentPanes.h"
+
+#include "platform/input/TabPlace.h"
+#include "src/state/ProgramState.h"
+#include "src/view/PaneLayout.h"
+
+namespace kalyxo {
+
+using namespace platform;
+
+namespace {
+
+/// Shows between the panes while the splitter is dragged away from them.
+constexpr COLORREF kBetweenPanes = RGB(255, 255, 255);
+
+/// The splitter's range; after the view has changed its size it is kept farther from the left edge.
+constexpr int kMinSplitterPos = 120;
+constexpr int kMinSplitterPosAfterResize = 150;
+constexpr int kSplitterToRightEdge = 150;
+
+}  // namespace
+
+bool ContentPanes::EnterMode(ContentMode mode) {
+    if (mode == m_mode) return false;
+    leaveMode();
+    m_mode = mode;
+    return true;
+}
+
+void ContentPanes::leaveMode() {
+    switch (m_mode) {
+        case ContentMode::PeriodicTable:
+            m_components.periodicTable.ShowWindow(SW_HIDE);
+            break;
+        case ContentMode::DataAnalyser:
+            m_components.dataAnalyser.ShowWindow(SW_HIDE);
+            break;
+        case ContentMode::Page:
+            m_splitter.DestroyWindow();
+            m_components.select.ShowWindow(SW_HIDE);
+            m_pages.LeavePage();
+            break;
+        case ContentMode::MainMenu:
+            break;
+    }
+}
+
+void ContentPanes::LayOutPage() {
+    const CRect area = PaneLayout{clientSize()}.whole();
+    m_splitter.Create(TheApp().m_nSplitterPos, area.top, area.Height(), false, kMinSplitterPos,
+                      area.right - kSplitterToRightEdge, m_view);
+    TabAfter(m_splitter.GetSafeHwnd(), m_components.select.GetSafeHwnd());
+    // The bar keeps within its limits, whatever position was saved.
+    SplitterMoved();
+    m_components.select.ShowWindow(SW_SHOW);
+    m_bLayoutPending = false;
+}
+
+void ContentPanes::ShowWhole(CWnd& component) {
+    component.MoveWindow(PaneLayout{clientSize()}.whole());
+    component.ShowWindow(SW_SHOW);
+}
+
+void ContentPanes::Resize(CSize client) {
+    m_bLayoutPending = true;
+    const CRect area = PaneLayout{client}.whole();
+    switch (m_mode) {
+        case ContentMode::PeriodicTable:
+            m_components.periodicTable.MoveWindow(area);
+            break;
+        case ContentMode::DataAnalyser:
+            m_components.dataAnalyser.MoveWindow(area);
+            break;
+        case ContentMode::Page:
+            m_splitter.SetLength(area.Height());
+            m_splitter.SetRange(kMinSplitterPosAfterResize, area.right - kSplitterToRightEdge);
+            break;
+        case ContentMode::MainMenu:
+            break;
+    }
+}
+
+void ContentPanes::Paint(CDC& dc) {
+    if (m_mode == ContentMode::Page) dc.FillSolidRect(PaneLayout{clientSize()}.whole(), kBetweenPanes);
+    m_components.select.Invalidate();
+    if (m_bLayoutPending) SplitterMoved();
+    m_bLayoutPending = false;
+}
+
+void ContentPanes::SplitterMoved() {
+    if (m_mode != ContentMode::Page) return;
+    const int position = m_splitter.GetPos();
+    if (position >= kMinSplitterPos) TheApp().m_nSplitterPos = position;
+    const PaneLayout panes{clientSize()};
+    m_components.select.MoveWindow(panes.browseSelection(position));
+    m_components.browser.MoveWindow(panes.browser(position));
+}
+
+CSize ContentPanes::clientSize() const {
+    const CRect client = m_view.GetClientRect();
+    return {client.Width(), client.Height()};
+}
+
+}  // namespace kalyxo

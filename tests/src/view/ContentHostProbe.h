@@ -1,0 +1,46 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "src/view/Navigator.h"
+
+namespace kalyxo {
+
+/// Writes down what it is asked to show. Like the browse selection, it answers when it is asked for a topic.
+class ContentHostProbe final : public ContentHost {
+  public:
+    bool EnterPageMode(std::int16_t sectionCode) override {
+        note("section " + std::to_string(sectionCode));
+        return !std::exchange(m_bPageMode, true);
+    }
+    void LayOutPage() override { note("panes"); }
+    void ShowPage(std::int32_t pageNumber) override { note("page " + std::to_string(pageNumber)); }
+    void ShowItem(std::int32_t pageId, std::int32_t itemCode) override {
+        note("item " + std::to_string(pageId) + "/" + std::to_string(itemCode));
+        navigator.OnPageChosen(pageId, pageId);
+        if (itemCode != 0) navigator.OnItemChosen(itemCode);
+    }
+    void ShowPeriodicTable() override { showComponent("table", kPeriodicTableCode); }
+    void ShowDataAnalyser(const CBMDataAn* bookmark) override {
+        showComponent(bookmark == nullptr ? "analyser" : "analyser's state", kDataAnalyserCode);
+    }
+
+    /// What it was asked since the last call.
+    std::vector<std::string> TakeCalls() { return std::exchange(m_calls, {}); }
+
+    Navigator navigator{*this};
+
+  private:
+    void note(std::string call) { m_calls.push_back(std::move(call)); }
+    void showComponent(std::string name, std::int16_t code) {
+        note(std::move(name));
+        navigator.RecordHistory({code, 0, 0});
+        m_bPageMode = false;
+    }
+
+    std::vector<std::string> m_calls;
+    bool m_bPageMode = false;
+};
+
+}  // namespace kalyxo
