@@ -1,32 +1,42 @@
 #pragma once
 
+#include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "platform/browser/RequestPolicy.h"
-
 namespace platform {
 
-/// The one policy of the process for all browser controls, and the one place where refusals are logged.
+class RequestPolicy;
+struct PageRequest;
+
+/// The one policy of the process for all browsers, and the one place where refusals are logged.
 class BrowserPolicy {
   public:
     static BrowserPolicy& instance();
 
     /// See RequestPolicy::setAllowedFolders.
-    void setAllowedFolders(const std::vector<std::string>& folders) { policy_.setAllowedFolders(folders); }
+    void setAllowedFolders(const std::vector<std::string>& folders);
 
     /// See RequestPolicy::setAllowedHosts. To be called before the first browser is made, since the engine
     /// finds no other host from then on.
     void setAllowedHosts(const std::vector<std::string>& hosts);
 
-    /// See RequestPolicy::allows; a refusal is logged under the category `platform.browser`.
-    bool admit(std::string_view page, std::string_view request) const;
+    /// See RequestPolicy::allows; a refusal is logged once under the category `platform.browser`.
+    bool admit(const PageRequest& request);
+
+    /// See RequestPolicy::allowsFile.
+    bool allowsFile(std::string_view canonicalPath) const;
 
   private:
-    BrowserPolicy() = default;
+    BrowserPolicy();
+    ~BrowserPolicy();
 
-    RequestPolicy policy_;
+    void logRefusal(const PageRequest& request);
+
+    std::unique_ptr<RequestPolicy> policy_;
+    std::set<std::string> logged_;
 };
 
 }  // namespace platform

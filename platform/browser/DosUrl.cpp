@@ -5,6 +5,7 @@
 #include <QUrl>
 #include <algorithm>
 
+#include "platform/files/DosPath.h"
 #include "platform/text/CodePage1253.h"
 
 namespace platform {
@@ -35,11 +36,23 @@ std::optional<std::string> textOfBytes(const QByteArray& raw) {
     return fromUtf8Strict(raw.toStdString());
 }
 
+/// The path of a drive URL as it is written, decoded.
+std::optional<std::string> writtenPath(const QUrl& url) {
+    if (!isDriveUrl(url)) return std::nullopt;
+    const auto path = textOfBytes(QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toUtf8()));
+    if (!path) return std::nullopt;
+    return std::string{url.scheme()[0].toUpper().toLatin1()} + ':' + *path;
+}
+
 }  // namespace
 
 bool isDriveUrl(const QUrl& url) {
     const QString scheme = url.scheme();
     return scheme.size() == 1 && isLetter(scheme[0].toLatin1());
+}
+
+bool isOnline(const QUrl& url) {
+    return url.scheme() == QLatin1StringView("http") || url.scheme() == QLatin1StringView("https");
 }
 
 QUrl urlOfAddress(std::string_view address) {
@@ -63,16 +76,22 @@ QUrl normalisedUrl(const QUrl& url) {
     return result;
 }
 
+std::optional<std::string> canonicalDosPath(std::string_view path) {
+    const auto parsed = parseDosPath(path);
+    if (!parsed) return std::nullopt;
+    std::string text{parsed->letter, ':'};
+    for (const auto& name : parsed->names) text += '\\' + fromUtf8(name);
+    return parsed->names.empty() ? text + '\\' : text;
+}
+
 std::optional<std::string> dosPathOfUrl(const QUrl& url) {
-    if (!isDriveUrl(url)) return std::nullopt;
-    auto path = textOfBytes(QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toUtf8()));
-    if (!path) return std::nullopt;
-    std::replace(path->begin(), path->end(), '/', '\\');
-    return std::string{url.scheme()[0].toUpper().toLatin1()} + ':' + *path;
+    const auto path = writtenPath(url);
+    return path ? canonicalDosPath(*path) : std::nullopt;
 }
 
 std::string addressOfUrl(const QUrl& url) {
     auto path = dosPathOfUrl(url);
+    if (!path) path = writtenPath(url);
     if (!path) return fromUtf8(url.toEncoded().toStdString());
     if (url.hasQuery()) *path += '?' + fromUtf8(url.query(QUrl::FullyDecoded).toStdString());
     if (url.hasFragment()) *path += '#' + fromUtf8(url.fragment(QUrl::FullyDecoded).toStdString());

@@ -14,6 +14,9 @@ namespace platform {
 /// Whether the URL's scheme is a drive letter.
 bool isDriveUrl(const QUrl& url);
 
+/// Whether it is an address on the network, by http or https.
+bool isOnline(const QUrl& url);
+
 /// The URL of an address in code page 1253: a DOS path, whose part from `#` on is the fragment, or any
 /// other URL text. Forward slashes, everything escaped that would not be part of the path.
 QUrl urlOfAddress(std::string_view address);
@@ -21,8 +24,13 @@ QUrl urlOfAddress(std::string_view address);
 /// A drive URL with forward slashes, which are its path's only form here; others stay as they are.
 QUrl normalisedUrl(const QUrl& url);
 
-/// The DOS path that a drive URL names, in code page 1253 with backslashes; its query and fragment are left
-/// out. Nothing for other URLs and for names that the code page cannot write.
+/// The path with backslashes, a capital letter for the drive, and without `.`, `..` and empty names; nothing
+/// for a text that is no absolute DOS path.
+std::optional<std::string> canonicalDosPath(std::string_view path);
+
+/// The canonical DOS path that a drive URL names, in code page 1253, decoded once; the URL's query and
+/// fragment are left out. This is the path that is judged and the path that is opened. Nothing for other URLs
+/// and for names that the code page cannot write.
 std::optional<std::string> dosPathOfUrl(const QUrl& url);
 
 /// The address as the program is told it: a drive URL in DOS form (`C:\Kalyxo\cache\1.htm#top`), any other

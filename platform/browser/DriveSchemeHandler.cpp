@@ -2,12 +2,12 @@
 
 #include <QBuffer>
 #include <QFile>
-#include <QFileInfo>
 #include <QMap>
 #include <QUrl>
 #include <QWebEngineUrlRequestJob>
 #include <memory>
 
+#include "platform/browser/BrowserPolicy.h"
 #include "platform/browser/DosUrl.h"
 #include "platform/machine/Machine.h"
 #include "platform/plugins/FileType.h"
@@ -27,12 +27,11 @@ void reply(QWebEngineUrlRequestJob* job, const QByteArray& type, std::unique_ptr
     job->reply(type, given);
 }
 
-/// Where the file lies; nothing when there is none.
-std::optional<QString> nativeFile(const std::string& dosPath) {
-    const auto native = hasMachine() ? machine().files().nativePath(dosPath) : std::nullopt;
-    if (!native) return std::nullopt;
-    const QString path = QString::fromStdString(native->string());
-    return QFileInfo(path).isFile() ? std::optional(path) : std::nullopt;
+/// The file that the policy allows; a closed handle when there is none.
+FileHandle openAllowed(const std::string& canonicalPath) {
+    if (!hasMachine() || !BrowserPolicy::instance().allowsFile(canonicalPath)) return {};
+    if (machine().files().isFolder(canonicalPath)) return {};
+    return machine().files().openForReading(canonicalPath);
 }
 
 void replyMissingPage(QWebEngineUrlRequestJob* job, const std::string& dosPath) {
@@ -61,12 +60,8 @@ bool isFrame(QWebEngineUrlRequestJob& job) {
     return job.requestHeaders().value(DriveSchemeHandler::frameHeader) == "1";
 }
 
-void replyFile(QWebEngineUrlRequestJob* job, const std::string& dosPath, const QString& native) {
-    auto file = openForReading(std::make_unique<QFile>(native));
-    if (!file) {
-        job->fail(QWebEngineUrlRequestJob::RequestFailed);
-        return;
-    }
+void replyFile(QWebEngineUrlRequestJob* job, const std::string& dosPath, FileHandle handle) {
+    auto file = deviceOf(std::move(handle));
     const QByteArray type = contentType(dosPath, *file);
     reply(job, type, std::move(file));
 }
@@ -80,16 +75,16 @@ void DriveSchemeHandler::requestStarted(QWebEngineUrlRequestJob* job) {
         return;
     }
     const auto path = dosPathOfUrl(url);
-    const auto native = path ? nativeFile(*path) : std::nullopt;
+    FileHandle file = path ? openAllowed(*path) : FileHandle();
     const bool frame = isFrame(*job);
-    if (auto special = path ? frameAnswer(url, *path, native, frame) : std::nullopt) {
+    if (auto special = path ? frameAnswer(url, *path, file, frame) : std::nullopt) {
         if (special->device) {
             reply(job, special->type, std::move(special->device));
         } else {
             job->fail(QWebEngineUrlRequestJob::UrlNotFound);
         }
-    } else if (native) {
-        replyFile(job, *path, *native);
+    } else if (file) {
+        replyFile(job, *path, std::move(file));
     } else if (frame) {
         replyMissingPage(job, path.value_or(addressOfUrl(url)));
     } else {

@@ -1,23 +1,30 @@
 #include "platform/browser/RequestInterceptor.h"
 
-#include <QUrl>
-
 #include "platform/browser/BrowserPolicy.h"
-#include "platform/browser/DosUrl.h"
 #include "platform/browser/DriveSchemeHandler.h"
 
 namespace platform {
 
+namespace {
+
+using Type = QWebEngineUrlRequestInfo::ResourceType;
+
+bool isShownInFrame(Type type) {
+    return type == Type::ResourceTypeMainFrame || type == Type::ResourceTypeSubFrame ||
+           type == Type::ResourceTypeObject || type == Type::ResourceTypePluginResource;
+}
+
+}  // namespace
+
 void RequestInterceptor::interceptRequest(QWebEngineUrlRequestInfo& info) {
-    const auto type = info.resourceType();
-    const bool isPage = type == QWebEngineUrlRequestInfo::ResourceTypeMainFrame;
-    // The page that asked for another page has judged that request itself, and is not told here.
-    const std::string page = isPage ? std::string() : addressOfUrl(info.firstPartyUrl());
-    if (!BrowserPolicy::instance().admit(page, addressOfUrl(info.requestUrl()))) {
+    const Type type = info.resourceType();
+    // A page's wish for another page was judged before, and is carried out by the program (see WebPage).
+    const bool isProgram = type == Type::ResourceTypeMainFrame;
+    const PageRequest request{isProgram ? RequestKind::program : RequestKind::part, info.firstPartyUrl(),
+                              info.requestUrl()};
+    if (!BrowserPolicy::instance().admit(request)) {
         info.block(true);
-    } else if (isPage || type == QWebEngineUrlRequestInfo::ResourceTypeSubFrame ||
-               type == QWebEngineUrlRequestInfo::ResourceTypeObject ||
-               type == QWebEngineUrlRequestInfo::ResourceTypePluginResource) {
+    } else if (isShownInFrame(type)) {
         info.setHttpHeader(DriveSchemeHandler::frameHeader, "1");
     }
 }

@@ -1,43 +1,28 @@
 #include "platform/browser/RequestPolicy.h"
 
 #include <algorithm>
-#include <optional>
-#include <utility>
 
-#include "platform/files/DosPath.h"
+#include "platform/browser/DosUrl.h"
 #include "platform/text/CodePage1253.h"
 
 namespace platform {
 
 namespace {
 
-constexpr std::string_view emptyPage = "about:blank";
-
-/// The path without dot names, in lower case, each name followed by a backslash; nothing for an address
-/// that is no DOS path.
-std::optional<std::string> comparable(std::string_view address) {
-    const auto path = parseDosPath(address.substr(0, address.find_first_of("?#")));
-    if (!path) return std::nullopt;
-    std::string text{path->letter, ':', '\\'};
-    for (const auto& name : path->names) text += fromUtf8(name) + '\\';
-    return toLower(text);
+const QUrl& emptyPage() {
+    static const QUrl url(QStringLiteral("about:blank"));
+    return url;
 }
 
-/// The host of an http or https address, in small letters; empty for any other. What stands before an at sign
-/// is no part of it.
-std::string hostOf(std::string_view address) {
-    for (const std::string_view scheme : {"http://", "https://"}) {
-        if (toLower(address.substr(0, scheme.size())) != scheme) continue;
-        std::string_view host = address.substr(scheme.size());
-        host = host.substr(0, host.find_first_of("/\\?#"));
-        host.remove_prefix(host.rfind('@') + 1);
-        return toLower(host.substr(0, host.find(':')));
-    }
-    return {};
+/// In small letters, with a backslash at the end.
+std::string asFolder(std::string_view canonicalPath) {
+    std::string path = toLower(canonicalPath);
+    if (!path.ends_with('\\')) path += '\\';
+    return path;
 }
 
-bool isInlineData(std::string_view address) {
-    return address.starts_with("data:") || address.starts_with("blob:");
+bool isInlineData(const QUrl& url) {
+    return url.scheme() == QLatin1StringView("data") || url.scheme() == QLatin1StringView("blob");
 }
 
 }  // namespace
@@ -45,28 +30,36 @@ bool isInlineData(std::string_view address) {
 void RequestPolicy::setAllowedFolders(const std::vector<std::string>& folders) {
     folders_.clear();
     for (const auto& folder : folders) {
-        if (auto text = comparable(folder)) folders_.push_back(std::move(*text));
+        if (const auto path = canonicalDosPath(folder)) folders_.push_back(asFolder(*path));
     }
 }
 
-bool RequestPolicy::allowsFile(std::string_view address) const {
-    const auto text = comparable(address);
-    if (!text) return false;
-    return folders_.empty() || std::any_of(folders_.begin(), folders_.end(),
-                                           [&](const auto& folder) { return text->starts_with(folder); });
+bool RequestPolicy::allowsFile(std::string_view canonicalPath) const {
+    const std::string path = asFolder(canonicalPath);
+    return std::any_of(folders_.begin(), folders_.end(),
+                       [&](const auto& folder) { return path.starts_with(folder); });
 }
 
-bool RequestPolicy::allowsHost(std::string_view address) const {
-    const std::string host = hostOf(address);
+bool RequestPolicy::allowsFile(const QUrl& url) const {
+    const auto path = dosPathOfUrl(url);
+    return path && allowsFile(*path);
+}
+
+bool RequestPolicy::allowsHost(const QUrl& url) const {
+    const std::string host = isOnline(url) ? url.host().toLower().toStdString() : std::string();
     return !host.empty() && std::find(hosts_.begin(), hosts_.end(), host) != hosts_.end();
 }
 
-bool RequestPolicy::allows(std::string_view page, std::string_view request) const {
-    if (request == emptyPage) return true;
-    const bool isProgram = page.empty() || page == emptyPage;
-    if (isInlineData(request)) return isProgram || allowsFile(page) || allowsHost(page);
-    if (allowsHost(request)) return isProgram || allowsHost(page);
-    return allowsFile(request) && (isProgram || allowsFile(page));
+bool RequestPolicy::allows(const PageRequest& request) const {
+    const QUrl& address = request.address;
+    if (address == emptyPage()) return true;
+    const bool isProgram = request.kind == RequestKind::program;
+    if (isProgram) return isInlineData(address) || allowsFile(address) || allowsHost(address);
+    if (isInlineData(address)) {
+        return request.kind == RequestKind::part && (allowsFile(request.page) || allowsHost(request.page));
+    }
+    return (allowsFile(address) && allowsFile(request.page)) ||
+           (allowsHost(address) && allowsHost(request.page));
 }
 
 }  // namespace platform

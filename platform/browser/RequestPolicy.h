@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QUrl>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -7,29 +8,42 @@
 
 namespace platform {
 
-/// Says which requests a page may make. Addresses are given as the program sees them, in code page 1253: a
-/// DOS path for what lies on a drive, a URL for anything else.
+/// Who makes a request, and for what.
+enum class RequestKind {
+    program,   ///< the program, for the page that it shows
+    mainPage,  ///< a page, for another page in its place
+    part,      ///< a page, for anything that it shows or reads: frames, pictures, files, scripts
+};
+
+/// A request that is to be judged.
+struct PageRequest {
+    RequestKind kind = RequestKind::part;
+    QUrl page;  ///< the page that asks; of no account when the program does
+    QUrl address;
+};
+
+/// Says which requests are allowed. The program may ask for the files of the allowed folders and for what the
+/// allowed hosts have. A page of these folders may ask for their files, and a page of these hosts for what
+/// they have; each may hold inline data as a part, and be replaced by the empty page. Nothing else is
+/// allowed, least of all to a page that is not known.
 class RequestPolicy {
   public:
-    /// Restricts pages to these folders (DOS paths) and what lies below them. Without any, every drive is
-    /// allowed.
+    /// The folders (DOS paths, code page 1253) that files may come from. None at first.
     void setAllowedFolders(const std::vector<std::string>& folders);
 
-    /// Lets the program, and pages of these hosts (names in small letters), ask for what lies on them by http
-    /// and https. None at first.
+    /// The hosts (names in small letters) that http and https may reach. None at first.
     void setAllowedHosts(std::vector<std::string> hosts) { hosts_ = std::move(hosts); }
 
-    /// Whether `page` may ask for `request`. An empty page is the program itself, which asks for the first
-    /// page. Files of the allowed folders may be asked for by the program and by pages that lie in such
-    /// folders too, pages of the allowed hosts by the program and each other; inline data by the program and
-    /// all these pages; the empty page by all; nothing else by anyone.
-    bool allows(std::string_view page, std::string_view request) const;
+    bool allows(const PageRequest& request) const;
+
+    /// Whether a file lies in an allowed folder, by its canonical DOS path (see dosPathOfUrl).
+    bool allowsFile(std::string_view canonicalPath) const;
 
   private:
-    bool allowsFile(std::string_view address) const;
-    bool allowsHost(std::string_view address) const;
+    bool allowsFile(const QUrl& url) const;
+    bool allowsHost(const QUrl& url) const;
 
-    std::vector<std::string> folders_;
+    std::vector<std::string> folders_;  // canonical, in small letters, with a backslash at the end
     std::vector<std::string> hosts_;
 };
 

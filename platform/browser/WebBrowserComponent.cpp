@@ -89,8 +89,8 @@ std::optional<Variant> WebBrowserComponent::invoke(std::int32_t dispid, InvokeKi
 
 WebPage& WebBrowserComponent::page() {
     if (page_) return *page_;
-    page_ = std::make_unique<WebPage>(
-        [this](const QUrl& asking, const QUrl& url) { return passes(asking, url); }, nullptr);
+    page_ =
+        std::make_unique<WebPage>([this](const PageRequest& request) { return passes(request); }, nullptr);
     page_->setCommandHandler(
         [this](const std::string& component, LPARAM command) { sendCommand(component, command); });
     plugins_ = std::make_unique<PluginWindows>(*view_, *page_);
@@ -110,7 +110,7 @@ void WebBrowserComponent::navigate(const std::string& address, const Variant& fl
     const auto* number = flags.get<std::int32_t>();
     record(TraceNavigate{controlId(), address, number ? *number : 0});
     const QUrl url = normalisedUrl(urlOfAddress(address));
-    if (!passes(QUrl(), url)) return;
+    if (!passes({RequestKind::program, {}, url})) return;
     // Asked only now: the page may have been made while a handler showed a message.
     if (page_) {
         page_->open(url);
@@ -125,13 +125,13 @@ std::shared_ptr<Dispatch> WebBrowserComponent::document() {
     return std::make_shared<Document>(page(), *printer_);
 }
 
-bool WebBrowserComponent::passes(const QUrl& asking, const QUrl& url) {
-    const std::string address = addressOfUrl(url);
+bool WebBrowserComponent::passes(const PageRequest& request) {
+    const std::string address = addressOfUrl(request.address);
     bool cancel = false;
     std::array arguments = {Variant(address), Variant(std::int32_t{0}), Variant(std::string()),
                             Variant(),        Variant(std::string()),   Variant(&cancel)};
     site_.raiseEvent(beforeNavigateEvent, arguments);
-    if (!cancel && BrowserPolicy::instance().admit(addressOfUrl(asking), address)) return true;
+    if (!cancel && BrowserPolicy::instance().admit(request)) return true;
     record(TraceRefused{address});
     return false;
 }

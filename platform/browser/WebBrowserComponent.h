@@ -12,6 +12,7 @@
 namespace platform {
 
 class LinkClick;
+struct PageRequest;
 class PagePrinter;
 class PluginWindows;
 class WebPage;
@@ -55,7 +56,7 @@ class WebBrowserComponent : public Component, public WebPageInspector {
 
   private:
     WebPage& page();
-    bool passes(const QUrl& asking, const QUrl& url);
+    bool passes(const PageRequest& request);
     void sendCommand(const std::string& component, LPARAM command);
     int controlId() const;
 

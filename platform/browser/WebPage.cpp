@@ -22,8 +22,6 @@ namespace {
 /// How long a copy may take to arrive.
 constexpr std::chrono::milliseconds copyTime{500};
 
-bool isOnline(const QUrl& url) { return url.scheme().startsWith(QLatin1StringView("http")); }
-
 }  // namespace
 
 WebPage::WebPage(Gate gate, QObject* parent)
@@ -33,14 +31,15 @@ WebPage::WebPage(Gate gate, QObject* parent)
     copyLimit_.setInterval(copyTime);
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &copyLimit_, &QTimer::stop);
     connect(this, &QWebEnginePage::loadFinished, this, &WebPage::finished);
-    connect(this, &QWebEnginePage::newWindowRequested, this,
-            [this](const QWebEngineNewWindowRequest& request) { requestLater(request.requestedUrl()); });
+    connect(
+        this, &QWebEnginePage::newWindowRequested, this,
+        [this](const QWebEngineNewWindowRequest& request) { requestLater(url(), request.requestedUrl()); });
 }
 
 void WebPage::go(const QUrl& asking, const QUrl& url) {
     const QUrl target = normalisedUrl(url);
     const QPointer<WebPage> alive(this);
-    const bool passed = gate_(asking, target);
+    const bool passed = gate_({RequestKind::mainPage, asking, target});
     if (alive && passed) open(target);
 }
 
@@ -57,10 +56,11 @@ void WebPage::copySelection() {
 
 bool WebPage::acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) {
     if (!isMainFrame && isCommand(url)) return false;
-    if (!isMainFrame) return BrowserPolicy::instance().admit(addressOfUrl(this->url()), addressOfUrl(url));
+    if (!isMainFrame) return BrowserPolicy::instance().admit({RequestKind::part, this->url(), url});
     // `load` and `reload` are ours.
     if (type == NavigationTypeTyped || type == NavigationTypeReload) return true;
-    requestLater(url);
+    // A redirect comes from where the page was to be found, not from the page that is still on show.
+    requestLater(type == NavigationTypeRedirect ? arrival_.target() : this->url(), url);
     return false;
 }
 
@@ -78,12 +78,12 @@ bool WebPage::isCommand(const QUrl& url) {
     return true;
 }
 
-void WebPage::requestLater(const QUrl& url) {
+void WebPage::requestLater(const QUrl& asking, const QUrl& url) {
     ++waiting_;
-    const auto request = [this, url] {
+    const auto request = [this, asking, url] {
         --waiting_;
         arrival_.interrupt();
-        go(this->url(), url);
+        go(asking, url);
     };
     QMetaObject::invokeMethod(this, request, Qt::QueuedConnection);
 }

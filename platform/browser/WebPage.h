@@ -9,6 +9,7 @@
 
 #include "platform/base/Messages.h"
 #include "platform/browser/PageArrival.h"
+#include "platform/browser/RequestPolicy.h"
 
 namespace platform {
 
@@ -21,8 +22,8 @@ class WebPage : public QWebEnginePage {
     Q_OBJECT
 
   public:
-    /// Says whether a navigation may go on that the page at `asking` wants. The gate may run an event loop.
-    using Gate = std::function<bool(const QUrl& asking, const QUrl& url)>;
+    /// Says whether a navigation may go on that a page wants. The gate may run an event loop.
+    using Gate = std::function<bool(const PageRequest& request)>;
 
     /// Takes a command that a component's part of the page sends (see PagePart): class id and number.
     using CommandHandler = std::function<void(const std::string& classId, LPARAM command)>;
@@ -46,7 +47,7 @@ class WebPage : public QWebEnginePage {
     bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) override;
 
   private:
-    void requestLater(const QUrl& url);
+    void requestLater(const QUrl& asking, const QUrl& url);
     bool isCommand(const QUrl& url);
     void go(const QUrl& asking, const QUrl& url);
     void finished(bool arrived);

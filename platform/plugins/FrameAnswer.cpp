@@ -1,5 +1,7 @@
 #include "platform/plugins/FrameAnswer.h"
 
+#include <fcntl.h>
+
 #include <QFile>
 #include <QUrl>
 #include <QUrlQuery>
@@ -42,8 +44,16 @@ std::unique_ptr<QIODevice> openForReading(std::unique_ptr<QIODevice> device) {
     return device->open(QIODevice::ReadOnly) ? std::move(device) : nullptr;
 }
 
-std::optional<FrameAnswer> frameAnswer(const QUrl& url, const std::string& dosPath,
-                                       const std::optional<QString>& native, bool frame) {
+std::unique_ptr<QIODevice> deviceOf(const FileHandle& file) {
+    const int descriptor = ::fcntl(file.descriptor(), F_DUPFD_CLOEXEC, 0);
+    if (descriptor < 0) return nullptr;
+    auto device = std::make_unique<QFile>();
+    if (!device->open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) return nullptr;
+    return device;
+}
+
+std::optional<FrameAnswer> frameAnswer(const QUrl& url, const std::string& dosPath, const FileHandle& file,
+                                       bool frame) {
     const QUrlQuery query(url);
     const auto value = [&](const char* name) { return query.queryItemValue(QLatin1StringView(name)); };
     const auto number = [&](const char* name) { return std::max(value(name).toDouble(), 0.0); };
@@ -52,12 +62,12 @@ std::optional<FrameAnswer> frameAnswer(const QUrl& url, const std::string& dosPa
     if (viewer == nullptr) return std::nullopt;
     if (frame) return resource(QString::fromStdString(*viewer));
     if (query.hasQueryItem(QStringLiteral("resource"))) return besideViewer(*viewer, value("resource"));
-    if (!native) return std::nullopt;
+    if (!file) return std::nullopt;
     if (query.hasQueryItem(QStringLiteral("describe"))) {
-        return FrameAnswer{"application/json", videoDescription(*native)};
+        return FrameAnswer{"application/json", videoDescription(file)};
     }
     if (query.hasQueryItem(QStringLiteral("from"))) {
-        return FrameAnswer{"video/webm", convertedVideo(*native, number("from"), number("length"))};
+        return FrameAnswer{"video/webm", convertedVideo(file, number("from"), number("length"))};
     }
     return std::nullopt;
 }

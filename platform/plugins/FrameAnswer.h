@@ -7,6 +7,8 @@
 #include <optional>
 #include <string>
 
+#include "platform/files/FileHandle.h"
+
 class QUrl;
 
 /// What is answered to requests that do not want a file as it lies on the drive: the frames of plug-ins and
@@ -27,13 +29,16 @@ struct FrameAnswer {
     std::unique_ptr<QIODevice> device;
 };
 
-/// The answer to a request for the file of this DOS path, which lies at `native` if it is there; nothing when
-/// it is the file itself that is wanted. `frame`: whether it is to be shown in a frame or as a page. The
-/// viewer page is the answer for a missing file too: it says so in its frame.
-std::optional<FrameAnswer> frameAnswer(const QUrl& url, const std::string& dosPath,
-                                       const std::optional<QString>& native, bool frame);
+/// The answer to a request for the file of this DOS path, which is closed when there is none; nothing when it
+/// is the file itself that is wanted. `frame`: whether it is to be shown in a frame or as a page. The viewer
+/// page is the answer for a missing file too: it says so in its frame.
+std::optional<FrameAnswer> frameAnswer(const QUrl& url, const std::string& dosPath, const FileHandle& file,
+                                       bool frame);
 
 /// The device, opened; null when it cannot be.
 std::unique_ptr<QIODevice> openForReading(std::unique_ptr<QIODevice> device);
+
+/// An open file as a device, with a descriptor of its own; null when there is none.
+std::unique_ptr<QIODevice> deviceOf(const FileHandle& file);
 
 }  // namespace platform

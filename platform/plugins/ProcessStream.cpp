@@ -11,15 +11,15 @@
 
 namespace platform {
 
-ProcessStream::ProcessStream(const QString& program, const QStringList& arguments) {
+ProcessStream::ProcessStream(const QString& program, const QStringList& arguments, const FileHandle& input) {
     open(ReadOnly | Unbuffered);
     std::array<int, 2> ends{};
     if (::pipe2(ends.data(), O_CLOEXEC) != 0) return;
-    input_ = ends[0];
-    ::fcntl(input_, F_SETFL, O_NONBLOCK);
-    start(program, arguments, ends[1]);
+    output_ = ends[0];
+    ::fcntl(output_, F_SETFL, O_NONBLOCK);
+    start(program, arguments, input.descriptor(), ends[1]);
     ::close(ends[1]);
-    notifier_ = std::make_unique<QSocketNotifier>(input_, QSocketNotifier::Read);
+    notifier_ = std::make_unique<QSocketNotifier>(output_, QSocketNotifier::Read);
     connect(notifier_.get(), &QSocketNotifier::activated, this, [this] {
         // Until everything that is there has been read.
         notifier_->setEnabled(false);
@@ -31,14 +31,15 @@ ProcessStream::~ProcessStream() {
     process_.kill();
     process_.waitForFinished();
     notifier_.reset();
-    if (input_ >= 0) ::close(input_);
+    if (output_ >= 0) ::close(output_);
 }
 
-void ProcessStream::start(const QString& program, const QStringList& arguments, int output) {
+void ProcessStream::start(const QString& program, const QStringList& arguments, int input, int output) {
     process_.setStandardInputFile(QProcess::nullDevice());
     process_.setStandardErrorFile(QProcess::nullDevice());
     process_.setStandardOutputFile(QProcess::nullDevice());
-    process_.setChildProcessModifier([output] {
+    process_.setChildProcessModifier([input, output] {
+        ::dup2(input, STDIN_FILENO);
         ::dup2(output, STDOUT_FILENO);
         ::prctl(PR_SET_PDEATHSIG, SIGKILL);
     });
@@ -46,10 +47,10 @@ void ProcessStream::start(const QString& program, const QStringList& arguments, 
 }
 
 qint64 ProcessStream::readData(char* data, qint64 maxSize) {
-    if (input_ < 0) return -1;
+    if (output_ < 0) return -1;
     ssize_t length = -1;
     do {
-        length = ::read(input_, data, static_cast<std::size_t>(maxSize));
+        length = ::read(output_, data, static_cast<std::size_t>(maxSize));
     } while (length < 0 && errno == EINTR);
     if (length > 0) return length;
     if (length < 0 && errno == EAGAIN) {

@@ -6,6 +6,8 @@
 #include <QStringList>
 #include <memory>
 
+#include "platform/files/FileHandle.h"
+
 namespace platform {
 
 /// What a program writes to its standard output, as a device that may be read in another thread than the
@@ -14,8 +16,9 @@ class ProcessStream : public QIODevice {
     Q_OBJECT
 
   public:
-    /// Starts the program. One that cannot be started gives a device that is at its end.
-    ProcessStream(const QString& program, const QStringList& arguments);
+    /// Starts the program with the file as its standard input. One that cannot be started gives a device that
+    /// is at its end.
+    ProcessStream(const QString& program, const QStringList& arguments, const FileHandle& input);
     ~ProcessStream() override;
     ProcessStream(const ProcessStream&) = delete;
     ProcessStream& operator=(const ProcessStream&) = delete;
@@ -27,10 +30,10 @@ class ProcessStream : public QIODevice {
     qint64 writeData(const char*, qint64) override { return -1; }
 
   private:
-    void start(const QString& program, const QStringList& arguments, int output);
+    void start(const QString& program, const QStringList& arguments, int input, int output);
     void watch();
 
-    int input_ = -1;
+    int output_ = -1;  // where the program's output is read
     std::unique_ptr<QSocketNotifier> notifier_;
     QProcess process_;
 };

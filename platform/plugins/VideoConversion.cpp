@@ -8,14 +8,15 @@ namespace platform {
 
 namespace {
 
-/// Only these kinds of file, whatever the name says: others, such as playlists, would open further files.
-QStringList trustedInput(const QString& file) {
+/// The file that the program is given as its standard input, of these kinds only: others, such as playlists,
+/// would open further files.
+QStringList trustedInput() {
     return {QStringLiteral("-protocol_whitelist"),
             QStringLiteral("file,pipe"),
             QStringLiteral("-format_whitelist"),
             QStringLiteral("avi,mov,mp4,mpeg,mpegvideo,mpegts,matroska,webm,ogg,asf,flv"),
             QStringLiteral("-i"),
-            QStringLiteral("file:") + file};
+            QStringLiteral("file:/dev/stdin")};
 }
 
 /// Pictures of square pixels, as browsers take them, and stereo sound where there is any. Gaps between
@@ -34,7 +35,7 @@ QString seconds(double number) { return QString::number(number, 'f', 3); }
 
 }  // namespace
 
-std::unique_ptr<QIODevice> convertedVideo(const QString& file, double from, double length) {
+std::unique_ptr<QIODevice> convertedVideo(const FileHandle& file, double from, double length) {
     const QStringList part = {QStringLiteral("-nostdin"),
                               QStringLiteral("-v"),
                               QStringLiteral("error"),
@@ -42,17 +43,17 @@ std::unique_ptr<QIODevice> convertedVideo(const QString& file, double from, doub
                               seconds(from),
                               QStringLiteral("-t"),
                               seconds(length)};
-    return std::make_unique<ProcessStream>(QStringLiteral("ffmpeg"), part + trustedInput(file) + webm());
+    return std::make_unique<ProcessStream>(QStringLiteral("ffmpeg"), part + trustedInput() + webm(), file);
 }
 
-std::unique_ptr<QIODevice> videoDescription(const QString& file) {
+std::unique_ptr<QIODevice> videoDescription(const FileHandle& file) {
     const QStringList arguments = {QStringLiteral("-v"),
                                    QStringLiteral("error"),
                                    QStringLiteral("-of"),
                                    QStringLiteral("json"),
                                    QStringLiteral("-show_entries"),
                                    QStringLiteral("format=duration:stream=codec_type")};
-    return std::make_unique<ProcessStream>(QStringLiteral("ffprobe"), arguments + trustedInput(file));
+    return std::make_unique<ProcessStream>(QStringLiteral("ffprobe"), arguments + trustedInput(), file);
 }
 
 }  // namespace platform

@@ -46,6 +46,12 @@ TEST(Address, ReadsWhatPagesWrite) {
         {"d:/%CE%B1%CE%B2", "D:\\αβ", "d:/%CE%B1%CE%B2"},
         {"d:/%E1%E2", "D:\\αβ", "d:/%E1%E2"},
         {"d:/%E4%B8%AD", "", "d:/%E4%B8%AD"},
+        // Decoded once, then made canonical.
+        {"d:/x/%23%2F..%2F../a%252e.htm", "D:\\a%2e.htm", "d:/x/%23%2F..%2F../a%252e.htm"},
+        {"d:/../x/.//y/", "D:\\x\\y", "d:/../x/.//y/"},
+        {"d:", "D:\\", "d:"},
+        {"d:x", "", "d:x"},
+        {"d:/x%00y", "", "d:/x%00y"},
         {"http://example.org/%5C", "", "http://example.org/%5C"},
     };
     for (const auto& one : cases) {

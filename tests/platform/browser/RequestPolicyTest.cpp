@@ -2,85 +2,113 @@
 
 #include <gtest/gtest.h>
 
-using platform::RequestPolicy;
+#include <ostream>
+
+using namespace platform;
 
 namespace {
 
+constexpr auto program = RequestKind::program;
+constexpr auto mainPage = RequestKind::mainPage;
+constexpr auto part = RequestKind::part;
+
+constexpr const char* cached = "c:/Kalyxo/cache/1.htm";
+constexpr const char* online = "https://orvane.example/a";
+
 struct Case {
+    RequestKind kind;
     const char* page;
-    const char* request;
+    const char* address;
     bool allowed;
 };
 
-void check(const RequestPolicy& policy, std::initializer_list<Case> cases) {
-    for (const auto& one : cases) {
-        EXPECT_EQ(policy.allows(one.page, one.request), one.allowed)
-            << one.page << " asks for " << one.request;
+// The data folder is D:, and pages are prepared in C:\Kalyxo\cache. All addresses are as the engine tells
+// them.
+constexpr Case cases[] = {
+    // What content needs.
+    {program, "", cached, true},
+    {program, "", "about:blank", true},
+    {program, "", "data:text/html,x", true},
+    {part, cached, "d:/images/x.gif", true},
+    {part, cached, "d:/IMAGES/x.gif?raw#top", true},
+    {part, cached, "c:/Kalyxo/cache/chime.mol?spin=true", true},
+    {part, cached, "c:/Kalyxo/x/../cache/2.htm", true},
+    {part, cached, "d:/%CE%B1%3F%23.gif", true},
+    {part, "d:/a.htm", "data:image/png;base64,AA==", true},
+    {part, "d:/a.htm", "blob:d:/1", true},
+    {mainPage, cached, "d:/a.htm", true},
+    {mainPage, cached, "about:blank", true},
+    // Files elsewhere, by any spelling.
+    {program, "", "c:/Kalyxo/kalyxo.exe", false},
+    {program, "", "c:/Kalyxo/cache2/1.htm", false},
+    {program, "", "z:/etc/passwd", false},
+    {mainPage, cached, "z:/etc/passwd", false},
+    {part, cached, "z:/etc/passwd", false},
+    {part, cached, "c:/Kalyxo/cache/../cset.ini", false},
+    {part, cached, "c:/Kalyxo/cache/..%5C..%5Ccset.ini", false},
+    {part, cached, "c:/Kalyxo/cache/%2E%2E/cset.ini", false},
+    {part, cached, "c:/Kalyxo/cache/%23%2F..%2F..%2Fcset.ini", false},
+    {part, cached, "c:/Kalyxo/cache/%3F%2F..%2F..%2Fcset.ini", false},
+    {part, cached, "c:/Kalyxo/cache/%3Fx%2F..%2F..%2Fcset.ini?raw", false},
+    {part, cached, "c:/Kalyxo/cache/..%00/cset.ini", false},
+    {part, cached, "c:cset.ini", false},
+    {part, cached, "d:x.gif", false},
+    {part, cached, "d:/%E4%B8%AD.gif", false},  // no name of this code page
+    {part, cached, "file:///etc/passwd", false},
+    {part, cached, "file:///d:/a.htm", false},
+    {part, cached, "filesystem:d:/temporary/x", false},
+    {part, cached, "qrc:/plugins/video.html", false},
+    {part, cached, "chrome://version/", false},
+    {part, cached, "view-source:d:/a.htm", false},
+    {part, cached, "", false},
+    // Askers that may not.
+    {part, "", "d:/a.htm", false},  // a worker, whose page the engine does not tell
+    {part, "", online, false},
+    {part, "", "data:,x", false},
+    {part, "about:blank", "d:/a.htm", false},
+    {part, "c:/other/1.htm", "d:/a.htm", false},
+    {part, "c:/x.htm", "data:image/png;base64,AA==", false},
+    {part, "data:text/html,x", "d:/a.htm", false},
+    {part, "http://example.org/", "d:/a.htm", false},
+    {mainPage, "d:/a.htm", "data:text/html,x", false},
+    {mainPage, "d:/a.htm", "javascript:alert(1)", false},
+    {mainPage, "d:/a.htm", "mailto:a@orvane.example", false},
+    // The network.
+    {program, "", "https://orvane.example/misc/go_where.asp?redirect=support", true},
+    {program, "", "HTTP://Orvane.Example:8080", true},
+    {part, online, "https://orvane.example/style.css", true},
+    {mainPage, online, "https://orvane.example/b", true},
+    {part, "d:/a.htm", online, false},
+    {mainPage, "d:/a.htm", online, false},
+    {part, online, "d:/a.htm", false},
+    {mainPage, online, "https://other.example/", false},
+    {program, "", "https://example.org/", false},
+    {program, "", "https://orvane.example.other.example/", false},
+    {program, "", "https://orvane.example@other.example/", false},
+    {program, "", "https://other.example/@orvane.example", false},
+    {program, "", "https:///", false},
+    {program, "", "ftp://orvane.example/", false},
+    {part, "d:/a.htm", "ws://orvane.example/", false},
+    {part, "d:/a.htm", "http://127.0.0.1:80/x.gif", false},
+};
+
+TEST(RequestPolicy, AllowsWhatContentNeedsAndNothingElse) {
+    RequestPolicy policy;
+    policy.setAllowedFolders({"D:\\", "C:\\Kalyxo\\cache\\"});
+    policy.setAllowedHosts({"orvane.example", ""});
+    for (const auto& [kind, page, address, allowed] : cases) {
+        EXPECT_EQ(policy.allows({kind, QUrl(page), QUrl(address)}), allowed)
+            << (kind == program ? "the program" : page) << " asks for " << address;
     }
 }
 
-TEST(RequestPolicy, AllowsEveryDriveAndNoNetworkAtFirst) {
-    check(RequestPolicy(), {
-                               {"", "D:\\a.htm", true},
-                               {"C:\\Kalyxo\\cache\\1.htm", "z:/home/x.gif", true},
-                               {"C:\\Kalyxo\\cache\\1.htm", "http://example.org/x.gif", false},
-                               {"", "https://example.org/", false},
-                               {"", "about:blank", true},
-                           });
-}
-
-TEST(RequestPolicy, KeepsPagesToTheAllowedFolders) {
+TEST(RequestPolicy, AllowsNothingBeforeItIsTold) {
     RequestPolicy policy;
-    policy.setAllowedFolders({"D:\\", "C:\\Kalyxo\\cache\\"});
-    const char* const cached = "C:\\Kalyxo\\cache\\1.htm";
-    check(policy, {
-                      {"", cached, true},
-                      {"", "c:/KALYXO/Cache/1.htm?spin=true#top", true},
-                      {"", "C:\\Kalyxo\\kalyxo.exe", false},
-                      {"", "C:\\Kalyxo\\cache2\\1.htm", false},
-                      {cached, "D:\\images\\x.gif", true},
-                      {"D:\\a.htm", "chime.mol", false},
-                      {cached, "C:\\Kalyxo\\cache\\..\\kalyxo.exe", false},
-                      {cached, "C:\\Kalyxo\\x\\..\\cache\\2.htm", true},
-                      {cached, "Z:\\etc\\passwd", false},
-                      {cached, "file:///etc/passwd", false},
-                      {cached, "javascript:alert(1)", false},
-                      {cached, "ws://example.org/", false},
-                      {cached, "", false},
-                      {"C:\\other\\1.htm", "D:\\a.htm", false},
-                      {"http://example.org/", "D:\\a.htm", false},
-                      {"about:blank", "D:\\a.htm", true},
-                  });
-}
-
-TEST(RequestPolicy, AllowsInlineDataToPagesOfTheFolders) {
-    RequestPolicy policy;
-    policy.setAllowedFolders({"D:\\"});
-    check(policy, {
-                      {"D:\\a.htm", "data:image/png;base64,AA==", true},
-                      {"D:\\a.htm", "blob:d:/1", true},
-                      {"", "data:text/html,x", true},
-                      {"data:text/html,x", "D:\\a.htm", false},
-                      {"C:\\x.htm", "data:image/png;base64,AA==", false},
-                  });
-}
-
-TEST(RequestPolicy, LetsOnlyTheProgramAndPagesOfAllowedHostsReachThem) {
-    RequestPolicy policy;
-    policy.setAllowedFolders({"D:\\"});
-    policy.setAllowedHosts({"orvane.example", ""});
-    check(policy, {
-                      {"", "https://orvane.example/misc/go_where.asp?redirect=support", true},
-                      {"", "HTTP://Orvane.Example:8080", true},
-                      {"https://orvane.example/a", "https://orvane.example/style.css", true},
-                      {"D:\\a.htm", "https://orvane.example/", false},
-                      {"https://orvane.example/a", "D:\\a.htm", false},
-                      {"https://orvane.example/a", "https://other.example/", false},
-                      {"", "https://orvane.example.other.example/", false},
-                      {"", "https://orvane.example@other.example/", false},
-                      {"", "https:///", false},
-                      {"", "ftp://orvane.example/", false},
-                  });
+    // As when the data folder has no name.
+    policy.setAllowedFolders({""});
+    EXPECT_FALSE(policy.allows({program, {}, QUrl("d:/a.htm")}));
+    EXPECT_FALSE(policy.allows({part, QUrl(cached), QUrl("d:/a.htm")}));
+    EXPECT_FALSE(policy.allows({program, {}, QUrl(online)}));
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "platform/browser/BrowserPolicy.h"
 #include "platform/browser/WebBrowserComponent.h"
 #include "platform/qt/WindowTable.h"
 #include "platform/windows/ChildWindows.h"
@@ -42,6 +43,7 @@ class PluginWindows : public ProgramTest {
               "<BODY STYLE=\"margin:0;overflow:hidden\"><CENTER><EMBED SRC=x.mol WIDTH=340 HEIGHT=290><BR>"
               "<EMBED SRC=x.webm WIDTH=320 HEIGHT=258><BR><EMBED SRC=x.txt WIDTH=50 HEIGHT=50></CENTER>");
         write("empty.htm", "<BODY>");
+        BrowserPolicy::instance().setAllowedFolders({"M:\\"});
         open({100, 80, 840, 560});
         ASSERT_TRUE(browser_.CreateControl(WebBrowserComponent::classId, "Web", WS_CHILD | WS_VISIBLE,
                                            CRect::at(20, 10, 600, 400), view(), 1025));

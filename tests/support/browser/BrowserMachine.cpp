@@ -21,6 +21,7 @@ BrowserMachine::BrowserMachine() {
     machine_ = std::make_unique<Machine>(folder_.path(), config, Registry());
     machine_->trace().enable();
     setMachine(machine_.get());
+    BrowserPolicy::instance().setAllowedFolders({"C:\\", "D:\\", "Q:\\"});
     window.resize(640, 480);
 }
 
