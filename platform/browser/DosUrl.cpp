@@ -76,14 +76,6 @@ QUrl normalisedUrl(const QUrl& url) {
     return result;
 }
 
-std::optional<std::string> canonicalDosPath(std::string_view path) {
-    const auto parsed = parseDosPath(path);
-    if (!parsed) return std::nullopt;
-    std::string text{parsed->letter, ':'};
-    for (const auto& name : parsed->names) text += '\\' + fromUtf8(name);
-    return parsed->names.empty() ? text + '\\' : text;
-}
-
 std::optional<std::string> dosPathOfUrl(const QUrl& url) {
     const auto path = writtenPath(url);
     return path ? canonicalDosPath(*path) : std::nullopt;

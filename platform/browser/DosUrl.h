@@ -24,10 +24,6 @@ QUrl urlOfAddress(std::string_view address);
 /// A drive URL with forward slashes, which are its path's only form here; others stay as they are.
 QUrl normalisedUrl(const QUrl& url);
 
-/// The path with backslashes, a capital letter for the drive, and without `.`, `..` and empty names; nothing
-/// for a text that is no absolute DOS path.
-std::optional<std::string> canonicalDosPath(std::string_view path);
-
 /// The canonical DOS path that a drive URL names, in code page 1253, decoded once; the URL's query and
 /// fragment are left out. This is the path that is judged and the path that is opened. Nothing for other URLs
 /// and for names that the code page cannot write.

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "platform/browser/DosUrl.h"
-#include "platform/text/CodePage1253.h"
+#include "platform/files/DosPath.h"
 
 namespace platform {
 
@@ -14,30 +14,15 @@ const QUrl& emptyPage() {
     return url;
 }
 
-/// In small letters, with a backslash at the end.
-std::string asFolder(std::string_view canonicalPath) {
-    std::string path = toLower(canonicalPath);
-    if (!path.ends_with('\\')) path += '\\';
-    return path;
-}
-
 bool isInlineData(const QUrl& url) {
     return url.scheme() == QLatin1StringView("data") || url.scheme() == QLatin1StringView("blob");
 }
 
 }  // namespace
 
-void RequestPolicy::setAllowedFolders(const std::vector<std::string>& folders) {
-    folders_.clear();
-    for (const auto& folder : folders) {
-        if (const auto path = canonicalDosPath(folder)) folders_.push_back(asFolder(*path));
-    }
-}
-
 bool RequestPolicy::allowsFile(std::string_view canonicalPath) const {
-    const std::string path = asFolder(canonicalPath);
     return std::any_of(folders_.begin(), folders_.end(),
-                       [&](const auto& folder) { return path.starts_with(folder); });
+                       [&](const auto& folder) { return liesBelow(canonicalPath, folder); });
 }
 
 bool RequestPolicy::allowsFile(const QUrl& url) const {

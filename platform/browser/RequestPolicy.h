@@ -29,21 +29,21 @@ struct PageRequest {
 class RequestPolicy {
   public:
     /// The folders (DOS paths, code page 1253) that files may come from. None at first.
-    void setAllowedFolders(const std::vector<std::string>& folders);
+    void setAllowedFolders(std::vector<std::string> folders) { folders_ = std::move(folders); }
 
     /// The hosts (names in small letters) that http and https may reach. None at first.
     void setAllowedHosts(std::vector<std::string> hosts) { hosts_ = std::move(hosts); }
 
     bool allows(const PageRequest& request) const;
 
-    /// Whether a file lies in an allowed folder, by its canonical DOS path (see dosPathOfUrl).
+    /// Whether a file lies in an allowed folder, by its canonical path (see canonicalDosPath).
     bool allowsFile(std::string_view canonicalPath) const;
 
   private:
     bool allowsFile(const QUrl& url) const;
     bool allowsHost(const QUrl& url) const;
 
-    std::vector<std::string> folders_;  // canonical, in small letters, with a backslash at the end
+    std::vector<std::string> folders_;
     std::vector<std::string> hosts_;
 };
 

@@ -24,6 +24,10 @@ void addName(std::vector<std::string>& names, std::string_view name) {
     }
 }
 
+std::string withSlash(std::string_view path) {
+    return std::string(path) + (path.ends_with('\\') ? "" : "\\");
+}
+
 bool exists(const std::string& path) {
     struct stat status {};
     return ::stat(path.c_str(), &status) == 0;
@@ -67,6 +71,19 @@ std::optional<DosPath> parseDosPath(std::string_view text) {
         rest.remove_prefix(std::min(end + 1, rest.size()));
     }
     return path;
+}
+
+std::optional<std::string> canonicalDosPath(std::string_view text) {
+    const auto path = parseDosPath(text);
+    if (!path) return std::nullopt;
+    std::string result{path->letter, ':'};
+    for (const auto& name : path->names) result += '\\' + fromUtf8(name);
+    return path->names.empty() ? result + '\\' : result;
+}
+
+bool liesBelow(std::string_view canonicalPath, std::string_view folder) {
+    const auto above = canonicalDosPath(folder);
+    return above && toLower(withSlash(canonicalPath)).starts_with(toLower(withSlash(*above)));
 }
 
 std::string joinNames(const fs::path& folder, const std::vector<std::string>& names) {

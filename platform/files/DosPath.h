@@ -18,6 +18,14 @@ struct DosPath {
 /// not start with a drive letter, a colon and a slash or the end, or holds a NUL.
 std::optional<DosPath> parseDosPath(std::string_view text);
 
+/// The path with backslashes, a capital letter for the drive, and without `.`, `..` and empty names; nothing
+/// when it cannot be taken apart.
+std::optional<std::string> canonicalDosPath(std::string_view text);
+
+/// Whether a canonical path names the folder or something below it, without regard to case. False for a
+/// folder that is no absolute path.
+bool liesBelow(std::string_view canonicalPath, std::string_view folder);
+
 /// The host path of names below a folder, spelt as they are.
 std::string joinNames(const std::filesystem::path& folder, const std::vector<std::string>& names);
 

@@ -85,9 +85,12 @@ bool copyFileOver(const fs::path& from, const fs::path& to) {
     // A device might never end.
     if (!fs::is_regular_file(from, ignored)) return false;
     FileHandle source = FileHandle::openForReading(from);
-    if (!source) return false;
+    return source && copyFileOver(source, to);
+}
+
+bool copyFileOver(FileHandle& from, const fs::path& to) {
     Replacement replacement(to);
-    return replacement.created() && copyContent(source, replacement.file()) && replacement.putInPlace();
+    return replacement.created() && copyContent(from, replacement.file()) && replacement.putInPlace();
 }
 
 }  // namespace platform

@@ -20,4 +20,7 @@ bool replaceFile(const FileSystem& files, std::string_view dosPath, std::string_
 /// with a former `to` as it was, when that fails.
 bool copyFileOver(const std::filesystem::path& from, const std::filesystem::path& to);
 
+/// The same for what is left to read of an open file.
+bool copyFileOver(FileHandle& from, const std::filesystem::path& to);
+
 }  // namespace platform

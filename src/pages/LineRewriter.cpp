@@ -118,7 +118,7 @@ void LineRewriter::insertMolecule(std::string& line, PageNotes& notes) const {
     const std::size_t close = open == std::string::npos ? open : line.find('"', open + 1);
     if (close == std::string::npos) return;
     const std::string file = line.substr(open + 1, close - open - 1);
-    const std::string copy = m_copyMolecule(file);
+    const std::string_view copy = m_copyMolecule(file);
     if (!copy.empty()) replaceAll(line, file, copy);
 }
 

@@ -17,7 +17,7 @@ struct PageNotes {
 class LineRewriter {
   public:
     /// Copies a molecule file beside the prepared page and returns its name there; empty when it cannot.
-    using MoleculeCopier = std::function<std::string(const std::string& file)>;
+    using MoleculeCopier = std::function<std::string_view(const std::string& file)>;
 
     LineRewriter(std::string_view dataFolder, MoleculeCopier copyMolecule)
         : m_dataFolder(dataFolder), m_copyMolecule(std::move(copyMolecule)) {}

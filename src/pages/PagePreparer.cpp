@@ -9,6 +9,7 @@
 #include "platform/files/TextWriter.h"
 #include "src/pages/EnlargedPages.h"
 #include "src/pages/LineRewriter.h"
+#include "src/pages/MoleculeCopy.h"
 
 namespace kalyxo {
 
@@ -23,17 +24,6 @@ constexpr std::size_t kLineLimit = 26000;
 constexpr std::size_t kWorkingSize = 30000;
 /// Lines between two looks at the clock.
 constexpr std::uint64_t kLinesPerStep = 256;
-constexpr std::string_view kMoleculeCopy = "chime.mol";
-
-/// Copies a molecule file beside the page `target`.
-std::string copyMolecule(const platform::FileSystem& files, const std::string& target,
-                         const std::string& molecule) {
-    const std::size_t slash = target.rfind('\\');
-    if (slash == std::string::npos || slash == 0) return {};
-    const std::string copy = target.substr(0, slash + 1).append(kMoleculeCopy);
-    return files.copyFile(molecule, copy) ? std::string(kMoleculeCopy) : std::string();
-}
-
 void rewriteLines(TextReader& source, TextWriter& target, const LineRewriter& rewriter, PageNotes& notes,
                   const platform::ProgressStep& step) {
     const auto buffer = std::make_unique_for_overwrite<char[]>(kLineLimit);
@@ -66,7 +56,7 @@ PrepareResult PagePreparer::PreparePage(const std::string& source, const std::st
     if (!writer) return PrepareResult::noTarget;
     PageNotes notes;
     const LineRewriter rewriter(m_strDataFolder, [&](const std::string& molecule) {
-        return copyMolecule(m_files, target, molecule);
+        return CopyMolecule(m_files, m_strDataFolder, molecule, target) ? kMoleculeCopy : std::string_view();
     });
     rewriteLines(*reader, *writer, rewriter, notes, step);
     writer->close();

@@ -9,6 +9,7 @@
 #include "platform/dialogs/Progress.h"
 #include "platform/machine/Machine.h"
 #include "platform/plugins/PluginTypes.h"
+#include "src/pages/MoleculeCopy.h"
 #include "src/resources/ResourceIds.h"
 #include "src/state/ProgramState.h"
 
@@ -30,9 +31,7 @@ void PagePresenter::ReadyBrowser() {
     for (const char* video : {"webm", "mp4", "m4v", "ogv", "avi", "mov", "mpg", "mpeg"}) {
         types.add(video, ":/plugins/video.html");
     }
-    for (const char* molecule : {"mol", "sdf", "xyz", "pdb", "ent", "cml"}) {
-        types.add(molecule, ":/plugins/molecule.html");
-    }
+    for (const std::string_view molecule : kMoleculeEndings) types.add(molecule, ":/plugins/molecule.html");
 }
 
 void PagePresenter::OpenCache(CacheLocation location) {

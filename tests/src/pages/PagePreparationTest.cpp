@@ -61,6 +61,44 @@ TEST_F(PagePreparation, CopiesTheMoleculeBesideThePage) {
     EXPECT_TRUE(contents.molecule);
 }
 
+// A page can quote any file in the line of a molecule, to have it copied to where the page can read it.
+TEST_F(PagePreparation, CopiesNothingButMoleculesOfTheDataFolder) {
+    drives.put("D:\\data\\mol\\Water.MOL", "atoms");
+    drives.put("D:\\data\\notes.txt", "text");
+    drives.put("D:\\data\\molecule", "no ending");
+    drives.put("D:\\data2\\other.mol", "other");
+    drives.put("C:\\secret.mol", "secret");
+    drives.put("D:\\data\\huge.mol", "");
+    std::filesystem::resize_file(drives.host("D:\\data\\huge.mol"), std::uintmax_t{5} << 30);
+    std::filesystem::create_directory(drives.host("D:\\data\\folder.mol"));
+    const char* const refused[] = {
+        "C:\\secret.mol",
+        "D:\\data\\..\\data2\\other.mol",
+        "D:\\data2\\other.mol",
+        "D:\\data\\notes.txt",
+        "D:\\data\\huge.mol",
+        "D:\\data\\folder.mol",
+        "D:\\data\\mol\\none.mol",
+        "D:\\data\\mol\\Water.MOL.",
+        "mol\\water.mol",
+        "D:\\data\\molecule",
+        "",
+    };
+    for (const char* const file : refused) {
+        const std::string line = "<!-- \"" + std::string(file) + "\" ";
+        EXPECT_EQ(prepare(line + "\x03..-->\n", "D:\\data\\"), line + "D:\\data\\-->\r\n") << file;
+        EXPECT_FALSE(drives.has("C:\\chime.mol")) << file;
+    }
+    EXPECT_EQ(prepare("<EMBED SRC=\"\x03..x\\..\\MOL\\water.mol\">\n", "D:\\data\\"),
+              "<EMBED SRC=\"chime.mol\">\r\n");
+    EXPECT_EQ(drives.get("C:\\chime.mol"), "atoms");
+    {
+        const FullDisk full(2);
+        prepare("\"\x03..mol\\water.mol\"\n", "D:\\data\\");
+    }
+    EXPECT_EQ(drives.get("C:\\chime.mol"), "atoms") << "a copy that fails leaves the former one";
+}
+
 TEST_F(PagePreparation, TakesLinesOfAnyLength) {
     const std::string megabyte(1 << 20, 'x');
     EXPECT_EQ(prepare(megabyte + "\n"), megabyte + "\r\n");
