@@ -72,12 +72,14 @@ bool Element::sublimes() const {
     return melting && boiling && *boiling < *melting;
 }
 
+// Helium freezes under pressure only.
+bool Element::meltsUnderPressureOnly() const { return number == helium || sublimes(); }
+
 Matter Element::matterAt(double kelvin) const {
     const auto melting = meltingPoint.value();
     const auto boiling = boilingPoint.value();
     if (boiling && kelvin >= *boiling) return Matter::gas;
     if (!melting) return Matter::unknown;
-    // Helium freezes under pressure only.
     if (kelvin < *melting) return number == helium ? Matter::liquid : Matter::solid;
     if (boiling) return sublimes() ? Matter::solid : Matter::liquid;
     return Matter::unknown;

@@ -76,8 +76,10 @@ struct Element {
     /// 1 to 18, or 0 for lanthanides and actinides, which belong to none.
     int group() const;
     Block block() const;
-    /// Whether it goes over into gas before it would melt; it melts under pressure only.
+    /// Whether it goes over into gas before it would melt.
     bool sublimes() const;
+    /// Whether it never melts at one atmosphere; `meltingPoint` is then one under pressure.
+    bool meltsUnderPressureOnly() const;
     /// The state at one atmosphere; unknown where it depends on a point that is not known.
     Matter matterAt(double kelvin) const;
     /// The state at 25 °C.

@@ -33,7 +33,8 @@ QString matterText(Matter matter) {
 
 QString factName(const Element& element, Quantity quantity) {
     if (quantity == Quantity::crust) return QStringLiteral("Στον φλοιό της Γης");
-    if (quantity == Quantity::melting && element.sublimes()) return QStringLiteral("Τήξη υπό πίεση");
+    if (quantity == Quantity::melting && element.meltsUnderPressureOnly())
+        return QStringLiteral("Τήξη υπό πίεση");
     if (quantity == Quantity::boiling && element.sublimes()) return QStringLiteral("Εξάχνωση");
     return toQt(quantityName(quantity));
 }

@@ -78,7 +78,7 @@ formats::DataSet elementSet() {
     set.title = "Χημικά στοιχεία"_gr;
     set.source = "Blue Obelisk Data Repository, IUPAC ("_gr;
     set.source += sublimingElements();
-    set.source += ": εξάχνωση αντί για βρασμό, τήξη υπό πίεση)"_gr;
+    set.source += ": εξάχνωση αντί για βρασμό, τήξη υπό πίεση· He: τήξη υπό πίεση 25 atm)"_gr;
     for (const Element& element : elements()) set.rowIds.push_back(static_cast<std::int16_t>(element.number));
     set.columns = {
         numbers(

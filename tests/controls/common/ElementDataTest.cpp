@@ -66,7 +66,9 @@ TEST(ElementData, FiguresAreWellFormedAndPlausible) {
         const auto melting = element.meltingPoint.value();
         const auto boiling = element.boilingPoint.value();
         if (melting && boiling) {
-            EXPECT_EQ(element.sublimes(), element.symbol == "As" || element.symbol == "C");
+            const bool sublimes = element.symbol == "As" || element.symbol == "C";
+            EXPECT_EQ(element.sublimes(), sublimes);
+            EXPECT_EQ(element.meltsUnderPressureOnly(), sublimes || element.symbol == "He");
         }
         EXPECT_TRUE(element.discovered == antiquity ||
                     (element.discovered >= 1250 && element.discovered <= 2010));

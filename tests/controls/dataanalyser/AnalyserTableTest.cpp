@@ -51,9 +51,11 @@ TEST(AnalyserRows, AntiquityIsOlderThanAnyYear) {
     EXPECT_GT(graph.whole.x.from, 1000) << "but no year that a graph could show";
 }
 
-TEST(AnalyserRows, ElementsThatSublimeAreTold) {
+TEST(AnalyserRows, ElementsThatDoNotMeltAtOneAtmosphereAreTold) {
     const std::string source = platform::toUtf8(elementSet().source);
-    EXPECT_TRUE(source.ends_with("(C, As: εξάχνωση αντί για βρασμό, τήξη υπό πίεση)")) << source;
+    EXPECT_TRUE(
+        source.ends_with("(C, As: εξάχνωση αντί για βρασμό, τήξη υπό πίεση· He: τήξη υπό πίεση 25 atm)"))
+        << source;
 }
 
 TEST(AnalyserRows, TypedCharactersFindThem) {
