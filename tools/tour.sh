@@ -12,6 +12,8 @@ mkdir -p "$2"
 build=$(cd "$1" && pwd)
 out=$(cd "$2" && pwd)
 drive=$build/bin/kalyxo-drive
+# Molecules stand still, so that each tour gives the same pictures.
+export QTWEBENGINE_CHROMIUM_FLAGS="${QTWEBENGINE_CHROMIUM_FLAGS:+$QTWEBENGINE_CHROMIUM_FLAGS }--force-prefers-reduced-motion"
 machines=$(mktemp -d)
 trap 'rm -rf "$machines"' EXIT
 

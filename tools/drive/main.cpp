@@ -82,6 +82,8 @@ int carryOut(const RunScript& task) {
     platform::prepareProcess();
     QApplication application(count, arguments.data());
     QApplication::setQuitOnLastWindowClosed(false);
+    // The text cursor does not blink: pictures show the same at any time.
+    QApplication::setCursorFlashTime(0);
     platform::wearLightPalette();
     const int status = runSession(script);
     platform::setMachine(nullptr);

@@ -1,3 +1,4 @@
+#include <QAbstractAnimation>
 #include <QColor>
 #include <QImage>
 #include <QPixmap>
@@ -17,11 +18,25 @@ using namespace platform;
 
 namespace {
 
+/// A clock for animations that has run on for longer than any of them takes.
+class LaterClock : public QAnimationDriver {
+  public:
+    qint64 elapsed() const override { return 10'000; }
+};
+
+/// Controls that fade in or out are shown as they will be then.
+void finishAnimations() {
+    LaterClock clock;
+    clock.install();
+    clock.advance();
+}
+
 /// That part of the screen, as the window's top-level window shows it; `window` exists.
 QImage shown(HWND window, const CRect& onScreen) {
     QWidget& top = *widgetOf(window).window();
     const QRect part(top.mapFromGlobal(toQt(onScreen.TopLeft())), QSize(onScreen.Width(), onScreen.Height()));
     awaitFrames(top, part);
+    finishAnimations();
     return top.grab(part).toImage();
 }
 

@@ -1,6 +1,9 @@
 #include "tools/drive/desktop/PageFrame.h"
 
+#include <QColor>
 #include <QEventLoop>
+#include <QImage>
+#include <QPixmap>
 #include <QPointer>
 #include <QTimer>
 #include <QWebEnginePage>
@@ -11,10 +14,9 @@ namespace drive {
 
 namespace {
 
-constexpr std::chrono::milliseconds kPictureLimit{1000};
+/// Only a page that draws no more at all takes as long.
+constexpr std::chrono::milliseconds kPictureLimit{5000};
 constexpr std::chrono::milliseconds kLookAgain{2};
-/// From the moment at which the engine starts on a frame to that at which the widget has it.
-constexpr std::chrono::milliseconds kOnItsWay{40};
 
 /// Asks for a note when the engine draws the page anew: the first call back comes with the frame that was in
 /// the works already, the second with one that shows all that is there now.
@@ -63,13 +65,48 @@ bool isSeen(const QWebEngineView& view, const QWidget& widget, const QRect& part
     return view.isVisible() && part.intersects(QRect(view.mapTo(&widget, QPoint(0, 0)), view.size()));
 }
 
-void awaitFrame(QWebEngineView& view) {
+/// Gives the page a small square of a colour, in a style sheet that is no part of the document.
+QString scriptToMark(const QColor& colour) {
+    return QStringLiteral(
+               "window.frameMark = new CSSStyleSheet();"
+               "window.frameMark.insertRule(':root::after { content: \"\" !important; display: block "
+               "!important;"
+               " position: fixed !important; left: 0 !important; top: 0 !important; width: 4px !important;"
+               " height: 4px !important; background: %1 !important; z-index: 2147483647 !important }');"
+               "document.adoptedStyleSheets = [...document.adoptedStyleSheets, window.frameMark];")
+        .arg(colour.name());
+}
+
+constexpr QColor kMark(0xfe, 0x01, 0xfd);
+constexpr QColor kOtherMark(0x01, 0xfe, 0x02);
+constexpr const char* kUnmark =
+    "document.adoptedStyleSheets = document.adoptedStyleSheets.filter(sheet => sheet !== window.frameMark);";
+
+QColor cornerOf(QWebEngineView& view) { return view.grab(QRect(0, 0, 1, 1)).toImage().pixelColor(0, 0); }
+
+/// Runs the event loop until that is so, the page goes on to another, or the time is over.
+void runUntil(QWebEngineView& view, const std::function<bool()>& reached) {
     QEventLoop loop;
-    const QPointer<QEventLoop> waiting = &loop;
-    afterNextFrame(view, kPictureLimit, [waiting] {
-        if (waiting) QTimer::singleShot(kOnItsWay, waiting, &QEventLoop::quit);
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &loop, [&] {
+        if (view.page()->isLoading() || reached()) loop.quit();
     });
+    QObject::connect(&view, &QObject::destroyed, &loop, &QEventLoop::quit);
+    QTimer::singleShot(kPictureLimit, &loop, &QEventLoop::quit);
+    look.start(kLookAgain);
     loop.exec();
+}
+
+/// Nothing tells when a frame has come all the way to the widget, and under load that takes any time. So the
+/// page gets a mark and loses it again: the frame in which it is gone shows all that came before, too.
+void awaitFrame(QWebEngineView& view) {
+    const QPointer<QWebEngineView> shown = &view;
+    const QColor mark = cornerOf(view) == kMark ? kOtherMark : kMark;
+    view.page()->runJavaScript(scriptToMark(mark), kWorld);
+    runUntil(view, [&] { return cornerOf(view) == mark; });
+    if (!shown) return;
+    view.page()->runJavaScript(QString::fromLatin1(kUnmark), kWorld);
+    runUntil(view, [&] { return cornerOf(view) != mark; });
 }
 
 }  // namespace
