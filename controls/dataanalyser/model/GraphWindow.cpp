@@ -90,7 +90,8 @@ AxisRange moved(const AxisRange& range, double part, const AxisRange& whole) {
 }
 
 AxisRange partOf(const AxisRange& range, double fromPlace, double toPlace) {
-    const auto [low, high] = std::minmax(std::clamp(fromPlace, 0.0, 1.0), std::clamp(toPlace, 0.0, 1.0));
+    // A list: std::minmax of two temporary values would return references to them.
+    const auto [low, high] = std::minmax({std::clamp(fromPlace, 0.0, 1.0), std::clamp(toPlace, 0.0, 1.0)});
     if (range.logarithmic) return decades(range.at(low), range.at(high));
     return {range.at(low), range.at(high), false};
 }
