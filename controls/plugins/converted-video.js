@@ -19,7 +19,7 @@ class ConvertedVideo {
     this.fail = fail;
     this.next = from;
     this.duration = Number(description.format?.duration);
-    this.type = kindsIn(description).includes('audio') ? 'video/webm; codecs="vp8,opus"' : 'video/webm; codecs="vp8"';
+    this.type = kindsIn(description).includes('audio') ? 'video/webm; codecs="vp8,vorbis"' : 'video/webm; codecs="vp8"';
     this.media = new MediaSource();
     this.media.addEventListener('sourceopen', () => this.opened(), { once: true });
     video.src = URL.createObjectURL(this.media);

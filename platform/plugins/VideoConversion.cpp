@@ -20,14 +20,15 @@ QStringList trustedInput() {
 }
 
 /// Pictures of square pixels, as browsers take them, and stereo sound where there is any. Gaps between
-/// pictures are filled: the engine would leave out all that follows one, up to the next key frame.
+/// pictures are filled: the engine would leave out all that follows one, up to the next key frame. The sound
+/// is Vorbis: in films with Opus from FFmpeg 7.1 the engine finds times that run backwards, and stops.
 QStringList webm() {
     return QStringLiteral(
                "-map 0:v:0 -map 0:a:0? -vf "
                "fps='min(source_fps,60)':start_time=0,scale=trunc(iw*sar/2)*2:trunc(ih/2)*2,setsar=1 "
                "-pix_fmt yuv420p "
                "-c:v libvpx -deadline realtime -cpu-used 6 -auto-alt-ref 0 -g 30 -b:v 2M -crf 8 "
-               "-c:a libopus -b:a 96k -ac 2 -f webm pipe:1")
+               "-c:a libvorbis -q:a 3 -ac 2 -ar 48000 -f webm pipe:1")
         .split(u' ');
 }
 

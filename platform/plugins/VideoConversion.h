@@ -8,7 +8,7 @@
 /// Videos that the engine does not play itself, by way of FFmpeg's programs.
 namespace platform {
 
-/// A part of the video, both in seconds, as a WebM film of its own (VP8 and Opus) that begins at 0. Empty
+/// A part of the video, both in seconds, as a WebM film of its own (VP8 and Vorbis) that begins at 0. Empty
 /// when FFmpeg reads no video in the file, or none from there on.
 std::unique_ptr<QIODevice> convertedVideo(const FileHandle& file, double from, double length);
 
