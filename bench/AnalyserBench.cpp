@@ -61,7 +61,7 @@ BENCHMARK(SortOf10000Rows)->Arg(0)->Arg(2)->Unit(benchmark::kMillisecond);
 
 void ScrollByAPageIn10000Rows(benchmark::State& state) {
     Shown shown;
-    QScrollBar* bar = shown.pane.findChild<TableView*>()->verticalScrollBar();
+    QScrollBar* bar = shown.pane.findChild<QTableView*>()->verticalScrollBar();
     for (auto _ : state) {
         bar->setValue(bar->value() == bar->maximum() ? 0 : bar->value() + bar->pageStep());
         shown.pane.grab();

@@ -71,12 +71,12 @@ class AnalyserTest : public testing::Test {
     /// What is under way is carried out first.
     TableView& table() {
         pane().refreshNow();
-        return *control_.widget().findChild<TableView*>();
+        return dynamic_cast<TableView&>(*control_.widget().findChild<QTableView*>());
     }
     GraphView& graph() {
         pane().refreshNow();
         QCoreApplication::processEvents();
-        return *control_.widget().findChild<GraphView*>();
+        return dynamic_cast<GraphView&>(*control_.widget().findChild<QChartView*>());
     }
     std::string cell(int row, int column) {
         return table().model()->index(row, column).data().toString().toStdString();
