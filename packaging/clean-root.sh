@@ -1,15 +1,15 @@
-# A root of Debian 12 with nothing in it but apt, for trying things out. Sourced by bash, as root; the packages come
-# from where the machine's own apt gets them.
+# A root of Debian with nothing in it but apt, for trying things out. Sourced by bash, as root; the packages come from
+# where the machine's own apt gets them.
 
-# make_root DIR
+# make_root DIR RELEASE: RELEASE is bookworm (Debian 12) or trixie (Debian 13).
 make_root() {
     apt-get update -q
     apt-get install -q -y --no-install-recommends mmdebstrap
     apt-get indextargets --format 'deb $(REPO_URI) $(RELEASE) $(COMPONENT)' 'Created-By: Packages' 'Origin: Debian' |
-        sort -u >"$1.list"
+        sed -E "s/ [a-z]+((-[a-z]+)? [a-z]+)$/ $2\1/" | sort -u >"$1.list"
     local proxies=()
     mapfile -t proxies < <(apt-config dump | grep -i '^Acquire::.*proxy.* ".\+";$' | sed 's/^/--aptopt=/')
-    mmdebstrap --mode=root --variant=apt --skip=cleanup/apt/lists "${proxies[@]}" bookworm "$1" "$1.list"
+    mmdebstrap --mode=root --variant=apt --skip=cleanup/apt/lists "${proxies[@]}" "$2" "$1" "$1.list"
     cp /etc/resolv.conf "$1/etc/resolv.conf"
     # Where the way to the registry has a certificate of its own, npm needs it in there too.
     cp "${NODE_EXTRA_CA_CERTS:-/dev/null}" "$1/etc/npm-certificates.pem"
