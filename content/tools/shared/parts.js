@@ -9,7 +9,7 @@ let ids = 0;
 export function part(tag, attributes = {}, ...children) {
   const node = document.createElement(tag);
   for (const [name, value] of Object.entries(attributes)) setAttribute(node, name, value);
-  node.append(...children.flat().filter(child => child !== undefined && child !== null));
+  node.append(...children.flat(Infinity).filter(child => child !== undefined && child !== null));
   return node;
 }
 
