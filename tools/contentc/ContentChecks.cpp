@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "formats/TitleLists.h"
-#include "tools/contentc/ToolCompiler.h"
 
 namespace contentc {
 namespace {
@@ -71,6 +70,26 @@ void checkTerms(const References& references, const Content& content, Diagnostic
     }
 }
 
+std::string joined(const std::set<std::string>& names) {
+    std::string text;
+    for (const std::string& name : names) text += (text.empty() ? "" : ", ") + name;
+    return text;
+}
+
+void checkTool(const ToolUse& use, const Tools& tools, Diagnostics& diagnostics) {
+    const auto tool = tools.find(use.name);
+    if (tool == tools.end()) {
+        diagnostics.error(use.place, "no tool is named '" + use.name + '\'');
+        return;
+    }
+    for (const std::string& setting : use.settings) {
+        if (tool->second.contains(setting)) continue;
+        const std::string has = tool->second.empty() ? "none" : joined(tool->second);
+        diagnostics.error(use.place,
+                          "tool '" + use.name + "' has no setting '" + setting + "'; its settings: " + has);
+    }
+}
+
 }  // namespace
 
 void checkContent(const Content& content, const std::filesystem::path& root, Diagnostics& diagnostics) {
@@ -91,10 +110,7 @@ void checkReferences(const References& references, const Content& content, const
         if (outputs.contains("mol\\" + molecule.name + ".mol")) continue;
         diagnostics.error(molecule.place, "no molecule is named '" + molecule.name + '\'');
     }
-    for (const Reference& tool : references.tools) {
-        if (outputs.contains(toolScript(tool.name))) continue;
-        diagnostics.error(tool.place, "no tool is named '" + tool.name + '\'');
-    }
+    for (const ToolUse& tool : references.tools) checkTool(tool, content.tools, diagnostics);
     for (const Reference& path : references.dataPaths) {
         if (path.name.empty() || outputs.contains(path.name)) continue;
         diagnostics.error(path.place, "the data folder has no file " + inQuotes(path.name));

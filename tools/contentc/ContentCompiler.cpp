@@ -90,6 +90,7 @@ class ContentCompilation {
     void addTools() {
         if (m_tree.tools.empty()) return;
         for (const SourceFile& file : m_tree.tools) {
+            if (file.path.extension() == ".txt") continue;
             const std::string folder = file.path.parent_path().filename().string();
             m_outputs.add("tools\\" + folder + '\\' + file.name(), file.bytes, file.place(), m_diagnostics);
         }

@@ -87,11 +87,17 @@ class PageCompilation {
     Line addTool(const ToolLine& tool, Line line, MarkupCompiler& markup, std::vector<TextLine>& lines) {
         const SourcePlace place = line->place;
         if (!isPrepared()) m_diagnostics.error(place, "a tool works only on a page of a section");
-        m_references.tools.push_back({place, tool.name});
+        noteTool(tool, place);
         lines.push_back({openTool(tool), place});
         if (tool.name == kQuizTool) line = addQuiz(line, markup, lines);
         lines.push_back({closeTool(tool), place});
         return line;
+    }
+
+    void noteTool(const ToolLine& tool, const SourcePlace& place) {
+        ToolUse use{place, tool.name, {}};
+        for (const auto& [name, value] : tool.settings) use.settings.push_back(name);
+        m_references.tools.push_back(std::move(use));
     }
 
     Line addQuiz(Line line, MarkupCompiler& markup, std::vector<TextLine>& lines) {

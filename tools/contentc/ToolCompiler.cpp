@@ -123,8 +123,6 @@ std::optional<ToolLine> readToolLine(std::string_view line) {
     return tool;
 }
 
-std::string toolScript(std::string_view name) { return "tools\\" + std::string(name) + "\\face.js"; }
-
 std::string openTool(const ToolLine& tool) {
     std::string html = "<DIV CLASS=\"tool\" DATA-TOOL=\"" + tool.name + '"';
     for (const auto& [name, value] : tool.settings) html += " DATA-" + name + "=\"" + escapeHtml(value) + '"';
@@ -134,7 +132,7 @@ std::string openTool(const ToolLine& tool) {
 std::string closeTool(const ToolLine& tool) {
     const std::string folder(kDataFolderMarker);
     return "</DIV><LINK REL=\"stylesheet\" HREF=\"" + folder + "tools\\shared\\style.css\">" +
-           "<SCRIPT TYPE=\"module\" SRC=\"" + folder + toolScript(tool.name) + "\"></SCRIPT>";
+           "<SCRIPT TYPE=\"module\" SRC=\"" + folder + "tools\\" + tool.name + "\\face.js\"></SCRIPT>";
 }
 
 std::vector<TextLine> compileQuiz(const std::vector<TextLine>& lines, const SourcePlace& place,

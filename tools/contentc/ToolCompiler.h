@@ -20,9 +20,6 @@ struct ToolLine {
 /// Reads a line that is nothing but a tool's mark. Nothing for any other line, and for one that is malformed.
 std::optional<ToolLine> readToolLine(std::string_view line);
 
-/// The file of the data folder that a page with the tool loads.
-std::string toolScript(std::string_view name);
-
 /// What a finished page has before and behind a tool's own content: the box that its script fills.
 std::string openTool(const ToolLine& tool);
 std::string closeTool(const ToolLine& tool);

@@ -120,6 +120,11 @@ const struct {
      {"1: a page of template 'molecule' needs a line '{{molecule NAME}}'"}},
     // Tools.
     {kPage,
+     kTopicHeader + "{{tool clock at=\"3\" on=\"4\"}}\n{{tool quiz at=\"3\"}}\n? q\n+ a\n- "
+                    "b\n{{end}}\n{{tool shared}}\n",
+     {"4: tool 'clock' has no setting 'on'; its settings: at, of",
+      "5: tool 'quiz' has no setting 'at'; its settings: none", "10: no tool is named 'shared'"}},
+    {kPage,
      kTopicHeader + "{{tool none}}\n<P>{{tool clock}}\n{{tool clock at=3}}\n{{end}}\n",
      {"4: no tool is named 'none'",
       "5: '{{tool clock}}' is not '{{tool NAME}}', with settings as 'name=\"value\"', or the '{{end}}' of a "
@@ -195,6 +200,7 @@ TEST(BadSources, AreReportedByLine) {
     for (const auto& [file, text, messages] : kBadSources) {
         ContentFolder content;
         content.write("tools/clock/face.js", "");
+        content.write("tools/clock/settings.txt", "of\nat\n");
         content.write("tools/quiz/face.js", "");
         content.write(file, text);
         EXPECT_FALSE(content.compile());

@@ -77,6 +77,7 @@ TEST(CompiledFiles, MarksBecomeMarkers) {
 TEST(CompiledFiles, ToolsAreBoxesWithTheirScripts) {
     ContentFolder content;
     content.write("tools/clock/face.js", "");
+    content.write("tools/clock/settings.txt", "at\nof\n");
     content.write("tools/quiz/face.js", "");
     content.write("templates/page.html", "{{title}}{{section}}\n{{body}}\n");
     const auto scripts = [](const std::string& name) {
@@ -109,9 +110,9 @@ TEST(CompiledFiles, ScriptsOfToolsAreCopiedAndFindTheElements) {
     ContentFolder content;
     EXPECT_EQ(content.compiled("tools\\shared\\elements.js"), "");
     content.write("tools/clock/face.js", "'ώρα'\n");
-    content.write("tools/clock/notes.txt", "");
+    content.write("tools/clock/settings.txt", "");
     EXPECT_EQ(content.compiled("tools\\clock\\face.js"), "'ώρα'\n");
-    EXPECT_FALSE(content.compile()->contains("tools\\clock\\notes.txt"));
+    EXPECT_FALSE(content.compile()->contains("tools\\clock\\settings.txt"));
     const std::string elements = content.compiled("tools\\shared\\elements.js");
     EXPECT_NE(elements.find("\n  Cl: { number: 17, name: 'Χλώριο', mass: '35.45', isStandard: true },\n"),
               std::string::npos);

@@ -58,6 +58,7 @@ Content readContent(const SourceTree& tree, Diagnostics& diagnostics) {
         diagnostics.error({(tree.root / "elements.txt").generic_string()}, "missing");
     }
     content.words = readWords(tree.stopWords, tree.wordForms, diagnostics);
+    content.tools = readTools(tree.tools, diagnostics);
     return content;
 }
 

@@ -8,6 +8,7 @@
 #include "tools/contentc/source/PageSource.h"
 #include "tools/contentc/source/SourceTree.h"
 #include "tools/contentc/source/TermSource.h"
+#include "tools/contentc/source/ToolSource.h"
 #include "tools/contentc/source/WordsSource.h"
 
 namespace contentc {
@@ -21,6 +22,7 @@ struct Content {
     std::vector<TermSource> terms;
     std::vector<ElementLine> elements;
     WordsSource words;
+    Tools tools;
 };
 
 /// Parses all sources; what is wrong is reported, and what is too faulty is left out.

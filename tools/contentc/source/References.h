@@ -13,6 +13,13 @@ struct Reference {
     std::string name;
 };
 
+/// A tool placed on a page, with the names of the settings given there.
+struct ToolUse {
+    SourcePlace place;
+    std::string name;
+    std::vector<std::string> settings;
+};
+
 /// What pages refer to, collected while they are compiled.
 struct References {
     /// Glossary keys.
@@ -20,8 +27,7 @@ struct References {
     /// Names of videos and molecules without folder and extension.
     std::vector<Reference> videos;
     std::vector<Reference> molecules;
-    /// Names of tools, which are folders of scripts.
-    std::vector<Reference> tools;
+    std::vector<ToolUse> tools;
     /// Files of the data folder, as written behind `{{data}}`.
     std::vector<Reference> dataPaths;
 };

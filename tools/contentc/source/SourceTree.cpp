@@ -100,7 +100,7 @@ SourceTree readSourceTree(const SourceFolders& folders, Diagnostics& diagnostics
     tree.terms = reader.readFilesStrictly(root / "glossary", ".term");
     tree.dataSets = reader.readFilesStrictly(root / "datasets", ".data");
     tree.molecules = reader.readFiles(root / "molecules", {".mol"});
-    tree.tools = reader.readFilesBelow(root / "tools", {".js", ".css"});
+    tree.tools = reader.readFilesBelow(root / "tools", {".js", ".css", ".txt"});
     tree.drawings = reader.readFiles(root / "pictures", {".svg"});
     tree.pictures = reader.readFiles(root / "pictures", {".png"});
     for (const fs::path& images : folders.images)

@@ -45,7 +45,8 @@ struct SourceTree {
     std::vector<SourceFile> dataSets;
     std::vector<SourceFile> terms;
     std::vector<SourceFile> molecules;
-    /// Scripts and style sheets of the tools in pages, which lie in a folder for each tool.
+    /// Scripts, style sheets and lists of settings of the tools in pages, which lie in a folder for each
+    /// tool.
     std::vector<SourceFile> tools;
     /// Drawings that have to be rendered beforehand; only their names count.
     std::vector<SourceFile> drawings;
