@@ -27,7 +27,8 @@ function splitTerms(side) {
 function readTerm(text, isLeft) {
   if (text === '') throw new Mistake('Λείπει ένας χημικός τύπος δίπλα σε «+» ή σε βέλος.');
   const [, digits, formula] = /^(\d*)\s*(.*)$/.exec(text);
-  if (digits.length > MOST_DIGITS || Number(digits || 1) === 0) throw new Mistake(`Το «${digits}» δεν μπορεί να είναι συντελεστής.`);
+  if (digits.length > MOST_DIGITS || Number(digits || 1) === 0)
+    throw new Mistake(`Το «${digits}» δεν μπορεί να είναι συντελεστής.`);
   return { ...parseFormula(formula), formula, given: digits === '' ? null : Number(digits), isLeft };
 }
 
@@ -35,7 +36,8 @@ function refuseTwins(terms) {
   const seen = new Set();
   for (const term of terms) {
     const name = JSON.stringify([term.pieces, term.state]);
-    if (seen.has(name)) throw new Mistake(`Ο τύπος «${term.formula}» υπάρχει δύο φορές. Κράτησέ τον στη μία πλευρά, μία φορά.`);
+    if (seen.has(name))
+      throw new Mistake(`Ο τύπος «${term.formula}» υπάρχει δύο φορές. Κράτησέ τον στη μία πλευρά, μία φορά.`);
     seen.add(name);
   }
 }
@@ -48,7 +50,10 @@ export function parseEquation(typed) {
   if (arrows.length === 0) throw new Mistake('Βάλε ένα βέλος «->» ανάμεσα στα αντιδρώντα και στα προϊόντα.');
   if (arrows.length > 1) throw new Mistake('Η εξίσωση έχει περισσότερα από ένα βέλη. Κράτησε ένα.');
   const [left, right] = typed.split(arrows[0]);
-  const terms = [...splitTerms(left).map(term => readTerm(term, true)), ...splitTerms(right).map(term => readTerm(term, false))];
+  const terms = [
+    ...splitTerms(left).map(term => readTerm(term, true)),
+    ...splitTerms(right).map(term => readTerm(term, false)),
+  ];
   if (terms.length > MOST_TERMS) throw new Mistake('Η εξίσωση έχει πάρα πολλούς τύπους.');
   refuseTwins(terms);
   return { terms, isReversible: /^(<=>|<->|⇌)$/.test(arrows[0]) };

@@ -12,8 +12,13 @@ const ONE = new Fraction(1);
 // What must be equal on both sides: { symbol, name, amounts }, with an amount for each term; '' is the charge.
 function conditionsOf(terms) {
   const symbols = [...new Set(terms.flatMap(term => [...term.counts.keys()]))];
-  const conditions = symbols.map(symbol => ({ symbol, name: elements[symbol].name, amounts: terms.map(term => term.counts.get(symbol) ?? 0) }));
-  if (terms.some(term => term.charge !== 0)) conditions.push({ symbol: '', name: 'Φορτίο', amounts: terms.map(term => term.charge) });
+  const conditions = symbols.map(symbol => ({
+    symbol,
+    name: elements[symbol].name,
+    amounts: terms.map(term => term.counts.get(symbol) ?? 0),
+  }));
+  if (terms.some(term => term.charge !== 0))
+    conditions.push({ symbol: '', name: 'Φορτίο', amounts: terms.map(term => term.charge) });
   return conditions;
 }
 
@@ -29,21 +34,26 @@ function reduce(matrix) {
     const first = rows[top][column];
     rows[top] = rows[top].map(value => value.over(first));
     rows.forEach((row, i) => {
-      if (i !== top && !row[column].isZero) rows[i] = row.map((value, j) => value.minus(row[column].times(rows[top][j])));
+      if (i !== top && !row[column].isZero)
+        rows[i] = row.map((value, j) => value.minus(row[column].times(rows[top][j])));
     });
     leading.push(column);
   }
   return { rows, leading };
 }
 
-const signed = (terms, condition) => condition.amounts.map((amount, i) => new Fraction(terms[i].isLeft ? amount : -amount));
+const signed = (terms, condition) =>
+  condition.amounts.map((amount, i) => new Fraction(terms[i].isLeft ? amount : -amount));
 
 // The usual reason why nothing can be balanced.
 function refuseElementsOnOneSide(terms, conditions) {
   const isOn = (side, { amounts }) => amounts.some((amount, i) => amount !== 0 && terms[i].isLeft === side);
   for (const condition of conditions.filter(({ symbol }) => symbol !== '')) {
     const [left, right] = [isOn(true, condition), isOn(false, condition)];
-    if (left !== right) throw new Mistake(`Δεν ισοσταθμίζεται: το στοιχείο ${condition.name} (${condition.symbol}) υπάρχει μόνο ${left ? 'αριστερά' : 'δεξιά'}.`);
+    if (left !== right)
+      throw new Mistake(
+        `Δεν ισοσταθμίζεται: το στοιχείο ${condition.name} (${condition.symbol}) υπάρχει μόνο ${left ? 'αριστερά' : 'δεξιά'}.`,
+      );
   }
 }
 
@@ -59,32 +69,49 @@ function solve(terms, conditions) {
   const { rows, leading } = reduce(conditions.map(condition => signed(terms, condition)));
   const free = terms.map((_, column) => column).filter(column => !leading.includes(column));
   if (free.length === 0) {
-    throw new Mistake('Δεν ισοσταθμίζεται: κανένας συνδυασμός συντελεστών δεν κάνει ίσα τα άτομα και τα φορτία στα δύο μέλη. Έλεγξε τους τύπους.');
+    throw new Mistake(
+      'Δεν ισοσταθμίζεται: κανένας συνδυασμός συντελεστών δεν κάνει ίσα τα άτομα και τα φορτία στα δύο μέλη. Έλεγξε τους τύπους.',
+    );
   }
   if (free.length > 1) {
-    throw new Mistake('Οι συντελεστές δεν ορίζονται με έναν μόνο τρόπο: η εξίσωση περιγράφει περισσότερες από μία αντιδράσεις μαζί. Γράψε την καθεμία χωριστά.');
+    throw new Mistake(
+      'Οι συντελεστές δεν ορίζονται με έναν μόνο τρόπο: η εξίσωση περιγράφει περισσότερες από μία αντιδράσεις μαζί. Γράψε την καθεμία χωριστά.',
+    );
   }
   const values = terms.map(() => ZERO);
   values[free[0]] = ONE;
-  leading.forEach((column, i) => { values[column] = ZERO.minus(rows[i][free[0]]); });
+  leading.forEach((column, i) => {
+    values[column] = ZERO.minus(rows[i][free[0]]);
+  });
   const numbers = wholeNumbers(values);
   const wrong = terms[numbers.findIndex(number => number <= 0)];
-  if (wrong && numbers.includes(0)) throw new Mistake(`Το «${terms[numbers.indexOf(0)].formula}» δεν μπορεί να συμμετέχει: ο συντελεστής του βγαίνει μηδέν.`);
-  if (wrong) throw new Mistake('Δεν ισοσταθμίζεται: κάποιος τύπος βρίσκεται σε λάθος πλευρά του βέλους, γιατί ο συντελεστής του βγαίνει αρνητικός.');
+  if (wrong && numbers.includes(0))
+    throw new Mistake(
+      `Το «${terms[numbers.indexOf(0)].formula}» δεν μπορεί να συμμετέχει: ο συντελεστής του βγαίνει μηδέν.`,
+    );
+  if (wrong)
+    throw new Mistake(
+      'Δεν ισοσταθμίζεται: κάποιος τύπος βρίσκεται σε λάθος πλευρά του βέλους, γιατί ο συντελεστής του βγαίνει αρνητικός.',
+    );
   return numbers;
 }
 
 // One side of a condition in letters: "2α + γ".
 function sideInLetters(terms, { amounts }, isLeft) {
-  const parts = amounts.map((amount, i) => ({ amount, letter: LETTERS[i], isLeft: terms[i].isLeft })).filter(({ amount, isLeft: side }) => amount !== 0 && side === isLeft);
+  const parts = amounts
+    .map((amount, i) => ({ amount, letter: LETTERS[i], isLeft: terms[i].isLeft }))
+    .filter(({ amount, isLeft: side }) => amount !== 0 && side === isLeft);
   if (parts.length === 0) return '0';
-  return parts.map(({ amount, letter }, i) => {
-    const sign = amount < 0 ? (i === 0 ? '\u2212' : ' \u2212 ') : i === 0 ? '' : ' + ';
-    return `${sign}${Math.abs(amount) === 1 ? '' : Math.abs(amount)}${letter}`;
-  }).join('');
+  return parts
+    .map(({ amount, letter }, i) => {
+      const sign = amount < 0 ? (i === 0 ? '\u2212' : ' \u2212 ') : i === 0 ? '' : ' + ';
+      return `${sign}${Math.abs(amount) === 1 ? '' : Math.abs(amount)}${letter}`;
+    })
+    .join('');
 }
 
-const inLetters = (terms, condition) => `${sideInLetters(terms, condition, true)} = ${sideInLetters(terms, condition, false)}`;
+const inLetters = (terms, condition) =>
+  `${sideInLetters(terms, condition, true)} = ${sideInLetters(terms, condition, false)}`;
 
 // The unknown that a row gives when all its others are known.
 function nextKnown(rows, values) {
@@ -105,7 +132,9 @@ function chainFrom(start, rows) {
     values[next.column] = next.value;
     chain.push({ letter: LETTERS[next.column], value: next.value.toString(), row: next.row });
   }
-  return values.includes(null) ? null : { chain, factor: Number(values.reduce((product, value) => lcm(product, value.denominator), 1n)) };
+  return values.includes(null)
+    ? null
+    : { chain, factor: Number(values.reduce((product, value) => lcm(product, value.denominator), 1n)) };
 }
 
 // The chain with the smallest numbers to multiply by; a substance of many elements is a good one to begin with.
@@ -117,17 +146,28 @@ function bestChain(terms, rows) {
 
 // What the coefficients make of a condition on one side: { text: "2 × 3 + 1 = 7", total }.
 function sideTotal(terms, { amounts }, coefficients, isLeft) {
-  const products = amounts.map((amount, i) => [coefficients[i], amount]).filter(([, amount], i) => amount !== 0 && terms[i].isLeft === isLeft);
+  const products = amounts
+    .map((amount, i) => [coefficients[i], amount])
+    .filter(([, amount], i) => amount !== 0 && terms[i].isLeft === isLeft);
   const total = products.reduce((sum, [coefficient, amount]) => sum + coefficient * amount, 0);
   const asText = number => String(number).replace('-', '\u2212');
-  const sum = products.map(([coefficient, amount]) => `${coefficient} × ${amount < 0 ? `(${asText(amount)})` : amount}`).join(' + ');
+  const sum = products
+    .map(([coefficient, amount]) => `${coefficient} × ${amount < 0 ? `(${asText(amount)})` : amount}`)
+    .join(' + ');
   return { text: products.length === 0 ? '0' : `${sum} = ${asText(total)}`, total };
 }
 
-const comparison = (terms, conditions, coefficients) => conditions.map(condition => {
-  const [left, right] = [true, false].map(isLeft => sideTotal(terms, condition, coefficients, isLeft));
-  return { name: condition.name, symbol: condition.symbol, left: left.text, right: right.text, isEqual: left.total === right.total };
-});
+const comparison = (terms, conditions, coefficients) =>
+  conditions.map(condition => {
+    const [left, right] = [true, false].map(isLeft => sideTotal(terms, condition, coefficients, isLeft));
+    return {
+      name: condition.name,
+      symbol: condition.symbol,
+      left: left.text,
+      right: right.text,
+      isEqual: left.total === right.total,
+    };
+  });
 
 // How good the coefficients are that were typed: 'none', 'right', 'multiple' or 'wrong'.
 function judge(terms, conditions, right) {
@@ -144,12 +184,25 @@ export function balance(typed) {
   const conditions = conditionsOf(terms);
   const coefficients = solve(terms, conditions);
   return {
-    terms, isReversible, coefficients,
+    terms,
+    isReversible,
+    coefficients,
     letters: terms.map((_, i) => LETTERS[i]),
-    conditions: conditions.map(condition => ({ name: condition.name, symbol: condition.symbol, text: inLetters(terms, condition) })),
-    ...bestChain(terms, conditions.map(condition => signed(terms, condition))),
+    conditions: conditions.map(condition => ({
+      name: condition.name,
+      symbol: condition.symbol,
+      text: inLetters(terms, condition),
+    })),
+    ...bestChain(
+      terms,
+      conditions.map(condition => signed(terms, condition)),
+    ),
     rows: comparison(terms, conditions, coefficients),
     verdict: judge(terms, conditions, coefficients),
-    givenRows: comparison(terms, conditions, terms.map(term => term.given ?? 1)),
+    givenRows: comparison(
+      terms,
+      conditions,
+      terms.map(term => term.given ?? 1),
+    ),
   };
 }

@@ -7,7 +7,8 @@ const ML_PER_L = 1000;
 const WHAT = { m: 'τη μάζα', V: 'τον όγκο', c: 'τη συγκέντρωση' };
 
 const SOLUTIONS = {
-  m: ({ V, c }, M) => ((c * V) / ML_PER_L) * M, V: ({ m, c }, M) => ((m / M) * ML_PER_L) / c,
+  m: ({ V, c }, M) => ((c * V) / ML_PER_L) * M,
+  V: ({ m, c }, M) => ((m / M) * ML_PER_L) / c,
   c: ({ m, V }, M) => ((m / M) * ML_PER_L) / V,
 };
 

@@ -16,6 +16,8 @@ export const QUANTITIES = {
 
 // Of the texts p, V, n and T one is empty: { p, V, n, T, blank, digits }. Throws a Mistake.
 export function gasLaw(texts) {
-  const known = readAllButOne(Object.entries(QUANTITIES).map(([name, { what }]) => ({ name, what, text: texts[name] })));
+  const known = readAllButOne(
+    Object.entries(QUANTITIES).map(([name, { what }]) => ({ name, what, text: texts[name] })),
+  );
   return { ...known, [known.blank]: QUANTITIES[known.blank].solve(known) };
 }

@@ -26,7 +26,10 @@ class Vessel {
     this.particles.stretch(this.width, width);
     this.particles.setCount(particleCount(n), width);
     Object.assign(this, { width, kelvin: T });
-    this.canvas.setAttribute('aria-label', `Δοχείο με έμβολο. ${this.particles.all.length} σωματίδια σε ${withUnit('V', V)}, στους ${withUnit('T', T)}.`);
+    this.canvas.setAttribute(
+      'aria-label',
+      `Δοχείο με έμβολο. ${this.particles.all.length} σωματίδια σε ${withUnit('V', V)}, στους ${withUnit('T', T)}.`,
+    );
     this.draw();
   }
 
@@ -118,11 +121,18 @@ function motionButton(vessel) {
   return button;
 }
 
-const slider = (name, value) => part('input', { type: 'range', min: RANGES[name].from, max: RANGES[name].to, step: RANGES[name].step, value });
+const slider = (name, value) =>
+  part('input', { type: 'range', min: RANGES[name].from, max: RANGES[name].to, step: RANGES[name].step, value });
 
 function build(box) {
   const state = { p: 1, V: 24.6, n: 1, T: 300 };
-  const adapted = select([['p', 'Η πίεση (έμβολο σταθερό)'], ['V', 'Ο όγκος (έμβολο ελεύθερο)']], 'p');
+  const adapted = select(
+    [
+      ['p', 'Η πίεση (έμβολο σταθερό)'],
+      ['V', 'Ο όγκος (έμβολο ελεύθερο)'],
+    ],
+    'p',
+  );
   const vessel = new Vessel();
   const readout = part('p', { class: 'equation' });
   const law = liveRegion();
@@ -131,7 +141,9 @@ function build(box) {
 
   const showState = () => {
     vessel.set(state);
-    readout.textContent = Object.keys(RANGES).map(name => `${name}\u00A0=\u00A0${withUnit(name, state[name])}`).join(', ');
+    readout.textContent = Object.keys(RANGES)
+      .map(name => `${name}\u00A0=\u00A0${withUnit(name, state[name])}`)
+      .join(', ');
     for (const name of Object.keys(RANGES)) {
       sliders[name].value = state[name];
       sliders[name].setAttribute('aria-valuetext', withUnit(name, state[name]));
@@ -146,14 +158,32 @@ function build(box) {
     const { from, to } = RANGES[follower];
     const fits = next[follower] >= from * 0.999 && next[follower] <= to * 1.001;
     if (fits) Object.assign(state, next);
-    law.replaceChildren(part('p', {}, fits ? lawOf(name, follower) : `Ως εδώ: ${follower === 'p' ? 'η πίεση θα έβγαινε' : 'ο όγκος θα έβγαινε'} από τα όρια του δοχείου.`));
+    law.replaceChildren(
+      part(
+        'p',
+        {},
+        fits
+          ? lawOf(name, follower)
+          : `Ως εδώ: ${follower === 'p' ? 'η πίεση θα έβγαινε' : 'ο όγκος θα έβγαινε'} από τα όρια του δοχείου.`,
+      ),
+    );
     showState();
   };
   for (const name of Object.keys(RANGES)) sliders[name].addEventListener('input', () => change(name));
   adapted.addEventListener('change', showState);
-  box.append(part('p', {}, 'Άλλαξε ένα μέγεθος και παρατήρησε ποιο το ακολουθεί. Η ουρά κάθε σωματιδίου δείχνει πόσο γρήγορα κινείται.'),
-    vessel.canvas, part('p', { class: 'buttons' }, motionButton(vessel)), readout, law,
-    field('Τι προσαρμόζεται;', adapted), part('div', { class: 'row' }, Object.values(fields)));
+  box.append(
+    part(
+      'p',
+      {},
+      'Άλλαξε ένα μέγεθος και παρατήρησε ποιο το ακολουθεί. Η ουρά κάθε σωματιδίου δείχνει πόσο γρήγορα κινείται.',
+    ),
+    vessel.canvas,
+    part('p', { class: 'buttons' }, motionButton(vessel)),
+    readout,
+    law,
+    field('Τι προσαρμόζεται;', adapted),
+    part('div', { class: 'row' }, Object.values(fields)),
+  );
   showState();
   new ResizeObserver(() => vessel.draw()).observe(box);
 }

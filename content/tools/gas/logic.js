@@ -5,8 +5,10 @@ const R = 0.082;
 
 // What the sliders may be set to.
 export const RANGES = {
-  p: { from: 0.5, to: 5, step: 0.1, unit: 'atm' }, V: { from: 6, to: 60, step: 1, unit: 'L' },
-  n: { from: 0.5, to: 2, step: 0.1, unit: 'mol' }, T: { from: 150, to: 450, step: 10, unit: 'K' },
+  p: { from: 0.5, to: 5, step: 0.1, unit: 'atm' },
+  V: { from: 6, to: 60, step: 1, unit: 'L' },
+  n: { from: 0.5, to: 2, step: 0.1, unit: 'mol' },
+  T: { from: 150, to: 450, step: 10, unit: 'K' },
 };
 
 export const pressure = ({ V, n, T }) => (n * R * T) / V;
@@ -14,7 +16,8 @@ export const volume = ({ p, n, T }) => (n * R * T) / p;
 
 // The law that a change of one quantity shows while `adapted` follows it.
 const LAWS = {
-  'V p': 'Νόμος του Boyle: σε σταθερή θερμοκρασία το γινόμενο p · V μένει σταθερό.', 'p V': 'Νόμος του Boyle: σε σταθερή θερμοκρασία το γινόμενο p · V μένει σταθερό.',
+  'V p': 'Νόμος του Boyle: σε σταθερή θερμοκρασία το γινόμενο p · V μένει σταθερό.',
+  'p V': 'Νόμος του Boyle: σε σταθερή θερμοκρασία το γινόμενο p · V μένει σταθερό.',
   'T p': 'Νόμος του Gay-Lussac: σε σταθερό όγκο η πίεση είναι ανάλογη με την απόλυτη θερμοκρασία.',
   'T V': 'Νόμος του Charles: σε σταθερή πίεση ο όγκος είναι ανάλογος με την απόλυτη θερμοκρασία.',
   'n p': 'Σε σταθερό όγκο και θερμοκρασία η πίεση είναι ανάλογη με την ποσότητα του αερίου.',

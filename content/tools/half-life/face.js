@@ -14,7 +14,9 @@ const sentences = {
 };
 
 function inWords(found, unit) {
-  const written = Object.fromEntries(['start', 'time', 'rest'].map(name => [name, formatNumber(found[name], found.digits)]));
+  const written = Object.fromEntries(
+    ['start', 'time', 'rest'].map(name => [name, formatNumber(found[name], found.digits)]),
+  );
   return sentences[found.blank](written, unit);
 }
 
@@ -22,46 +24,88 @@ function decayGraph(found, unit) {
   const shown = Math.min(MOST_HALF_LIVES_SHOWN, Math.max(FEWEST_HALF_LIVES_SHOWN, Math.ceil(found.halfLives)));
   const curve = Array.from({ length: CURVE_POINTS + 1 }, (_, i) => (i / CURVE_POINTS) * shown);
   const marks = Array.from({ length: shown }, (_, i) => ({ x: i + 1, y: 100 * remainingShare(i + 1) }));
-  if (found.halfLives <= shown) marks.push({ x: found.halfLives, y: 100 * remainingShare(found.halfLives), isChosen: true, label: `${formatNumber(100 * remainingShare(found.halfLives))} %` });
+  if (found.halfLives <= shown)
+    marks.push({
+      x: found.halfLives,
+      y: 100 * remainingShare(found.halfLives),
+      isChosen: true,
+      label: `${formatNumber(100 * remainingShare(found.halfLives))} %`,
+    });
   return graph({
     x: { label: 'χρόνος σε χρόνους υποδιπλασιασμού (t : T)', from: 0, to: shown, step: 1 },
     y: { label: '% που απομένει', from: 0, to: 100, step: 20 },
-    curve: curve.map(n => [n, 100 * remainingShare(n)]), marks,
+    curve: curve.map(n => [n, 100 * remainingShare(n)]),
+    marks,
     description: `Καμπύλη της διάσπασης: σε κάθε χρόνο υποδιπλασιασμού, που είναι ${formatNumber(found.halfLife, found.halfDigits)} ${unit}, απομένει το μισό.`,
   });
 }
 
-const halvesTable = (found, unit) => dataTable('Τι απομένει μετά από κάθε χρόνο υποδιπλασιασμού',
-  [['t : T', 'num'], [`Χρόνος (${unit})`, 'num'], ['Απομένει', 'num'], ['%', 'num']],
-  Array.from({ length: 5 }, (_, n) => [String(n), formatNumber(n * found.halfLife, found.halfDigits),
-    formatNumber(found.start * remainingShare(n), found.digits), formatNumber(100 * remainingShare(n))]));
+const halvesTable = (found, unit) =>
+  dataTable(
+    'Τι απομένει μετά από κάθε χρόνο υποδιπλασιασμού',
+    [
+      ['t : T', 'num'],
+      [`Χρόνος (${unit})`, 'num'],
+      ['Απομένει', 'num'],
+      ['%', 'num'],
+    ],
+    Array.from({ length: 5 }, (_, n) => [
+      String(n),
+      formatNumber(n * found.halfLife, found.halfDigits),
+      formatNumber(found.start * remainingShare(n), found.digits),
+      formatNumber(100 * remainingShare(n)),
+    ]),
+  );
 
 function build(box, { isotope = 'C-14', start = '100', time = '', rest = '25' }) {
   const isotopes = select([...ISOTOPES.map(({ symbol, name }) => [symbol, `${name}`]), ['', 'άλλο ισότοπο']], isotope);
   const unit = select(Object.entries(UNITS), 'y');
   const inputs = { halfLife: '', start, time, rest };
-  for (const [name, value] of Object.entries(inputs)) inputs[name] = textInput(value, { class: 'number', inputmode: 'decimal' });
+  for (const [name, value] of Object.entries(inputs))
+    inputs[name] = textInput(value, { class: 'number', inputmode: 'decimal' });
   const result = liveRegion();
   const takeIsotope = () => {
     const chosen = ISOTOPES.find(({ symbol }) => symbol === isotopes.value);
     if (chosen) [inputs.halfLife.value, unit.value] = [chosen.halfLife, chosen.unit];
     else inputs.halfLife.focus();
   };
-  const calculate = () => show(result, null, () => {
-    const found = decay(Object.fromEntries(Object.entries(inputs).map(([name, input]) => [name, input.value])));
-    const unitName = UNITS[unit.value];
-    return [part('p', { class: 'equation' }, inWords(found, unitName)),
-      part('p', {}, 'N = N', part('sub', {}, '0'), ' · (1/2)', part('sup', {}, 't : T'), `, όπου t : T = ${formatNumber(found.halfLives, found.digits)}.`),
-      decayGraph(found, unitName), halvesTable(found, unitName)];
-  });
+  const calculate = () =>
+    show(result, null, () => {
+      const found = decay(Object.fromEntries(Object.entries(inputs).map(([name, input]) => [name, input.value])));
+      const unitName = UNITS[unit.value];
+      return [
+        part('p', { class: 'equation' }, inWords(found, unitName)),
+        part(
+          'p',
+          {},
+          'N = N',
+          part('sub', {}, '0'),
+          ' · (1/2)',
+          part('sup', {}, 't : T'),
+          `, όπου t : T = ${formatNumber(found.halfLives, found.digits)}.`,
+        ),
+        decayGraph(found, unitName),
+        halvesTable(found, unitName),
+      ];
+    });
   isotopes.addEventListener('change', takeIsotope);
   const row = (...fields) => part('div', { class: 'row' }, fields);
   box.append(
     part('p', {}, 'Σε κάθε χρόνο υποδιπλασιασμού διασπώνται οι μισοί από τους πυρήνες που είχαν απομείνει.'),
-    form('Υπολόγισε', calculate, field('Ισότοπο', isotopes),
-    row(field('Χρόνος υποδιπλασιασμού T', inputs.halfLife), field('Μονάδα του χρόνου', unit)),
-    part('p', { class: 'note' }, 'Άφησε κενό εκείνο που ζητάς. Οι ποσότητες γράφονται στην ίδια μονάδα: g, mol, Bq ή %.'),
-    row(field('Αρχική ποσότητα N₀', inputs.start), field('Χρόνος t', inputs.time), field('Απομένει N', inputs.rest))), result);
+    form(
+      'Υπολόγισε',
+      calculate,
+      field('Ισότοπο', isotopes),
+      row(field('Χρόνος υποδιπλασιασμού T', inputs.halfLife), field('Μονάδα του χρόνου', unit)),
+      part(
+        'p',
+        { class: 'note' },
+        'Άφησε κενό εκείνο που ζητάς. Οι ποσότητες γράφονται στην ίδια μονάδα: g, mol, Bq ή %.',
+      ),
+      row(field('Αρχική ποσότητα N₀', inputs.start), field('Χρόνος t', inputs.time), field('Απομένει N', inputs.rest)),
+    ),
+    result,
+  );
   takeIsotope();
   calculate();
 }

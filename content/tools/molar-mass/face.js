@@ -1,13 +1,27 @@
 import { digitsOf, formatNumber, parsePositive } from '../shared/numbers.js';
-import { checkbox, dataTable, field, form, formulaNodes, liveRegion, makeTools, part, show, textInput } from '../shared/parts.js';
+import {
+  checkbox,
+  dataTable,
+  field,
+  form,
+  formulaNodes,
+  liveRegion,
+  makeTools,
+  part,
+  show,
+  textInput,
+} from '../shared/parts.js';
 import { molarMass } from './logic.js';
 
 const AVOGADRO = 6.02214076e23;
 
 function massTable({ rows }) {
   const columns = [['Στοιχείο'], ['Άτομα', 'num'], ['Ar', 'num'], ['Μάζα (g)', 'num'], ['% της μάζας', 'num']];
-  return dataTable('Από τι αποτελείται 1 mol', columns, rows.map(row =>
-    [`${row.name} (${row.symbol})`, String(row.count), row.mass, row.totalText, row.percent]));
+  return dataTable(
+    'Από τι αποτελείται 1 mol',
+    columns,
+    rows.map(row => [`${row.name} (${row.symbol})`, String(row.count), row.mass, row.totalText, row.percent]),
+  );
 }
 
 function sampleLines(result, text) {
@@ -16,29 +30,50 @@ function sampleLines(result, text) {
   const digits = digitsOf(sample, result);
   const amount = sample.value / result.mass;
   return [
-    part('p', { class: 'equation' }, `n = m : M = ${text.trim().replace('.', ',')} g : ${result.massText} g/mol = ${formatNumber(amount, digits)} mol`),
+    part(
+      'p',
+      { class: 'equation' },
+      `n = m : M = ${text.trim().replace('.', ',')} g : ${result.massText} g/mol = ${formatNumber(amount, digits)} mol`,
+    ),
     part('p', {}, `Το δείγμα έχει ${formatNumber(amount * AVOGADRO, digits)} σωματίδια με αυτόν τον τύπο.`),
   ];
 }
 
-const isotopeNote = rows => rows.filter(row => !row.isStandard).map(row =>
-  part('p', { class: 'note' }, `Το στοιχείο ${row.name} δεν έχει σταθερά ισότοπα. Στη θέση του Ar μπαίνει ο μαζικός αριθμός του πιο μακρόβιου ισοτόπου του.`));
+const isotopeNote = rows =>
+  rows
+    .filter(row => !row.isStandard)
+    .map(row =>
+      part(
+        'p',
+        { class: 'note' },
+        `Το στοιχείο ${row.name} δεν έχει σταθερά ισότοπα. Στη θέση του Ar μπαίνει ο μαζικός αριθμός του πιο μακρόβιου ισοτόπου του.`,
+      ),
+    );
 
 function build(box, { formula = 'H2SO4', mass = '' }) {
   const typed = textInput(formula, { class: 'formula' });
   const sample = textInput(mass, { inputmode: 'decimal', class: 'number' });
   const rounded = checkbox('Ar στρογγυλεμένες, όπως στα σχολικά βιβλία', { change: () => calculate() });
   const result = liveRegion();
-  const calculate = () => show(result, typed, () => {
-    const found = molarMass(typed.value, rounded.querySelector('input').checked);
-    return [
-      part('p', { class: 'equation' }, 'M (', formulaNodes(found.pieces), `) = ${found.massText} g/mol`),
-      ...massTableWithNotes(found), ...sampleLines(found, sample.value),
-    ];
-  });
-  box.append(form('Υπολόγισε', calculate,
-    field('Χημικός τύπος', typed, 'Γράψε τους δείκτες ως απλούς αριθμούς: Ca(OH)2, CuSO4·5H2O.'),
-    field('Μάζα δείγματος σε g (προαιρετικά)', sample), rounded), result);
+  const calculate = () =>
+    show(result, typed, () => {
+      const found = molarMass(typed.value, rounded.querySelector('input').checked);
+      return [
+        part('p', { class: 'equation' }, 'M (', formulaNodes(found.pieces), `) = ${found.massText} g/mol`),
+        ...massTableWithNotes(found),
+        ...sampleLines(found, sample.value),
+      ];
+    });
+  box.append(
+    form(
+      'Υπολόγισε',
+      calculate,
+      field('Χημικός τύπος', typed, 'Γράψε τους δείκτες ως απλούς αριθμούς: Ca(OH)2, CuSO4·5H2O.'),
+      field('Μάζα δείγματος σε g (προαιρετικά)', sample),
+      rounded,
+    ),
+    result,
+  );
   calculate();
 }
 

@@ -20,8 +20,16 @@ function rowOf(symbol, count, asInSchoolbooks) {
   const mass = atomicMass(symbol, asInSchoolbooks);
   const decimals = decimalsOf(mass);
   const total = Number(mass) * count;
-  return { symbol, name: elements[symbol].name, count, mass: mass.replace('.', ','), total, decimals,
-    totalText: formatFixed(total, decimals), isStandard: elements[symbol].isStandard };
+  return {
+    symbol,
+    name: elements[symbol].name,
+    count,
+    mass: mass.replace('.', ','),
+    total,
+    decimals,
+    totalText: formatFixed(total, decimals),
+    isStandard: elements[symbol].isStandard,
+  };
 }
 
 // A sum is known to as many decimals as the least exact of its terms. A mass number stands for the mass of one
@@ -41,5 +49,12 @@ export function molarMass(typed, asInSchoolbooks = false) {
   const mass = rows.reduce((sum, row) => sum + row.total, 0);
   const decimals = decimalsOfSum(rows, asInSchoolbooks);
   for (const row of rows) row.percent = formatFixed((100 * row.total) / mass, 1);
-  return { pieces, charge, rows, mass, massText: formatFixed(mass, decimals), digits: formatFixed(mass, decimals).replace(',', '').length };
+  return {
+    pieces,
+    charge,
+    rows,
+    mass,
+    massText: formatFixed(mass, decimals),
+    digits: formatFixed(mass, decimals).replace(',', '').length,
+  };
 }

@@ -13,8 +13,18 @@ export function pick(level, before, random = Math.random) {
 const ROMAN = { 1: 'ι', 2: 'ιι', 3: 'ιιι' };
 
 // Names are alike without accents, letter case and blanks, and whichever way the oxidation number is typed.
-const plainName = name => name.normalize('NFD').replace(/\p{M}/gu, '').toLowerCase().replace(/ς/g, 'σ').replace(/i/g, 'ι')
-  .replace(/[123]/g, digit => ROMAN[digit]).replace(/\s+/g, ' ').replace(/ ?\( ?/g, '(').replace(/ ?\)/g, ')').trim();
+const plainName = name =>
+  name
+    .normalize('NFD')
+    .replace(/\p{M}/gu, '')
+    .toLowerCase()
+    .replace(/ς/g, 'σ')
+    .replace(/i/g, 'ι')
+    .replace(/[123]/g, digit => ROMAN[digit])
+    .replace(/\s+/g, ' ')
+    .replace(/ ?\( ?/g, '(')
+    .replace(/ ?\)/g, ')')
+    .trim();
 
 const withoutNumber = name => name.replace(/\(ι+\)$/, '');
 
@@ -24,7 +34,9 @@ export function checkName({ names }, typed) {
   if (name === '') return 'empty';
   const right = names.map(plainName);
   if (right.includes(name)) return 'right';
-  return right.some(one => one !== withoutNumber(one) && withoutNumber(one) === withoutNumber(name)) ? 'number' : 'wrong';
+  return right.some(one => one !== withoutNumber(one) && withoutNumber(one) === withoutNumber(name))
+    ? 'number'
+    : 'wrong';
 }
 
 const atoms = ({ counts }) => JSON.stringify([...counts].sort());
@@ -39,13 +51,16 @@ export function checkFormula({ formula }, typed) {
 
 const sign = isCation => (isCation ? '⁺' : '⁻');
 const lowered = formula => formula.replace(/\d/g, digit => '₀₁₂₃₄₅₆₇₈₉'[digit]);
-const ion = ({ formula, charge }, isCation) => `${lowered(formula)}${charge === 1 ? '' : raised(charge)}${sign(isCation)}`;
+const ion = ({ formula, charge }, isCation) =>
+  `${lowered(formula)}${charge === 1 ? '' : raised(charge)}${sign(isCation)}`;
 
 // Why the formula is what it is; empty for compounds that are not made of ions.
 export function reason({ cation, anion, counts }) {
   if (!cation) return '';
   const [m, n] = counts;
   const needed = `${m === 1 ? 'ένα' : m} ${ion(cation, true)} και ${n === 1 ? 'ένα' : n} ${ion(anion, false)}`;
-  const number = cation.number ? ` Ο αριθμός στην παρένθεση είναι ο αριθμός οξείδωσης του μετάλλου (${cation.formula}): +${cation.charge}.` : '';
+  const number = cation.number
+    ? ` Ο αριθμός στην παρένθεση είναι ο αριθμός οξείδωσης του μετάλλου (${cation.formula}): +${cation.charge}.`
+    : '';
   return `Για να είναι το συνολικό φορτίο μηδέν, χρειάζονται ${needed}.${number}`;
 }

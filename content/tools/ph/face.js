@@ -4,8 +4,23 @@ import { substanceFields } from '../shared/substances.js';
 import { solution } from './logic.js';
 
 // The colours of the page's picture of the scale, from 0 to 14.
-const SCALE = ['#c93a34', '#d8523a', '#e46e3c', '#ec8b3e', '#f1a744', '#f2c14e', '#d8cf56', '#6fb36c', '#4da388', '#3f95a3', '#3c82b5',
-  '#456bb3', '#5457a6', '#644898', '#6f3c8a'];
+const SCALE = [
+  '#c93a34',
+  '#d8523a',
+  '#e46e3c',
+  '#ec8b3e',
+  '#f1a744',
+  '#f2c14e',
+  '#d8cf56',
+  '#6fb36c',
+  '#4da388',
+  '#3f95a3',
+  '#3c82b5',
+  '#456bb3',
+  '#5457a6',
+  '#644898',
+  '#6f3c8a',
+];
 
 function character(pH) {
   if (Math.abs(pH - 7) < 0.005) return 'ουδέτερο';
@@ -24,29 +39,71 @@ const hydroxide = () => ['[OH', part('sup', {}, '−'), ']'];
 
 function explanation(found) {
   const ofMain = found.isAcid ? hydronium() : hydroxide();
-  if (found.isDilute) return ['Το διάλυμα είναι τόσο αραιό, που μετρούν και τα ιόντα του ίδιου του νερού. Γι\' αυτό το pH μένει κοντά στο 7.'];
-  if (found.isStrong) return [found.isAcid ? 'Το ισχυρό οξύ ιοντίζεται πλήρως: ' : 'Η ισχυρή βάση διίσταται πλήρως: ', ...ofMain, ' = c.'];
-  return [`${found.isAcid ? 'Το ασθενές οξύ ιοντίζεται' : 'Η ασθενής βάση ιοντίζεται'} μόνο εν μέρει: ο βαθμός ιοντισμού α είναι ${formatNumber(found.share)}, δηλαδή ${formatNumber(100 * found.share)} %.`];
+  if (found.isDilute)
+    return [
+      "Το διάλυμα είναι τόσο αραιό, που μετρούν και τα ιόντα του ίδιου του νερού. Γι' αυτό το pH μένει κοντά στο 7.",
+    ];
+  if (found.isStrong)
+    return [
+      found.isAcid ? 'Το ισχυρό οξύ ιοντίζεται πλήρως: ' : 'Η ισχυρή βάση διίσταται πλήρως: ',
+      ...ofMain,
+      ' = c.',
+    ];
+  return [
+    `${found.isAcid ? 'Το ασθενές οξύ ιοντίζεται' : 'Η ασθενής βάση ιοντίζεται'} μόνο εν μέρει: ο βαθμός ιοντισμού α είναι ${formatNumber(found.share)}, δηλαδή ${formatNumber(100 * found.share)} %.`,
+  ];
 }
 
 function approximation(found) {
   if (found.approximatePh === null) return [];
   const [ofMain, constant] = found.isAcid ? [hydronium(), 'a'] : [hydroxide(), 'b'];
-  return [part('p', {}, 'Η προσέγγιση του σχολικού βιβλίου, ', ofMain, ' = √(K', part('sub', {}, constant), ` · c), δίνει pH = ${formatFixed(found.approximatePh, 2)}.`)];
+  return [
+    part(
+      'p',
+      {},
+      'Η προσέγγιση του σχολικού βιβλίου, ',
+      ofMain,
+      ' = √(K',
+      part('sub', {}, constant),
+      ` · c), δίνει pH = ${formatFixed(found.approximatePh, 2)}.`,
+    ),
+  ];
 }
 
 function build(box, { substance = 'CH3COOH', concentration = '0,1' }) {
   const solute = substanceFields(substance);
   const typed = textInput(concentration, { class: 'number', inputmode: 'decimal' });
   const result = liveRegion();
-  const calculate = () => show(result, null, () => {
-    const found = solution({ ...solute.read(), concentration: typed.value });
-    const row = (name, value) => [part('span', {}, name), `${formatNumber(value)} mol/L`];
-    return [part('p', { class: 'equation' }, `pH = ${formatFixed(found.pH, 2)}`, part('small', {}, `Το διάλυμα είναι ${character(found.pH)}. pOH = ${formatFixed(found.pOH, 2)}`)),
-      scale(found.pH), part('p', {}, explanation(found)), ...approximation(found),
-      dataTable('Τα ιόντα του νερού στο διάλυμα (25 °C)', [['Ιόν'], ['Συγκέντρωση', 'num']], [row(hydronium(), found.h), row(hydroxide(), found.oh)])];
-  });
-  box.append(form('Υπολόγισε', calculate, solute.nodes[0], part('div', { class: 'row' }, solute.nodes[1], field('Συγκέντρωση c (mol/L)', typed))), result);
+  const calculate = () =>
+    show(result, null, () => {
+      const found = solution({ ...solute.read(), concentration: typed.value });
+      const row = (name, value) => [part('span', {}, name), `${formatNumber(value)} mol/L`];
+      return [
+        part(
+          'p',
+          { class: 'equation' },
+          `pH = ${formatFixed(found.pH, 2)}`,
+          part('small', {}, `Το διάλυμα είναι ${character(found.pH)}. pOH = ${formatFixed(found.pOH, 2)}`),
+        ),
+        scale(found.pH),
+        part('p', {}, explanation(found)),
+        ...approximation(found),
+        dataTable(
+          'Τα ιόντα του νερού στο διάλυμα (25 °C)',
+          [['Ιόν'], ['Συγκέντρωση', 'num']],
+          [row(hydronium(), found.h), row(hydroxide(), found.oh)],
+        ),
+      ];
+    });
+  box.append(
+    form(
+      'Υπολόγισε',
+      calculate,
+      solute.nodes[0],
+      part('div', { class: 'row' }, solute.nodes[1], field('Συγκέντρωση c (mol/L)', typed)),
+    ),
+    result,
+  );
   calculate();
 }
 

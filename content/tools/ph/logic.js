@@ -22,7 +22,14 @@ export function solution({ isAcid, constant, concentration }) {
   const canApproximate = k !== null && k.value / c.value <= NEGLIGIBLE_RATIO && c.value >= DILUTE;
   const ofMain = canApproximate ? -Math.log10(Math.sqrt(k.value * c.value)) : 0;
   return {
-    pH, pOH: 14 - pH, h, oh: WATER / h, share: ionisedShare(solute, h), isAcid, isStrong, isDilute: c.value < DILUTE,
+    pH,
+    pOH: 14 - pH,
+    h,
+    oh: WATER / h,
+    share: ionisedShare(solute, h),
+    isAcid,
+    isStrong,
+    isDilute: c.value < DILUTE,
     approximatePh: canApproximate ? (isAcid ? ofMain : 14 - ofMain) : null,
   };
 }

@@ -25,11 +25,19 @@ function makeQuestion(source, number, answered) {
   const said = liveRegion();
   const check = part('button', { type: 'submit' }, 'Έλεγξε');
   const asked = part('legend', {}, `${number}. `, [...source.querySelector('.asked').childNodes]);
-  const choices = part('fieldset', {}, asked, answers.map((answer, i) => choice(group, answer, i)));
+  const choices = part(
+    'fieldset',
+    {},
+    asked,
+    answers.map((answer, i) => choice(group, answer, i)),
+  );
 
   const tell = ({ isRight, why }) => {
-    said.replaceChildren(part('p', { class: isRight ? 'right' : 'false' }, isRight ? '✓ Σωστά.' : '✗ Όχι. Δοκίμασε ξανά.'),
-      ...(why ? [why] : []), ...(isRight && explanation ? [explanation] : []));
+    said.replaceChildren(
+      part('p', { class: isRight ? 'right' : 'false' }, isRight ? '✓ Σωστά.' : '✗ Όχι. Δοκίμασε ξανά.'),
+      ...(why ? [why] : []),
+      ...(isRight && explanation ? [explanation] : []),
+    );
     check.disabled = isRight;
     choices.disabled = isRight;
   };
@@ -49,7 +57,13 @@ function makeQuestion(source, number, answered) {
     choices.disabled = check.disabled = false;
     for (const button of choices.querySelectorAll('input')) button.checked = false;
   };
-  const node = part('form', { class: 'question', novalidate: true, submit }, choices, part('p', { class: 'buttons' }, check), said);
+  const node = part(
+    'form',
+    { class: 'question', novalidate: true, submit },
+    choices,
+    part('p', { class: 'buttons' }, check),
+    said,
+  );
   return { node, reset };
 }
 
@@ -57,16 +71,27 @@ function build(box) {
   const sources = [...box.querySelectorAll('div.question')];
   const summary = liveRegion({ class: 'result summary' });
   let score = new Score(sources.length);
-  const again = part('button', { type: 'button', class: 'quiet', click: () => {
-    score = new Score(sources.length);
-    for (const question of questions) question.reset();
-    summary.replaceChildren();
-    questions[0].node.querySelector('input').focus();
-  } }, 'Από την αρχή');
-  const questions = sources.map((source, i) => makeQuestion(source, i + 1, isRight => {
-    score.answer(i, isRight);
-    if (score.isComplete) summary.replaceChildren(part('p', {}, score.summary), part('p', { class: 'buttons' }, again));
-  }));
+  const again = part(
+    'button',
+    {
+      type: 'button',
+      class: 'quiet',
+      click: () => {
+        score = new Score(sources.length);
+        for (const question of questions) question.reset();
+        summary.replaceChildren();
+        questions[0].node.querySelector('input').focus();
+      },
+    },
+    'Από την αρχή',
+  );
+  const questions = sources.map((source, i) =>
+    makeQuestion(source, i + 1, isRight => {
+      score.answer(i, isRight);
+      if (score.isComplete)
+        summary.replaceChildren(part('p', {}, score.summary), part('p', { class: 'buttons' }, again));
+    }),
+  );
   for (const [i, source] of sources.entries()) source.replaceWith(questions[i].node);
   box.append(summary);
 }

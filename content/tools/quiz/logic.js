@@ -23,8 +23,10 @@ export class Score {
   // What to tell the reader at the end.
   get summary() {
     const all = this.first.length;
-    if (this.found === all) return all === 1 ? 'Τη βρήκες με την πρώτη.' : `Βρήκες και τις ${all} ερωτήσεις με την πρώτη.`;
-    if (this.found === 0) return 'Απάντησες σε όλες, καμία όμως με την πρώτη. Διάβασε ξανά τις εξηγήσεις και ξαναδοκίμασε.';
+    if (this.found === all)
+      return all === 1 ? 'Τη βρήκες με την πρώτη.' : `Βρήκες και τις ${all} ερωτήσεις με την πρώτη.`;
+    if (this.found === 0)
+      return 'Απάντησες σε όλες, καμία όμως με την πρώτη. Διάβασε ξανά τις εξηγήσεις και ξαναδοκίμασε.';
     return `Βρήκες με την πρώτη ${this.found} από τις ${all} ερωτήσεις.`;
   }
 }

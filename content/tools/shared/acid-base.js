@@ -24,7 +24,8 @@ const HIGHEST_CONCENTRATION = 10;
 const STRONGEST_WEAK = 1;
 
 export function checkConcentration({ value }) {
-  if (value > HIGHEST_CONCENTRATION) throw new Mistake('Για διαλύματα πυκνότερα από 10 mol/L ο υπολογισμός δεν ισχύει.');
+  if (value > HIGHEST_CONCENTRATION)
+    throw new Mistake('Για διαλύματα πυκνότερα από 10 mol/L ο υπολογισμός δεν ισχύει.');
 }
 
 export function checkConstant({ value }) {
@@ -41,8 +42,11 @@ export function ionisedShare({ isAcid, constant }, h) {
 // The pH at which the charges of all ions add up to zero. `solutes`: { isAcid, constant (number or null),
 // concentration } each.
 export function solvePh(solutes) {
-  const charge = h => solutes.reduce((sum, solute) =>
-    sum + (solute.isAcid ? -1 : 1) * solute.concentration * ionisedShare(solute, h), h - WATER / h);
+  const charge = h =>
+    solutes.reduce(
+      (sum, solute) => sum + (solute.isAcid ? -1 : 1) * solute.concentration * ionisedShare(solute, h),
+      h - WATER / h,
+    );
   let [low, high] = [LOWEST_PH, HIGHEST_PH];
   for (let i = 0; i < HALVINGS; ++i) {
     const middle = (low + high) / 2;

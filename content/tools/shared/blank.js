@@ -11,7 +11,9 @@ export function readAllButOne(fields) {
   if (empty.length > 1) {
     throw new Mistake(`Άφησε κενό μόνο ένα πεδίο. Τώρα λείπουν: ${empty.map(({ what }) => what).join(', ')}.`);
   }
-  const numbers = fields.filter(field => field !== empty[0]).map(({ name, text, what }) => [name, parsePositive(text, what)]);
+  const numbers = fields
+    .filter(field => field !== empty[0])
+    .map(({ name, text, what }) => [name, parsePositive(text, what)]);
   return {
     ...Object.fromEntries(numbers.map(([name, { value }]) => [name, value])),
     blank: empty[0].name,

@@ -4,8 +4,31 @@
 import { elements } from './elements.js';
 import { Mistake } from './mistake.js';
 
-const LOOKALIKES = { Α: 'A', Β: 'B', Ε: 'E', Ζ: 'Z', Η: 'H', Ι: 'I', Κ: 'K', Μ: 'M', Ν: 'N', Ο: 'O', Ρ: 'P', Τ: 'T',
-  Υ: 'Y', Χ: 'X', ο: 'o', α: 'a', ι: 'i', '•': '·', '∙': '·', '*': '·', '.': '·', '−': '-', '–': '-' };
+const LOOKALIKES = {
+  Α: 'A',
+  Β: 'B',
+  Ε: 'E',
+  Ζ: 'Z',
+  Η: 'H',
+  Ι: 'I',
+  Κ: 'K',
+  Μ: 'M',
+  Ν: 'N',
+  Ο: 'O',
+  Ρ: 'P',
+  Τ: 'T',
+  Υ: 'Y',
+  Χ: 'X',
+  ο: 'o',
+  α: 'a',
+  ι: 'i',
+  '•': '·',
+  '∙': '·',
+  '*': '·',
+  '.': '·',
+  '−': '-',
+  '–': '-',
+};
 const LOWERED = '₀₁₂₃₄₅₆₇₈₉';
 const RAISED = '⁰¹²³⁴⁵⁶⁷⁸⁹';
 const CLOSING = { '(': ')', '[': ']', '{': '}' };
@@ -15,7 +38,7 @@ const DEEPEST_NESTING = 20;
 
 // The text in plain characters.
 function plainFormula(text) {
-  const plain = [...text].map(c => (LOWERED.includes(c) ? LOWERED.indexOf(c) : LOOKALIKES[c] ?? c)).join('');
+  const plain = [...text].map(c => (LOWERED.includes(c) ? LOWERED.indexOf(c) : (LOOKALIKES[c] ?? c))).join('');
   return plain.replace(/[⁰¹²³⁴⁵⁶⁷⁸⁹]*[⁺⁻]/g, raisedCharge).replace(/\s/g, '');
 }
 
@@ -24,8 +47,11 @@ const raisedCharge = charge => `^${[...charge].map(c => ({ '⁺': '+', '⁻': '-
 // The symbol that someone meant who typed `run`: "NaCL", "h2o", "cl".
 function meantSymbol(before, run) {
   const capital = run.charAt(0).toUpperCase();
-  const candidates = [/[A-Z]/.test(before) ? before + run.charAt(0).toLowerCase() : '',
-    capital + run.slice(1, 2).toLowerCase(), capital];
+  const candidates = [
+    /[A-Z]/.test(before) ? before + run.charAt(0).toLowerCase() : '',
+    capital + run.slice(1, 2).toLowerCase(),
+    capital,
+  ];
   return candidates.find(symbol => symbol in elements);
 }
 
@@ -33,7 +59,9 @@ function unknownSymbol(text, at) {
   const run = /^[A-Za-z]?[a-z]*/.exec(text.slice(at))[0];
   if (run === '') return new Mistake(`Το «${text.charAt(at)}» δεν ανήκει σε χημικό τύπο.`, at);
   const meant = meantSymbol(text.charAt(at - 1), run);
-  const hint = meant ? ` Μήπως εννοείς «${meant}»; Το πρώτο γράμμα ενός συμβόλου είναι κεφαλαίο και το δεύτερο, αν υπάρχει, μικρό.` : '';
+  const hint = meant
+    ? ` Μήπως εννοείς «${meant}»; Το πρώτο γράμμα ενός συμβόλου είναι κεφαλαίο και το δεύτερο, αν υπάρχει, μικρό.`
+    : '';
   return new Mistake(`Κανένα στοιχείο δεν έχει το σύμβολο «${run}».${hint}`, at, run.length);
 }
 
@@ -111,8 +139,10 @@ class Parser {
   index(kind) {
     const digits = /^\d*/.exec(this.text.slice(this.at))[0];
     if (digits === '') return 1;
-    if (Number(digits) === 0) throw new Mistake('Ο αριθμός των ατόμων δεν μπορεί να είναι μηδέν.', this.at, digits.length);
-    if (Number(digits) > LARGEST_INDEX) throw new Mistake(`Ο αριθμός ${digits} είναι πολύ μεγάλος.`, this.at, digits.length);
+    if (Number(digits) === 0)
+      throw new Mistake('Ο αριθμός των ατόμων δεν μπορεί να είναι μηδέν.', this.at, digits.length);
+    if (Number(digits) > LARGEST_INDEX)
+      throw new Mistake(`Ο αριθμός ${digits} είναι πολύ μεγάλος.`, this.at, digits.length);
     this.at += digits.length;
     this.pieces.push(piece(digits, kind));
     return Number(digits);

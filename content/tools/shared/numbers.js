@@ -16,7 +16,10 @@ const POWER_OF_TEN = /^([+-]?)10\^([+-]?\d+)$/;
 const THOUSANDS = /^[1-9]\d{0,2}(\.\d{3})+(,\d+)?$/;
 
 const unraised = text => text.replace(/[⁰¹²³⁴⁵⁶⁷⁸⁹]/g, digit => RAISED.indexOf(digit)).replace(/⁻/g, '-');
-const plain = text => unraised(text).replace(/[\u2212\u2013]/g, '-').replace(/\s/g, '');
+const plain = text =>
+  unraised(text)
+    .replace(/[\u2212\u2013]/g, '-')
+    .replace(/\s/g, '');
 
 // The number in a text, as { value, digits }, where `digits` counts those that are significant. `what` names the
 // quantity in messages, with its article.
@@ -25,7 +28,9 @@ export function parseNumber(text, what) {
   if (typed === '') throw new Mistake(`Γράψε ${what}.`);
   if (THOUSANDS.test(typed)) {
     const asThousands = typed.replace(/\./g, '');
-    throw new Mistake(`Το «${typed}» διαβάζεται με δύο τρόπους. Γράψε «${asThousands}», χωρίς τελεία, ή βάλε κόμμα αν εννοείς δεκαδικά.`);
+    throw new Mistake(
+      `Το «${typed}» διαβάζεται με δύο τρόπους. Γράψε «${asThousands}», χωρίς τελεία, ή βάλε κόμμα αν εννοείς δεκαδικά.`,
+    );
   }
   const power = POWER_OF_TEN.exec(typed);
   if (power) return { value: Number(`${power[1]}1e${power[2]}`), digits: 1 };

@@ -44,8 +44,12 @@ export const textInput = (value = '', attributes = {}) =>
   part('input', { type: 'text', autocomplete: 'off', spellcheck: 'false', value, ...attributes });
 
 // `options`: [value, text] each.
-export const select = (options, chosen) => part('select', {},
-  options.map(([value, text]) => part('option', { value, selected: value === chosen }, text)));
+export const select = (options, chosen) =>
+  part(
+    'select',
+    {},
+    options.map(([value, text]) => part('option', { value, selected: value === chosen }, text)),
+  );
 
 export const checkbox = (label, attributes = {}) =>
   part('p', { class: 'choice' }, part('label', {}, part('input', { type: 'checkbox', ...attributes }), ' ', label));
@@ -59,14 +63,36 @@ export const formulaNodes = pieces => pieces.map(({ text, kind }) => (kind ? par
 // Rows of cells; those of a column named 'num' are aligned as numbers.
 export function dataTable(caption, columns, rows) {
   const kinds = columns.map(([, kind]) => (kind ? { class: kind } : {}));
-  const head = part('tr', {}, columns.map(([text], i) => part('th', { scope: 'col', ...kinds[i] }, text)));
-  const body = rows.map(row => part('tr', {}, row.map((cell, i) => part('td', kinds[i], cell))));
-  return part('table', { class: 'data' }, part('caption', {}, caption), part('thead', {}, head), part('tbody', {}, body));
+  const head = part(
+    'tr',
+    {},
+    columns.map(([text], i) => part('th', { scope: 'col', ...kinds[i] }, text)),
+  );
+  const body = rows.map(row =>
+    part(
+      'tr',
+      {},
+      row.map((cell, i) => part('td', kinds[i], cell)),
+    ),
+  );
+  return part(
+    'table',
+    { class: 'data' },
+    part('caption', {}, caption),
+    part('thead', {}, head),
+    part('tbody', {}, body),
+  );
 }
 
 // The text with the wrong part marked.
 const markedText = ({ text, at, length }) =>
-  part('p', { class: 'marked' }, text.slice(0, at), part('mark', {}, text.slice(at, at + length)), text.slice(at + length));
+  part(
+    'p',
+    { class: 'marked' },
+    text.slice(0, at),
+    part('mark', {}, text.slice(at, at + length)),
+    text.slice(at + length),
+  );
 
 // Fills `result` with what `make` returns. A mistake in what was typed is told there instead, and `control` is
 // marked as wrong.
@@ -85,10 +111,16 @@ export function show(result, control, make) {
 }
 
 // A form that does something by Enter or by its button.
-export const form = (button, act, ...children) => part('form', {
-  novalidate: true,
-  submit: event => {
-    event.preventDefault();
-    act();
-  },
-}, ...children, part('p', { class: 'buttons' }, part('button', { type: 'submit' }, button)));
+export const form = (button, act, ...children) =>
+  part(
+    'form',
+    {
+      novalidate: true,
+      submit: event => {
+        event.preventDefault();
+        act();
+      },
+    },
+    ...children,
+    part('p', { class: 'buttons' }, part('button', { type: 'submit' }, button)),
+  );

@@ -3,15 +3,22 @@
 import { SUBSTANCES } from './acid-base.js';
 import { field, part, textInput } from './parts.js';
 
-const OTHERS = [['acid', 'άλλο ασθενές οξύ'], ['base', 'άλλη ασθενής βάση']];
+const OTHERS = [
+  ['acid', 'άλλο ασθενές οξύ'],
+  ['base', 'άλλη ασθενής βάση'],
+];
 
 const groupOf = ({ isAcid, constant }) =>
   `${constant === null ? (isAcid ? 'Ισχυρά' : 'Ισχυρές') : isAcid ? 'Ασθενή' : 'Ασθενείς'} ${isAcid ? 'οξέα' : 'βάσεις'}`;
 
 function substanceSelect(chosen) {
   const options = list => list.map(([value, text]) => part('option', { value, selected: value === chosen }, text));
-  const group = label => part('optgroup', { label },
-    options(SUBSTANCES.filter(substance => groupOf(substance) === label).map(({ id, name }) => [id, name])));
+  const group = label =>
+    part(
+      'optgroup',
+      { label },
+      options(SUBSTANCES.filter(substance => groupOf(substance) === label).map(({ id, name }) => [id, name])),
+    );
   const labels = new Set(SUBSTANCES.map(groupOf));
   return part('select', {}, [...labels].map(group), part('optgroup', { label: 'Άλλη ουσία' }, options(OTHERS)));
 }
@@ -30,6 +37,8 @@ export function substanceFields(chosen) {
   };
   substance.addEventListener('change', take);
   take();
-  return { nodes: [field('Οξύ ή βάση', substance), constantField],
-    read: () => ({ isAcid: isAcid(), constant: constantField.hidden ? null : constant.value }) };
+  return {
+    nodes: [field('Οξύ ή βάση', substance), constantField],
+    read: () => ({ isAcid: isAcid(), constant: constantField.hidden ? null : constant.value }),
+  };
 }

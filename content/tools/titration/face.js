@@ -2,7 +2,16 @@ import { graph } from '../shared/graph.js';
 import { formatFixed, formatNumber } from '../shared/numbers.js';
 import { dataTable, field, form, liveRegion, makeTools, part, select, show, textInput } from '../shared/parts.js';
 import { substanceFields } from '../shared/substances.js';
-import { colourAt, curve, equivalenceVolume, INDICATORS, judgeIndicator, phAt, readTitration, stageAt } from './logic.js';
+import {
+  colourAt,
+  curve,
+  equivalenceVolume,
+  INDICATORS,
+  judgeIndicator,
+  phAt,
+  readTitration,
+  stageAt,
+} from './logic.js';
 
 // The slider goes to twice the volume of equivalence in so many steps.
 const STEPS = 200;
@@ -10,8 +19,10 @@ const TABLE_SHARES = [0, 0.5, 0.9, 0.99, 1, 1.01, 1.1, 2];
 
 const stageTexts = {
   start: () => 'Δεν έχει προστεθεί ακόμη πρότυπο διάλυμα.',
-  before: ({ isAcid, constant }) => (constant === null ? `Περισσεύει ${isAcid ? 'οξύ' : 'βάση'}.`
-    : 'Υπάρχουν μαζί το συζυγές ζεύγος οξέος και βάσης: ρυθμιστικό διάλυμα.'),
+  before: ({ isAcid, constant }) =>
+    constant === null
+      ? `Περισσεύει ${isAcid ? 'οξύ' : 'βάση'}.`
+      : 'Υπάρχουν μαζί το συζυγές ζεύγος οξέος και βάσης: ρυθμιστικό διάλυμα.',
   half: ({ isAcid }) => `Μισή εξουδετέρωση: ${isAcid ? 'pH = pKa' : 'pOH = pKb'}.`,
   equivalence: () => 'Ισοδύναμο σημείο: οξύ και βάση έχουν αντιδράσει ακριβώς.',
   after: ({ isAcid }) => `Περισσεύει πρότυπο διάλυμα: ${isAcid ? 'ισχυρή βάση' : 'ισχυρό οξύ'}.`,
@@ -27,25 +38,58 @@ function changeText({ from, to }, right) {
 function indicatorText(titration, indicator) {
   const judged = judgeIndicator(titration, indicator);
   const range = `${indicator.name} (pH ${formatFixed(indicator.from, 1)} – ${formatFixed(indicator.to, 1)}). `;
-  if (judged.isSuitable) return part('p', {}, part('b', { class: 'right' }, 'Κατάλληλος δείκτης: '), range, 'Το χρώμα του αλλάζει στο απότομο μέρος της καμπύλης.');
-  return part('p', {}, part('b', { class: 'false' }, 'Ακατάλληλος δείκτης: '), range, changeText(judged, equivalenceVolume(titration)));
+  if (judged.isSuitable)
+    return part(
+      'p',
+      {},
+      part('b', { class: 'right' }, 'Κατάλληλος δείκτης: '),
+      range,
+      'Το χρώμα του αλλάζει στο απότομο μέρος της καμπύλης.',
+    );
+  return part(
+    'p',
+    {},
+    part('b', { class: 'false' }, 'Ακατάλληλος δείκτης: '),
+    range,
+    changeText(judged, equivalenceVolume(titration)),
+  );
 }
 
 function drawing(titration, added, indicator) {
   const right = equivalenceVolume(titration);
   return graph({
-    x: { label: 'όγκος πρότυπου διαλύματος (mL)', from: 0, to: 2 * right }, y: { label: 'pH', from: 0, to: 14, step: 2 },
-    curve: curve(titration), bands: indicator ? [{ ...indicator, label: indicator.name }] : [],
-    marks: [{ x: right, y: phAt(titration, right), label: 'Ι.Σ.' }, { x: added, y: phAt(titration, added), isChosen: true }],
+    x: { label: 'όγκος πρότυπου διαλύματος (mL)', from: 0, to: 2 * right },
+    y: { label: 'pH', from: 0, to: 14, step: 2 },
+    curve: curve(titration),
+    bands: indicator ? [{ ...indicator, label: indicator.name }] : [],
+    marks: [
+      { x: right, y: phAt(titration, right), label: 'Ι.Σ.' },
+      { x: added, y: phAt(titration, added), isChosen: true },
+    ],
     description: `Καμπύλη ογκομέτρησης. Ισοδύναμο σημείο στα ${millilitres(right)}, με pH ${formatFixed(phAt(titration, right), 2)}.`,
   });
 }
 
 function valuesTable(titration) {
   const right = equivalenceVolume(titration);
-  return part('details', {}, part('summary', {}, 'Η καμπύλη σε πίνακα'),
-    dataTable('', [['Προστέθηκαν (mL)', 'num'], ['% του Ι.Σ.', 'num'], ['pH', 'num']], TABLE_SHARES.map(share =>
-      [formatNumber(share * right, 4), formatNumber(100 * share), formatFixed(phAt(titration, share * right), 2)])));
+  return part(
+    'details',
+    {},
+    part('summary', {}, 'Η καμπύλη σε πίνακα'),
+    dataTable(
+      '',
+      [
+        ['Προστέθηκαν (mL)', 'num'],
+        ['% του Ι.Σ.', 'num'],
+        ['pH', 'num'],
+      ],
+      TABLE_SHARES.map(share => [
+        formatNumber(share * right, 4),
+        formatNumber(100 * share),
+        formatFixed(phAt(titration, share * right), 2),
+      ]),
+    ),
+  );
 }
 
 // The part of the tool that follows the slider.
@@ -63,12 +107,27 @@ function makeBurette(indicator) {
     slider.setAttribute('aria-valuetext', `${millilitres(added)}, pH ${formatFixed(pH, 2)}`);
     picture.replaceChildren(drawing(titration, added, chosen));
     said.replaceChildren(
-      part('p', { class: 'equation' }, `${millilitres(added)} → pH = ${formatFixed(pH, 2)}`, part('small', {}, stageTexts[stageAt(titration, added)](titration))),
-      ...(chosen ? [part('p', {}, `Χρώμα του διαλύματος: ${colourAt(chosen, pH)}.`), indicatorText(titration, chosen)] : []));
+      part(
+        'p',
+        { class: 'equation' },
+        `${millilitres(added)} → pH = ${formatFixed(pH, 2)}`,
+        part('small', {}, stageTexts[stageAt(titration, added)](titration)),
+      ),
+      ...(chosen
+        ? [part('p', {}, `Χρώμα του διαλύματος: ${colourAt(chosen, pH)}.`), indicatorText(titration, chosen)]
+        : []),
+    );
   };
   slider.addEventListener('input', move);
   indicator.addEventListener('change', move);
-  const node = part('div', { hidden: true }, picture, field('Όγκος που προστέθηκε από την προχοΐδα', slider, 'Με τα βέλη του πληκτρολογίου προσθέτεις λίγο λίγο.'), said, values);
+  const node = part(
+    'div',
+    { hidden: true },
+    picture,
+    field('Όγκος που προστέθηκε από την προχοΐδα', slider, 'Με τα βέλη του πληκτρολογίου προσθέτεις λίγο λίγο.'),
+    said,
+    values,
+  );
   const pour = next => {
     titration = next;
     node.hidden = next === null;
@@ -80,22 +139,48 @@ function makeBurette(indicator) {
 
 function build(box, { substance = 'CH3COOH', concentration = '0,1', volume = '25', titrant = '0,1' }) {
   const solute = substanceFields(substance);
-  const [c, v, standard] = [concentration, volume, titrant].map(value => textInput(value, { class: 'number', inputmode: 'decimal' }));
+  const [c, v, standard] = [concentration, volume, titrant].map(value =>
+    textInput(value, { class: 'number', inputmode: 'decimal' }),
+  );
   const indicator = select([['', 'χωρίς δείκτη'], ...INDICATORS.map(({ id, name }) => [id, name])], '');
   const burette = makeBurette(indicator);
   const result = liveRegion();
   const calculate = () => {
     burette.pour(null);
     show(result, null, () => {
-      const titration = readTitration({ ...solute.read(), concentration: c.value, volume: v.value, titrant: standard.value });
+      const titration = readTitration({
+        ...solute.read(),
+        concentration: c.value,
+        volume: v.value,
+        titrant: standard.value,
+      });
       burette.pour(titration);
       const right = equivalenceVolume(titration);
-      return part('p', {}, `Ισοδύναμο σημείο (Ι.Σ.): ${millilitres(right)} πρότυπου διαλύματος ${titration.isAcid ? 'ισχυρής βάσης (NaOH)' : 'ισχυρού οξέος (HCl)'}, με pH ${formatFixed(phAt(titration, right), 2)}.`);
+      return part(
+        'p',
+        {},
+        `Ισοδύναμο σημείο (Ι.Σ.): ${millilitres(right)} πρότυπου διαλύματος ${titration.isAcid ? 'ισχυρής βάσης (NaOH)' : 'ισχυρού οξέος (HCl)'}, με pH ${formatFixed(phAt(titration, right), 2)}.`,
+      );
     });
   };
-  box.append(form('Σχεδίασε την καμπύλη', calculate, solute.nodes[0], part('div', { class: 'row' },
-    solute.nodes[1], field('Συγκέντρωση (mol/L)', c), field('Όγκος (mL)', v), field('Πρότυπο διάλυμα (mol/L)', standard)),
-  field('Δείκτης', indicator)), result, burette.node);
+  box.append(
+    form(
+      'Σχεδίασε την καμπύλη',
+      calculate,
+      solute.nodes[0],
+      part(
+        'div',
+        { class: 'row' },
+        solute.nodes[1],
+        field('Συγκέντρωση (mol/L)', c),
+        field('Όγκος (mL)', v),
+        field('Πρότυπο διάλυμα (mol/L)', standard),
+      ),
+      field('Δείκτης', indicator),
+    ),
+    result,
+    burette.node,
+  );
   calculate();
 }
 

@@ -6,9 +6,33 @@ import { parsePositive } from '../shared/numbers.js';
 // Ranges in which indicators change colour, with the names of both colours and how they are painted.
 export const INDICATORS = [
   { id: 'methyl-orange', name: 'ηλιανθίνη', from: 3.1, to: 4.4, low: 'κόκκινο', high: 'κίτρινο', colour: '#fbd9b8' },
-  { id: 'methyl-red', name: 'ερυθρό του μεθυλίου', from: 4.4, to: 6.2, low: 'κόκκινο', high: 'κίτρινο', colour: '#fbe3b0' },
-  { id: 'bromothymol-blue', name: 'μπλε της βρωμοθυμόλης', from: 6.0, to: 7.6, low: 'κίτρινο', high: 'μπλε', colour: '#cfe8cf' },
-  { id: 'phenolphthalein', name: 'φαινολοφθαλεΐνη', from: 8.3, to: 10.0, low: 'άχρωμο', high: 'κόκκινο', colour: '#f7cfe0' },
+  {
+    id: 'methyl-red',
+    name: 'ερυθρό του μεθυλίου',
+    from: 4.4,
+    to: 6.2,
+    low: 'κόκκινο',
+    high: 'κίτρινο',
+    colour: '#fbe3b0',
+  },
+  {
+    id: 'bromothymol-blue',
+    name: 'μπλε της βρωμοθυμόλης',
+    from: 6.0,
+    to: 7.6,
+    low: 'κίτρινο',
+    high: 'μπλε',
+    colour: '#cfe8cf',
+  },
+  {
+    id: 'phenolphthalein',
+    name: 'φαινολοφθαλεΐνη',
+    from: 8.3,
+    to: 10.0,
+    low: 'άχρωμο',
+    high: 'κόκκινο',
+    colour: '#f7cfe0',
+  },
 ];
 
 const CURVE_POINTS = 160;
@@ -18,12 +42,21 @@ const TOLERANCE = 0.01;
 
 // The sample and the standard solution, from what was typed: concentrations in mol/L, volume in mL. Throws a Mistake.
 export function readTitration({ isAcid, constant, concentration, volume, titrant }) {
-  const numbers = [parsePositive(concentration, 'τη συγκέντρωση του δείγματος'), parsePositive(titrant, 'τη συγκέντρωση του πρότυπου διαλύματος')];
+  const numbers = [
+    parsePositive(concentration, 'τη συγκέντρωση του δείγματος'),
+    parsePositive(titrant, 'τη συγκέντρωση του πρότυπου διαλύματος'),
+  ];
   numbers.forEach(checkConcentration);
   const k = constant === null ? null : parsePositive(constant, isAcid ? 'τη σταθερά Ka' : 'τη σταθερά Kb');
   if (k) checkConstant(k);
   const v = parsePositive(volume, 'τον όγκο του δείγματος');
-  return { isAcid, constant: k?.value ?? null, concentration: numbers[0].value, volume: v.value, titrant: numbers[1].value };
+  return {
+    isAcid,
+    constant: k?.value ?? null,
+    concentration: numbers[0].value,
+    volume: v.value,
+    titrant: numbers[1].value,
+  };
 }
 
 // The volume of the standard solution at the equivalence point, in mL.
@@ -32,8 +65,10 @@ export const equivalenceVolume = ({ concentration, volume, titrant }) => (concen
 export function phAt(titration, added) {
   const { isAcid, constant, concentration, volume, titrant } = titration;
   const total = volume + added;
-  return solvePh([{ isAcid, constant, concentration: (concentration * volume) / total },
-    { isAcid: !isAcid, constant: null, concentration: (titrant * added) / total }]);
+  return solvePh([
+    { isAcid, constant, concentration: (concentration * volume) / total },
+    { isAcid: !isAcid, constant: null, concentration: (titrant * added) / total },
+  ]);
 }
 
 // The volume at which the solution has a pH; negative or infinite when it does not get there.
@@ -59,7 +94,8 @@ export function judgeIndicator(titration, { from, to }) {
   const errorAt = pH => Math.abs(volumeAt(titration, pH) - right) / right;
   const [begin, end] = titration.isAcid ? [from, to] : [to, from];
   return {
-    from: volumeAt(titration, begin), to: volumeAt(titration, end),
+    from: volumeAt(titration, begin),
+    to: volumeAt(titration, end),
     isSuitable: errorAt((from + to) / 2) <= TOLERANCE && errorAt(from) <= 2 * TOLERANCE && errorAt(to) <= 2 * TOLERANCE,
   };
 }
