@@ -22,7 +22,6 @@ constexpr CSize kButtonSize{23, 22};
 constexpr int kPanelWidth = 144;
 /// Height of the panel without its caption.
 constexpr int kHeightBelowCaption = 28;
-constexpr int kSectionBarHeight = 50;
 
 /// Where the rectangle flies to: its size, and how far left of a window's right edge it ends.
 constexpr int kCornerSize = 20;
@@ -114,8 +113,8 @@ CRect CToolPanel::captionPlace() const {
     return CRect::at(place.left, place.top, place.Width(), machine().metric(SM_CYSMCAPTION));
 }
 
-void CToolPanel::ShowAtViewCorner(const CRect& view) {
-    MoveWindow(CRect::at(view.right - kPanelWidth, view.top + kSectionBarHeight, kPanelWidth,
+void CToolPanel::ShowAtCorner(const CRect& panes) {
+    MoveWindow(CRect::at(panes.right - kPanelWidth, panes.top, kPanelWidth,
                          machine().metric(SM_CYSMCAPTION) + kHeightBelowCaption));
     ShowWindow(SW_SHOW);
 }

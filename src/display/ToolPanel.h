@@ -17,8 +17,8 @@ class CToolPanel : public platform::CDialog {
     const platform::CRuntimeClass& GetRuntimeClass() const override { return runtimeClass; }
     const platform::MessageMap* GetMessageMap() const override;
 
-    /// Shows it for the first time, at the top right corner of the view below the section bar.
-    void ShowAtViewCorner(const platform::CRect& view);
+    /// Shows it for the first time, at the top right corner of the panes, which are given in screen pixels.
+    void ShowAtCorner(const platform::CRect& panes);
     /// Hides it; a rectangle flies from its place to the top right corner of the main window.
     void AnimateHide();
     /// Shows it where it was last, after a rectangle has flown there from the top right corner of the view.

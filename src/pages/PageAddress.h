@@ -17,10 +17,4 @@ struct PageAddress {
     friend bool operator==(const PageAddress&, const PageAddress&) = default;
 };
 
-/// Whether the view opens this page itself when it restores an address, rather than leave it to the browse
-/// selection: multiples of 10000, and the two start pages that are not.
-constexpr bool IsSectionStartPage(std::int32_t pageId) {
-    return pageId % 10000 == 0 || pageId == 170070 || pageId == 370001;
-}
-
 }  // namespace kalyxo

@@ -151,7 +151,7 @@ void CKalyxoView::OnToolbar() {
     if (m_panel.IsWindowVisible()) {
         m_panel.AnimateHide();
     } else if (m_bPanelNeverShown) {
-        m_panel.ShowAtViewCorner(GetWindowRect());
+        m_panel.ShowAtCorner(areaBelowBar().offset(ClientToScreen({0, 0})));
         m_bPanelNeverShown = false;
     } else {
         AnimateShow();

@@ -1,8 +1,22 @@
 #include "src/view/Navigator.h"
 
+#include <algorithm>
+
 #include "formats/SectionTable.h"
 
 namespace kalyxo {
+
+namespace {
+
+/// Whether a page is opened at once when its place is shown again, without the browse selection. Not all start
+/// pages are multiples of 10000, and not all of these are start pages.
+bool isStartPage(std::int32_t pageId) {
+    const auto sections = formats::sectionTable();
+    return pageId % 10000 == 0 ||
+           std::ranges::find(sections, pageId, &formats::Section::startPage) != sections.end();
+}
+
+}  // namespace
 
 void Navigator::OpenSection(std::int16_t sectionCode, std::int32_t pageNumber) {
     const bool needLayout = m_host.EnterPageMode(sectionCode);
@@ -25,7 +39,7 @@ void Navigator::OpenPage(std::int32_t pageNumber) {
 
 void Navigator::OpenPlace(const PageAddress& place) {
     m_address = place;
-    if (IsSectionStartPage(place.pageId)) {
+    if (isStartPage(place.pageId)) {
         OpenSection(place.sectionCode, place.pageId);
     } else {
         OpenTopic(place);

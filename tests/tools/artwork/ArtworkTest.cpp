@@ -2,8 +2,11 @@
 
 #include <QDir>
 #include <QImage>
-#include <array>
 #include <vector>
+
+#include "src/resources/ResourceTable.h"
+#include "src/view/BarLayout.h"
+#include "src/view/MainMenuLayout.h"
 
 namespace {
 
@@ -30,18 +33,23 @@ TEST(Artwork, AllButIconsAndPatternsHaveTwiceThePixelsToo) {
     EXPECT_EQ(pictures, 16);
 }
 
-TEST(Artwork, CursorsKnowTheirHotSpot) {
-    EXPECT_EQ(resource("cursor/131.png").text("HotSpot"), "9 15");
-    EXPECT_EQ(resource("cursor/132.png").text("HotSpot"), "16 9");
-    EXPECT_EQ(resource("cursor/145.png").text("HotSpot"), "12 5");
-    EXPECT_EQ(resource("cursor/192.png").text("HotSpot"), "5 3");
+TEST(Artwork, CursorsHaveTheHotSpotsThatTheProgramTakes) {
+    const auto cursors = kalyxo::ProgramResources().cursors;
+    EXPECT_FALSE(cursors.empty());
+    for (const platform::CursorResource& cursor : cursors) {
+        EXPECT_EQ(QImage(QStringLiteral(":/cursor/%1.png").arg(cursor.id)).text("HotSpot"),
+                  QStringLiteral("%1 %2").arg(cursor.hotSpot.x).arg(cursor.hotSpot.y))
+            << cursor.id;
+    }
 }
 
 TEST(Artwork, BarSlotsDifferFromOneAnotherInEveryState) {
     std::vector<QImage> slotPictures;
     for (const char* file : {"bitmap/195.png", "bitmap/196.png", "bitmap/197.png"}) {
-        for (const int x : {0, 52, 104, 156, 208, 260, 312, 364, 416, 520})
+        for (int slot = 0; slot <= kalyxo::kMainMenuSlot; ++slot) {
+            const int x = kalyxo::BarLayout().Place(slot, false).stripX;
             slotPictures.push_back(resource(file).copy(x + 1, 0, 51, 46));
+        }
     }
     for (std::size_t a = 0; a < slotPictures.size(); ++a)
         for (std::size_t b = 0; b < a; ++b) EXPECT_NE(slotPictures[a], slotPictures[b]) << a << ' ' << b;
@@ -79,14 +87,10 @@ TEST(Artwork, MainMenuFadesIntoTheBlackAroundIt) {
 }
 
 TEST(Artwork, MainMenuHasATileInEveryHotArea) {
-    constexpr std::array kHotAreas = {
-        QRect(40, 239, 59, 53), QRect(40, 161, 59, 53),  QRect(39, 84, 60, 53),
-        QRect(166, 20, 60, 53), QRect(285, 20, 60, 53),  QRect(395, 20, 60, 53),
-        QRect(530, 85, 59, 52), QRect(529, 162, 59, 52), QRect(529, 240, 60, 52),
-    };
     const QImage menu = mainMenu();
     const QColor black(Qt::black);
-    for (const QRect& area : kHotAreas) {
+    for (const kalyxo::MainMenuArea& hot : kalyxo::MainMenuLayout::Areas()) {
+        const QRect area(QPoint(hot.left, hot.top), QPoint(hot.right, hot.bottom));
         const QPoint centre = area.center();
         for (const QPoint inside : {QPoint(area.left(), centre.y()), QPoint(area.right(), centre.y()),
                                     QPoint(centre.x(), area.top()), QPoint(centre.x(), area.bottom())})
