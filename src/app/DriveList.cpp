@@ -1,6 +1,8 @@
 #include "src/app/DriveList.h"
 
+#include "platform/base/Resources.h"
 #include "platform/files/FileSystem.h"
+#include "src/resources/ResourceIds.h"
 
 namespace kalyxo {
 
@@ -9,23 +11,24 @@ using platform::FileSystem;
 
 namespace {
 
-std::string_view kindName(DriveType type) {
+/// The text that names the kind, 0 when there is none.
+platform::UINT kindName(DriveType type) {
     switch (type) {
         case DriveType::removable:
-            return "Removeable Media";
+            return IDS_REMOVABLE_DRIVE;
         case DriveType::fixed:
-            return "Local Disk";
+            return IDS_FIXED_DRIVE;
         case DriveType::remote:
-            return "Network drive";
+            return IDS_NETWORK_DRIVE;
         case DriveType::cdrom:
-            return "Compact Disk";
+            return IDS_CD_DRIVE;
         case DriveType::ramdisk:
-            return "RAM Disk";
+            return IDS_RAM_DRIVE;
         case DriveType::unknown:
         case DriveType::noRoot:
             break;
     }
-    return {};
+    return 0;
 }
 
 }  // namespace
@@ -33,7 +36,7 @@ std::string_view kindName(DriveType type) {
 std::string DriveEntry(DriveType type, char letter) {
     if (type == DriveType::noRoot) return {};
     const std::string drive{letter, ':'};
-    const std::string_view name = kindName(type);
+    const std::string_view name = platform::LoadString(kindName(type));
     return name.empty() ? drive : std::string(name) + " (" + drive + ")";
 }
 

@@ -2,10 +2,10 @@
 
 #include <utility>
 
+#include "platform/base/Resources.h"
 #include "platform/dialogs/DataExchange.h"
 #include "platform/dialogs/Progress.h"
 #include "platform/machine/Machine.h"
-#include "platform/text/GreekLiteral.h"
 #include "platform/windows/MessageMap.h"
 #include "src/app/DriveList.h"
 #include "src/resources/ResourceIds.h"
@@ -13,14 +13,10 @@
 namespace kalyxo {
 
 using namespace platform;
-using namespace platform::literals;
 
 const CRuntimeClass CFindFolderDlg::runtimeClass{"CFindFolderDlg"};
 
-CFindFolderDlg::CFindFolderDlg(FolderPurpose purpose)
-    : CDialog(IDD_FIND_FOLDER),
-      m_strPrompt(purpose == FolderPurpose::storeBookmarks ? "Select folder to store your bookmarks"
-                                                           : "Please locate the Kalyxo CD-ROM") {}
+CFindFolderDlg::CFindFolderDlg(FolderPurpose mode) : CDialog(IDD_FIND_FOLDER), m_nMode(mode) {}
 
 const MessageMap* CFindFolderDlg::GetMessageMap() const {
     static constexpr MessageMapEntry entries[] = {
@@ -34,11 +30,12 @@ const MessageMap* CFindFolderDlg::GetMessageMap() const {
 void CFindFolderDlg::DoDataExchange(CDataExchange& exchange) {
     DDX_Control(exchange, IDC_FOLDER_TREE, m_tree);
     DDX_Control(exchange, IDC_FOLDER_DRIVES, m_drives);
-    DDX_Text(exchange, IDC_FOLDER_PROMPT, m_strPrompt);
 }
 
 bool CFindFolderDlg::OnInitDialog() {
     const bool defaultFocus = CDialog::OnInitDialog();
+    const bool bookmarks = m_nMode == FolderPurpose::storeBookmarks;
+    SetDlgItemText(IDC_FOLDER_PROMPT, LoadString(bookmarks ? IDS_LOCATE_BOOKMARKS : IDS_LOCATE_CONTENT));
     m_strFolder.clear();
     const DriveList drives = ListDrives(machine().files());
     for (const std::string& entry : drives.entries) m_drives.AddString(entry);
@@ -75,7 +72,7 @@ bool CFindFolderDlg::readSubfolders(HTREEITEM item) {
 }
 
 bool CFindFolderDlg::insertSubfolders(HTREEITEM item) {
-    CProgress progress("Διαβάζονται οι φάκελοι…"_gr);
+    CProgress progress(LoadString(IDS_READING_FOLDERS));
     const ProgressStep step = progress.Step();
     const std::vector<std::string> names = ListSubfolders(machine().files(), pathOf(item) + "\\", step);
     for (std::size_t i = 0; i < names.size() && step(i, names.size()); ++i) {

@@ -13,7 +13,7 @@ namespace kalyxo {
 /// opened, and not again.
 class CFindFolderDlg : public platform::CDialog {
   public:
-    explicit CFindFolderDlg(FolderPurpose purpose);
+    explicit CFindFolderDlg(FolderPurpose mode);
 
     static const platform::CRuntimeClass runtimeClass;
     const platform::CRuntimeClass& GetRuntimeClass() const override { return runtimeClass; }
@@ -39,7 +39,7 @@ class CFindFolderDlg : public platform::CDialog {
     std::string m_strFolder;
     platform::CTreeCtrl m_tree;
     platform::CComboBox m_drives;
-    std::string m_strPrompt;
+    FolderPurpose m_nMode;
 };
 
 }  // namespace kalyxo

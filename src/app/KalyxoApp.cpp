@@ -6,7 +6,6 @@
 #include "platform/dialogs/MessageBox.h"
 #include "platform/framework/Wait.h"
 #include "platform/machine/Machine.h"
-#include "platform/text/GreekLiteral.h"
 #include "platform/windows/MessageMap.h"
 #include "src/app/AboutDlg.h"
 #include "src/app/FindFolderDlg.h"
@@ -120,10 +119,9 @@ bool CKalyxoApp::PreTranslateMessage(const MSG& message) {
 std::string ColourDepthWarning(int bitsPerPixel) {
     constexpr int enough = 16;
     if (bitsPerPixel >= enough) return {};
-    return std::string("Η οθόνη σας απεικονίζει μόνο "_gr) + (bitsPerPixel == 8 ? "256" : "16") +
-           std::string(
-               " χρώματα.\r\nΓια καλύτερα αποτελέσματα προτείνεται να ρυθμίσετε την οθόνη σας ώστε να "
-               "απεικονίζει χιλιάδες ή εκατομμύρια χρώματα."_gr);
+    return std::string(LoadString(IDS_SCREEN_SHOWS_ONLY))
+        .append(bitsPerPixel == 8 ? "256" : "16")
+        .append(LoadString(IDS_SO_MANY_COLOURS));
 }
 
 }  // namespace kalyxo

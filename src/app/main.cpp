@@ -4,27 +4,25 @@
 #include "platform/framework/Desktop.h"
 #include "platform/framework/Run.h"
 #include "platform/text/CodePage1253.h"
-#include "platform/text/GreekLiteral.h"
 #include "src/app/KalyxoApp.h"
 #include "src/host/OwnMachine.h"
+#include "src/resources/ResourceIds.h"
 #include "src/resources/ResourceTable.h"
 
 namespace {
-
-using namespace platform::literals;
 
 constexpr int kNoMachine = 1;
 
 /// `problem` names the file, in UTF-8.
 void tellNoMachine(const std::string& problem) {
-    platform::AfxMessageBox(std::string("Το Kalyxo δεν μπορεί να ξεκινήσει.\r\n\r\n"_gr) +
+    platform::AfxMessageBox(std::string(platform::LoadString(kalyxo::IDS_CANNOT_START)) +
                             platform::fromUtf8(problem) +
-                            std::string("\r\n\r\nΔιορθώστε ή διαγράψτε το αρχείο και ξεκινήστε πάλι."_gr));
+                            std::string(platform::LoadString(kalyxo::IDS_MEND_FILE)));
 }
 
 /// Null when there is none; the user then knows why.
 std::unique_ptr<platform::Machine> openMachine(const platform::Desktop& desktop) {
-    std::optional<platform::CProgress> progress("Ετοιμάζεται ο φάκελος του Kalyxo…"_gr);
+    std::optional<platform::CProgress> progress(platform::LoadString(kalyxo::IDS_PREPARING_MACHINE));
     auto opened = kalyxo::OpenOwnMachine(
         kalyxo::OwnMachineFolder(), kalyxo::FindInstalledFiles(kalyxo::RunningProgramsFolder()),
         {desktop.screen(), desktop.metrics(), desktop.printer()}, kalyxo::PresentMedia(), progress->Step());

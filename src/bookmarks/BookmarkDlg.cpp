@@ -9,14 +9,12 @@
 #include "platform/framework/WinApp.h"
 #include "platform/input/KeyboardFocus.h"
 #include "platform/machine/Machine.h"
-#include "platform/text/GreekLiteral.h"
 #include "platform/windows/MessageMap.h"
 #include "src/resources/ResourceIds.h"
 
 namespace kalyxo {
 
 using namespace platform;
-using namespace platform::literals;
 
 namespace {
 
@@ -87,12 +85,12 @@ bool CBookmarkDlg::OnInitDialog() {
 
 /// False when the user did not want to wait.
 bool CBookmarkDlg::fillTree() {
-    CProgress progress("Ανοίγουν οι σελιδοδείκτες…"_gr);
+    CProgress progress(LoadString(IDS_OPENING_BOOKMARKS));
     return m_tree.Fill(m_list, progress.Step());
 }
 
 void CBookmarkDlg::collapse() {
-    SetWindowText("Προσθήκη σελιδοδείκτη"_gr);
+    SetWindowText(LoadString(IDS_BOOKMARK_ADD));
     const CSize size = windowSize(kCollapsed);
     const int x = (machine().metric(SM_CXSCREEN) - size.cx) / 2;
     const int y = (machine().metric(SM_CYSCREEN) - dialogPixels(kExpanded).cy) / 2;
@@ -102,7 +100,7 @@ void CBookmarkDlg::collapse() {
 }
 
 void CBookmarkDlg::openForGoto() {
-    SetWindowText("Μετάβαση σε σελιδοδείκτη"_gr);
+    SetWindowText(LoadString(IDS_BOOKMARK_GOTO));
     EnableDlgItem(IDC_BOOKMARK_NAME, false);
     m_advanced.EnableWindow(false);
     m_tree.SetFocus();
@@ -161,7 +159,7 @@ bool CBookmarkDlg::nameTaken(Item item, const std::string& name) {
     if (folder) {
         MessageBox(LoadString(IDS_BOOKMARK_NAME_TAKEN), LoadString(IDS_BOOKMARK_RENAME));
     } else {
-        MessageBox("A folder with this name already exists", "Rename Folder");
+        MessageBox(LoadString(IDS_FOLDER_NAME_TAKEN), LoadString(IDS_FOLDER_NAME_TAKEN_CAPTION));
     }
     return true;
 }
@@ -186,20 +184,18 @@ void CBookmarkDlg::OnDelete() {
 }
 
 void CBookmarkDlg::deleteBookmark(Item item) {
-    if (confirmed("Είστε βέβαιοι ότι θέλετε να διαγράψετε το σελιδοδείκτη;"_gr, "Διαγραφή σελιδοδείκτη"_gr)) {
+    if (confirmed(LoadString(IDS_BOOKMARK_DELETE_QUESTION), LoadString(IDS_BOOKMARK_DELETE))) {
         m_tree.DeleteItem(item);
     }
 }
 
 void CBookmarkDlg::deleteFolder(Item folder) {
-    constexpr std::string_view caption = "Διαγραφή φακέλου"_gr;
+    const std::string_view caption = LoadString(IDS_FOLDER_DELETE);
     if (isOnlyFolder(folder)) {
-        MessageBox("Δεν είναι δυνατή η διαγραφή του τελευταίου φακέλου."_gr, caption);
+        MessageBox(LoadString(IDS_LAST_FOLDER_STAYS), caption);
         return;
     }
-    if (!confirmed("Είστε βέβαιοι ότι θέλετε να διαγράψετε ένα φάκελο και όλα του τα περιεχόμενα;"_gr,
-                   caption))
-        return;
+    if (!confirmed(LoadString(IDS_FOLDER_DELETE_QUESTION), caption)) return;
     if (m_tree.RecordOf(folder) == m_list.CurrentFolder()) m_list.SetCurrentFolder(nullptr);
     m_tree.DeleteItem(folder);
 }

@@ -4,11 +4,10 @@
 #include <unordered_map>
 #include <utility>
 
-#include "platform/text/GreekLiteral.h"
+#include "platform/base/Resources.h"
+#include "src/resources/ResourceIds.h"
 
 namespace kalyxo {
-
-using namespace platform::literals;
 
 std::optional<std::size_t> BookmarkList::CurrentFolderIndex() const {
     const auto found = std::ranges::find_if(
@@ -20,7 +19,7 @@ std::optional<std::size_t> BookmarkList::CurrentFolderIndex() const {
 void BookmarkList::ResetBookmarks() {
     BookmarkArray records;
     records.push_back(std::make_unique<CBMFolder>());
-    records.front()->name = "Οι σελιδοδείκτες μου"_gr;
+    records.front()->name = platform::LoadString(IDS_FOLDER_DEFAULT_NAME);
     Replace(std::move(records));
 }
 

@@ -4,21 +4,19 @@
 
 #include "platform/base/Resources.h"
 #include "platform/dialogs/DataExchange.h"
-#include "platform/text/GreekLiteral.h"
 #include "src/resources/ResourceIds.h"
 
 namespace kalyxo {
 
 using namespace platform;
-using namespace platform::literals;
 
 namespace {
 
 constexpr int kLongestFolderName = 60;
 
 std::string_view captionOf(NameFor mode) {
-    if (mode == NameFor::newFolder) return "Νέος φάκελος"_gr;
-    return mode == NameFor::folder ? "Μετονομασία φακέλου"_gr : "Μετονομασία σελιδοδείκτη"_gr;
+    if (mode == NameFor::newFolder) return LoadString(IDS_FOLDER_NEW);
+    return LoadString(mode == NameFor::folder ? IDS_FOLDER_RENAME : IDS_BOOKMARK_RENAME);
 }
 
 }  // namespace

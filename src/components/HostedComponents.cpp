@@ -63,7 +63,7 @@ std::optional<std::string> HostedComponents::Create(CWnd& view, const ComponentS
     periodicTable.SetDataFolder(surroundings.dataFolder);
 
     if (!creation.create(select, "", IDC_SELECT, kSelectFile)) {
-        return "Browser selection component not installed correctly";
+        return std::string(platform::LoadString(IDS_NO_BROWSE_SELECTION));
     }
     select.Initialise(kSelectHostCode, surroundings.dataFolder, view.GetSafeHwnd());
     selectWindows.edit = select.GetEditWindow();
@@ -71,21 +71,21 @@ std::optional<std::string> HostedComponents::Create(CWnd& view, const ComponentS
     versions.m_strVerSelect = select.Version();
 
     if (!creation.create(dataAnalyser, "DataAn", IDC_DATA_ANALYSER, kDataAnalFile)) {
-        return "Data Analyser component not installed correctly";
+        return std::string(platform::LoadString(IDS_NO_DATA_ANALYSER));
     }
     dataAnalyser.Initialise(kDataAnalHostCode, surroundings.dataFolder);
     versions.m_strVerDataAn = dataAnalyser.Version();
 
     CMolCtrl molCtrl;
     if (!creation.create(molCtrl, "MolCtrl", IDC_VERSION_CHECK, kMolCtrlFile)) {
-        return "Molecule Controller component not installed correctly";
+        return std::string(platform::LoadString(IDS_NO_MOLECULE_CONTROLLER));
     }
     versions.m_strVerMolCtrl = molCtrl.Version();
     molCtrl.DestroyWindow();
 
     CKzZoom zoom;
     if (!creation.create(zoom, "KzZoom", IDC_VERSION_CHECK, kKzZoomFile)) {
-        return "Molecule Zoom component not installed correctly";
+        return std::string(platform::LoadString(IDS_NO_MOLECULE_ZOOM));
     }
     versions.m_strVerZoom = zoom.GetVersion();
     zoom.DestroyWindow();

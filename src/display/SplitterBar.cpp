@@ -4,8 +4,8 @@
 #include <array>
 
 #include "platform/base/ControlMessages.h"
+#include "platform/base/Resources.h"
 #include "platform/input/KeyboardFocus.h"
-#include "platform/text/GreekLiteral.h"
 #include "platform/windows/MessageMap.h"
 #include "platform/windows/WindowDC.h"
 #include "src/display/FrameColours.h"
@@ -15,7 +15,6 @@
 namespace kalyxo {
 
 using namespace platform;
-using namespace platform::literals;
 
 namespace {
 
@@ -64,7 +63,7 @@ bool CSplitterBar::Create(int x, int y, int length, bool horizontal, int min, in
     m_cursor = CCursor::resource(horizontal ? IDC_RESIZE_VERTICAL : IDC_RESIZE_HORIZONTAL);
     if (!CreateWnd("ESGSplit", WS_CHILD | WS_VISIBLE | WS_TABSTOP, barRect(length), parent, IDC_SPLITTER))
         return false;
-    SetAccessibleName("Διαχωριστής"_gr);
+    SetAccessibleName(LoadString(IDS_SPLITTER));
     return true;
 }
 

@@ -4,16 +4,15 @@
 #include "platform/input/KeyboardFocus.h"
 #include "platform/machine/Machine.h"
 #include "platform/qt/ScreenRectangle.h"
-#include "platform/text/GreekLiteral.h"
 #include "platform/windows/MessageMap.h"
 #include "src/display/FlightPath.h"
 #include "src/resources/CommandIds.h"
+#include "src/resources/MenuTable.h"
 #include "src/resources/ResourceIds.h"
 
 namespace kalyxo {
 
 using namespace platform;
-using namespace platform::literals;
 
 namespace {
 
@@ -29,18 +28,19 @@ constexpr int kCornerDistance = 24;
 constexpr COLORREF kFlightColour = RGB(0, 0, 128);
 constexpr std::uint32_t kFrameMs = 20;
 
+/// A button, which bears the name of a menu command.
 struct Tool {
     UINT picture;
-    std::string_view name;
+    UINT command;
 };
 
 constexpr std::array<Tool, 6> kTools = {{
-    {IDB_TOOL_COPY, "Αντιγραφή"_gr},
-    {IDB_TOOL_PASTE, "Επικόλληση"_gr},
-    {IDB_TOOL_PRINT, "Εκτύπωση"_gr},
-    {IDB_TOOL_BACK, "Επιστροφή"_gr},
-    {IDB_TOOL_FORWARD, "Επόμενο"_gr},
-    {IDB_TOOL_SEARCH, "Αναζήτηση"_gr},
+    {IDB_TOOL_COPY, ID_EDIT_COPY},
+    {IDB_TOOL_PASTE, ID_EDIT_PASTE},
+    {IDB_TOOL_PRINT, ID_FILE_PRINT},
+    {IDB_TOOL_BACK, ID_BACK},
+    {IDB_TOOL_FORWARD, ID_FORWARD},
+    {IDB_TOOL_SEARCH, ID_SEARCH},
 }};
 
 CRect corner(int right, int top) { return CRect::at(right - kCornerDistance, top, kCornerSize, kCornerSize); }
@@ -71,7 +71,8 @@ int CToolPanel::OnCreate(CREATESTRUCT& cs) {
     int x = 0;
     for (std::size_t i = 0; i < m_buttons.size(); ++i) {
         m_buttons[i].Create(CRect::at(x, 0, kButtonSize.cx, kButtonSize.cy), *this,
-                            kFirstButton + static_cast<UINT>(i), kTools[i].picture, kTools[i].name);
+                            kFirstButton + static_cast<UINT>(i), kTools[i].picture,
+                            MenuItemText(kTools[i].command));
         x += kButtonSize.cx;
     }
     return 0;

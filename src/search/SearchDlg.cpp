@@ -3,19 +3,18 @@
 #include <unordered_map>
 #include <utility>
 
+#include "platform/base/Resources.h"
 #include "platform/dialogs/DataExchange.h"
 #include "platform/dialogs/MessageBox.h"
 #include "platform/dialogs/Progress.h"
 #include "platform/framework/WinApp.h"
 #include "platform/input/KeyboardFocus.h"
-#include "platform/text/GreekLiteral.h"
 #include "platform/windows/MessageMap.h"
 #include "src/resources/ResourceIds.h"
 
 namespace kalyxo {
 
 using namespace platform;
-using namespace platform::literals;
 
 namespace {
 
@@ -75,7 +74,7 @@ bool CSearchDlg::OnInitDialog() {
 
 /// False when the user did not want to wait.
 bool CSearchDlg::loadIndex() {
-    CProgress progress("Διαβάζεται το ευρετήριο των λέξεων…"_gr);
+    CProgress progress(LoadString(IDS_READING_WORDS));
     const ProgressStep step = progress.Step();
     const std::vector<std::string> words = m_index.LoadWordIndex(step);
     std::size_t added = 0;
@@ -85,14 +84,14 @@ bool CSearchDlg::loadIndex() {
     }
     m_index.LoadAlternatives(step);
     if (progress.Cancelled()) return false;
-    if (!m_index.LoadFirstLetterTable()) AfxMessageBox("Too many PR1 recs");
+    if (!m_index.LoadFirstLetterTable()) AfxMessageBox(LoadString(IDS_TOO_MANY_FIRST_LETTERS));
     return true;
 }
 
 void CSearchDlg::insertColumns() {
-    m_results.InsertColumn("Ονομασία"_gr, m_state.nameWidth);
-    m_results.InsertColumn("Θέμα"_gr, m_state.topicWidth);
-    m_results.InsertColumn("Υποομάδα"_gr, m_state.subgroupWidth);
+    m_results.InsertColumn(LoadString(IDS_COLUMN_NAME), m_state.nameWidth);
+    m_results.InsertColumn(LoadString(IDS_COLUMN_TOPIC), m_state.topicWidth);
+    m_results.InsertColumn(LoadString(IDS_COLUMN_SUBGROUP), m_state.subgroupWidth);
 }
 
 void CSearchDlg::restoreSearch() {
@@ -144,7 +143,7 @@ void CSearchDlg::RunSearch() {
     m_results.DeleteAllItems();
     EnableDlgItem(IDOK, false);
     HitTitles titles(m_files, m_dataFolder);
-    CProgress progress("Αναζητείται η λέξη…"_gr);
+    CProgress progress(LoadString(IDS_SEARCHING_WORD));
     for (const ResultRow& row : FindRows(m_index, listSearchWords(), titles, progress.Step()))
         AddResultRow(row);
 }

@@ -8,8 +8,8 @@ namespace kalyxo {
 
 namespace {
 
-/// Whether a page is opened at once when its place is shown again, without the browse selection. Not all start
-/// pages are multiples of 10000, and not all of these are start pages.
+/// Whether a page is opened at once when its place is shown again, without the browse selection. Not all
+/// start pages are multiples of 10000, and not all of these are start pages.
 bool isStartPage(std::int32_t pageId) {
     const auto sections = formats::sectionTable();
     return pageId % 10000 == 0 ||
