@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "controls/common/Version.h"
+#include "controls/contract/HostMessages.h"
 #include "controls/select/FilterField.h"
 #include "controls/select/SelectPane.h"
 #include "controls/select/TopicView.h"
@@ -50,7 +51,7 @@ SelectComponent::SelectComponent(platform::ComponentSite& site, QWidget* parent)
                                       });
     auxWindow_ = site.registerWindow(pane_->view(), "KzSelectList",
                                      [this](platform::UINT message, platform::WPARAM, platform::LPARAM) {
-                                         if (message == enterPressedMessage && pane_) pane_->openFirst();
+                                         if (message == enterInSelectEdit && pane_) pane_->openFirst();
                                          return platform::LRESULT{0};
                                      });
 }

@@ -17,9 +17,6 @@ class SelectPane;
 /// The class id of the browse selection.
 inline constexpr std::string_view classId = "5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E102";
 
-/// Sent to the window of `getAuxHandle` when Enter is pressed in the text field.
-inline constexpr platform::UINT enterPressedMessage = 0x49B7;
-
 /// The browse selection as its host sees it.
 class SelectComponent : public platform::Component {
   public:

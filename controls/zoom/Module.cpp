@@ -1,5 +1,6 @@
 #include <array>
 
+#include "controls/contract/HostMessages.h"
 #include "controls/zoom/MoleculeZoom.h"
 #include "platform/components/ComponentModule.h"
 
@@ -16,7 +17,7 @@ void DllRegisterServer(platform::ModuleRegistrar& registrar) {
 }
 
 const platform::ComponentModule* DllGetClassObject() {
-    static constexpr std::array commands = {controls::zoom::showEnlargedView};
+    static constexpr std::array commands = {controls::showEnlargedView};
     static constexpr platform::ComponentModule module{.classId = controls::zoom::classId,
                                                       .create = controls::zoom::createMoleculeZoom,
                                                       .pagePart = {":/zoom/zoom.html", commands}};

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "controls/contract/HostMessages.h"
 #include "platform/base/Resources.h"
 #include "platform/dialogs/MessageBox.h"
 #include "platform/framework/Wait.h"
@@ -24,10 +25,8 @@ using namespace platform;
 
 namespace {
 
-/// Sent to the browse selection in place of Enter in its text field.
-constexpr UINT kEnterInSelectEdit = 18871;
 constexpr std::uint32_t kStartUpWaitMs = 2000;
-constexpr std::size_t kLongestDirectory = 256;
+constexpr std::size_t kMaxDirectory = 256;
 
 std::optional<std::string> askForFolder(FolderPurpose purpose) {
     CFindFolderDlg chooser(purpose);
@@ -71,7 +70,7 @@ bool CKalyxoApp::ReadRegistrySettings() {
         return false;
     }
     const ProgramLocation location =
-        LocateProgram(machine().programPath(), key->queryString("Directory", kLongestDirectory));
+        LocateProgram(machine().programPath(), key->queryString("Directory", kMaxDirectory));
     m_strProgramFolder = location.folder;
     m_bOutsideInstallFolder = location.outsideInstallFolder;
     const WindowLayout layout = ReadLayout(*key, screenSize());
@@ -110,7 +109,7 @@ bool CKalyxoApp::PreTranslateMessage(const MSG& message) {
     if (message.message == WM_RBUTTONDOWN || message.message == WM_RBUTTONUP) return true;
     if (message.message == WM_KEYDOWN && message.wParam == VK_RETURN && m_hwndSelectEdit != 0 &&
         message.hwnd == m_hwndSelectEdit) {
-        platform::SendMessage(m_hwndSelectTarget, kEnterInSelectEdit);
+        platform::SendMessage(m_hwndSelectTarget, controls::enterInSelectEdit);
         return true;
     }
     return CWinApp::PreTranslateMessage(message);

@@ -1,5 +1,6 @@
 #include "src/view/KalyxoView.h"
 
+#include "controls/contract/HostMessages.h"
 #include "platform/base/Resources.h"
 #include "platform/dialogs/MessageBox.h"
 #include "platform/framework/FrameWnd.h"
@@ -22,7 +23,7 @@ constexpr UINT kTimerId = 1;
 constexpr int kTimerMs = 250;
 constexpr COLORREF kBlack = RGB(0, 0, 0);
 
-/// Identifiers that components and the splitter put into the second parameter of WM_COMMAND.
+/// What components and the splitter put into the second parameter of WM_COMMAND.
 constexpr LPARAM kRefreshBrowser = 9822;
 constexpr LPARAM kSplitterMoved = IDC_SPLITTER;
 
@@ -132,7 +133,7 @@ void CKalyxoView::OnSize(UINT type, int width, int height) {
 
 bool CKalyxoView::OnCommand(WPARAM wParam, LPARAM lParam) {
     switch (lParam) {
-        case kShowEnlargedView:
+        case controls::showEnlargedView:
             ShowEnlargedView();
             return true;
         case kRefreshBrowser:

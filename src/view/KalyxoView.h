@@ -29,7 +29,7 @@ class CKalyxoView : public platform::CView, private ContentHost {
     void OnDraw(platform::CDC& dc) override;
     std::vector<platform::DrawnPart> DrawnParts() const override { return m_items.Parts(); }
     void PushDrawnPart(int index) override { openSlot(OpenableItems::SlotFor(index)); }
-    /// Shows where the arrow keys go on from.
+    /// Chooses the first item, so that the user sees where the arrow keys start.
     void OnTabbedTo() override { chooseByArrow(platform::VK_RIGHT); }
     /// Has the periodic table drawn anew, since the frame has been minimised.
     void OnFrameMinimised() { m_components.periodicTable.Redraw(); }
@@ -37,9 +37,6 @@ class CKalyxoView : public platform::CView, private ContentHost {
     ViewInspection Inspection() const;
 
   private:
-    /// In the second parameter of WM_COMMAND, from a component or the view itself: opens the enlarged view.
-    static constexpr platform::LPARAM kShowEnlargedView = 9821;
-
     // Window messages
     void OnSize(platform::UINT type, int width, int height);
     bool OnSetCursor() { return m_items.ShowHand(); }
@@ -118,7 +115,7 @@ class CKalyxoView : public platform::CView, private ContentHost {
     GlossaryPopup m_glossary;
     CToolPanel m_panel;
     bool m_bPanelNeverShown = true;
-    /// Until the first paint neither navigations nor the mouse are looked at.
+    /// Before the first paint, navigations and the mouse are ignored.
     bool m_bInterceptionSuppressed = true;
     bool m_bStartupFailed = false;
 };

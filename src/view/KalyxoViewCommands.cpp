@@ -1,3 +1,4 @@
+#include "controls/contract/HostMessages.h"
 #include "platform/machine/Machine.h"
 #include "platform/windows/MessageMap.h"
 #include "src/pages/EnlargedViewDlg.h"
@@ -185,7 +186,7 @@ bool CKalyxoView::OnBeforeNavigate(const std::string& url, std::int32_t, const s
     if (IsEnlargedViewLink(url)) {
         *cancel = true;
         // Not from within the browser's question, during which no page can be loaded.
-        PostMessage(WM_COMMAND, 0, kShowEnlargedView);
+        PostMessage(WM_COMMAND, 0, controls::showEnlargedView);
     } else if (const std::optional<std::string> file = GlossaryFile(url)) {
         *cancel = true;
         showDefinition(*file);

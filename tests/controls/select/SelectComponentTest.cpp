@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "controls/contract/HostMessages.h"
 #include "formats/SectionTitles.h"
 #include "formats/TitleLists.h"
 #include "tests/controls/select/SelectHost.h"
@@ -23,8 +24,7 @@ TEST(SelectComponent, WorksBeforeItIsInitialised) {
     host.call(showItem, 410010, 0, false);
     EXPECT_EQ(host.takeEvents(), Lines{"page 410010 410010"});
     EXPECT_EQ(host.text(getPageTitle, 410010), "");
-    host.sendMessage(*host.call(getAuxHandle).get<std::int32_t>(), controls::select::enterPressedMessage, 0,
-                     0);
+    host.sendMessage(*host.call(getAuxHandle).get<std::int32_t>(), controls::enterInSelectEdit, 0, 0);
     EXPECT_EQ(host.takeEvents(), Lines{});
 }
 
@@ -74,7 +74,7 @@ TEST(SelectComponent, EnterMessageOpensTheFirstMatchElseTheSelectedLine) {
     SelectHost host;
     host.initialise();
     const platform::HWND aux = *host.call(getAuxHandle).get<std::int32_t>();
-    const auto enter = [&] { host.sendMessage(aux, controls::select::enterPressedMessage, 0, 0); };
+    const auto enter = [&] { host.sendMessage(aux, controls::enterInSelectEdit, 0, 0); };
     host.pane().field().setText("ΝΑΤΡ");
     enter();
     EXPECT_EQ(host.takeEvents(), (Lines{"page 410011 410010", "item 10011"}));
