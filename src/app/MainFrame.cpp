@@ -17,7 +17,7 @@ using namespace platform;
 
 namespace {
 
-/// Sides that were saved may be any numbers; what lies between them wraps round.
+/// The distance between two saved sides. They may be any numbers, so the difference may wrap around.
 int between(int from, int to) {
     return static_cast<int>(static_cast<unsigned>(to) - static_cast<unsigned>(from));
 }
@@ -64,18 +64,18 @@ void CMainFrame::OnSize(UINT type, int width, int height) {
         auto* view = static_cast<CKalyxoView*>(GetActiveView());
         if (view != nullptr) view->OnFrameMinimised();
     } else if (type != SIZE_MAXIMIZED) {
-        keepLeastSize();
+        keepMinSize();
     }
 }
 
-void CMainFrame::keepLeastSize() {
+void CMainFrame::keepMinSize() {
     const CRect frame = GetWindowRect();
     const CRect enlarged =
-        WithLeastFrameSize(frame, {machine().metric(SM_CXMAXIMIZED), machine().metric(SM_CYMAXIMIZED)});
+        WithMinFrameSize(frame, {machine().metric(SM_CXMAXIMIZED), machine().metric(SM_CYMAXIMIZED)});
     if (enlarged != frame) MoveWindow(enlarged);
 }
 
-CRect WithLeastFrameSize(const CRect& frame, CSize maximised) {
+CRect WithMinFrameSize(const CRect& frame, CSize maximised) {
     const int width = std::max(frame.Width(), std::min(640, maximised.cx - 8));
     const int height = std::max(frame.Height(), std::min(480, maximised.cy - 8));
     return CRect::at(frame.left, frame.top, width, height);

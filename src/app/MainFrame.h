@@ -4,8 +4,8 @@
 
 namespace kalyxo {
 
-/// The program's one top-level window. It keeps the product's name as its title, a least size, and saves its
-/// layout when it ends.
+/// The program's one top-level window. Its title is always the
+/// product's name, it has a minimum size, and it saves its layout when it ends.
 class CMainFrame : public platform::CFrameWnd {
   public:
     static const platform::CRuntimeClass runtimeClass;
@@ -19,11 +19,11 @@ class CMainFrame : public platform::CFrameWnd {
     int OnCreate(platform::CREATESTRUCT& cs);
     void OnSize(platform::UINT type, int width, int height);
     void OnDestroy();
-    void keepLeastSize();
+    void keepMinSize();
 };
 
-/// The outer rectangle that a frame of this size is enlarged to, its corner kept. `maximised` is the size of
-/// a maximised window.
-platform::CRect WithLeastFrameSize(const platform::CRect& frame, platform::CSize maximised);
+/// The rectangle of a frame, enlarged to the minimum size where it is smaller; its corner stays. `maximised`
+/// is the size of a maximised window.
+platform::CRect WithMinFrameSize(const platform::CRect& frame, platform::CSize maximised);
 
 }  // namespace kalyxo

@@ -19,10 +19,10 @@ namespace {
 constexpr CSize kPicture{640, 480};
 /// The picture and the frame around it.
 constexpr CSize kWindow{644, 484};
-/// What is drawn when the background is erased; the paint that follows draws the rest.
+/// The part of the picture that is drawn when the background is erased; painting draws the whole.
 constexpr CSize kErased{400, 375};
 
-/// The picture as a bitmap; an empty one when the resource is missing or no picture.
+/// The picture as a bitmap; an empty bitmap when the resource is missing or is not a picture.
 CBitmap loadPicture(UINT id) {
     CBitmap bitmap;
     const std::optional<BitmapResource> resource = FindBitmapResource(id);

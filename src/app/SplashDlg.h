@@ -7,7 +7,7 @@ namespace kalyxo {
 /// The picture in the middle of the screen while the program starts.
 class CSplashDlg : public platform::CDialog {
   public:
-    /// Makes and shows the window at once, painted. Without its template there is none.
+    /// Creates the window, shows it and paints it at once. Without its template there is no window.
     CSplashDlg();
 
     static const platform::CRuntimeClass runtimeClass;
@@ -20,7 +20,7 @@ class CSplashDlg : public platform::CDialog {
     void drawPicture(platform::CDC& dc, platform::CSize part);
 
     platform::UINT m_nBitmapId;
-    platform::CBitmap m_picture;  ///< of that resource, kept since it is drawn several times in a row
+    platform::CBitmap m_picture;  ///< the resource's picture, kept since it is drawn several times in a row
 };
 
 }  // namespace kalyxo

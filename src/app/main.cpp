@@ -13,14 +13,14 @@ namespace {
 
 constexpr int kNoMachine = 1;
 
-/// `problem` names the file, in UTF-8.
+/// `problem` says which file is damaged, in UTF-8.
 void tellNoMachine(const std::string& problem) {
     platform::AfxMessageBox(std::string(platform::LoadString(kalyxo::IDS_CANNOT_START)) +
                             platform::fromUtf8(problem) +
                             std::string(platform::LoadString(kalyxo::IDS_MEND_FILE)));
 }
 
-/// Null when there is none; the user then knows why.
+/// The user's machine; null, after the user has been told why, when it cannot be opened.
 std::unique_ptr<platform::Machine> openMachine(const platform::Desktop& desktop) {
     std::optional<platform::CProgress> progress(platform::LoadString(kalyxo::IDS_PREPARING_MACHINE));
     auto opened = kalyxo::OpenOwnMachine(

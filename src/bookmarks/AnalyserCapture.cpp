@@ -8,8 +8,8 @@ namespace kalyxo {
 namespace {
 
 constexpr std::size_t kWord = sizeof(std::int32_t);
-/// Entries are asked for by a number of two bytes.
-constexpr std::size_t kMostEntries = std::size_t{std::numeric_limits<std::int16_t>::max()} + 1;
+/// Entries are numbered by a signed number of two bytes.
+constexpr std::size_t kMaxEntries = std::size_t{std::numeric_limits<std::int16_t>::max()} + 1;
 
 std::int32_t wordOf(std::span<const std::byte> bytes) {
     std::uint32_t word = 0;
@@ -17,7 +17,7 @@ std::int32_t wordOf(std::span<const std::byte> bytes) {
     return static_cast<std::int32_t>(word);
 }
 
-/// The words that a block's first word counts; that word alone when they are not there.
+/// The words of a block, as many as its first word says; one word, 1, when the block is shorter than that.
 std::vector<std::int32_t> countedWords(std::span<const std::byte> bytes) {
     std::vector<std::int32_t> words;
     for (; bytes.size() >= kWord; bytes = bytes.subspan(kWord)) words.push_back(wordOf(bytes));
@@ -54,7 +54,7 @@ AnalyserState CaptureAnalyser(CDataAnal& analyser) {
     state.mode = analyser.GetMode();
     state.entryBlock = countedWords(analyser.Block(analyser.GetEntryCountRef()));
     state.entries.resize(state.entryBlock.size() - 1);
-    const std::size_t asked = std::min(state.entries.size(), kMostEntries);
+    const std::size_t asked = std::min(state.entries.size(), kMaxEntries);
     for (std::size_t i = 0; i < asked; ++i) {
         state.entries[i] = analyser.GetEntry(static_cast<std::int16_t>(i));
     }
@@ -77,7 +77,7 @@ void RestoreAnalyser(CDataAnal& analyser, const AnalyserState& state) {
     analyser.SetOption7(state.option7);
     analyser.SetValues(state.value8, state.value9, analyser.KeepBlock(state.value11));
     analyser.SetEntryCountRef(analyser.KeepBlock(bytesOf(state.entryBlock)));
-    const std::size_t given = std::min(state.entries.size(), kMostEntries);
+    const std::size_t given = std::min(state.entries.size(), kMaxEntries);
     for (std::size_t i = 0; i < given; ++i) {
         analyser.SetEntry(static_cast<std::int16_t>(i), state.entries[i]);
     }

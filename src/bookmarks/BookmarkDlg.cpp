@@ -18,7 +18,7 @@ using namespace platform;
 
 namespace {
 
-constexpr int kLongestBookmarkName = 80;
+constexpr int kMaxBookmarkName = 80;
 constexpr UINT kDeleteKey = 46;
 constexpr UINT kF2Key = 113;
 
@@ -68,7 +68,7 @@ void CBookmarkDlg::DoDataExchange(CDataExchange& exchange) {
     DDX_Control(exchange, IDC_BOOKMARK_ADVANCED, m_advanced);
     DDX_Control(exchange, IDC_BOOKMARK_NAME, m_name);
     DDX_Text(exchange, IDC_BOOKMARK_NAME, m_strName);
-    DDV_MaxChars(exchange, m_strName, kLongestBookmarkName);
+    DDV_MaxChars(exchange, m_strName, kMaxBookmarkName);
 }
 
 bool CBookmarkDlg::OnInitDialog() {
@@ -106,7 +106,7 @@ void CBookmarkDlg::openForGoto() {
     m_tree.SetFocus();
 }
 
-/// What lies outside the collapsed window takes no keys.
+/// While the window is collapsed, the controls of the organiser are hidden, so that they take no keys.
 void CBookmarkDlg::showOrganiser(bool show) {
     for (const int id :
          {IDC_BOOKMARK_NEW_FOLDER, IDC_BOOKMARK_RENAME, IDC_BOOKMARK_DELETE, IDC_BOOKMARK_TREE}) {
@@ -151,7 +151,7 @@ void CBookmarkDlg::OnRename() {
     if (name && !nameTaken(item, *name)) rename(item, *name);
 }
 
-/// Tells the user when the item may not get this name.
+/// Whether a neighbour of the item has this name already; the user is told.
 bool CBookmarkDlg::nameTaken(Item item, const std::string& name) {
     const Item folder = m_tree.GetParentItem(item);
     if (!m_tree.HasName(folder ? m_tree.GetChildItem(folder) : m_tree.GetRootItem(), name, item))
@@ -164,7 +164,7 @@ bool CBookmarkDlg::nameTaken(Item item, const std::string& name) {
     return true;
 }
 
-/// By a record in the place of the former one, which stays as it is should the dialog be cancelled.
+/// Puts a new record in the place of the former one, which stays as it is in case the dialog is cancelled.
 void CBookmarkDlg::rename(Item item, const std::string& name) {
     std::unique_ptr<CBookmark> replacement = m_tree.RecordOf(item)->Renamed(name);
     m_tree.SetRecord(item, *replacement);
@@ -204,7 +204,7 @@ bool CBookmarkDlg::isOnlyFolder(Item folder) const {
     return !m_tree.GetNextSiblingItem(folder) && !m_tree.GetPrevSiblingItem(folder);
 }
 
-/// F2 leads to a name: that of the item selected, or from outside the tree that of the new bookmark.
+/// F2 in the tree renames the selected item; elsewhere it goes to the new bookmark's name.
 void CBookmarkDlg::OnKeyDown(UINT key) {
     if (key != kF2Key) {
         DefWindowProc(WM_KEYDOWN, key, 0);

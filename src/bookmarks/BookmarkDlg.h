@@ -15,8 +15,9 @@
 namespace kalyxo {
 
 /// The organiser of the bookmarks, which asks for the name and folder of a new one, or for the one to go to.
-/// The tree is the working copy: the list changes when the dialog is closed with OK. Until then the list owns
-/// its records and the dialog those made meanwhile; what is in the tree at the end stays, all others go.
+/// The tree is a working copy: the list changes only when the dialog is closed with OK. Until then the list
+/// owns its records, and the dialog owns the new ones. At the end the list keeps the records that are in the
+/// tree.
 class CBookmarkDlg : public platform::CDialog {
   public:
     explicit CBookmarkDlg(BookmarkList& list);
@@ -25,12 +26,13 @@ class CBookmarkDlg : public platform::CDialog {
     const platform::CRuntimeClass& GetRuntimeClass() const override { return runtimeClass; }
     const platform::MessageMap* GetMessageMap() const override;
 
-    /// Asks for a new bookmark's name, of which this one is proposed; otherwise for the bookmark to go to.
+    /// Has the dialog ask for the name of a new bookmark, and proposes one. Without this call it asks for the
+    /// bookmark to go to.
     void Setup(std::string proposedName);
 
     /// After OK the name of the new bookmark; the list's current folder takes it.
     const std::string& Name() const { return m_strName; }
-    /// After OK the bookmark to go to, one of the list; null when a folder was selected.
+    /// After OK, the bookmark of the list to go to; null when a folder was selected.
     const CBookmark* Chosen() const { return m_pChosen; }
 
   protected:

@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::uint16_t kSchema = 1;
 
-/// A record with the parts of another one.
+/// A new record with this name.
 template <class Record>
 // NOLINTNEXTLINE(performance-unnecessary-value-param): it is moved from
 std::unique_ptr<Record> named(std::string name) {

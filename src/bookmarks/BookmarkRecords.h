@@ -15,7 +15,7 @@ namespace kalyxo {
 /// page 1253.
 class CBookmark : public platform::CObject {
   public:
-    /// A record that is the same but for the name; blocks are copied.
+    /// A copy with another name; blocks are copied too.
     virtual std::unique_ptr<CBookmark> Renamed(std::string newName) const = 0;
 
     std::string name;
@@ -54,7 +54,7 @@ class CBMPeriodic : public CBookmark {
     std::int32_t stateA = 0;
 };
 
-/// A state of the data analyser. What the values mean is the component's business; here they are carried.
+/// A state of the data analyser. Only the component knows what the values mean.
 struct AnalyserState {
     std::int16_t mode = 0;
     /// K words, K at least 1 and itself the first of them.

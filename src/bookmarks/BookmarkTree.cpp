@@ -102,7 +102,7 @@ void CBookmarkTree::OnMouseMove(UINT, CPoint point) {
         return aimAt(item);
     }
     showCursor(CCursor::noEntry());
-    // Held just outside, the pointer scrolls the tree by one item with each message.
+    // While the pointer is above or below the tree, each message scrolls by one item.
     if (where == TVHT_BELOW) aimAt(GetNextVisibleItem(GetSelectedItem()));
     if (where == TVHT_ABOVE) aimAt(GetPrevVisibleItem(GetSelectedItem()));
 }

@@ -24,7 +24,7 @@ class CBookmarkTree : public platform::CTreeCtrl {
     bool Fill(const BookmarkList& list, const platform::ProgressStep& step = {});
     /// Adds a folder in its alphabetical place.
     Item AddFolder(const CBookmark& folder);
-    /// Has an item stand for another record.
+    /// Gives an item another record.
     void SetRecord(Item item, const CBookmark& record);
 
     /// The record of an item, null for none.
@@ -34,8 +34,7 @@ class CBookmarkTree : public platform::CTreeCtrl {
     bool IsFolderItem(Item item) const { return item && !GetParentItem(item); }
     /// The folder's item, null when it is not in the tree.
     Item FindFolder(const CBookmark* folder) const;
-    /// Whether one of the items from `first` on, at its level, has exactly this name; `except` does not
-    /// count.
+    /// Whether `first` or an item after it, on its level, has exactly this name; `except` is not looked at.
     bool HasName(Item first, std::string_view name, Item except = nullptr) const;
     /// All records in the order of display.
     std::vector<const CBookmark*> Records() const;

@@ -12,7 +12,7 @@ using namespace platform;
 
 namespace {
 
-constexpr int kLongestFolderName = 60;
+constexpr int kMaxFolderName = 60;
 
 std::string_view captionOf(NameFor mode) {
     if (mode == NameFor::newFolder) return LoadString(IDS_FOLDER_NEW);
@@ -36,7 +36,7 @@ std::string CFolderNameDlg::Text() const {
 void CFolderNameDlg::DoDataExchange(CDataExchange& exchange) {
     DDX_Control(exchange, IDC_BOOKMARK_NAME, m_edit);
     DDX_Text(exchange, IDC_BOOKMARK_NAME, m_text);
-    DDV_MaxChars(exchange, m_text, kLongestFolderName);
+    DDV_MaxChars(exchange, m_text, kMaxFolderName);
 }
 
 bool CFolderNameDlg::OnInitDialog() {

@@ -18,7 +18,7 @@ namespace {
 struct InnerSize {
     int width;
     int height;
-    int extraWidth;  ///< of the browser, beyond the dialog
+    int extraWidth;  ///< by which the browser is wider than the dialog
 };
 
 InnerSize innerSize(EnlargedViewMode mode) {
@@ -27,9 +27,9 @@ InnerSize innerSize(EnlargedViewMode mode) {
 }
 
 constexpr CSize kButton{60, 20};
-/// That of the page around a film, which is a little smaller than the dialog.
+/// The colour around the page, which is a little smaller than the dialog. A page with a video has the same.
 constexpr COLORREF kGround = RGB(192, 192, 192);
-/// Below the browser, for the button.
+/// The height of the strip below the browser, in which the button stands.
 constexpr int kButtonStrip = 26;
 constexpr int kButtonFromBottom = 22;
 

@@ -14,10 +14,10 @@ enum class EnlargedViewMode {
     plainPage,     ///< a page by its address
 };
 
-/// Sizes of the dialog's parts, from what its mode asks for and the system's metrics.
+/// Where the parts of the dialog lie. It follows from the dialog's mode and the system's metrics.
 struct EnlargedViewLayout {
     platform::CRect outer;    ///< on the screen
-    platform::CRect browser;  ///< in the client area; wider than it where a scroll bar is to lie outside
+    platform::CRect browser;  ///< in the client area; may be wider, so that a scroll bar lies outside
     platform::CRect button;
 };
 EnlargedViewLayout LayOutEnlargedView(EnlargedViewMode mode);

@@ -13,7 +13,7 @@ namespace {
 constexpr int kWidth = 260;
 constexpr int kLineHeight = 15;
 constexpr int kBorders = 2;
-/// The least distance from the client area's edges.
+/// The minimum distance from the client area's edges.
 constexpr int kGap = 5;
 /// High enough for any text while its lines are counted.
 constexpr int kHeightForCounting = 1000;

@@ -6,15 +6,15 @@
 
 namespace kalyxo {
 
-/// Where the pop-up lies in a client area of this size for a text of so many lines: below the pointer and
-/// shifted from the right edge, or above the pointer where there is no room below it, but never beyond the
-/// upper edge, and no higher than the area.
+/// Where the pop-up lies in a client area of the size `client`, for a text of `lines` lines. It lies below
+/// the pointer, or above it when there is no room below. It never leaves the area, and is no higher than the
+/// area.
 platform::CRect PlaceGlossaryPopup(platform::CPoint pointer, platform::CSize client, int lines);
 
 /// The box that shows a glossary term's definition beside the pointer.
 class GlossaryPopup {
   public:
-    /// Makes it hidden in the view.
+    /// Creates the window in the view, hidden.
     bool Create(platform::CWnd& view);
 
     /// Shows a definition until the user clicks, presses a key, or goes elsewhere. One that is taller than

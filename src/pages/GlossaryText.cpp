@@ -12,10 +12,10 @@ using platform::TextReader;
 
 namespace {
 
-/// Room for a line and its end: longer lines count as several.
+/// Sizes of the line buffers, in bytes; a longer line is read as several lines.
 constexpr std::size_t kTitleRoom = 50;
 constexpr std::size_t kLineRoom = 4999;
-constexpr std::size_t kShortestDefinition = 5;
+constexpr std::size_t kMinDefinition = 5;
 
 std::string_view untilLineEnd(std::string_view line) {
     using namespace std::string_view_literals;
@@ -46,7 +46,7 @@ std::optional<std::string> ReadDefinition(const platform::FileSystem& files, std
         if (!text.empty()) text += "\r\n";
         text += untilLineEnd({line.data(), length});
     }
-    if (text.size() < kShortestDefinition) return std::nullopt;
+    if (text.size() < kMinDefinition) return std::nullopt;
     return text;
 }
 

@@ -11,7 +11,7 @@ class History {
   public:
     static constexpr int kCapacity = 50;
 
-    /// Adds a place behind the current one and drops those that Forward could have reached; does nothing
+    /// Adds a place after the current one and drops the places that Forward could have reached. Does nothing
     /// while a place is being restored.
     void Record(const PageAddress& place);
 
@@ -28,7 +28,7 @@ class History {
     const PageAddress& At(int index) const { return m_entries[static_cast<std::size_t>(index)]; }
     const PageAddress& Current() const { return At(m_nCurrent); }
 
-    /// Nothing is recorded while one of these lives.
+    /// While an object of this class exists, nothing is recorded.
     class Replay {
       public:
         explicit Replay(History& history) : m_history(history) { m_history.m_bReplaying = true; }

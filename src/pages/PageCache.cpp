@@ -10,8 +10,8 @@ namespace kalyxo {
 namespace {
 
 constexpr int kPagesKept = 20;
-/// So many programs on one machine have a cache folder of their own.
-constexpr int kMostPrograms = 99;
+/// As many programs as this on one machine have a cache folder each.
+constexpr int kMaxPrograms = 99;
 
 std::string withoutLastBackslash(const std::string& folder) { return folder.substr(0, folder.size() - 1); }
 
@@ -25,18 +25,20 @@ CacheLocation LocateCache(std::string_view programFolder, std::string_view tempF
 }
 
 void PageCache::Open(CacheLocation location) {
-    m_location = std::move(location);
-    const CacheLocation first = m_location;
-    for (int program = 2; !take(m_location) && program <= kMostPrograms; ++program) {
-        m_location = {withoutLastBackslash(first.folder) + std::to_string(program) + '\\', true};
+    if (take(location)) return;
+    const std::string base = withoutLastBackslash(location.folder);
+    for (int program = 2; program <= kMaxPrograms; ++program) {
+        if (take({base + std::to_string(program) + '\\', true})) return;
     }
-    if (!m_lock) m_location = first;
+    // No folder can be had for itself alone, most likely because none can be created.
+    m_location = std::move(location);
 }
 
 bool PageCache::take(const CacheLocation& location) {
     const std::string folder = withoutLastBackslash(location.folder);
     m_files.createFolder(folder);
     if (const auto native = m_files.nativePath(folder)) m_lock = platform::FolderLock::tryNow(*native);
+    if (m_lock) m_location = location;
     return m_lock.has_value();
 }
 

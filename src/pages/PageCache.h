@@ -18,8 +18,8 @@ struct CacheLocation {
     bool removeAtEnd = false;
 };
 
-/// In the program folder, or in the temporary folder when the program runs outside its installed folder,
-/// where it is removed at the end.
+/// The cache folder lies in the program folder. When the program runs outside its installed folder, it lies
+/// in the temporary folder and is removed at the end.
 CacheLocation LocateCache(std::string_view programFolder, std::string_view tempFolder,
                           bool outsideInstallFolder);
 
@@ -28,8 +28,8 @@ class PageCache {
   public:
     explicit PageCache(const platform::FileSystem& files) : m_files(files) {}
 
-    /// Fixes the place and creates the folder; a failure shows with the first page. While another program has
-    /// the folder, a number is added to its name, and that folder is removed at the end.
+    /// Creates the folder; a failure shows with the first page. While another program uses the folder, this
+    /// one uses a folder with a number behind the name, which is removed at the end.
     void Open(CacheLocation location);
 
     const std::string& Folder() const { return m_location.folder; }
@@ -45,6 +45,7 @@ class PageCache {
     int OldestNumber() const { return m_nOldest; }
 
   private:
+    /// Makes it the cache folder unless another program has it.
     bool take(const CacheLocation& location);
     std::string numbered(int number) const;
     std::string redirectPath() const;

@@ -45,7 +45,7 @@ inline constexpr platform::UINT ID_COPY_GRAPH = 32799;
 inline constexpr platform::UINT ID_PRINT_MOLECULE = 32800;
 inline constexpr platform::UINT ID_PRINT_VIDEO = 32801;
 
-/// Timer and control ids of the view's children.
+/// Control ids of the view's children.
 inline constexpr platform::UINT IDC_GLOSSARY_POPUP = 185;
 inline constexpr platform::UINT IDC_PERIODIC_TABLE = 1010;
 inline constexpr platform::UINT IDC_WEB = 1025;

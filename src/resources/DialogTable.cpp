@@ -59,7 +59,7 @@ constexpr std::array kAboutDialog = {
     version(4, IDC_VERSION_MOLECULE_ZOOM),
 };
 
-/// The dialog takes its sizes from the system's metrics and brings its browser itself.
+/// The dialog computes its sizes from the system's metrics, and creates its browser itself.
 constexpr std::array kEnlargedViewDialog = {
     DialogControl{Kind::defaultPushButton, IDOK, CRect::at(200, 312, 40, 12), "OK"},
 };
@@ -129,7 +129,7 @@ constexpr std::array kDialogs = {
     DialogTemplate{IDD_ENLARGED_VIEW, {}, {433, 326}, kEnlargedViewDialog},
     DialogTemplate{IDD_FIND_FOLDER, "Find Folder", {187, 177}, kFindFolderDialog},
     DialogTemplate{IDD_SEARCH, "Αναζήτηση"_gr, {347, 226}, kSearchDialog},
-    // The program gives both their size.
+    // The program sets the size of these two.
     DialogTemplate{IDD_SPLASH, {}, {1, 1}, {}, DialogFrame::plain},
     DialogTemplate{IDD_TOOL_PANEL, {}, {186, 49}, {}, DialogFrame::tool},
 };

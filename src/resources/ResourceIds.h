@@ -111,7 +111,7 @@ inline constexpr int IDC_ALTERNATIVES = 1017;
 inline constexpr int IDC_RESULTS = 1019;
 inline constexpr int IDC_SEARCH_WORDS = 1021;
 
-/// Controls of the bookmark organiser; the name dialog has the first.
+/// Controls of the bookmark organiser; the name dialog has the first of them too.
 inline constexpr int IDC_BOOKMARK_NAME = 1001;
 inline constexpr int IDC_BOOKMARK_ADVANCED = 1002;
 inline constexpr int IDC_BOOKMARK_NEW_FOLDER = 1004;

@@ -10,7 +10,7 @@ using platform::FileSystem;
 
 namespace {
 
-/// cset.ini is read no further than this.
+/// Only this many bytes of cset.ini are read.
 constexpr std::size_t kIniBytesRead = 1000;
 constexpr std::string_view kSection = "Settings";
 constexpr std::string_view kDataPath = "DataPath";
@@ -38,7 +38,7 @@ bool holdsContent(const FileSystem& files, const std::string& dataFolder) {
     return static_cast<bool>(files.openForReading(dataFolder + "a.htm"));
 }
 
-/// The data folder from its first guess, asking until one holds the content.
+/// The data folder: the first guess, or else what the user chooses; nothing when the user cancels.
 std::optional<std::string> locateContent(const FileSystem& files, const PathSources& sources,
                                          const FolderChooser& choose, std::string dataFolder) {
     while (!holdsContent(files, dataFolder)) {

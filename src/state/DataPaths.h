@@ -11,7 +11,7 @@ class FileSystem;
 
 namespace kalyxo {
 
-/// What a folder is asked for.
+/// What the user is asked to choose a folder for.
 enum class FolderPurpose { locateContent, storeBookmarks };
 
 /// Asks the user for a folder, without a backslash at its end; nothing when the user cancels.
@@ -23,14 +23,15 @@ struct DataPaths {
     std::string bookmarkFile;
 };
 
-/// Folders that the paths are decided from.
+/// The folders from which the paths are decided.
 struct PathSources {
     std::string programFolder;  ///< holds cset.ini; no trailing backslash
     std::string tempFolder;     ///< ends with a backslash
 };
 
-/// Reads cset.ini and asks the user for what it does not tell, remembering the answers in it. The data folder
-/// is the first one that holds "a.htm"; nothing when the user gives up looking for it.
+/// Reads the paths from cset.ini. The user is asked for a path that is missing or of no use, and the answer
+/// is written into cset.ini. The data folder must hold "a.htm"; nothing when the user cancels the choice of
+/// it.
 std::optional<DataPaths> FindDataPaths(const platform::FileSystem& files, const PathSources& sources,
                                        const FolderChooser& choose);
 

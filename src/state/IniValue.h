@@ -6,7 +6,7 @@
 
 namespace kalyxo {
 
-/// Longest value that GetIniValue gives, in bytes.
+/// Maximum length of a value that GetIniValue gives, in bytes.
 inline constexpr std::size_t kMaxIniValue = 254;
 
 /// Finds `key` anywhere in the text (also inside a longer key or a value) and puts what stands between the

@@ -16,8 +16,8 @@ struct ComponentVersions {
     std::string m_strVerZoom;
 };
 
-/// The settings and paths of the run, which the start-up sequence fills and everything else reads. There is
-/// one, a part of the application object.
+/// The settings and paths of the run. The start-up sequence fills them, all other code reads them. There is
+/// one object, a part of the application object.
 struct ProgramState : ComponentVersions {
     ProgramState();
     ~ProgramState();
@@ -36,7 +36,7 @@ struct ProgramState : ComponentVersions {
     std::string m_strLastPreparedPage;  ///< DOS path of the page file written last; empty before the first
 };
 
-/// The one state of this run; there must be an application object.
+/// The one object; the application object must exist.
 ProgramState& TheApp();
 
 }  // namespace kalyxo

@@ -31,12 +31,12 @@ struct ProgramLocation {
 /// Path of the settings key under HKEY_LOCAL_MACHINE.
 std::string SettingsKeyPath();
 
-/// The program folder from the full path of the running program file and the installed folder of the
-/// settings; a missing or different installed folder means that the program runs outside of it.
+/// Where the program runs, from the full path of its file and the installed folder in the settings. When that
+/// is missing or another folder, the program runs outside its installed folder.
 ProgramLocation LocateProgram(std::string_view programFile, const std::optional<std::string>& directory);
 
-/// The layout values of the settings key. What is missing or of another type takes its default; without a
-/// usable state the whole is a window of 640 × 480 in the middle of the screen, or maximised on a screen
+/// Reads the layout from the settings key. A value that is missing or of another type has its default.
+/// Without the frame's state, the frame is 640 × 480 in the middle of the screen, or maximised on a screen
 /// narrower than 700.
 WindowLayout ReadLayout(const platform::RegistryKey& key, platform::CSize screen);
 

@@ -21,7 +21,7 @@ class BookmarkCommands {
     void LoadBookmarks();
     void SaveBookmarks();
 
-    /// Has the user name a bookmark for what a mode other than the main menu shows.
+    /// Asks the user for the name of a bookmark, and adds it. `mode` is not the main menu.
     void OnBookmarkAdd(ContentMode mode);
     void OnBookmarkGoto();
 

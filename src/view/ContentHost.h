@@ -18,7 +18,7 @@ class ContentHost {
     /// Has the browse selection show a topic or one of its entries. It answers with the number of the page.
     virtual void ShowItem(std::int32_t pageId, std::int32_t itemCode) = 0;
     virtual void ShowPeriodicTable() = 0;
-    /// Without a bookmark, whatever state the data analyser is in.
+    /// With a bookmark, the data analyser takes its state; without one it keeps its own.
     virtual void ShowDataAnalyser(const CBMDataAn* bookmark) = 0;
 
   protected:

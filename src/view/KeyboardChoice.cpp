@@ -11,44 +11,44 @@ using platform::UINT;
 
 namespace {
 
-/// How much farther an item to the side counts than one straight ahead.
+/// A pixel to the side counts as many times as a pixel ahead.
 constexpr int kAsideWeight = 3;
-/// An item of the same kind is passed over when it lies more than so many times as far aside as ahead: areas
-/// in one row differ by a pixel in height.
-constexpr int kWidestAside = 4;
+/// An item of the same kind is passed over when it lies more than this many times farther to the side than
+/// ahead: areas in one row differ by a pixel in height, and none of them lies above another.
+constexpr int kMaxAside = 4;
 
 bool isUpOrDown(UINT key) { return key == platform::VK_UP || key == platform::VK_DOWN; }
 
 CPoint centre(const CRect& rect) { return {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2}; }
 
-/// How far an item lies in the direction of an arrow key, nothing when it lies in no way there.
+/// The distance to an item in the direction of an arrow key; nothing when it lies in another direction.
 std::optional<int> distance(CPoint from, CPoint to, UINT key, bool sameKind) {
     const CPoint way = to - from;
     const int along = isUpOrDown(key) ? way.y : way.x;
     const int aside = isUpOrDown(key) ? way.x : way.y;
     const int ahead = key == platform::VK_UP || key == platform::VK_LEFT ? -along : along;
-    if (ahead <= 0 || (sameKind && std::abs(aside) > kWidestAside * ahead)) return std::nullopt;
+    if (ahead <= 0 || (sameKind && std::abs(aside) > kMaxAside * ahead)) return std::nullopt;
     return ahead + kAsideWeight * std::abs(aside);
 }
 
-/// The nearest of the slots or of the hot areas, −1 when none lies that way.
+/// The nearest slot, or the nearest hot area, in that direction; −1 when there is none.
 int nearest(const OpenableItems& items, int from, UINT key, bool slots) {
     const auto& places = items.Places();
     int found = -1;
-    int least = std::numeric_limits<int>::max();
+    int minWay = std::numeric_limits<int>::max();
     for (int i = 0; i < static_cast<int>(places.size()); ++i) {
         if (OpenableItems::IsSlot(i) != slots || i == items.SelectedSlot()) continue;
         const auto way =
             distance(centre(places[static_cast<std::size_t>(from)]),
                      centre(places[static_cast<std::size_t>(i)]), key, OpenableItems::IsSlot(from) == slots);
-        if (!way || *way >= least) continue;
+        if (!way || *way >= minWay) continue;
         found = i;
-        least = *way;
+        minWay = *way;
     }
     return found;
 }
 
-/// Where the arrows come in among the hot areas: the left one of the upper row.
+/// The first hot area that the arrow keys choose: the left one in the upper row.
 constexpr int kFirstArea = OpenableItems::IndexOfArea(3);
 
 }  // namespace

@@ -22,7 +22,7 @@ class OpenableItems {
 
     static constexpr int kSlots = kToolbarSlot + 1;
     static constexpr bool IsSlot(int index) { return index < kSlots; }
-    /// The bar slot of an item, or that which does the same as a hot area.
+    /// The bar slot of an item; for a hot area, the slot that opens the same.
     static constexpr int SlotFor(int index) { return IsSlot(index) ? index : index - kSlots; }
     static constexpr int IndexOfArea(int area) { return kSlots + area; }
 
@@ -31,12 +31,12 @@ class OpenableItems {
     int m_nSelectedSlot;
 };
 
-/// The item that the arrow keys have come to. It is shown as the one under the pointer is, and stands until
-/// the pointer is moved.
+/// The item that the arrow keys have chosen. It looks like an item under the pointer, and stays chosen until
+/// the pointer moves.
 class KeyboardChoice {
   public:
-    /// The item to which an arrow key leads from another (−1: from none yet), −1 when there is none that way.
-    /// The selected slot is passed over: it does not show that it is chosen.
+    /// The item to which an arrow key leads from the item `from`, −1 when there is none in that direction. At
+    /// first `from` is −1. The selected slot is passed over, since it would not show that it is chosen.
     static int Next(const OpenableItems& items, int from, platform::UINT key);
 
     /// From now on an item is chosen; `pointer` is where the pointer lies on the screen.

@@ -12,7 +12,7 @@ using platform::CSize;
 
 namespace {
 
-/// The connectors were measured on a screen on which the picture's corner lay here.
+/// The connectors' numbers come from a screen on which the picture's corner lay here.
 constexpr CPoint kMeasuredCorner{5, 92};
 
 constexpr CRect measured(int left, int top, int right, int bottom) {

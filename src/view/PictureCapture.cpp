@@ -16,7 +16,7 @@ using namespace platform;
 
 namespace {
 
-/// Of a video's window the strip below the picture is left out.
+/// A video's window has a strip below the picture, which is left out.
 struct PluginSizes {
     CSize window;
     CSize picture;
@@ -38,7 +38,7 @@ std::optional<HWND> findPlugin(HWND browser, PluginKind kind) {
     return found;
 }
 
-/// The picture in its nominal size, whatever the pixels of the screen; nothing when there is none.
+/// The picture in its nominal size, even on a screen with more pixels; nothing when there is no picture.
 std::optional<CBitmap> takePicture(HWND plugin, PluginKind kind) {
     const CBitmap taken = PluginPicture(plugin);
     if (!taken.loaded()) return std::nullopt;

@@ -19,8 +19,8 @@ struct PrintedPicture {
     friend bool operator==(const PrintedPicture&, const PrintedPicture&) = default;
 };
 
-/// The picture half a page wide in the middle, at a third of the height that it leaves free; the title over
-/// it in letters of a seventh of an inch.
+/// The picture is half as wide as the page and stands in the middle; a third of the free height is above it.
+/// The title stands above the picture, in letters of a seventh of an inch.
 PrintedPicture LayOutPrintedPicture(PluginKind kind, platform::CSize page, int logPixelsY);
 
 /// Where a picture goes.
