@@ -45,8 +45,8 @@ int main(int argc, char** argv) {
     const platform::Desktop desktop(argc, argv);
     const auto machine = platform::Machine::open(folder);
     if (!machine) return 1;
-    (*machine.value)->setVirtualTime(true);
-    platform::setMachine(machine.value->get());
+    (*machine)->setVirtualTime(true);
+    platform::setMachine((*machine).get());
     FirstPaint firstPaint;
     qApp->installEventFilter(&firstPaint);
     kalyxo::CKalyxoApp program;

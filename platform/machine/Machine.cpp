@@ -30,10 +30,11 @@ std::vector<Drive> drivesOf(const fs::path& folder, const MachineConfig& config)
 
 /// Nothing at all is as good as a file without content; only what is there can be damaged.
 template <typename T>
-Loaded<T> loadIfThere(const fs::path& path, Loaded<T> (*load)(const fs::path&)) {
+Result<T> loadIfThere(const fs::path& path, Result<T> (*load)(const fs::path&)) {
     std::error_code error;
     const auto type = fs::symlink_status(path, error).type();
-    return type == fs::file_type::not_found ? Loaded<T>::success(T{}) : load(path);
+    if (type == fs::file_type::not_found) return T{};
+    return load(path);
 }
 
 std::string withoutLastSlash(std::string path) {
@@ -43,16 +44,14 @@ std::string withoutLastSlash(std::string path) {
 
 }  // namespace
 
-Loaded<std::unique_ptr<Machine>> Machine::open(const fs::path& folder) {
-    using Result = Loaded<std::unique_ptr<Machine>>;
+Result<std::unique_ptr<Machine>> Machine::open(const fs::path& folder) {
     std::error_code error;
-    if (!fs::is_directory(folder, error)) return Result::failure(folder.string() + ": no such folder");
+    if (!fs::is_directory(folder, error)) return Failure{folder.string() + ": no such folder"};
     auto config = loadIfThere(folder / configName, loadMachineConfig);
-    if (!config) return Result::failure(std::move(config.error));
+    if (!config) return config.failure();
     auto registry = loadIfThere(folder / registryName, loadRegFile);
-    if (!registry) return Result::failure(std::move(registry.error));
-    return Result::success(
-        std::make_unique<Machine>(folder, std::move(*config.value), std::move(*registry.value)));
+    if (!registry) return registry.failure();
+    return std::make_unique<Machine>(folder, *std::move(config), *std::move(registry));
 }
 
 Machine::Machine(const fs::path& folder, MachineConfig config, Registry registry)
@@ -102,7 +101,7 @@ bool Machine::flushRegistry() {
     const fs::path file = folder_ / registryName;
     const auto lock = FolderLock::wait(folder_);
     const auto present = loadRegFile(file);
-    RegistryNode tree = copyOf(present ? present.value->tree() : registry_.tree());
+    RegistryNode tree = copyOf(present ? present->tree() : registry_.tree());
     carryOverChanges(written_, registry_.tree(), tree);
     if (!saveRegFile(Registry(std::move(tree)), file)) return false;
     written_ = copyOf(registry_.tree());

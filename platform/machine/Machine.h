@@ -9,8 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/base/Result.h"
 #include "platform/files/FileSystem.h"
-#include "platform/files/Loaded.h"
 #include "platform/machine/AnswerQueue.h"
 #include "platform/machine/MachineConfig.h"
 #include "platform/machine/Metric.h"
@@ -26,8 +26,8 @@ namespace platform {
 class Machine {
   public:
     /// Reads a machine folder. A missing machine.json or registry.reg gives the defaults and an empty
-    /// registry; a damaged one, or a missing folder, gives an error text that names the file.
-    static Loaded<std::unique_ptr<Machine>> open(const std::filesystem::path& folder);
+    /// registry; a damaged one, or a missing folder, is a failure whose message names the file.
+    static Result<std::unique_ptr<Machine>> open(const std::filesystem::path& folder);
 
     /// A machine from parts; relative drive folders are taken from `folder`.
     Machine(const std::filesystem::path& folder, MachineConfig config, Registry registry);

@@ -234,25 +234,25 @@ Json toJson(const MachineConfig& config) {
 
 }  // namespace
 
-Loaded<MachineConfig> parseMachineConfig(std::string_view json, std::string_view name) {
+Result<MachineConfig> parseMachineConfig(std::string_view json, std::string_view name) {
     const std::string prefix = std::string(name) + ": ";
     Json root;
     try {
         root = Json::parse(json);
     } catch (const Json::parse_error& error) {
-        return Loaded<MachineConfig>::failure(prefix + "not JSON: " + error.what());
+        return Failure{prefix + "not JSON: " + error.what()};
     }
     FieldReader reader;
     MachineConfig config = readConfig(reader, root);
-    if (reader.failed()) return Loaded<MachineConfig>::failure(prefix + reader.problem());
-    return Loaded<MachineConfig>::success(std::move(config));
+    if (reader.failed()) return Failure{prefix + reader.problem()};
+    return config;
 }
 
-Loaded<MachineConfig> loadMachineConfig(const std::filesystem::path& path) {
+Result<MachineConfig> loadMachineConfig(const std::filesystem::path& path) {
     FileHandle file = FileHandle::openForReading(path);
     const auto text = file ? file.readAll(largestFile + 1) : std::nullopt;
-    if (!text) return Loaded<MachineConfig>::failure(path.string() + ": cannot be read");
-    if (text->size() > largestFile) return Loaded<MachineConfig>::failure(path.string() + ": too long");
+    if (!text) return Failure{path.string() + ": cannot be read"};
+    if (text->size() > largestFile) return Failure{path.string() + ": too long"};
     return parseMachineConfig(*text, path.string());
 }
 

@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/base/Result.h"
 #include "platform/files/DriveType.h"
-#include "platform/files/Loaded.h"
 
 namespace platform {
 
@@ -70,12 +70,13 @@ struct MachineConfig {
 };
 
 /// Reads machine.json text. Drives add to the drive C: that there is by default; a drive that is null is
-/// taken away. Unknown fields are passed over. The error text starts with `name` and says what is wrong: not
-/// JSON, a field of a wrong type or out of range, a drive letter that is not A to Z, an unknown drive type.
-Loaded<MachineConfig> parseMachineConfig(std::string_view json, std::string_view name);
+/// taken away. Unknown fields are passed over. A failure's message starts with `name` and says what is wrong:
+/// not JSON, a field of a wrong type or out of range, a drive letter that is not A to Z, an unknown drive
+/// type.
+Result<MachineConfig> parseMachineConfig(std::string_view json, std::string_view name);
 
 /// Reads a machine.json file.
-Loaded<MachineConfig> loadMachineConfig(const std::filesystem::path& path);
+Result<MachineConfig> loadMachineConfig(const std::filesystem::path& path);
 
 /// Writes a machine.json file all at once; false when that fails, with the old file as it was.
 bool saveMachineConfig(const MachineConfig& config, const std::filesystem::path& path);

@@ -14,11 +14,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using Problem = std::optional<std::string>;
-
 std::string parentFolder(const std::string& dosPath) { return dosPath.substr(0, dosPath.find_last_of('\\')); }
 
-Problem cannotMake(const std::string& what) { return what + ": cannot be made"; }
+Failure cannotMake(const std::string& what) { return {what + ": cannot be made"}; }
 
 MachineConfig completeConfig(const NewMachineOptions& options) {
     MachineConfig config = options.config;
@@ -31,7 +29,7 @@ MachineConfig completeConfig(const NewMachineOptions& options) {
 }
 
 /// Makes the host folders that are drives inside the machine folder.
-Problem makeDriveFolders(const fs::path& folder, const MachineConfig& config) {
+Result<void> makeDriveFolders(const fs::path& folder, const MachineConfig& config) {
     std::error_code error;
     fs::create_directories(folder, error);
     if (error) return cannotMake(folder.string());
@@ -40,38 +38,40 @@ Problem makeDriveFolders(const fs::path& folder, const MachineConfig& config) {
         fs::create_directories(folder / drive.folder, error);
         if (error) return cannotMake((folder / drive.folder).string());
     }
-    return std::nullopt;
+    return {};
 }
 
-Problem writeFile(const FileSystem& files, const NewMachineFile& file) {
+Result<void> writeFile(const FileSystem& files, const NewMachineFile& file) {
     if (!files.createFolders(parentFolder(file.path)) || !replaceFile(files, file.path, file.content)) {
         return cannotMake(toUtf8(file.path));
     }
-    return std::nullopt;
+    return {};
 }
 
-Problem makeFolders(Machine& machine, const NewMachineOptions& options) {
+Result<void> makeFolders(Machine& machine, const NewMachineOptions& options) {
     std::vector<std::string> folders = {machine.tempFolder(), machine.systemFolder()};
     if (!options.modulesTo.empty()) folders.push_back(options.modulesTo);
     for (const auto& folder : folders) {
         if (!machine.files().createFolders(folder)) return cannotMake(toUtf8(folder));
     }
-    return std::nullopt;
+    return {};
 }
 
-Problem copyModules(const FileSystem& files, const NewMachineOptions& options, const ProgressStep& step) {
-    if (options.modulesFrom.empty()) return std::nullopt;
+Result<void> copyModules(const FileSystem& files, const NewMachineOptions& options,
+                         const ProgressStep& step) {
+    if (options.modulesFrom.empty()) return {};
     const auto target = files.nativePath(options.modulesTo);
     const auto modules = modulesIn(options.modulesFrom);
-    if (!modules || modules->empty()) return options.modulesFrom.string() + ": no component modules there";
+    if (!modules || modules->empty())
+        return Failure{options.modulesFrom.string() + ": no component modules there"};
     std::uint64_t copied = 0;
     for (const fs::path& module : *modules) {
-        if (!GoesOn(step, copied++, modules->size())) return module.string() + ": cancelled";
+        if (!GoesOn(step, copied++, modules->size())) return Failure{module.string() + ": cancelled"};
         if (!target || !copyFileOver(module, *target / module.filename())) {
-            return module.string() + ": cannot be copied to " + toUtf8(options.modulesTo);
+            return Failure{module.string() + ": cannot be copied to " + toUtf8(options.modulesTo)};
         }
     }
-    return std::nullopt;
+    return {};
 }
 
 void fillSettings(Registry& registry, const NewMachineOptions& options) {
@@ -95,16 +95,16 @@ void registerComponents(Registry& registry, const NewMachineOptions& options) {
     }
 }
 
-Problem fillDrives(Machine& machine, const NewMachineOptions& options, const ProgressStep& step) {
+Result<void> fillDrives(Machine& machine, const NewMachineOptions& options, const ProgressStep& step) {
     const NewMachineFile program{machine.programPath(),
                                  "This file stands for the program on this machine.\r\n"};
-    if (auto problem = writeFile(machine.files(), program)) return problem;
-    if (auto problem = makeFolders(machine, options)) return problem;
-    if (auto problem = copyModules(machine.files(), options, step)) return problem;
+    if (auto done = writeFile(machine.files(), program); !done) return done;
+    if (auto done = makeFolders(machine, options); !done) return done;
+    if (auto done = copyModules(machine.files(), options, step); !done) return done;
     for (const auto& file : options.files) {
-        if (auto problem = writeFile(machine.files(), file)) return problem;
+        if (auto done = writeFile(machine.files(), file); !done) return done;
     }
-    return std::nullopt;
+    return {};
 }
 
 }  // namespace
@@ -121,24 +121,23 @@ std::optional<std::vector<fs::path>> modulesIn(const fs::path& folder) {
     return error ? std::nullopt : std::optional(std::move(modules));
 }
 
-std::optional<std::string> makeMachine(const fs::path& folder, const NewMachineOptions& options,
-                                       const ProgressStep& step) {
+Result<void> makeMachine(const fs::path& folder, const NewMachineOptions& options, const ProgressStep& step) {
     std::error_code error;
     if (!options.discFolder.empty() && !fs::is_directory(options.discFolder, error)) {
-        return options.discFolder.string() + ": no such folder";
+        return Failure{options.discFolder.string() + ": no such folder"};
     }
     const MachineConfig config = completeConfig(options);
-    if (auto problem = makeDriveFolders(folder, config)) return problem;
+    if (auto done = makeDriveFolders(folder, config); !done) return done;
     if (!saveMachineConfig(config, folder / "machine.json"))
         return cannotMake((folder / "machine.json").string());
 
     Machine machine(folder, config, Registry());
-    if (auto problem = fillDrives(machine, options, step)) return problem;
+    if (auto done = fillDrives(machine, options, step); !done) return done;
     fillSettings(machine.registry(), options);
     registerComponents(machine.registry(), options);
     const fs::path registryFile = folder / "registry.reg";
     if (!saveRegFile(machine.registry(), registryFile)) return cannotMake(registryFile.string());
-    return std::nullopt;
+    return {};
 }
 
 }  // namespace platform

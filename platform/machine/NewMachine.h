@@ -8,6 +8,7 @@
 #include <variant>
 #include <vector>
 
+#include "platform/base/Result.h"
 #include "platform/files/ProgressStep.h"
 #include "platform/machine/MachineConfig.h"
 
@@ -44,9 +45,8 @@ std::optional<std::vector<std::filesystem::path>> modulesIn(const std::filesyste
 /// Makes a machine folder: machine.json, registry.reg, drive C: with the program file (a placeholder that its
 /// path names), the temporary and system folders, the component modules and the files asked for. A folder
 /// that exists is kept, and what is named here is written anew. `step` is told how many of the modules are
-/// copied; when it cancels, the machine has no registry.reg. Returns an error text (UTF-8) that names what
-/// could not be made, or nothing.
-std::optional<std::string> makeMachine(const std::filesystem::path& folder, const NewMachineOptions& options,
-                                       const ProgressStep& step = {});
+/// copied; when it cancels, the machine has no registry.reg. The failure names what could not be made.
+Result<void> makeMachine(const std::filesystem::path& folder, const NewMachineOptions& options,
+                         const ProgressStep& step = {});
 
 }  // namespace platform

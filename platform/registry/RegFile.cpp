@@ -92,18 +92,16 @@ std::optional<std::string> readBytes(const std::filesystem::path& path) {
 
 }  // namespace
 
-Loaded<Registry> parseRegText(std::string_view bytes, std::string_view name) {
+Result<Registry> parseRegText(std::string_view bytes, std::string_view name) {
     const std::string text = decoded(bytes);
-    RegFileReader reader(text);
-    auto tree = reader.read();
-    if (tree) return Loaded<Registry>::success(Registry(std::move(*tree)));
-    return Loaded<Registry>::failure(std::string(name) + ", line " + std::to_string(reader.line()) + ": " +
-                                     reader.problem());
+    auto tree = RegFileReader(text).read();
+    if (!tree) return Failure{std::string(name) + ", " + tree.failure().message};
+    return Registry(*std::move(tree));
 }
 
-Loaded<Registry> loadRegFile(const std::filesystem::path& path) {
+Result<Registry> loadRegFile(const std::filesystem::path& path) {
     const auto bytes = readBytes(path);
-    if (!bytes) return Loaded<Registry>::failure(path.string() + ": cannot be read");
+    if (!bytes) return Failure{path.string() + ": cannot be read"};
     return parseRegText(*bytes, path.string());
 }
 

@@ -4,18 +4,19 @@
 #include <string>
 #include <string_view>
 
-#include "platform/files/Loaded.h"
+#include "platform/base/Result.h"
 #include "platform/registry/Registry.h"
 
 namespace platform {
 
 /// Reads registry text of the form "Windows Registry Editor Version 5.00", UTF-8 (with or without a byte
-/// order mark) or UTF-16LE with one. `name` stands for the file in an error text, which gives the line too.
+/// order mark) or UTF-16LE with one. A failure's message begins with `name` and gives the line.
 /// Value types other than text and 32-bit numbers are kept as they are; comments are not kept.
-Loaded<Registry> parseRegText(std::string_view bytes, std::string_view name);
+Result<Registry> parseRegText(std::string_view bytes, std::string_view name);
 
-/// Reads a registry file; a missing or damaged one gives an error text that names the file and the line.
-Loaded<Registry> loadRegFile(const std::filesystem::path& path);
+/// Reads a registry file; for a missing or damaged one the failure names the file, and the line if there is
+/// one.
+Result<Registry> loadRegFile(const std::filesystem::path& path);
 
 /// The registry as such text: UTF-8, lines ended by CR LF, keys sorted.
 std::string formatRegText(const Registry& registry);

@@ -19,12 +19,17 @@ std::string_view trimmedEnd(std::string_view text) {
 
 }  // namespace
 
-std::optional<RegistryNode> RegFileReader::read() {
-    if (!checkEncoding() || !readHeader()) return std::nullopt;
-    while (at_ < text_.size()) {
-        if (!readLine()) return std::nullopt;
-    }
+Result<RegistryNode> RegFileReader::read() {
+    if (!readAll()) return Failure{"line " + std::to_string(line()) + ": " + problem_};
     return std::move(tree_);
+}
+
+bool RegFileReader::readAll() {
+    if (!checkEncoding() || !readHeader()) return false;
+    while (at_ < text_.size()) {
+        if (!readLine()) return false;
+    }
+    return true;
 }
 
 std::size_t RegFileReader::line() const {

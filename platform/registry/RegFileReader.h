@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/base/Result.h"
 #include "platform/registry/RegistryNode.h"
 
 namespace platform {
@@ -18,15 +19,11 @@ class RegFileReader {
     /// `text` is UTF-8 without a byte order mark and outlives the reader.
     explicit RegFileReader(std::string_view text) : text_(text) {}
 
-    /// The tree, or nothing when the text is damaged. Called once.
-    std::optional<RegistryNode> read();
-
-    /// What is wrong with the text.
-    const std::string& problem() const { return problem_; }
-    /// The number, from 1, of the line where that is.
-    std::size_t line() const;
+    /// The tree. For a damaged text the failure says "line N: " and what is wrong there. Called once.
+    Result<RegistryNode> read();
 
   private:
+    bool readAll();
     bool checkEncoding();
     bool readHeader();
     bool readLine();
@@ -41,6 +38,7 @@ class RegFileReader {
     std::string_view restOfLine() const;
     void skipBlanks();
     bool take(std::string_view expected);
+    std::size_t line() const;
     bool fail(std::string problem);
 
     std::string_view text_;

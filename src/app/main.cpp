@@ -28,8 +28,8 @@ std::unique_ptr<platform::Machine> openMachine(const platform::Desktop& desktop)
         {desktop.screen(), desktop.metrics(), desktop.printer()}, kalyxo::PresentMedia(), progress->Step());
     const bool cancelled = progress->Cancelled();
     progress.reset();
-    if (opened) return std::move(*opened.value);
-    if (!cancelled) tellNoMachine(opened.error);
+    if (opened) return *std::move(opened);
+    if (!cancelled) tellNoMachine(opened.failure().message);
     return nullptr;
 }
 

@@ -12,6 +12,7 @@ namespace kalyxo {
 
 using platform::CRect;
 using platform::CWnd;
+using platform::Failure;
 using platform::UINT;
 using platform::WS_CHILD;
 using platform::WS_VISIBLE;
@@ -52,18 +53,17 @@ constexpr std::array kRequired = {
 
 }  // namespace
 
-std::optional<std::string> HostedComponents::Create(CWnd& view, const ComponentSurroundings& surroundings,
-                                                    ComponentVersions& versions,
-                                                    SelectWindows& selectWindows) {
+platform::Result<void> HostedComponents::Create(CWnd& view, const ComponentSurroundings& surroundings,
+                                                ComponentVersions& versions, SelectWindows& selectWindows) {
     const Creation creation{view, surroundings.programFolder};
     if (!creation.create(periodicTable, "PTable", IDC_PERIODIC_TABLE, kPeriodTableFile)) {
-        return std::string(platform::LoadString(IDS_NO_PERIODIC_TABLE));
+        return Failure{std::string(platform::LoadString(IDS_NO_PERIODIC_TABLE))};
     }
     versions.m_strVerPeriodic = periodicTable.Version();
     periodicTable.SetDataFolder(surroundings.dataFolder);
 
     if (!creation.create(select, "", IDC_SELECT, kSelectFile)) {
-        return std::string(platform::LoadString(IDS_NO_BROWSE_SELECTION));
+        return platform::Failure{std::string(platform::LoadString(IDS_NO_BROWSE_SELECTION))};
     }
     select.Initialise(kSelectHostCode, surroundings.dataFolder, view.GetSafeHwnd());
     selectWindows.edit = select.GetEditWindow();
@@ -71,29 +71,29 @@ std::optional<std::string> HostedComponents::Create(CWnd& view, const ComponentS
     versions.m_strVerSelect = select.Version();
 
     if (!creation.create(dataAnalyser, "DataAn", IDC_DATA_ANALYSER, kDataAnalFile)) {
-        return std::string(platform::LoadString(IDS_NO_DATA_ANALYSER));
+        return platform::Failure{std::string(platform::LoadString(IDS_NO_DATA_ANALYSER))};
     }
     dataAnalyser.Initialise(kDataAnalHostCode, surroundings.dataFolder);
     versions.m_strVerDataAn = dataAnalyser.Version();
 
     CMolCtrl molCtrl;
     if (!creation.create(molCtrl, "MolCtrl", IDC_VERSION_CHECK, kMolCtrlFile)) {
-        return std::string(platform::LoadString(IDS_NO_MOLECULE_CONTROLLER));
+        return platform::Failure{std::string(platform::LoadString(IDS_NO_MOLECULE_CONTROLLER))};
     }
     versions.m_strVerMolCtrl = molCtrl.Version();
     molCtrl.DestroyWindow();
 
     CKzZoom zoom;
     if (!creation.create(zoom, "KzZoom", IDC_VERSION_CHECK, kKzZoomFile)) {
-        return std::string(platform::LoadString(IDS_NO_MOLECULE_ZOOM));
+        return platform::Failure{std::string(platform::LoadString(IDS_NO_MOLECULE_ZOOM))};
     }
     versions.m_strVerZoom = zoom.GetVersion();
     zoom.DestroyWindow();
 
     if (!browser.Create("Web", WS_CHILD | WS_VISIBLE, browserParkedIn(view), view, IDC_WEB)) {
-        return std::string(platform::LoadString(IDS_NO_BROWSER));
+        return Failure{std::string(platform::LoadString(IDS_NO_BROWSER))};
     }
-    return std::nullopt;
+    return {};
 }
 
 std::vector<std::string_view> OutdatedComponents(const ComponentVersions& versions) {

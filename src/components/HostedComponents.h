@@ -1,10 +1,10 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "platform/base/Result.h"
 #include "src/components/DataAnal.h"
 #include "src/components/PeriodTable.h"
 #include "src/components/Select.h"
@@ -29,9 +29,10 @@ struct ComponentSurroundings {
 class HostedComponents {
   public:
     /// Creates them hidden in `view`, in their order, and readies them. A component that cannot be created is
-    /// registered from the ActiveX folder and tried once more; the text for the user when that fails too.
-    std::optional<std::string> Create(platform::CWnd& view, const ComponentSurroundings& surroundings,
-                                      ComponentVersions& versions, SelectWindows& selectWindows);
+    /// registered from the ActiveX folder and tried once more; the failure when that fails too is a text for
+    /// the user in code page 1253.
+    platform::Result<void> Create(platform::CWnd& view, const ComponentSurroundings& surroundings,
+                                  ComponentVersions& versions, SelectWindows& selectWindows);
 
     CPeriodTable periodicTable;
     CSelect select;

@@ -17,14 +17,12 @@ namespace kalyxo {
 
 namespace fs = std::filesystem;
 
-using platform::Loaded;
 using platform::Machine;
 using platform::MachineConfig;
 using platform::ProgressStep;
+using platform::Result;
 
 namespace {
-
-using OpenResult = Loaded<std::unique_ptr<Machine>>;
 
 constexpr char kDiscLetter = 'D';
 constexpr char kHostLetter = 'Z';
@@ -44,8 +42,8 @@ bool isFinished(const fs::path& folder) {
     return isThere(configFile(folder)) && isThere(registryFile(folder));
 }
 
-std::optional<std::string> finish(const fs::path& folder, const InstalledFiles& installed,
-                                  const MachineConfig& config, const ProgressStep& step) {
+Result<void> finish(const fs::path& folder, const InstalledFiles& installed, const MachineConfig& config,
+                    const ProgressStep& step) {
     platform::NewMachineOptions options = NewMachineOptions(installed.content, installed.modules, {});
     options.config = config;
     options.config.drives[kHostLetter] = {platform::DriveType::fixed, "/"};
@@ -53,17 +51,17 @@ std::optional<std::string> finish(const fs::path& folder, const InstalledFiles& 
 }
 
 /// One program makes the machine; another that starts meanwhile waits, and finds it made.
-std::optional<std::string> makeUnlessFinished(const fs::path& folder, const InstalledFiles& installed,
-                                              const ProgressStep& step) {
+Result<void> makeUnlessFinished(const fs::path& folder, const InstalledFiles& installed,
+                                const ProgressStep& step) {
     std::error_code ignored;
     fs::create_directories(folder, ignored);
     const auto lock = platform::FolderLock::wait(folder);
-    if (isFinished(folder)) return std::nullopt;
+    if (isFinished(folder)) return {};
     MachineConfig known;
     if (isThere(configFile(folder))) {
-        Loaded<MachineConfig> config = platform::loadMachineConfig(configFile(folder));
-        if (!config) return std::move(config.error);
-        known = std::move(*config.value);
+        auto config = platform::loadMachineConfig(configFile(folder));
+        if (!config) return config.failure();
+        known = *std::move(config);
     }
     return finish(folder, installed, known, step);
 }
@@ -112,25 +110,25 @@ fs::path OwnMachineFolder() {
     return home == nullptr || *home == '\0' ? fs::path() : fs::path(home) / ".local/share/kalyxo";
 }
 
-OpenResult OpenOwnMachine(const fs::path& folder, const InstalledFiles& installed,
-                          const PresentScreen& present, const std::vector<MountedMedium>& media,
-                          const ProgressStep& step) {
-    if (auto problem = makeUnlessFinished(folder, installed, step))
-        return OpenResult::failure(std::move(*problem));
-    Loaded<MachineConfig> config = platform::loadMachineConfig(configFile(folder));
-    if (!config) return OpenResult::failure(std::move(config.error));
-    Loaded<platform::Registry> registry = platform::loadRegFile(registryFile(folder));
-    if (!registry) return OpenResult::failure(std::move(registry.error));
-    followPresent(*config.value, installed, present);
-    const LetterMemory remembered = RememberedLetters(*registry.value);
-    const LetterMemory letters = AddMediaDrives(*config.value, remembered, media);
-    auto machine = std::make_unique<Machine>(folder, std::move(*config.value), std::move(*registry.value));
+Result<std::unique_ptr<Machine>> OpenOwnMachine(const fs::path& folder, const InstalledFiles& installed,
+                                                const PresentScreen& present,
+                                                const std::vector<MountedMedium>& media,
+                                                const ProgressStep& step) {
+    if (const auto made = makeUnlessFinished(folder, installed, step); !made) return made.failure();
+    auto config = platform::loadMachineConfig(configFile(folder));
+    if (!config) return config.failure();
+    auto registry = platform::loadRegFile(registryFile(folder));
+    if (!registry) return registry.failure();
+    followPresent(*config, installed, present);
+    const LetterMemory remembered = RememberedLetters(*registry);
+    const LetterMemory letters = AddMediaDrives(*config, remembered, media);
+    auto machine = std::make_unique<Machine>(folder, *std::move(config), *std::move(registry));
     if (letters != remembered) {
         RememberLetters(machine->registry(), letters);
         machine->flushRegistry();
     }
-    if (!updateModules(*machine, installed.modules, step)) return OpenResult::failure("cancelled");
-    return OpenResult::success(std::move(machine));
+    if (!updateModules(*machine, installed.modules, step)) return platform::Failure{"cancelled"};
+    return machine;
 }
 
 }  // namespace kalyxo

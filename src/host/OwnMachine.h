@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/files/Loaded.h"
+#include "platform/base/Result.h"
 #include "platform/files/ProgressStep.h"
 #include "platform/machine/Machine.h"
 #include "src/host/InstalledFiles.h"
@@ -29,10 +29,10 @@ std::filesystem::path OwnMachineFolder();
 /// system as drive Z:. At every start the screen's measures are those of the present screen, component
 /// modules that differ from the installed ones are replaced, a compact disc whose folder is gone is the
 /// installed content, and the media are drives (see `AddMediaDrives`). Several programs may do so at once:
-/// one makes the machine, the others wait for it. The error names the file that is damaged, which is left as
-/// it is, or what could not be made. `step` is told of the modules, which may lie on a slow medium; once it
-/// cancels, there is no machine, and the next start goes on where this one stopped.
-platform::Loaded<std::unique_ptr<platform::Machine>> OpenOwnMachine(const std::filesystem::path& folder,
+/// one makes the machine, the others wait for it. The failure names the file that is damaged, which is left
+/// as it is, or what could not be made. `step` is told of the modules, which may lie on a slow medium; once
+/// it cancels, there is no machine, and the next start goes on where this one stopped.
+platform::Result<std::unique_ptr<platform::Machine>> OpenOwnMachine(const std::filesystem::path& folder,
                                                                     const InstalledFiles& installed,
                                                                     const PresentScreen& present,
                                                                     const std::vector<MountedMedium>& media,

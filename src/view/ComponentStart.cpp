@@ -27,12 +27,12 @@ bool ComponentStart::areUpToDate() {
 bool ComponentStart::create() {
     ProgramState& app = TheApp();
     SelectWindows windows;
-    const std::optional<std::string> failure =
+    const auto created =
         m_components.Create(m_view, {app.m_strProgramFolder, app.m_strDataFolder}, app, windows);
     app.m_hwndSelectEdit = windows.edit;
     app.m_hwndSelectTarget = windows.target;
-    if (failure) AfxMessageBox(*failure);
-    return !failure;
+    if (!created) AfxMessageBox(created.failure().message);
+    return static_cast<bool>(created);
 }
 
 void ComponentStart::CheckComponentVersions() {

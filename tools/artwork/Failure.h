@@ -2,12 +2,16 @@
 
 #include <QString>
 
+#include "platform/base/Result.h"
+
 namespace artwork {
 
-/// Why a file could not be read, drawn or written.
-struct Failure {
-    QString file;
-    QString reason;
-};
+using platform::Failure;
+using platform::Result;
+
+/// Why a file could not be read, drawn or written: its name before the reason.
+inline Failure failureOf(const QString& file, const QString& reason) {
+    return {(file + ": " + reason).toStdString()};
+}
 
 }  // namespace artwork

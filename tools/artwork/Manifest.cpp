@@ -5,19 +5,21 @@
 #include <nlohmann/json.hpp>
 #include <string>
 
+#include "tools/artwork/Failure.h"
+
 namespace artwork {
 namespace {
 
 using Json = nlohmann::json;
 
-constexpr int kLargestSide = 4096;
+constexpr int kMaxSide = 4096;
 
-std::variant<Json, Failure> readJson(const QString& path) {
+Result<Json> readJson(const QString& path) {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) return Failure{path, file.errorString()};
+    if (!file.open(QIODevice::ReadOnly)) return failureOf(path, file.errorString());
     const std::string text = file.readAll().toStdString();
     Json json = Json::parse(text, nullptr, false);
-    if (!json.is_object()) return Failure{path, QStringLiteral("not a JSON object")};
+    if (!json.is_object()) return failureOf(path, QStringLiteral("not a JSON object"));
     return json;
 }
 
@@ -43,24 +45,25 @@ std::optional<PixelFormat> formatOf(const QString& name) {
     return std::nullopt;
 }
 
-std::variant<Palette, Failure> readPalette(const QString& path) {
+Result<Palette> readPalette(const QString& path) {
     auto read = readJson(path);
-    if (const auto* failure = std::get_if<Failure>(&read)) return *failure;
+    if (!read) return read.failure();
     Palette palette;
-    for (const auto& [set, colours] : std::get<Json>(read).items()) {
+    for (const auto& [set, colours] : read->items()) {
         auto& target = palette[QString::fromStdString(set)];
         for (const auto& [name, paint] : colours.items()) {
             if (!paint.is_string())
-                return Failure{path, QStringLiteral("%1.%2 is not a text")
-                                         .arg(QString::fromStdString(set), QString::fromStdString(name))};
+                return failureOf(path, QStringLiteral("%1.%2 is not a text")
+                                           .arg(QString::fromStdString(set), QString::fromStdString(name)));
             target[QString::fromStdString(name)] = QString::fromStdString(paint.get<std::string>());
         }
     }
     return palette;
 }
 
-std::variant<Picture, QString> readPicture(const Json& entry, const Palette& palette) {
-    if (!entry.is_object()) return QStringLiteral("an entry is not an object");
+/// Reads an entry of the manifest `path`.
+Result<Picture> readPicture(const Json& entry, const Palette& palette, const QString& path) {
+    if (!entry.is_object()) return failureOf(path, QStringLiteral("an entry is not an object"));
     Picture picture;
     picture.output = textOf(entry, "output");
     picture.source = textOf(entry, "source");
@@ -69,16 +72,17 @@ std::variant<Picture, QString> readPicture(const Json& entry, const Palette& pal
     picture.fine = textOf(entry, "fine");
     picture.once = entry.value("once", Json(false)) == Json(true);
     if (picture.output.isEmpty() || picture.source.isEmpty())
-        return QStringLiteral("an entry lacks \"output\" or \"source\"");
+        return failureOf(path, QStringLiteral("an entry lacks \"output\" or \"source\""));
     const auto size = pairOf(entry, "size");
-    if (!size || size->x() < 1 || size->y() < 1 || size->x() > kLargestSide || size->y() > kLargestSide)
-        return picture.output + ": \"size\" must be two numbers from 1 to " + QString::number(kLargestSide);
+    if (!size || size->x() < 1 || size->y() < 1 || size->x() > kMaxSide || size->y() > kMaxSide)
+        return failureOf(
+            path, picture.output + ": \"size\" must be two numbers from 1 to " + QString::number(kMaxSide));
     picture.size = QSize(size->x(), size->y());
     const auto format = formatOf(textOf(entry, "format"));
-    if (!format) return picture.output + ": \"format\" must be rgb, rgba or mono";
+    if (!format) return failureOf(path, picture.output + ": \"format\" must be rgb, rgba or mono");
     picture.format = *format;
     if (!picture.colours.isEmpty() && !palette.contains(picture.colours))
-        return picture.output + ": no colour set \"" + picture.colours + "\"";
+        return failureOf(path, picture.output + ": no colour set \"" + picture.colours + "\"");
     return picture;
 }
 
@@ -92,24 +96,24 @@ Picture sharper(const Picture& picture) {
     return twice;
 }
 
-std::variant<Manifest, Failure> readManifest(const QString& path) {
+Result<Manifest> readManifest(const QString& path) {
     auto read = readJson(path);
-    if (const auto* failure = std::get_if<Failure>(&read)) return *failure;
-    const Json& json = std::get<Json>(read);
+    if (!read) return read.failure();
+    const Json& json = *read;
 
     Manifest manifest;
     manifest.folder = QFileInfo(path).absolutePath();
     auto palette = readPalette(manifest.folder + "/" + textOf(json, "palette"));
-    if (const auto* failure = std::get_if<Failure>(&palette)) return *failure;
-    manifest.palette = std::get<Palette>(std::move(palette));
+    if (!palette) return palette.failure();
+    manifest.palette = *std::move(palette);
 
     const auto pictures = json.find("pictures");
     if (pictures == json.end() || !pictures->is_array())
-        return Failure{path, QStringLiteral("no list \"pictures\"")};
+        return failureOf(path, QStringLiteral("no list \"pictures\""));
     for (const Json& entry : *pictures) {
-        auto picture = readPicture(entry, manifest.palette);
-        if (const auto* reason = std::get_if<QString>(&picture)) return Failure{path, *reason};
-        manifest.pictures.push_back(std::get<Picture>(std::move(picture)));
+        auto picture = readPicture(entry, manifest.palette, path);
+        if (!picture) return picture.failure();
+        manifest.pictures.push_back(*std::move(picture));
     }
     return manifest;
 }

@@ -6,10 +6,9 @@
 #include <QString>
 #include <QStringList>
 #include <optional>
-#include <variant>
 #include <vector>
 
-#include "tools/artwork/Failure.h"
+#include "platform/base/Result.h"
 
 namespace artwork {
 
@@ -47,6 +46,6 @@ struct Manifest {
 };
 
 /// Reads `manifest.json` and the palette file it names.
-std::variant<Manifest, Failure> readManifest(const QString& path);
+platform::Result<Manifest> readManifest(const QString& path);
 
 }  // namespace artwork

@@ -9,6 +9,8 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
+#include "tools/artwork/Failure.h"
+
 namespace artwork {
 namespace {
 
@@ -38,28 +40,31 @@ QImage stored(const QImage& image, PixelFormat format) {
 /// A BMP file starts with this many bytes that a bitmap resource has not.
 constexpr qsizetype kFileHeader = 14;
 
-std::optional<QString> writeResource(const QString& path, const QImage& image) {
+Result<void> writeResource(const QString& path, const QImage& image) {
     QBuffer bitmap;
     QImageWriter writer(&bitmap, "BMP");
-    if (!bitmap.open(QIODevice::WriteOnly) || !writer.write(image)) return writer.errorString();
+    if (!bitmap.open(QIODevice::WriteOnly) || !writer.write(image))
+        return failureOf(path, writer.errorString());
     QFile file(path);
     const QByteArray stored = bitmap.data().mid(kFileHeader);
-    if (!file.open(QIODevice::WriteOnly) || file.write(stored) != stored.size()) return file.errorString();
-    return std::nullopt;
+    if (!file.open(QIODevice::WriteOnly) || file.write(stored) != stored.size())
+        return failureOf(path, file.errorString());
+    return {};
 }
 
-std::optional<QString> writeImage(const QString& path, const QImage& image) {
+Result<void> writeImage(const QString& path, const QImage& image) {
     if (path.endsWith(".dib")) return writeResource(path, image);
     QImageWriter writer(path);
-    return writer.write(image) ? std::nullopt : std::optional(writer.errorString());
+    if (!writer.write(image)) return failureOf(path, writer.errorString());
+    return {};
 }
 
 }  // namespace
 
-std::optional<Failure> writePicture(const Picture& picture, const QByteArray& svg, const QString& folder) {
+Result<void> writePicture(const Picture& picture, const QByteArray& svg, const QString& folder) {
     QSvgRenderer renderer;
-    if (!renderer.load(svg)) return Failure{picture.source, QStringLiteral("cannot be drawn as SVG Tiny")};
-    if (!renderer.viewBoxF().isValid()) return Failure{picture.source, QStringLiteral("no viewBox")};
+    if (!renderer.load(svg)) return failureOf(picture.source, QStringLiteral("cannot be drawn as SVG Tiny"));
+    if (!renderer.viewBoxF().isValid()) return failureOf(picture.source, QStringLiteral("no viewBox"));
 
     QImage image = stored(draw(renderer, picture), picture.format);
     if (picture.hotSpot)
@@ -67,9 +72,8 @@ std::optional<Failure> writePicture(const Picture& picture, const QByteArray& sv
 
     const QString path = folder + "/" + picture.output;
     if (!QDir().mkpath(QFileInfo(path).absolutePath()))
-        return Failure{path, QStringLiteral("its folder cannot be made")};
-    if (const auto reason = writeImage(path, image)) return Failure{path, *reason};
-    return std::nullopt;
+        return failureOf(path, QStringLiteral("its folder cannot be made"));
+    return writeImage(path, image);
 }
 
 }  // namespace artwork

@@ -5,8 +5,9 @@
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QRegularExpression>
-#include <optional>
 #include <utility>
+
+#include "tools/artwork/Failure.h"
 
 namespace artwork {
 namespace {
@@ -14,18 +15,17 @@ namespace {
 constexpr int kDeepestNesting = 8;
 
 using Colours = QMap<QString, QString>;
-using Problem = std::optional<Failure>;
 
-std::variant<QDomDocument, Failure> load(const QString& path) {
+Result<QDomDocument> load(const QString& path) {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) return Failure{path, file.errorString()};
+    if (!file.open(QIODevice::ReadOnly)) return failureOf(path, file.errorString());
     QDomDocument document;
     QString message;
     int line = 0;
     if (!document.setContent(&file, false, &message, &line))
-        return Failure{path, QStringLiteral("line %1: %2").arg(line).arg(message)};
+        return failureOf(path, QStringLiteral("line %1: %2").arg(line).arg(message));
     if (document.documentElement().tagName() != "svg")
-        return Failure{path, QStringLiteral("not an SVG file")};
+        return failureOf(path, QStringLiteral("not an SVG file"));
     return document;
 }
 
@@ -34,19 +34,19 @@ class Walk {
   public:
     Walk(const Palette& palette, const QDomDocument& document) : m_palette(palette), m_document(document) {}
 
-    Problem resolve(const QDomElement& element, const QString& path, const Colours& colours, int depth) {
-        if (Problem problem = paint(element, path, colours)) return problem;
-        if (Problem problem = checkFont(element, path)) return problem;
+    Result<void> resolve(const QDomElement& element, const QString& path, const Colours& colours, int depth) {
+        if (auto done = paint(element, path, colours); !done) return done;
+        if (auto done = checkFont(element, path); !done) return done;
         for (QDomElement child = element.firstChildElement(); !child.isNull();) {
             const QDomElement next = child.nextSiblingElement();
             const QString href = child.attribute("xlink:href");
             const bool external = child.tagName() == "use" && href.endsWith(".svg");
-            Problem problem =
+            auto resolved =
                 external ? include(child, href, path, colours, depth) : resolve(child, path, colours, depth);
-            if (problem) return problem;
+            if (!resolved) return resolved;
             child = next;
         }
-        return std::nullopt;
+        return {};
     }
 
     Colours coloursOf(const QString& set) const {
@@ -56,17 +56,17 @@ class Walk {
     }
 
   private:
-    Problem include(const QDomElement& use, const QString& href, const QString& from, const Colours& colours,
-                    int depth) {
-        if (depth >= kDeepestNesting) return Failure{from, "too many files inside one another at " + href};
+    Result<void> include(const QDomElement& use, const QString& href, const QString& from,
+                         const Colours& colours, int depth) {
+        if (depth >= kDeepestNesting) return failureOf(from, "too many files inside one another at " + href);
         const QString path = QFileInfo(from).absolutePath() + "/" + href;
         auto loaded = load(path);
-        if (const auto* failure = std::get_if<Failure>(&loaded)) return *failure;
-        const QDomElement root = std::get<QDomDocument>(loaded).documentElement();
+        if (!loaded) return loaded.failure();
+        const QDomElement root = loaded->documentElement();
 
         const QStringList box = root.attribute("viewBox").split(' ');
         if (box.size() != 4 || box[2].toDouble() <= 0 || box[3].toDouble() <= 0)
-            return Failure{path, QStringLiteral("no usable viewBox")};
+            return failureOf(path, QStringLiteral("no usable viewBox"));
         QDomElement group = m_document.createElement("g");
         const double sx = use.attribute("width", box[2]).toDouble() / box[2].toDouble();
         const double sy = use.attribute("height", box[3]).toDouble() / box[3].toDouble();
@@ -77,7 +77,7 @@ class Walk {
         copyInto(group, root);
 
         const QString set = use.attribute("data-colours");
-        if (!set.isEmpty() && !m_palette.contains(set)) return Failure{from, "no colour set " + set};
+        if (!set.isEmpty() && !m_palette.contains(set)) return failureOf(from, "no colour set " + set);
         use.parentNode().replaceChild(group, use);
         return resolve(group, path, set.isEmpty() ? colours : coloursOf(set), depth + 1);
     }
@@ -89,7 +89,7 @@ class Walk {
             group.appendChild(m_document.importNode(node, true));
     }
 
-    static Problem paint(const QDomElement& element, const QString& path, const Colours& colours) {
+    static Result<void> paint(const QDomElement& element, const QString& path, const Colours& colours) {
         static const QRegularExpression variable(R"(^var\(--([a-z0-9-]+)\)$)");
         const QDomNamedNodeMap attributes = element.attributes();
         for (int i = 0; i < attributes.count(); ++i) {
@@ -97,17 +97,17 @@ class Walk {
             const auto match = variable.match(attribute.value());
             if (!match.hasMatch()) continue;
             const auto colour = colours.constFind(match.captured(1));
-            if (colour == colours.constEnd()) return Failure{path, "no colour " + match.captured(1)};
+            if (colour == colours.constEnd()) return failureOf(path, "no colour " + match.captured(1));
             attribute.setValue(*colour);
         }
-        return std::nullopt;
+        return {};
     }
 
     // A missing font would be replaced silently, and texts would no longer fit their places.
-    static Problem checkFont(const QDomElement& element, const QString& path) {
+    static Result<void> checkFont(const QDomElement& element, const QString& path) {
         const QString family = element.attribute("font-family");
-        if (family.isEmpty() || QFontDatabase::hasFamily(family)) return std::nullopt;
-        return Failure{path, "font not installed: " + family};
+        if (family.isEmpty() || QFontDatabase::hasFamily(family)) return {};
+        return failureOf(path, "font not installed: " + family);
     }
 
     const Palette& m_palette;
@@ -119,13 +119,13 @@ class Walk {
 SvgComposer::SvgComposer(const Palette& palette, QString colours)
     : m_palette(palette), m_colours(std::move(colours)) {}
 
-std::variant<QByteArray, Failure> SvgComposer::compose(const QString& path) const {
+Result<QByteArray> SvgComposer::compose(const QString& path) const {
     auto loaded = load(path);
-    if (const auto* failure = std::get_if<Failure>(&loaded)) return *failure;
-    auto& document = std::get<QDomDocument>(loaded);
+    if (!loaded) return loaded.failure();
+    auto& document = *loaded;
     Walk walk(m_palette, document);
-    if (Problem problem = walk.resolve(document.documentElement(), path, walk.coloursOf(m_colours), 0))
-        return *problem;
+    const auto resolved = walk.resolve(document.documentElement(), path, walk.coloursOf(m_colours), 0);
+    if (!resolved) return resolved.failure();
     return document.toByteArray(-1);
 }
 

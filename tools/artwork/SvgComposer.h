@@ -2,9 +2,8 @@
 
 #include <QByteArray>
 #include <QString>
-#include <variant>
 
-#include "tools/artwork/Failure.h"
+#include "platform/base/Result.h"
 #include "tools/artwork/Manifest.h"
 
 namespace artwork {
@@ -22,7 +21,7 @@ class SvgComposer {
     SvgComposer(const Palette& palette, QString colours);
 
     /// The composed document of the file `path`.
-    std::variant<QByteArray, Failure> compose(const QString& path) const;
+    platform::Result<QByteArray> compose(const QString& path) const;
 
   private:
     const Palette& m_palette;

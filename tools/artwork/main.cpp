@@ -10,16 +10,16 @@
 
 namespace {
 
-void report(const artwork::Failure& failure) {
-    QTextStream(stderr) << "render-artwork: " << failure.file << ": " << failure.reason << '\n';
+void report(const platform::Failure& failure) {
+    QTextStream(stderr) << "render-artwork: " << QString::fromStdString(failure.message) << '\n';
 }
 
-std::optional<artwork::Failure> render(const artwork::Manifest& manifest, const artwork::Picture& picture,
-                                       const QString& folder) {
+platform::Result<void> render(const artwork::Manifest& manifest, const artwork::Picture& picture,
+                              const QString& folder) {
     const artwork::SvgComposer composer(manifest.palette, picture.colours);
     const auto svg = composer.compose(manifest.folder + "/" + picture.source);
-    if (const auto* failure = std::get_if<artwork::Failure>(&svg)) return *failure;
-    return artwork::writePicture(picture, std::get<QByteArray>(svg), folder);
+    if (!svg) return svg.failure();
+    return artwork::writePicture(picture, *svg, folder);
 }
 
 }  // namespace
@@ -33,18 +33,18 @@ int main(int argc, char** argv) {
         return 2;
     }
     const auto manifest = artwork::readManifest(arguments[1]);
-    if (const auto* failure = std::get_if<artwork::Failure>(&manifest)) {
-        report(*failure);
+    if (!manifest) {
+        report(manifest.failure());
         return 2;
     }
     int status = 0;
     const auto draw = [&](const artwork::Picture& picture) {
-        const auto failure = render(std::get<artwork::Manifest>(manifest), picture, arguments[2]);
-        if (!failure) return;
-        report(*failure);
+        const auto rendered = render(*manifest, picture, arguments[2]);
+        if (rendered) return;
+        report(rendered.failure());
         status = 1;
     };
-    for (const artwork::Picture& picture : std::get<artwork::Manifest>(manifest).pictures) {
+    for (const artwork::Picture& picture : manifest->pictures) {
         draw(picture);
         if (!picture.once) draw(artwork::sharper(picture));
     }

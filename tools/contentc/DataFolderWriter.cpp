@@ -8,12 +8,16 @@
 #include <utility>
 
 namespace contentc {
+
+using platform::Failure;
+using platform::Result;
+
 namespace {
 
 namespace fs = std::filesystem;
 
-std::string describe(const fs::path& path, const std::string& fault) {
-    return path.generic_string() + ": " + fault;
+Failure failureOf(const fs::path& path, const std::string& fault) {
+    return {path.generic_string() + ": " + fault};
 }
 
 fs::path siblingOf(const fs::path& folder, const std::string& suffix) {
@@ -45,20 +49,21 @@ fs::path nativePath(const fs::path& folder, std::string dosPath) {
     return folder / dosPath;
 }
 
-std::string writeFile(const fs::path& path, const std::string& bytes) {
+Result<void> writeFile(const fs::path& path, const std::string& bytes) {
     std::error_code failed;
     fs::create_directories(path.parent_path(), failed);
-    if (failed) return describe(path.parent_path(), failed.message());
+    if (failed) return failureOf(path.parent_path(), failed.message());
     std::ofstream stream(path, std::ios::binary | std::ios::trunc);
     stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     stream.close();
-    return stream ? "" : describe(path, "cannot be written");
+    if (!stream) return failureOf(path, "cannot be written");
+    return {};
 }
 
-std::string writeAll(const OutputFiles& files, const fs::path& folder) {
+Result<void> writeAll(const OutputFiles& files, const fs::path& folder) {
     for (const auto& [key, file] : files.files()) {
-        std::string fault = writeFile(nativePath(folder, file.path), file.bytes);
-        if (!fault.empty()) return fault;
+        auto written = writeFile(nativePath(folder, file.path), file.bytes);
+        if (!written) return written;
     }
     return {};
 }
@@ -72,12 +77,12 @@ bool mayReplace(const fs::path& folder) {
 }
 
 /// The former folder is removed only after the new one stands in its place.
-std::string moveInto(const fs::path& made, const fs::path& folder) {
+Result<void> moveInto(const fs::path& made, const fs::path& folder) {
     const fs::path former = siblingOf(folder, ".old-");
     std::error_code failed;
     const bool hadFolder = fs::exists(folder, failed);
     if (hadFolder) fs::rename(folder, former, failed);
-    if (failed) return describe(folder, failed.message());
+    if (failed) return failureOf(folder, failed.message());
     fs::rename(made, folder, failed);
     std::error_code ignored;
     if (!failed) {
@@ -85,24 +90,23 @@ std::string moveInto(const fs::path& made, const fs::path& folder) {
         return {};
     }
     if (hadFolder) fs::rename(former, folder, ignored);
-    return describe(folder, failed.message());
+    return failureOf(folder, failed.message());
 }
 
 }  // namespace
 
-std::string writeDataFolder(const OutputFiles& files, const fs::path& folder) {
+Result<void> writeDataFolder(const OutputFiles& files, const fs::path& folder) {
     std::error_code failed;
     fs::path target = fs::weakly_canonical(fs::absolute(folder, failed), failed);
-    if (failed) return describe(folder, failed.message());
+    if (failed) return failureOf(folder, failed.message());
     if (!target.has_filename()) target = target.parent_path();
-    if (!mayReplace(target)) return describe(folder, "is in use by something other than a data folder");
+    if (!mayReplace(target)) return failureOf(folder, "is in use by something other than a data folder");
     fs::create_directories(target.parent_path(), failed);
-    if (failed) return describe(target.parent_path(), failed.message());
+    if (failed) return failureOf(target.parent_path(), failed.message());
 
     const TemporaryFolder made(siblingOf(target, ".new-"));
-    std::string fault = writeAll(files, made.path());
-    if (fault.empty()) fault = moveInto(made.path(), target);
-    return fault;
+    if (auto written = writeAll(files, made.path()); !written) return written;
+    return moveInto(made.path(), target);
 }
 
 }  // namespace contentc

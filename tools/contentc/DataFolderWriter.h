@@ -1,8 +1,8 @@
 #pragma once
 
 #include <filesystem>
-#include <string>
 
+#include "platform/base/Result.h"
 #include "tools/contentc/source/OutputFiles.h"
 
 namespace contentc {
@@ -10,8 +10,7 @@ namespace contentc {
 /// Writes the files as the data folder `folder`, creating it or replacing a former one. All is written into a
 /// temporary folder beside it first, so that after a failure a former folder stands as it was and nothing new
 /// does. A folder that holds anything but a data folder is not replaced.
-///
-/// Returns what went wrong, naming the file or folder; empty when all is written.
-std::string writeDataFolder(const OutputFiles& files, const std::filesystem::path& folder);
+/// The failure names the file or folder.
+platform::Result<void> writeDataFolder(const OutputFiles& files, const std::filesystem::path& folder);
 
 }  // namespace contentc

@@ -28,9 +28,9 @@ int run(const contentc::Options& options) {
         std::cerr << contentc::toLine(diagnostic) << '\n';
     }
     if (!files) return Failed;
-    const std::string fault = contentc::writeDataFolder(*files, options.output);
-    if (fault.empty()) return Done;
-    std::cerr << "contentc: " << fault << '\n';
+    const auto written = contentc::writeDataFolder(*files, options.output);
+    if (written) return Done;
+    std::cerr << "contentc: " << written.failure().message << '\n';
     return Failed;
 }
 

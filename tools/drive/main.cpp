@@ -30,8 +30,8 @@ int complain(const std::string& problem) {
     return kWrong;
 }
 
-int carryOut(const std::string& problem) {
-    complain(problem);
+int refuse(const platform::Failure& failure) {
+    complain(failure.message);
     std::fputs(std::string(usage()).c_str(), stderr);
     return kWrong;
 }
@@ -39,10 +39,10 @@ int carryOut(const std::string& problem) {
 int carryOut(const NewMachine& task) {
     const kalyxo::InstalledFiles installed = kalyxo::FindInstalledFiles(kalyxo::RunningProgramsFolder());
     if (installed.modules.empty()) return complain("the component modules are not where they belong");
-    const auto problem = platform::makeMachine(
+    const auto made = platform::makeMachine(
         task.machine, kalyxo::NewMachineOptions(task.data, installed.modules,
                                                 {.outside = task.outside, .bare = task.bare}));
-    return problem ? complain(*problem) : 0;
+    return made ? 0 : complain(made.failure().message);
 }
 
 /// The screen is the machine's, unless the caller names another.
@@ -67,8 +67,8 @@ int carryOut(const RunScript& task) {
     const int script = task.script ? ::open(task.script->c_str(), O_RDONLY | O_CLOEXEC) : STDIN_FILENO;
     if (script < 0) return complain(task.script->string() + ": cannot be read");
     auto machine = platform::Machine::open(task.machine);
-    if (!machine) return complain(machine.error);
-    platform::Machine& opened = **machine.value;
+    if (!machine) return complain(machine.failure().message);
+    platform::Machine& opened = **machine;
     opened.trace().enable();
     opened.enableAnswers();
     opened.setVirtualTime(true);
@@ -96,7 +96,8 @@ int carryOut(const RunScript& task) {
 int main(int argc, char** argv) {
     drive::reportDeath();
     platform::SetResources(kalyxo::ProgramResources());
-    const drive::Task task =
+    const auto task =
         drive::taskOf(std::span<const char* const>(argv, static_cast<std::size_t>(argc)).subspan(1));
-    return std::visit([](const auto& what) { return drive::carryOut(what); }, task);
+    if (!task) return drive::refuse(task.failure());
+    return std::visit([](const auto& what) { return drive::carryOut(what); }, *task);
 }

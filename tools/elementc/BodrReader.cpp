@@ -53,7 +53,7 @@ void keep(Record record, Records& records) {
 
 }  // namespace
 
-Outcome<Records> readBodr(std::string_view xml, const std::string& file) {
+Result<Records> readBodr(std::string_view xml, const std::string& file) {
     QXmlStreamReader reader(QByteArray(xml.data(), static_cast<qsizetype>(xml.size())));
     Records records;
     if (reader.readNextStartElement()) {
@@ -65,9 +65,9 @@ Outcome<Records> readBodr(std::string_view xml, const std::string& file) {
             }
         }
     }
-    if (!reader.hasError()) return {std::move(records)};
-    return failed<Records>(file + ':' + std::to_string(reader.lineNumber()) + ": " +
-                           reader.errorString().toStdString());
+    if (!reader.hasError()) return records;
+    return Failure{file + ':' + std::to_string(reader.lineNumber()) + ": " +
+                   reader.errorString().toStdString()};
 }
 
 }  // namespace elementc

@@ -10,25 +10,25 @@ namespace {
 constexpr std::array<std::string_view, 8> correctable{
     "symbol", "name", "electronegativity", "ionisation", "melting", "boiling", "discovered", "configuration"};
 
-std::string correct(Records& records, const SourceRow& correction) {
+Result<void> correct(Records& records, const SourceRow& correction) {
     const int number = numberOf(correction.fields);
     const std::string name(field(correction.fields, "field"));
-    if (number == 0) return correction.place + ": no atomic number";
+    if (number == 0) return Failure{correction.place + ": no atomic number"};
     if (std::ranges::find(correctable, name) == correctable.end()) {
-        return correction.place + ": no field \"" + name + '"';
+        return Failure{correction.place + ": no field \"" + name + '"'};
     }
     const std::string_view value = field(correction.fields, "value");
     value.empty() ? void(records[number].erase(name)) : void(records[number][name] = value);
     return {};
 }
 
-std::string join(Records& records, const SourceRow& row) {
+Result<void> join(Records& records, const SourceRow& row) {
     const auto found = records.find(numberOf(row.fields));
-    if (found == records.end()) return row.place + ": no such element";
+    if (found == records.end()) return Failure{row.place + ": no such element"};
     if (field(found->second, "symbol") != field(row.fields, "symbol")) {
-        return row.place + ": this is not the symbol of element " + std::to_string(found->first);
+        return Failure{row.place + ": this is not the symbol of element " + std::to_string(found->first)};
     }
-    if (found->second.contains("family")) return row.place + ": the second row of this element";
+    if (found->second.contains("family")) return Failure{row.place + ": the second row of this element"};
     found->second.insert(row.fields.begin(), row.fields.end());
     return {};
 }
@@ -41,26 +41,25 @@ bool namesItsElement(const Records& records, const SourceRow& correction) {
 
 }  // namespace
 
-Outcome<Records> mergeElements(Records bodr, std::span<const SourceRow> corrections,
-                               std::span<const SourceRow> own) {
+Result<Records> mergeElements(Records bodr, std::span<const SourceRow> corrections,
+                              std::span<const SourceRow> own) {
     for (const SourceRow& correction : corrections) {
-        if (const std::string fault = correct(bodr, correction); !fault.empty())
-            return failed<Records>(fault);
+        if (const auto done = correct(bodr, correction); !done) return done.failure();
     }
     for (const SourceRow& correction : corrections) {
         if (!namesItsElement(bodr, correction)) {
-            return failed<Records>(correction.place + ": number and symbol do not agree");
+            return Failure{correction.place + ": number and symbol do not agree"};
         }
     }
     for (const SourceRow& row : own) {
-        if (const std::string fault = join(bodr, row); !fault.empty()) return failed<Records>(fault);
+        if (const auto done = join(bodr, row); !done) return done.failure();
     }
     for (int number = 1; number <= elementCount; ++number) {
         if (!bodr[number].contains("family")) {
-            return failed<Records>("no row for element " + std::to_string(number));
+            return Failure{"no row for element " + std::to_string(number)};
         }
     }
-    return {std::move(bodr)};
+    return bodr;
 }
 
 }  // namespace elementc

@@ -4,7 +4,8 @@
 #include <map>
 #include <string>
 #include <string_view>
-#include <utility>
+
+#include "platform/base/Result.h"
 
 namespace elementc {
 
@@ -16,17 +17,9 @@ using Records = std::map<int, Record>;
 
 inline constexpr int elementCount = 118;
 
-/// A result, or what is wrong, as far as can be told as `file:line: message`.
-template <class T>
-struct Outcome {
-    T value{};
-    std::string fault{};
-};
-
-template <class T>
-Outcome<T> failed(const std::string& fault) {
-    return {{}, fault};
-}
+/// What a step gives, or what is wrong: if possible as `file:line: message`.
+using platform::Failure;
+using platform::Result;
 
 /// The text of a field, empty where there is none.
 inline std::string_view field(const Record& record, std::string_view name) {

@@ -26,7 +26,7 @@ Record rowOf(const std::vector<std::string>& names, const std::vector<std::strin
 
 }  // namespace
 
-Outcome<std::vector<SourceRow>> readTable(std::string_view text, const std::string& file) {
+Result<std::vector<SourceRow>> readTable(std::string_view text, const std::string& file) {
     std::vector<SourceRow> rows;
     std::vector<std::string> names;
     int number = 0;
@@ -38,13 +38,13 @@ Outcome<std::vector<SourceRow>> readTable(std::string_view text, const std::stri
         if (names.empty()) {
             names = cells;
         } else if (cells.size() != names.size()) {
-            return failed<std::vector<SourceRow>>(place + ": " + std::to_string(cells.size()) +
-                                                  " cells under " + std::to_string(names.size()) + " names");
+            return Failure{place + ": " + std::to_string(cells.size()) + " cells under " +
+                           std::to_string(names.size()) + " names"};
         } else {
             rows.push_back({rowOf(names, cells), place});
         }
     }
-    return {std::move(rows)};
+    return rows;
 }
 
 int numberOf(const Record& record) {

@@ -53,18 +53,19 @@ bool isDecimal(std::string_view text) {
 /// Whether a text can stand between quotes as it is.
 bool isPlain(std::string_view text) { return text.find_first_of("\"\\\n\r") == std::string_view::npos; }
 
-std::string faultOf(const Record& record) {
+Result<void> check(const Record& record) {
     for (const std::string_view name : required) {
-        if (field(record, name).empty()) return "no " + std::string(name);
+        if (field(record, name).empty()) return Failure{"no " + std::string(name)};
     }
     for (const std::string_view name : figures) {
-        if (!isDecimal(field(record, name))) return std::string(name) + " is no decimal number";
+        if (!isDecimal(field(record, name))) return Failure{std::string(name) + " is no decimal number"};
     }
     if (field(record, "discovered").find_first_not_of("0123456789") != std::string_view::npos) {
-        return "the year is no number";
+        return Failure{"the year is no number"};
     }
     const bool plain = std::ranges::all_of(record, [](const auto& each) { return isPlain(each.second); });
-    return plain ? std::string() : "a text with a quotation mark, backslash or line end";
+    if (!plain) return Failure{"a text with a quotation mark, backslash or line end"};
+    return {};
 }
 
 std::string quoted(std::string_view text) { return '"' + std::string(text) + '"'; }
@@ -84,14 +85,15 @@ std::string line(int number, const Record& record) {
 
 }  // namespace
 
-Outcome<std::string> writeTable(const Records& records) {
+Result<std::string> writeTable(const Records& records) {
     std::string text(head);
     for (const auto& [number, record] : records) {
-        const std::string fault = faultOf(record);
-        if (!fault.empty()) return failed<std::string>("element " + std::to_string(number) + ": " + fault);
+        if (const auto checked = check(record); !checked)
+            return Failure{"element " + std::to_string(number) + ": " + checked.failure().message};
         text += line(number, record);
     }
-    return {text.append(tail)};
+    text.append(tail);
+    return text;
 }
 
 }  // namespace elementc

@@ -23,29 +23,29 @@ int fail(const std::string& message) {
     return 1;
 }
 
-Outcome<std::string> compile(const std::string& bodrFile, const std::string& ownFile,
-                             const std::string& correctionsFile) {
+Result<std::string> compile(const std::string& bodrFile, const std::string& ownFile,
+                            const std::string& correctionsFile) {
     const auto xml = contentsOf(bodrFile);
     const auto ownText = contentsOf(ownFile);
     const auto correctionsText = contentsOf(correctionsFile);
-    if (!xml || !ownText || !correctionsText) return failed<std::string>("a source cannot be read");
+    if (!xml || !ownText || !correctionsText) return Failure{"a source cannot be read"};
     auto bodr = readBodr(*xml, bodrFile);
-    if (!bodr.fault.empty()) return failed<std::string>(bodr.fault);
+    if (!bodr) return bodr.failure();
     const auto own = readTable(*ownText, ownFile);
-    if (!own.fault.empty()) return failed<std::string>(own.fault);
+    if (!own) return own.failure();
     const auto corrections = readTable(*correctionsText, correctionsFile);
-    if (!corrections.fault.empty()) return failed<std::string>(corrections.fault);
-    const auto merged = mergeElements(std::move(bodr.value), corrections.value, own.value);
-    if (!merged.fault.empty()) return failed<std::string>(merged.fault);
-    return writeTable(merged.value);
+    if (!corrections) return corrections.failure();
+    const auto merged = mergeElements(*std::move(bodr), *corrections, *own);
+    if (!merged) return merged.failure();
+    return writeTable(*merged);
 }
 
 int run(const std::string& bodrFile, const std::string& ownFile, const std::string& correctionsFile,
         const std::string& outputFile) {
     const auto table = compile(bodrFile, ownFile, correctionsFile);
-    if (!table.fault.empty()) return fail(table.fault);
+    if (!table) return fail(table.failure().message);
     std::ofstream out(outputFile, std::ios::binary);
-    out << table.value;
+    out << *table;
     out.close();
     return out ? 0 : fail(outputFile + " cannot be written");
 }

@@ -12,20 +12,20 @@ namespace {
 
 TEST(MachineConfig, FieldsLeftOutHaveTheirDefaults) {
     const auto empty = parseMachineConfig("{}", "m");
-    ASSERT_TRUE(empty) << empty.error;
-    EXPECT_EQ(*empty.value, MachineConfig());
+    ASSERT_TRUE(empty) << empty.message();
+    EXPECT_EQ(*empty, MachineConfig());
 
     const auto some = parseMachineConfig(
         R"({"screen": {"width": 640}, "metrics": {"SM_CXMAXIMIZED": 600}, "printer": {"vertres": 5},
             "drives": {"D": {"type": "cdrom", "folder": "/media/disc"}, "E": {}}, "other": [1, {"x": null}]})",
         "m");
-    ASSERT_TRUE(some) << some.error;
-    EXPECT_EQ(some.value->screen, (ScreenConfig{640, 768, 32}));
-    EXPECT_EQ(some.value->metrics.at("SM_CXMAXIMIZED"), 600);
-    EXPECT_EQ(some.value->printer, (PrinterConfig{4800, 5, 600}));
-    EXPECT_EQ(some.value->drives, (std::map<char, DriveConfig>{{'C', {DriveType::fixed, "c"}},
-                                                               {'D', {DriveType::cdrom, "/media/disc"}},
-                                                               {'E', {DriveType::fixed, "e"}}}));
+    ASSERT_TRUE(some) << some.message();
+    EXPECT_EQ(some->screen, (ScreenConfig{640, 768, 32}));
+    EXPECT_EQ(some->metrics.at("SM_CXMAXIMIZED"), 600);
+    EXPECT_EQ(some->printer, (PrinterConfig{4800, 5, 600}));
+    EXPECT_EQ(some->drives, (std::map<char, DriveConfig>{{'C', {DriveType::fixed, "c"}},
+                                                         {'D', {DriveType::cdrom, "/media/disc"}},
+                                                         {'E', {DriveType::fixed, "e"}}}));
 }
 
 TEST(MachineConfig, WhatIsSavedIsLoaded) {
@@ -45,8 +45,8 @@ TEST(MachineConfig, WhatIsSavedIsLoaded) {
     for (const auto& saved : {config, MachineConfig()}) {
         ASSERT_TRUE(saveMachineConfig(saved, folder / "machine.json"));
         const auto loaded = loadMachineConfig(folder / "machine.json");
-        ASSERT_TRUE(loaded) << loaded.error;
-        EXPECT_EQ(*loaded.value, saved);
+        ASSERT_TRUE(loaded) << loaded.message();
+        EXPECT_EQ(*loaded, saved);
     }
     config.drives['T'].folder = "\xFF";
     EXPECT_FALSE(saveMachineConfig(config, folder / "machine.json"));
@@ -83,10 +83,10 @@ TEST(MachineConfig, WhatIsWrongIsToldByName) {
     for (const auto& [json, expected] : cases) {
         const auto loaded = parseMachineConfig(json, "m.json");
         EXPECT_FALSE(loaded) << expected;
-        EXPECT_EQ(loaded.error.substr(0, expected.size()), expected);
+        EXPECT_EQ(loaded.message().substr(0, expected.size()), expected);
     }
     const TestFolder folder;
-    EXPECT_EQ(loadMachineConfig(folder / "none").error, (folder / "none").string() + ": cannot be read");
+    EXPECT_EQ(loadMachineConfig(folder / "none").message(), (folder / "none").string() + ": cannot be read");
     EXPECT_FALSE(loadMachineConfig(folder.path()));
     EXPECT_FALSE(loadMachineConfig(folder.write("huge", std::string(2 << 20, ' ') + "{}")));
 }

@@ -15,8 +15,8 @@ namespace {
 TEST(Machine, AFolderWithoutFilesIsABareMachine) {
     const TestFolder folder;
     const auto opened = Machine::open(folder.path());
-    ASSERT_TRUE(opened) << opened.error;
-    Machine& bare = **opened.value;
+    ASSERT_TRUE(opened) << opened.message();
+    Machine& bare = **opened;
     EXPECT_EQ(bare.programPath(), "C:\\Kalyxo\\kalyxo.exe");
     EXPECT_EQ(bare.tempFolder(), "C:\\Temp\\");
     EXPECT_EQ(bare.systemFolder(), "C:\\Windows\\System");
@@ -29,7 +29,7 @@ TEST(Machine, AFolderWithoutFilesIsABareMachine) {
 
 TEST(Machine, ProgramsOnOneFolderKeepEachOthersChanges) {
     const TestFolder folder;
-    const auto open = [&] { return std::move(*Machine::open(folder.path()).value); };
+    const auto open = [&] { return *Machine::open(folder.path()); };
     const auto set = [](Machine& on, const char* key, const char* name, std::uint32_t number) {
         on.registry().createKey(HKEY_LOCAL_MACHINE, key)->setDword(name, number);
     };
@@ -72,7 +72,7 @@ TEST(Machine, ProgramsOnOneFolderKeepEachOthersChanges) {
 
 TEST(Machine, ARegistryFileThatIsGoneOrDamagedIsWrittenAnew) {
     const TestFolder folder;
-    const auto computer = std::move(*Machine::open(folder.path()).value);
+    const auto computer = *Machine::open(folder.path());
     computer->registry().createKey(HKEY_LOCAL_MACHINE, "Key")->setDword("n", 1);
     ASSERT_TRUE(computer->flushRegistry());
     const std::string whole = folder.read("registry.reg");

@@ -32,8 +32,8 @@ class NewMachineTest : public ::testing::Test {
 };
 
 TEST_F(NewMachineTest, IsMadeAnewWhereOneWas) {
-    ASSERT_EQ(makeMachine(host / "deep/machine", options), std::nullopt);
-    const auto first = std::move(*Machine::open(host / "deep/machine").value);
+    ASSERT_EQ(makeMachine(host / "deep/machine", options).message(), "");
+    const auto first = *Machine::open(host / "deep/machine");
     EXPECT_EQ(first->files().listFolder(options.modulesTo)->size(), 2U);
     EXPECT_EQ(first->files().readAll("C:\\New\\Deep\\f", 99), "x");
     EXPECT_EQ(first->registry().openKey(HKEY_LOCAL_MACHINE, options.settingsKey)->queryDword("Splitter"),
@@ -41,8 +41,8 @@ TEST_F(NewMachineTest, IsMadeAnewWhereOneWas) {
 
     NewMachineOptions bare;
     bare.settingsKey = options.settingsKey;
-    ASSERT_EQ(makeMachine(host / "deep/machine", bare), std::nullopt);
-    const auto made = std::move(*Machine::open(host / "deep/machine").value);
+    ASSERT_EQ(makeMachine(host / "deep/machine", bare).message(), "");
+    const auto made = *Machine::open(host / "deep/machine");
     EXPECT_EQ(made->files().driveType('D'), DriveType::noRoot);
     EXPECT_FALSE(made->registry().openKey(HKEY_CLASSES_ROOT, "CLSID"));
     const auto settings = made->registry().openKey(HKEY_LOCAL_MACHINE, options.settingsKey);
@@ -53,16 +53,15 @@ TEST_F(NewMachineTest, IsMadeAnewWhereOneWas) {
 TEST_F(NewMachineTest, WhatCannotBeMadeIsNamed) {
     NewMachineOptions noDisc = options;
     noDisc.discFolder = host / "nodisc";
-    EXPECT_NE(makeMachine(host / "m1", noDisc).value_or("").find("nodisc"), std::string::npos);
+    EXPECT_NE(makeMachine(host / "m1", noDisc).message().find("nodisc"), std::string::npos);
     NewMachineOptions noModules = options;
     noModules.modulesFrom = host / "disc";
-    EXPECT_NE(makeMachine(host / "m2", noModules).value_or("").find("no component modules"),
-              std::string::npos);
+    EXPECT_NE(makeMachine(host / "m2", noModules).message().find("no component modules"), std::string::npos);
     NewMachineOptions noDrive = options;
     noDrive.files = {{"X:\\f", ""}};
-    EXPECT_NE(makeMachine(host / "m3", noDrive).value_or("").find("X:\\f"), std::string::npos);
+    EXPECT_NE(makeMachine(host / "m3", noDrive).message().find("X:\\f"), std::string::npos);
     host.write("file", "");
-    EXPECT_NE(makeMachine(host / "file", options).value_or("").find("file"), std::string::npos);
+    EXPECT_NE(makeMachine(host / "file", options).message().find("file"), std::string::npos);
 }
 
 }  // namespace

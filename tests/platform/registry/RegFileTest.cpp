@@ -21,13 +21,13 @@ std::string asUtf16(std::u16string_view text) {
     return bytes;
 }
 
-std::string errorOf(std::string_view bytes) { return parseRegText(bytes, "r.reg").error; }
+std::string errorOf(std::string_view bytes) { return parseRegText(bytes, "r.reg").message(); }
 
 /// The value's text as it would be written, after the equals sign.
 std::string dataOf(const std::string& value) {
     const auto loaded = parseRegText(header + "[HKEY_USERS\\K]\r\n\"v\"=" + value, "r.reg");
-    if (!loaded) return loaded.error;
-    const std::string text = formatRegText(*loaded.value);
+    if (!loaded) return loaded.message();
+    const std::string text = formatRegText(*loaded);
     const std::size_t start = text.find("\"v\"=");
     return start == text.npos ? "(none)" : text.substr(start + 4, text.size() - start - 6);
 }
@@ -50,8 +50,8 @@ TEST(RegFile, IsWrittenInTheStandardFormAndReadBack) {
                   "\"a \\\"quoted\\\" \\\\ name\"=\"C:\\\\\\\"x\\\"\\\\\r\nsecond line\\\\\"\r\n"
                   "\"Left\"=dword:8000001f\r\n");
     auto loaded = loadRegFile(folder / "r.reg");
-    ASSERT_TRUE(loaded) << loaded.error;
-    EXPECT_EQ(formatRegText(*loaded.value), folder.read("r.reg"));
+    ASSERT_TRUE(loaded) << loaded.message();
+    EXPECT_EQ(formatRegText(*loaded), folder.read("r.reg"));
 }
 
 TEST(RegFile, EveryEncodingIsRead) {
@@ -61,9 +61,9 @@ TEST(RegFile, EveryEncodingIsRead) {
         u"\"x\"=\"Δομές 😀\"\r\n";
     for (const auto& bytes : {utf8, "\xEF\xBB\xBF" + utf8, asUtf16(utf16)}) {
         auto loaded = parseRegText(bytes, "r.reg");
-        ASSERT_TRUE(loaded) << loaded.error;
-        EXPECT_EQ(loaded.value->openKey(HKEY_LOCAL_MACHINE, "κλειδί"_gr)->queryString("x", 99), "Δομές ?"_gr);
-        EXPECT_NE(formatRegText(*loaded.value).find("Δομές 😀"), std::string::npos);  // nothing is lost
+        ASSERT_TRUE(loaded) << loaded.message();
+        EXPECT_EQ(loaded->openKey(HKEY_LOCAL_MACHINE, "κλειδί"_gr)->queryString("x", 99), "Δομές ?"_gr);
+        EXPECT_NE(formatRegText(*loaded).find("Δομές 😀"), std::string::npos);  // nothing is lost
     }
 }
 
@@ -81,7 +81,7 @@ TEST(RegFile, OtherValueTypesAreKept) {
     };
     for (const auto& [value, expected] : cases) EXPECT_EQ(dataOf(value), expected) << value;
     auto loaded = parseRegText(header + "[HKEY_LOCAL_MACHINE\\K]\n\"v\"=hex(2):41,00\n", "r.reg");
-    EXPECT_EQ(loaded.value->openKey(HKEY_LOCAL_MACHINE, "K")->queryString("v", 99), std::nullopt);
+    EXPECT_EQ(loaded->openKey(HKEY_LOCAL_MACHINE, "K")->queryString("v", 99), std::nullopt);
 }
 
 TEST(RegFile, KeysAreMergedAndTakenAway) {
@@ -91,12 +91,12 @@ TEST(RegFile, KeysAreMergedAndTakenAway) {
                          "[hkey_local_machine\\a\\B]\n[HKEY_LOCAL_MACHINE\\C\\D]\n"
                          "[HKEY_LOCAL_MACHINE\\a]\n\"X\"=dword:3\n\"Y\"=-\n[-HKEY_LOCAL_MACHINE\\c]",
                      "r.reg");
-    ASSERT_TRUE(loaded) << loaded.error;
-    const auto key = loaded.value->openKey(HKEY_LOCAL_MACHINE, "A");
+    ASSERT_TRUE(loaded) << loaded.message();
+    const auto key = loaded->openKey(HKEY_LOCAL_MACHINE, "A");
     EXPECT_EQ(key->queryDword("x"), 3U);
     EXPECT_EQ(key->queryDword("y"), std::nullopt);
-    EXPECT_TRUE(loaded.value->openKey(HKEY_LOCAL_MACHINE, "A\\B"));
-    EXPECT_FALSE(loaded.value->openKey(HKEY_LOCAL_MACHINE, "C"));
+    EXPECT_TRUE(loaded->openKey(HKEY_LOCAL_MACHINE, "A\\B"));
+    EXPECT_FALSE(loaded->openKey(HKEY_LOCAL_MACHINE, "C"));
 }
 
 TEST(RegFile, DamageIsToldWithFileAndLine) {
@@ -133,9 +133,11 @@ TEST(RegFile, DamageIsToldWithFileAndLine) {
         EXPECT_EQ(error.substr(0, expected.size()), expected);
     }
     const TestFolder folder;
-    EXPECT_EQ(loadRegFile(folder / "none.reg").error, (folder / "none.reg").string() + ": cannot be read");
+    EXPECT_EQ(loadRegFile(folder / "none.reg").message(),
+              (folder / "none.reg").string() + ": cannot be read");
     EXPECT_FALSE(loadRegFile(folder.path()));
-    EXPECT_NE(loadRegFile(folder.write("empty.reg", "")).error.find("empty.reg, line 1"), std::string::npos);
+    EXPECT_NE(loadRegFile(folder.write("empty.reg", "")).message().find("empty.reg, line 1"),
+              std::string::npos);
 }
 
 TEST(RegFile, CutAtAnyByteItNeverBreaks) {
@@ -144,7 +146,7 @@ TEST(RegFile, CutAtAnyByteItNeverBreaks) {
                               "\"h\"=hex(2):41,00,\\\r\n  42,00\r\n[-HKEY_LOCAL_MACHINE\\B]\r\n";
     for (std::size_t size = 0; size <= whole.size(); ++size) {
         const auto loaded = parseRegText(whole.substr(0, size), "r.reg");
-        EXPECT_NE(loaded.value.has_value(), !loaded.error.empty()) << size;
+        EXPECT_NE(static_cast<bool>(loaded), !loaded.message().empty()) << size;
     }
 }
 

@@ -26,7 +26,7 @@ class OwnMachine : public testing::Test {
         m_root.write("content/data/a.htm", "<HTML>");
         m_root.write("bin/kalyxo", "");
     }
-    platform::Loaded<std::unique_ptr<platform::Machine>> open(const std::vector<MountedMedium>& media = {},
+    platform::Result<std::unique_ptr<platform::Machine>> open(const std::vector<MountedMedium>& media = {},
                                                               const platform::ProgressStep& step = {}) const {
         const PresentScreen present{{1280, 800, 24}, {{"SM_CXMAXIMIZED", 1288}}};
         return OpenOwnMachine(m_root / "own", FindInstalledFiles(m_root / "bin"), present, media, step);
@@ -37,8 +37,8 @@ class OwnMachine : public testing::Test {
 
 TEST_F(OwnMachine, FirstStartNeedsNoQuestion) {
     const auto opened = open();
-    ASSERT_TRUE(opened) << opened.error;
-    platform::Machine& machine = **opened.value;
+    ASSERT_TRUE(opened) << opened.message();
+    platform::Machine& machine = **opened;
     EXPECT_TRUE(machine.files().exists("D:\\a.htm"));
     EXPECT_TRUE(machine.files().exists("Z:\\etc"));
     EXPECT_EQ(machine.files().readAll("C:\\Kalyxo\\ActiveX\\kyptgk.ocx", 100), "version one");
@@ -59,11 +59,11 @@ TEST_F(OwnMachine, LaterStartsFollowScreenModulesAndContentAndKeepTheRest) {
     m_root.write("share/kalyxo/content/a.htm", "<HTML>");
 
     const auto opened = open();
-    ASSERT_TRUE(opened) << opened.error;
-    EXPECT_EQ((*opened.value)->screen().width, 1280);
-    EXPECT_EQ((*opened.value)->metric(platform::SM_CXMAXIMIZED), 1288);
+    ASSERT_TRUE(opened) << opened.message();
+    EXPECT_EQ((*opened)->screen().width, 1280);
+    EXPECT_EQ((*opened)->metric(platform::SM_CXMAXIMIZED), 1288);
     EXPECT_EQ(m_root.read(kCopiedModule), "version two");
-    EXPECT_TRUE((*opened.value)->files().exists("D:\\a.htm"));
+    EXPECT_TRUE((*opened)->files().exists("D:\\a.htm"));
     EXPECT_EQ(m_root.read("own/c/Kalyxo/bookmark.dat"), "kept");
 }
 
@@ -73,9 +73,9 @@ TEST_F(OwnMachine, MakingThatWasBrokenOffIsTakenUpAgain) {
         fs::remove(m_root / missing);
         fs::remove(m_root / kCopiedModule);
         const auto opened = open();
-        ASSERT_TRUE(opened) << opened.error;
-        EXPECT_TRUE((*opened.value)->registry().openKey(platform::HKEY_LOCAL_MACHINE, SettingsKeyPath()));
-        EXPECT_TRUE((*opened.value)->files().exists("D:\\a.htm")) << missing;
+        ASSERT_TRUE(opened) << opened.message();
+        EXPECT_TRUE((*opened)->registry().openKey(platform::HKEY_LOCAL_MACHINE, SettingsKeyPath()));
+        EXPECT_TRUE((*opened)->files().exists("D:\\a.htm")) << missing;
         EXPECT_EQ(m_root.read(kCopiedModule), "version one");
     }
 }
@@ -107,7 +107,7 @@ TEST_F(OwnMachine, DamagedFilesAreNamedAndLeftAndNothingInstalledIsAnError) {
         m_root.write(name, "neither JSON nor registry");
         const auto opened = open();
         EXPECT_FALSE(opened) << name;
-        EXPECT_NE(opened.error.find((m_root / name).string()), std::string::npos) << opened.error;
+        EXPECT_NE(opened.message().find((m_root / name).string()), std::string::npos) << opened.message();
         EXPECT_EQ(m_root.read(name), "neither JSON nor registry");
         fs::remove_all(m_root / "own");
     }
@@ -122,13 +122,13 @@ TEST_F(OwnMachine, MediaAreDrivesAndKeepTheirLetters) {
     const MountedMedium net{m_root / "earlier in the alphabet", platform::DriveType::remote};
     ASSERT_TRUE(open({stick}));
     const auto opened = open({net, stick});
-    ASSERT_TRUE(opened) << opened.error;
-    const platform::FileSystem& files = (*opened.value)->files();
+    ASSERT_TRUE(opened) << opened.message();
+    const platform::FileSystem& files = (*opened)->files();
     EXPECT_EQ(files.driveType('E'), platform::DriveType::removable);
     EXPECT_TRUE(files.exists("E:\\a.htm"));
     EXPECT_EQ(files.driveType('F'), platform::DriveType::remote);
     EXPECT_EQ(files.driveType('G'), platform::DriveType::noRoot);
-    EXPECT_EQ((*open().value)->files().driveType('E'), platform::DriveType::noRoot);
+    EXPECT_EQ((*open())->files().driveType('E'), platform::DriveType::noRoot);
 }
 
 TEST_F(OwnMachine, ProgramsThatStartAtOnceMakeItOnce) {
@@ -137,16 +137,16 @@ TEST_F(OwnMachine, ProgramsThatStartAtOnceMakeItOnce) {
         start = std::async(std::launch::async, [this] {
             const auto opened = open();
             if (!opened) return false;
-            auto key = (*opened.value)->registry().createKey(platform::HKEY_LOCAL_MACHINE, SettingsKeyPath());
+            auto key = (*opened)->registry().createKey(platform::HKEY_LOCAL_MACHINE, SettingsKeyPath());
             return key && key->queryString("Directory", 256) == "C:\\Kalyxo" && key->setDword("Left", 7) &&
-                   (*opened.value)->flushRegistry();
+                   (*opened)->flushRegistry();
         });
     }
     for (auto& start : starts) EXPECT_TRUE(start.get());
     // Had one made it after another had closed, the layout would be gone.
     const auto opened = open();
-    ASSERT_TRUE(opened) << opened.error;
-    const auto key = (*opened.value)->registry().openKey(platform::HKEY_LOCAL_MACHINE, SettingsKeyPath());
+    ASSERT_TRUE(opened) << opened.message();
+    const auto key = (*opened)->registry().openKey(platform::HKEY_LOCAL_MACHINE, SettingsKeyPath());
     EXPECT_EQ(key->queryDword("Left"), 7U);
 }
 

@@ -18,7 +18,7 @@ class DataFolderWriter : public testing::Test {
     void add(const std::string& path, const std::string& bytes) {
         m_files.add(path, bytes, {"source"}, m_diagnostics);
     }
-    std::string write() const { return contentc::writeDataFolder(m_files, folder()); }
+    std::string write() const { return contentc::writeDataFolder(m_files, folder()).message(); }
     fs::path folder() const { return m_content.beside("out/data"); }
     /// What stands where the data folder goes.
     Files names() const {
@@ -40,7 +40,7 @@ TEST_F(DataFolderWriter, ReplacesAnEmptyFolderAndAFormerDataFolder) {
     EXPECT_EQ(write(), "");
     add("new.dat", "new");
     fs::create_directory(folder() / "40");
-    EXPECT_EQ(contentc::writeDataFolder(m_files, folder() / ""), "");
+    EXPECT_EQ(contentc::writeDataFolder(m_files, folder() / "").message(), "");
     EXPECT_EQ(listAll(folder()), (Files{"01/4/123: page", "a.htm: start", "new.dat: new"}));
     EXPECT_FALSE(fs::exists(folder() / "40"));
     EXPECT_EQ(names(), Files{"data"});
@@ -51,7 +51,7 @@ TEST_F(DataFolderWriter, LeavesAFolderOfOtherThingsAlone) {
     EXPECT_NE(write().find("is in use by something other than a data folder"), std::string::npos);
     EXPECT_EQ(listAll(folder()), Files{"letter.txt: mine"});
     m_content.write("../out/file", "mine");
-    EXPECT_NE(contentc::writeDataFolder(m_files, m_content.beside("out/file")), "");
+    EXPECT_NE(contentc::writeDataFolder(m_files, m_content.beside("out/file")).message(), "");
     EXPECT_EQ(readAll(m_content.beside("out/file")), "mine");
 }
 

@@ -22,9 +22,7 @@ TEST(CommandLine, SaysWhatIsWrong) {
         {"--machine", "m", "--quick"},
     };
     for (const auto& arguments : wrong) {
-        const Task task = taskOf(arguments);
-        ASSERT_TRUE(std::holds_alternative<std::string>(task)) << testing::PrintToString(arguments);
-        EXPECT_FALSE(std::get<std::string>(task).empty());
+        EXPECT_NE(taskOf(arguments).message(), "") << testing::PrintToString(arguments);
     }
 }
 

@@ -36,11 +36,11 @@ std::string allRows() {
     return text;
 }
 
-Outcome<Records> merge(const std::string& corrections, const std::string& own) {
+Result<Records> merge(const std::string& corrections, const std::string& own) {
     const auto correctionRows = readTable(std::string(correctionNames) + corrections, "c");
     const auto ownRows = readTable(own, "o");
-    EXPECT_EQ(correctionRows.fault + ownRows.fault, "");
-    return mergeElements(allElements(), correctionRows.value, ownRows.value);
+    EXPECT_EQ(correctionRows.message() + ownRows.message(), "");
+    return mergeElements(allElements(), *correctionRows, *ownRows);
 }
 
 TEST(ElementCompiler, ReadsTheListAndTellsWhereItIsBroken) {
@@ -50,22 +50,22 @@ TEST(ElementCompiler, ReadsTheListAndTellsWhereItIsBroken) {
         "<scalar dictRef=\"bo:mass\">1</scalar>\n<scalar dictRef=\"bo:meltingpoint\"> 14.01 </scalar></atom>";
     const std::string dummy = "<atom><scalar dictRef=\"bo:atomicNumber\">0</scalar></atom>";
     const auto read = readBodr("<list>" + dummy + atom + "<other><x/></other></list>", "e.xml");
-    EXPECT_EQ(read.fault, "");
-    EXPECT_EQ(read.value, (Records{{1, {{"symbol", "H"}, {"melting", "14.01"}}}}));
-    EXPECT_TRUE(readBodr("<list>\n" + atom, "e.xml").fault.starts_with("e.xml:3: "));
-    EXPECT_FALSE(readBodr("", "e.xml").fault.empty());
+    EXPECT_EQ(read.message(), "");
+    EXPECT_EQ(*read, (Records{{1, {{"symbol", "H"}, {"melting", "14.01"}}}}));
+    EXPECT_TRUE(readBodr("<list>\n" + atom, "e.xml").message().starts_with("e.xml:3: "));
+    EXPECT_FALSE(readBodr("", "e.xml").message().empty());
 }
 
 TEST(ElementCompiler, ACorrectionTakesThePlaceOfAValueOrRemovesIt) {
     const auto merged = merge("3\tX\tsymbol\tX\n3\tX\tmelting\t-\n4\tE4\tmelting\t7.5\n",
                               allRows().replace(allRows().find("E3\t"), 2, "X"));
-    ASSERT_EQ(merged.fault, "");
-    EXPECT_EQ(field(merged.value.at(3), "symbol"), "X");
-    EXPECT_EQ(field(merged.value.at(3), "melting"), "");
-    EXPECT_EQ(field(merged.value.at(4), "melting"), "7.5");
-    const auto written = writeTable(merged.value);
-    EXPECT_EQ(written.fault, "");
-    EXPECT_NE(written.value.find(R"({4, "E4", "Όνομα"_gr, "Name", transition, {"1.0"}, {"7.5"}, {},)"),
+    ASSERT_EQ(merged.message(), "");
+    EXPECT_EQ(field(merged->at(3), "symbol"), "X");
+    EXPECT_EQ(field(merged->at(3), "melting"), "");
+    EXPECT_EQ(field(merged->at(4), "melting"), "7.5");
+    const auto written = writeTable(*merged);
+    EXPECT_EQ(written.message(), "");
+    EXPECT_NE(written->find(R"({4, "E4", "Όνομα"_gr, "Name", transition, {"1.0"}, {"7.5"}, {},)"),
               std::string::npos);
 }
 
@@ -84,9 +84,9 @@ TEST(ElementCompiler, NoFaultInTheTablesPassesUnseen) {
                           {"", rows + "5\tE5\tn\tf\t1\n", "o:120: the second row of this element"},
                           {"", rows.substr(0, rows.rfind("\n118\t") + 1), "no row for element 118"}};
     for (const auto& [corrections, own, message] : cases) {
-        EXPECT_EQ(merge(corrections, own).fault, message);
+        EXPECT_EQ(merge(corrections, own).message(), message);
     }
-    EXPECT_EQ(readTable("# note\na\tb\n1\n", "t").fault, "t:3: 1 cells under 2 names");
+    EXPECT_EQ(readTable("# note\na\tb\n1\n", "t").message(), "t:3: 1 cells under 2 names");
 }
 
 TEST(ElementCompiler, WritesNoFigureThatIsNone) {
@@ -99,9 +99,9 @@ TEST(ElementCompiler, WritesNoFigureThatIsNone) {
              {"boiling", "1.2.3", "element 9: boiling is no decimal number"},
              {"discovered", "-3", "element 9: the year is no number"},
              {"name", "a\"b", "element 9: a text with a quotation mark, backslash or line end"}}) {
-        Records records = merge("", allRows()).value;
+        Records records = *merge("", allRows());
         records.at(9)[field] = value;
-        EXPECT_EQ(writeTable(records).fault, message);
+        EXPECT_EQ(writeTable(records).message(), message);
     }
 }
 

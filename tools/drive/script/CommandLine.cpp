@@ -1,8 +1,13 @@
 #include "tools/drive/script/CommandLine.h"
 
+#include <string>
+#include <utility>
 #include <vector>
 
 namespace drive {
+
+using platform::Failure;
+using platform::Result;
 
 namespace {
 
@@ -29,17 +34,17 @@ bool* flagOf(Given& given, std::string_view option) {
     return nullptr;
 }
 
-/// Sorts the arguments; an error text for one that has no place.
-std::string sortOut(std::span<const char* const> arguments, Given& given) {
+/// Sorts the arguments; fails for one that has no place.
+Result<void> sortOut(std::span<const char* const> arguments, Given& given) {
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         const std::string argument = arguments[i];
         if (auto* value = valueOf(given, argument)) {
-            if (++i == arguments.size()) return argument + " needs a value";
+            if (++i == arguments.size()) return Failure{argument + " needs a value"};
             *value = arguments[i];
         } else if (bool* flag = flagOf(given, argument)) {
             *flag = true;
         } else if (argument.starts_with("--")) {
-            return argument + ": unknown option";
+            return Failure{argument + ": unknown option"};
         } else {
             given.rest.push_back(argument);
         }
@@ -47,27 +52,28 @@ std::string sortOut(std::span<const char* const> arguments, Given& given) {
     return {};
 }
 
-Task newMachine(const Given& given) {
-    if (!given.data) return "--new-machine needs --data";
-    if (given.machine || !given.rest.empty()) return "--new-machine takes no machine and no script to run";
-    return NewMachine{*given.newMachine, *given.data, given.outside, given.bare};
+Result<Task> newMachine(const Given& given) {
+    if (!given.data) return Failure{"--new-machine needs --data"};
+    if (given.machine || !given.rest.empty())
+        return Failure{"--new-machine takes no machine and no script to run"};
+    return Task(NewMachine{*given.newMachine, *given.data, given.outside, given.bare});
 }
 
-Task runScript(const Given& given) {
-    if (!given.machine) return "--machine or --new-machine is missing";
-    if (given.data || given.outside || given.bare) return "--data, --outside and --bare make new machines";
-    if (given.rest.size() > 1) return "more than one script";
+Result<Task> runScript(const Given& given) {
+    if (!given.machine) return Failure{"--machine or --new-machine is missing"};
+    if (given.data || given.outside || given.bare)
+        return Failure{"--data, --outside and --bare make new machines"};
+    if (given.rest.size() > 1) return Failure{"more than one script"};
     RunScript run{*given.machine, std::nullopt};
     if (!given.rest.empty()) run.script = given.rest.front();
-    return run;
+    return Task(std::move(run));
 }
 
 }  // namespace
 
-Task taskOf(std::span<const char* const> arguments) {
+Result<Task> taskOf(std::span<const char* const> arguments) {
     Given given;
-    std::string problem = sortOut(arguments, given);
-    if (!problem.empty()) return problem;
+    if (const auto sorted = sortOut(arguments, given); !sorted) return sorted.failure();
     return given.newMachine ? newMachine(given) : runScript(given);
 }
 

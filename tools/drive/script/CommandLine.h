@@ -3,9 +3,10 @@
 #include <filesystem>
 #include <optional>
 #include <span>
-#include <string>
 #include <string_view>
 #include <variant>
+
+#include "platform/base/Result.h"
 
 namespace drive {
 
@@ -23,11 +24,11 @@ struct NewMachine {
     bool bare = false;
 };
 
-/// What the arguments ask for, or why they are wrong.
-using Task = std::variant<RunScript, NewMachine, std::string>;
+/// What the arguments ask for.
+using Task = std::variant<RunScript, NewMachine>;
 
 /// Reads the arguments behind the program's name; options in any order.
-Task taskOf(std::span<const char* const> arguments);
+platform::Result<Task> taskOf(std::span<const char* const> arguments);
 
 /// How the program is called.
 std::string_view usage();
