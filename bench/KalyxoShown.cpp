@@ -9,6 +9,7 @@
 #include "platform/machine/Machine.h"
 #include "platform/qt/WindowTable.h"
 #include "src/app/KalyxoApp.h"
+#include "src/host/MachineSetup.h"
 #include "src/resources/ResourceTable.h"
 
 namespace {
@@ -43,7 +44,7 @@ int main(int argc, char** argv) {
     const std::string folder = argv[1];
     platform::SetResources(kalyxo::ProgramResources());
     const platform::Desktop desktop(argc, argv);
-    const auto machine = platform::Machine::open(folder);
+    const auto machine = platform::Machine::open(folder, kalyxo::DefaultMachineConfig());
     if (!machine) return 1;
     (*machine)->setVirtualTime(true);
     platform::setMachine((*machine).get());

@@ -5,6 +5,7 @@
 #include <QStandardPaths>
 #include <QTimer>
 
+#include "platform/base/Resources.h"
 #include "platform/browser/BrowserProcess.h"
 #include "platform/dialogs/MessageBox.h"
 #include "platform/drawing/LightPalette.h"
@@ -13,6 +14,7 @@
 #include "platform/framework/WinApp.h"
 #include "platform/printing/PrintDialogTexts.h"
 #include "platform/printing/PrintJob.h"
+#include "platform/qt/QtConvert.h"
 #include "platform/text/CodePage1253.h"
 #include "platform/text/GreekLiteral.h"
 
@@ -22,7 +24,7 @@ using namespace literals;
 
 namespace {
 
-/// A maximised window's borders, left and right or top and bottom.
+/// The borders of a maximised window: left and right together, or top and bottom.
 constexpr int maximisedBorders = 8;
 
 /// An A4 page.
@@ -30,10 +32,11 @@ constexpr int dotsPerInch = 600;
 constexpr int a4Width = 4960;
 constexpr int a4Height = 7016;
 
-/// How high the letters are of what is not told another font.
+/// The size of letters in widgets that have no other font.
 constexpr int fontPixels = 13;
 
-/// Without a printer nothing else shows that something came of it. Told later: the print may be under way.
+/// Tells the user of a printed file, which would appear unnoticed. Later, from the event loop: printing may
+/// still be going on.
 void tellOfPrint(const std::string& file, bool written) {
     const std::string_view what = written ? "Η εκτύπωση αποθηκεύτηκε στο αρχείο:"_gr
                                           : "Δεν είναι δυνατή η εγγραφή του αρχείου εκτύπωσης:"_gr;
@@ -51,11 +54,11 @@ std::unique_ptr<QApplication> makeApplication(int& argc, char** argv) {
 Desktop::Desktop(int& argc, char** argv)
     : application_(makeApplication(argc, argv)), printDialogTexts_(std::make_unique<PrintDialogTexts>()) {
     QCoreApplication::installTranslator(printDialogTexts_.get());
-    // The name under which the desktop knows the program's windows.
-    QGuiApplication::setDesktopFileName(QStringLiteral("kalyxo"));
+    // By this name the desktop finds the icon for the program's windows.
+    QGuiApplication::setDesktopFileName(toQt(Resources().iconName));
     QApplication::setStyle(std::make_unique<ProgramStyle>().release());
     QApplication::setFont(programFont(fontPixels));
-    wearLightPalette();
+    applyLightPalette();
     setPrintListener(tellOfPrint);
 }
 

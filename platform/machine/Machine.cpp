@@ -28,13 +28,9 @@ std::vector<Drive> drivesOf(const fs::path& folder, const MachineConfig& config)
     return drives;
 }
 
-/// Nothing at all is as good as a file without content; only what is there can be damaged.
-template <typename T>
-Result<T> loadIfThere(const fs::path& path, Result<T> (*load)(const fs::path&)) {
-    std::error_code error;
-    const auto type = fs::symlink_status(path, error).type();
-    if (type == fs::file_type::not_found) return T{};
-    return load(path);
+bool isThere(const fs::path& path) {
+    std::error_code ignored;
+    return fs::symlink_status(path, ignored).type() != fs::file_type::not_found;
 }
 
 std::string withoutLastSlash(std::string path) {
@@ -44,12 +40,16 @@ std::string withoutLastSlash(std::string path) {
 
 }  // namespace
 
-Result<std::unique_ptr<Machine>> Machine::open(const fs::path& folder) {
+Result<std::unique_ptr<Machine>> Machine::open(const fs::path& folder, const MachineConfig& defaults) {
     std::error_code error;
     if (!fs::is_directory(folder, error)) return Failure{folder.string() + ": no such folder"};
-    auto config = loadIfThere(folder / configName, loadMachineConfig);
+    const fs::path configFile = folder / configName;
+    Result<MachineConfig> config = defaults;
+    if (isThere(configFile)) config = loadMachineConfig(configFile, defaults);
     if (!config) return config.failure();
-    auto registry = loadIfThere(folder / registryName, loadRegFile);
+    const fs::path registryFile = folder / registryName;
+    Result<Registry> registry = Registry();
+    if (isThere(registryFile)) registry = loadRegFile(registryFile);
     if (!registry) return registry.failure();
     return std::make_unique<Machine>(folder, *std::move(config), *std::move(registry));
 }

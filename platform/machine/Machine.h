@@ -20,23 +20,24 @@
 
 namespace platform {
 
-/// All that a program finds around it on its machine: drives, registry, screen, metrics, printer, and the
-/// record of what it did. Built from a machine folder with machine.json, registry.reg and the drives'
-/// folders.
+/// The machine on which a program runs: drives, registry, screen, metrics, printer, and a record of what the
+/// program did. It is built from a machine folder with machine.json, registry.reg and the folders of the
+/// drives.
 class Machine {
   public:
-    /// Reads a machine folder. A missing machine.json or registry.reg gives the defaults and an empty
-    /// registry; a damaged one, or a missing folder, is a failure whose message names the file.
-    static Result<std::unique_ptr<Machine>> open(const std::filesystem::path& folder);
+    /// Reads a machine folder. Without a machine.json the machine has the `defaults`, without a registry.reg
+    /// its registry is empty. For a damaged file, or a missing folder, the failure names it.
+    static Result<std::unique_ptr<Machine>> open(const std::filesystem::path& folder,
+                                                 const MachineConfig& defaults = {});
 
-    /// A machine from parts; relative drive folders are taken from `folder`.
+    /// Makes a machine from its parts; relative folders of drives are below `folder`.
     Machine(const std::filesystem::path& folder, MachineConfig config, Registry registry);
 
     FileSystem& files() { return files_; }
     Registry& registry() { return registry_; }
     Trace& trace() { return trace_; }
     const MachineConfig& config() const { return config_; }
-    /// The machine folder; what is printed lands here.
+    /// The machine folder; printed files are written here.
     const std::filesystem::path& folder() const { return folder_; }
 
     const ScreenConfig& screen() const { return config_.screen; }
@@ -53,29 +54,29 @@ class Machine {
     /// The system folder, without a backslash at its end.
     std::string systemFolder() const;
 
-    /// The DOS path of a library: a path stays as it is; a bare file name is looked for in the program's
-    /// folder and then in the system folder. Nothing when it is in neither.
+    /// The DOS path of a library. A path is returned as it is. A bare file name is looked for in the
+    /// program's folder, then in the system folder; nothing when it is in neither.
     std::optional<std::string> findLibrary(std::string_view name) const;
 
-    /// Waits; with virtual time it only notes the wait in the trace.
+    /// Waits. With virtual time it does not wait, but the clock advances. Recorded in the trace.
     void sleep(std::uint32_t milliseconds);
-    /// Milliseconds since some moment; with virtual time those slept, and `msPerStep` more for each time it
-    /// is asked.
+    /// Milliseconds since some fixed moment. With virtual time: the sum of all sleeps, plus `msPerStep` for
+    /// each call.
     std::uint64_t milliseconds();
     void setVirtualTime(bool on) { virtualTime_ = on; }
     bool virtualTime() const { return virtualTime_; }
 
-    /// Writes what changed in the registry to registry.reg, beside what other programs on the same machine
-    /// folder have written there; of two changes to one key the later stands. A file that is gone or damaged
-    /// is written anew. False when writing fails.
+    /// Writes the changes in the registry to registry.reg, and keeps what other programs with the same
+    /// machine folder have written there. When two programs changed the same key, the later write wins. A
+    /// missing or damaged file is written anew. False when writing fails.
     bool flushRegistry();
 
-    /// Makes message boxes take their answers from the queue rather than be shown.
+    /// Has message boxes take their answers from the queue instead of being shown.
     void enableAnswers() { answers_.enable(); }
     /// Adds answers for the next message boxes.
     void queueAnswers(const std::vector<BoxAnswer>& answers) { answers_.add(answers); }
-    /// The answer for a box with these buttons, or nothing when the box is to be shown (see
-    /// `AnswerQueue::next`).
+    /// The answer for a box with these buttons, or nothing when the box is to be shown; see
+    /// `AnswerQueue::next`.
     std::optional<BoxAnswer> nextAnswer(std::span<const BoxAnswer> buttons) { return answers_.next(buttons); }
 
   private:
@@ -90,10 +91,10 @@ class Machine {
     std::uint64_t virtualNow_ = 0;
 };
 
-/// The machine on which this process runs; `setMachine` must have named one.
+/// The machine of this process; `setMachine` must have set one.
 Machine& machine();
 
-/// Names the process's machine, which the caller keeps alive, or takes it away (null).
+/// Sets the machine of this process, which the caller keeps alive; null takes it away.
 void setMachine(Machine* current);
 
 /// Whether the process has a machine.

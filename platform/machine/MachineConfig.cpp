@@ -17,9 +17,9 @@ namespace {
 // Ordered, so that a written file shows its fields in the order in which they are described.
 using Json = nlohmann::ordered_json;
 
-constexpr std::size_t largestFile = 1 << 20;
-constexpr int largestExtent = 32767;
-constexpr int largestPixelRatio = 4;
+constexpr std::size_t maxFileSize = 1 << 20;
+constexpr int maxExtent = 32767;
+constexpr int maxPixelRatio = 4;
 
 constexpr std::array<std::pair<std::string_view, DriveType>, 6> driveTypeNames = {{
     {"unknown", DriveType::unknown},
@@ -50,20 +50,19 @@ class FieldReader {
         return found == object.end() ? nullptr : &*found;
     }
 
-    void readInteger(const Json& value, const std::string& name, int smallest, int largest, int& target) {
-        const bool fits = value.is_number_integer() && value >= smallest && value <= largest;
+    void readInteger(const Json& value, const std::string& name, int min, int max, int& target) {
+        const bool fits = value.is_number_integer() && value >= min && value <= max;
         if (fits) {
             target = value.get<int>();
         } else {
-            fail(name + " must be a whole number from " + std::to_string(smallest) + " to " +
-                 std::to_string(largest));
+            fail(name + " must be a whole number from " + std::to_string(min) + " to " + std::to_string(max));
         }
     }
 
-    void readInteger(const Json& object, const char* key, const std::string& parent, int smallest,
-                     int largest, int& target) {
+    void readInteger(const Json& object, const char* key, const std::string& parent, int min, int max,
+                     int& target) {
         if (const Json* value = field(object, key)) {
-            readInteger(*value, parent + "." + key, smallest, largest, target);
+            readInteger(*value, parent + "." + key, min, max, target);
         }
     }
 
@@ -91,17 +90,17 @@ class FieldReader {
 void readScreen(FieldReader& reader, const Json& root, ScreenConfig& screen) {
     const Json* object = FieldReader::field(root, "screen");
     if (!object || !reader.isObject(*object, "screen")) return;
-    reader.readInteger(*object, "width", "screen", 1, largestExtent, screen.width);
-    reader.readInteger(*object, "height", "screen", 1, largestExtent, screen.height);
+    reader.readInteger(*object, "width", "screen", 1, maxExtent, screen.width);
+    reader.readInteger(*object, "height", "screen", 1, maxExtent, screen.height);
     reader.readInteger(*object, "bitsPerPixel", "screen", 1, 32, screen.bitsPerPixel);
-    reader.readInteger(*object, "pixelRatio", "screen", 1, largestPixelRatio, screen.pixelRatio);
+    reader.readInteger(*object, "pixelRatio", "screen", 1, maxPixelRatio, screen.pixelRatio);
 }
 
 void readMetrics(FieldReader& reader, const Json& root, MachineConfig& config) {
     const Json* object = FieldReader::field(root, "metrics");
     if (!object || !reader.isObject(*object, "metrics")) return;
     for (const auto& [name, value] : object->items()) {
-        reader.readInteger(value, "metrics." + name, 0, largestExtent, config.metrics[name]);
+        reader.readInteger(value, "metrics." + name, 0, maxExtent, config.metrics[name]);
     }
 }
 
@@ -154,11 +153,11 @@ void readDrives(FieldReader& reader, const Json& root, MachineConfig& config) {
 void readPrinter(FieldReader& reader, const Json& root, MachineConfig& config) {
     const Json* object = FieldReader::field(root, "printer");
     if (!object || object->is_null() || !reader.isObject(*object, "printer")) return;
-    constexpr int most = std::numeric_limits<int>::max();
+    constexpr int max = std::numeric_limits<int>::max();
     PrinterConfig& printer = config.printer.emplace();
-    reader.readInteger(*object, "horzres", "printer", 1, most, printer.horzres);
-    reader.readInteger(*object, "vertres", "printer", 1, most, printer.vertres);
-    reader.readInteger(*object, "logpixelsy", "printer", 1, most, printer.logpixelsy);
+    reader.readInteger(*object, "horzres", "printer", 1, max, printer.horzres);
+    reader.readInteger(*object, "vertres", "printer", 1, max, printer.vertres);
+    reader.readInteger(*object, "logpixelsy", "printer", 1, max, printer.logpixelsy);
 }
 
 void readHost(FieldReader& reader, const Json& sites, const char* name, std::string& host) {
@@ -179,8 +178,8 @@ void readSites(FieldReader& reader, const Json& root, SitesConfig& sites) {
     readHost(reader, *object, "maker", sites.maker);
 }
 
-MachineConfig readConfig(FieldReader& reader, const Json& root) {
-    MachineConfig config;
+MachineConfig readConfig(FieldReader& reader, const Json& root, const MachineConfig& defaults) {
+    MachineConfig config = defaults;
     if (!reader.isObject(root, "the whole")) return config;
     readScreen(reader, root, config.screen);
     readMetrics(reader, root, config);
@@ -199,7 +198,7 @@ MachineConfig readConfig(FieldReader& reader, const Json& root) {
 
 Json drivesToJson(const MachineConfig& config) {
     Json object = Json::object();
-    // Left out, drive C: would be there again when the file is read.
+    // The reader adds a drive C: that is left out.
     if (!config.drives.contains('C')) object["C"] = nullptr;
     for (const auto& [letter, drive] : config.drives) {
         object[std::string{letter}] = {{"type", driveTypeName(drive.type)},
@@ -234,7 +233,8 @@ Json toJson(const MachineConfig& config) {
 
 }  // namespace
 
-Result<MachineConfig> parseMachineConfig(std::string_view json, std::string_view name) {
+Result<MachineConfig> parseMachineConfig(std::string_view json, std::string_view name,
+                                         const MachineConfig& defaults) {
     const std::string prefix = std::string(name) + ": ";
     Json root;
     try {
@@ -243,17 +243,17 @@ Result<MachineConfig> parseMachineConfig(std::string_view json, std::string_view
         return Failure{prefix + "not JSON: " + error.what()};
     }
     FieldReader reader;
-    MachineConfig config = readConfig(reader, root);
+    MachineConfig config = readConfig(reader, root, defaults);
     if (reader.failed()) return Failure{prefix + reader.problem()};
     return config;
 }
 
-Result<MachineConfig> loadMachineConfig(const std::filesystem::path& path) {
+Result<MachineConfig> loadMachineConfig(const std::filesystem::path& path, const MachineConfig& defaults) {
     FileHandle file = FileHandle::openForReading(path);
-    const auto text = file ? file.readAll(largestFile + 1) : std::nullopt;
+    const auto text = file ? file.readAll(maxFileSize + 1) : std::nullopt;
     if (!text) return Failure{path.string() + ": cannot be read"};
-    if (text->size() > largestFile) return Failure{path.string() + ": too long"};
-    return parseMachineConfig(*text, path.string());
+    if (text->size() > maxFileSize) return Failure{path.string() + ": too long"};
+    return parseMachineConfig(*text, path.string(), defaults);
 }
 
 bool saveMachineConfig(const MachineConfig& config, const std::filesystem::path& path) {

@@ -17,12 +17,12 @@ struct ScreenConfig {
     int width = 1024;
     int height = 768;
     int bitsPerPixel = 32;
-    int pixelRatio = 1;  ///< pixels, across and down, to one of those that width and height count
+    int pixelRatio = 1;  ///< physical pixels per logical pixel, across and down; width and height are logical
 
     bool operator==(const ScreenConfig&) const = default;
 };
 
-/// A drive as the settings name it.
+/// A drive in the settings.
 struct DriveConfig {
     DriveType type = DriveType::fixed;
     std::filesystem::path folder;  ///< absolute, or relative to the machine folder
@@ -30,10 +30,10 @@ struct DriveConfig {
     bool operator==(const DriveConfig&) const = default;
 };
 
-/// A printer: its page in device pixels and its vertical resolution in pixels per inch. It prints PDF files,
-/// into the machine folder if no other is given. With `desktop` it does so only where the user's desktop has
-/// no printer; else its default printer is meant, whose page is its own. The latter two are not in
-/// machine.json.
+/// A printer: the size of its page in device pixels, and its vertical resolution in pixels per inch. It
+/// writes PDF files into `folder`, or into the machine folder when `folder` is empty. With `desktop`,
+/// documents go to the default printer of the user's desktop, with the page size of that printer; PDF files
+/// are written only if the desktop has no printer. machine.json has neither `folder` nor `desktop`.
 struct PrinterConfig {
     int horzres = 4800;
     int vertres = 6800;
@@ -44,41 +44,43 @@ struct PrinterConfig {
     bool operator==(const PrinterConfig&) const = default;
 };
 
-/// Hosts of the web sites that the program opens, in small letters; empty for none.
+/// Host names of the web sites that the program opens, in lower case; empty for none.
 struct SitesConfig {
-    std::string product = "kalyxo.example";
-    std::string maker = "orvane.example";
+    std::string product;
+    std::string maker;
 
     bool operator==(const SitesConfig&) const = default;
 };
 
-/// What machine.json tells of a machine; every field of the file may be left out. Texts are code page 1253.
+/// What machine.json says of a machine; every field of the file may be left out. Texts are code page 1253.
 struct MachineConfig {
     ScreenConfig screen;
     std::map<std::string, int, std::less<>>
-        metrics;  ///< the metrics given, by name; others have their standard value
+        metrics;  ///< by name; metrics that are not here have their standard value
     std::map<char, DriveConfig> drives = {{'C', {DriveType::fixed, "c"}}};  ///< by letter, 'A' to 'Z'
-    std::string program = "C:\\Kalyxo\\kalyxo.exe";
+    std::string program = "C:\\Program\\program.exe";
     std::string temp = "C:\\Temp\\";
     std::string system = "C:\\Windows\\System";
     std::optional<PrinterConfig> printer;
     SitesConfig sites;
     bool automation = true;  ///< whether programs can host components
-    int msPerStep = 0;       ///< what each look at the clock takes with virtual time, to try out what is slow
+    int msPerStep = 0;  ///< how far the virtual clock advances each time it is read, to test slow operations
 
     bool operator==(const MachineConfig&) const = default;
 };
 
-/// Reads machine.json text. Drives add to the drive C: that there is by default; a drive that is null is
-/// taken away. Unknown fields are passed over. A failure's message starts with `name` and says what is wrong:
-/// not JSON, a field of a wrong type or out of range, a drive letter that is not A to Z, an unknown drive
-/// type.
-Result<MachineConfig> parseMachineConfig(std::string_view json, std::string_view name);
+/// Reads the text of a machine.json. Fields that are left out have their value in `defaults`. Drives are
+/// added to those of `defaults`, and a drive that is null is removed. Unknown fields are ignored. The message
+/// of a failure starts with `name` and says what is wrong: not JSON, a field of a wrong type or out of range,
+/// a drive letter that is not A to Z, an unknown drive type.
+Result<MachineConfig> parseMachineConfig(std::string_view json, std::string_view name,
+                                         const MachineConfig& defaults = {});
 
-/// Reads a machine.json file.
-Result<MachineConfig> loadMachineConfig(const std::filesystem::path& path);
+/// Reads a machine.json file; see `parseMachineConfig`.
+Result<MachineConfig> loadMachineConfig(const std::filesystem::path& path,
+                                        const MachineConfig& defaults = {});
 
-/// Writes a machine.json file all at once; false when that fails, with the old file as it was.
+/// Writes a machine.json file. False when that fails; the old file is then unchanged.
 bool saveMachineConfig(const MachineConfig& config, const std::filesystem::path& path);
 
 }  // namespace platform

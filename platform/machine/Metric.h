@@ -26,7 +26,7 @@ struct MetricName {
     int standard;  ///< the value when the settings do not give it
 };
 
-/// All of them; the screen's size is not among them, since the settings give it in its own place.
+/// All metrics that the settings can give. The size of the screen has fields of its own there.
 inline constexpr std::array<MetricName, 8> metricNames = {{
     {SM_CXMAXIMIZED, "SM_CXMAXIMIZED", 1032},
     {SM_CYMAXIMIZED, "SM_CYMAXIMIZED", 748},

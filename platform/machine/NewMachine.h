@@ -34,18 +34,18 @@ struct NewMachineOptions {
     std::string modulesTo;              ///< folder on the machine that receives them
     std::string settingsKey;  ///< key under HKEY_LOCAL_MACHINE, made even without values; none when empty
     std::vector<std::pair<std::string, std::variant<std::string, std::uint32_t>>> settings;  ///< its values
-    std::vector<NewMachineComponent> components;  ///< registered as lying in `modulesTo`
-    std::vector<NewMachineFile> files;            ///< written after all else, with the folders above them
+    std::vector<NewMachineComponent> components;  ///< registered in `modulesTo`
+    std::vector<NewMachineFile> files;            ///< written last, with the folders above them
 };
 
 /// The modules in a folder of the host: components (.ocx), and libraries that a component loads (.so).
 /// Nothing when the folder cannot be read.
 std::optional<std::vector<std::filesystem::path>> modulesIn(const std::filesystem::path& folder);
 
-/// Makes a machine folder: machine.json, registry.reg, drive C: with the program file (a placeholder that its
-/// path names), the temporary and system folders, the component modules and the files asked for. A folder
-/// that exists is kept, and what is named here is written anew. `step` is told how many of the modules are
-/// copied; when it cancels, the machine has no registry.reg. The failure names what could not be made.
+/// Makes a machine folder: machine.json, registry.reg, drive C: with the program file (a placeholder at the
+/// program's path), the temporary and system folders, the component modules and the files asked for. In a
+/// folder that exists already the files named here are replaced, and all others stay. `step` is told how many
+/// modules are copied; if it cancels, no registry.reg is written. The failure names what could not be made.
 Result<void> makeMachine(const std::filesystem::path& folder, const NewMachineOptions& options,
                          const ProgressStep& step = {});
 

@@ -25,7 +25,7 @@ enum class TraceCallKind { method, get, put };
 
 /// The program called an operation of a hosted component.
 struct TraceCall {
-    int control = 0;        ///< the control id
+    int control = 0;        ///< the id of the component's window
     std::string className;  ///< key "class"
     int dispid = 0;
     TraceCallKind kind = TraceCallKind::method;
@@ -36,7 +36,7 @@ struct TraceCall {
 
 /// The program asked a browser to navigate.
 struct TraceNavigate {
-    int control = 0;  ///< the control id
+    int control = 0;  ///< the id of the browser's window
     std::string url;
     int flags = 0;
 };
@@ -66,7 +66,7 @@ struct TracePrint {
     std::string file;
 };
 
-/// A module's registration function was called.
+/// The registration function of a component's module was called.
 struct TraceRegister {
     std::string path;
 };
@@ -80,7 +80,8 @@ struct TraceClipboard {
 using TraceEntry = std::variant<TraceBox, TraceCall, TraceNavigate, TraceRefused, TraceSleep, TraceShell,
                                 TracePrint, TraceRegister, TraceClipboard>;
 
-/// What the program did to the world, in order. Off at first, so that the list cannot grow without a reader.
+/// What the program did to the world, in order. Off at first; otherwise the list would grow although nobody
+/// reads it.
 class Trace {
   public:
     void enable() { enabled_ = true; }

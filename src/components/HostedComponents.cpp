@@ -63,7 +63,7 @@ platform::Result<void> HostedComponents::Create(CWnd& view, const ComponentSurro
     periodicTable.SetDataFolder(surroundings.dataFolder);
 
     if (!creation.create(select, "", IDC_SELECT, kSelectFile)) {
-        return platform::Failure{std::string(platform::LoadString(IDS_NO_BROWSE_SELECTION))};
+        return Failure{std::string(platform::LoadString(IDS_NO_BROWSE_SELECTION))};
     }
     select.Initialise(kSelectHostCode, surroundings.dataFolder, view.GetSafeHwnd());
     selectWindows.edit = select.GetEditWindow();
@@ -71,21 +71,21 @@ platform::Result<void> HostedComponents::Create(CWnd& view, const ComponentSurro
     versions.m_strVerSelect = select.Version();
 
     if (!creation.create(dataAnalyser, "DataAn", IDC_DATA_ANALYSER, kDataAnalFile)) {
-        return platform::Failure{std::string(platform::LoadString(IDS_NO_DATA_ANALYSER))};
+        return Failure{std::string(platform::LoadString(IDS_NO_DATA_ANALYSER))};
     }
     dataAnalyser.Initialise(kDataAnalHostCode, surroundings.dataFolder);
     versions.m_strVerDataAn = dataAnalyser.Version();
 
     CMolCtrl molCtrl;
     if (!creation.create(molCtrl, "MolCtrl", IDC_VERSION_CHECK, kMolCtrlFile)) {
-        return platform::Failure{std::string(platform::LoadString(IDS_NO_MOLECULE_CONTROLLER))};
+        return Failure{std::string(platform::LoadString(IDS_NO_MOLECULE_CONTROLLER))};
     }
     versions.m_strVerMolCtrl = molCtrl.Version();
     molCtrl.DestroyWindow();
 
     CKzZoom zoom;
     if (!creation.create(zoom, "KzZoom", IDC_VERSION_CHECK, kKzZoomFile)) {
-        return platform::Failure{std::string(platform::LoadString(IDS_NO_MOLECULE_ZOOM))};
+        return Failure{std::string(platform::LoadString(IDS_NO_MOLECULE_ZOOM))};
     }
     versions.m_strVerZoom = zoom.GetVersion();
     zoom.DestroyWindow();

@@ -24,10 +24,17 @@ std::vector<platform::NewMachineComponent> allComponents() {
 
 }  // namespace
 
+platform::MachineConfig DefaultMachineConfig() {
+    platform::MachineConfig config;
+    config.program = kProgramFolder + "\\kalyxo.exe";
+    config.sites = {"kalyxo.example", "orvane.example"};
+    return config;
+}
+
 platform::NewMachineOptions NewMachineOptions(const std::filesystem::path& content,
                                               const std::filesystem::path& modules, MachineSetup setup) {
     platform::NewMachineOptions options;
-    options.config.program = kProgramFolder + "\\kalyxo.exe";
+    options.config = DefaultMachineConfig();
     options.discFolder = content;
     options.modulesFrom = modules;
     options.modulesTo = kProgramFolder + "\\ActiveX";

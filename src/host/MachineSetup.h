@@ -12,6 +12,9 @@ struct MachineSetup {
     bool bare = false;     ///< no component is registered, and no cset.ini tells where the content is
 };
 
+/// The settings of a machine that machine.json leaves out: the program's path and its web sites.
+platform::MachineConfig DefaultMachineConfig();
+
 /// What a new machine of the product gets: the program in C:\Kalyxo with the components in its ActiveX
 /// folder, the settings key, the registered components, the content as the compact disc D: and a cset.ini
 /// that names it and the bookmark file. Both folders are the host's.

@@ -57,9 +57,9 @@ Result<void> makeUnlessFinished(const fs::path& folder, const InstalledFiles& in
     fs::create_directories(folder, ignored);
     const auto lock = platform::FolderLock::wait(folder);
     if (isFinished(folder)) return {};
-    MachineConfig known;
+    MachineConfig known = DefaultMachineConfig();
     if (isThere(configFile(folder))) {
-        auto config = platform::loadMachineConfig(configFile(folder));
+        auto config = platform::loadMachineConfig(configFile(folder), DefaultMachineConfig());
         if (!config) return config.failure();
         known = *std::move(config);
     }
@@ -115,7 +115,7 @@ Result<std::unique_ptr<Machine>> OpenOwnMachine(const fs::path& folder, const In
                                                 const std::vector<MountedMedium>& media,
                                                 const ProgressStep& step) {
     if (const auto made = makeUnlessFinished(folder, installed, step); !made) return made.failure();
-    auto config = platform::loadMachineConfig(configFile(folder));
+    auto config = platform::loadMachineConfig(configFile(folder), DefaultMachineConfig());
     if (!config) return config.failure();
     auto registry = platform::loadRegFile(registryFile(folder));
     if (!registry) return registry.failure();

@@ -66,7 +66,7 @@ int runSession(int script) {
 int carryOut(const RunScript& task) {
     const int script = task.script ? ::open(task.script->c_str(), O_RDONLY | O_CLOEXEC) : STDIN_FILENO;
     if (script < 0) return complain(task.script->string() + ": cannot be read");
-    auto machine = platform::Machine::open(task.machine);
+    auto machine = platform::Machine::open(task.machine, kalyxo::DefaultMachineConfig());
     if (!machine) return complain(machine.failure().message);
     platform::Machine& opened = **machine;
     opened.trace().enable();
@@ -84,7 +84,7 @@ int carryOut(const RunScript& task) {
     QApplication::setQuitOnLastWindowClosed(false);
     // The text cursor does not blink: pictures show the same at any time.
     QApplication::setCursorFlashTime(0);
-    platform::wearLightPalette();
+    platform::applyLightPalette();
     const int status = runSession(script);
     platform::setMachine(nullptr);
     return status;

@@ -17,7 +17,7 @@ TEST(Machine, AFolderWithoutFilesIsABareMachine) {
     const auto opened = Machine::open(folder.path());
     ASSERT_TRUE(opened) << opened.message();
     Machine& bare = **opened;
-    EXPECT_EQ(bare.programPath(), "C:\\Kalyxo\\kalyxo.exe");
+    EXPECT_EQ(bare.programPath(), "C:\\Program\\program.exe");
     EXPECT_EQ(bare.tempFolder(), "C:\\Temp\\");
     EXPECT_EQ(bare.systemFolder(), "C:\\Windows\\System");
     EXPECT_FALSE(bare.registry().openKey(HKEY_LOCAL_MACHINE, "Software"));
@@ -63,7 +63,7 @@ TEST(Machine, ProgramsOnOneFolderKeepEachOthersChanges) {
     EXPECT_EQ(number("Layout", "right"), 1U);
     EXPECT_EQ(number("Other", "n"), 3U);
 
-    // What was written once is not a change any more.
+    // A change that is written already does not count as a change again.
     set(*first, "Late", "n", 4);
     ASSERT_TRUE(first->flushRegistry());
     EXPECT_EQ(number("Layout", "left"), 9U);
@@ -89,8 +89,8 @@ TEST(Machine, LibrariesAreSearchedInTheProgramFolderFirst) {
     Machine computer(folder.path(), MachineConfig(), Registry());
     folder.write("c/Windows/System/msvcrt.dll", "");
     folder.write("c/Windows/System/mfc42.dll", "");
-    folder.write("c/Kalyxo/MFC42.DLL", "");
-    EXPECT_EQ(computer.findLibrary("mfc42.dll"), "C:\\Kalyxo\\mfc42.dll");
+    folder.write("c/Program/MFC42.DLL", "");
+    EXPECT_EQ(computer.findLibrary("mfc42.dll"), "C:\\Program\\mfc42.dll");
     EXPECT_EQ(computer.findLibrary("msvcrt.dll"), "C:\\Windows\\System\\msvcrt.dll");
     EXPECT_EQ(computer.findLibrary("oleaut32.dll"), std::nullopt);
     EXPECT_EQ(computer.findLibrary("D:\\x.dll"), "D:\\x.dll");

@@ -20,9 +20,9 @@ class NewMachineTest : public ::testing::Test {
         host.write("modules/readme.txt", "no module");
         options.discFolder = host / "disc";
         options.modulesFrom = host / "modules";
-        options.modulesTo = "C:\\Kalyxo\\ActiveX";
+        options.modulesTo = "C:\\Program\\ActiveX";
         options.settingsKey = "Software\\Maker\\Πρόγραμμα"_gr;
-        options.settings = {{"Directory", "C:\\Kalyxo"}, {"Splitter", std::uint32_t{216}}};
+        options.settings = {{"Directory", "C:\\Program"}, {"Splitter", std::uint32_t{216}}};
         options.components = {{"two.ocx", "11111111-2222"}};
         options.files = {{R"(C:\New\Deep\f)", "x"}};
     }
