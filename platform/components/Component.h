@@ -20,10 +20,10 @@ namespace platform {
 
 class FileSystem;
 
-/// Type of an argument or result in a control's description.
+/// The type of an argument or result in a component's description.
 enum class TypeCode { none, i2, i4, boolean, text, variant, booleanRef, dispatch };
 
-/// One operation of a control, as a type library would tell it.
+/// One operation of a component, as a type library would describe it.
 struct OperationInfo {
     std::int32_t dispid;
     InvokeKind kind;
@@ -31,7 +31,7 @@ struct OperationInfo {
     std::span<const TypeCode> arguments;
 };
 
-/// One event of a control.
+/// One event of a component.
 struct EventInfo {
     std::int32_t dispid;
     std::string_view name;
@@ -41,49 +41,48 @@ struct EventInfo {
 /// Draws a page that is printed.
 using PagePainter = std::function<void(QPainter& painter, const QRect& page, int dotsPerInch)>;
 
-/// What a control can ask of its host. It outlives the control.
+/// What a component can ask of its host. The site outlives the component.
 class ComponentSite {
   public:
     virtual ~ComponentSite() = default;
     /// Raises an event; its handlers run before this returns.
     virtual void raiseEvent(std::int32_t dispid, std::span<Variant> arguments) = 0;
-    /// Gives a child widget of the control a window handle and a receiver of sent messages.
+    /// Gives a child widget of the component a window handle and a receiver of sent messages.
     virtual HWND registerWindow(QWidget& widget, std::string className, MessageProc proc) = 0;
     virtual LRESULT sendMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) = 0;
     /// The machine's drives and files.
     virtual const FileSystem& files() const = 0;
-    /// Prints a document (its name in code page 1253) of one page, which the painter draws: in device pixels
-    /// from the printable corner, `dotsPerInch` to the inch. The user may be asked for a printer first. False
-    /// when nothing was printed, as by a host without printers.
+    /// Prints a document of one page; its name is code page 1253. `paint` draws the page in device pixels
+    /// from the corner of its printable area, `dotsPerInch` to the inch. The user may be asked for a printer
+    /// first. False when nothing was printed, for instance because the host has no printer.
     virtual bool print(std::string_view, const PagePainter&) { return false; }
 };
 
-/// A control that runs in the program's process. It owns its widget, whose parent is the host's.
+/// A component that runs in the program's process. It owns its widget, whose parent is the host's.
 class Component {
   public:
     virtual ~Component() = default;
     virtual QWidget& widget() = 0;
     virtual std::span<const OperationInfo> operations() const = 0;
     virtual std::span<const EventInfo> events() const = 0;
-    /// Carries out an operation; nothing when there is no such operation or an argument has another
-    /// type or the number of arguments differs.
+    /// Carries out an operation. Nothing when there is no such operation, or the number or types of the
+    /// arguments differ.
     virtual std::optional<Variant> invoke(std::int32_t dispid, InvokeKind kind,
                                           std::span<const Variant> arguments) = 0;
-    /// True while the control does something that it will finish by itself, such as loading a page.
+    /// True while the component does something that it will finish by itself, such as loading a page.
     virtual bool busy() const { return false; }
 
-    /// @name Blocks of the control's memory, which operations carry as a location: the number of a block, 0
-    /// for none.
-    /// @{
-    /// The bytes at a location, valid until the next call of an operation or of `keepBlock`; empty when no
-    /// block is there.
+    // Blocks of the component's memory. Operations name a block by a number, its location; 0 is no block.
+
+    /// The bytes at a location, valid until the next call of an operation or of `keepBlock`; empty when there
+    /// is no such block.
     virtual std::span<const std::byte> block(std::int32_t) const { return {}; }
-    /// Takes a copy of a host's block for the operations that follow, and gives its location. The blocks of
-    /// the last two calls at least are kept. 0 when the control takes none.
+    /// Copies a block of the host for the following operations and returns its location, 0 if the component
+    /// takes no blocks. At least the blocks of the last two calls are kept.
     virtual std::int32_t keepBlock(std::span<const std::byte>) { return 0; }
-    /// @}
 };
 
-using ControlFactory = std::unique_ptr<Component> (*)(ComponentSite& site, QWidget* parent);
+/// Makes a component; the function that a module exports.
+using ComponentFactory = std::unique_ptr<Component> (*)(ComponentSite& site, QWidget* parent);
 
 }  // namespace platform

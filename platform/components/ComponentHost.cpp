@@ -18,13 +18,13 @@ namespace platform {
 
 namespace {
 
-/// Keeps a control's widget as large as the window that hosts it.
+/// Keeps a component's widget as large as the window that hosts it.
 class Filling : public QObject {
   public:
     Filling(QWidget& container, QWidget* filling) : QObject(filling), filling_(*filling) {
         container.installEventFilter(this);
         filling->setGeometry(container.rect());
-        // In a container that is not on show yet it comes on show with it, and is laid out only then.
+        // If the container is hidden, the widget is shown, and laid out, together with it.
         if (container.isVisible()) filling->show();
     }
 
@@ -37,7 +37,7 @@ class Filling : public QObject {
     QWidget& filling_;
 };
 
-/// The classes that come without a module, and what makes their components.
+/// The classes without a module, with the functions that make their components.
 std::map<std::string, ComponentHost::Creator, std::less<>>& builtIn() {
     static std::map<std::string, ComponentHost::Creator, std::less<>> classes;
     return classes;
@@ -53,8 +53,8 @@ std::unique_ptr<Component> makeComponent(std::string_view classId, ComponentSite
 
 }  // namespace
 
-/// What lives on while an event is under way, although the host has gone: the control that raised it, and
-/// the site that it talks to.
+/// What must outlive the host while an event is being handled: the component that raised it, and the
+/// component's site.
 struct ComponentHost::Hosted : ComponentSite, std::enable_shared_from_this<Hosted> {
     explicit Hosted(EventHandler given) : handler(std::move(given)) {}
 
@@ -65,7 +65,7 @@ struct ComponentHost::Hosted : ComponentSite, std::enable_shared_from_this<Hoste
         ++raising;
         called(dispid, arguments);
         --raising;
-        // The control's own code is still on the stack: it is destroyed once that has returned.
+        // Code of the component is still on the stack: it is destroyed after that has returned.
         if (closed) QTimer::singleShot(0, QCoreApplication::instance(), [alive] {});
     }
 
@@ -81,7 +81,7 @@ struct ComponentHost::Hosted : ComponentSite, std::enable_shared_from_this<Hoste
 
     bool print(std::string_view document, const PagePainter& paint) override {
         const auto alive = shared_from_this();
-        QWidget* const window = control ? control->widget().window() : nullptr;
+        QWidget* const window = component ? component->widget().window() : nullptr;
         const std::unique_ptr<PrintJob> job = PrintJob::begin(document, window);
         if (!job) return false;
         const PrinterConfig& page = job->page();
@@ -92,17 +92,17 @@ struct ComponentHost::Hosted : ComponentSite, std::enable_shared_from_this<Hoste
     void close() {
         closed = true;
         handler = nullptr;
-        if (raising > 0 && control) {
-            // Its window may go before it does.
-            control->widget().hide();
-            control->widget().setParent(nullptr);
+        if (raising > 0 && component) {
+            // The window may be destroyed before the component.
+            component->widget().hide();
+            component->widget().setParent(nullptr);
         } else {
-            control.reset();
+            component.reset();
         }
     }
 
     EventHandler handler;
-    std::unique_ptr<Component> control;
+    std::unique_ptr<Component> component;
     int raising = 0;
     bool closed = false;
 };
@@ -114,10 +114,10 @@ void ComponentHost::addBuiltIn(std::string classId, Creator creator) {
 std::unique_ptr<ComponentHost> ComponentHost::create(std::string_view classId, QWidget* container,
                                                      EventHandler handler) {
     const auto hosted = std::make_shared<Hosted>(std::move(handler));
-    hosted->control = makeComponent(classId, *hosted, container);
-    if (!hosted->control) return nullptr;
-    makeQtChild<Filling>(*container, &hosted->control->widget());
-    QObject::connect(container, &QObject::destroyed, &hosted->control->widget(),
+    hosted->component = makeComponent(classId, *hosted, container);
+    if (!hosted->component) return nullptr;
+    makeQtChild<Filling>(*container, &hosted->component->widget());
+    QObject::connect(container, &QObject::destroyed, &hosted->component->widget(),
                      [weak = std::weak_ptr(hosted)] {
                          if (const auto still = weak.lock()) still->close();
                      });
@@ -128,22 +128,22 @@ ComponentHost::ComponentHost(std::shared_ptr<Hosted> hosted) : hosted_(std::move
 
 ComponentHost::~ComponentHost() { hosted_->close(); }
 
-Component& ComponentHost::control() { return *hosted_->control; }
+Component& ComponentHost::component() { return *hosted_->component; }
 
-const Component& ComponentHost::control() const { return *hosted_->control; }
+const Component& ComponentHost::component() const { return *hosted_->component; }
 
 std::optional<Variant> ComponentHost::invoke(std::int32_t dispid, InvokeKind kind,
                                              std::span<const Variant> arguments) {
     const auto alive = hosted_;
-    return alive->control ? alive->control->invoke(dispid, kind, arguments) : std::nullopt;
+    return alive->component ? alive->component->invoke(dispid, kind, arguments) : std::nullopt;
 }
 
 std::span<const std::byte> ComponentHost::block(std::int32_t location) const {
-    return hosted_->control ? hosted_->control->block(location) : std::span<const std::byte>();
+    return hosted_->component ? hosted_->component->block(location) : std::span<const std::byte>();
 }
 
 std::int32_t ComponentHost::keepBlock(std::span<const std::byte> bytes) {
-    return hosted_->control ? hosted_->control->keepBlock(bytes) : 0;
+    return hosted_->component ? hosted_->component->keepBlock(bytes) : 0;
 }
 
 void ComponentHost::raiseEvent(std::int32_t dispid, std::span<Variant> arguments) {

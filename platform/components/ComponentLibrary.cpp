@@ -13,7 +13,7 @@ namespace platform {
 
 namespace {
 
-/// Longest path that a registration holds, with its NUL.
+/// The maximum length of a path in a registration, with its NUL.
 constexpr std::size_t maxPathBytes = 256;
 
 std::string serverKey(std::string_view classId) {
@@ -34,7 +34,7 @@ class Registrar : public ModuleRegistrar {
 };
 
 /// The system's handle of a library. It is never closed: the program may hold code and types of the library,
-/// and controls of it may live until the end.
+/// and its components may live until the end of the run.
 void* load(std::string_view dosPath) {
     const auto native = machine().files().nativePath(dosPath);
     return native ? ::dlopen(native->c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE) : nullptr;

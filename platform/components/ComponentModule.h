@@ -7,7 +7,7 @@
 
 namespace platform {
 
-/// Writes a module's classes into the registry; the host knows the module's path.
+/// Writes a module's classes into the registry. The host knows the path of the module.
 class ModuleRegistrar {
   public:
     virtual ~ModuleRegistrar() = default;
@@ -15,24 +15,26 @@ class ModuleRegistrar {
     virtual void registerClass(std::string_view classId) = 0;
 };
 
-/// What a control class shows where a page names it in an OBJECT element: a part of the page without a window
-/// of its own.
+/// What a component class shows where a page names it in an OBJECT element: a part of the page, without a
+/// window of its own.
 struct PagePart {
     /// The part's document, a resource path such as ":/zoom/zoom.html"; empty when the class has none. It is
-    /// shown in a frame with the element's attributes, by names in lower case, as parameters of the query.
+    /// shown in a frame. The attributes of the element, with names in lower case, become parameters of the
+    /// document's query.
     std::string_view document;
-    /// The commands that it may send to the window around the browser, as second parameter of WM_COMMAND. It
-    /// sends one by setting its frame's address to the same query with `command=NUMBER`.
+    /// The commands that the part may send to the window around the browser, as the second parameter of
+    /// WM_COMMAND. It sends one by setting its frame's address to the same query with `command=NUMBER`.
     std::span<const LPARAM> commands;
 };
 
-/// What a loaded module offers: one control class.
+/// What a loaded module offers: one component class.
 struct ComponentModule {
-    /// Changes whenever this, Component, ComponentSite or Variant change; the host refuses other numbers.
+    /// Increased whenever this struct, Component, ComponentSite or Variant change. The host refuses other
+    /// numbers.
     static constexpr int currentInterface = 4;
     int interfaceVersion = currentInterface;
     std::string_view classId;
-    ControlFactory create = nullptr;
+    ComponentFactory create = nullptr;
     PagePart pagePart{};
 };
 

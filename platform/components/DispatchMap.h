@@ -8,11 +8,11 @@
 
 #include "platform/components/Component.h"
 
-/// Builds a control's table of operations from member functions, so that argument types are written
-/// once. A control declares
+/// Builds a component's table of operations from member functions, so that argument types are written only
+/// once. A component declares
 ///     static constexpr auto operationTable = std::array{
 ///         Method<2, &Select::getPageTitle>("GetPageTitle"), PropertyGet<1, &Select::version>("Version")};
-/// and forwards `invoke` to `dispatch(*this, operationTable, …)`.
+/// and its `invoke` returns `dispatch(*this, operationTable, …)`.
 namespace platform {
 
 namespace detail {

@@ -9,9 +9,9 @@
 
 namespace platform {
 
-/// What a browser control shows, for whoever looks at it from outside; reached from a Component by
-/// `dynamic_cast`. Texts are code page 1253, with `?` for what that cannot write. Operations that ask the
-/// engine run the event loop until it has answered, five seconds at most.
+/// The page that a browser component shows, for code that examines the program from outside; a Component is
+/// converted to it by `dynamic_cast`. Texts are code page 1253, with `?` for other characters. Operations
+/// that ask the engine run the event loop until it has answered, for at most five seconds.
 class WebPageInspector {
   public:
     virtual ~WebPageInspector() = default;
@@ -23,18 +23,18 @@ class WebPageInspector {
     virtual std::string text() = 0;
     virtual std::string html() = 0;
 
-    /// Scrolls the page's first link with this text (blanks at its ends apart) into view; its rectangle in
-    /// the control's client area, nothing when there is none.
+    /// Scrolls the page's first link with this text (blanks at its ends ignored) into view. Returns its
+    /// rectangle in the component's client area, nothing when there is no such link.
     virtual std::optional<CRect> findLink(std::string_view linkText) = 0;
-    /// Clicks that link with the mouse, in a moment; false when there is none. The control is busy until the
-    /// page has handled it.
+    /// Clicks that link with the mouse, from the event loop; false when there is none. The component is busy
+    /// until the page has handled the click.
     virtual bool clickLink(std::string_view linkText) = 0;
 
-    /// Brings the windows of the frames that embedded files are shown in (class "Plugin", children of the
-    /// control's window) to where the page has laid them out now.
+    /// Moves the windows of embedded files (class "Plugin", children of the component's window) to where the
+    /// page shows these files now.
     virtual void updatePluginWindows() = 0;
-    /// The picture that the viewer in such a window gives of itself, whatever covers it: a PNG file; of a
-    /// video without its control strip. Empty when the window is none or has no picture.
+    /// The picture that the viewer in such a window gives of itself, even where it is covered: a PNG file; a
+    /// video's has no control strip. Empty when there is no such window or it gives no picture.
     virtual std::string pluginPicture(HWND window) = 0;
 };
 

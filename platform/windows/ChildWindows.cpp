@@ -24,7 +24,7 @@ bool isInside(HWND window, HWND parent) {
 
 WebPageInspector* browserIn(HWND window) {
     ComponentHost* const host = componentHostOf(window);
-    return host == nullptr ? nullptr : dynamic_cast<WebPageInspector*>(&host->control());
+    return host == nullptr ? nullptr : dynamic_cast<WebPageInspector*>(&host->component());
 }
 
 }  // namespace

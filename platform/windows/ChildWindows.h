@@ -4,24 +4,24 @@
 
 #include "platform/base/Geometry.h"
 #include "platform/base/Messages.h"
-#include "platform/drawing/DC.h"
+#include "platform/drawing/Bitmap.h"
 
-/// Windows by their handles, those that are no object of the program among them: insides of controls and the
-/// plug-ins of pages.
+/// Functions on windows by their handles. Some of these windows have no object in the program: the windows
+/// inside components, and the plug-ins of pages.
 namespace platform {
 
-/// Calls back for each window inside `parent`, those of children included, until it is told false. The
-/// plug-ins of a page that a browser inside shows are brought to their places first; they follow their
-/// browser in the order of the page.
+/// Calls back for each window inside `parent`, at any depth, until `callback` returns false. Before that, the
+/// plug-ins of pages are moved to their current places. They come after their browser, in the order of the
+/// page.
 void EnumChildWindows(HWND parent, const std::function<bool(HWND)>& callback);
 
-/// The picture that a page's plug-in gives of itself: a molecule's whole window, a video's without the
-/// control strip. Not loaded when the window is no plug-in's, or it has no picture to give.
+/// The picture that a page's plug-in gives of itself: the whole window of a molecule, a video without its
+/// control strip. Not loaded when the window is no plug-in or has no picture.
 CBitmap PluginPicture(HWND window);
 
-/// The client area with its corner at (0, 0); empty for a handle that names no window.
+/// The client area with its corner at (0, 0); empty for an invalid handle.
 CRect GetClientRect(HWND window);
-/// A point of the client area on the screen.
+/// A point of the client area in screen coordinates.
 CPoint ClientToScreen(HWND window, CPoint p);
 
 }  // namespace platform

@@ -7,28 +7,28 @@
 
 namespace platform {
 
-ComponentContainer::ComponentContainer(CWnd& owner, QWidget* parent, int controlId)
-    : WindowWidget(owner, parent, controlId) {
-    // Otherwise the parent's cursor would show over the control.
+ComponentContainer::ComponentContainer(CWnd& owner, QWidget* parent, int componentId)
+    : WindowWidget(owner, parent, componentId) {
+    // Otherwise the parent's cursor would show over the component.
     setCursor(Qt::ArrowCursor);
 }
 
 ComponentContainer::~ComponentContainer() = default;
 
-bool ComponentContainer::createControl(std::string_view classId) {
+bool ComponentContainer::createComponent(std::string_view classId) {
     const HWND parent = WindowTable::instance().nearestHandle(parentWidget());
-    const int controlId = WindowTable::instance().find(handle())->id;
+    const int componentId = WindowTable::instance().find(handle())->id;
     host_ = ComponentHost::create(classId, this, [=](std::int32_t dispid, std::span<Variant> arguments) {
-        if (CWnd* const receiver = CWnd::FromHandle(parent)) receiver->OnEvent(controlId, dispid, arguments);
+        if (CWnd* const receiver = CWnd::FromHandle(parent)) receiver->OnEvent(componentId, dispid, arguments);
     });
     if (!host_) return false;
-    setFocusProxy(&host_->control().widget());
+    setFocusProxy(&host_->component().widget());
     return true;
 }
 
 void ComponentContainer::invalidate(bool) {
     update();
-    if (host_) host_->control().widget().update();
+    if (host_) host_->component().widget().update();
 }
 
 void ComponentContainer::end() {
@@ -37,7 +37,7 @@ void ComponentContainer::end() {
 }
 
 void ComponentContainer::fitContent() {
-    if (host_) host_->control().widget().setGeometry(rect());
+    if (host_) host_->component().widget().setGeometry(rect());
 }
 
 void ComponentContainer::moveEvent(QMoveEvent* event) {
@@ -45,7 +45,7 @@ void ComponentContainer::moveEvent(QMoveEvent* event) {
     if (!isInSight(*this)) moveFocusOut(*this);
 }
 
-// A key that the control has no use for is not the parent's.
+// A key that the component ignores must not go to the parent.
 void ComponentContainer::keyPressEvent(QKeyEvent* event) { event->accept(); }
 
 void ComponentContainer::keyReleaseEvent(QKeyEvent* event) { event->accept(); }

@@ -8,14 +8,14 @@
 
 namespace platform {
 
-/// The window of a hosted control; the control's widget fills it.
+/// The window of a hosted component, which the component's widget fills.
 class ComponentContainer : public WindowWidget {
   public:
-    ComponentContainer(CWnd& owner, QWidget* parent, int controlId);
+    ComponentContainer(CWnd& owner, QWidget* parent, int componentId);
     ~ComponentContainer() override;
 
-    /// Creates the control; its events go to the parent object. False when the class cannot be created.
-    bool createControl(std::string_view classId);
+    /// Creates the component. Its events go to the parent's object. False when the class cannot be created.
+    bool createComponent(std::string_view classId);
     ComponentHost* host() { return host_.get(); }
 
     void invalidate(bool erase) override;
@@ -31,7 +31,7 @@ class ComponentContainer : public WindowWidget {
     std::unique_ptr<ComponentHost> host_;
 };
 
-/// The host of the control in this window, null when it holds none.
+/// The host of the component in this window, null when there is none.
 ComponentHost* componentHostOf(HWND window);
 
 }  // namespace platform

@@ -6,7 +6,7 @@
 #include "platform/windows/ComponentContainer.h"
 #include "platform/windows/Wnd.h"
 
-/// CWnd as the wrapper of a hosted control.
+/// CWnd as the wrapper of a hosted component.
 namespace platform {
 
 namespace {
@@ -25,8 +25,8 @@ TraceCallKind traceKind(InvokeKind kind) {
     return kind == InvokeKind::propertyPut ? TraceCallKind::put : TraceCallKind::method;
 }
 
-std::string operationName(const Component& control, std::int32_t dispid, InvokeKind kind) {
-    const auto operations = control.operations();
+std::string operationName(const Component& component, std::int32_t dispid, InvokeKind kind) {
+    const auto operations = component.operations();
     const auto found = std::find_if(
         operations.begin(), operations.end(),
         [=](const OperationInfo& operation) { return operation.dispid == dispid && operation.kind == kind; });
@@ -38,10 +38,10 @@ std::string operationName(const Component& control, std::int32_t dispid, InvokeK
 bool CWnd::CreateControl(std::string_view classId, std::string_view name, DWORD style, const CRect& rect,
                          CWnd& parent, UINT id) {
     WindowWidget* const parentWidget = WindowWidget::of(parent);
-    if (m_hWnd != 0 || !parentWidget) return false;
+    if (handle_ != 0 || !parentWidget) return false;
     auto& container = makeQtChild<ComponentContainer>(*this, parentWidget, static_cast<int>(id));
     container.setWindowTitle(toQt(name));
-    if (!container.createControl(classId)) {
+    if (!container.createComponent(classId)) {
         container.end();
         return false;
     }
@@ -52,7 +52,7 @@ bool CWnd::CreateControl(std::string_view classId, std::string_view name, DWORD 
 
 std::optional<Variant> CWnd::InvokeHelper(std::int32_t dispid, InvokeKind kind,
                                           std::span<const Variant> arguments) {
-    ComponentHost* const host = componentHostOf(m_hWnd);
+    ComponentHost* const host = componentHostOf(handle_);
     if (!host) return std::nullopt;
     if (!hasMachine() || !machine().trace().enabled()) return host->invoke(dispid, kind, arguments);
     TraceCall call;
@@ -60,7 +60,7 @@ std::optional<Variant> CWnd::InvokeHelper(std::int32_t dispid, InvokeKind kind,
     call.className = GetRuntimeClass().name;
     call.dispid = dispid;
     call.kind = traceKind(kind);
-    call.name = operationName(host->control(), dispid, kind);
+    call.name = operationName(host->component(), dispid, kind);
     std::optional<Variant> result = host->invoke(dispid, kind, arguments);
     for (const Variant& argument : arguments) call.args.push_back(traceValue(argument));
     if (result) call.result = traceValue(*result);
@@ -69,12 +69,12 @@ std::optional<Variant> CWnd::InvokeHelper(std::int32_t dispid, InvokeKind kind,
 }
 
 std::span<const std::byte> CWnd::ComponentBlock(std::int32_t location) const {
-    const ComponentHost* const host = componentHostOf(m_hWnd);
+    const ComponentHost* const host = componentHostOf(handle_);
     return host ? host->block(location) : std::span<const std::byte>();
 }
 
 std::int32_t CWnd::KeepComponentBlock(std::span<const std::byte> bytes) {
-    ComponentHost* const host = componentHostOf(m_hWnd);
+    ComponentHost* const host = componentHostOf(handle_);
     return host ? host->keepBlock(bytes) : 0;
 }
 

@@ -23,7 +23,7 @@ constexpr InvokeKind kinds[] = {InvokeKind::method, InvokeKind::propertyGet, Inv
 
 struct Component {
     const char* name;
-    platform::ControlFactory create;
+    platform::ComponentFactory create;
     /// A line for each operation: id, kind, name, types of the arguments.
     const char* operations;
 };

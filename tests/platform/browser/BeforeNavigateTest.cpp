@@ -31,7 +31,7 @@ TEST_F(BeforeNavigate, TellsTheResolvedAddressInDosForm) {
     EXPECT_EQ(takeRefused(), asked);
     EXPECT_EQ(url(), "C:\\Kalyxo\\cache\\1.htm");
     EXPECT_EQ(title(), "1");
-    EXPECT_FALSE(host().control().busy());
+    EXPECT_FALSE(host().component().busy());
 }
 
 TEST_F(BeforeNavigate, GoesToPlacesWithinThePageUnasked) {

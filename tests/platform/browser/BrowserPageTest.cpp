@@ -54,7 +54,7 @@ TEST_F(BrowserMachine, StartsItsEngineOnceTheWindowIsSeenOrAfterAWhile) {
         EXPECT_EQ(asked, (std::vector<std::string>{"D:\\1.htm", "D:\\2.htm", "D:\\3.htm"}));
         EXPECT_EQ(input(), nullptr);
         EXPECT_EQ(url(), "");
-        EXPECT_TRUE(host().control().busy());
+        EXPECT_TRUE(host().component().busy());
         waitForPage();
         EXPECT_EQ(title(), "2");
         EXPECT_EQ(asked.size(), 3U);
@@ -95,7 +95,7 @@ TEST_F(BrowserMachine, LoadsThePageAgainOnRefresh) {
     write("D:\\a.htm", "<TITLE>two</TITLE>");
     const std::array level = {Variant(std::int16_t{0})};
     ASSERT_TRUE(host().invoke(105, InvokeKind::method, level));
-    EXPECT_TRUE(host().control().busy());
+    EXPECT_TRUE(host().component().busy());
     waitForPage();
     EXPECT_EQ(title(), "two");
 }
@@ -160,7 +160,7 @@ TEST_F(BrowserMachine, RefusesCallsThatItDoesNotKnow) {
     EXPECT_FALSE(host().invoke(104, InvokeKind::method, text)) << "arguments missing";
     EXPECT_FALSE(host().invoke(203, InvokeKind::method, {})) << "a property, not a method";
     EXPECT_FALSE(host().invoke(999, InvokeKind::method, {}));
-    EXPECT_FALSE(host().control().busy());
+    EXPECT_FALSE(host().component().busy());
     EXPECT_EQ(page().url(), "");
 }
 

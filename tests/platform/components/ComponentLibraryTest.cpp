@@ -38,7 +38,7 @@ class ComponentLibrary : public testing::Test {
     }
     std::unique_ptr<ComponentHost> makeTestComponent(ComponentHost::EventHandler handler = {}) {
         enter(testId, "C:\\ActiveX\\TestComponent.ocx");
-        // As pages may write it, in small letters.
+        // In lower case, as pages may write it.
         return make("0a1b2c3d-0000-4000-8000-00000000abcd", std::move(handler));
     }
     template <class R, class... A>
@@ -76,7 +76,7 @@ TEST_F(ComponentLibrary, FillsItsWindow) {
     window_.show();
     const auto host = makeTestComponent();
     window_.resize(320, 240);
-    EXPECT_EQ(host->control().widget().size(), QSize(320, 240));
+    EXPECT_EQ(host->component().widget().size(), QSize(320, 240));
 }
 
 TEST_F(ComponentLibrary, TakesTheHandlersAnswerBack) {
@@ -91,7 +91,7 @@ TEST_F(ComponentLibrary, TakesTheHandlersAnswerBack) {
     EXPECT_EQ(numbers, (std::vector<std::int32_t>{1, 2}));
 }
 
-TEST_F(ComponentLibrary, LetsAHandlerDestroyTheControl) {
+TEST_F(ComponentLibrary, LetsAHandlerDestroyTheComponent) {
     std::unique_ptr<ComponentHost> host;
     int events = 0;
     host = makeTestComponent([&](std::int32_t, std::span<Variant>) {
@@ -101,7 +101,7 @@ TEST_F(ComponentLibrary, LetsAHandlerDestroyTheControl) {
     EXPECT_EQ(call<std::int32_t>(*host, 2, std::int32_t{1}), 1);
     EXPECT_FALSE(host);
     QTest::qWait(20);
-    EXPECT_EQ(events, 1) << "the control's last event is not told";
+    EXPECT_EQ(events, 1) << "the last event of the component does not arrive";
     EXPECT_TRUE(window_.findChildren<QWidget*>().isEmpty());
 }
 

@@ -9,7 +9,7 @@ namespace {
 
 constexpr const char* classId = "0A1B2C3D-0000-4000-8000-00000000ABCD";
 
-/// A browser in a window that takes commands, on a machine that knows one component.
+/// A browser in a window that handles commands, on a machine with one component.
 class PagePart : public BrowserMachine {
   protected:
     PagePart() {
@@ -32,7 +32,7 @@ class PagePart : public BrowserMachine {
         window.setParent(nullptr);
     }
 
-    /// A page with the component at its top left corner.
+    /// A page with the component in its top-left corner.
     void openWithObject(const std::string& id) {
         write("C:\\cache\\1.htm",
               "<BODY STYLE=\"margin:0\"><OBJECT CLASSID=\"clsid:" + id +

@@ -56,7 +56,7 @@ class PluginWindows : public ProgramTest {
 
     void show(const std::string& page) {
         browser_.navigate("M:\\" + page);
-        EXPECT_TRUE(runUntil([&] { return !componentHostOf(browser_.GetSafeHwnd())->control().busy(); }));
+        EXPECT_TRUE(runUntil([&] { return !componentHostOf(browser_.GetSafeHwnd())->component().busy(); }));
     }
 
     static bool runUntil(const std::function<bool()>& condition) {
@@ -125,16 +125,16 @@ TEST_F(PluginWindows, GiveTheirPictures) {
     const std::vector<HWND> windows = below(browser_);
     ASSERT_EQ(windows.size(), 2U);
     const CBitmap molecule = PluginPicture(windows[0]);
-    ASSERT_TRUE(molecule.loaded());
+    ASSERT_TRUE(molecule.Loaded());
     EXPECT_EQ(molecule.Width(), 340);
     EXPECT_EQ(molecule.Height(), 290);
     CBitmap film;
-    ASSERT_TRUE(runUntil([&] { return (film = PluginPicture(windows[1])).loaded(); }))
+    ASSERT_TRUE(runUntil([&] { return (film = PluginPicture(windows[1])).Loaded(); }))
         << "once it has a first picture";
     EXPECT_EQ(film.Width(), 320);
     EXPECT_EQ(film.Height(), 240) << "without the strip";
-    EXPECT_FALSE(PluginPicture(browser_.GetSafeHwnd()).loaded());
-    EXPECT_FALSE(PluginPicture(0).loaded());
+    EXPECT_FALSE(PluginPicture(browser_.GetSafeHwnd()).Loaded());
+    EXPECT_FALSE(PluginPicture(0).Loaded());
 }
 
 // A film of 320 × 240 pixels, blue on the left and red on the right, in a frame that is wider.
@@ -151,8 +151,8 @@ TEST_F(PluginWindows, FitAFilmAsTheScaleSays) {
         write("film.htm", std::string("<EMBED SRC=x.webm WIDTH=320 HEIGHT=138 ") + scale + ">");
         show("film.htm");
         CBitmap film;
-        ASSERT_TRUE(runUntil([&] { return (film = PluginPicture(below(browser_).at(0))).loaded(); }));
-        const QImage picture = film.image();
+        ASSERT_TRUE(runUntil([&] { return (film = PluginPicture(below(browser_).at(0))).Loaded(); }));
+        const QImage picture = film.Image();
         const auto blueness = [&](int x, int y) { return picture.pixelColor(x, y).blue(); };
         const int left = 160 - shown.width() / 2;
         const int top = 60 - shown.height() / 2;

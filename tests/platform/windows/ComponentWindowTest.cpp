@@ -10,7 +10,7 @@ using namespace platform;
 
 namespace {
 
-/// The browse selection, which has a text field.
+/// The browse selection, a component with a text field.
 constexpr const char* classId = "5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E102";
 
 class TestWrapper : public CWnd {
@@ -22,28 +22,28 @@ class TestWrapper : public CWnd {
     HWND editWindow() { return Invoke<std::int32_t>(8, InvokeKind::method); }
 };
 
-using ControlWindowTest = ProgramTest;
+using ComponentWindowTest = ProgramTest;
 
-TEST_F(ControlWindowTest, WindowsInsideOfItHaveHandlesButNoObjectAndEndWithIt) {
+TEST_F(ComponentWindowTest, WindowsInsideOfItHaveHandlesButNoObjectAndEndWithIt) {
     open();
     machine_.registry()
         .createKey(HKEY_CLASSES_ROOT, std::string("CLSID\\{") + classId + "}\\InprocServer32")
         ->setString("", "M:\\kzselectgk.ocx");
-    TestWrapper control;
-    ASSERT_TRUE(control.CreateControl(classId, "Test", WS_CHILD | WS_VISIBLE, CRect::at(10, 20, 100, 60),
-                                      view(), 1035));
-    const HWND edit = control.editWindow();
+    TestWrapper component;
+    ASSERT_TRUE(component.CreateControl(classId, "Test", WS_CHILD | WS_VISIBLE, CRect::at(10, 20, 100, 60),
+                                        view(), 1035));
+    const HWND edit = component.editWindow();
     EXPECT_EQ(CWnd::FromHandle(edit), nullptr);
     WindowTable::instance().widget(edit)->setFocus();
     EXPECT_EQ(GetFocus(), edit);
     log().clear();
-    // Neither the keys nor the clicks that it has no use for are the view's.
+    // Keys and clicks that the component does not use do not go to the view.
     pressKey(Qt::Key_F9);
-    click(control, 90, 55);
+    click(component, 90, 55);
     EXPECT_EQ(log().count("KEY") + log().count("BUTTON"), 0U);
-    EXPECT_TRUE(control.DestroyWindow());
+    EXPECT_TRUE(component.DestroyWindow());
     EXPECT_EQ(WindowTable::instance().find(edit), nullptr);
-    EXPECT_EQ(control.editWindow(), 0);
+    EXPECT_EQ(component.editWindow(), 0);
 }
 
 }  // namespace

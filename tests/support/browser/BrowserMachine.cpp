@@ -92,10 +92,10 @@ bool BrowserMachine::runUntil(const std::function<bool()>& condition) {
 }
 
 void BrowserMachine::waitForPage() {
-    EXPECT_TRUE(runUntil([this] { return !host_->control().busy(); })) << "still loading";
+    EXPECT_TRUE(runUntil([this] { return !host_->component().busy(); })) << "still loading";
 }
 
-WebPageInspector& BrowserMachine::page() { return dynamic_cast<WebPageInspector&>(host_->control()); }
+WebPageInspector& BrowserMachine::page() { return dynamic_cast<WebPageInspector&>(host_->component()); }
 
 std::string BrowserMachine::text() {
     return QString::fromStdString(utf8(page().text())).simplified().toStdString();

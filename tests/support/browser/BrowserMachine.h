@@ -15,18 +15,18 @@
 #include "platform/machine/Machine.h"
 #include "tests/support/TestFolder.h"
 
-/// Whether a pixel belongs to something drawn in blue, as nitrogen is.
+/// Whether a pixel is blue, the colour of nitrogen.
 inline bool isBlue(QColor colour) { return colour.blue() > 80 && colour.blue() > 2 * colour.red(); }
 
-/// A machine with drives C: and D: and a browser window of 640 × 480 on it. Texts and paths are UTF-8 here.
+/// A machine with drives C: and D: and a browser window of 640 × 480 pixels. Texts and paths here are UTF-8.
 class BrowserMachine : public testing::Test {
   protected:
     BrowserMachine();
     ~BrowserMachine() override;
 
-    /// Writes a file, and the folders above it; where it is.
+    /// Writes a file, makes the folders above it, and returns its path.
     std::filesystem::path writeBytes(const std::string& dosPath, std::string_view bytes);
-    /// The same in code page 1253.
+    /// The same with a content in code page 1253.
     void write(const std::string& dosPath, const std::string& text) { writeBytes(dosPath, cp1253(text)); }
     /// Copies a file of the operating system.
     void copyFile(const std::string& native, const std::string& dosPath);
@@ -39,38 +39,38 @@ class BrowserMachine : public testing::Test {
     void open(const std::string& address, std::int32_t flags = 0);
     /// The same without waiting.
     void navigate(const std::string& address, std::int32_t flags = 0);
-    /// Clicks a link, and waits for what comes of it.
+    /// Clicks a link, and waits for the page.
     bool click(const std::string& linkText);
-    /// Runs the event loop until nothing is being loaded any more.
+    /// Runs the event loop until nothing is being loaded.
     void waitForPage();
     void run(int milliseconds);
-    /// Runs the event loop until it is so, ten seconds at most; whether it came so.
+    /// Runs the event loop until the condition holds, for at most ten seconds; whether it holds.
     bool runUntil(const std::function<bool()>& condition);
 
     platform::ComponentHost& host() { return *host_; }
     platform::WebPageInspector& page();
     std::string url() { return utf8(page().url()); }
     std::string title() { return utf8(page().title()); }
-    /// The page's text, its blanks and line ends as one blank each.
+    /// The page's text, with each run of blanks and line ends as one blank.
     std::string text();
     QImage picture();
-    /// How many pixels of the area are so, or near this colour.
+    /// The number of pixels in the area that fulfil the condition, or are close to the colour.
     int count(const platform::CRect& area, const std::function<bool(QColor)>& counts);
     int count(const platform::CRect& area, QColor colour);
 
-    /// The widget that takes mouse and keyboard for the page.
-    QWidget* input() { return host_->control().widget().focusProxy(); }
+    /// The widget that gets mouse and keyboard input for the page.
+    QWidget* input() { return host_->component().widget().focusProxy(); }
     void doubleClick(QPoint point);
 
     platform::Registry& registry() { return machine_->registry(); }
     std::vector<platform::TraceEntry> takeTrace() { return machine_->trace().take(); }
-    /// Addresses of the navigations that were cancelled since the last call.
+    /// The addresses of navigations that were cancelled since the last call.
     std::vector<std::string> takeRefused();
 
     static std::string utf8(std::string_view text);
     static std::string cp1253(std::string_view text);
 
-    /// Addresses told by BeforeNavigate; those that `refuses` likes are cancelled.
+    /// The addresses of BeforeNavigate events; those for which `refuses` is true are cancelled.
     std::vector<std::string> asked;
     std::function<bool(const std::string&)> refuses = [](const std::string&) { return false; };
     QWidget window;

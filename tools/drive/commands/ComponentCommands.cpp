@@ -38,7 +38,7 @@ const OperationInfo* operationNamed(const Component& control, std::string_view n
 void control(Act& act, Program&) {
     ComponentHost* host = componentFor(act);
     if (host == nullptr) return;
-    const OperationInfo* operation = operationNamed(host->control(), act.word(1), act.count() > 2);
+    const OperationInfo* operation = operationNamed(host->component(), act.word(1), act.count() > 2);
     if (operation == nullptr) return act.fail("it has no operation " + act.word(1));
     const auto arguments = controlArguments(operation->arguments, act.wordsFrom(2));
     if (!arguments) return act.fail("these are not its arguments");
@@ -52,7 +52,7 @@ void event(Act& act, Program&) {
     ComponentHost* host = componentFor(act);
     if (host == nullptr) return;
     const std::optional<std::int32_t> dispid = number<std::int32_t>(act.word(1));
-    const auto events = host->control().events();
+    const auto events = host->component().events();
     const auto described =
         std::ranges::find_if(events, [&](const EventInfo& info) { return info.dispid == dispid; });
     if (described == events.end()) return act.fail("it has no event " + act.word(1));

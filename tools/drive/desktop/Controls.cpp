@@ -24,13 +24,13 @@ ComponentHost* controlIn(HWND window) { return componentHostOf(window); }
 
 WebPageInspector* browser() {
     ComponentHost* host = controlIn(findWindow(ControlName{kalyxo::IDC_WEB}));
-    return host == nullptr ? nullptr : dynamic_cast<WebPageInspector*>(&host->control());
+    return host == nullptr ? nullptr : dynamic_cast<WebPageInspector*>(&host->component());
 }
 
 bool anyControlBusy() {
     return std::ranges::any_of(WindowTable::instance().all(), [](HWND window) {
         const ComponentHost* host = controlIn(window);
-        return host != nullptr && host->control().busy();
+        return host != nullptr && host->component().busy();
     });
 }
 

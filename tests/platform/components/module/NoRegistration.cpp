@@ -1,2 +1,2 @@
-// A library that has nothing to register and makes no controls.
+// A library without a registration function and without components.
 extern "C" __attribute__((visibility("default"))) int automationTestNothing() { return 0; }
