@@ -121,19 +121,19 @@ class MappedFile {
 int countPlainly(const char* bytes, std::size_t size, const char* word) {
     const std::size_t length = std::strlen(word) + 1;
     int found = 0;
-    for (const char* record = bytes; record + formats::kOccurrenceRecordSize <= bytes + size;
-         record += formats::kOccurrenceRecordSize) {
+    for (const char* record = bytes; record + formats::occurrenceRecordSize <= bytes + size;
+         record += formats::occurrenceRecordSize) {
         if (std::memcmp(record, word, length) == 0) ++found;
     }
     return found;
 }
 
 int countByFread(std::FILE* file, const char* word) {
-    char record[formats::kOccurrenceRecordSize];
+    char record[formats::occurrenceRecordSize];
     int found = 0;
     std::rewind(file);
     while (std::fread(record, sizeof record, 1, file) == 1) {
-        if (std::strncmp(record, word, formats::kOccurrenceWordField) == 0) ++found;
+        if (std::strncmp(record, word, formats::occurrenceWordField) == 0) ++found;
     }
     return found;
 }

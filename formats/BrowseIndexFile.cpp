@@ -9,16 +9,16 @@
 namespace formats {
 namespace {
 
-constexpr std::string_view kMagic = "KSEL";
-constexpr std::uint16_t kVersion = 1;
-constexpr std::size_t kHeaderSize = 20;
-constexpr std::size_t kSectionSize = 8;
-constexpr std::size_t kTopicSize = 16;
-constexpr std::size_t kEntrySize = 8;
+constexpr std::string_view fileMagic = "KSEL";
+constexpr std::uint16_t fileVersion = 1;
+constexpr std::size_t headerSize = 20;
+constexpr std::size_t sectionSize = 8;
+constexpr std::size_t topicSize = 16;
+constexpr std::size_t entrySize = 8;
 
-bool isPageNumber(std::int32_t number) { return number >= 1 && number <= kMaxPageNumber; }
+bool isPageNumber(std::int32_t number) { return number >= 1 && number <= maxPageNumber; }
 
-// The four blocks behind the header, cut to their sizes.
+// The four blocks after the header, cut to their sizes.
 struct Blocks {
     std::string_view sections;
     std::string_view topics;
@@ -27,15 +27,15 @@ struct Blocks {
 };
 
 std::optional<Blocks> cutBlocks(std::string_view image) {
-    if (image.size() < kHeaderSize || !image.starts_with(kMagic)) return std::nullopt;
-    if (readInteger<std::uint16_t>(image, 4) != kVersion) return std::nullopt;
-    const std::uint64_t sections = readInteger<std::uint16_t>(image, 6) * std::uint64_t{kSectionSize};
-    const std::uint64_t topics = readInteger<std::uint32_t>(image, 8) * std::uint64_t{kTopicSize};
-    const std::uint64_t entries = readInteger<std::uint32_t>(image, 12) * std::uint64_t{kEntrySize};
+    if (image.size() < headerSize || !image.starts_with(fileMagic)) return std::nullopt;
+    if (readInteger<std::uint16_t>(image, 4) != fileVersion) return std::nullopt;
+    const std::uint64_t sections = readInteger<std::uint16_t>(image, 6) * std::uint64_t{sectionSize};
+    const std::uint64_t topics = readInteger<std::uint32_t>(image, 8) * std::uint64_t{topicSize};
+    const std::uint64_t entries = readInteger<std::uint32_t>(image, 12) * std::uint64_t{entrySize};
     const std::uint64_t texts = readInteger<std::uint32_t>(image, 16);
-    if (kHeaderSize + sections + topics + entries + texts != image.size()) return std::nullopt;
+    if (headerSize + sections + topics + entries + texts != image.size()) return std::nullopt;
 
-    image.remove_prefix(kHeaderSize);
+    image.remove_prefix(headerSize);
     const auto cut = [&image](std::uint64_t size) {
         const std::string_view block = image.substr(0, static_cast<std::size_t>(size));
         image.remove_prefix(block.size());
@@ -49,52 +49,53 @@ std::optional<Blocks> cutBlocks(std::string_view image) {
     return blocks;
 }
 
-// Takes the records from the blocks one after another; a false result means damage.
+// Takes the records from the blocks one after another; false when the file is damaged.
 class BrowseIndexReader {
   public:
-    explicit BrowseIndexReader(const Blocks& blocks) : m_blocks(blocks) {}
+    explicit BrowseIndexReader(const Blocks& blocks) : blocks_(blocks) {}
 
     bool read(BrowseIndex& index) {
-        while (!m_blocks.sections.empty()) {
+        while (!blocks_.sections.empty()) {
             BrowseSection section;
             if (!readSection(section) || findSection(index, section.code)) return false;
             index.sections.push_back(std::move(section));
         }
-        return m_blocks.topics.empty() && m_blocks.entries.empty();
+        return blocks_.topics.empty() && blocks_.entries.empty();
     }
 
   private:
     bool readSection(BrowseSection& section) {
-        const std::string_view record = take(m_blocks.sections, kSectionSize);
+        const std::string_view record = take(blocks_.sections, sectionSize);
         section.code = readInteger<std::int16_t>(record, 0);
         const auto topics = readInteger<std::uint32_t>(record, 4);
-        if (!sectionByCode(section.code) || topics > m_blocks.topics.size() / kTopicSize) return false;
+        if (!sectionByCode(section.code) || topics > blocks_.topics.size() / topicSize) return false;
         section.topics.resize(topics);
         return std::ranges::all_of(section.topics, [this](BrowseTopic& topic) { return readTopic(topic); });
     }
 
     bool readTopic(BrowseTopic& topic) {
-        const std::string_view record = take(m_blocks.topics, kTopicSize);
+        const std::string_view record = take(blocks_.topics, topicSize);
         topic.pageId = readInteger<std::int32_t>(record, 0);
         topic.pageNumber = readInteger<std::int32_t>(record, 4);
         const auto entries = readInteger<std::uint32_t>(record, 12);
         if (topic.pageId < 1 || !isPageNumber(topic.pageNumber)) return false;
-        if (entries > m_blocks.entries.size() / kEntrySize) return false;
+        if (entries > blocks_.entries.size() / entrySize) return false;
         topic.entries.resize(entries);
         return readTitle(readInteger<std::uint32_t>(record, 8), topic.title) &&
                std::ranges::all_of(topic.entries, [this](BrowseEntry& entry) { return readEntry(entry); });
     }
 
     bool readEntry(BrowseEntry& entry) {
-        const std::string_view record = take(m_blocks.entries, kEntrySize);
+        const std::string_view record = take(blocks_.entries, entrySize);
         entry.itemCode = readInteger<std::int32_t>(record, 0);
         return isPageNumber(entry.itemCode) && readTitle(readInteger<std::uint32_t>(record, 4), entry.title);
     }
 
-    // The limit on a title's length keeps what is read in proportion to the file: offsets may be shared.
+    // Several titles may share their bytes. The limit on their length keeps the memory for them in proportion
+    // to the file.
     bool readTitle(std::uint32_t offset, std::string& title) const {
-        if (offset >= m_blocks.texts.size()) return false;
-        const std::string_view rest = m_blocks.texts.substr(offset, kMaxSectionTitle + 1);
+        if (offset >= blocks_.texts.size()) return false;
+        const std::string_view rest = blocks_.texts.substr(offset, maxSectionTitle + 1);
         const std::size_t length = rest.find('\0');
         if (length == std::string_view::npos) return false;
         title = rest.substr(0, length);
@@ -107,7 +108,7 @@ class BrowseIndexReader {
         return record;
     }
 
-    Blocks m_blocks;
+    Blocks blocks_;
 };
 
 struct BrowseIndexWriter {
@@ -141,11 +142,11 @@ struct BrowseIndexWriter {
     }
 
     std::string image() const {
-        std::string image(kMagic);
-        appendInteger(image, kVersion);
-        appendInteger(image, static_cast<std::uint16_t>(sections.size() / kSectionSize));
-        appendInteger(image, static_cast<std::uint32_t>(topics.size() / kTopicSize));
-        appendInteger(image, static_cast<std::uint32_t>(entries.size() / kEntrySize));
+        std::string image(fileMagic);
+        appendInteger(image, fileVersion);
+        appendInteger(image, static_cast<std::uint16_t>(sections.size() / sectionSize));
+        appendInteger(image, static_cast<std::uint32_t>(topics.size() / topicSize));
+        appendInteger(image, static_cast<std::uint32_t>(entries.size() / entrySize));
         appendInteger(image, static_cast<std::uint32_t>(texts.size()));
         return image + sections + topics + entries + texts;
     }
@@ -164,7 +165,7 @@ std::optional<std::string> encodeBrowseIndex(const BrowseIndex& index) {
     BrowseIndexWriter writer;
     for (const BrowseSection& section : index.sections) writer.add(section);
     std::string image = writer.image();
-    // Reading it back is the one place where the rules of the format stand.
+    // The rules of the format are checked in one place, when it is read.
     if (decodeBrowseIndex(image) != index) return std::nullopt;
     return image;
 }

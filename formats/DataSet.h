@@ -9,8 +9,7 @@
 
 namespace formats {
 
-/// What a column of a data set holds: words, chemical formulas, the words that rows are grouped by, or
-/// numbers.
+/// The content of a column: words, chemical formulas, the words by which rows are grouped, or numbers.
 enum class DataColumnKind : std::uint8_t { text, formula, category, number };
 
 /// One column of a data set. Texts are in code page 1253.
@@ -18,25 +17,24 @@ struct DataColumn {
     DataColumnKind kind = DataColumnKind::text;
     std::string title;
     std::string unit;                ///< empty when it has none
-    std::vector<std::string> cells;  ///< one for each row; a number in the digits known, with decimal comma;
-                                     ///< empty when it is not known
-    std::vector<double> values;      ///< of a column of numbers one for each row, NaN when it is not known
+    std::vector<std::string> cells;  ///< one per row; a number with decimal comma; empty if unknown
+    std::vector<double> values;      ///< for numbers only: one per row, NaN if unknown
 
     bool isNumber() const { return kind == DataColumnKind::number; }
 };
 
-/// A table of facts: rows of equally many cells.
+/// A table of facts. All rows have the same number of cells.
 struct DataSet {
-    static constexpr std::size_t mostColumns = 32;
-    /// Rows are named by 16-bit numbers.
-    static constexpr std::size_t mostRows = 32767;
+    static constexpr std::size_t maxColumns = 32;
+    /// Rows have ids of 16 bits.
+    static constexpr std::size_t maxRows = 32767;
 
-    std::int16_t number = 0;  ///< names the set for ever, 1 to 32767; 0 for one that comes from no file
+    std::int16_t number = 0;  ///< the set's id, which never changes: 1 to 32767; 0 if it comes from no file
     std::string title;
-    std::string source;                ///< where the facts come from; may be empty
-    std::vector<std::int16_t> rowIds;  ///< names of the rows, ascending: their places in the file, from 1
+    std::string source;                ///< the source of the facts; may be empty
+    std::vector<std::int16_t> rowIds;  ///< ids of the rows, ascending: their places in the file, from 1
     std::vector<DataColumn> columns;
-    std::optional<std::pair<std::size_t, std::size_t>> graph;  ///< the columns that a graph shows at first
+    std::optional<std::pair<std::size_t, std::size_t>> graph;  ///< the columns of the first graph
 
     std::size_t rowCount() const { return rowIds.size(); }
 };

@@ -30,7 +30,7 @@ std::vector<std::string_view> split(std::string_view text, char separator) {
     return parts;
 }
 
-/// Hands out the lines of a text.
+/// Goes through the lines of a text.
 class Lines {
   public:
     explicit Lines(std::string_view text) : rest_(text) {}
@@ -47,7 +47,7 @@ class Lines {
     }
     std::string_view line() const { return line_; }
     int number() const { return number_; }
-    /// Whether the line has an end and not only the text.
+    /// Whether the line is complete: it ends in LF, and not where the text ends.
     bool ended() const { return ended_; }
     bool isComment() const { return trimmed(line_).empty() || line_.starts_with('#'); }
 
@@ -142,7 +142,7 @@ class Decoder {
         if (parts.size() < 2 || parts.size() > 3 || parts[1].empty()) return false;
         const auto kind = kindOf(parts[0]);
         const bool hasUnit = parts.size() == 3;
-        if (!kind || set_.columns.size() == DataSet::mostColumns) return false;
+        if (!kind || set_.columns.size() == DataSet::maxColumns) return false;
         if (hasUnit && *kind != DataColumnKind::number) return false;
         set_.columns.push_back(
             {*kind, std::string(parts[1]), std::string(hasUnit ? parts[2] : std::string_view()), {}, {}});
@@ -152,8 +152,8 @@ class Decoder {
     bool readGraph(std::string_view value) {
         const std::size_t blank = value.find(' ');
         if (blank == std::string_view::npos) return false;
-        const auto x = parseWhole(value.substr(0, blank), DataSet::mostColumns);
-        const auto y = parseWhole(trimmed(value.substr(blank)), DataSet::mostColumns);
+        const auto x = parseWhole(value.substr(0, blank), DataSet::maxColumns);
+        const auto y = parseWhole(trimmed(value.substr(blank)), DataSet::maxColumns);
         if (!x || !y) return false;
         set_.graph = {static_cast<std::size_t>(*x - 1), static_cast<std::size_t>(*y - 1)};
         return true;
@@ -166,12 +166,12 @@ class Decoder {
         const std::string_view name = cells.front();
         if (!lines_.ended()) return fault(DataSetFault::cutShort, name);
         if (cells.size() != set_.columns.size()) return fault(DataSetFault::cellCount, name);
-        if (place_ > DataSet::mostRows) return fault(DataSetFault::tooManyRows, name);
+        if (place_ > DataSet::maxRows) return fault(DataSetFault::tooManyRows, name);
         if (!readFigures(cells)) return fault(DataSetFault::notANumber, name);
         addRow(cells);
     }
 
-    /// Looks through a row before anything of it is taken.
+    /// Checks the whole row before anything of it is stored.
     bool readFigures(std::span<const std::string_view> cells) {
         figures_.assign(cells.size(), std::numeric_limits<double>::quiet_NaN());
         for (std::size_t i = 0; i < cells.size(); ++i) {
@@ -208,8 +208,8 @@ class Decoder {
 }  // namespace
 
 std::optional<double> parseFigure(std::string_view text) {
-    constexpr std::size_t longest = 40;
-    if (text.empty() || text.size() > longest) return std::nullopt;
+    constexpr std::size_t maxLength = 40;
+    if (text.empty() || text.size() > maxLength) return std::nullopt;
     std::string digits(text);
     std::ranges::replace(digits, ',', '.');
     double value = 0;

@@ -10,11 +10,11 @@
 namespace formats {
 
 /// Name of the periodic table's index in the data folder.
-inline constexpr std::string_view kElementIndexFile = "ptable.ndx";
+inline constexpr std::string_view elementIndexFile = "ptable.ndx";
 /// Size of one record on disk; the records are packed.
-inline constexpr std::size_t kElementPageRecordSize = 5;
+inline constexpr std::size_t elementPageRecordSize = 5;
 
-/// Leads from an element of the periodic table to its page in the section `elemcomp`.
+/// The page of an element of the periodic table, in the section `elemcomp`.
 struct ElementPageRecord {
     /// The element's key: its atomic number.
     std::uint8_t elementKey = 0;

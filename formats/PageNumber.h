@@ -7,7 +7,7 @@
 namespace formats {
 
 /// The highest page number: six decimal digits.
-inline constexpr std::int32_t kMaxPageNumber = 999'999;
+inline constexpr std::int32_t maxPageNumber = 999'999;
 
 /// The path of a content page relative to the data folder, with backslashes and without extension.
 ///

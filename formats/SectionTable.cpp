@@ -9,7 +9,7 @@ namespace {
 
 using namespace platform::literals;
 
-constexpr std::array<Section, 7> kSections{{
+constexpr std::array<Section, 7> sectionRows{{
     {1, "react", "Αλλαγή των υλικών"_gr, 170070},
     {2, "struct", "Δομές"_gr, 370001},
     {3, "source", "Πηγές"_gr, 290000},
@@ -21,17 +21,17 @@ constexpr std::array<Section, 7> kSections{{
 
 }  // namespace
 
-std::span<const Section, 7> sectionTable() { return kSections; }
+std::span<const Section, 7> sectionTable() { return sectionRows; }
 
 const Section* sectionByCode(std::int16_t code) {
-    for (const Section& section : kSections) {
+    for (const Section& section : sectionRows) {
         if (section.code == code) return &section;
     }
     return nullptr;
 }
 
 const Section* sectionByKey(std::string_view key) {
-    for (const Section& section : kSections) {
+    for (const Section& section : sectionRows) {
         if (section.key == key) return &section;
     }
     return nullptr;

@@ -10,7 +10,7 @@ namespace formats {
 struct Section {
     /// 1 to 7, as stored in index files and bookmarks.
     std::int16_t code;
-    /// Names the section's page title file `<key>.dat`.
+    /// The section's page title file is `<key>.dat`.
     std::string_view key;
     /// Shown to the reader; code page 1253.
     std::string_view displayName;
@@ -21,10 +21,10 @@ struct Section {
 /// The sections in the order of their codes.
 std::span<const Section, 7> sectionTable();
 
-/// Null when the code belongs to no section.
+/// The section with this code, null when there is none.
 const Section* sectionByCode(std::int16_t code);
 
-/// Null when the key belongs to no section; keys are compared byte for byte.
+/// The section with this key, null when there is none; compared byte by byte.
 const Section* sectionByKey(std::string_view key);
 
 }  // namespace formats

@@ -11,13 +11,13 @@
 namespace formats {
 
 /// Size of one record of a page title file `<key>.dat`.
-inline constexpr std::size_t kSectionTitleRecordSize = 112;
-/// Longest page title in bytes, without its NUL.
-inline constexpr std::size_t kMaxSectionTitle = 107;
+inline constexpr std::size_t sectionTitleRecordSize = 112;
+/// The maximum length of a page title in bytes, without its NUL.
+inline constexpr std::size_t maxSectionTitle = 107;
 
 /// The title of one page of a section.
 struct SectionTitleRecord {
-    /// Code page 1253, at most `kMaxSectionTitle` bytes, no NUL.
+    /// Code page 1253, at most `maxSectionTitle` bytes, no NUL.
     std::string title;
     std::int32_t pageId = 0;
 

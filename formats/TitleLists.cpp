@@ -7,7 +7,7 @@
 namespace formats {
 namespace {
 
-constexpr std::array<TitleList, 11> kTitleLists{{
+constexpr std::array<TitleList, 11> titleListRows{{
     {1, "elem.ttl"},
     {2, "comp.ttl"},
     {4, "country.ttl"},
@@ -23,10 +23,10 @@ constexpr std::array<TitleList, 11> kTitleLists{{
 
 }  // namespace
 
-std::span<const TitleList> titleListTable() { return kTitleLists; }
+std::span<const TitleList> titleListTable() { return titleListRows; }
 
 std::optional<std::string_view> titleListFile(std::int32_t listNumber) {
-    for (const TitleList& list : kTitleLists) {
+    for (const TitleList& list : titleListRows) {
         if (list.listNumber == listNumber) return list.fileName;
     }
     return std::nullopt;
@@ -34,12 +34,12 @@ std::optional<std::string_view> titleListFile(std::int32_t listNumber) {
 
 std::optional<std::size_t> titleListOffset(std::int32_t entryNumber) {
     if (entryNumber < 1) return std::nullopt;
-    return (static_cast<std::size_t>(entryNumber) - 1) * kTitleListRecordSize;
+    return (static_cast<std::size_t>(entryNumber) - 1) * titleListRecordSize;
 }
 
 std::optional<std::string> decodeEntryTitle(std::string_view bytes) {
-    if (bytes.size() < kTitleListRecordSize) return std::nullopt;
-    return std::string(readTextField(bytes.substr(0, kTitleListRecordSize)));
+    if (bytes.size() < titleListRecordSize) return std::nullopt;
+    return std::string(readTextField(bytes.substr(0, titleListRecordSize)));
 }
 
 std::optional<std::string> entryTitle(std::string_view image, std::int32_t entryNumber) {
@@ -50,10 +50,10 @@ std::optional<std::string> entryTitle(std::string_view image, std::int32_t entry
 
 std::optional<std::string> encodeTitleList(std::span<const std::string> titles) {
     std::string image;
-    image.reserve(titles.size() * kTitleListRecordSize);
+    image.reserve(titles.size() * titleListRecordSize);
     for (const std::string& title : titles) {
-        if (!fitsTextField(title, kTitleListRecordSize)) return std::nullopt;
-        appendTextField(image, title, kTitleListRecordSize);
+        if (!fitsTextField(title, titleListRecordSize)) return std::nullopt;
+        appendTextField(image, title, titleListRecordSize);
     }
     return image;
 }

@@ -11,13 +11,13 @@
 namespace formats {
 
 /// Size of one record of a title list `*.ttl`.
-inline constexpr std::size_t kTitleListRecordSize = 60;
-/// Longest entry title in bytes, without its NUL.
-inline constexpr std::size_t kMaxEntryTitle = 59;
+inline constexpr std::size_t titleListRecordSize = 60;
+/// The maximum length of an entry title in bytes, without its NUL.
+inline constexpr std::size_t maxEntryTitle = 59;
 /// An item code is list number × this + entry number.
-inline constexpr std::int32_t kEntriesPerList = 10'000;
+inline constexpr std::int32_t entriesPerList = 10'000;
 
-/// The file that holds the entry titles of a list number; several numbers may share one file and its
+/// The file with the entry titles of a list. Several lists may share a file; their entries then have one
 /// numbering.
 struct TitleList {
     std::int32_t listNumber;
@@ -27,14 +27,14 @@ struct TitleList {
 /// All list numbers that have a file, ascending.
 std::span<const TitleList> titleListTable();
 
-/// The file name of a list (`elem.ttl`, …). Nothing when the list number has no file.
+/// The file name of a list (`elem.ttl`, …). Nothing when the list has no file.
 std::optional<std::string_view> titleListFile(std::int32_t listNumber);
 
 /// The two parts of an item code; a negative code is divided towards zero.
-constexpr std::int32_t listNumberOf(std::int32_t itemCode) { return itemCode / kEntriesPerList; }
-constexpr std::int32_t entryNumberOf(std::int32_t itemCode) { return itemCode % kEntriesPerList; }
+constexpr std::int32_t listNumberOf(std::int32_t itemCode) { return itemCode / entriesPerList; }
+constexpr std::int32_t entryNumberOf(std::int32_t itemCode) { return itemCode % entriesPerList; }
 
-/// Where the record of entry `entryNumber` (counted from 1) starts in its list. Nothing below 1.
+/// The offset of the record of entry `entryNumber` (from 1) in its list. Nothing for numbers below 1.
 std::optional<std::size_t> titleListOffset(std::int32_t entryNumber);
 
 /// The title in the first record of `bytes`; a title without NUL is cut at the end of its field. Nothing when

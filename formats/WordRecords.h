@@ -11,28 +11,28 @@
 namespace formats {
 
 /// Names of the word search's files in the data folder.
-inline constexpr std::string_view kWordIndexFile = "words.ndx";
-inline constexpr std::string_view kAlternativesFile = "words.alt";
-inline constexpr std::string_view kFirstLettersFile = "words.pr1";
-inline constexpr std::string_view kOccurrencesFile = "words.dat";
+inline constexpr std::string_view wordIndexFile = "words.ndx";
+inline constexpr std::string_view alternativesFile = "words.alt";
+inline constexpr std::string_view firstLettersFile = "words.pr1";
+inline constexpr std::string_view occurrencesFile = "words.dat";
 
 /// Sizes of one record on disk; the records are packed.
-inline constexpr std::size_t kWordIndexRecordSize = 32;
-inline constexpr std::size_t kAlternativeRecordSize = 30;
-inline constexpr std::size_t kFirstLetterRecordSize = 8;
-inline constexpr std::size_t kOccurrenceRecordSize = 43;
+inline constexpr std::size_t wordIndexRecordSize = 32;
+inline constexpr std::size_t alternativeRecordSize = 30;
+inline constexpr std::size_t firstLetterRecordSize = 8;
+inline constexpr std::size_t occurrenceRecordSize = 43;
 
 /// Size of the word's field that begins an occurrence record.
-inline constexpr std::size_t kOccurrenceWordField = 32;
+inline constexpr std::size_t occurrenceWordField = 32;
 
 /// Longest words in bytes, without their NUL.
-inline constexpr std::size_t kMaxIndexedWord = 31;
-inline constexpr std::size_t kMaxAlternative = 25;
+inline constexpr std::size_t maxIndexedWord = 31;
+inline constexpr std::size_t maxAlternative = 25;
 
 /// The records of words with one group id are forms of one word.
 struct AlternativeRecord {
     std::int32_t groupId = 0;
-    /// Code page 1253, at most `kMaxAlternative` bytes, no NUL.
+    /// Code page 1253, at most `maxAlternative` bytes, no NUL.
     std::string word;
 
     bool operator==(const AlternativeRecord&) const = default;
@@ -41,22 +41,22 @@ struct AlternativeRecord {
 /// A letter with which words begin.
 struct FirstLetterRecord {
     char letter = 0;
-    /// Number of the first word in `words.ndx` that begins with the letter, counted from 0, as the content
-    /// compiler writes it; the program does not look at it.
+    /// The index in `words.ndx` of the first word with this letter. The content compiler writes it; the
+    /// program does not use it.
     std::uint32_t firstWord = 0;
 
     bool operator==(const FirstLetterRecord&) const = default;
 };
 
-/// One place at which a word is indexed.
+/// One place in the content where a word occurs.
 struct OccurrenceRecord {
-    /// Code page 1253, at most `kMaxIndexedWord` bytes, no NUL.
+    /// Code page 1253, at most `maxIndexedWord` bytes, no NUL.
     std::string word;
-    /// 0 or less when there is no page to open.
+    /// The page to open; none when it is 0 or less.
     std::int32_t pageId = 0;
     /// 0 for the page itself, otherwise an entry of a title list.
     std::int32_t itemCode = 0;
-    /// 1 to 7; a record of any other section is never shown.
+    /// 1 to 7; records with another section are never shown.
     std::int16_t sectionCode = 0;
 
     bool operator==(const OccurrenceRecord&) const = default;
@@ -66,8 +66,8 @@ struct OccurrenceRecord {
 /// at the end of its field.
 std::vector<std::string> decodeWordIndex(std::string_view image);
 
-/// The two fields of the first record of `bytes`, which the caller has checked to hold one. The word points
-/// into `bytes` and is cut at the end of its field when it has no NUL.
+/// The two fields of the first record of `bytes`, which must hold a whole record. The word points into
+/// `bytes`; without a NUL it is cut at the end of its field.
 std::int32_t alternativeGroup(std::string_view bytes);
 std::string_view alternativeWord(std::string_view bytes);
 

@@ -63,7 +63,7 @@ std::size_t CArchive::loadTextLength() {
     std::uint32_t length = load(1);
     if (length == mediumText) length = load(2);
     if (length == largeTextMark) return load(4);
-    // The one length of two bytes that is never stored: it announces another kind of text.
+    // Storing never writes this length: in the archive form it announces a text in Unicode.
     if (length == largeText) Fail();
     return length;
 }

@@ -14,46 +14,47 @@
 
 namespace platform {
 
-/// Values and objects in the archive form, in memory; docs/formats/bookmarks.md has its bytes. One direction
-/// is chosen with the constructor, and `Exchange` works in either. Loading checks every length against what
-/// is left before it takes memory. What does not fit makes the archive fail: from then on nothing is read.
+/// Stores values and objects as bytes in memory, or loads them from there; docs/formats/bookmarks.md
+/// describes the bytes. The constructor chooses the direction, and `Exchange` works in both. Loading checks
+/// every length against the bytes that are left before it allocates memory. Bytes that do not fit make the
+/// archive fail, and a failed archive loads nothing more.
 class CArchive {
   public:
     using Classes = std::span<const CRuntimeClass* const>;
 
-    /// For storing.
+    /// An archive for storing.
     CArchive() = default;
-    /// For loading objects of these classes; `bytes` and `classes` must outlive the archive.
+    /// An archive for loading objects of these classes; `bytes` and `classes` must outlive it.
     CArchive(std::string_view bytes, Classes classes);
 
-    bool IsStoring() const { return storing_; }
     bool Failed() const { return failed_; }
     void Fail() { failed_ = true; }
-    /// What was stored so far.
+    /// The bytes stored so far.
     const std::string& Stored() const { return stored_; }
     /// How many bytes are left to load.
     std::size_t Remaining() const { return loaded_.size(); }
 
-    /// Stores the values in order, or loads them. Integers are little-endian, of their own size.
+    /// Stores the values in order, or loads them. An integer takes the bytes of its type, little-endian.
     template <class... T>
     void Exchange(T&... values) {
         (exchange(values), ...);
     }
-    /// Stores an array's elements from index `from` on, or loads so many that it has `count` of them; the
-    /// count itself is not in the archive.
+    /// Stores the elements of an array from index `from` on, or loads elements until the array has `count` of
+    /// them. The count itself is not part of it.
     template <class T>
     void ExchangeElements(std::vector<T>& elements, std::size_t count, std::size_t from = 0) {
         if (!storing_ && !makeRoom(elements, count, from)) return;
         for (std::size_t i = from; i < elements.size(); ++i) exchange(elements[i]);
     }
 
-    /// A number of elements: two bytes, or six for a large one.
+    /// A number of elements: in two bytes, or in six from 65535 on.
     void StoreCount(std::size_t count);
     std::size_t LoadCount();
 
-    /// An object with the tag of its class.
+    /// Stores an object, after a tag that names its class.
     void StoreObject(CObject& object);
-    /// Null after a failure. An object that is missing or was stored earlier is a failure too.
+    /// The next object, null after a failure. A tag that stands for no object or for one stored earlier is a
+    /// failure: the program stores neither.
     std::unique_ptr<CObject> LoadObject();
 
   private:
@@ -93,7 +94,8 @@ class CArchive {
     std::string stored_;
     std::string_view loaded_;
     Classes classes_;
-    /// Classes and objects are numbered together as they come; an object's number is never asked for.
+    /// Classes and objects are numbered together, in the order in which they come. Only the numbers of
+    /// classes are ever looked up.
     std::uint32_t nextIndex_ = 1;
     std::map<std::uint32_t, const CRuntimeClass*> classOfIndex_;
     std::map<const CRuntimeClass*, std::uint32_t> indexOfClass_;

@@ -9,10 +9,10 @@
 
 namespace platform {
 
-/// The ids of the buttons that every dialog knows, and what DoModal returns for them.
+/// Ids of the buttons that every dialog knows; DoModal returns them.
 inline constexpr int IDOK = 1;
 inline constexpr int IDCANCEL = 2;
-/// The id of controls that nobody asks for.
+/// The id of controls that nobody refers to.
 inline constexpr int IDC_STATIC = -1;
 
 enum class DialogControlKind {
@@ -32,21 +32,21 @@ enum class DialogControlKind {
 struct DialogControl {
     DialogControlKind kind = DialogControlKind::staticText;
     int id = IDC_STATIC;
-    CRect rect{};  ///< dialog units; a bitmap takes its own size instead
-    /// Code page 1253; for kinds that show no text, what screen readers call the control.
+    CRect rect{};  ///< dialog units; the size of a bitmap control is that of its picture
+    /// Code page 1253. If the kind of control shows no text, this is its name for screen readers.
     std::string_view text{};
     UINT bitmap = 0;  ///< resource id, for bitmaps only
     DWORD style = WS_VISIBLE | WS_TABSTOP;
 };
 
-/// What stands around a dialog's client area.
+/// The frame around a dialog's client area.
 enum class DialogFrame {
     window,  ///< the window system's frame with its caption
-    tool,    ///< a thin frame and a small caption with a close box, as of a box of tools
-    plain,   ///< two pixels and no caption; before all windows, without a focus
+    tool,    ///< a thin frame and a small caption with a close box, as tool boxes have
+    plain,   ///< two pixels and no caption; always on top, never with the focus
 };
 
-/// A dialog as it is drawn up: its controls in the order of the tabulator.
+/// The description of a dialog. The controls are in the order of the tabulator.
 struct DialogTemplate {
     UINT id = 0;
     std::string_view caption;  ///< code page 1253
@@ -55,10 +55,11 @@ struct DialogTemplate {
     DialogFrame frame = DialogFrame::window;
 };
 
-/// Pixels of one dialog unit times 4 across and times 8 down: the letters of "MS Sans Serif" of 8 points.
+/// The size of 4 horizontal and 8 vertical dialog units in pixels: that of an average letter of "MS Sans
+/// Serif", 8 points.
 inline constexpr CSize dialogBaseUnits{6, 13};
 
-/// a × b ÷ c for a positive c, rounded to the nearest, halves away from zero.
+/// a × b ÷ c for a positive c, rounded to the nearest integer, halves away from zero.
 constexpr int MulDiv(int a, int b, int c) {
     const auto product = static_cast<long long>(a) * b;
     return static_cast<int>((product < 0 ? product - c / 2 : product + c / 2) / c);
@@ -69,7 +70,7 @@ constexpr CSize dialogPixels(CSize units) {
     return {MulDiv(units.cx, dialogBaseUnits.cx, 4), MulDiv(units.cy, dialogBaseUnits.cy, 8)};
 }
 
-/// A rectangle in dialog units as pixels: corner and size each for itself.
+/// A rectangle in dialog units as pixels. Corner and size are converted separately.
 constexpr CRect dialogPixels(const CRect& units) {
     const CSize corner = dialogPixels(CSize{units.left, units.top});
     const CSize size = dialogPixels(CSize{units.Width(), units.Height()});

@@ -18,7 +18,7 @@ struct CSize {
     friend bool operator==(const CSize&, const CSize&) = default;
 };
 
-/// A rectangle in pixels; right and bottom lie just outside.
+/// A rectangle in pixels. `right` and `bottom` are just outside it.
 struct CRect {
     int left = 0;
     int top = 0;
@@ -38,7 +38,7 @@ struct CRect {
     friend bool operator==(const CRect&, const CRect&) = default;
 };
 
-/// A colour as the red, green and blue bytes from the lowest byte upwards.
+/// A colour: red in the lowest byte, then green, then blue.
 using COLORREF = unsigned;
 
 constexpr COLORREF RGB(unsigned red, unsigned green, unsigned blue) {

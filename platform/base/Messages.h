@@ -6,7 +6,7 @@
 
 namespace platform {
 
-/// A window, as a number that indexes the window table; 0 is no window. It fits the 32 bits that
+/// A handle of a window: its number in the window table; 0 is no window. It fits into the 32 bits that
 /// automation calls and message parameters carry.
 using HWND = std::int32_t;
 using UINT = std::uint32_t;
@@ -15,7 +15,7 @@ using WPARAM = std::uintptr_t;
 using LPARAM = std::intptr_t;
 using LRESULT = std::intptr_t;
 
-/// Window messages, under their published numbers.
+/// Window messages, with their published numbers.
 inline constexpr UINT WM_CREATE = 0x0001;
 inline constexpr UINT WM_DESTROY = 0x0002;
 inline constexpr UINT WM_SIZE = 0x0005;
@@ -45,7 +45,7 @@ inline constexpr UINT SIZE_RESTORED = 0;
 inline constexpr UINT SIZE_MINIMIZED = 1;
 inline constexpr UINT SIZE_MAXIMIZED = 2;
 
-/// Window styles that the program uses, under their published values.
+/// Window styles that the program uses, with their published values.
 inline constexpr DWORD WS_CHILD = 0x40000000;
 inline constexpr DWORD WS_VISIBLE = 0x10000000;
 inline constexpr DWORD WS_BORDER = 0x00800000;
@@ -67,7 +67,7 @@ inline constexpr unsigned VK_UP = 38;
 inline constexpr unsigned VK_RIGHT = 39;
 inline constexpr unsigned VK_DOWN = 40;
 
-/// A message on its way to a window.
+/// A message to a window.
 struct MSG {
     HWND hwnd = 0;
     UINT message = 0;

@@ -9,15 +9,14 @@ namespace platform {
 class CArchive;
 class CObject;
 
-/// Name of a class and how to make an object of it.
+/// The name of a class, and how to make an object of it.
 struct CRuntimeClass {
     std::string_view name;
-    std::unique_ptr<CObject> (*create)() = nullptr;  ///< null for a class that is not made by name
-    std::uint16_t schema =
-        0;  ///< version of the form that its objects have in an archive; 0 when they have none
+    std::unique_ptr<CObject> (*create)() = nullptr;  ///< null if objects are not made by name
+    std::uint16_t schema = 0;  ///< version of its objects' form in archives; 0 if they are not stored
 };
 
-/// Base of the classes that tell their own name.
+/// Base of the classes that know their run-time class.
 class CObject {
   public:
     CObject() = default;
@@ -25,9 +24,9 @@ class CObject {
     CObject& operator=(const CObject&) = delete;
     virtual ~CObject() = default;
     virtual const CRuntimeClass& GetRuntimeClass() const;
-    /// Whether the object is of this very class.
+    /// Whether the object is of exactly this class.
     bool IsKindOf(const CRuntimeClass& runtimeClass) const { return &GetRuntimeClass() == &runtimeClass; }
-    /// Stores the object's content or loads it, as the archive's direction says.
+    /// Stores or loads the object's content, according to the archive's direction.
     virtual void Serialize(CArchive&) {}
 };
 

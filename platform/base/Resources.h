@@ -39,18 +39,18 @@ struct CursorResource {
     CPoint hotSpot;
 };
 
-/// The program's resources. Bitmaps and cursors lie in the executable under `:/bitmap/ID.png`,
+/// The program's resources. Bitmaps, cursors and icons are files in the executable: `:/bitmap/ID.png`,
 /// `:/cursor/ID.png` and `:/icon/NAME-SIZE.png`.
 struct ResourceTable {
     std::span<const Menu> menu;
     std::span<const Accelerator> accelerators;
     std::span<const StringResource> strings;
     std::span<const CursorResource> cursors;
-    std::string_view iconName;
+    std::string_view iconName;  ///< NAME of the icon files, and of the program's entry on the desktop
     std::span<const DialogTemplate> dialogs{};
 };
 
-/// Makes the table known to the platform; before any window exists.
+/// Sets the program's resources; called before any window exists.
 void SetResources(const ResourceTable& table);
 const ResourceTable& Resources();
 /// The text of a string resource, empty when there is none.

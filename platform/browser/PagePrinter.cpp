@@ -10,6 +10,7 @@
 #include <string>
 #include <utility>
 
+#include "platform/machine/Machine.h"
 #include "platform/printing/PrintJob.h"
 #include "platform/text/CodePage1253.h"
 
@@ -44,7 +45,7 @@ PagePrinter::PagePrinter(QWebEngineView& view) : QObject(&view), view_(view) {
 PagePrinter::~PagePrinter() = default;
 
 void PagePrinter::print() {
-    if (printing_ || printer_ || !hasPrinter()) return;
+    if (printing_ || printer_ || !machine().printer()) return;
     if (!nextPrintFile().empty()) return printToFile({}, kPaper, {});
     auto printer = choosePrinter(*view_.window());
     if (!printer) return;

@@ -11,10 +11,11 @@ using namespace literals;
 
 namespace {
 
-/// An edit of the dialog while a value is looked at, without taking it from an object that is bound to it.
+/// Calls `use` with the edit of the last exchanged text: with the object that is bound to it, or with a
+/// temporary one.
 template <class Use>
 void withEdit(const CDataExchange& exchange, Use use) {
-    ControlLink* const link = ControlLink::of(exchange.dialog().GetDlgItem(exchange.m_nLastText));
+    ControlLink* const link = ControlLink::of(exchange.Dialog().GetDlgItem(exchange.LastText()));
     if (!link) return;
     if (auto* const bound = dynamic_cast<CEdit*>(link->object())) return use(*bound);
     if (link->object()) return;
@@ -27,29 +28,29 @@ void withEdit(const CDataExchange& exchange, Use use) {
 }  // namespace
 
 void CDataExchange::Fail() {
-    m_bValid = false;
-    m_dialog.GotoDlgCtrl(m_nLastText);
+    valid_ = false;
+    dialog_.GotoDlgCtrl(lastText_);
     withEdit(*this, [](CEdit& edit) { edit.SetSel(0, -1); });
 }
 
 void DDX_Control(CDataExchange& exchange, int id, CControl& control) {
-    ControlLink* const link = ControlLink::of(exchange.dialog().GetDlgItem(id));
-    if (link && !control.bound()) link->bind(control);
+    ControlLink* const link = ControlLink::of(exchange.Dialog().GetDlgItem(id));
+    if (link && !control.Bound()) link->bind(control);
 }
 
 void DDX_Text(CDataExchange& exchange, int id, std::string& text) {
-    if (!exchange.valid()) return;
-    exchange.m_nLastText = id;
-    if (exchange.saving()) {
-        text = exchange.dialog().GetDlgItemText(id);
+    if (!exchange.Valid()) return;
+    exchange.SetLastText(id);
+    if (exchange.Saving()) {
+        text = exchange.Dialog().GetDlgItemText(id);
     } else {
-        exchange.dialog().SetDlgItemText(id, text);
+        exchange.Dialog().SetDlgItemText(id, text);
     }
 }
 
 void DDV_MaxChars(CDataExchange& exchange, const std::string& text, int length) {
-    if (!exchange.valid()) return;
-    if (!exchange.saving()) return withEdit(exchange, [=](CEdit& edit) { edit.LimitText(length); });
+    if (!exchange.Valid()) return;
+    if (!exchange.Saving()) return withEdit(exchange, [=](CEdit& edit) { edit.LimitText(length); });
     if (text.size() <= static_cast<std::size_t>(length)) return;
     AfxMessageBox(std::string("Πληκτρολογήστε το πολύ "_gr) + std::to_string(length) +
                   std::string(" χαρακτήρες."_gr));

@@ -7,32 +7,36 @@
 
 namespace platform {
 
-/// One run of a dialog's DoDataExchange. After the first value that is not valid the others are left alone.
+/// One exchange of values between a dialog and its members, by DoDataExchange. After the first invalid value
+/// the others are left alone.
 class CDataExchange {
   public:
-    CDataExchange(CDialog& dialog, bool save) : m_dialog(dialog), m_bSave(save) {}
+    CDataExchange(CDialog& dialog, bool save) : dialog_(dialog), saving_(save) {}
 
-    CDialog& dialog() const { return m_dialog; }
-    /// From the controls to the members; false is the other way.
-    bool saving() const { return m_bSave; }
-    bool valid() const { return m_bValid; }
+    CDialog& Dialog() const { return dialog_; }
+    /// Whether values go from the controls to the members; otherwise they go from the members to the
+    /// controls.
+    bool Saving() const { return saving_; }
+    bool Valid() const { return valid_; }
 
-    /// The control of the last text exchanged.
-    int m_nLastText = 0;
-    /// Gives that control the focus, its text selected, and ends the run.
+    /// The control of the text that is exchanged last.
+    void SetLastText(int id) { lastText_ = id; }
+    int LastText() const { return lastText_; }
+    /// Ends the exchange: that control gets the focus, with its text selected.
     void Fail();
 
   private:
-    CDialog& m_dialog;
-    bool m_bSave;
-    bool m_bValid = true;
+    CDialog& dialog_;
+    bool saving_;
+    bool valid_ = true;
+    int lastText_ = 0;
 };
 
-/// Makes `control` the object of the dialog's control of this id, at the first exchange.
+/// Makes `control` the object of the dialog's control with this id, in the first exchange.
 void DDX_Control(CDataExchange& exchange, int id, CControl& control);
 void DDX_Text(CDataExchange& exchange, int id, std::string& text);
-/// Keeps the text just exchanged to so many characters: typing stops there, and a longer text is not valid,
-/// about which the user is told.
+/// Limits the text that was just exchanged to `length` characters: typing stops there, and a longer text is
+/// invalid, which the user is told.
 void DDV_MaxChars(CDataExchange& exchange, const std::string& text, int length);
 
 }  // namespace platform

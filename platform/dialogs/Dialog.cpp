@@ -44,25 +44,25 @@ const MessageMap* CDialog::GetMessageMap() const {
 }
 
 int CDialog::DoModal() {
-    const DialogTemplate* const drawnUp = findTemplate(m_nTemplate);
-    if (!drawnUp || GetSafeHwnd() != 0) return noDialog;
-    m_nResult = IDCANCEL;
-    m_bModeless = false;
+    const DialogTemplate* const description = findTemplate(templateId_);
+    if (!description || GetSafeHwnd() != 0) return noDialog;
+    result_ = IDCANCEL;
+    modeless_ = false;
     const QPointer<QWidget> owner = ownerWindow();
-    auto& widget = makeQtChild<DialogWidget>(*this, *drawnUp, owner.data());
+    auto& widget = makeQtChild<DialogWidget>(*this, *description, owner.data());
     if (OnInitDialog()) widget.focusFirstControl();
     widget.runModal();
     DestroyWindow();
     if (owner) owner->activateWindow();
-    return m_nResult;
+    return result_;
 }
 
 bool CDialog::Create(CWnd* owner) {
-    const DialogTemplate* const drawnUp = findTemplate(m_nTemplate);
-    if (!drawnUp || GetSafeHwnd() != 0) return false;
-    m_bModeless = true;
+    const DialogTemplate* const description = findTemplate(templateId_);
+    if (!description || GetSafeHwnd() != 0) return false;
+    modeless_ = true;
     const WindowWidget* const around = owner ? WindowWidget::of(*owner) : nullptr;
-    auto& widget = makeQtChild<DialogWidget>(*this, *drawnUp, around ? around->window() : nullptr);
+    auto& widget = makeQtChild<DialogWidget>(*this, *description, around ? around->window() : nullptr);
     CREATESTRUCT cs;
     if (widget.send(WM_CREATE, 0, reinterpret_cast<LPARAM>(&cs)) == -1) {
         DestroyWindow();
@@ -75,9 +75,9 @@ bool CDialog::Create(CWnd* owner) {
 void CDialog::EndDialog(int result) {
     auto* const widget = dynamic_cast<DialogWidget*>(WindowWidget::of(*this));
     if (!widget) return;
-    m_nResult = result;
+    result_ = result;
     widget->finish();
-    if (m_bModeless) ShowWindow(SW_HIDE);
+    if (modeless_) ShowWindow(SW_HIDE);
 }
 
 void CDialog::SetDlgItemText(int id, std::string_view text) {
@@ -113,7 +113,7 @@ void CDialog::GotoDlgCtrl(int id) {
 bool CDialog::UpdateData(bool save) {
     CDataExchange exchange(*this, save);
     DoDataExchange(exchange);
-    return exchange.valid();
+    return exchange.Valid();
 }
 
 bool CDialog::OnInitDialog() {

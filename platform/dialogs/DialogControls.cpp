@@ -34,7 +34,7 @@ QWidget& makeButton(const DialogControl& control, QWidget& dialog) {
     return entered(ControlLink::enter(*button, "Button", control.id));
 }
 
-/// Draws check boxes low enough for the height of a line of text, which is all that templates give them.
+/// Draws check boxes small enough for the height of a line of text; templates give them no more.
 class LowIndicator : public QProxyStyle {
   public:
     explicit LowIndicator(QWidget& box) { setParent(&box); }
@@ -56,7 +56,7 @@ QWidget& makeCheckBox(const DialogControl& control, QWidget& dialog) {
 
 QWidget& makeLabel(const DialogControl& control, QWidget& dialog) {
     auto& label = makeQtChild<QLabel>(&dialog);
-    // A click on it is one on the dialog.
+    // A click on a label is a click on the dialog.
     label.setAttribute(Qt::WA_TransparentForMouseEvents);
     if (control.kind == DialogControlKind::bitmap) {
         label.setPixmap(QPixmap::fromImage(artworkImage(QStringLiteral(":/bitmap/%1").arg(control.bitmap))));
@@ -93,7 +93,7 @@ QWidget& makeControl(const DialogControl& control, QWidget& dialog) {
     return makeLabel(control, dialog);
 }
 
-/// Whether it shows no text that says what it is for.
+/// Whether the control shows no text that says what it is for.
 bool needsName(DialogControlKind kind) {
     using enum DialogControlKind;
     return kind == edit || kind == listBox || kind == comboBox || kind == listView || kind == treeView;
@@ -102,7 +102,7 @@ bool needsName(DialogControlKind kind) {
 void prepare(const DialogControl& control, QWidget& widget) {
     QRect place = toQt(dialogPixels(control.rect));
     if (control.kind == DialogControlKind::bitmap) place.setSize(widget.sizeHint());
-    // Its list drops down from a box of one line, however high the template draws it.
+    // A closed drop-down list is as high as one line. The height in the template includes the open list.
     if (control.kind == DialogControlKind::comboBox) place.setHeight(widget.sizeHint().height());
     widget.setGeometry(place);
     widget.setVisible(control.style & WS_VISIBLE);

@@ -17,7 +17,7 @@ namespace platform {
 
 namespace {
 
-/// As high as the letters of which the dialog units are made.
+/// The size of the letters that define the dialog units.
 constexpr int fontPixels = 11;
 
 QMargins frameByMetrics() {
@@ -32,7 +32,8 @@ Qt::WindowFlags windowFlagsOf(DialogFrame frame) {
         case DialogFrame::tool:
             return Qt::Tool | Qt::FramelessWindowHint;
         case DialogFrame::plain:
-            // A click has some window managers raise it, also before the dialogs that belong to it.
+            // Some window managers raise the window when it is clicked, even in front of its own dialogs. So
+            // it takes no input.
             return Qt::SplashScreen | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
                    Qt::WindowDoesNotAcceptFocus | Qt::WindowTransparentForInput;
         case DialogFrame::window:
@@ -43,17 +44,17 @@ Qt::WindowFlags windowFlagsOf(DialogFrame frame) {
 
 }  // namespace
 
-DialogWidget::DialogWidget(CDialog& owner, const DialogTemplate& drawnUp, QWidget* parent)
-    : SurfaceWidget(owner, parent, 0), frame_(*this, drawnUp.frame) {
-    setWindowFlags(windowFlagsOf(drawnUp.frame));
-    stayBefore(*this, parent);
-    // Who opens a box of tools goes on where he is.
-    setAttribute(Qt::WA_ShowWithoutActivating, drawnUp.frame != DialogFrame::window);
-    setWindowTitle(toQt(drawnUp.caption));
+DialogWidget::DialogWidget(CDialog& owner, const DialogTemplate& description, QWidget* parent)
+    : SurfaceWidget(owner, parent, 0), frame_(*this, description.frame) {
+    setWindowFlags(windowFlagsOf(description.frame));
+    stayInFrontOf(*this, parent);
+    // A user who opens a tool box wants to go on working in the window below.
+    setAttribute(Qt::WA_ShowWithoutActivating, description.frame != DialogFrame::window);
+    setWindowTitle(toQt(description.caption));
     setPalette(lightPalette());
     setFont(programFont(fontPixels));
-    createControls(drawnUp.controls, *this);
-    const CSize client = dialogPixels(drawnUp.size);
+    createControls(description.controls, *this);
+    const CSize client = dialogPixels(description.size);
     setFixedSize(QSize(client.cx, client.cy).grownBy(frame_.margins()));
     centre();
 }
@@ -85,7 +86,7 @@ void DialogWidget::place(const QRect& rect) {
 void DialogWidget::showAs(int showCommand) {
     const bool leaves = showCommand == SW_HIDE && isActiveWindow() && parentWidget();
     SurfaceWidget::showAs(showCommand);
-    // The window behind goes on, not just any of the desktop's.
+    // Otherwise the window system may activate a window of another program.
     if (leaves) parentWidget()->activateWindow();
 }
 
@@ -119,11 +120,11 @@ void DialogWidget::end() {
 }
 
 bool DialogWidget::event(QEvent* event) {
-    // A browser in the dialog may have Qt make the native window anew, and show it before it is modal again.
+    // A browser in the dialog may make Qt replace the native window, and show it before it is modal again.
     if (event->type() == QEvent::WinIdChange && loop_ && windowHandle()) {
         windowHandle()->setModality(Qt::ApplicationModal);
     }
-    return frame_.takes(*event) || SurfaceWidget::event(event);
+    return frame_.handle(*event) || SurfaceWidget::event(event);
 }
 
 void DialogWidget::paintEvent(QPaintEvent* event) {
@@ -132,7 +133,7 @@ void DialogWidget::paintEvent(QPaintEvent* event) {
 }
 
 void DialogWidget::closeEvent(QCloseEvent* event) {
-    // The program decides whether and when the window goes.
+    // The program decides whether and when the window is destroyed.
     event->ignore();
     send(WM_CLOSE);
 }

@@ -10,24 +10,24 @@ namespace platform {
 
 class CDialog;
 
-/// The window of a dialog, with its controls.
+/// The widget of a dialog's window, with its controls.
 class DialogWidget : public SurfaceWidget {
   public:
-    /// Makes it hidden, in the middle of `parent`, or of the screen when there is none.
-    DialogWidget(CDialog& owner, const DialogTemplate& drawnUp, QWidget* parent);
+    /// Makes the widget, hidden, in the middle of `parent`, or of the screen for null.
+    DialogWidget(CDialog& owner, const DialogTemplate& description, QWidget* parent);
     ~DialogWidget() override;
 
     QRect clientArea() const override { return rect().marginsRemoved(frame_.margins()); }
-    /// With a frame as wide and a caption as high as the metrics say, whatever the window system draws: so
-    /// the client area is as large as the program reckons.
+    /// The rectangle with a frame and a caption in the sizes that the machine's metrics give, whatever the
+    /// window system draws. So the client area is as large as the program expects.
     QRect outerRect() const override;
-    /// `rect` is the outer rectangle in that sense.
+    /// Moves and sizes the window; `rect` is an outer rectangle in the sense of `outerRect`.
     void place(const QRect& rect) override;
     void showAs(int showCommand) override;
 
     void focusFirstControl();
-    /// Shows the window, before which no other takes input, until `finish` is called or the window ends. The
-    /// widget itself may be gone then.
+    /// Shows the window, and lets no other window take input, until `finish` is called or the window ends.
+    /// The widget may be destroyed when this returns.
     void runModal();
     void finish();
     void end() override;
@@ -39,7 +39,7 @@ class DialogWidget : public SurfaceWidget {
 
   private:
     void centre();
-    /// What the window system draws around it, by the metrics.
+    /// The frame that the window system draws, according to the metrics.
     QMargins windowFrame() const;
 
     DrawnFrame frame_;

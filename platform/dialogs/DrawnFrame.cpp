@@ -14,7 +14,7 @@ namespace platform {
 namespace {
 
 constexpr int plainBorder = 2;
-/// The close box, from the right end of the caption.
+/// The close box, at the right end of the caption.
 constexpr QSize boxSize(15, 12);
 constexpr int boxDistance = 2;
 
@@ -77,7 +77,7 @@ void DrawnFrame::paintCaption() const {
     painter.drawLine(middle + QPointF(-arm, arm), middle + QPointF(arm, -arm));
 }
 
-bool DrawnFrame::takes(QEvent& event) {
+bool DrawnFrame::handle(QEvent& event) {
     if (kind_ == DialogFrame::window || !isMouseEvent(event.type())) return false;
     auto& mouse = static_cast<QMouseEvent&>(event);
     const bool held = grab_ || closing_;

@@ -13,19 +13,19 @@ class QWidget;
 
 namespace platform {
 
-/// The frame of a dialog whose template gives it one that the window system has not: drawn by the dialog
-/// itself, so that the client area is of the same size on every desktop. Nothing for DialogFrame::window.
+/// The frame of a dialog that draws its frame itself, so that its client area has the same size on every
+/// desktop. Does nothing for DialogFrame::window.
 class DrawnFrame {
   public:
     DrawnFrame(QWidget& window, DialogFrame kind);
 
-    /// How much of the window it takes.
+    /// The sizes of the frame on each side.
     QMargins margins() const;
-    /// Draws it; during a paint event of the window.
+    /// Draws the frame, during a paint event of the window.
     void paint() const;
-    /// Whether a mouse event of the window was for the frame: its caption moves the window, its close box
-    /// closes it.
-    bool takes(QEvent& event);
+    /// Handles a mouse event of the window if it is for the frame: dragging the caption moves the window, and
+    /// a click on the close box closes it. False when the event is not for the frame.
+    bool handle(QEvent& event);
 
   private:
     QRect caption() const;
@@ -37,7 +37,7 @@ class DrawnFrame {
 
     QWidget& window_;
     DialogFrame kind_;
-    std::optional<QPoint> grab_;  ///< where in the window the caption is held
+    std::optional<QPoint> grab_;  ///< where the caption is held, in the window's coordinates
     bool closing_ = false;        ///< the close box is held down
 };
 

@@ -38,10 +38,10 @@ QString buttonText(BoxAnswer answer) {
 /// Shows the box and waits for the user. Closing it without a button counts as its last button.
 BoxAnswer show(std::string_view text, std::string_view caption, const std::vector<BoxAnswer>& buttons,
                BoxIcon icon) {
-    // On the heap: the window it belongs to may go while the box is up.
+    // On the heap: the owner window may destroy the box while it is shown.
     auto box = std::make_unique<QMessageBox>(ownerWindow());
     const QPointer<QMessageBox> alive = box.get();
-    stayBefore(*box, box->parentWidget());
+    stayInFrontOf(*box, box->parentWidget());
     box->setPalette(lightPalette());
     box->setWindowTitle(toQt(caption));
     if (icon == BoxIcon::question) box->setIcon(QMessageBox::Question);

@@ -10,10 +10,11 @@ namespace platform {
 enum class BoxButtons { ok, yesNo };
 enum class BoxIcon { none, question };
 
-/// A plain message box with the application's title; `text` in code page 1253. When the machine has answers
-/// ready, nothing is shown and the next one is taken. Either way the box is recorded in the trace.
+/// Shows a message box with the program's name as its caption; `text` is code page 1253. If the machine has
+/// prepared answers, the box is not shown and the next answer is taken. The trace records the box in either
+/// case.
 BoxAnswer AfxMessageBox(std::string_view text, BoxButtons buttons = BoxButtons::ok);
-/// The same with a caption of its own, code page 1253.
+/// The same with another caption, code page 1253.
 BoxAnswer MessageBox(std::string_view text, std::string_view caption, BoxButtons buttons = BoxButtons::ok,
                      BoxIcon icon = BoxIcon::none);
 

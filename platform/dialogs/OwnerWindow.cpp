@@ -9,7 +9,7 @@ namespace platform {
 
 namespace {
 
-/// The first window on show that has the flags; null when there is none.
+/// The first visible window that has the flags; null when there is none.
 QWidget* firstOnShow(Qt::WindowFlags flags) {
     const WindowTable& table = WindowTable::instance();
     for (const HWND window : table.all()) {
@@ -23,17 +23,17 @@ QWidget* firstOnShow(Qt::WindowFlags flags) {
 }  // namespace
 
 QWidget* ownerWindow() {
-    // What belongs to another window would be behind it.
+    // A dialog of another window would be behind it.
     if (QWidget* const top = firstOnShow(Qt::WindowStaysOnTopHint)) return top;
     if (QWidget* const active = QApplication::activeWindow()) {
-        // A box of tools only floats before the window that it serves.
+        // A tool box is no owner; the window that it belongs to is.
         const bool serves = active->windowType() == Qt::Tool && active->parentWidget();
         return serves ? active->parentWidget()->window() : active;
     }
     return firstOnShow({});
 }
 
-void stayBefore(QWidget& window, const QWidget* owner) {
+void stayInFrontOf(QWidget& window, const QWidget* owner) {
     if (owner && owner->windowFlags() & Qt::WindowStaysOnTopHint) {
         window.setWindowFlag(Qt::WindowStaysOnTopHint);
     }

@@ -4,12 +4,12 @@ class QWidget;
 
 namespace platform {
 
-/// The window before which a dialog or box stands: one that stays on top, else the active one, else the first
-/// that is on show, else none.
+/// The owner for a new dialog or box: a window that stays on top, else the active window, else the first
+/// visible one; null if there is none.
 QWidget* ownerWindow();
 
-/// Has a window that is not shown yet stay on top if its owner does: not every window manager keeps it before
-/// such an owner otherwise.
-void stayBefore(QWidget& window, const QWidget* owner);
+/// Makes a window that is not shown yet stay on top if its owner does. Some window managers would keep it
+/// behind such an owner.
+void stayInFrontOf(QWidget& window, const QWidget* owner);
 
 }  // namespace platform

@@ -23,7 +23,7 @@ constexpr std::uint64_t redrawAfter = 50;
 constexpr int wholeBar = 1000;
 constexpr int boxWidth = 360;
 
-/// Before there is a machine, by the host's own clock.
+/// By the machine's clock, or by the host's if there is no machine yet.
 std::uint64_t milliseconds() {
     if (hasMachine()) return machine().milliseconds();
     const auto now = std::chrono::steady_clock::now().time_since_epoch();
@@ -32,11 +32,11 @@ std::uint64_t milliseconds() {
 
 }  // namespace
 
-/// The box on the screen.
+/// The box that the user sees.
 class CProgress::Box {
   public:
     explicit Box(const std::string& what) : dialog_(std::make_unique<QProgressDialog>(ownerWindow())) {
-        stayBefore(*dialog_, dialog_->parentWidget());
+        stayInFrontOf(*dialog_, dialog_->parentWidget());
         dialog_->setPalette(lightPalette());
         dialog_->setWindowTitle(toQt(LoadString(AFX_IDS_APP_TITLE)));
         dialog_->setLabelText(toQt(what));
@@ -53,7 +53,7 @@ class CProgress::Box {
     Box(const Box&) = delete;
     Box& operator=(const Box&) = delete;
 
-    /// Whether to go on.
+    /// Shows the progress from time to time; false when the user has cancelled.
     bool show(std::uint64_t done, std::uint64_t total) {
         const std::uint64_t now = milliseconds();
         if (now < drawn_ + redrawAfter) return true;
@@ -70,29 +70,29 @@ class CProgress::Box {
     std::uint64_t drawn_ = 0;
 };
 
-CProgress::CProgress(std::string_view what) : m_what(what), m_nBegin(milliseconds()) {}
+CProgress::CProgress(std::string_view what) : what_(what), begin_(milliseconds()) {}
 
 CProgress::~CProgress() = default;
 
 bool CProgress::goOn(std::uint64_t done, std::uint64_t total) {
-    if (m_bCancelled) return false;
-    const std::uint64_t passed = milliseconds() - m_nBegin;
-    if (passed >= cursorAfter && !m_cursor) m_cursor.emplace();
-    if (passed >= boxAfter && !m_bAsked) ask();
-    if (m_box) m_bCancelled = !m_box->show(done, total);
-    return !m_bCancelled;
+    if (cancelled_) return false;
+    const std::uint64_t passed = milliseconds() - begin_;
+    if (passed >= cursorAfter && !cursor_) cursor_.emplace();
+    if (passed >= boxAfter && !asked_) ask();
+    if (box_) cancelled_ = !box_->show(done, total);
+    return !cancelled_;
 }
 
 void CProgress::ask() {
-    m_bAsked = true;
+    asked_ = true;
     const std::vector<BoxAnswer> buttons = {BoxAnswer::ok, BoxAnswer::cancel};
     const std::optional<BoxAnswer> ready = hasMachine() ? machine().nextAnswer(buttons) : std::nullopt;
     if (!ready) {
-        m_box = std::make_unique<Box>(m_what);
+        box_ = std::make_unique<Box>(what_);
         return;
     }
-    machine().trace().record(TraceBox{m_what, std::string(LoadString(AFX_IDS_APP_TITLE)), buttons, *ready});
-    m_bCancelled = *ready == BoxAnswer::cancel;
+    machine().trace().record(TraceBox{what_, std::string(LoadString(AFX_IDS_APP_TITLE)), buttons, *ready});
+    cancelled_ = *ready == BoxAnswer::cancel;
 }
 
 }  // namespace platform

@@ -6,29 +6,29 @@
 #include <string_view>
 
 #include "platform/files/ProgressStep.h"
-#include "platform/windows/Wnd.h"
+#include "platform/windows/Cursor.h"
 
 namespace platform {
 
-/// Stands around an operation that may be long. After half a second it shows the wait cursor; after two a box
-/// that tells how far the operation is and takes no input but to cancel it. What the operation does in
-/// between steps is neither seen nor disturbed by the user: nothing else takes input meanwhile.
+/// Shows the progress of an operation that may take long: after half a second the wait cursor, after two
+/// seconds a box that shows how far the operation is and in which the user can cancel it. No other window
+/// takes input meanwhile, so the user cannot disturb the operation.
 ///
-/// Where message boxes are answered from the machine's queue, the box is: by `ok`, which lets the operation
-/// go on, or `cancel`.
+/// If message boxes take prepared answers, the box is not shown but answered: by `ok`, which lets the
+/// operation go on, or by `cancel`.
 class CProgress {
   public:
-    /// `what` is the operation's name in code page 1253, for the user.
+    /// `what` names the operation for the user, in code page 1253.
     explicit CProgress(std::string_view what);
     ~CProgress();
     CProgress(const CProgress&) = delete;
     CProgress& operator=(const CProgress&) = delete;
 
-    /// For the operation to call, as often as it likes, while this lives.
+    /// The operation calls this as often as it likes, during the lifetime of this object.
     ProgressStep Step() {
         return [this](std::uint64_t done, std::uint64_t total) { return goOn(done, total); };
     }
-    bool Cancelled() const { return m_bCancelled; }
+    bool Cancelled() const { return cancelled_; }
 
   private:
     class Box;
@@ -36,12 +36,12 @@ class CProgress {
     bool goOn(std::uint64_t done, std::uint64_t total);
     void ask();
 
-    std::string m_what;
-    std::uint64_t m_nBegin;
-    std::optional<CWaitCursor> m_cursor;
-    std::unique_ptr<Box> m_box;
-    bool m_bAsked = false;
-    bool m_bCancelled = false;
+    std::string what_;
+    std::uint64_t begin_;
+    std::optional<CWaitCursor> cursor_;
+    std::unique_ptr<Box> box_;
+    bool asked_ = false;
+    bool cancelled_ = false;
 };
 
 }  // namespace platform

@@ -6,7 +6,7 @@
 #include <QGuiApplication>
 #include <QResource>
 
-#include "platform/drawing/DC.h"
+#include "platform/drawing/Bitmap.h"
 
 namespace platform {
 
@@ -27,7 +27,7 @@ QImage pngImage(const QString& resource) {
     if (!png_image_begin_read_from_memory(&source, bytes.constData(), static_cast<std::size_t>(bytes.size())))
         return {};
     const bool transparent = source.format & PNG_FORMAT_FLAG_ALPHA;
-    // The order of the bytes in which Qt keeps the colours.
+    // The byte order of colours in a QImage.
     source.format = QSysInfo::ByteOrder == QSysInfo::LittleEndian ? PNG_FORMAT_BGRA : PNG_FORMAT_ARGB;
     QImage image(static_cast<int>(source.width), static_cast<int>(source.height),
                  transparent ? QImage::Format_ARGB32 : QImage::Format_RGB32);

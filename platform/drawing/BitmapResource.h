@@ -9,15 +9,15 @@
 
 namespace platform {
 
-/// A bitmap resource as a device-independent bitmap: the information header, the colour table if it has one,
-/// and the rows from the bottom up.
+/// A bitmap resource as a device-independent bitmap: the information header, the colour table if there is
+/// one, and the rows from bottom to top.
 struct BitmapResource {
     std::span<const std::byte> bytes;
-    std::shared_ptr<const void> owner;  ///< of the bytes, when they are not the program file's own
-    int scale = 1;  ///< pixels of the picture, across and down, to one of the screen's coordinates
+    std::shared_ptr<const void> owner;  ///< keeps the bytes, unless they are part of the program file
+    int scale = 1;                      ///< pixels of the picture per logical pixel, across and down
 };
 
-/// A resource that is stored so, drawn for the screen's pixels; nothing when there is none of this id.
+/// The bitmap resource with this id, in the version for this screen; nothing when there is none.
 std::optional<BitmapResource> FindBitmapResource(UINT id);
 
 }  // namespace platform

@@ -11,8 +11,8 @@ namespace platform {
 
 namespace {
 
-/// Runs `draw` with a painter that puts pixels down as they are, unless there is nothing to draw on or the
-/// area is empty.
+/// Runs `draw` with a painter that replaces pixels without blending. Does nothing if there is nothing to draw
+/// on or the area is empty.
 template <class Draw>
 void paint(CDC::Target* target, const QRect& area, Draw draw) {
     QImage* const image = target ? target->image() : nullptr;
@@ -25,21 +25,21 @@ void paint(CDC::Target* target, const QRect& area, Draw draw) {
     target->drawn(area);
 }
 
-/// Whether pixels of a picture of this ratio do not fall on those of the target.
+/// Whether a picture of this pixel ratio must be scaled to be drawn.
 bool isScaled(const QPainter& painter, qreal ratio) {
     return ratio > 1 && ratio != painter.device()->devicePixelRatioF();
 }
 
-/// Pixels that do not fall on those of the target are blended.
+/// Turns smoothing on if the picture must be scaled.
 void smoothIfScaled(QPainter& painter, const QImage& picture) {
     painter.setRenderHint(QPainter::SmoothPixmapTransform, isScaled(painter, picture.devicePixelRatio()));
 }
 
-/// Draws rows that are stored from the bottom up. They are turned over a few at a time, which takes no memory
-/// that is not warm yet: fresh memory for a whole picture costs more time than drawing it.
+/// Draws a picture whose rows come from bottom to top. It is mirrored in strips of a few rows: memory for a
+/// whole mirrored picture would cost more time than the drawing.
 void drawBottomUp(QPainter& painter, QPoint topLeft, const QImage& bottomUp, int scale) {
     constexpr int strip = 32;
-    // Blended strips would show their edges.
+    // Scaled strips would show their edges.
     const int step = isScaled(painter, scale) ? bottomUp.height() : strip;
     for (int top = 0; top < bottomUp.height(); top += step) {
         const int rows = std::min(step, bottomUp.height() - top);
@@ -52,17 +52,17 @@ void drawBottomUp(QPainter& painter, QPoint topLeft, const QImage& bottomUp, int
     }
 }
 
-/// Rows of `width` pixels of 3 bytes, each rounded up to a multiple of 4 bytes.
+/// Bytes of a row of pixels of 3 bytes, rounded up to a multiple of 4.
 std::int64_t dibStride(std::int64_t width) { return (width * 3 + 3) / 4 * 4; }
 
 /// Whether a picture of this header can be drawn at all.
 bool isDrawable(const BITMAPINFOHEADER& header) {
-    constexpr std::int64_t mostBytes = std::numeric_limits<std::int32_t>::max();
+    constexpr std::int64_t maxBytes = std::numeric_limits<std::int32_t>::max();
     return header.biWidth > 0 && header.biHeight > 0 &&
-           dibStride(header.biWidth) <= mostBytes / header.biHeight;
+           dibStride(header.biWidth) <= maxBytes / header.biHeight;
 }
 
-/// The part of `source` inside of `image`, and where it goes when the whole of `source` goes to `target`.
+/// The part of `source` that is inside `image`, and where that part goes if all of `source` goes to `target`.
 struct Stretch {
     QRectF source;
     QRectF target;
@@ -104,7 +104,7 @@ void CDC::StretchBlt(int x, int y, int width, int height, const CDC& source, int
     const QImage* const from = source.target_ ? source.target_->image() : nullptr;
     if (!from || sourceWidth <= 0 || sourceHeight <= 0) return;
     const QRect area(x, y, width, height);
-    // A copy shares the pixels until the painter detaches its own, so that a picture can be drawn on itself.
+    // The copy shares its pixels with `from` until the painter writes. So a picture can be drawn onto itself.
     const QImage image = *from;
     paint(target_.get(), area, [&](QPainter& painter) {
         smoothIfScaled(painter, image);
@@ -113,7 +113,7 @@ void CDC::StretchBlt(int x, int y, int width, int height, const CDC& source, int
     });
 }
 
-void CDC::FillSolidRect(const CRect& rect, COLORREF colour) { FillRect(rect, CBrush::solid(colour)); }
+void CDC::FillSolidRect(const CRect& rect, COLORREF colour) { FillRect(rect, CBrush::Solid(colour)); }
 
 void CDC::FillRect(const CRect& rect, const CBrush& brush) {
     const QRect area = toQt(rect);

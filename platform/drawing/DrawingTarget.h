@@ -11,7 +11,7 @@ namespace platform {
 class CDC::Target {
   public:
     virtual ~Target() = default;
-    /// The picture, null when there is none (any more).
+    /// The picture; null when there is none, or no longer one.
     virtual QImage* image() = 0;
     /// Called after something was drawn, with the area in logical coordinates.
     virtual void drawn(const QRect&) {}

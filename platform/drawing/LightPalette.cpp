@@ -24,12 +24,12 @@ QPalette lightPalette() {
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         palette.setColor(QPalette::Disabled, role, faint);
     }
-    // A field that takes nothing is no lighter than what is around it.
+    // A disabled field has the colour of the window around it.
     palette.setColor(QPalette::Disabled, QPalette::Base, background);
     return palette;
 }
 
-void wearLightPalette() {
+void applyLightPalette() {
     QApplication::setPalette(lightPalette());
     QToolTip::setPalette(lightPalette());
 }

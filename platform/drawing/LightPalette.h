@@ -4,10 +4,10 @@
 
 namespace platform {
 
-/// The calm, light colours of the program's own windows, whatever the desktop's theme is.
+/// The light colours of the program's windows, whatever theme the desktop has.
 QPalette lightPalette();
 
-/// Has all windows of the application wear them, those too that the program does not make itself.
-void wearLightPalette();
+/// Sets these colours for all windows of the application, including those that Qt makes itself.
+void applyLightPalette();
 
 }  // namespace platform

@@ -4,7 +4,8 @@
 
 namespace platform {
 
-/// The program's face in a size in pixels. Metrically the same as the faces that the program names.
+/// The program's font in a size in pixels. Its letters are as wide as those of the fonts that the program
+/// names.
 QFont programFont(int pixels);
 
 }  // namespace platform

@@ -8,7 +8,7 @@ namespace platform {
 
 namespace {
 
-/// A standard picture of the style, without what differs by widget.
+/// A standard picture of the style, loaded when it is first shown.
 class LateIcon : public QIconEngine {
   public:
     LateIcon(const QStyle& style, QStyle::StandardPixmap picture) : style_(style), picture_(picture) {}
@@ -34,7 +34,7 @@ class LateIcon : public QIconEngine {
     QStyle::StandardPixmap picture_;
 };
 
-/// The style's own is one small picture, which a sharp screen shows blurred.
+/// The style has only one small picture, which looks blurred on sharp screens.
 QPixmap questionMark(int side) {
     QPixmap picture(side, side);
     picture.fill(Qt::transparent);
@@ -55,7 +55,7 @@ QPixmap questionMark(int side) {
 /// Side of the pictures in message boxes.
 constexpr int boxPicture = 32;
 
-/// For screens with one, two and three pixels to each coordinate.
+/// In versions for one, two and three physical pixels per logical pixel.
 QIcon questionIcon() {
     QIcon icon;
     for (const int scale : {1, 2, 3}) icon.addPixmap(questionMark(boxPicture * scale));

@@ -4,9 +4,9 @@
 
 namespace platform {
 
-/// The look of the program's own windows, the same on every desktop. A standard picture is loaded when it is
-/// first shown: the menu bar and the entry fields ask for theirs when they are made and mostly show none. The
-/// question mark of message boxes is drawn sharp for every screen.
+/// The look of the program's windows, the same on every desktop. Standard pictures are loaded only when they
+/// are shown first: the menu bar and edit fields request some when they are made and mostly never show them.
+/// The question mark of message boxes is drawn in high resolution.
 class ProgramStyle : public QProxyStyle {
   public:
     ProgramStyle();

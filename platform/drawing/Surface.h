@@ -4,12 +4,12 @@
 
 namespace platform {
 
-/// The picture that a window keeps of itself, in logical coordinates of its client area. It takes memory once
-/// it is drawn on or shown: many a window gets its final size before that.
+/// The picture that a window keeps of its client area, in logical coordinates. Its memory is allocated when
+/// it is first drawn on or shown: many windows change their size before that.
 class Surface {
   public:
-    /// Gives the picture another size or device pixel ratio. The content stays at the top-left corner, what
-    /// is new is white. Returns whether anything changed.
+    /// Changes the size or the device pixel ratio. The content stays at the top-left corner, and new areas
+    /// are white. Returns whether anything changed.
     bool resize(QSize logical, qreal ratio);
 
     bool isNull() const { return pixels_.isEmpty(); }

@@ -9,12 +9,12 @@
 
 namespace platform {
 
-/// The key combinations of the program and their commands.
+/// The program's key combinations and their commands.
 class AcceleratorTable {
   public:
     explicit AcceleratorTable(std::span<const Accelerator> accelerators);
 
-    /// The command of a virtual key with these modifiers.
+    /// The command of a virtual key with these modifiers, nothing when there is none.
     std::optional<UINT> find(UINT key, Qt::KeyboardModifiers modifiers) const;
 
   private:

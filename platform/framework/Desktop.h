@@ -13,11 +13,11 @@ namespace platform {
 
 class PrintDialogTexts;
 
-/// The connection to the user's desktop: the process made ready for windows and the web browser. Stands
-/// before any window and outlives all of them; one in a process.
+/// The connection to the user's desktop. It prepares the process for windows and the web browser. One object
+/// per process; it exists before any window and outlives all of them.
 class Desktop {
   public:
-    /// Takes its own arguments off the list, which lives on.
+    /// Removes its own arguments from the list, which must outlive the object.
     Desktop(int& argc, char** argv);
     ~Desktop();
     Desktop(const Desktop&) = delete;
@@ -25,10 +25,12 @@ class Desktop {
 
     /// The first screen.
     ScreenConfig screen() const;
-    /// The metrics that follow from it, by name: the size of a maximised window, whose borders lie outside.
+    /// The metrics that depend on the screen, by name: the size of a maximised window, whose borders are
+    /// outside the screen.
     std::map<std::string, int, std::less<>> metrics() const;
 
-    /// Its default printer; where there is none, A4 pages that land as PDF files among the user's documents.
+    /// The desktop's default printer. If there is none, documents have A4 pages and become PDF files in the
+    /// user's documents folder.
     PrinterConfig printer() const;
 
   private:

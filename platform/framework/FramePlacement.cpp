@@ -8,13 +8,13 @@ namespace platform {
 
 namespace {
 
-/// How long a window manager may take to tell a frame's width.
+/// How long a window manager may take to tell the width of a frame.
 constexpr int settleMs = 100;
 
 }  // namespace
 
 FramePlacement::FramePlacement(QWidget& widget) : widget_(widget) {
-    // Makes the native window: some window systems know the frame from then on.
+    // This makes the native window; some window systems know the frame from then on.
     widget_.winId();
     followNativeWindow();
     widget_.installEventFilter(this);
@@ -33,16 +33,16 @@ void FramePlacement::place(const QRect& outer) {
     const bool settled = isNormal() && widget_.windowHandle()->isExposed();
     if (!isNormal()) widget_.setWindowState(Qt::WindowNoState);
     wanted_ = outer;
-    putRight();
-    // A settled window may be in the user's hands the next moment.
+    applyWanted();
+    // The user may move a settled window from now on.
     if (settled) wanted_.reset();
 }
 
 void FramePlacement::remember() {
-    if (isNormal() && !wanted_) wanted_ = present();
+    if (isNormal() && !wanted_) wanted_ = current();
 }
 
-QRect FramePlacement::outer() const { return wanted_ && isNormal() ? *wanted_ : present(); }
+QRect FramePlacement::outer() const { return wanted_ && isNormal() ? *wanted_ : current(); }
 
 bool FramePlacement::eventFilter(QObject* watched, QEvent* event) {
     if (watched == &widget_) {
@@ -51,7 +51,7 @@ bool FramePlacement::eventFilter(QObject* watched, QEvent* event) {
     }
     const bool mayKnowFrame = event->type() == QEvent::Expose || event->type() == QEvent::WindowStateChange;
     if (!mayKnowFrame || !wanted_ || !isNormal() || !widget_.windowHandle()->isExposed()) return false;
-    putRight();
+    applyWanted();
     settling_.start(settleMs, this);
     return false;
 }
@@ -59,7 +59,7 @@ bool FramePlacement::eventFilter(QObject* watched, QEvent* event) {
 void FramePlacement::timerEvent(QTimerEvent*) {
     settling_.stop();
     if (!wanted_ || !isNormal()) return;
-    putRight();
+    applyWanted();
     wanted_.reset();
 }
 
@@ -67,17 +67,17 @@ bool FramePlacement::isNormal() const {
     return !(widget_.windowState() & (Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen));
 }
 
-QRect FramePlacement::present() const {
-    // The native window is ahead of the widget, which learns of changes through events.
+QRect FramePlacement::current() const {
+    // The native window knows of changes before the widget, which gets them as events.
     const QWindow& window = *widget_.windowHandle();
     return window.geometry().marginsAdded(window.frameMargins());
 }
 
-void FramePlacement::putRight() {
-    if (present() == *wanted_) return;
+void FramePlacement::applyWanted() {
+    if (current() == *wanted_) return;
     widget_.setGeometry(wanted_->marginsRemoved(widget_.windowHandle()->frameMargins()));
-    // Some window systems move what would lie beside the screen, unless the frame itself is placed.
-    if (present() != *wanted_) widget_.windowHandle()->setFramePosition(wanted_->topLeft());
+    // Some window systems keep the area inside the frame on the screen, unless the frame itself is placed.
+    if (current() != *wanted_) widget_.windowHandle()->setFramePosition(wanted_->topLeft());
 }
 
 }  // namespace platform

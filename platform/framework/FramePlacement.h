@@ -11,19 +11,23 @@ class QWindow;
 
 namespace platform {
 
-/// Keeps a top-level widget at an outer rectangle: that of its frame. The window system draws the frame and
-/// tells its width late: when the widget is first on show, and again when its state has changed. So the
-/// wanted rectangle is held, and put right, until the window has settled in its normal state. A browser in
-/// the window has Qt make the native window anew; it then gets the state and the place of the one before.
+/// Keeps a top-level window at an outer rectangle, which includes its frame. Qt places the area inside the
+/// frame, and the window system draws the frame. Two things need care:
+/// - The width of the frame is known late: the window manager tells it some time after the window is first
+/// shown, and again after each change of its state. So the wanted rectangle is kept, and applied each time,
+/// until the window has been in its normal state for a while.
+/// - When a browser is added to the window, Qt replaces the native window. The new one gets the state and
+/// place of the old one.
 class FramePlacement : public QObject {
   public:
     explicit FramePlacement(QWidget& widget);
 
-    /// Places the frame at the outer rectangle; a minimised or maximised window is restored first.
+    /// Places the frame at the outer rectangle. A minimised or maximised window is restored first.
     void place(const QRect& outer);
-    /// Makes the present place the one to return to; before the window is minimised or maximised.
+    /// Keeps the current rectangle, to which the window will return. To be called before it is minimised or
+    /// maximised.
     void remember();
-    /// Where the frame is, or will be once it has settled.
+    /// The rectangle of the frame, or the wanted one until the window has settled.
     QRect outer() const;
 
   protected:
@@ -32,14 +36,14 @@ class FramePlacement : public QObject {
 
   private:
     bool isNormal() const;
-    QRect present() const;
-    void putRight();
+    QRect current() const;
+    void applyWanted();
     void followNativeWindow();
 
     QWidget& widget_;
     QPointer<QWindow> window_;
-    std::optional<QRect> wanted_;
-    QBasicTimer settling_;
+    std::optional<QRect> wanted_;  ///< until the window has settled
+    QBasicTimer settling_;         ///< runs while the frame may still change
 };
 
 }  // namespace platform

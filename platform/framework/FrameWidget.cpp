@@ -18,8 +18,7 @@ namespace platform {
 
 namespace {
 
-/// In the sizes of title bars and task lists; desktops that show larger ones take them from the installed
-/// files.
+/// In the sizes of title bars and task lists. For larger ones the desktop uses the installed icon files.
 QIcon programIcon() {
     QIcon icon;
     for (const int size : {16, 24, 32, 48, 64}) {
@@ -39,7 +38,7 @@ FrameWidget::FrameWidget(CFrameWnd& owner)
     openMenuByKey();
 }
 
-/// The key that opens the first menu on every desktop; Alt does so only on some.
+/// F10 opens the first menu. Alt does that only on some desktops.
 void FrameWidget::openMenuByKey() {
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the window has it
     auto* const key = new QShortcut(Qt::Key_F10, this);
@@ -51,14 +50,14 @@ void FrameWidget::openMenuByKey() {
 QRect FrameWidget::clientArea() const { return rect().adjusted(0, menuHeight(), 0, 0); }
 
 int FrameWidget::menuHeight() const {
-    // Before the first show the height is still that of the desktop's own font.
+    // The bar gets its font when it is polished; before that its height would be wrong.
     menuBar_.ensurePolished();
     return menuBar_.actions().isEmpty() ? 0 : menuBar_.heightForWidth(width());
 }
 
 void FrameWidget::place(const QRect& outer) {
     placement_.place(outer);
-    // The first WM_SIZE comes when the window is first shown.
+    // The first WM_SIZE is sent when the window is first shown.
     if (shown_) sizeChanged();
 }
 
@@ -81,20 +80,20 @@ void FrameWidget::fitContent() { menuBar_.setGeometry(0, 0, width(), menuHeight(
 void FrameWidget::changeEvent(QEvent* event) {
     WindowWidget::changeEvent(event);
     if (event->type() != QEvent::WindowStateChange || !shown_) return;
-    // When another size is on its way, its resize event tells both.
+    // If the size changes too, the resize event follows, which sends WM_SIZE.
     const bool resizes = sizeType() != SIZE_MINIMIZED && windowHandle()->size() != size();
     if (!resizes) sizeChanged();
 }
 
 void FrameWidget::closeEvent(QCloseEvent* event) {
-    // The program decides whether and when the window goes.
+    // The program decides whether and when the window is destroyed.
     event->ignore();
     send(WM_CLOSE);
 }
 
 void FrameWidget::resizeEvent(QResizeEvent*) {
     if (shown_) sizeChanged();
-    // Qt paints right after a resize; what it shows is to be of the new size already.
+    // Qt paints right after a resize; the content must have the new size by then.
     deliverScheduledPaints();
 }
 

@@ -9,7 +9,7 @@ namespace platform {
 
 class CFrameWnd;
 
-/// The top-level window: a menu bar, and the client area below it.
+/// The widget of the frame: a menu bar, and the client area below it.
 class FrameWidget : public WindowWidget {
   public:
     explicit FrameWidget(CFrameWnd& owner);

@@ -4,7 +4,6 @@
 #include <memory>
 
 #include "platform/base/Resources.h"
-#include "platform/framework/Document.h"
 #include "platform/framework/FrameWidget.h"
 #include "platform/framework/View.h"
 #include "platform/framework/WinApp.h"
@@ -18,27 +17,28 @@ namespace platform {
 namespace {
 
 constexpr UINT exitCommand = 57665;
-/// Window coordinates have 16 bits.
-constexpr int farthest = 0x7FFF;
-/// No screen is wider; more would ask for more memory than a picture of the window is worth.
-constexpr int longestSide = 8192;
+/// Window messages carry coordinates of 16 bits.
+constexpr int maxCoordinate = 0x7FFF;
+/// No screen is wider; the picture of a larger window would waste memory.
+constexpr int maxSide = 8192;
 
 QRect placeOf(const CREATESTRUCT& cs) {
-    return {std::clamp(cs.x, -farthest, farthest), std::clamp(cs.y, -farthest, farthest),
-            std::clamp(cs.cx, 0, longestSide), std::clamp(cs.cy, 0, longestSide)};
+    return {std::clamp(cs.x, -maxCoordinate, maxCoordinate), std::clamp(cs.y, -maxCoordinate, maxCoordinate),
+            std::clamp(cs.cx, 0, maxSide), std::clamp(cs.cy, 0, maxSide)};
 }
 
 }  // namespace
 
 CFrameWnd::CFrameWnd() = default;
 
-// The window goes first, while the view that stands in it still exists.
+// The window is destroyed first, while its view still exists.
 CFrameWnd::~CFrameWnd() { DestroyWindow(); }
 
 const MessageMap* CFrameWnd::GetMessageMap() const {
     static constexpr MessageMapEntry entries[] = {
-        OnMessage<WM_CREATE, &CFrameWnd::OnCreate>(),    OnMessage<WM_SIZE, &CFrameWnd::OnSize>(),
-        OnMessage<WM_DESTROY, &CFrameWnd::OnDestroy>(),  OnMessage<WM_CLOSE, &CFrameWnd::OnClose>(),
+        OnMessage<WM_CREATE, &CFrameWnd::OnCreate>(),
+        OnMessage<WM_SIZE, &CFrameWnd::OnSize>(),
+        OnMessage<WM_CLOSE, &CFrameWnd::OnClose>(),
         OnCommandId<&CFrameWnd::OnAppExit>(exitCommand),
     };
     static const MessageMap map{CWnd::GetMessageMap(), entries};
@@ -48,9 +48,9 @@ const MessageMap* CFrameWnd::GetMessageMap() const {
 bool CFrameWnd::LoadFrame(const CRuntimeClass& viewClass, CDocument& document) {
     CREATESTRUCT cs{.style = FWS_ADDTOTITLE};
     if (GetSafeHwnd() != 0 || !PreCreateWindow(cs)) return false;
-    m_viewClass = &viewClass;
-    m_document = &document;
-    auto* const widget = std::make_unique<FrameWidget>(*this).release();  // goes when it is closed
+    viewClass_ = &viewClass;
+    document_ = &document;
+    auto* const widget = std::make_unique<FrameWidget>(*this).release();  // deletes itself when it ends
     SetWindowText(LoadString(AFX_IDS_APP_TITLE));
     if (!cs.defaultPlacement) widget->place(placeOf(cs));
     if (SendMessage(WM_CREATE, 0, reinterpret_cast<LPARAM>(&cs)) != -1) return true;
@@ -59,14 +59,14 @@ bool CFrameWnd::LoadFrame(const CRuntimeClass& viewClass, CDocument& document) {
 }
 
 void CFrameWnd::InitialUpdateFrame() {
-    if (m_view) m_view->OnInitialUpdate();
-    ActivateFrame(CWinApp::instance().m_nCmdShow);
+    if (view_) view_->OnInitialUpdate();
+    ActivateFrame(CWinApp::Instance().m_nCmdShow);
 }
 
 bool CFrameWnd::PreCreateWindow(CREATESTRUCT&) { return true; }
 
 void CFrameWnd::ActivateFrame(int showCommand) {
-    if (m_view) m_view->SetFocus();
+    if (view_) view_->SetFocus();
     ShowWindow(showCommand);
     WindowWidget* const widget = WindowWidget::of(*this);
     if (!widget || showCommand == SW_SHOWMINIMIZED) return;
@@ -74,23 +74,21 @@ void CFrameWnd::ActivateFrame(int showCommand) {
 }
 
 int CFrameWnd::OnCreate(CREATESTRUCT&) {
-    if (!m_viewClass || !m_viewClass->create) return -1;
-    std::unique_ptr<CObject> made = m_viewClass->create();
+    if (!viewClass_ || !viewClass_->create) return -1;
+    std::unique_ptr<CObject> made = viewClass_->create();
     if (!dynamic_cast<CView*>(made.get())) return -1;
-    m_view.reset(static_cast<CView*>(made.release()));
-    m_view->m_pDocument = m_document;
+    view_.reset(static_cast<CView*>(made.release()));
+    view_->document_ = document_;
     const QSize client = WindowWidget::of(*this)->clientArea().size();
-    auto& widget = makeQtChild<SurfaceWidget>(*m_view, WindowWidget::of(*this), AFX_IDW_PANE_FIRST);
+    auto& widget = makeQtChild<SurfaceWidget>(*view_, WindowWidget::of(*this), AFX_IDW_PANE_FIRST);
     widget.takeFocusOnClick();
     widget.setFocusPolicy(Qt::TabFocus);
     return widget.create({WS_CHILD | WS_VISIBLE, 0, 0, client.width(), client.height(), false}) ? 0 : -1;
 }
 
 void CFrameWnd::OnSize(UINT type, int width, int height) {
-    if (type != SIZE_MINIMIZED && m_view) m_view->MoveWindow({0, 0, width, height});
+    if (type != SIZE_MINIMIZED && view_) view_->MoveWindow({0, 0, width, height});
 }
-
-void CFrameWnd::OnDestroy() {}
 
 void CFrameWnd::OnClose() { DestroyWindow(); }
 
@@ -99,16 +97,16 @@ void CFrameWnd::OnAppExit() { SendMessage(WM_CLOSE); }
 bool CFrameWnd::OnCommand(WPARAM wParam, LPARAM) { return RunCommand(static_cast<UINT>(wParam & 0xFFFFU)); }
 
 bool CFrameWnd::OnCmdMsg(UINT id, CommandMessage what, CCmdUI* ui) {
-    return (m_view && m_view->OnCmdMsg(id, what, ui)) || CWnd::OnCmdMsg(id, what, ui) ||
-           CWinApp::instance().OnCmdMsg(id, what, ui);
+    return (view_ && view_->OnCmdMsg(id, what, ui)) || CWnd::OnCmdMsg(id, what, ui) ||
+           CWinApp::Instance().OnCmdMsg(id, what, ui);
 }
 
 bool CFrameWnd::RunCommand(UINT id) {
-    return UpdateCommand(id).enabled() && OnCmdMsg(id, CommandMessage::execute, nullptr);
+    return UpdateCommand(id).Enabled() && OnCmdMsg(id, CommandMessage::execute, nullptr);
 }
 
 CCmdUI CFrameWnd::UpdateCommand(UINT id) {
-    CCmdUI state(id);
+    CCmdUI state;
     if (!OnCmdMsg(id, CommandMessage::update, &state)) state.Enable(false);
     return state;
 }
@@ -122,7 +120,7 @@ std::vector<MenuItemState> CFrameWnd::MenuState(std::size_t menu) {
             continue;
         }
         const CCmdUI state = UpdateCommand(item.id);
-        states.push_back({item.text, item.id, state.enabled(), state.checked()});
+        states.push_back({item.text, item.id, state.Enabled(), state.Checked()});
     }
     return states;
 }

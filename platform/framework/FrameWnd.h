@@ -14,7 +14,7 @@ struct CRuntimeClass;
 /// Control id of the view inside its frame.
 inline constexpr UINT AFX_IDW_PANE_FIRST = 0xE900;
 
-/// A menu item as it stands when its menu is opened.
+/// The state of a menu item when its menu is opened.
 struct MenuItemState {
     std::string_view text;  ///< empty for a separator
     UINT id = 0;
@@ -29,38 +29,37 @@ class CFrameWnd : public CWnd {
     ~CFrameWnd() override;
     const MessageMap* GetMessageMap() const override;
 
-    /// Creates the window hidden, with menu, accelerators and a view of the given class.
+    /// Creates the window, hidden, with menu, accelerators and a view of the given class.
     bool LoadFrame(const CRuntimeClass& viewClass, CDocument& document);
     /// Runs the view's first update, then shows the frame with the application's show command.
     void InitialUpdateFrame();
 
-    CView* GetActiveView() const { return m_view.get(); }
+    CView* GetActiveView() const { return view_.get(); }
 
-    /// Adjusts style, position and size before the window is made; false refuses.
+    /// Changes style, position and size before the window is made; false refuses.
     virtual bool PreCreateWindow(CREATESTRUCT& cs);
     virtual void ActivateFrame(int showCommand);
 
-    /// Routes to the view and its document, then the frame, then the application.
+    /// Routes commands to the view and its document, then to the frame, then to the application.
     bool OnCmdMsg(UINT id, CommandMessage what, CCmdUI* ui) override;
-    /// Carries a command out if its rule allows it; whether it was carried out.
+    /// Carries out a command if its update handler allows it; whether it was carried out.
     bool RunCommand(UINT id);
-    /// The enabling rule's result; a command that nothing handles is disabled.
+    /// The state of a command after its update handler has run. A command without any handler is disabled.
     CCmdUI UpdateCommand(UINT id);
-    /// Items of the menu with this index, each rule run now.
+    /// The items of the menu with this index, after their update handlers have run.
     std::vector<MenuItemState> MenuState(std::size_t menu);
 
   protected:
     int OnCreate(CREATESTRUCT& cs);
     void OnSize(UINT type, int width, int height);
-    void OnDestroy();
     void OnClose();
     bool OnCommand(WPARAM wParam, LPARAM lParam) override;
 
   private:
     void OnAppExit();
-    std::unique_ptr<CView> m_view;
-    const CRuntimeClass* m_viewClass = nullptr;
-    CDocument* m_document = nullptr;
+    std::unique_ptr<CView> view_;
+    const CRuntimeClass* viewClass_ = nullptr;
+    CDocument* document_ = nullptr;
 };
 
 }  // namespace platform

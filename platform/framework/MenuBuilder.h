@@ -6,8 +6,8 @@ class QMenuBar;
 
 namespace platform {
 
-/// Fills the bar with the program's menus. Each runs its rules when it is opened, and sends its commands to
-/// the frame with WM_COMMAND.
+/// Fills the bar with the program's menus. When a menu is opened its update handlers run. Its commands go to
+/// the frame by WM_COMMAND.
 void buildMenuBar(QMenuBar& bar, HWND frame);
 
 }  // namespace platform

@@ -3,9 +3,9 @@
 #include <QApplication>
 #include <QWidget>
 
-#include "platform/framework/Document.h"
-#include "platform/framework/EndRequests.h"
 #include "platform/framework/FrameWnd.h"
+#include "platform/framework/TerminationSignals.h"
+#include "platform/framework/View.h"
 #include "platform/framework/WinApp.h"
 #include "platform/qt/WindowTable.h"
 
@@ -14,12 +14,12 @@ namespace platform {
 int RunProgram(CWinApp& app) {
     QApplication::setQuitOnLastWindowClosed(false);
     const bool started = app.InitInstance();
-    // The frame may have been closed already by then, while a message box was up.
+    // The user may have closed the frame already, while a message box was shown.
     const CFrameWnd* const frame = started ? app.GetMainWnd() : nullptr;
     if (frame) {
         const QWidget* const widget = WindowTable::instance().widget(frame->GetSafeHwnd());
         QObject::connect(widget, &QObject::destroyed, qApp, [] { QCoreApplication::exit(); });
-        const EndRequests requests([&app] {
+        const TerminationSignals requests([&app] {
             if (CFrameWnd* const open = app.GetMainWnd()) open->SendMessage(WM_CLOSE);
         });
         QCoreApplication::exec();
@@ -29,8 +29,8 @@ int RunProgram(CWinApp& app) {
 
 int EndProgram(CWinApp& app) {
     const int exitCode = app.ExitInstance();
-    app.m_template.reset();
-    // Ended windows wait for their last event to be over; there is none any more.
+    app.template_.reset();
+    // Windows that have ended are deleted by events, and no event loop runs any more.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return exitCode;
 }

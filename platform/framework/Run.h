@@ -4,13 +4,13 @@ namespace platform {
 
 class CWinApp;
 
-/// Runs the program: the start-up sequence, then until the main frame is gone, then its end. Needs the
-/// QApplication and the machine; whatever has to stand before the QApplication is the caller's business. No
-/// window or control of the program is left when it returns. Returns the exit code.
+/// Runs the program: its start-up, its event loop until the main frame is gone, and its end. Needs the
+/// QApplication and the machine; the caller prepares what must exist before the QApplication. When it
+/// returns, all windows and controls of the program are gone. Returns the exit code.
 int RunProgram(CWinApp& app);
 
-/// The last part of RunProgram, for those who let the program run by other means than its own event loop:
-/// ends what windows are left and returns the exit code.
+/// The last part of RunProgram, for callers with an event loop of their own: destroys the remaining windows
+/// and returns the exit code.
 int EndProgram(CWinApp& app);
 
 }  // namespace platform

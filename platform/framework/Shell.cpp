@@ -12,7 +12,7 @@ namespace platform {
 
 namespace {
 
-/// The desktop chooses its program by the end of the name; under this one it is the text editor.
+/// A link to the file whose name ends in ".txt": the desktop chooses the program by that.
 QString asTextFile(const QString& path) {
     static const QTemporaryDir links;
     const QString link = links.filePath(QFileInfo(path).fileName() + QStringLiteral(".txt"));

@@ -1,6 +1,5 @@
 #include "platform/framework/SingleDocTemplate.h"
 
-#include "platform/framework/Document.h"
 #include "platform/framework/FrameWnd.h"
 #include "platform/framework/View.h"
 
@@ -19,16 +18,16 @@ std::unique_ptr<T> make(const CRuntimeClass& runtimeClass) {
 
 CSingleDocTemplate::CSingleDocTemplate(const CRuntimeClass& document, const CRuntimeClass& frame,
                                        const CRuntimeClass& view)
-    : m_documentClass(document), m_frameClass(frame), m_viewClass(view) {}
+    : documentClass_(document), frameClass_(frame), viewClass_(view) {}
 
 CSingleDocTemplate::~CSingleDocTemplate() = default;
 
 bool CSingleDocTemplate::OpenNewDocument() {
-    if (m_frame) return false;
-    m_document = make<CDocument>(m_documentClass);
-    m_frame = make<CFrameWnd>(m_frameClass);
-    if (!m_document || !m_frame || !m_frame->LoadFrame(m_viewClass, *m_document)) return false;
-    m_frame->InitialUpdateFrame();
+    if (frame_) return false;
+    document_ = make<CDocument>(documentClass_);
+    frame_ = make<CFrameWnd>(frameClass_);
+    if (!document_ || !frame_ || !frame_->LoadFrame(viewClass_, *document_)) return false;
+    frame_->InitialUpdateFrame();
     return true;
 }
 

@@ -9,24 +9,23 @@ namespace platform {
 class CDocument;
 class CFrameWnd;
 
-/// Joins the classes of document, frame and view, and owns the one document and frame.
+/// Connects the classes of document, frame and view, and owns the one document and the one frame.
 class CSingleDocTemplate {
   public:
     CSingleDocTemplate(const CRuntimeClass& document, const CRuntimeClass& frame, const CRuntimeClass& view);
     ~CSingleDocTemplate();
 
-    /// Makes document, frame and view, runs the first update and shows the frame; false when a window
+    /// Makes document, frame and view, runs the view's first update and shows the frame. False when a window
     /// cannot be made.
     bool OpenNewDocument();
-    CFrameWnd* GetFrame() const { return m_frame.get(); }
-    CDocument* GetDocument() const { return m_document.get(); }
+    CFrameWnd* GetFrame() const { return frame_.get(); }
 
   private:
-    const CRuntimeClass& m_documentClass;
-    const CRuntimeClass& m_frameClass;
-    const CRuntimeClass& m_viewClass;
-    std::unique_ptr<CDocument> m_document;
-    std::unique_ptr<CFrameWnd> m_frame;
+    const CRuntimeClass& documentClass_;
+    const CRuntimeClass& frameClass_;
+    const CRuntimeClass& viewClass_;
+    std::unique_ptr<CDocument> document_;
+    std::unique_ptr<CFrameWnd> frame_;
 };
 
 }  // namespace platform

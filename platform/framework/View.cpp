@@ -1,6 +1,5 @@
 #include "platform/framework/View.h"
 
-#include "platform/framework/Document.h"
 #include "platform/framework/FrameWnd.h"
 #include "platform/windows/MessageMap.h"
 #include "platform/windows/WindowDC.h"
@@ -14,7 +13,7 @@ const MessageMap* CView::GetMessageMap() const {
 }
 
 bool CView::OnCmdMsg(UINT id, CommandMessage what, CCmdUI* ui) {
-    return CWnd::OnCmdMsg(id, what, ui) || (m_pDocument && m_pDocument->OnCmdMsg(id, what, ui));
+    return CWnd::OnCmdMsg(id, what, ui) || (document_ && document_->OnCmdMsg(id, what, ui));
 }
 
 void CView::OnPaint() {

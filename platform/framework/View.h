@@ -1,19 +1,21 @@
 #pragma once
 
+#include "platform/windows/CmdTarget.h"
 #include "platform/windows/Wnd.h"
 
 namespace platform {
 
-class CDocument;
 class CFrameWnd;
 
-/// The window inside the frame that shows the document.
+/// The document of a single-document program.
+class CDocument : public CCmdTarget {};
+
+/// The window inside the frame, which shows the document.
 class CView : public CWnd {
   public:
     const MessageMap* GetMessageMap() const override;
-    /// The frame around it, null without one.
+    /// The frame that contains the view, null if none does.
     CFrameWnd* GetParentFrame() const;
-    CDocument* GetDocument() const { return m_pDocument; }
 
     /// Paints the whole client area.
     virtual void OnDraw(CDC& dc) = 0;
@@ -25,7 +27,7 @@ class CView : public CWnd {
   private:
     friend class CFrameWnd;
     void OnPaint();
-    CDocument* m_pDocument = nullptr;
+    CDocument* document_ = nullptr;
 };
 
 }  // namespace platform

@@ -16,8 +16,8 @@ namespace platform {
 
 namespace {
 
-/// How long a window system may take to show a window, milliseconds.
-constexpr int longestShow = 250;
+/// The time that a window system may take to show a window, milliseconds.
+constexpr int maxShowTime = 250;
 constexpr std::chrono::milliseconds pause(1);
 
 }  // namespace
@@ -42,7 +42,7 @@ void UpdateWindow(CWnd& window) {
     QElapsedTimer timer;
     timer.start();
     while (widget && widget->windowHandle() && !widget->windowHandle()->isExposed() &&
-           !timer.hasExpired(longestShow)) {
+           !timer.hasExpired(maxShowTime)) {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
         std::this_thread::sleep_for(pause);
     }

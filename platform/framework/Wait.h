@@ -6,11 +6,11 @@ namespace platform {
 
 class CWnd;
 
-/// Lets time pass while windows are painted, but nothing that the user does is looked at. With the machine's
-/// virtual time the wait is only noted.
+/// Waits. Windows are painted meanwhile, but input of the user is not handled until the end. With virtual
+/// time it does not wait, but the clock advances.
 void Sleep(std::uint32_t milliseconds);
 
-/// Has the window system show at once what was drawn in a window that was just shown.
+/// Waits until the window system shows a window that was just made visible.
 void UpdateWindow(CWnd& window);
 
 }  // namespace platform

@@ -5,7 +5,6 @@
 #include "platform/dialogs/Dialog.h"
 #include "platform/dialogs/MessageBox.h"
 #include "platform/framework/AcceleratorTable.h"
-#include "platform/framework/Document.h"
 #include "platform/framework/FrameWnd.h"
 #include "platform/framework/View.h"
 #include "platform/machine/Machine.h"
@@ -23,17 +22,17 @@ namespace {
 
 CWinApp* application = nullptr;
 
-/// The command that a key stands for; dialogs have no accelerators.
+/// The command of a key; dialogs have no accelerators.
 std::optional<UINT> acceleratorCommand(const CFrameWnd* frame, HWND window, UINT key) {
     const QWidget* const widget = WindowTable::instance().widget(window);
     if (!frame || !widget || widget->window() != WindowWidget::of(*frame)) return std::nullopt;
     return AcceleratorTable(Resources().accelerators).find(key, inputModifiers());
 }
 
-/// The dialog around a hosted control, which would keep the key that ends dialogs; null for other windows.
-CWnd* dialogAroundControl(HWND window) {
-    CWnd* const control = componentHostOf(window) ? CWnd::FromHandle(window) : nullptr;
-    return control ? dynamic_cast<CDialog*>(control->GetParent()) : nullptr;
+/// The dialog that contains a hosted component, which would keep Escape for itself; null for other windows.
+CWnd* dialogOfComponent(HWND window) {
+    CWnd* const component = componentHostOf(window) ? CWnd::FromHandle(window) : nullptr;
+    return component ? dynamic_cast<CDialog*>(component->GetParent()) : nullptr;
 }
 
 }  // namespace
@@ -48,19 +47,19 @@ CWinApp::CWinApp() {
 }
 
 CWinApp::~CWinApp() {
-    m_template.reset();
+    template_.reset();
     setInputHooks({});
     application = nullptr;
 }
 
-CWinApp& CWinApp::instance() {
+CWinApp& CWinApp::Instance() {
     if (!application) std::abort();
     return *application;
 }
 
 bool CWinApp::PreTranslateMessage(const MSG& message) {
     if (message.message != WM_KEYDOWN) return false;
-    CWnd* const dialog = message.wParam == VK_ESCAPE ? dialogAroundControl(message.hwnd) : nullptr;
+    CWnd* const dialog = message.wParam == VK_ESCAPE ? dialogOfComponent(message.hwnd) : nullptr;
     if (dialog) {
         dialog->SendMessage(WM_COMMAND, IDCANCEL);
         return true;
@@ -71,17 +70,17 @@ bool CWinApp::PreTranslateMessage(const MSG& message) {
 }
 
 void CWinApp::AddDocTemplate(std::unique_ptr<CSingleDocTemplate> documentTemplate) {
-    m_template = std::move(documentTemplate);
+    template_ = std::move(documentTemplate);
 }
 
 bool CWinApp::ProcessShellCommand() {
-    if (m_template && m_template->OpenNewDocument()) return true;
+    if (template_ && template_->OpenNewDocument()) return true;
     AfxMessageBox("Δεν είναι δυνατή η δημιουργία νέου εγγράφου."_gr);
     return false;
 }
 
 CFrameWnd* CWinApp::GetMainWnd() const {
-    CFrameWnd* const frame = m_template ? m_template->GetFrame() : nullptr;
+    CFrameWnd* const frame = template_ ? template_->GetFrame() : nullptr;
     return frame && frame->GetSafeHwnd() != 0 ? frame : nullptr;
 }
 

@@ -16,20 +16,20 @@ class CWinApp : public CCmdTarget {
   public:
     CWinApp();
     ~CWinApp() override;
-    static CWinApp& instance();
+    static CWinApp& Instance();
 
-    /// The start-up sequence; false ends the program before a window is shown.
+    /// The start-up; false ends the program before a window is shown.
     virtual bool InitInstance() = 0;
     virtual int ExitInstance() { return 0; }
-    /// Looks at an input message before it is delivered; true swallows it. The default carries out
-    /// accelerators, and ends a dialog by Escape from within a hosted control; a key whose command is
-    /// disabled or has no handler goes on to its window.
+    /// Called for each input message before it is delivered; true swallows it. The default carries out
+    /// accelerators, and has Escape end a dialog when a component in it has the focus. A key whose command is
+    /// disabled or has no handler goes to its window.
     virtual bool PreTranslateMessage(const MSG& message);
 
     void AddDocTemplate(std::unique_ptr<CSingleDocTemplate> documentTemplate);
-    /// Opens the new, empty document of the one template; false, and the user is told, when that fails.
+    /// Makes the new, empty document of the one template. False when that fails; the user has then been told.
     bool ProcessShellCommand();
-    /// The main frame, null before its window is made and after it is gone.
+    /// The main frame; null before its window is made and after that is gone.
     CFrameWnd* GetMainWnd() const;
 
     /// How the main frame is first shown (SW_…).
@@ -37,10 +37,10 @@ class CWinApp : public CCmdTarget {
 
   private:
     friend int EndProgram(CWinApp& app);
-    std::unique_ptr<CSingleDocTemplate> m_template;
+    std::unique_ptr<CSingleDocTemplate> template_;
 };
 
-/// Readies automation for hosting controls; false when the machine cannot.
+/// Prepares automation for hosting components; false when the machine does not have it.
 bool AfxOleInit();
 
 }  // namespace platform

@@ -12,7 +12,7 @@ namespace platform {
 
 namespace {
 
-/// Key states that mouse messages carry.
+/// Flags in mouse messages: the buttons and keys that are held down.
 constexpr WPARAM leftButtonDown = 0x01;
 constexpr WPARAM rightButtonDown = 0x02;
 constexpr WPARAM shiftDown = 0x04;

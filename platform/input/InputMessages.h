@@ -9,14 +9,15 @@
 /// Turns Qt's mouse and key events into messages.
 namespace platform {
 
-/// Whether it is a move, a press, a release or a double click of the mouse.
+/// Whether the event is a move, press, release or double click of the mouse.
 bool isMouseEvent(QEvent::Type type);
 
-/// The message of an input event at a widget: its window is the widget's or the nearest above, 0 when there
-/// is none, and positions are in that window's client area. Nothing for events that have no message.
+/// The message for an input event at a widget. It goes to the window of the widget or its nearest ancestor
+/// that has one, 0 if there is none; positions are relative to that window's client area. Nothing for events
+/// that are no messages.
 std::optional<MSG> inputMessage(const QEvent& event, QWidget& receiver);
 
-/// The same event as a message to another window.
+/// The message for an input event to a given window.
 std::optional<MSG> inputMessageFor(const QEvent& event, HWND window);
 
 }  // namespace platform

@@ -7,17 +7,17 @@
 
 namespace platform {
 
-/// Tells the first sight of an input event from its repeats: Qt shows a press to the native window, then to
-/// the widget, and then to each widget above that does not want it.
+/// Recognises input events that were seen before. Qt shows a press first to the native window, then to the
+/// widget, then to each ancestor of a widget that ignores it.
 class InputRoute {
   public:
-    /// Notes an event at a widget; false when it was noted before on its way there.
+    /// Notes an event at a widget; false when the same event was seen before.
     bool arriveAtWidget(const QInputEvent& event, const QWidget& widget);
     /// Notes an event at the native window, before any widget.
     void arriveAtWindow(const QInputEvent& event);
 
   private:
-    /// What stays the same in the copies that Qt makes of an event.
+    /// The properties of an event that the copies made by Qt share.
     struct Signature {
         QEvent::Type type = QEvent::None;
         quint64 timestamp = 0;

@@ -6,16 +6,16 @@ class QWidget;
 
 namespace platform {
 
-/// Gives a widget the keyboard focus. Until the window system has made its window the active one, GetFocus
-/// tells the focus that was asked for.
+/// Gives a widget the keyboard focus. If its window must become active first, GetFocus returns the new focus
+/// already.
 void giveFocus(QWidget& widget);
 
-/// The window with the keyboard focus, 0 when none.
+/// The window with the keyboard focus, 0 if none has it.
 HWND GetFocus();
 /// Gives any window of the window table the keyboard focus.
 void SetFocus(HWND window);
 
-/// The focus has moved: nothing is waited for any more.
+/// To be called when the focus has moved: GetFocus then returns the actual focus.
 void focusHasMoved();
 
 }  // namespace platform

@@ -4,8 +4,7 @@
 
 namespace platform {
 
-/// The window that gets all mouse messages of the program, 0 when none does. The capture ends with the
-/// window.
+/// The window that receives all mouse messages of the program, 0 if none. The capture ends with the window.
 HWND capturingWindow();
 void captureMouse(HWND window);
 void releaseMouse();

@@ -2,7 +2,6 @@
 
 #include <QWidget>
 
-#include "platform/input/TabPlace.h"
 #include "platform/qt/WindowTable.h"
 
 namespace platform {
@@ -23,7 +22,7 @@ void TabAfter(HWND window, HWND former) {
     const QWidget* const around = last;
     for (QWidget* inside = last; inside == around || around->isAncestorOf(inside);
          inside = inside->nextInFocusChain()) {
-        // Qt puts nothing after a widget that takes no focus.
+        // Qt cannot order anything after a widget that takes no focus.
         if (inside->focusPolicy() & Qt::TabFocus) last = inside;
     }
     QWidget::setTabOrder(last, next);

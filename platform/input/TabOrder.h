@@ -1,15 +1,19 @@
 #pragma once
 
+#include "platform/base/Messages.h"
+
 class QWidget;
 
 namespace platform {
 
-/// Whether any of the widget lies within its window: what the program does not show now it moves out of
-/// sight.
+/// Puts a window into the tabulator's order right after another window and all windows inside that one.
+void TabAfter(HWND window, HWND former);
+
+/// Whether any part of the widget is inside its window. The program moves a hidden pane outside its window.
 bool isInSight(const QWidget& widget);
 
-/// Moves the keyboard focus on from a widget as the tabulator does, to the next that takes it and is in
-/// sight; false when there is no other.
+/// Moves the keyboard focus from a widget to the next one that takes it and is in sight, as the tabulator
+/// does. False when there is no other.
 bool focusNextInSight(QWidget& from, bool forward);
 
 }  // namespace platform

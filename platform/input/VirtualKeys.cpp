@@ -29,7 +29,7 @@ constexpr std::u16string_view greekLetters = u"ΑΒΨΔΕΦΓΗΙΞΚΛΜΝΟΠ;
 static_assert(greekLetters.size() == 26);
 
 constexpr UINT firstFunctionKey = 0x70;
-/// The key of a character that is on none of the keys known here.
+/// The number for characters that are on none of these keys.
 constexpr UINT anyCharacter = 0xE7;
 constexpr int firstKeyWithoutCharacter = 0x01000000;
 

@@ -4,9 +4,9 @@
 
 namespace platform {
 
-/// The virtual key number of a Qt key (Qt::Key), 0 for a key that has none here. Letters of the Greek
-/// keyboard have the number of the Latin letter on the same key, as accelerators expect; all other characters
-/// share one number.
+/// The virtual key number of a Qt key (Qt::Key), 0 if it has none here. A letter of the Greek keyboard has
+/// the number of the Latin letter on the same key, which accelerators expect. All other characters share one
+/// number.
 UINT virtualKey(int qtKey);
 
 }  // namespace platform

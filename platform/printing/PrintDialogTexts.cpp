@@ -13,7 +13,7 @@ struct Text {
     std::string_view greek;
 };
 
-// Where a text stands does not matter: no two places mean different things by one of these.
+// The context is ignored: each of these texts means the same wherever it appears.
 constexpr auto sorted = [](auto texts) {
     std::ranges::sort(texts, {}, &Text::source);
     return texts;

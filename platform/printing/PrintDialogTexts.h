@@ -4,8 +4,8 @@
 
 namespace platform {
 
-/// Greek for the dialog in which the user chooses a printer and a file, which comes in other languages only.
-/// Names of paper sizes stay.
+/// Greek texts for Qt's dialog in which the user chooses a printer or a file; Qt has none. Names of paper
+/// sizes are not translated.
 class PrintDialogTexts : public QTranslator {
   public:
     bool isEmpty() const override { return false; }

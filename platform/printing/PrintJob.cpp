@@ -24,7 +24,7 @@ namespace {
 
 PrintListener listener;
 
-/// The printer that prints files, or null.
+/// The printer that writes PDF files, null if documents go to a printer of the desktop.
 const PrinterConfig* pdfPrinter() {
     const auto& printer = machine().printer();
     const bool onPaper = printer && printer->desktop && !QPrinterInfo::defaultPrinter().isNull();
@@ -60,8 +60,6 @@ std::unique_ptr<QPrinter> defaultPrinter() {
 
 }  // namespace
 
-bool hasPrinter() { return machine().printer().has_value(); }
-
 std::unique_ptr<QPrinter> choosePrinter(QWidget& chooser) {
     std::unique_ptr<QPrinter> printer = defaultPrinter();
     if (!printer) return nullptr;
@@ -71,7 +69,7 @@ std::unique_ptr<QPrinter> choosePrinter(QWidget& chooser) {
 
 // NOLINTBEGIN(cppcoreguidelines-owning-memory): make_unique has no way to the private constructor
 std::unique_ptr<PrintJob> PrintJob::begin(std::string_view name, QWidget* chooser) {
-    if (!hasPrinter()) return nullptr;
+    if (!machine().printer()) return nullptr;
     std::unique_ptr<PrintJob> job;
     if (const PrinterConfig* pdf = pdfPrinter()) {
         auto file = std::make_unique<QSaveFile>(QString::fromStdString(nextPrintFile()));

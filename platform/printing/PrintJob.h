@@ -16,25 +16,22 @@ class QWidget;
 
 namespace platform {
 
-/// Whether the machine can print at all.
-bool hasPrinter();
-
-/// A document on its way to the machine's printer: a PDF file (`print-1.pdf`, `print-2.pdf`, …) where the
-/// machine says what the page is like, else the desktop's default printer. What was printed is recorded in
-/// the trace when the job ends.
+/// A document that is being printed: into a PDF file (`print-1.pdf`, `print-2.pdf`, …) if the machine's
+/// settings describe the page, else on the default printer of the desktop. When the job ends it is recorded
+/// in the trace.
 class PrintJob {
   public:
-    /// Begins a document with its first page; `name` is code page 1253. Nothing when there is no printer or
-    /// it cannot be started. With `chooser` the user may choose another printer of the desktop first, in a
-    /// dialog over that window, and nothing is begun when he gives up.
+    /// Begins a document with its first page; `name` is code page 1253. Null when there is no printer or it
+    /// cannot be started. With `chooser` the user may first choose another printer of the desktop, in a
+    /// dialog over that window; null if the user cancels.
     static std::unique_ptr<PrintJob> begin(std::string_view name, QWidget* chooser = nullptr);
     ~PrintJob();
     PrintJob(const PrintJob&) = delete;
     PrintJob& operator=(const PrintJob&) = delete;
 
-    /// Draws on the page in device pixels from its printable corner.
+    /// Draws on the page, in device pixels from the corner of its printable area.
     QPainter& painter() { return painter_; }
-    /// The printable page in device pixels, and pixels per inch down the page.
+    /// The size of the printable page in device pixels, and its vertical resolution in pixels per inch.
     const PrinterConfig& page() const { return page_; }
 
   private:
@@ -48,21 +45,22 @@ class PrintJob {
     QPainter painter_;
 };
 
-/// The path at which the next printed PDF file is to be written, in UTF-8; empty where it is printed on
-/// paper. Its folder is made if there is none.
+/// The path for the next PDF file, in UTF-8; empty when documents go to a printer. The folder is made if it
+/// is missing.
 std::string nextPrintFile();
 
-/// Records a document that something else printed to a file of `nextPrintFile`.
+/// Records a document that other code has printed into a file of `nextPrintFile`.
 void recordPrint(std::string_view name, int pages, const std::string& file);
-/// A file of `nextPrintFile` could not be written.
+/// Reports that a file of `nextPrintFile` could not be written.
 void printFailed(const std::string& file);
 
-/// Who tells the user of each file that is printed (its path in UTF-8), or could not be; nobody at first.
+/// Called for each file (its path in UTF-8) that was printed or could not be written, to tell the user. None
+/// at first.
 using PrintListener = std::function<void(const std::string& file, bool written)>;
 void setPrintListener(PrintListener listener);
 
-/// The desktop's default printer, after the user had his choice in a dialog over `chooser`; null when there
-/// is none or he gave up.
+/// The printer that the user chooses in a dialog over `chooser`, at first the desktop's default printer. Null
+/// when the desktop has no printer or the user cancels.
 std::unique_ptr<QPrinter> choosePrinter(QWidget& chooser);
 
 }  // namespace platform

@@ -15,8 +15,6 @@ constexpr const char* kGreekFace = "Liberation Sans";
 
 }  // namespace
 
-bool HasPrinter() { return hasPrinter(); }
-
 CPrinterDC::CPrinterDC(std::unique_ptr<PrintJob> job) : job_(std::move(job)) {}
 
 CPrinterDC::CPrinterDC(CPrinterDC&&) noexcept = default;
@@ -35,7 +33,7 @@ CSize CPrinterDC::PageSize() const { return {job_->page().horzres, job_->page().
 int CPrinterDC::LogPixelsY() const { return job_->page().logpixelsy; }
 
 void CPrinterDC::StretchBitmap(const CRect& target, const CBitmap& bitmap) {
-    if (bitmap.loaded()) job_->painter().drawImage(toQt(target), bitmap.image());
+    if (bitmap.Loaded()) job_->painter().drawImage(toQt(target), bitmap.Image());
 }
 
 void CPrinterDC::DrawTitle(std::string_view text, const CRect& area, int letterHeight) {

@@ -5,17 +5,13 @@
 #include <string_view>
 
 #include "platform/base/Geometry.h"
-#include "platform/drawing/DC.h"
+#include "platform/drawing/Bitmap.h"
 
 namespace platform {
 
 class PrintJob;
 
-/// Whether the machine can print at all.
-bool HasPrinter();
-
-/// A page of the default printer, on which one document of one page is drawn. It is printed when the context
-/// goes.
+/// A page of the default printer: a document of one page is drawn on it. The destructor prints it.
 class CPrinterDC {
   public:
     /// Begins a document; nothing when there is no default printer.
@@ -29,10 +25,9 @@ class CPrinterDC {
     /// Device pixels per inch down the page.
     int LogPixelsY() const;
 
-    /// Draws a whole bitmap stretched to `target` without smoothing.
+    /// Draws the whole bitmap scaled to `target`, without smoothing.
     void StretchBitmap(const CRect& target, const CBitmap& bitmap);
-    /// Writes one line in bold black letters of so many pixels at the top of `area` and in the middle of its
-    /// width.
+    /// Writes one line in bold black letters, `letterHeight` pixels high, centred at the top of `area`.
     void DrawTitle(std::string_view text, const CRect& area, int letterHeight);
 
   private:

@@ -6,7 +6,7 @@ class QWidget;
 
 namespace platform {
 
-/// A widget that tells which part of it is its window's client area.
+/// A widget of which only a part is its window's client area.
 class HasClientArea {
   public:
     virtual ~HasClientArea() = default;
@@ -14,10 +14,10 @@ class HasClientArea {
     virtual QRect clientArea() const = 0;
 };
 
-/// The area of a widget that counts as client area, in its coordinates: what it tells itself, the inside of
-/// one that scrolls, else the whole.
+/// The client area of a widget, in its coordinates: for a HasClientArea what it says, for a scroll area its
+/// viewport, for others the whole widget.
 QRect clientAreaOf(const QWidget& widget);
-/// The widget that receives the mouse: the inside of one that scrolls, else itself.
+/// The widget that receives mouse events: the viewport of a scroll area, else the widget itself.
 QWidget& mouseWidgetOf(QWidget& widget);
 
 }  // namespace platform

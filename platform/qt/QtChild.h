@@ -5,7 +5,7 @@
 
 namespace platform {
 
-/// Makes an object whose Qt parent, the last argument of its constructor, destroys it.
+/// Makes an object whose constructor takes its Qt parent as the last argument. The parent destroys it.
 template <class T, class... Arguments>
 T& makeQtChild(Arguments&&... arguments) {
     return *std::make_unique<T>(std::forward<Arguments>(arguments)...).release();

@@ -9,7 +9,7 @@
 #include "platform/base/Geometry.h"
 #include "platform/text/CodePage1253.h"
 
-/// The border between the program's types and Qt's.
+/// Conversions between the program's types and Qt's.
 namespace platform {
 
 inline QPoint toQt(CPoint p) { return {p.x, p.y}; }

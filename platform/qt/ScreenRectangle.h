@@ -8,8 +8,8 @@ class QWidget;
 
 namespace platform {
 
-/// A filled rectangle over all windows, anywhere on the screen. It takes no input and no focus, and is gone
-/// with the object.
+/// A filled rectangle in front of all windows, anywhere on the screen. It takes neither input nor the focus,
+/// and disappears with the object.
 class ScreenRectangle {
   public:
     explicit ScreenRectangle(COLORREF colour);
@@ -17,7 +17,7 @@ class ScreenRectangle {
     ScreenRectangle(const ScreenRectangle&) = delete;
     ScreenRectangle& operator=(const ScreenRectangle&) = delete;
 
-    /// Shows it here, in screen coordinates, and nowhere else.
+    /// Shows the rectangle at a place in screen coordinates, or moves it there.
     void Show(const CRect& rect);
 
   private:

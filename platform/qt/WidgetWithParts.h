@@ -8,7 +8,7 @@
 
 namespace platform {
 
-/// What screen readers are told of a part that a widget draws itself and the user can push like a button.
+/// A part that a widget draws itself and that the user can push like a button, as screen readers see it.
 class PushablePart : public QAccessibleInterface, public QAccessibleActionInterface {
   public:
     explicit PushablePart(QWidget& widget) : widget_(widget) {}
@@ -43,7 +43,8 @@ class PushablePart : public QAccessibleInterface, public QAccessibleActionInterf
     QWidget& widget_;
 };
 
-/// A widget with such parts: they come first among its children, then its child windows.
+/// A widget with such parts, as screen readers see it. Its children are first the parts, then its child
+/// windows.
 class WidgetWithParts : public QAccessibleWidget {
   public:
     using QAccessibleWidget::QAccessibleWidget;
@@ -68,7 +69,7 @@ class WidgetWithParts : public QAccessibleWidget {
             return id != 0 && QAccessible::accessibleInterface(id) == child;
         });
         const auto index = static_cast<int>(found - ids_.begin());
-        // Parts come and go.
+        // The part may no longer be there.
         if (found != ids_.end()) return index < count ? index : -1;
         const int window = QAccessibleWidget::indexOfChild(child);
         return window < 0 ? window : window + count;
@@ -87,12 +88,13 @@ class WidgetWithParts : public QAccessibleWidget {
   protected:
     virtual int partCount() const = 0;
     virtual std::unique_ptr<PushablePart> makePart(int index) const = 0;
-    /// The part at a point of the screen, and that to which the keyboard has come; −1 for none.
+    /// The index of the part at a point of the screen, and of the part that the keyboard has chosen; −1 for
+    /// none.
     virtual int partAt(QPoint point) const = 0;
     virtual int chosenPart() const = 0;
 
   private:
-    /// Made when it is first asked for; Qt keeps it until its id is given up.
+    /// The part's interface, made when it is first asked for. Qt keeps it until its id is deleted.
     QAccessibleInterface* part(int index) const {
         if (index < 0) return nullptr;
         const auto place = static_cast<std::size_t>(index);
@@ -106,7 +108,7 @@ class WidgetWithParts : public QAccessibleWidget {
     mutable std::vector<QAccessible::Id> ids_;
 };
 
-/// Tells that the keyboard has come to a part of a widget.
+/// Tells screen readers that the keyboard has chosen a part of a widget.
 inline void tellPartChosen(QWidget& widget, int index) {
     if (!QAccessible::isActive()) return;
     QAccessibleEvent event(&widget, QAccessible::Focus);

@@ -5,12 +5,12 @@
 #include <cstdint>
 #include <string_view>
 
-/// The one table of code page 1253 and the decoding of UTF-8, usable at compile time.
+/// The table of code page 1253 and the decoding of UTF-8, usable at compile time.
 namespace platform::codepage {
 
-/// The Unicode values of the bytes 0x80 to 0xFF.
-/// The bytes that the code page leaves undefined have the values that the platform's own table gives them:
-/// the C1 control of the same number, and U+F8F9 to U+F8FB for 0xAA, 0xD2 and 0xFF.
+/// The Unicode values of the bytes 0x80 to 0xFF. Bytes that the code page leaves undefined have the values
+/// that the platform gives them: the C1 control of the same number, and U+F8F9 to U+F8FB for 0xAA, 0xD2 and
+/// 0xFF.
 inline constexpr std::array<char16_t, 128> upperHalf = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,  // 80
     0x0088, 0x2030, 0x008A, 0x2039, 0x008C, 0x008D, 0x008E, 0x008F,  // 88
@@ -39,7 +39,8 @@ constexpr char16_t toUnicode(char byte) {
 /// The byte of a Unicode value, or −1 when the code page lacks it.
 constexpr int fromUnicode(char32_t value) {
     if (value < 0x80) return static_cast<int>(value);
-    // Most Greek letters lie at one distance from their Unicode values; the rest of the table is searched.
+    // Most Greek letters have one constant distance from their Unicode values; the rest of the table is
+    // searched.
     const char32_t guess = value >= 0x388 && value <= 0x3CE ? value - 0x2D0 : value;
     if (guess >= 0x80 && guess <= 0xFF && upperHalf[guess - 0x80] == value) return static_cast<int>(guess);
     for (std::size_t i = 0; i < upperHalf.size(); ++i) {
@@ -48,7 +49,7 @@ constexpr int fromUnicode(char32_t value) {
     return -1;
 }
 
-/// The lower-case letter of a letter, Latin or Greek; any other byte stays.
+/// The lower-case form of a letter, Latin or Greek; any other byte stays.
 constexpr char lowerByte(char byte) {
     const auto value = static_cast<unsigned char>(byte);
     const auto moved = [value](int distance) { return static_cast<char>(value + distance); };
@@ -69,8 +70,8 @@ struct Utf8Character {
     std::size_t length;  ///< how many bytes it takes; 1 for a malformed one
 };
 
-/// The character that starts at `offset`, which lies inside the text. Overlong forms, surrogates, values
-/// above U+10FFFF and cut sequences are malformed.
+/// The character that starts at `offset`, which must be inside the text. Overlong forms, surrogates, values
+/// above U+10FFFF and incomplete sequences are malformed.
 constexpr Utf8Character decodeUtf8(std::string_view text, std::size_t offset) {
     constexpr Utf8Character bad{Utf8Character::malformed, 1};
     const auto lead = static_cast<unsigned char>(text[offset]);
@@ -84,9 +85,9 @@ constexpr Utf8Character decodeUtf8(std::string_view text, std::size_t offset) {
         if ((next & 0xC0U) != 0x80) return bad;
         value = (value << 6) | (next & 0x3FU);
     }
-    const char32_t smallest = length == 2 ? 0x80 : length == 3 ? 0x800 : 0x10000;
+    const char32_t min = length == 2 ? 0x80 : length == 3 ? 0x800 : 0x10000;
     const bool surrogate = value >= 0xD800 && value <= 0xDFFF;
-    if (value < smallest || value > 0x10FFFF || surrogate) return bad;
+    if (value < min || value > 0x10FFFF || surrogate) return bad;
     return {value, length};
 }
 

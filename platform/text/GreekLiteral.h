@@ -22,8 +22,8 @@ struct LiteralBytes {
     char bytes[N]{};
 };
 
-/// Not defined: a call of it is what the compiler reports when a literal has a character outside code page
-/// 1253.
+/// Never defined. When a literal has a character outside code page 1253, the compiler's message names this
+/// function.
 void literalHasCharacterOutsideCodePage1253();
 
 template <LiteralBytes Literal>
@@ -56,9 +56,9 @@ inline constexpr auto convertedLiteral = convertLiteral<Literal>();
 
 inline namespace literals {
 
-/// A literal written in Greek in a UTF-8 source, converted to code page 1253 at compile time: "Δομές"_gr.
-/// The view lasts as long as the program, and a NUL follows its last byte. A character outside the code page
-/// is a compile error.
+/// A literal written in Greek in a UTF-8 source, converted to code page 1253 at compile time: "Δομές"_gr. The
+/// view is valid for the whole run, and a NUL follows its last byte. A character outside the code page is a
+/// compile error.
 template <codepage::LiteralBytes Literal>
 constexpr std::string_view operator""_gr() {
     constexpr auto& bytes = codepage::convertedLiteral<Literal>;

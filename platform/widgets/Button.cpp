@@ -11,8 +11,8 @@ namespace platform {
 
 namespace {
 
-/// The bits of a button's style that tell its kind.
-constexpr DWORD kButtonKind = 0x000F;
+/// The bits of a button's style that hold its kind.
+constexpr DWORD buttonKindMask = 0x000F;
 
 QAbstractButton* widgetOf(const CButton& button) {
     return qobject_cast<QAbstractButton*>(WindowTable::instance().widget(button.GetSafeHwnd()));
@@ -22,7 +22,7 @@ QAbstractButton* widgetOf(const CButton& button) {
 
 bool CButton::Create(std::string_view text, DWORD style, const CRect& rect, CWnd& parent, UINT id) {
     WindowWidget* const around = WindowWidget::of(parent);
-    if (bound() || !around || (style & kButtonKind) != BS_OWNERDRAW) return false;
+    if (Bound() || !around || (style & buttonKindMask) != BS_OWNERDRAW) return false;
     makeOwnerDrawButton(*around, static_cast<int>(id)).bind(*this);
     SetWindowText(text);
     MoveWindow(rect);

@@ -3,8 +3,8 @@
 namespace platform {
 
 const QCollator& greekOrder() {
-    // The common order has Greek letters as Greek dictionaries do, and Latin ones before them as this
-    // platform does; that of the Greek language has them after.
+    // The order for English sorts Greek letters as Greek dictionaries do, and Latin letters before them, as
+    // this platform does. The order for Greek puts Latin letters last.
     static const QCollator order(QLocale(QLocale::English, QLocale::UnitedStates));
     return order;
 }

@@ -4,8 +4,8 @@
 
 namespace platform {
 
-/// The alphabetical order in which controls sort what they show: that of a dictionary, Latin
-/// letters before Greek ones.
+/// The alphabetical order in which controls sort their items: that of dictionaries, with Latin letters before
+/// Greek ones.
 const QCollator& greekOrder();
 
 }  // namespace platform

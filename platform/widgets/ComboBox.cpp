@@ -18,7 +18,7 @@ QComboBox* widgetOf(const CComboBox& box) {
 int CComboBox::AddString(std::string_view text) {
     QComboBox* const box = widgetOf(*this);
     if (!box) return -1;
-    // The first one added would be selected by itself.
+    // Qt would select the first entry that is added.
     const int selected = box->currentIndex();
     box->addItem(toQt(text));
     box->setCurrentIndex(selected);

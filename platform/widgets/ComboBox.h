@@ -7,16 +7,16 @@
 
 namespace platform {
 
-/// A drop-down list. Entries count from 0.
+/// A drop-down list. Entries are counted from 0.
 class CComboBox : public CControl {
   public:
     /// Appends an entry and returns its index.
     int AddString(std::string_view text);
     /// The selected entry, −1 when there is none.
     int GetCurSel() const;
-    /// Selects an entry without telling.
+    /// Selects an entry, without a notification.
     void SetCurSel(int index);
-    /// Empty for an index that is none.
+    /// The text of an entry; empty for an invalid index.
     std::string GetLBText(int index) const;
 };
 

@@ -5,15 +5,15 @@
 
 namespace platform {
 
-/// A standard control of a dialog or another window. Its class's map sees its messages first; those without a
-/// row are the control's own.
+/// A standard control of a dialog or another window. The message map of its class gets its messages first;
+/// the control itself handles those that the map does not have.
 class CControl : public CWnd {
   public:
-    /// Whether it stands behind a control: bound to one of a dialog's by DDX_Control, or created.
-    bool bound() const { return GetSafeHwnd() != 0; }
+    /// Whether the object has a control: it was bound to one by DDX_Control, or has created one.
+    bool Bound() const { return GetSafeHwnd() != 0; }
 
   protected:
-    /// Has the control treat the message that is being handled as if there were no handler.
+    /// Has the control handle the current message as if there were no handler in the map.
     void Default();
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 };

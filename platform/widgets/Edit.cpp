@@ -26,7 +26,7 @@ MultiLineEdit* linesOf(const CEdit& edit) { return dynamic_cast<MultiLineEdit*>(
 
 bool CEdit::Create(DWORD style, const CRect& rect, CWnd& parent, UINT id) {
     WindowWidget* const around = WindowWidget::of(parent);
-    if (bound() || !around) return false;
+    if (Bound() || !around) return false;
     makeEdit(style, *around, static_cast<int>(id), std::string(GetRuntimeClass().name)).bind(*this);
     MoveWindow(rect);
     ShowWindow(style & WS_VISIBLE ? SW_SHOW : SW_HIDE);

@@ -1,31 +1,37 @@
 #pragma once
 
-#include "platform/drawing/Font.h"
 #include "platform/widgets/Control.h"
 
 namespace platform {
 
-/// An edit of one line, or of several with ES_MULTILINE.
+/// A font by its name on the platform. The nearest installed font with Greek letters is used.
+struct LOGFONT {
+    std::string_view faceName;
+    int height = 0;  ///< negative: height of the letters in pixels
+    int weight = 400;
+};
+
+/// An edit with one line, or with several if it has the style ES_MULTILINE.
 class CEdit : public CControl {
   public:
-    /// Makes one outside a dialog's template, in the parent's client area.
+    /// Makes an edit outside a dialog template, in the parent's client area.
     bool Create(DWORD style, const CRect& rect, CWnd& parent, UINT id);
 
     void SetFont(const LOGFONT& font);
     void SetColors(COLORREF text, COLORREF background);
-    /// Never shows the caret again.
+    /// Hides the caret for good. For edits with several lines.
     void HideCaret();
-    /// Has an edit of several lines take no text from the clipboard, an input method or the mouse.
+    /// Makes an edit with several lines ignore the clipboard, input methods and the mouse.
     void SetReadOnly();
 
-    /// Selects the characters from `start` up to `end` (−1: to the end of the text), the caret after them and
-    /// in view.
+    /// Selects the characters from `start` up to `end` (−1: the end of the text), puts the caret after them
+    /// and scrolls it into view.
     void SetSel(int start, int end);
-    /// Keeps typing from making the text longer than this; a text that the program sets may be.
+    /// Limits the length of a text that is typed. A text that the program sets may be longer.
     void LimitText(int length);
-    /// A bar for a text of several lines that is taller than the edit; it wraps beside the bar.
+    /// Shows or hides a scroll bar in an edit with several lines. The text wraps to the left of the bar.
     void ShowScrollBar(bool show);
-    /// Lines as they are wrapped, at least 1.
+    /// The number of lines after wrapping, at least 1.
     int GetLineCount() const;
 };
 

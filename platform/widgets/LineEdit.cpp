@@ -11,10 +11,10 @@ namespace platform {
 
 namespace {
 
-/// What an edit takes when nothing else is said.
-constexpr int mostCharacters = 30000;
+/// The limit of an edit that is given no other.
+constexpr int defaultLimit = 30000;
 
-/// Turns what is entered into small letters.
+/// Changes entered text to lower case.
 class LowerCase : public QValidator {
   public:
     using QValidator::QValidator;
@@ -26,7 +26,7 @@ class LowerCase : public QValidator {
 
 }  // namespace
 
-LineEdit::LineEdit(DWORD style, QWidget& parent) : QLineEdit(&parent), limit_(mostCharacters) {
+LineEdit::LineEdit(DWORD style, QWidget& parent) : QLineEdit(&parent), limit_(defaultLimit) {
     keepLimit();
     if (style & ES_LOWERCASE) setValidator(&makeQtChild<LowerCase>(this));
     if (!(style & ES_AUTOHSCROLL)) connect(this, &QLineEdit::textEdited, this, &LineEdit::keepWidth);

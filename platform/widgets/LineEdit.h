@@ -7,7 +7,7 @@
 
 namespace platform {
 
-/// An edit of one line.
+/// An edit with one line.
 class LineEdit : public QLineEdit, public TextHolder {
   public:
     LineEdit(DWORD style, QWidget& parent);
@@ -15,7 +15,7 @@ class LineEdit : public QLineEdit, public TextHolder {
     /// Sets the text, however long.
     void setContent(const QString& text) override;
     QString content() const override { return text(); }
-    /// Typing makes the text no longer than this; a longer one that the program sets is shown whole.
+    /// Limits the length of a text that is typed. A longer text that the program sets is shown whole.
     void limitText(int length);
 
   private:

@@ -17,7 +17,7 @@ void CListBox::AddString(std::string_view text) {
     ListBoxView* const view = viewOf(*this);
     if (!view) return;
     view->entries().add(text);
-    // Many are added at once; they are shown when the caller is done.
+    // Often many entries are added in a row; they are shown together.
     view->settleLater();
 }
 

@@ -115,7 +115,7 @@ void ListBoxView::timerEvent(QTimerEvent* event) {
 void ListBoxView::mousePressEvent(QMouseEvent* event) {
     const int before = selected();
     QListView::mousePressEvent(event);
-    // A click picks also what the program had selected.
+    // A click on the selected entry is a choice too: the program may have selected it.
     if (before >= 0 && indexAt(event->pos()).row() == before) sendCommand(*this, LBN_SELCHANGE);
 }
 

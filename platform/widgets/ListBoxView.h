@@ -10,8 +10,8 @@
 
 namespace platform {
 
-/// The entries of a list box, in code page 1253. A sorted box has them in order whenever they are looked at,
-/// which costs one sorting however many were added before.
+/// The entries of a list box, in code page 1253. A sorted list is put in order when it is next read, so
+/// adding many entries costs only one sort.
 class ListBoxEntries : public QAbstractListModel {
   public:
     explicit ListBoxEntries(bool sorted) : sorted_(sorted) {}
@@ -20,14 +20,14 @@ class ListBoxEntries : public QAbstractListModel {
     void clear();
     int count() const { return static_cast<int>(entries_.size()); }
     const std::string& at(int index) const;
-    /// The first entry that begins with `prefix` in any letter case, looked for from the one after `after` on
-    /// and then from the first; −1 when there is none.
+    /// The first entry that begins with `prefix`, in upper or lower case. The search starts after entry
+    /// `after` and wraps around. −1 when there is none.
     int find(int after, std::string_view prefix) const;
 
     int rowCount(const QModelIndex& parent) const override;
     QVariant data(const QModelIndex& index, int role) const override;
 
-    /// Puts the entries added since the last time in their places and shows them.
+    /// Sorts the new entries in, and shows them.
     void settle();
 
   private:
@@ -36,7 +36,7 @@ class ListBoxEntries : public QAbstractListModel {
     bool sorted_;
     mutable bool inOrder_ = true;
     mutable std::vector<std::string> entries_;
-    int shown_ = 0;
+    int shown_ = 0;  ///< how many entries the view knows
 };
 
 /// A list box in which one entry can be selected.
@@ -45,11 +45,11 @@ class ListBoxView : public QListView {
     ListBoxView(DWORD style, QWidget& parent);
 
     ListBoxEntries& entries() { return entries_; }
-    /// Shows what was added since, when the program is back in its event loop.
+    /// Shows new entries when the program is back in its event loop.
     void settleLater();
     /// The index of the selected entry, −1 for none.
     int selected() const;
-    /// Selects an entry and brings it into view; −1 selects none.
+    /// Selects an entry and scrolls it into view; −1 clears the selection.
     void select(int index);
 
   protected:
@@ -62,7 +62,7 @@ class ListBoxView : public QListView {
   private:
     ListBoxEntries entries_;
     QBasicTimer settling_;
-    bool bySelect_ = false;
+    bool bySelect_ = false;  ///< the selection is changed by `select`
 };
 
 }  // namespace platform

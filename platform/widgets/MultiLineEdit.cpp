@@ -13,9 +13,9 @@ namespace platform {
 
 namespace {
 
-/// Between the text and the left and right border.
+/// The distance of the text from the left and right border.
 constexpr int sideMargin = 4;
-/// What a line is higher than its letters are.
+/// The height of a line is that of its letters plus this.
 constexpr int lineGap = 4;
 
 }  // namespace
@@ -42,7 +42,7 @@ void MultiLineEdit::setContent(const QString& text) {
 
 int MultiLineEdit::lineCount() {
     wrapToWidth();
-    // Asking for the size has the document laid out.
+    // Asking for the size makes the document lay itself out.
     document()->documentLayout()->documentSize();
     int lines = 0;
     for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
@@ -65,7 +65,7 @@ void MultiLineEdit::showScrollBar(bool show) {
 void MultiLineEdit::wrapToWidth() {
     const bool hasBar = verticalScrollBarPolicy() == Qt::ScrollBarAlwaysOn;
     const int barWidth = hasBar ? verticalScrollBar()->sizeHint().width() : 0;
-    // A hidden widget has its new size before its inside has.
+    // While the widget is hidden, its viewport may not have the new size yet.
     setLineWrapColumnOrWidth(width() - 2 * frameWidth() - barWidth);
 }
 
@@ -73,7 +73,7 @@ void MultiLineEdit::setLineHeights() {
     QTextFrameFormat margins = document()->rootFrame()->frameFormat();
     margins.setLeftMargin(sideMargin);
     margins.setRightMargin(sideMargin);
-    // The letters stand at the lower edge of their line; half of the gap goes below the last one.
+    // The letters are at the lower edge of their line. Half of the gap is to be below the last line.
     margins.setTopMargin(-lineGap / 2.0);
     document()->rootFrame()->setFrameFormat(margins);
     QTextBlockFormat line;

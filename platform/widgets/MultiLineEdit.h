@@ -6,19 +6,18 @@
 
 namespace platform {
 
-/// An edit of several lines, without a scroll bar unless asked for, whose text wraps at its width, anywhere
-/// where a word is too long for a line. What it shows and how many lines that is are the same whether it is
-/// on show or not.
+/// An edit with several lines, at first without a scroll bar. Its text wraps at its width, and a word that is
+/// too long for a line is broken. It has the same content and number of lines whether it is visible or not.
 class MultiLineEdit : public QTextEdit, public TextHolder {
   public:
     explicit MultiLineEdit(QWidget& parent);
 
     void setContent(const QString& text) override;
-    /// With CR LF at the ends of lines.
+    /// The text, its lines ended by CR LF.
     QString content() const override;
-    /// Lines as wrapped, at least 1.
+    /// The number of lines after wrapping, at least 1.
     int lineCount();
-    /// For a text that is taller than the edit. The text wraps beside the bar.
+    /// Shows or hides the scroll bar. The text wraps to the left of the bar.
     void showScrollBar(bool show);
 
   protected:

@@ -11,7 +11,7 @@ namespace platform {
 
 namespace {
 
-/// Draws on a picture that lives as long as a paint event.
+/// Draws on a surface during a paint event.
 class PictureDC : public CDC {
   public:
     explicit PictureDC(Surface& surface) : CDC(std::make_unique<Picture>(surface)) {}

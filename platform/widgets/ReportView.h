@@ -6,14 +6,15 @@
 
 namespace platform {
 
-/// A list view in report mode: rows of texts under column headers, of which one can be selected.
+/// A list view in report mode: rows of texts under column headers; one row can be selected.
 class ReportView : public QTreeWidget {
   public:
     ReportView(DWORD style, QWidget& parent);
 
-    /// The index of the new row: its place in the order of column 0 in a sorted list, else the last.
+    /// Adds a row and returns its index: its place in the alphabetical order of column 0 in a sorted list,
+    /// else the last.
     int addRow(const QString& text);
-    /// The index of the selected row, −1 for none.
+    /// The index of the selected row, −1 if there is none.
     int selectedRow() const;
 
   protected:

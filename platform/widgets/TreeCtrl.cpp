@@ -23,12 +23,12 @@ QTreeWidgetItem* toQt(HTREEITEM item) { return reinterpret_cast<QTreeWidgetItem*
 
 HTREEITEM handleOf(QTreeWidgetItem* item) { return reinterpret_cast<HTREEITEM>(item); }
 
-/// The item beside another one, `step` places further down.
+/// The sibling of an item that is `step` places below it.
 HTREEITEM sibling(HTREEITEM item, int step) {
     QTreeWidgetItem* const it = toQt(item);
     if (!it || !it->treeWidget()) return nullptr;
     QTreeWidgetItem* const above = it->parent() ? it->parent() : it->treeWidget()->invisibleRootItem();
-    // An index knows its row, for which asking the item above would search.
+    // The index of an item knows its row; the parent would have to search for it.
     return handleOf(above->child(it->treeWidget()->indexFromItem(it).row() + step));
 }
 

@@ -7,10 +7,10 @@
 
 namespace platform {
 
-/// Where a new item comes among those beside it.
+/// The place of a new item among its siblings.
 enum class TreePlace { last, sorted };
 
-/// Parts of a tree view in which a point can lie, under their published values.
+/// Parts of a tree view in which a point can be, with their published values.
 inline constexpr UINT TVHT_NOWHERE = 0x0001;
 inline constexpr UINT TVHT_ONITEM = 0x0046;
 inline constexpr UINT TVHT_ABOVE = 0x0100;
@@ -18,11 +18,11 @@ inline constexpr UINT TVHT_BELOW = 0x0200;
 inline constexpr UINT TVHT_TORIGHT = 0x0400;
 inline constexpr UINT TVHT_TOLEFT = 0x0800;
 
-/// A tree of texts of which one can be selected. An item that is null stands for none: asked about it, the
-/// tree answers with nothing.
+/// A tree of texts, one of which can be selected. A null item stands for no item; functions that are given
+/// one return nothing.
 class CTreeCtrl : public CControl {
   public:
-    /// Inserts an item below `parent`, or at the top for null.
+    /// Inserts an item below `parent`, or at the top level for null.
     HTREEITEM InsertItem(std::string_view text, HTREEITEM parent = nullptr,
                          TreePlace place = TreePlace::last);
     /// Deletes the item and all below it.
@@ -39,7 +39,7 @@ class CTreeCtrl : public CControl {
     HTREEITEM GetParentItem(HTREEITEM item) const;
     HTREEITEM GetNextSiblingItem(HTREEITEM item) const;
     HTREEITEM GetPrevSiblingItem(HTREEITEM item) const;
-    /// The items above and below among those that are not hidden in closed ones.
+    /// The next item above or below that is not hidden in a closed item.
     HTREEITEM GetNextVisibleItem(HTREEITEM item) const;
     HTREEITEM GetPrevVisibleItem(HTREEITEM item) const;
 
@@ -48,11 +48,11 @@ class CTreeCtrl : public CControl {
     void SelectItem(HTREEITEM item);
     void Expand(HTREEITEM item);
     void EnsureVisible(HTREEITEM item);
-    /// Sorts the items just below `item` alphabetically.
+    /// Sorts the direct children of `item` alphabetically.
     void SortChildren(HTREEITEM item);
 
-    /// The item in whose row a point of the client area lies, null when there is none; `flags` tells where
-    /// the point lies (TVHT_…).
+    /// The item in whose row a point of the client area is, null when there is none. `flags` receives where
+    /// the point is (TVHT_…).
     HTREEITEM HitTest(CPoint point, UINT& flags) const;
 };
 

@@ -30,7 +30,7 @@ int placeFor(const QString& text, const QTreeWidgetItem& parent) {
     return low;
 }
 
-/// Rows of text alone would lie too close to follow the lines between them.
+/// Rows that are high enough for the lines between them.
 class RowDelegate : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -94,7 +94,7 @@ void TreeWidget::mousePressEvent(QMouseEvent* event) {
     QTreeWidget::mousePressEvent(event);
 }
 
-// What follows the beginning of a drag is the program's affair and selects nothing.
+// After the drag has begun the program handles the mouse, and nothing is selected.
 void TreeWidget::mouseMoveEvent(QMouseEvent* event) {
     if (!dragTold_) QTreeWidget::mouseMoveEvent(event);
 }
@@ -104,14 +104,13 @@ void TreeWidget::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void TreeWidget::drawBranches(QPainter* painter, const QRect& rect, const QModelIndex& index) const {
-    // Of a selected row the text alone is to be marked.
+    // Only the text of a selected row is to be marked.
     painter->fillRect(rect, palette().base());
     drawLines(*painter, rect, index);
     QTreeWidget::drawBranches(painter, rect, index);
 }
 
-/// The style draws the buttons only. The lines come from the items above, go on to those below, and leave out
-/// the button.
+/// The style draws only the buttons. These are the lines, which leave the buttons free.
 void TreeWidget::drawLines(QPainter& painter, const QRect& rect, const QModelIndex& index) const {
     constexpr int buttonRadius = 6;
     painter.setPen(QPen(palette().color(QPalette::Dark), 1, Qt::DotLine));

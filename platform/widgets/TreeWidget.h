@@ -6,12 +6,13 @@
 
 namespace platform {
 
-/// A tree view with lines and buttons, at the root too.
+/// A tree view with lines and buttons, also at the top level.
 class TreeWidget : public QTreeWidget {
   public:
     explicit TreeWidget(QWidget& parent);
 
-    /// Inserts an item below another, or at the top for null: in alphabetical order, or as the last.
+    /// Inserts an item below another, or at the top level for null: at its place in the alphabetical order,
+    /// or as the last.
     QTreeWidgetItem* insert(const QString& text, QTreeWidgetItem* parent, bool inOrder);
 
   protected:

@@ -7,7 +7,7 @@
 namespace platform {
 
 void SetClipboardBitmap(const CBitmap& bitmap) {
-    if (bitmap.loaded()) QGuiApplication::clipboard()->setImage(bitmap.image());
+    if (bitmap.Loaded()) QGuiApplication::clipboard()->setImage(bitmap.Image());
 }
 
 }  // namespace platform

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "platform/drawing/DC.h"
+#include "platform/drawing/Bitmap.h"
 
 namespace platform {
 
-/// Empties the clipboard and puts the bitmap on it; nothing happens when it is not loaded.
+/// Replaces the content of the clipboard by the bitmap; does nothing if the bitmap is not loaded.
 void SetClipboardBitmap(const CBitmap& bitmap);
 
 }  // namespace platform

@@ -6,7 +6,7 @@ namespace platform {
 
 namespace {
 
-/// The first row of the number, from the class itself down to its bases, for which `wanted` holds.
+/// The first row with this id for which `wanted` holds, from the class itself down to its bases.
 template <class Predicate>
 const MessageMapEntry* findRow(const MessageMap* map, UINT id, Predicate wanted) {
     for (; map; map = map->base) {
@@ -46,10 +46,10 @@ bool CCmdTarget::OnCmdMsg(UINT id, CommandMessage what, CCmdUI* ui) {
     return rule || handler;
 }
 
-bool CCmdTarget::OnEvent(int controlId, std::int32_t dispid, std::span<Variant> arguments) {
+bool CCmdTarget::OnEvent(int componentId, std::int32_t dispid, std::span<Variant> arguments) {
     for (const EventSinkMap* map = GetEventSinkMap(); map; map = map->base) {
         for (const EventSinkEntry& row : map->entries) {
-            if (row.controlId == controlId && row.dispid == dispid) return row.handler(*this, arguments);
+            if (row.componentId == componentId && row.dispid == dispid) return row.handler(*this, arguments);
         }
     }
     return false;

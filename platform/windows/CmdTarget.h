@@ -12,15 +12,13 @@ namespace platform {
 class CCmdTarget;
 struct NMHDR;
 
-/// State of one command while its enabling rule runs. A command that has a handler starts enabled.
+/// The state of one command while its update handler runs. A command that has a handler is enabled at first.
 class CCmdUI {
   public:
-    explicit CCmdUI(UINT id) : m_nID(id) {}
-    UINT m_nID;
     void Enable(bool on = true) { enabled_ = on; }
     void SetCheck(bool on = true) { checked_ = on; }
-    bool enabled() const { return enabled_; }
-    bool checked() const { return checked_; }
+    bool Enabled() const { return enabled_; }
+    bool Checked() const { return checked_; }
 
   private:
     bool enabled_ = true;
@@ -29,22 +27,22 @@ class CCmdUI {
 
 /// One row of a message map; exactly one of the four functions is set.
 struct MessageMapEntry {
-    UINT id;  ///< message number, or command id for commands and their rules, or controlCode for controls
+    UINT id;  ///< message number, command id (for commands and updates), or controlCode
     LRESULT (*message)(CCmdTarget&, WPARAM, LPARAM) = nullptr;
     void (*command)(CCmdTarget&) = nullptr;
     void (*update)(CCmdTarget&, CCmdUI&) = nullptr;
     LRESULT (*notify)(CCmdTarget&, NMHDR&) = nullptr;
 };
 
-/// A class's rows and its base class's map.
+/// The rows of a class, and the map of its base class.
 struct MessageMap {
     const MessageMap* base;
     std::span<const MessageMapEntry> entries;
 };
 
-/// One handled event of a hosted control.
+/// One handled event of a hosted component.
 struct EventSinkEntry {
-    int controlId;
+    int componentId;
     std::int32_t dispid;
     bool (*handler)(CCmdTarget&, std::span<Variant> arguments);
 };
@@ -63,18 +61,18 @@ class CCmdTarget : public CObject {
     virtual const MessageMap* GetMessageMap() const { return nullptr; }
     virtual const EventSinkMap* GetEventSinkMap() const { return nullptr; }
 
-    /// Carries out a command or runs its rule, by this object's map and then by whatever the class
-    /// routes to. Returns whether anything had a handler: for `update` with no rule but a command
-    /// handler the state stays enabled and the result is true.
+    /// Carries out a command or runs its update handler: that of this object's map, else those of the objects
+    /// to which the class routes commands. Returns whether there was any handler. A command that only has a
+    /// handler, and no update handler, stays enabled.
     virtual bool OnCmdMsg(UINT id, CommandMessage what, CCmdUI* ui);
 
-    /// Hands an event to the sink map; false when it is not handled.
-    bool OnEvent(int controlId, std::int32_t dispid, std::span<Variant> arguments);
+    /// Passes an event to the sink map; false when it is not handled.
+    bool OnEvent(int componentId, std::int32_t dispid, std::span<Variant> arguments);
 
   protected:
     /// The row for a window message, or null.
     const MessageMapEntry* findMessage(UINT message) const;
-    /// Hands a control's notification to its handler, if there is one, and marks it as handled.
+    /// Passes a control's notification to its handler, if there is one, and marks it as handled.
     LRESULT handleNotification(NMHDR& notification);
 };
 

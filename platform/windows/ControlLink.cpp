@@ -50,11 +50,11 @@ ControlLink* ControlLink::of(HWND control) { return of(table().widget(control));
 
 void ControlLink::bind(CWnd& object) {
     object_ = &object;
-    object.m_hWnd = handle_;
+    object.handle_ = handle_;
 }
 
 void ControlLink::unbind() {
-    if (object_) object_->m_hWnd = 0;
+    if (object_) object_->handle_ = 0;
     object_ = nullptr;
 }
 

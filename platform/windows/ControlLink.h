@@ -11,35 +11,35 @@ namespace platform {
 
 class CWnd;
 
-/// Stands behind each standard control: passes what it tells to the window around it, and its own messages to
-/// the object that the program has bound to it, if any.
+/// Connects a standard control with the program: passes its notifications to the containing window, and its
+/// messages to the object that the program has bound to it, if any.
 class ControlLink : public QObject {
   public:
-    /// Belongs to `control`; made by enter.
+    /// Use `enter`. `control` is the Qt parent.
     explicit ControlLink(QWidget& control);
     ~ControlLink() override;
 
-    /// Enters the control in the window table; it belongs to `control` from then on.
+    /// Puts the control into the window table and makes its link, which belongs to `control`.
     static ControlLink& enter(QWidget& control, std::string className, int id);
-    /// The link of a control, null for any other window.
+    /// The link of a control, null for other windows.
     static ControlLink* of(const QWidget* control);
     static ControlLink* of(HWND control);
 
-    /// Makes it the window of `object`, which has none.
+    /// Makes the control the window of `object`, which must have no window.
     void bind(CWnd& object);
-    /// Takes the object away again.
+    /// Separates the object from the control.
     void unbind();
     CWnd* object() const { return object_; }
     HWND handle() const { return handle_; }
 
-    /// Sends WM_COMMAND with this code to the window around the control.
+    /// Sends WM_COMMAND with this code to the containing window.
     void command(int code);
-    /// Sends WM_NOTIFY, its header filled in here; whether it was handled.
+    /// Fills in the header and sends WM_NOTIFY to the containing window; whether it was handled.
     bool notify(NMHDR& header, int code);
 
-    /// Has the control treat the message that its object is looking at.
+    /// Has the control itself handle the message that its object is handling now.
     void leaveToControl() { left_ = true; }
-    /// Takes the object and the handle away, as the end of a window does; the widget lives on.
+    /// Separates object and handle from the control, as when a window ends; the widget lives on.
     void detach();
 
   protected:
@@ -49,12 +49,12 @@ class ControlLink : public QObject {
     QWidget& control_;
     HWND handle_ = 0;
     CWnd* object_ = nullptr;
-    bool left_ = false;
+    bool left_ = false;  ///< the object has left its message to the control
 };
 
-/// Sends a control's command, unless it has no link any more.
+/// Sends a command of a control; nothing happens when it has no link any more.
 void sendCommand(const QWidget& control, int code);
-/// Sends a notification without further content; whether it was handled.
+/// Sends a notification that has only the header; whether it was handled.
 bool sendNotification(const QWidget& control, int code);
 template <class Notification>
 bool sendNotification(const QWidget& control, int code, Notification& notification) {

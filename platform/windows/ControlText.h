@@ -8,7 +8,7 @@ class QWidget;
 
 namespace platform {
 
-/// A control that keeps its text itself.
+/// A control that stores its text itself.
 class TextHolder {
   public:
     virtual ~TextHolder() = default;
@@ -16,7 +16,7 @@ class TextHolder {
     virtual void setContent(const QString& text) = 0;
 };
 
-/// What stands in a control or in a window's caption; a bitmap has no text.
+/// The text of a control, or a window's caption. A bitmap has no text.
 std::string controlText(const QWidget& control);
 void setControlText(QWidget& control, std::string_view text);
 

@@ -1,3 +1,5 @@
+#include "platform/windows/Cursor.h"
+
 #include <QApplication>
 #include <QCursor>
 #include <QPixmap>
@@ -10,7 +12,6 @@
 #include "platform/qt/QtConvert.h"
 #include "platform/qt/WindowTable.h"
 #include "platform/windows/ControlLink.h"
-#include "platform/windows/CursorShape.h"
 #include "platform/windows/WindowWidget.h"
 
 namespace platform {
@@ -29,7 +30,7 @@ QCursor loadCursor(UINT id) {
     return QCursor(shape, 0, 0);
 }
 
-/// Cursor resources have ids of 16 bits.
+/// Not a resource: ids of resources have 16 bits.
 constexpr UINT noEntryId = 0x10000;
 
 QCursor shapeOf(UINT id) {
@@ -41,7 +42,7 @@ WindowWidget* windowUnderPointer() {
     return WindowWidget::find(WindowTable::instance().handleOf(QApplication::widgetAt(QCursor::pos())));
 }
 
-/// The standard control over which the cursor is wanted, null when that is another window.
+/// The standard control that is to show the cursor, null when that is another window.
 QWidget* controlForCursor() {
     const ControlLink* const link = ControlLink::of(askedWindow != 0 ? askedWindow : capturingWindow());
     QWidget* const control = link ? WindowTable::instance().widget(link->handle()) : nullptr;
@@ -50,11 +51,11 @@ QWidget* controlForCursor() {
 
 }  // namespace
 
-CCursor CCursor::arrow() { return {}; }
+CCursor CCursor::Arrow() { return {}; }
 
-CCursor CCursor::noEntry() { return resource(noEntryId); }
+CCursor CCursor::NoEntry() { return FromResource(noEntryId); }
 
-CCursor CCursor::resource(UINT id) {
+CCursor CCursor::FromResource(UINT id) {
     CCursor cursor;
     cursor.id_ = id;
     return cursor;
@@ -70,9 +71,8 @@ void CCursor::Set() const {
 
 void askForCursor(HWND window) {
     const HWND outer = std::exchange(askedWindow, window);
-    // A standard control has a cursor of its own.
     const bool set = WindowTable::instance().send(window, WM_SETCURSOR) != 0;
-    if (!set && !ControlLink::of(window)) CCursor::arrow().Set();
+    if (!set && !ControlLink::of(window)) CCursor::Arrow().Set();
     askedWindow = outer;
 }
 

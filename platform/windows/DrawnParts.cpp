@@ -7,14 +7,13 @@
 #include "platform/qt/QtConvert.h"
 #include "platform/qt/WidgetWithParts.h"
 #include "platform/qt/WindowTable.h"
-#include "platform/windows/DrawnPartsAccess.h"
 #include "platform/windows/SurfaceWidget.h"
 
 namespace platform {
 
 namespace {
 
-/// The object of a window, null once that has ended.
+/// The object of a window, null when the window has ended.
 CWnd* windowOf(const QWidget& widget) { return CWnd::FromHandle(WindowTable::instance().handleOf(&widget)); }
 
 std::vector<DrawnPart> partsOf(const QWidget& widget) {
@@ -22,7 +21,7 @@ std::vector<DrawnPart> partsOf(const QWidget& widget) {
     return window ? window->DrawnParts() : std::vector<DrawnPart>();
 }
 
-/// Where a part is on the screen.
+/// The place of a part on the screen.
 QRect placeOf(const QWidget& widget, const DrawnPart& part) {
     const CWnd* const window = windowOf(widget);
     if (!window) return {};
@@ -30,7 +29,7 @@ QRect placeOf(const QWidget& widget, const DrawnPart& part) {
     return {corner.x, corner.y, part.place.Width(), part.place.Height()};
 }
 
-/// One part. The window is asked anew each time, since parts come and go.
+/// One part. The window is asked for its parts each time, since they change.
 class PartAccessible : public PushablePart {
   public:
     PartAccessible(QWidget& widget, int index) : PushablePart(widget), widget_(widget), index_(index) {}
@@ -102,8 +101,8 @@ QAccessibleInterface* accessibleOf(const QString&, QObject* object) {
 
 }  // namespace
 
-void tellOfDrawnParts() {
-    // Qt keeps one entry for each factory.
+void installDrawnPartsAccess() {
+    // Qt installs a factory only once.
     QAccessible::installFactory(accessibleOf);
 }
 

@@ -2,7 +2,7 @@
 
 #include "platform/input/MouseCapture.h"
 #include "platform/qt/WindowTable.h"
-#include "platform/windows/CursorShape.h"
+#include "platform/windows/Cursor.h"
 
 namespace platform {
 

@@ -4,7 +4,7 @@
 
 namespace platform {
 
-/// Delivers an input message; a mouse move is preceded by WM_SETCURSOR unless the mouse is captured.
+/// Delivers an input message. Before a mouse move the window gets WM_SETCURSOR, unless the mouse is captured.
 void deliverInput(const MSG& message);
 
 }  // namespace platform

@@ -37,7 +37,7 @@ bool isBlockedByDialog(const QWidget& window) {
     return modal && modal != &window && !modal->isAncestorOf(&window);
 }
 
-/// The message goes where the mouse was captured; true when it was.
+/// Delivers the event to the window that has captured the mouse; false when none has.
 bool deliverCaptured(const QEvent& event) {
     const HWND window = capturingWindow();
     if (window == 0) return false;
@@ -46,8 +46,8 @@ bool deliverCaptured(const QEvent& event) {
     return true;
 }
 
-/// The widget that a press in the window reaches; null when a menu or another dialog takes it, and for the
-/// windows that the web engine has inside of widgets.
+/// The widget that receives a press in the window. Null when a menu or another dialog receives it, and for
+/// the web engine's own windows inside widgets.
 QWidget* widgetInReach(const QWindow& window, QPoint position) {
     if (!window.inherits("QWidgetWindow")) return nullptr;
     QWidget* const top = QWidget::find(window.winId());
@@ -56,8 +56,8 @@ QWidget* widgetInReach(const QWindow& window, QPoint position) {
     return child ? child : top;
 }
 
-/// Qt tells no move when the pointer, coming from outside, stays where it came in; but what is pressed next
-/// is what the pointer was last moved to.
+/// When the pointer enters the window and then stays still, Qt sends no move. But the program acts on the
+/// part that the last move was over, so a press would miss its target.
 void moveToEntrance(const QWindow& window, const QEnterEvent& entering) {
     auto* const surface = dynamic_cast<SurfaceWidget*>(widgetInReach(window, entering.position().toPoint()));
     if (!surface) return;
@@ -95,9 +95,10 @@ class MessageFilter : public QObject {
     }
 
   private:
-    /// A press is looked at before Qt moves the focus to the widget: a press that is swallowed moves nothing.
+    /// Presses are examined at the native window, before Qt gives the widget the focus: a swallowed press
+    /// must not move the focus.
     bool pressAtWindow(const QWindow& window, const QMouseEvent& event) {
-        // Qt keeps the press that became a double click from the widgets.
+        // For a double click Qt sends a press too, which it does not pass to widgets.
         if (event.flags() & Qt::MouseEventCreatedDoubleClick) return false;
         QWidget* const widget = widgetInReach(window, event.position().toPoint());
         if (!widget) return false;
@@ -108,7 +109,7 @@ class MessageFilter : public QObject {
         return taken;
     }
 
-    /// Qt knows nothing of a press that was taken, so that moves and the release after it reach no widget.
+    /// Qt does not know of a swallowed press, so it passes the following moves and the release to no widget.
     bool followsTakenPress(const QMouseEvent& event) {
         const bool follows =
             event.type() == QEvent::MouseMove ? taken_ != Qt::NoButton : taken_.testFlag(event.button());
@@ -133,8 +134,8 @@ class MessageFilter : public QObject {
         return taken;
     }
 
-    /// Asks about input at a widget; the menu that Qt derives from a press of the right button then goes the
-    /// same way.
+    /// Whether the input at a widget is swallowed. Remembers that for a press of the right button, from which
+    /// Qt makes a context menu event.
     bool swallowsInput(const QEvent& event, QWidget& widget) {
         const std::optional<MSG> message = inputMessage(event, widget);
         const bool swallowed = swallows(message);

@@ -5,26 +5,26 @@
 
 #include "platform/base/Messages.h"
 
-/// The place through which all input of the program passes, whichever widget it is for: those of hosted
-/// controls and of the web engine too.
+/// All input of the program passes through here, whichever widget it is for, even widgets of hosted
+/// components and of the web engine.
 namespace platform {
 
-/// Who looks at input before it is delivered.
+/// Functions that see input before it is delivered.
 struct InputHooks {
-    /// Sees each mouse and key message once; true swallows it.
+    /// Called once for each mouse and key message; true swallows it.
     std::function<bool(const MSG&)> preTranslate;
-    /// Whether preTranslate may want this key (virtual key number) of a window; then Qt's own shortcuts do
-    /// not get it first.
+    /// Whether preTranslate may want a key (virtual key number) of a window. Qt's own shortcuts then do not
+    /// get it first.
     std::function<bool(HWND window, UINT key)> claimsKey;
 };
 
-/// Sets the hooks; empty ones take them away.
+/// Sets the hooks; empty ones remove them.
 void setInputHooks(InputHooks hooks);
 
-/// Starts to look at the events of the current QApplication, once.
+/// Starts to watch the events of the current QApplication. Later calls do nothing.
 void installMessageFilter();
 
-/// The modifier keys of the input message that is being looked at or delivered.
+/// The modifier keys of the input message that is being handled.
 Qt::KeyboardModifiers inputModifiers();
 
 }  // namespace platform

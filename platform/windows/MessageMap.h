@@ -8,8 +8,8 @@
 #include "platform/drawing/DC.h"
 #include "platform/windows/CmdTarget.h"
 
-/// Builders of message-map and event-sink rows: they check each handler's signature and unpack the
-/// parameters. Signatures by message:
+/// Functions that build the rows of message maps and event sinks. They check each handler's signature and
+/// unpack the parameters. Signatures by message:
 ///   WM_CREATE int(CREATESTRUCT&)        WM_SIZE void(UINT type, int width, int height)
 ///   WM_ERASEBKGND bool(CDC&)            WM_SETCURSOR bool()      WM_TIMER void(UINT id)
 ///   WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK void(UINT flags, CPoint)
@@ -126,8 +126,8 @@ constexpr MessageMapEntry OnNotify(int id, int code) {
 }
 
 template <auto Handler>
-constexpr EventSinkEntry OnControlEvent(int controlId, std::int32_t dispid) {
-    return {controlId, dispid, &detail::eventThunk<Handler>};
+constexpr EventSinkEntry OnComponentEvent(int componentId, std::int32_t dispid) {
+    return {componentId, dispid, &detail::eventThunk<Handler>};
 }
 
 }  // namespace platform

@@ -4,11 +4,11 @@ namespace platform {
 
 class SurfaceWidget;
 
-/// Has the window's paint messages delivered after the input and size messages that are on their way, and
-/// before Qt next paints: never inside of a paint event, where a handler could not move other windows.
+/// Schedules the window's paint messages. They are delivered after pending input and size messages and before
+/// Qt paints next, but never during a paint event, where a handler could not move other windows.
 void schedulePaint(SurfaceWidget& widget);
 
-/// Delivers what is scheduled now.
+/// Delivers all scheduled paint messages now.
 void deliverScheduledPaints();
 
 }  // namespace platform

@@ -6,7 +6,6 @@
 
 #include "platform/drawing/DC.h"
 #include "platform/input/InputMessages.h"
-#include "platform/windows/DrawnPartsAccess.h"
 #include "platform/windows/InputDelivery.h"
 #include "platform/windows/PaintQueue.h"
 #include "platform/windows/WindowDC.h"
@@ -17,7 +16,7 @@ SurfaceWidget::SurfaceWidget(CWnd& owner, QWidget* parent, int controlId)
     : WindowWidget(owner, parent, controlId) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
-    tellOfDrawnParts();
+    installDrawnPartsAccess();
 }
 
 SurfaceWidget* SurfaceWidget::of(const CWnd& window) {
@@ -62,7 +61,7 @@ void SurfaceWidget::focusClicked() {
 }
 
 void SurfaceWidget::paintEvent(QPaintEvent*) {
-    // The ratio changes when the window comes to another screen.
+    // The pixel ratio changes when the window moves to another screen.
     if (!surface_.isNull() && surface_.ratio() != devicePixelRatioF()) fitContent();
     QPainter(this).drawImage(clientArea().topLeft(), picture());
 }

@@ -5,7 +5,7 @@
 
 namespace platform {
 
-/// A window that its CWnd draws. What is drawn at any time goes to the surface and stays there; paint events
+/// The widget of a window that its CWnd draws. All drawing goes to the surface and stays there; paint events
 /// only show the surface.
 class SurfaceWidget : public WindowWidget {
   public:
@@ -15,14 +15,14 @@ class SurfaceWidget : public WindowWidget {
 
     QImage& picture() { return surface_.image(); }
 
-    /// Asks for WM_ERASEBKGND (if `erase`) and WM_PAINT, which come when the program is next idle.
+    /// Requests WM_ERASEBKGND (if `erase`) and WM_PAINT, which come when the program is next idle.
     void invalidate(bool erase) override;
-    /// Takes back what was asked for.
+    /// Cancels requested messages.
     void validate();
-    /// Sends the messages asked for, if the window can be seen.
+    /// Sends the requested messages if the window is visible.
     void deliverPaint();
 
-    /// A click gives the window the focus, unless the focus is in it or below it already.
+    /// Has a click give the window the focus, unless the window or a child of it has the focus already.
     void takeFocusOnClick() { focusOnClick_ = true; }
 
   protected:

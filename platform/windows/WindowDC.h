@@ -6,13 +6,13 @@ namespace platform {
 
 class CWnd;
 
-/// Draws on a window's client area outside a paint message; the window shows it at once.
+/// Draws on a window's client area at any time; the window shows it at once.
 class CClientDC : public CDC {
   public:
     explicit CClientDC(CWnd& window);
 };
 
-/// Draws on a window's client area in answer to a paint message and marks it as painted.
+/// Draws on a window's client area in a handler of WM_PAINT, and marks the window as painted.
 class CPaintDC : public CDC {
   public:
     explicit CPaintDC(CWnd& window);

@@ -10,7 +10,7 @@ namespace platform {
 
 namespace {
 
-/// The windows with an object just below this one, in the order of their creation.
+/// The direct children that have an object, in the order of their creation.
 std::vector<HWND> childrenOf(const WindowWidget& window) {
     const WindowTable& table = WindowTable::instance();
     std::vector<HWND> children;
@@ -23,7 +23,8 @@ std::vector<HWND> childrenOf(const WindowWidget& window) {
     return children;
 }
 
-/// Handlers may destroy windows of the tree themselves, so each is looked up anew.
+/// Sends WM_DESTROY to a window and its children. Handlers may destroy windows too, so each is looked up
+/// again.
 void announce(HWND handle) {
     WindowWidget* const window = WindowWidget::find(handle);
     if (!window || window->ending) return;
@@ -33,7 +34,7 @@ void announce(HWND handle) {
     for (const HWND child : childrenOf(*window)) announce(child);
 }
 
-/// The standard controls inside go with the window's widget; their objects are told now.
+/// Standard controls are destroyed with the widget of the window; their objects are separated from them now.
 void detachControls(HWND window) {
     const WindowTable& table = WindowTable::instance();
     for (const HWND handle : table.all()) {

@@ -20,7 +20,7 @@ WindowWidget::WindowWidget(CWnd& owner, QWidget* parent, int controlId) : QWidge
         .proc = [this](UINT message, WPARAM wParam,
                        LPARAM lParam) { return owner_ ? owner_->WindowProc(message, wParam, lParam) : 0; },
     });
-    owner.m_hWnd = handle_;
+    owner.handle_ = handle_;
 }
 
 WindowWidget::~WindowWidget() { leave(); }
@@ -85,13 +85,13 @@ void WindowWidget::end() {
 void WindowWidget::leave() {
     if (!owner_) return;
     timers_.clear();
-    owner_->m_hWnd = 0;
+    owner_->handle_ = 0;
     owner_ = nullptr;
     WindowTable::instance().remove(handle_);
 }
 
 void moveFocusOut(QWidget& widget) {
-    // The focus of the window behind is still where it was.
+    // A top-level window takes its focus with it; the window behind still has its own.
     if (widget.isWindow()) return;
     const QWidget* const focus = widget.window()->focusWidget();
     if (!focus || (focus != &widget && !widget.isAncestorOf(focus))) return;

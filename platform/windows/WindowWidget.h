@@ -11,23 +11,23 @@
 
 namespace platform {
 
-/// The widget behind a CWnd's window. It stands in the window table as long as the window exists, and knows
-/// the object whose window it is.
+/// The widget of a CWnd's window. It is in the window table as long as the window exists, and knows the
+/// window's object.
 class WindowWidget : public QWidget, public HasClientArea {
   public:
     /// Makes the widget, hidden, and gives `owner` its handle.
     WindowWidget(CWnd& owner, QWidget* parent, int controlId);
     ~WindowWidget() override;
 
-    /// The widget of a handle or an object, null when it has no window of its own.
+    /// The widget of a handle or an object, null when that has no window of this kind.
     static WindowWidget* find(HWND window);
     static WindowWidget* of(const CWnd& window);
 
-    /// Sends WM_CREATE, then places and shows the window; false, and the window is gone, when a handler
-    /// refused.
+    /// Sends WM_CREATE, then places and shows the window. False when a handler refused; the window is then
+    /// gone.
     bool create(CREATESTRUCT cs);
 
-    /// Null once the window has ended.
+    /// The window's object, null when the window has ended.
     CWnd* owner() const { return owner_; }
     HWND handle() const { return handle_; }
 
@@ -36,14 +36,14 @@ class WindowWidget : public QWidget, public HasClientArea {
     virtual QRect outerRect() const { return {mapToGlobal(QPoint(0, 0)), size()}; }
     /// Moves and sizes the window: in the parent's client area, or on the screen when it has no parent.
     virtual void place(const QRect& rect);
-    /// Shows or hides it (SW_…).
+    /// Shows or hides the window (SW_…).
     virtual void showAs(int showCommand);
 
     /// Has the window repainted when the program is next idle.
     virtual void invalidate(bool erase) = 0;
 
-    /// Gives the content its place and tells WM_SIZE, if the size is another than that told last. Called by
-    /// Qt's resize events, and after moves of a hidden window, which gets none.
+    /// Lays out the content and sends WM_SIZE if the size differs from the one sent last. Called by Qt's
+    /// resize events, and after moves of a hidden window, which get no such event.
     void sizeChanged();
 
     /// Sends a message to the owner through the window table.
@@ -52,19 +52,19 @@ class WindowWidget : public QWidget, public HasClientArea {
     void setTimer(UINT id, int milliseconds);
     void killTimer(UINT id) { timers_.erase(id); }
 
-    /// Ends the window: the handle and the owner's hold on it go at once, the widget itself when no event of
-    /// its own can be running any more.
+    /// Ends the window: the handle and the link to the object are removed at once. The widget is deleted
+    /// later, since an event of it may be running.
     virtual void end();
-    /// True while WM_DESTROY is on its way to the window and its children.
+    /// WM_DESTROY is being sent to the window and its children.
     bool ending = false;
 
-    /// The cursor on show: a resource id, 0 for the arrow, nothing when none was set.
+    /// The cursor that is shown: a resource id, 0 for the arrow; nothing when none was set.
     std::optional<UINT> shownCursor;
 
   protected:
-    /// Size type of WM_SIZE.
+    /// The size type for WM_SIZE.
     virtual UINT sizeType() const { return SIZE_RESTORED; }
-    /// Fits what the widget contains to its new size.
+    /// Fits the content of the widget to its new size.
     virtual void fitContent() {}
 
     void resizeEvent(QResizeEvent*) override { sizeChanged(); }
@@ -85,8 +85,8 @@ class WindowWidget : public QWidget, public HasClientArea {
     std::map<UINT, QBasicTimer> timers_;
 };
 
-/// If the focus is in the widget or below it, gives it to the nearest window above: what Qt would choose when
-/// the widget goes is any control that takes the tabulator.
+/// If the widget or a child of it has the focus, gives the focus to the nearest window above. Qt would give
+/// it to any control that takes the tabulator.
 void moveFocusOut(QWidget& widget);
 
 }  // namespace platform

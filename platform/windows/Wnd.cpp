@@ -21,7 +21,7 @@ namespace platform {
 
 namespace {
 
-/// The widget of any window, a standard control's too.
+/// The widget of any window, also of a standard control.
 QWidget* widgetOf(const CWnd& window) { return WindowTable::instance().widget(window.GetSafeHwnd()); }
 
 /// Ends a standard control.
@@ -48,7 +48,7 @@ const MessageMap* CWnd::GetMessageMap() const {
 
 bool CWnd::CreateWnd(std::string_view text, DWORD style, const CRect& rect, CWnd& parent, UINT id) {
     WindowWidget* const parentWidget = WindowWidget::of(parent);
-    if (m_hWnd != 0 || !parentWidget) return false;
+    if (handle_ != 0 || !parentWidget) return false;
     auto& widget = makeQtChild<SurfaceWidget>(*this, parentWidget, static_cast<int>(id));
     widget.setWindowTitle(toQt(text));
     if (style & WS_TABSTOP) widget.setFocusPolicy(Qt::TabFocus);
@@ -66,10 +66,10 @@ CWnd* CWnd::FromHandle(HWND window) {
     return link ? link->object() : nullptr;
 }
 
-CWnd* CWnd::GetParent() const { return FromHandle(GetParentWindow(m_hWnd)); }
+CWnd* CWnd::GetParent() const { return FromHandle(GetParentWindow(handle_)); }
 
 int CWnd::GetDlgCtrlID() const {
-    const WindowEntry* const entry = WindowTable::instance().find(m_hWnd);
+    const WindowEntry* const entry = WindowTable::instance().find(handle_);
     return entry ? entry->id : 0;
 }
 
@@ -142,11 +142,11 @@ void CWnd::Invalidate(bool erase) {
 }
 
 LRESULT CWnd::SendMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    return WindowTable::instance().send(m_hWnd, message, wParam, lParam);
+    return WindowTable::instance().send(handle_, message, wParam, lParam);
 }
 
 void CWnd::PostMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    WindowTable::instance().post(m_hWnd, message, wParam, lParam);
+    WindowTable::instance().post(handle_, message, wParam, lParam);
 }
 
 void CWnd::SetTimer(UINT id, int milliseconds) {
@@ -157,7 +157,7 @@ void CWnd::KillTimer(UINT id) {
     if (WindowWidget* const widget = WindowWidget::of(*this)) widget->killTimer(id);
 }
 
-void CWnd::SetCapture() { captureMouse(m_hWnd); }
+void CWnd::SetCapture() { captureMouse(handle_); }
 
 void CWnd::ReleaseCapture() { releaseMouse(); }
 
@@ -173,10 +173,10 @@ LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 bool CWnd::OnCommand(WPARAM wParam, LPARAM) {
-    // With the code of the control that sent it; menus and buttons have 0.
+    // wParam has the code of a control's command in its high half; for menus and buttons that is 0.
     const auto id = static_cast<UINT>(wParam);
-    CCmdUI state(id);
-    return OnCmdMsg(id, CommandMessage::update, &state) && state.enabled() &&
+    CCmdUI state;
+    return OnCmdMsg(id, CommandMessage::update, &state) && state.Enabled() &&
            OnCmdMsg(id, CommandMessage::execute, nullptr);
 }
 

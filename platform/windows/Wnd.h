@@ -21,16 +21,16 @@ namespace platform {
 class ControlLink;
 class WindowWidget;
 
-/// How a window is about to be created; a handler may change it.
+/// How a window is going to be created; a handler may change it.
 struct CREATESTRUCT {
     DWORD style = 0;
-    int x = 0, y = 0, cx = 0, cy = 0;  ///< outer rectangle; see defaultPlacement
-    bool defaultPlacement = true;      ///< position and size are the platform's choice
+    int x = 0, y = 0, cx = 0, cy = 0;  ///< outer rectangle, unless defaultPlacement
+    bool defaultPlacement = true;      ///< the platform chooses position and size
 };
 
-/// A window: drawn by the program, or the wrapper of a hosted control. The object and its window have
-/// lives of their own: the window is made by a Create call and ends with DestroyWindow, with its
-/// parent, or at the latest with the object.
+/// A window that the program draws, or that hosts a component. The object and its window have separate lives:
+/// the window is made by a Create call and ends with DestroyWindow, with its parent, or at the latest with
+/// the object.
 class CWnd : public CCmdTarget {
   public:
     CWnd();
@@ -38,30 +38,33 @@ class CWnd : public CCmdTarget {
 
     const MessageMap* GetMessageMap() const override;
 
-    /// Makes a window drawn by this object. Children need a parent; `rect` is in its client area.
+    /// Makes a window that this object draws, as a child of `parent`; `rect` is in the parent's client area.
     bool CreateWnd(std::string_view text, DWORD style, const CRect& rect, CWnd& parent, UINT id);
-    /// Makes a window that hosts the control of this class id (GUID text without braces); false when
-    /// the class is not registered, its module cannot be loaded or refuses. Its events go to `parent`.
+    /// Makes a window that hosts the component of this class id (GUID text without braces). False when the
+    /// class is not registered, or its module cannot be loaded or makes no component. The component's events
+    /// go to `parent`.
     bool CreateControl(std::string_view classId, std::string_view name, DWORD style, const CRect& rect,
                        CWnd& parent, UINT id);
-    /// Destroys the window (WM_DESTROY, the window before its children); false when there is none.
+    /// Destroys the window and its children; WM_DESTROY goes first to the window, then to its children. False
+    /// when there is no window.
     bool DestroyWindow();
 
-    HWND GetSafeHwnd() const { return m_hWnd; }
-    /// The object whose window this is, or null (also for windows of hosted controls' insides).
+    HWND GetSafeHwnd() const { return handle_; }
+    /// The object of a window, null when the window has none, such as the windows inside a component.
     static CWnd* FromHandle(HWND window);
     CWnd* GetParent() const;
     int GetDlgCtrlID() const;
 
     void ShowWindow(int showCommand);
     bool IsWindowVisible() const;
-    /// A window that is disabled takes no input.
+    /// A disabled window takes no input.
     void EnableWindow(bool enable = true);
-    /// Moves and sizes within the parent (a top-level window: its outer rectangle on the screen).
+    /// Moves and sizes the window: in the parent's client area, or for a top-level window its outer rectangle
+    /// on the screen.
     void MoveWindow(const CRect& rect);
-    /// Area inside borders, caption and menu, with its corner at (0, 0).
+    /// The area inside borders, caption and menu, with its corner at (0, 0).
     CRect GetClientRect() const;
-    /// Outer rectangle on the screen.
+    /// The outer rectangle on the screen.
     CRect GetWindowRect() const;
     CPoint ScreenToClient(CPoint p) const;
     CPoint ClientToScreen(CPoint p) const;
@@ -69,14 +72,15 @@ class CWnd : public CCmdTarget {
     bool IsZoomed() const;
 
     void SetWindowText(std::string_view text);
-    /// What screen readers call the window, where it is not its text.
+    /// The name of the window for screen readers, if that is not its text.
     void SetAccessibleName(std::string_view name);
     std::string GetWindowText() const;
-    /// What the window draws that can be pushed, for screen readers; their indexes name the parts.
+    /// The parts of the window's drawing that the user can push, for screen readers. Their indexes name the
+    /// parts.
     virtual std::vector<DrawnPart> DrawnParts() const { return {}; }
-    /// A screen reader's user pushes one of them.
+    /// Called when the user of a screen reader pushes a part.
     virtual void PushDrawnPart(int) {}
-    /// The tabulator has come to the window itself.
+    /// Called when the tabulator has moved the focus to this window.
     virtual void OnTabbedTo() {}
 
     /// Has the window repainted when the program is next idle.
@@ -91,20 +95,20 @@ class CWnd : public CCmdTarget {
     static void ReleaseCapture();
     void SetFocus();
 
-    /// Delivers a message: the maps first, then the default treatment.
+    /// Delivers a message: to the message maps, and if no map has it, to DefWindowProc.
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
 
   protected:
-    /// First look at WM_COMMAND; true when it is dealt with. The default routes wParam as a command.
+    /// Handles WM_COMMAND; true when the command was carried out. The default routes wParam as a command.
     virtual bool OnCommand(WPARAM wParam, LPARAM lParam);
-    /// What the platform does with a message nobody handled.
+    /// What the platform does with a message that no map handles.
     virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
 
-    /// Calls an operation of the hosted control. An empty result means that the control has no such
-    /// operation with these arguments.
+    /// Calls an operation of the hosted component; nothing when it has no such operation with these
+    /// arguments.
     std::optional<Variant> InvokeHelper(std::int32_t dispid, InvokeKind kind,
                                         std::span<const Variant> arguments);
-    /// InvokeHelper with the result as R; R's default value when the call fails.
+    /// InvokeHelper with a result of type R; the default value of R when the call fails.
     template <class R, class... A>
     R Invoke(std::int32_t dispid, InvokeKind kind, A&&... arguments) {
         const std::array<Variant, sizeof...(A)> packed{Variant(std::forward<A>(arguments))...};
@@ -115,11 +119,11 @@ class CWnd : public CCmdTarget {
         }
     }
 
-    /// The bytes at a location in the hosted control's memory, valid until its next call; empty when no block
-    /// is there.
+    /// The bytes at a location in the hosted component's memory, valid until its next call; empty when there
+    /// is no such block.
     std::span<const std::byte> ComponentBlock(std::int32_t location) const;
-    /// Hands the hosted control a block for the calls that follow; the location to name it by, 0 when it
-    /// takes none. Two blocks at least are kept at a time.
+    /// Gives the hosted component a block for the following calls and returns its location, 0 if the
+    /// component takes none. At least two blocks are kept at a time.
     std::int32_t KeepComponentBlock(std::span<const std::byte> bytes);
 
   private:
@@ -127,40 +131,16 @@ class CWnd : public CCmdTarget {
     friend class WindowWidget;
     void moveFocusOn();
 
-    HWND m_hWnd = 0;
+    HWND handle_ = 0;
 };
 
-/// Where the pointer is on the screen.
+/// The position of the pointer on the screen.
 CPoint GetCursorPos();
-/// The window under a screen point, or null when it is none of the program's own objects' windows.
+/// The window at a point of the screen, null when it is no window of one of the program's objects.
 CWnd* WindowFromPoint(CPoint screen);
-/// The window around a window, or that a top-level one belongs to; 0 when none.
+/// The parent of a window, or the owner of a top-level window; 0 when it has none.
 HWND GetParentWindow(HWND window);
 /// Sends a message to any window of the window table.
 LRESULT SendMessage(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
-
-/// A cursor: one of the system's or a cursor resource.
-class CCursor {
-  public:
-    static CCursor arrow();
-    /// Tells that nothing can be done here.
-    static CCursor noEntry();
-    static CCursor resource(UINT id);
-    /// Shows it over the window that is handling WM_SETCURSOR, else over the one that has captured the mouse,
-    /// else over the one under the pointer.
-    void Set() const;
-
-  private:
-    UINT id_ = 0;  // 0 = the arrow
-};
-
-/// Shows the wait cursor over all windows as long as it lives.
-class CWaitCursor {
-  public:
-    CWaitCursor();
-    ~CWaitCursor();
-    CWaitCursor(const CWaitCursor&) = delete;
-    CWaitCursor& operator=(const CWaitCursor&) = delete;
-};
 
 }  // namespace platform

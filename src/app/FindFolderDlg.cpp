@@ -6,6 +6,7 @@
 #include "platform/dialogs/DataExchange.h"
 #include "platform/dialogs/Progress.h"
 #include "platform/machine/Machine.h"
+#include "platform/windows/Cursor.h"
 #include "platform/windows/MessageMap.h"
 #include "src/app/DriveList.h"
 #include "src/resources/ResourceIds.h"

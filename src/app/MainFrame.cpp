@@ -38,7 +38,7 @@ const MessageMap* CMainFrame::GetMessageMap() const {
 
 bool CMainFrame::PreCreateWindow(CREATESTRUCT& cs) {
     cs.style &= ~FWS_ADDTOTITLE;
-    CWinApp& app = CWinApp::instance();
+    CWinApp& app = CWinApp::Instance();
     if (app.m_nCmdShow != SW_SHOWMAXIMIZED) {
         if (TheApp().m_nFrameState == kFrameMaximised) app.m_nCmdShow = SW_SHOWMAXIMIZED;
         const CRect& frame = TheApp().m_rcFrame;
@@ -82,7 +82,6 @@ CRect WithMinFrameSize(const CRect& frame, CSize maximised) {
 }
 
 void CMainFrame::OnDestroy() {
-    CFrameWnd::OnDestroy();
     if (IsIconic()) return;
     ProgramState& app = TheApp();
     app.m_nFrameState = IsZoomed() ? kFrameMaximised : kFrameNormal;

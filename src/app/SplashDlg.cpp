@@ -71,7 +71,7 @@ bool CSplashDlg::OnEraseBkgnd(CDC& dc) {
 }
 
 void CSplashDlg::drawPicture(CDC& dc, CSize part) {
-    if (!m_picture.loaded()) m_picture = loadPicture(m_nBitmapId);
+    if (!m_picture.Loaded()) m_picture = loadPicture(m_nBitmapId);
     CDC memory = CDC::CreateCompatibleDC(dc);
     memory.SelectObject(m_picture);
     dc.BitBlt(0, 0, part.cx, part.cy, memory, 0, 0);

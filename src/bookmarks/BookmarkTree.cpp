@@ -7,7 +7,7 @@ namespace kalyxo {
 
 using namespace platform;
 
-CBookmarkTree::CBookmarkTree() : m_dragCursor(CCursor::resource(IDC_DRAG_CURSOR)) {}
+CBookmarkTree::CBookmarkTree() : m_dragCursor(CCursor::FromResource(IDC_DRAG_CURSOR)) {}
 
 const MessageMap* CBookmarkTree::GetMessageMap() const {
     static constexpr MessageMapEntry entries[] = {
@@ -101,7 +101,7 @@ void CBookmarkTree::OnMouseMove(UINT, CPoint point) {
         showCursor(m_dragCursor);
         return aimAt(item);
     }
-    showCursor(CCursor::noEntry());
+    showCursor(CCursor::NoEntry());
     // While the pointer is above or below the tree, each message scrolls by one item.
     if (where == TVHT_BELOW) aimAt(GetNextVisibleItem(GetSelectedItem()));
     if (where == TVHT_ABOVE) aimAt(GetPrevVisibleItem(GetSelectedItem()));
@@ -138,7 +138,7 @@ void CBookmarkTree::OnLButtonUp(UINT, CPoint) {
 
 void CBookmarkTree::CancelDrag() {
     if (!m_bDragging) return;
-    CCursor::arrow().Set();
+    CCursor::Arrow().Set();
     ReleaseCapture();
     m_bDragging = false;
     m_dragged = nullptr;

@@ -6,6 +6,7 @@
 
 #include "platform/files/ProgressStep.h"
 #include "platform/widgets/TreeCtrl.h"
+#include "platform/windows/Cursor.h"
 #include "src/bookmarks/BookmarkList.h"
 
 namespace kalyxo {

@@ -16,7 +16,7 @@ constexpr std::size_t kLargestIndex = 1 << 20;
 
 bool ElementIndex::Load(const platform::FileSystem& files, std::string_view dataFolder) {
     const std::optional<std::string> image =
-        files.readAll(std::string(dataFolder).append(formats::kElementIndexFile), kLargestIndex);
+        files.readAll(std::string(dataFolder).append(formats::elementIndexFile), kLargestIndex);
     if (!image) return false;
     m_records = formats::decodeElementIndex(*image);
     return true;

@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-#include "platform/drawing/DC.h"
+#include "platform/drawing/Bitmap.h"
 
 namespace kalyxo {
 

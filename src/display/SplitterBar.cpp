@@ -60,7 +60,7 @@ bool CSplitterBar::Create(int x, int y, int length, bool horizontal, int min, in
     m_bDragging = false;
     m_nPos = clampTo(horizontal ? y : x, min, max);
     m_nFixed = horizontal ? x : y;
-    m_cursor = CCursor::resource(horizontal ? IDC_RESIZE_VERTICAL : IDC_RESIZE_HORIZONTAL);
+    m_cursor = CCursor::FromResource(horizontal ? IDC_RESIZE_VERTICAL : IDC_RESIZE_HORIZONTAL);
     if (!CreateWnd("ESGSplit", WS_CHILD | WS_VISIBLE | WS_TABSTOP, barRect(length), parent, IDC_SPLITTER))
         return false;
     SetAccessibleName(LoadString(IDS_SPLITTER));
@@ -167,7 +167,7 @@ void CSplitterBar::paintDragged(CDC& dc) const {
     int& far = m_bHorizontal ? rect.bottom : rect.right;
     ++near;
     --far;
-    dc.FillRect(rect, CBrush::pattern(m_pattern));
+    dc.FillRect(rect, CBrush::Pattern(m_pattern));
 }
 
 }  // namespace kalyxo

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/windows/Cursor.h"
 #include "platform/windows/Wnd.h"
 
 namespace kalyxo {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/widgets/Edit.h"
+#include "platform/windows/Cursor.h"
 
 namespace kalyxo {
 
@@ -26,7 +27,7 @@ class CTipEdit : public platform::CEdit {
     bool OnSetCursor();
     void dismiss();
 
-    platform::CCursor m_cursor = platform::CCursor::arrow();
+    platform::CCursor m_cursor = platform::CCursor::Arrow();
     /// Had the focus before, and has it again when the user dismisses the box.
     platform::HWND m_hwndFormer = 0;
 };

@@ -13,8 +13,8 @@ namespace {
 /// Calls `take` with each record until it returns false.
 template <typename Take>
 void walk(std::string_view image, Take take) {
-    while (image.size() >= formats::kAlternativeRecordSize && take(image))
-        image.remove_prefix(formats::kAlternativeRecordSize);
+    while (image.size() >= formats::alternativeRecordSize && take(image))
+        image.remove_prefix(formats::alternativeRecordSize);
 }
 
 constexpr std::int32_t kNoGroup = -1;
@@ -34,7 +34,7 @@ std::int32_t groupOf(std::string_view word, std::string_view image) {
 void AlternativesTable::Load(const platform::FileSystem& files, std::string_view dataFolder,
                              const platform::ProgressStep& step) {
     m_image =
-        files.readAll(std::string(dataFolder).append(formats::kAlternativesFile), kLargestIndexFile, step)
+        files.readAll(std::string(dataFolder).append(formats::alternativesFile), kLargestIndexFile, step)
             .value_or("");
 }
 

@@ -32,7 +32,7 @@ std::string HitTitles::LookUpEntryTitle(std::int32_t itemCode) {
     if (!fileName || !offset) return std::string(kUnknownEntry);
     const auto& list = titleList(*fileName);
     if (!list) return std::string(kUnknownEntry);
-    std::array<char, formats::kTitleListRecordSize> record{};
+    std::array<char, formats::titleListRecordSize> record{};
     const std::size_t got = list->readAt(*offset, std::as_writable_bytes(std::span(record)));
     return formats::decodeEntryTitle({record.data(), got}).value_or(std::string(kUnknownEntry));
 }
@@ -59,7 +59,7 @@ const HitTitles::PageTitles& HitTitles::pageTitles(std::string_view key) {
     std::string_view rest = image ? std::string_view(*image) : std::string_view();
     while (auto record = formats::decodeSectionTitle(rest)) {
         titles.try_emplace(record->pageId, std::move(record->title));
-        rest.remove_prefix(formats::kSectionTitleRecordSize);
+        rest.remove_prefix(formats::sectionTitleRecordSize);
     }
     return titles;
 }

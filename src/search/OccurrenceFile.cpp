@@ -12,13 +12,13 @@ namespace kalyxo {
 
 namespace {
 
-using formats::kOccurrenceRecordSize;
-using formats::kOccurrenceWordField;
+using formats::occurrenceRecordSize;
+using formats::occurrenceWordField;
 
 /// Records that are read at once: few enough to stay in the processor's cache until they are compared. Block
 /// and file offsets are multiples of the page, so that the host copies page by page.
 constexpr std::size_t kPage = 4096;
-struct alignas(kPage) Block : std::array<char, kPage * kOccurrenceRecordSize> {};
+struct alignas(kPage) Block : std::array<char, kPage * occurrenceRecordSize> {};
 
 /// Compares the word's field of records. Nearly all records differ in their first bytes, so those are
 /// compared as one number and the rest only then.
@@ -42,7 +42,7 @@ class WordMatcher {
         return head;
     }
 
-    std::array<char, kOccurrenceWordField> m_field{};
+    std::array<char, occurrenceWordField> m_field{};
     /// Bytes that count: the word and its NUL, or all of the field.
     std::size_t m_length;
     std::uint64_t m_headMask = 0;
@@ -50,18 +50,18 @@ class WordMatcher {
 };
 
 void appendHit(const char* record, std::vector<SearchHit>& hits) {
-    if (const auto found = formats::decodeOccurrence({record, kOccurrenceRecordSize}))
+    if (const auto found = formats::decodeOccurrence({record, occurrenceRecordSize}))
         hits.push_back({found->pageId, found->itemCode, found->sectionCode});
 }
 
 }  // namespace
 
 OccurrenceFile::OccurrenceFile(const platform::FileSystem& files, std::string_view dataFolder)
-    : m_file(platform::BinaryFile::open(files, std::string(dataFolder).append(formats::kOccurrencesFile))) {}
+    : m_file(platform::BinaryFile::open(files, std::string(dataFolder).append(formats::occurrencesFile))) {}
 
 void OccurrenceFile::Collect(std::string_view word, std::vector<SearchHit>& hits, std::size_t limit,
                              const platform::ProgressStep& step) const {
-    if (!m_file || word.size() > kOccurrenceWordField) return;
+    if (!m_file || word.size() > occurrenceWordField) return;
     const WordMatcher matches(word);
     const auto block = std::make_unique<Block>();
     std::size_t got = 0;
@@ -69,8 +69,8 @@ void OccurrenceFile::Collect(std::string_view word, std::vector<SearchHit>& hits
     do {
         got = m_file->readAt(offset, std::as_writable_bytes(std::span<char>(*block)));
         offset += got;
-        const char* const end = block->data() + got - got % kOccurrenceRecordSize;
-        for (const char* record = block->data(); record < end; record += kOccurrenceRecordSize) {
+        const char* const end = block->data() + got - got % occurrenceRecordSize;
+        for (const char* record = block->data(); record < end; record += occurrenceRecordSize) {
             if (matches(record) && hits.size() < limit) appendHit(record, hits);
         }
     } while (got == block->size() && hits.size() < limit && platform::GoesOn(step, offset, m_file->size()));

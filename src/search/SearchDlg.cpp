@@ -9,6 +9,7 @@
 #include "platform/dialogs/Progress.h"
 #include "platform/framework/WinApp.h"
 #include "platform/input/KeyboardFocus.h"
+#include "platform/windows/Cursor.h"
 #include "platform/windows/MessageMap.h"
 #include "src/resources/ResourceIds.h"
 

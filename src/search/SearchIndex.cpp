@@ -15,7 +15,7 @@ SearchIndex::SearchIndex(const platform::FileSystem& files, std::string dataFold
 
 std::vector<std::string> SearchIndex::LoadWordIndex(const platform::ProgressStep& step) const {
     return formats::decodeWordIndex(
-        m_files.readAll(pathOf(formats::kWordIndexFile), kLargestIndexFile, step).value_or(""));
+        m_files.readAll(pathOf(formats::wordIndexFile), kLargestIndexFile, step).value_or(""));
 }
 
 void SearchIndex::LoadAlternatives(const platform::ProgressStep& step) {
@@ -24,12 +24,12 @@ void SearchIndex::LoadAlternatives(const platform::ProgressStep& step) {
 
 bool SearchIndex::LoadFirstLetterTable() {
     m_firstLetters.clear();
-    const auto file = platform::BinaryFile::open(m_files, pathOf(formats::kFirstLettersFile));
+    const auto file = platform::BinaryFile::open(m_files, pathOf(formats::firstLettersFile));
     if (!file) return true;
-    std::string records(MaxFirstLetterRecords * formats::kFirstLetterRecordSize, '\0');
+    std::string records(MaxFirstLetterRecords * formats::firstLetterRecordSize, '\0');
     records.resize(file->readAt(0, std::as_writable_bytes(std::span(records))));
     m_firstLetters = formats::decodeFirstLetters(records);
-    return file->size() / formats::kFirstLetterRecordSize <= MaxFirstLetterRecords;
+    return file->size() / formats::firstLetterRecordSize <= MaxFirstLetterRecords;
 }
 
 std::vector<std::string> SearchIndex::ExpandAlternatives(std::string_view word, bool wanted) const {

@@ -1,6 +1,6 @@
 #include "src/view/ContentPanes.h"
 
-#include "platform/input/TabPlace.h"
+#include "platform/input/TabOrder.h"
 #include "src/state/ProgramState.h"
 #include "src/view/PaneLayout.h"
 

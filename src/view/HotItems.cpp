@@ -32,7 +32,7 @@ std::string_view slotName(int slot) {
 }  // namespace
 
 HotItems::HotItems(CWnd& view, const ContentPanes& panes)
-    : m_view(view), m_panes(panes), m_handCursor(CCursor::resource(IDC_HAND_CURSOR)) {}
+    : m_view(view), m_panes(panes), m_handCursor(CCursor::FromResource(IDC_HAND_CURSOR)) {}
 
 void HotItems::PaintMainMenu(CDC& dc) {
     const CRect client = m_view.GetClientRect();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/framework/Document.h"
+#include "platform/framework/View.h"
 
 namespace kalyxo {
 

@@ -5,6 +5,7 @@
 #include "platform/dialogs/MessageBox.h"
 #include "platform/framework/FrameWnd.h"
 #include "platform/machine/Machine.h"
+#include "platform/windows/Cursor.h"
 #include "platform/windows/WindowDC.h"
 #include "src/bookmarks/AnalyserCapture.h"
 #include "src/resources/CommandIds.h"
@@ -158,7 +159,7 @@ void CKalyxoView::OnTimer(UINT id) {
 void CKalyxoView::OnLButtonDown(UINT, CPoint point) {
     const int slot = m_items.SlotClicked(point);
     if (slot < 0) return;
-    CCursor::arrow().Set();
+    CCursor::Arrow().Set();
     openSlot(slot);
 }
 

@@ -112,10 +112,10 @@ const MessageMap* CKalyxoView::GetMessageMap() const {
 
 const EventSinkMap* CKalyxoView::GetEventSinkMap() const {
     static constexpr EventSinkEntry entries[] = {
-        OnControlEvent<&CKalyxoView::OnBeforeNavigate>(IDC_WEB, 100),
-        OnControlEvent<&CKalyxoView::OnPageChosen>(IDC_SELECT, 1),
-        OnControlEvent<&CKalyxoView::OnItemChosen>(IDC_SELECT, 2),
-        OnControlEvent<&CKalyxoView::OnElementChosen>(IDC_PERIODIC_TABLE, 1),
+        OnComponentEvent<&CKalyxoView::OnBeforeNavigate>(IDC_WEB, 100),
+        OnComponentEvent<&CKalyxoView::OnPageChosen>(IDC_SELECT, 1),
+        OnComponentEvent<&CKalyxoView::OnItemChosen>(IDC_SELECT, 2),
+        OnComponentEvent<&CKalyxoView::OnElementChosen>(IDC_PERIODIC_TABLE, 1),
     };
     static const EventSinkMap map{nullptr, entries};
     return &map;

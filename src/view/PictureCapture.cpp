@@ -5,6 +5,7 @@
 #include "platform/base/Resources.h"
 #include "platform/dialogs/MessageBox.h"
 #include "platform/framework/WinApp.h"
+#include "platform/machine/Machine.h"
 #include "platform/printing/PrinterDC.h"
 #include "platform/windows/ChildWindows.h"
 #include "platform/windows/Clipboard.h"
@@ -41,13 +42,13 @@ std::optional<HWND> findPlugin(HWND browser, PluginKind kind) {
 /// The picture in its nominal size, even on a screen with more pixels; nothing when there is no picture.
 std::optional<CBitmap> takePicture(HWND plugin, PluginKind kind) {
     const CBitmap taken = PluginPicture(plugin);
-    if (!taken.loaded()) return std::nullopt;
+    if (!taken.Loaded()) return std::nullopt;
     const CSize size = sizesOf(kind).picture;
     return taken.ResizedTo(size.cx, size.cy);
 }
 
 void print(HWND plugin, PluginKind kind, std::string_view title) {
-    if (!HasPrinter()) {
+    if (!machine().printer()) {
         AfxMessageBox(LoadString(IDS_NO_PRINTER));
         return;
     }

@@ -14,7 +14,7 @@ using namespace platform::literals;
 using formats::decodeBrowseIndex;
 using formats::encodeBrowseIndex;
 
-// Where things stand in the image of `sampleIndex`.
+// Offsets in the image of `sampleIndex`.
 constexpr std::size_t kSections = 20;
 constexpr std::size_t kTopics = kSections + 2 * 8;
 constexpr std::size_t kEntries = kTopics + 3 * 16;
@@ -24,7 +24,7 @@ formats::BrowseIndex sampleIndex() {
     return {{{6,
               {{410000, 410000, std::string("Στοιχεία"_gr), {}},
                {410010, 410010, "Gases", {{10001, std::string("Υδρογόνο"_gr)}, {10002, ""}}}}},
-             {2, {{370001, 370001, std::string(formats::kMaxSectionTitle, 'x'), {}}}}}};
+             {2, {{370001, 370001, std::string(formats::maxSectionTitle, 'x'), {}}}}}};
 }
 
 /// The image of the sample with one integer changed.
@@ -113,7 +113,7 @@ TEST(BrowseIndex, DamageIsRefused) {
     for (const auto& [what, image] : cases) EXPECT_EQ(decodeBrowseIndex(image), std::nullopt) << what;
 }
 
-// Whatever byte is wrong, reading neither fails otherwise nor takes more than the file has.
+// Whatever byte is wrong, reading fails in the normal way and allocates no more than the file has.
 TEST(BrowseIndex, AnyByteMayBeWrong) {
     const std::string image = *encodeBrowseIndex(sampleIndex());
     for (std::size_t offset = 0; offset < image.size(); ++offset) {

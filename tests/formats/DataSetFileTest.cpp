@@ -59,10 +59,10 @@ TEST(DataSetFile, FaultyRowsAreLeftOutAndNamed) {
 
 TEST(DataSetFile, NoMoreRowsThanCanBeNamed) {
     std::string text = head;
-    for (std::size_t i = 0; i <= formats::DataSet::mostRows; ++i) text += "a\tx\t1\n";
+    for (std::size_t i = 0; i <= formats::DataSet::maxRows; ++i) text += "a\tx\t1\n";
     const auto decoded = formats::decodeDataSet(text);
     ASSERT_TRUE(decoded.set);
-    EXPECT_EQ(decoded.set->rowCount(), formats::DataSet::mostRows);
+    EXPECT_EQ(decoded.set->rowCount(), formats::DataSet::maxRows);
     ASSERT_EQ(decoded.faults.size(), 1U);
     EXPECT_EQ(decoded.faults[0].fault, DataSetFault::tooManyRows);
 }

@@ -18,7 +18,7 @@ TEST(SectionTable, FindsSectionsByCodeAndKey) {
     }
     EXPECT_EQ(formats::sectionByKey("elemcomp")->code, 6);
     EXPECT_EQ(formats::sectionByKey("elemcomp")->startPage, 410000);
-    // The bytes themselves, as they stand in the data files.
+    // The exact bytes of the data files.
     EXPECT_EQ(formats::sectionByCode(2)->displayName, "\xC4\xEF\xEC\xDD\xF2");
     for (const int code : {-2, -1, 0, 8})
         EXPECT_EQ(formats::sectionByCode(static_cast<std::int16_t>(code)), nullptr);
@@ -69,7 +69,7 @@ TEST(TitleLists, ListNumberSelectsTheFile) {
 
 TEST(TitleLists, EntriesAreCountedFromOne) {
     const std::vector<std::string> titles{std::string("Υδρογόνο"_gr), "",
-                                          std::string(formats::kMaxEntryTitle, 'x')};
+                                          std::string(formats::maxEntryTitle, 'x')};
     const std::string image = *formats::encodeTitleList(titles);
     ASSERT_EQ(image.size(), 180U);
     EXPECT_EQ(formats::titleListOffset(3), 120U);

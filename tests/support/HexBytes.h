@@ -3,7 +3,7 @@
 #include <sstream>
 #include <string>
 
-/// Bytes from hexadecimal pairs; what stands in single quotes is taken letter by letter.
+/// Bytes from pairs of hexadecimal digits; text in single quotes stands for itself.
 inline std::string hexBytes(const std::string& text) {
     std::string result;
     std::istringstream words(text);

@@ -6,21 +6,21 @@
 
 #include "tests/support/TestFolder.h"
 
-/// A C: and a D: drive in a temporary folder of their own, removed at the end.
+/// Drives C: and D: in a temporary folder, which is removed at the end.
 class TestDrives {
   public:
     TestDrives() {
-        for (const char* drive : {"c", "d"}) std::filesystem::create_directories(m_root / drive);
-        files.setDrives({{'C', platform::DriveType::fixed, m_root / "c"},
-                         {'D', platform::DriveType::cdrom, m_root / "d"}});
+        for (const char* drive : {"c", "d"}) std::filesystem::create_directories(root_ / drive);
+        files.setDrives({{'C', platform::DriveType::fixed, root_ / "c"},
+                         {'D', platform::DriveType::cdrom, root_ / "d"}});
     }
 
-    /// Writes a file, and the folders above it.
-    void put(const std::string& dosPath, const std::string& bytes) { m_root.write(name(dosPath), bytes); }
-    /// The bytes of a file; a text that no test writes when there is none.
-    std::string get(const std::string& dosPath) const { return m_root.read(name(dosPath)); }
+    /// Writes a file, and makes the folders above it.
+    void put(const std::string& dosPath, const std::string& bytes) { root_.write(name(dosPath), bytes); }
+    /// The bytes of a file; if there is none, a text that no test writes.
+    std::string get(const std::string& dosPath) const { return root_.read(name(dosPath)); }
     bool has(const std::string& dosPath) const { return std::filesystem::exists(host(dosPath)); }
-    std::filesystem::path host(const std::string& dosPath) const { return m_root / name(dosPath); }
+    std::filesystem::path host(const std::string& dosPath) const { return root_ / name(dosPath); }
 
     platform::FileSystem files;
 
@@ -30,5 +30,5 @@ class TestDrives {
         std::ranges::replace(path, '\\', '/');
         return (dosPath[0] == 'C' ? "c/" : "d/") + path;
     }
-    TestFolder m_root;
+    TestFolder root_;
 };

@@ -7,7 +7,7 @@
 
 #include "platform/files/FileSystem.h"
 
-/// A folder of the host that lasts as long as the test.
+/// A folder of the host that exists during the test.
 class TestFolder {
   public:
     TestFolder();
@@ -18,11 +18,11 @@ class TestFolder {
     const std::filesystem::path& path() const { return path_; }
     std::filesystem::path operator/(const std::string& name) const { return path_ / name; }
 
-    /// Writes a file, with the folders above it, and returns its path.
+    /// Writes a file, makes the folders above it, and returns its path.
     std::filesystem::path write(const std::string& name, std::string_view content) const;
-    /// The content of a file; a text that no test expects when there is none.
+    /// The content of a file; if there is none, a text that no test expects.
     std::string read(const std::string& name) const;
-    /// How many files and folders lie directly in the folder.
+    /// The number of files and folders directly in the folder.
     std::size_t count() const;
     /// The folder as drive C:.
     platform::FileSystem asDrive() const;
@@ -31,7 +31,7 @@ class TestFolder {
     std::filesystem::path path_;
 };
 
-/// While it lasts, no file can be written beyond so many bytes, as on a full disk.
+/// During its lifetime no file can grow beyond so many bytes, as on a full disk.
 class FullDisk {
   public:
     explicit FullDisk(std::size_t bytes);

@@ -46,7 +46,7 @@ class IndexFileMaker {
     void addElementIndex() {
         std::vector<formats::ElementPageRecord> records;
         for (const ElementLine& element : m_content.elements) records.push_back(element.record);
-        add(std::string(formats::kElementIndexFile), formats::encodeElementIndex(records));
+        add(std::string(formats::elementIndexFile), formats::encodeElementIndex(records));
     }
 
     void addBrowseIndex() {
@@ -54,15 +54,15 @@ class IndexFileMaker {
         for (const formats::Section& section : formats::sectionTable()) {
             index.sections.push_back({section.code, browseTopics(section)});
         }
-        add(std::string(formats::kBrowseIndexFile), formats::encodeBrowseIndex(index));
+        add(std::string(formats::browseIndexFile), formats::encodeBrowseIndex(index));
     }
 
     void addWordSearch() {
         const WordIndex index = makeWordIndex(m_content);
-        add(std::string(formats::kWordIndexFile), formats::encodeWordIndex(index.words));
-        add(std::string(formats::kAlternativesFile), formats::encodeAlternatives(index.alternatives));
-        add(std::string(formats::kFirstLettersFile), formats::encodeFirstLetters(index.firstLetters));
-        add(std::string(formats::kOccurrencesFile), formats::encodeOccurrences(index.occurrences));
+        add(std::string(formats::wordIndexFile), formats::encodeWordIndex(index.words));
+        add(std::string(formats::alternativesFile), formats::encodeAlternatives(index.alternatives));
+        add(std::string(formats::firstLettersFile), formats::encodeFirstLetters(index.firstLetters));
+        add(std::string(formats::occurrencesFile), formats::encodeOccurrences(index.occurrences));
     }
 
   private:

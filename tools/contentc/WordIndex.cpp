@@ -30,7 +30,7 @@ class WordIndexMaker {
   private:
     void addPage(const PageSource& page, std::int32_t pageId, std::int32_t itemCode) {
         for (const std::string& word : wordsOf(page)) {
-            if (m_content.words.stopWords.contains(word) || word.size() > formats::kMaxIndexedWord) continue;
+            if (m_content.words.stopWords.contains(word) || word.size() > formats::maxIndexedWord) continue;
             m_words.insert(word);
             m_index.occurrences.push_back({word, pageId, itemCode, page.section->code});
         }
@@ -39,7 +39,7 @@ class WordIndexMaker {
     void addAlternatives() {
         std::int32_t group = 0;
         for (std::vector<std::string>& forms : groupForms(m_words, m_content.words.formGroups)) {
-            std::erase_if(forms, [](const auto& form) { return form.size() > formats::kMaxAlternative; });
+            std::erase_if(forms, [](const auto& form) { return form.size() > formats::maxAlternative; });
             if (forms.size() < 2) continue;
             ++group;
             for (const std::string& form : forms) m_index.alternatives.push_back({group, form});

@@ -27,7 +27,7 @@ BrowseFolder::BrowseFolder(const platform::FileSystem& files, std::string folder
 std::string BrowseFolder::path(std::string_view name) const { return folder_ + std::string(name); }
 
 formats::BrowseIndex BrowseFolder::readIndex() const {
-    const auto image = files_.readAll(path(formats::kBrowseIndexFile), largestFile);
+    const auto image = files_.readAll(path(formats::browseIndexFile), largestFile);
     auto index = image ? formats::decodeBrowseIndex(*image) : std::nullopt;
     return index ? *std::move(index) : readTitleFiles();
 }
@@ -67,7 +67,7 @@ std::string BrowseFolder::entryTitle(std::int32_t itemCode) const {
     const auto offset = formats::titleListOffset(formats::entryNumberOf(itemCode));
     const auto file = name && offset ? platform::BinaryFile::open(files_, path(*name)) : std::nullopt;
     if (!file) return {};
-    std::array<char, formats::kTitleListRecordSize> record{};
+    std::array<char, formats::titleListRecordSize> record{};
     const std::size_t length = file->readAt(*offset, std::as_writable_bytes(std::span(record)));
     return formats::decodeEntryTitle({record.data(), length}).value_or(std::string());
 }

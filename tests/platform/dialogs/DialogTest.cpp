@@ -55,7 +55,7 @@ class DialogTest : public ProgramTest {
     TestDialog dialog_;
 };
 
-/// What Qt does with the window of a dialog in which a browser comes to life.
+/// What Qt does with the window of a dialog to which a browser is added.
 struct NativeWindow : QWidget {
     static void makeAnew(QWidget& widget) {
         (widget.*&NativeWindow::destroy)(true, true);

@@ -15,12 +15,12 @@ using namespace platform::literals;
 
 namespace {
 
-/// A machine that does not answer: the box is shown.
+/// A machine without prepared answers: boxes are shown.
 class ShownBoxTest : public ProgramTest {
   protected:
     ShownBoxTest() : silent_(::testing::TempDir(), MachineConfig(), Registry()) { setMachine(&silent_); }
 
-    /// Runs `answer` once the box is up.
+    /// Calls `answer` when the box is shown.
     void whenShown(const std::function<void(QMessageBox&)>& answer) {
         QTimer::singleShot(0, [answer] {
             auto* const box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());

@@ -14,7 +14,7 @@ using namespace platform::literals;
 
 namespace {
 
-/// A machine whose clock stands still but for sleeping, and on which boxes are shown.
+/// A machine whose clock advances only by sleeping, and on which boxes are shown.
 class ProgressTest : public ProgramTest {
   protected:
     ProgressTest() : still_(::testing::TempDir(), MachineConfig(), Registry()) {
@@ -50,7 +50,7 @@ TEST_F(ProgressTest, ShowsTheCursorAfterHalfASecondAndTheBoxAfterTwo) {
     EXPECT_EQ(box()->value() * 4, box()->maximum());
     EXPECT_TRUE(stepAfter(50, 3));
     EXPECT_EQ(box()->value() * 4, box()->maximum() * 3);
-    // Of how much is not known.
+    // The total is not known.
     EXPECT_TRUE(stepAfter(50, 3, 0));
     EXPECT_EQ(box()->maximum(), 0);
 }

@@ -16,7 +16,7 @@ namespace {
 
 constexpr COLORREF red = RGB(255, 0, 0);
 
-/// A window of 20 by 10 pixels that is drawn on from outside.
+/// A window of 20 × 10 pixels on which the tests draw.
 class DrawingTest : public ProgramTest {
   protected:
     void SetUp() override {
@@ -81,12 +81,12 @@ TEST_F(DrawingTest, CopiesAPictureOntoItself) {
 TEST_F(DrawingTest, FillsWithThePatternFromTheOrigin) {
     CBitmap checker;
     ASSERT_TRUE(checker.LoadBitmap(2));
-    dc().FillRect({1, 0, 5, 1}, CBrush::pattern(checker));
+    dc().FillRect({1, 0, 5, 1}, CBrush::Pattern(checker));
     EXPECT_EQ(row(0, 1, 5), "ffffff 000000 ffffff 000000 ");
 }
 
 TEST_F(DrawingTest, DrawsBottomUpRowsWithTheirPadding) {
-    // Two rows of three pixels: 9 bytes and 3 of padding each.
+    // Two rows of three pixels: 9 bytes of colours and 3 bytes of padding each.
     const std::vector<std::uint8_t> pixels = {255, 0, 0,   255, 0,   0, 255, 0,   0,   9, 9, 9,
                                               0,   0, 255, 0,   255, 0, 255, 255, 255, 9, 9, 9};
     dc().SetDIBitsToDevice(4, 2, {.biWidth = 3, .biHeight = 2}, pixels.data());
@@ -104,7 +104,7 @@ TEST_F(DrawingTest, DrawsNoPictureOfAnImpossibleSize) {
     EXPECT_EQ(shownColour(*window_, 0, 0), "ffffff");
 }
 
-/// A bitmap of 8 bits, 2 by 2 pixels, whose rows are padded to 4 bytes.
+/// A bitmap of 2 × 2 pixels with 8 bits each, whose rows are padded to 4 bytes.
 TEST_F(DrawingTest, MakesBitmapsOfDeviceIndependentOnes) {
     constexpr auto bytes = [](auto... values) {
         return std::vector<std::byte>{static_cast<std::byte>(values)...};
@@ -128,7 +128,7 @@ TEST_F(DrawingTest, MakesBitmapsOfDeviceIndependentOnes) {
     }
 }
 
-/// Each of its pixels is half a coordinate wide and high, on every screen.
+/// A picture whose pixels are half a logical pixel wide and high.
 TEST_F(DrawingTest, DrawsPicturesWithMorePixelsInTheSizeOfTheirCoordinates) {
     std::vector<std::uint8_t> pixels;
     for (int y = 0; y < 4; ++y) {

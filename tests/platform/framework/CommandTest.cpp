@@ -23,7 +23,7 @@ TEST_F(CommandTest, GoesToViewDocumentFrameAndApplicationUnlessItsRuleDisablesIt
     EXPECT_EQ(log().count("view command"), 1U);
 }
 
-/// A text field inside of the view, where Ctrl+Z undoes what was typed.
+/// A text field inside the view, in which Ctrl+Z undoes typing.
 TEST_F(CommandTest, AcceleratorsRunItInsteadOfReachingTheTextField) {
     open();
     QLineEdit edit(&widgetOf(view()));

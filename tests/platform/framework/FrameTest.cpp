@@ -62,7 +62,7 @@ TEST_F(FrameTest, ResizesTellFrameAndView) {
     EXPECT_EQ(frame().GetWindowRect(), place);
 }
 
-/// As Qt does for the first browser in a window.
+/// What Qt does when the first browser is added to a window.
 struct MadeAnew : QWidget {
     static void make(QWidget& widget) {
         (widget.*&MadeAnew::destroy)(true, true);

@@ -62,7 +62,7 @@ TEST_F(RunTest, TellsThatTheDocumentCannotBeOpened) {
 
 TEST_F(RunTest, BecomesIdle) {
     open();
-    // The frame's place is looked at once more a moment after it was shown.
+    // The frame checks its place again a moment after it was shown.
     settleFor(200);
     log().clear();
     int events = 0;

@@ -23,7 +23,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A desktop without a printer: what is printed lands in the user's folder, which may not be there.
+/// A desktop without a printer: documents become files in a folder of the user that may not exist.
 class PrintFileTest : public ProgramTest {
   protected:
     PrintFileTest() {
@@ -34,7 +34,7 @@ class PrintFileTest : public ProgramTest {
     }
     ~PrintFileTest() override { setPrintListener({}); }
 
-    /// Prints an empty page; whether it was begun.
+    /// Prints an empty page; whether it could be begun.
     bool printTo(const fs::path& folder) {
         MachineConfig config;
         config.printer = PrinterConfig();
@@ -68,7 +68,7 @@ TEST_F(PrintFileTest, TellsOfAFileThatCannotBeWritten) {
     EXPECT_FALSE(fs::exists(root_ / "full/print-1.pdf"));
 }
 
-/// What a dialog says.
+/// The texts in a dialog.
 QStringList textsIn(const QWidget& dialog) {
     QStringList texts;
     for (const auto* label : dialog.findChildren<QLabel*>()) texts += label->text();
@@ -85,7 +85,7 @@ TEST(PrintDialogTextsTest, AreGreek) {
     QCoreApplication::installTranslator(&greek);
     QPrinter printer;
     const QPrintDialog dialog(&printer);
-    // The last printer is a file.
+    // The last entry of the list prints into a file.
     for (auto* box : dialog.findChildren<QComboBox*>()) box->setCurrentIndex(box->count() - 1);
     const QStringList texts = textsIn(dialog);
     EXPECT_GT(texts.size(), 30);

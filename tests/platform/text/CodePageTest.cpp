@@ -15,7 +15,7 @@
 namespace platform {
 namespace {
 
-/// What the C library makes of one byte of the code page; nothing for an undefined byte.
+/// The C library's conversion of one byte of the code page; nothing for an undefined byte.
 std::optional<std::string> libraryUtf8(char byte) {
     const iconv_t converter = iconv_open("UTF-8", "CP1253");
     std::array<char, 8> target{};

@@ -13,7 +13,7 @@
 #include "platform/widgets/TreeCtrl.h"
 #include "tests/support/windows/TestProgram.h"
 
-/// The standard controls inside a dialog, used as a person would.
+/// The standard controls in a dialog, used as a user would.
 namespace windows_test {
 
 using namespace platform;
@@ -125,7 +125,7 @@ TEST_F(ControlsTest, LinesOfAnEditFillItsHeightShownOrNot) {
         settle();
         EXPECT_EQ(edit.GetLineCount(), lines) << c.text;
         EXPECT_EQ(edit.GetWindowText(), c.text);
-        // Neither the last line nor a long word is cut.
+        // Neither the last line nor a long word is cut off.
         const auto& widget = dynamic_cast<QTextEdit&>(widgetOf(edit));
         EXPECT_LE(widget.document()->size().height(), edit.GetClientRect().Height()) << c.text;
         EXPECT_LE(widget.document()->idealWidth(), edit.GetClientRect().Width()) << c.text;
@@ -150,8 +150,8 @@ TEST_F(ControlsTest, ObjectsOutliveTheirControls) {
     EXPECT_EQ(dialog_.list.GetCurSel(), -1);
     dialog_.edit.SetWindowText("x");
     EXPECT_EQ(dialog_.edit.GetWindowText(), "");
-    // And are bound anew when the dialog is shown once more.
-    show([&] { EXPECT_TRUE(dialog_.tree.bound()); });
+    // The objects are bound again when the dialog is shown again.
+    show([&] { EXPECT_TRUE(dialog_.tree.Bound()); });
 }
 
 }  // namespace

@@ -10,7 +10,7 @@ using namespace platform;
 
 namespace {
 
-/// Counts what reaches it and asks for nothing.
+/// Counts the events that reach it, and ignores them.
 class Probe : public QWidget {
   public:
     explicit Probe(QWidget* parent, QRect place) : QWidget(parent) {
@@ -30,7 +30,7 @@ class Probe : public QWidget {
     }
 };
 
-/// Plain widgets inside of the view, as controls have them.
+/// Plain widgets inside the view, as components have them.
 class InputFilterTest : public ProgramTest {
   protected:
     void SetUp() override {
@@ -61,7 +61,7 @@ TEST_F(InputFilterTest, SeesInputOfAnyWidgetOnceWithTheNearestWindow) {
     click(view(), 35, 45);
     EXPECT_EQ(asked_, (Lines{"WM_LBUTTONDOWN 35,45", "WM_LBUTTONUP 35,45"}));
     EXPECT_EQ(windows_, (std::vector<HWND>{view().GetSafeHwnd(), view().GetSafeHwnd()}));
-    // The inner widget did not want the press, so that it went on to the outer one and to the view.
+    // The inner widget ignored the press, so Qt passed it on to the outer one and to the view.
     EXPECT_EQ(outer_->seen, (std::vector{QEvent::MouseButtonPress, QEvent::MouseButtonRelease}));
     click(view(), 35, 45, Qt::RightButton);
     EXPECT_EQ(asked_.size(), 4U);

@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <QWindow>
 
+#include "platform/windows/Cursor.h"
 #include "tests/support/windows/TestProgram.h"
 
 namespace windows_test {
@@ -35,7 +36,7 @@ TEST_F(MouseTest, ADoubleClickReplacesTheSecondPress) {
 
 TEST_F(MouseTest, TheCursorIsAskedForBeforeEachMove) {
     left_->on(
-        WM_SETCURSOR, [](WPARAM) { CCursor::resource(1).Set(); }, 1);
+        WM_SETCURSOR, [](WPARAM) { CCursor::FromResource(1).Set(); }, 1);
     moveMouse(*left_, 15, 6);
     moveMouse(*left_, 7, 8);
     moveMouse(*right_, 7, 8);
@@ -101,7 +102,7 @@ TEST_F(MouseTest, TheWindowUnderAPointIsOneOfTheProgramsOwn) {
     QCursor::setPos(screen.x, screen.y);
     settle();
     EXPECT_EQ(left_->ScreenToClient(GetCursorPos()), (CPoint{7, 8}));
-    CCursor::resource(1).Set();
+    CCursor::FromResource(1).Set();
     EXPECT_EQ(widgetOf(*left_).cursor().hotSpot(), QPoint(3, 5)) << "set without a question";
 }
 

@@ -86,7 +86,7 @@ TEST_F(ProgramPicturesTest, TheBarIsDrawnWithItsStripsOrNotAtAll) {
         CDC dc = CDC::CreateCompatibleDC(CDC());
         dc.SelectObject(target);
         bar.DrawBar(dc);
-        return drawnPixels(target.image());
+        return drawnPixels(target.Image());
     };
     EXPECT_EQ(drawnByBar(), 636 * 50);
     const WithoutArtwork without;
@@ -121,7 +121,7 @@ TEST_F(ProgramPicturesTest, AButtonsLargePictureShowsItsMiddle) {
     CBitmap strip;
     ASSERT_TRUE(strip.LoadBitmap(IDB_BAR_NORMAL));
     for (const QPoint at : {QPoint(0, 0), QPoint(11, 10), QPoint(22, 21)}) {
-        EXPECT_EQ(target.image().pixelColor(at), strip.image().pixelColor(at + QPoint(304, 14)));
+        EXPECT_EQ(target.Image().pixelColor(at), strip.Image().pixelColor(at + QPoint(304, 14)));
     }
 }
 

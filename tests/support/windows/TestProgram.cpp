@@ -78,7 +78,7 @@ const MessageMap* TestView::GetMessageMap() const {
 }
 
 const EventSinkMap* TestView::GetEventSinkMap() const {
-    static constexpr EventSinkEntry entries[] = {OnControlEvent<&TestView::onEvent>(1035, 1)};
+    static constexpr EventSinkEntry entries[] = {OnComponentEvent<&TestView::onEvent>(1035, 1)};
     static const EventSinkMap map{nullptr, entries};
     return &map;
 }

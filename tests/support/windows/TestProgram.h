@@ -7,14 +7,13 @@
 #include <string>
 
 #include "platform/dialogs/Dialog.h"
-#include "platform/framework/Document.h"
 #include "platform/framework/FrameWnd.h"
 #include "platform/framework/View.h"
 #include "platform/framework/WinApp.h"
 #include "platform/machine/Machine.h"
 #include "tests/support/windows/TestWindows.h"
 
-/// A whole little program: application, document, frame and view, with a menu and accelerators.
+/// A complete small program: application, document, frame and view, with a menu and accelerators.
 namespace windows_test {
 
 inline constexpr platform::UINT idSwitchable = 1000;  ///< handled by the view; its rule is TestView::enabled
@@ -59,7 +58,7 @@ class TestFrame : public Logged<platform::CFrameWnd> {
     const platform::CRuntimeClass& GetRuntimeClass() const override { return runtimeClass; }
     bool PreCreateWindow(platform::CREATESTRUCT& cs) override;
 
-    /// Where the next frame is created; Qt's choice when empty.
+    /// The place of the next frame; chosen by Qt if empty.
     static std::optional<platform::CRect> firstPlace;
 };
 
@@ -72,7 +71,7 @@ class TestApplication : public platform::CWinApp {
     bool PreTranslateMessage(const platform::MSG& message) override;
 
     bool starts = true;
-    /// Swallows what it returns true for; sees everything.
+    /// Called for all input; the input for which it returns true is swallowed.
     std::function<bool(const platform::MSG&)> filter;
 
   private:
@@ -82,26 +81,26 @@ class TestApplication : public platform::CWinApp {
 /// A program on a machine that answers its own message boxes.
 class ProgramTest : public ::testing::Test {
   protected:
-    /// Drive M: of its machine is the host's folder `modules`, by default that of the components.
+    /// Drive M: of the machine is the host's folder `modules`, by default the folder of the components.
     explicit ProgramTest(const std::string& modules = TEST_MODULE_FOLDER);
     ~ProgramTest() override;
 
-    /// Opens the frame on show, normally at (100, 80)-(740, 560), and lets it settle.
+    /// Opens and shows the frame, normally at (100, 80)-(740, 560), and waits until it has settled.
     void open(const platform::CRect& place = {100, 80, 740, 560});
     TestFrame& frame() { return *static_cast<TestFrame*>(app_->GetMainWnd()); }
     TestView& view() { return *static_cast<TestView*>(frame().GetActiveView()); }
     TestApplication& app() { return *app_; }
     Log& log() { return Log::instance(); }
 
-    /// A child of the view, on show, named `name` in the log.
+    /// A visible child of the view, called `name` in the log.
     std::unique_ptr<TestWnd> child(const std::string& name, const platform::CRect& rect);
 
-    /// The program has these dialogs.
+    /// Gives the program these dialogs.
     void useDialogs(std::span<const platform::DialogTemplate> dialogs);
-    /// Shows a dialog before the frame and runs `use` once it is up; its result.
+    /// Shows a dialog in front of the frame, calls `use` when it is shown, and returns its result.
     int show(platform::CDialog& dialog, const std::function<void()>& use);
 
-    // What a person does at the screen; positions are in the window's client area.
+    // Actions of a user. Positions are in the window's client area.
     void press(const platform::CWnd& window, int x, int y, Qt::MouseButton button = Qt::LeftButton);
     void release(const platform::CWnd& window, int x, int y, Qt::MouseButton button = Qt::LeftButton);
     void click(const platform::CWnd& window, int x, int y, Qt::MouseButton button = Qt::LeftButton) {

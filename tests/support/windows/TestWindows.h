@@ -8,19 +8,19 @@
 
 #include "platform/windows/Wnd.h"
 
-/// Windows that tell what they receive.
+/// Windows that log the messages they receive.
 namespace windows_test {
 
 using Lines = std::vector<std::string>;
 
-/// What happened, as texts like "view WM_SIZE 0 640x460".
+/// The messages received, as texts like "view WM_SIZE 0 640x460".
 class Log {
   public:
     static Log& instance();
     void add(std::string line) { lines_.push_back(std::move(line)); }
     void clear() { lines_.clear(); }
-    /// The lines since the last clear that have one of the messages (all lines when none is given), without
-    /// WM_SETCURSOR unless asked for.
+    /// The lines since the last clear that have one of the messages, or all lines if none is given.
+    /// WM_SETCURSOR is left out unless it is asked for.
     Lines lines(std::initializer_list<std::string_view> messages = {}) const;
     std::size_t count(std::string_view text) const;
 
@@ -30,13 +30,13 @@ class Log {
 
 std::string describe(platform::UINT message, platform::WPARAM wParam, platform::LPARAM lParam);
 
-/// A window class that logs its messages under its name, and can be told what to do with them.
+/// A window class that logs its messages under its name, and whose reactions a test can choose.
 template <class Base>
 class Logged : public Base {
   public:
     using Base::Base;
     std::string name = "window";
-    /// From now on does this first at that message, and gives it this result if there is one.
+    /// From now on calls the function first for this message, and returns the result if one is given.
     void on(platform::UINT message, std::function<void(platform::WPARAM)> act,
             std::optional<platform::LRESULT> result = {}) {
         message_ = message;
@@ -65,13 +65,13 @@ class TestWnd : public Logged<platform::CWnd> {
     const platform::CRuntimeClass& GetRuntimeClass() const override { return runtimeClass; }
 };
 
-/// Lets the program run until nothing is waiting any more.
+/// Runs the program until no event is waiting.
 void settle();
 /// The same for at least so many milliseconds.
 void settleFor(int milliseconds);
 
 QWidget& widgetOf(const platform::CWnd& window);
-/// The colour that a window shows at a point of its client area, as RRGGBB.
+/// The colour of a window at a point of its client area, as RRGGBB.
 std::string shownColour(const platform::CWnd& window, int x, int y);
 
 }  // namespace windows_test

@@ -13,7 +13,7 @@ TEST(BundledContent, FormsOfAWordAreInOneGroupAndOtherWordsInAnother) {
     std::ifstream stream(CONTENT_DATA "/words.alt", std::ios::binary);
     const std::string records(std::istreambuf_iterator<char>(stream), {});
     const auto groupOf = [&](std::string_view word) {
-        for (std::size_t at = 0; at < records.size(); at += formats::kAlternativeRecordSize) {
+        for (std::size_t at = 0; at < records.size(); at += formats::alternativeRecordSize) {
             const std::string_view record = std::string_view(records).substr(at);
             if (formats::alternativeWord(record) == word) return formats::alternativeGroup(record);
         }

@@ -178,7 +178,7 @@ TEST(CompiledFiles, IndexesListThePagesInDisplayOrder) {
     EXPECT_EQ(formats::decodeSectionTitles(content.compiled("uses.dat")), titles);
 
     const std::string countries = content.compiled("country.ttl");
-    EXPECT_EQ(countries.size(), 3 * formats::kTitleListRecordSize);
+    EXPECT_EQ(countries.size(), 3 * formats::titleListRecordSize);
     EXPECT_EQ(formats::entryTitle(countries, 1), "E40001");
     EXPECT_EQ(formats::entryTitle(countries, 2), "Athens");
     EXPECT_EQ(formats::entryTitle(content.compiled("video.ttl"), 2), "E120002");

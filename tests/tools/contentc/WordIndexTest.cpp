@@ -92,7 +92,7 @@ TEST_F(WordFiles, HoldEachWordWithItsPlaces) {
 
     const std::string dat = content.compiled("words.dat");
     std::vector<formats::OccurrenceRecord> found;
-    for (std::size_t at = 0; at < dat.size(); at += formats::kOccurrenceRecordSize)
+    for (std::size_t at = 0; at < dat.size(); at += formats::occurrenceRecordSize)
         found.push_back(*formats::decodeOccurrence(std::string_view(dat).substr(at)));
     const std::vector<formats::OccurrenceRecord> expected{{"h2o", 370010, 0, 2},
                                                           {greek("νερό"), 370010, 0, 2},
@@ -112,13 +112,13 @@ TEST_F(WordFiles, HoldEachWordWithItsPlaces) {
 }
 
 TEST_F(WordFiles, WordsThatDoNotFitAreLeftOut) {
-    const std::string fits(formats::kMaxIndexedWord, 'x');
+    const std::string fits(formats::maxIndexedWord, 'x');
     content.write("pages/uses/400010.page", "title: T\nkind: topic\n---\n" + fits + ' ' + fits + "x\n");
     content.write("words/forms.txt", fits + " h2o υδρογόνο\n");
     const Words words = formats::decodeWordIndex(content.compiled("words.ndx"));
     EXPECT_EQ(std::ranges::count(words, fits), 1);
     EXPECT_EQ(std::ranges::count(words, fits + 'x'), 0);
-    EXPECT_EQ(content.compiled("words.alt").size(), 2 * formats::kAlternativeRecordSize);
+    EXPECT_EQ(content.compiled("words.alt").size(), 2 * formats::alternativeRecordSize);
 }
 
 TEST_F(WordFiles, WordInTwoGroupsIsReported) {

@@ -118,7 +118,7 @@ std::optional<PageSource> readSectionPage(const SourceFile& file, const formats:
     header->allowOnly({"title", "kind", "topic", "order", "template"}, diagnostics);
     HeaderReader reader(*header, page, diagnostics);
     const bool hasKind = reader.readKind();
-    reader.readTitle(page.kind == PageKind::Entry ? formats::kMaxEntryTitle : formats::kMaxSectionTitle);
+    reader.readTitle(page.kind == PageKind::Entry ? formats::maxEntryTitle : formats::maxSectionTitle);
     reader.readOrder();
     reader.readTemplate();
     if (hasKind) reader.readTopic();
@@ -135,7 +135,7 @@ std::optional<PageSource> readPlainPage(const SourceFile& file, Diagnostics& dia
     const auto header = PageHeader::take(file, page.body, diagnostics);
     if (!header) return std::nullopt;
     header->allowOnly({"title"}, diagnostics);
-    HeaderReader(*header, page, diagnostics).readTitle(formats::kMaxSectionTitle);
+    HeaderReader(*header, page, diagnostics).readTitle(formats::maxSectionTitle);
     return page;
 }
 

@@ -30,7 +30,7 @@ void command(Act& act, Program&) {
     if (!id) return act.fail("no command number: " + act.word(0));
     if (frame == nullptr) return;
     // Told before it runs: a command that shows a dialog returns when that is closed.
-    act.set("carriedOut", frame->UpdateCommand(*id).enabled());
+    act.set("carriedOut", frame->UpdateCommand(*id).Enabled());
     act.set("carriedOut", frame->RunCommand(*id));
 }
 

@@ -24,7 +24,7 @@ std::optional<int> Program::exitCode() {
     return m_exitCode;
 }
 
-CMainFrame* Program::frame() { return static_cast<CMainFrame*>(platform::CWinApp::instance().GetMainWnd()); }
+CMainFrame* Program::frame() { return static_cast<CMainFrame*>(platform::CWinApp::Instance().GetMainWnd()); }
 
 CKalyxoView* Program::view() {
     CMainFrame* const window = frame();
