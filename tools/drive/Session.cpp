@@ -5,16 +5,16 @@
 #include <utility>
 
 #include "tools/drive/commands/CommandTable.h"
-#include "tools/drive/desktop/ClipboardWatch.h"
-#include "tools/drive/desktop/Controls.h"
-#include "tools/drive/script/Act.h"
+#include "tools/drive/desktop/Clipboard.h"
+#include "tools/drive/desktop/Components.h"
+#include "tools/drive/script/Request.h"
 #include "tools/drive/script/Words.h"
 
 namespace drive {
 
 namespace {
 
-constexpr int kScriptUnreadable = 2;
+constexpr int scriptUnreadable = 2;
 
 void print(const Json& answer) {
     std::printf("%s\n", toLine(answer).c_str());
@@ -24,9 +24,9 @@ void print(const Json& answer) {
 }  // namespace
 
 Session::Session(int script, kalyxo::CKalyxoApp& application)
-    : m_program(application),
-      m_watch([this] { return isBusy(); }, [this] { answer(); }),
-      m_reader(
+    : program_(application),
+      watch_([this] { return isBusy(); }, [this] { answer(); }),
+      reader_(
           script, [this](const std::string& line) { return takeLine(line); }, &Session::endOfScript) {
     watchClipboard(*this);
 }
@@ -46,29 +46,29 @@ bool Session::takeLine(const std::string& line) {
         return false;
     }
     const std::size_t count = words->size() - 1;
-    if (count < command->least || count > command->most) {
+    if (count < command->minArguments || count > command->maxArguments) {
         print(refusal(words->front(), "it takes another number of arguments"));
         return false;
     }
-    m_act = std::make_shared<Act>(*words);
-    // In an event of its own: it may run a dialog's event loop, in which the next lines are read.
+    request_ = std::make_shared<Request>(*words);
+    // In an event of its own, because it may run a dialog's event loop, in which the next lines are read.
     QMetaObject::invokeMethod(
-        this, [this, act = m_act, command] { carryOut(act, *command); }, Qt::QueuedConnection);
+        this, [this, request = request_, command] { carryOut(request, *command); }, Qt::QueuedConnection);
     return true;
 }
 
-void Session::carryOut(const std::shared_ptr<Act>& act, const Command& command) {
-    m_watch.begin();
-    command.carryOut(*act, m_program);
+void Session::carryOut(const std::shared_ptr<Request>& request, const Command& command) {
+    watch_.begin();
+    command.carryOut(*request, program_);
 }
 
-bool Session::isBusy() const { return m_act->held() || anyControlBusy(); }
+bool Session::isBusy() const { return request_->held() || anyComponentBusy(); }
 
 void Session::answer() {
-    print(std::exchange(m_act, nullptr)->answer());
-    m_reader.next();
+    print(std::exchange(request_, nullptr)->answer());
+    reader_.next();
 }
 
-void Session::endOfScript(bool failed) { QCoreApplication::exit(failed ? kScriptUnreadable : 0); }
+void Session::endOfScript(bool failed) { QCoreApplication::exit(failed ? scriptUnreadable : 0); }
 
 }  // namespace drive

@@ -10,33 +10,33 @@
 
 namespace drive {
 
-class Act;
+class Request;
 struct Command;
 
-/// Carries a script out: a command at a time, each in an event of its own, answered at the next idle moment
-/// of the program.
+/// Carries a script out, one command at a time. Each runs in an event of its own and is answered when the
+/// program is idle again.
 class Session : public QObject {
   public:
-    /// `script` is an open file; the answers go to standard output. The application object's loop ends with 0
-    /// behind the last line, or with 2 when the script cannot be read.
+    /// `script` is an open file; the answers go to standard output. After the last line the application
+    /// object's event loop ends with 0, or with 2 when the script cannot be read.
     Session(int script, kalyxo::CKalyxoApp& application);
     ~Session() override;
 
     /// Asks for the first line.
-    void begin() { m_reader.next(); }
-    bool programRuns() const { return m_program.running(); }
+    void begin() { reader_.next(); }
+    bool programRuns() const { return program_.running(); }
 
   private:
     bool takeLine(const std::string& line);
-    void carryOut(const std::shared_ptr<Act>& act, const Command& command);
+    void carryOut(const std::shared_ptr<Request>& request, const Command& command);
     bool isBusy() const;
     void answer();
     static void endOfScript(bool failed);
 
-    Program m_program;
-    IdleWatch m_watch;
-    ScriptReader m_reader;
-    std::shared_ptr<Act> m_act;
+    Program program_;
+    IdleWatch watch_;
+    ScriptReader reader_;
+    std::shared_ptr<Request> request_;
 };
 
 }  // namespace drive

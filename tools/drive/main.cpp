@@ -15,25 +15,24 @@
 #include "src/host/InstalledFiles.h"
 #include "src/host/MachineSetup.h"
 #include "src/resources/ResourceTable.h"
-#include "tools/drive/Death.h"
-#include "tools/drive/Screen.h"
+#include "tools/drive/ProcessSetup.h"
 #include "tools/drive/Session.h"
 #include "tools/drive/script/CommandLine.h"
 
 namespace drive {
 namespace {
 
-constexpr int kWrong = 2;
+constexpr int wrongUse = 2;
 
 int complain(const std::string& problem) {
     std::fprintf(stderr, "kalyxo-drive: %s\n", problem.c_str());
-    return kWrong;
+    return wrongUse;
 }
 
 int refuse(const platform::Failure& failure) {
     complain(failure.message);
     std::fputs(std::string(usage()).c_str(), stderr);
-    return kWrong;
+    return wrongUse;
 }
 
 int carryOut(const NewMachine& task) {
@@ -45,12 +44,12 @@ int carryOut(const NewMachine& task) {
     return made ? 0 : complain(made.failure().message);
 }
 
-/// The screen is the machine's, unless the caller names another.
-std::string screenChoice(const platform::ScreenConfig& screen) {
+/// The argument of `-platform`: the machine's screen, unless the environment names another platform.
+std::string platformChoice(const platform::ScreenConfig& screen) {
     constexpr const char* variable = "QT_QPA_PLATFORM";
     if (!qEnvironmentVariableIsSet(variable)) qputenv(variable, "offscreen");
     const QByteArray chosen = qgetenv(variable);
-    return chosen == "offscreen" ? unseenScreen(screen) : chosen.toStdString();
+    return chosen == "offscreen" ? offscreenPlatform(screen) : chosen.toStdString();
 }
 
 int runSession(int script) {
@@ -58,7 +57,7 @@ int runSession(int script) {
     Session session(script, program);
     session.begin();
     const int status = QCoreApplication::exec();
-    // A program that still runs stops where it stands, as when the machine is switched off.
+    // A program that still runs ends without any cleaning up, as when the machine is switched off.
     if (session.programRuns()) ::_exit(status);
     return status;
 }
@@ -74,7 +73,7 @@ int carryOut(const RunScript& task) {
     opened.setVirtualTime(true);
     platform::setMachine(&opened);
 
-    std::string screen = screenChoice(opened.screen());
+    std::string screen = platformChoice(opened.screen());
     std::string name = "kalyxo-drive";
     std::string option = "-platform";
     std::array arguments = {name.data(), option.data(), screen.data()};
@@ -94,7 +93,7 @@ int carryOut(const RunScript& task) {
 }  // namespace drive
 
 int main(int argc, char** argv) {
-    drive::reportDeath();
+    drive::reportCrashes();
     platform::SetResources(kalyxo::ProgramResources());
     const auto task =
         drive::taskOf(std::span<const char* const>(argv, static_cast<std::size_t>(argc)).subspan(1));

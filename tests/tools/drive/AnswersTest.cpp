@@ -16,7 +16,7 @@ TEST(Answers, OneLineWhateverTheScriptHeld) {
 using Types = std::vector<TypeCode>;
 using Words = std::vector<std::string>;
 
-TEST(Answers, ControlArgumentsThatDoNotFit) {
+TEST(Answers, ComponentArgumentsThatDoNotFit) {
     const std::vector<std::pair<Types, Words>> wrong = {
         {{}, {"1"}},
         {{TypeCode::i2}, {}},
@@ -28,11 +28,11 @@ TEST(Answers, ControlArgumentsThatDoNotFit) {
         {{TypeCode::booleanRef}, {"1"}},
         {{TypeCode::dispatch}, {"x"}},
     };
-    for (const auto& [types, words] : wrong) EXPECT_FALSE(controlArguments(types, words));
+    for (const auto& [types, words] : wrong) EXPECT_FALSE(componentArguments(types, words));
 }
 
 TEST(Answers, AReferenceTellsWhatItBecame) {
-    const auto arguments = controlArguments(Types{TypeCode::booleanRef}, Words{"false"});
+    const auto arguments = componentArguments(Types{TypeCode::booleanRef}, Words{"false"});
     ASSERT_TRUE(arguments);
     EXPECT_EQ(variantJson(arguments->values[0]), Json(false));
     **arguments->values[0].get<bool*>() = true;

@@ -13,45 +13,45 @@ namespace {
 class IdleWatchTest : public EventLoopTest {
   protected:
     void later(std::function<void()> step) {
-        QMetaObject::invokeMethod(&m_context, std::move(step), Qt::QueuedConnection);
+        QMetaObject::invokeMethod(&context_, std::move(step), Qt::QueuedConnection);
     }
-    void note(const std::string& what) { m_notes += what; }
+    void note(const std::string& what) { notes_ += what; }
 
-    QObject m_context;
-    std::string m_notes;
-    bool m_busy = false;
-    QEventLoop m_loop;
-    IdleWatch m_watch{[this] { return m_busy; },
-                      [this] {
-                          note("idle ");
-                          m_loop.quit();
-                      }};
+    QObject context_;
+    std::string notes_;
+    bool busy_ = false;
+    QEventLoop loop_;
+    IdleWatch watch_{[this] { return busy_; },
+                     [this] {
+                         note("idle ");
+                         loop_.quit();
+                     }};
 };
 
 TEST_F(IdleWatchTest, ComesBehindAllThatFollowsFromAnEvent) {
     later([this] {
-        m_watch.begin();
+        watch_.begin();
         note("first ");
         later([this] {
             note("second ");
-            QTimer::singleShot(0, &m_context, [this] { later([this] { note("third "); }); });
+            QTimer::singleShot(0, &context_, [this] { later([this] { note("third "); }); });
         });
     });
-    ASSERT_TRUE(runLoop(m_loop));
-    EXPECT_EQ(m_notes, "first second third idle ");
+    ASSERT_TRUE(runLoop(loop_));
+    EXPECT_EQ(notes_, "first second third idle ");
 }
 
 TEST_F(IdleWatchTest, WaitsForWhatIsBusyButNotForTimers) {
-    m_busy = true;
-    QTimer::singleShot(30, &m_context, [this] {
+    busy_ = true;
+    QTimer::singleShot(30, &context_, [this] {
         note("done ");
-        m_busy = false;
+        busy_ = false;
     });
     QTimer running;
     running.start(3'600'000);
-    m_watch.begin();
-    ASSERT_TRUE(runLoop(m_loop));
-    EXPECT_EQ(m_notes, "done idle ");
+    watch_.begin();
+    ASSERT_TRUE(runLoop(loop_));
+    EXPECT_EQ(notes_, "done idle ");
 }
 
 }  // namespace

@@ -16,66 +16,66 @@ namespace {
 class ScriptReaderTest : public EventLoopTest {
   protected:
     ScriptReaderTest() {
-        EXPECT_EQ(::pipe2(m_pipe.data(), O_CLOEXEC), 0);
-        m_reader = std::make_unique<ScriptReader>(
-            m_pipe[0], [this](const std::string& line) { return take(line); },
+        EXPECT_EQ(::pipe2(pipe_.data(), O_CLOEXEC), 0);
+        reader_ = std::make_unique<ScriptReader>(
+            pipe_[0], [this](const std::string& line) { return take(line); },
             [this](bool failed) {
-                m_lines.emplace_back(failed ? "(failed)" : "(end)");
-                m_loop.quit();
+                lines_.emplace_back(failed ? "(failed)" : "(end)");
+                loop_.quit();
             });
     }
     ~ScriptReaderTest() override {
-        m_reader.reset();
+        reader_.reset();
         closeWriter();
-        ::close(m_pipe[0]);
+        ::close(pipe_[0]);
     }
 
     bool take(const std::string& line) {
         if (line.empty()) return false;
-        m_lines.push_back(line);
-        m_loop.quit();
+        lines_.push_back(line);
+        loop_.quit();
         return true;
     }
     void write(const std::string& bytes) {
-        EXPECT_EQ(::write(m_pipe[1], bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
+        EXPECT_EQ(::write(pipe_[1], bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
     }
     void closeWriter() {
-        if (m_pipe[1] >= 0) ::close(std::exchange(m_pipe[1], -1));
+        if (pipe_[1] >= 0) ::close(std::exchange(pipe_[1], -1));
     }
     /// Asks for a line and waits for it or the end.
     void next() {
-        const std::size_t before = m_lines.size();
-        m_reader->next();
-        if (m_lines.size() == before) {
-            EXPECT_TRUE(runLoop(m_loop));
+        const std::size_t before = lines_.size();
+        reader_->next();
+        if (lines_.size() == before) {
+            EXPECT_TRUE(runLoop(loop_));
         }
     }
 
-    std::array<int, 2> m_pipe{-1, -1};
-    QEventLoop m_loop;
-    std::vector<std::string> m_lines;
-    std::unique_ptr<ScriptReader> m_reader;
+    std::array<int, 2> pipe_{-1, -1};
+    QEventLoop loop_;
+    std::vector<std::string> lines_;
+    std::unique_ptr<ScriptReader> reader_;
 };
 
 using Lines = std::vector<std::string>;
 
 TEST_F(ScriptReaderTest, JoinsWhatArrivesInPiecesAndTheLastLineNeedsNoEnd) {
     write("half a ");
-    QTimer::singleShot(20, &m_loop, [this] {
+    QTimer::singleShot(20, &loop_, [this] {
         write("line\nlast");
         closeWriter();
     });
     next();
     next();
     next();
-    EXPECT_EQ(m_lines, (Lines{"half a line", "last", "(end)"}));
+    EXPECT_EQ(lines_, (Lines{"half a line", "last", "(end)"}));
 }
 
 TEST_F(ScriptReaderTest, ManyLinesWithoutContentArePassedOver) {
     // Less than a pipe holds, and more than a stack does if each took a part of it.
     write(std::string(60'000, '\n') + "one\n");
     next();
-    EXPECT_EQ(m_lines, Lines{"one"});
+    EXPECT_EQ(lines_, Lines{"one"});
 }
 
 TEST_F(ScriptReaderTest, AFolderIsNoScript) {
@@ -84,10 +84,10 @@ TEST_F(ScriptReaderTest, AFolderIsNoScript) {
         folder, [](const std::string&) { return true; },
         [this](bool failed) {
             EXPECT_TRUE(failed);
-            m_loop.quit();
+            loop_.quit();
         });
     reader.next();
-    EXPECT_TRUE(runLoop(m_loop));
+    EXPECT_TRUE(runLoop(loop_));
     ::close(folder);
 }
 

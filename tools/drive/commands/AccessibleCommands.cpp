@@ -4,9 +4,9 @@
 #include <QWidget>
 
 #include "tools/drive/commands/CommandTable.h"
-#include "tools/drive/script/Act.h"
+#include "tools/drive/script/Request.h"
 
-/// What screen readers are told of the window in front.
+/// What screen readers are told about the window in front.
 namespace drive {
 
 namespace {
@@ -16,7 +16,7 @@ const char* roleName(QAccessible::Role role) {
     return name == nullptr ? "?" : name;
 }
 
-/// Lists the parts that the user can do something with.
+/// Adds the parts that take the focus or can be pushed.
 void list(QAccessibleInterface& part, Json& parts) {
     const QAccessible::State state = part.state();
     if (state.invisible) return;
@@ -28,29 +28,29 @@ void list(QAccessibleInterface& part, Json& parts) {
                          {"focusable", bool(state.focusable)}});
         if (state.focused) parts.back()["focused"] = true;
     }
-    // Of a page the engine tells itself.
+    // The parts of a page are the browser engine's matter.
     if (part.role() == QAccessible::WebDocument) return;
     for (int i = 0; i < part.childCount(); ++i) {
         if (QAccessibleInterface* child = part.child(i)) list(*child, parts);
     }
 }
 
-void tellAccessible(Act& act) {
+void tellAccessible(Request& request) {
     QWidget* window = QApplication::activeModalWidget();
     if (window == nullptr) window = QApplication::activeWindow();
     QAccessibleInterface* root = window == nullptr ? nullptr : QAccessible::queryAccessibleInterface(window);
-    if (root == nullptr) return act.fail("there is no window");
+    if (root == nullptr) return request.fail("there is no window");
     Json parts = Json::array();
     list(*root, parts);
-    act.set("parts", std::move(parts));
+    request.set("parts", std::move(parts));
 }
 
-void accessible(Act& act, Program&) { act.whenIdle(tellAccessible); }
+void accessible(Request& request, Program&) { request.whenIdle(tellAccessible); }
 
-constexpr Command kAccessibleCommands[] = {{"accessible", 0, 0, accessible}};
+constexpr Command accessibleTable[] = {{"accessible", 0, 0, accessible}};
 
 }  // namespace
 
-std::span<const Command> accessibleCommands() { return kAccessibleCommands; }
+std::span<const Command> accessibleCommands() { return accessibleTable; }
 
 }  // namespace drive

@@ -6,20 +6,20 @@
 
 namespace drive {
 
-class Act;
+class Request;
 class Program;
 
-/// A command of scripts.
+/// A command that scripts can give.
 struct Command {
     std::string_view name;
-    std::size_t least;  ///< number of arguments
-    std::size_t most;
-    void (*carryOut)(Act& act, Program& program);
+    std::size_t minArguments;
+    std::size_t maxArguments;
+    void (*carryOut)(Request& request, Program& program);
 };
 
-inline constexpr std::size_t kAnyNumber = 1000;
+inline constexpr std::size_t anyNumber = 1000;
 
-/// The command of this name, or null.
+/// The command of this name, null when there is none.
 const Command* findCommand(std::string_view name);
 
 /// The commands by subject.

@@ -8,10 +8,10 @@
 #include "src/view/KalyxoView.h"
 #include "tools/drive/commands/CommandTable.h"
 #include "tools/drive/desktop/ControlItems.h"
-#include "tools/drive/desktop/Controls.h"
+
 #include "tools/drive/desktop/Program.h"
 #include "tools/drive/desktop/Windows.h"
-#include "tools/drive/script/Act.h"
+#include "tools/drive/script/Request.h"
 
 /// Dialogs and the glossary pop-up.
 namespace drive {
@@ -20,10 +20,10 @@ using namespace platform;
 
 namespace {
 
-/// The active dialog; fails the act when there is none.
-CDialog* dialogFor(Act& act) {
+/// The active dialog. The request fails when there is none.
+CDialog* dialogFor(Request& request) {
     CDialog* dialog = activeDialog();
-    if (dialog == nullptr) act.fail("no dialog is open");
+    if (dialog == nullptr) request.fail("no dialog is open");
     return dialog;
 }
 
@@ -39,41 +39,41 @@ Json controlJson(HWND window) {
     return description;
 }
 
-void tellDialog(Act& act) {
-    const CDialog* open = dialogFor(act);
+void tellDialog(Request& request) {
+    const CDialog* open = dialogFor(request);
     if (open == nullptr) return;
     const WindowEntry* focus = WindowTable::instance().find(GetFocus());
     Json controls = Json::array();
     for (const HWND control : dialogControls(open->GetSafeHwnd())) controls.push_back(controlJson(control));
-    act.set("handle", open->GetSafeHwnd());
-    act.set("class", text(open->GetRuntimeClass().name));
-    act.set("template", open->GetTemplateId());
-    act.set("caption", text(open->GetWindowText()));
-    act.set("rect", rectangle(open->GetWindowRect()));
-    act.set("focus", focus == nullptr ? 0 : focus->id);
-    act.set("controls", std::move(controls));
+    request.set("handle", open->GetSafeHwnd());
+    request.set("class", text(open->GetRuntimeClass().name));
+    request.set("template", open->GetTemplateId());
+    request.set("caption", text(open->GetWindowText()));
+    request.set("rect", rectangle(open->GetWindowRect()));
+    request.set("focus", focus == nullptr ? 0 : focus->id);
+    request.set("controls", std::move(controls));
 }
 
-void dialog(Act& act, Program&) { act.whenIdle(tellDialog); }
+void dialog(Request& request, Program&) { request.whenIdle(tellDialog); }
 
-void tellTip(Act& act) {
+void tellTip(Request& request) {
     const kalyxo::CKalyxoView* view = Program::view();
     const kalyxo::GlossaryPopup* box = view == nullptr ? nullptr : &view->Inspection().glossary;
     const bool visible = box != nullptr && box->IsVisible();
-    act.set("visible", visible);
-    act.set("text", visible ? text(box->Text()) : Json(""));
-    act.set("rect", rectangle(visible ? box->Place() : CRect()));
+    request.set("visible", visible);
+    request.set("text", visible ? text(box->Text()) : Json(""));
+    request.set("rect", rectangle(visible ? box->Place() : CRect()));
 }
 
-void tip(Act& act, Program&) { act.whenIdle(tellTip); }
+void tip(Request& request, Program&) { request.whenIdle(tellTip); }
 
-constexpr Command kDialogCommands[] = {
+constexpr Command dialogTable[] = {
     {"dialog", 0, 0, dialog},
     {"tip", 0, 0, tip},
 };
 
 }  // namespace
 
-std::span<const Command> dialogCommands() { return kDialogCommands; }
+std::span<const Command> dialogCommands() { return dialogTable; }
 
 }  // namespace drive

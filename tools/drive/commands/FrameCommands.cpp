@@ -6,10 +6,10 @@
 #include "tools/drive/commands/CommandTable.h"
 #include "tools/drive/desktop/Program.h"
 #include "tools/drive/desktop/Windows.h"
-#include "tools/drive/script/Act.h"
 #include "tools/drive/script/Numbers.h"
+#include "tools/drive/script/Request.h"
 
-/// The main frame: its menu, its commands, its place.
+/// The main frame: its menu, its commands, its size and place.
 namespace drive {
 
 using namespace platform;
@@ -17,28 +17,28 @@ using kalyxo::CMainFrame;
 
 namespace {
 
-/// The frame; fails the act when there is none.
-CMainFrame* frameFor(Act& act) {
+/// The frame. The request fails when there is none.
+CMainFrame* frameFor(Request& request) {
     CMainFrame* frame = Program::frame();
-    if (frame == nullptr) act.fail("there is no main window");
+    if (frame == nullptr) request.fail("there is no main window");
     return frame;
 }
 
-void command(Act& act, Program&) {
-    CMainFrame* frame = frameFor(act);
-    const std::optional<UINT> id = number<UINT>(act.word(0));
-    if (!id) return act.fail("no command number: " + act.word(0));
+void command(Request& request, Program&) {
+    CMainFrame* frame = frameFor(request);
+    const std::optional<UINT> id = number<UINT>(request.argument(0));
+    if (!id) return request.fail("no command number: " + request.argument(0));
     if (frame == nullptr) return;
-    // Told before it runs: a command that shows a dialog returns when that is closed.
-    act.set("carriedOut", frame->UpdateCommand(*id).Enabled());
-    act.set("carriedOut", frame->RunCommand(*id));
+    // Set before it runs as well, since a command that shows a dialog returns only when that is closed.
+    request.set("carriedOut", frame->UpdateCommand(*id).Enabled());
+    request.set("carriedOut", frame->RunCommand(*id));
 }
 
-/// As a component does: the view looks at the second parameter of the command message.
-void notify(Act& act, Program&) {
-    CMainFrame* frame = frameFor(act);
-    const std::optional<int> what = number<int>(act.word(0));
-    if (!what) return act.fail("no number: " + act.word(0));
+/// Sends the message by which a component asks the view for something: the number is its second parameter.
+void notify(Request& request, Program&) {
+    CMainFrame* frame = frameFor(request);
+    const std::optional<int> what = number<int>(request.argument(0));
+    if (!what) return request.fail("no number: " + request.argument(0));
     if (frame != nullptr) frame->GetActiveView()->SendMessage(WM_COMMAND, 0, *what);
 }
 
@@ -47,8 +47,8 @@ Json itemJson(const MenuItemState& item) {
     return {{"text", text(item.text)}, {"id", item.id}, {"enabled", item.enabled}, {"checked", item.checked}};
 }
 
-void menu(Act& act, Program&) {
-    CMainFrame* frame = frameFor(act);
+void menu(Request& request, Program&) {
+    CMainFrame* frame = frameFor(request);
     if (frame == nullptr) return;
     Json menus = Json::array();
     Json enabled = Json::array();
@@ -62,24 +62,24 @@ void menu(Act& act, Program&) {
         }
         menus.push_back({{"text", text(Resources().menu[i].text)}, {"items", std::move(items)}});
     }
-    act.set("menus", std::move(menus));
-    act.set("enabled", std::move(enabled));
-    act.set("checked", std::move(checked));
+    request.set("menus", std::move(menus));
+    request.set("enabled", std::move(enabled));
+    request.set("checked", std::move(checked));
 }
 
-void tellFrame(Act& act) {
-    act.whenIdle([](Act& done) {
+void tellFrame(Request& request) {
+    request.whenIdle([](Request& done) {
         if (const CMainFrame* frame = Program::frame()) done.set("frame", rectangle(frame->GetWindowRect()));
     });
 }
 
-/// The arguments as whole numbers; fails the act when they are none.
-std::optional<std::vector<int>> numbersOf(Act& act) {
+/// The arguments as whole numbers. The request fails when one is something else.
+std::optional<std::vector<int>> numbersOf(Request& request) {
     std::vector<int> numbers;
-    for (const std::string& word : act.wordsFrom(0)) {
+    for (const std::string& word : request.argumentsFrom(0)) {
         const std::optional<int> value = number<int>(word);
         if (!value) {
-            act.fail("no whole number: " + word);
+            request.fail("no whole number: " + word);
             return std::nullopt;
         }
         numbers.push_back(*value);
@@ -87,50 +87,51 @@ std::optional<std::vector<int>> numbersOf(Act& act) {
     return numbers;
 }
 
-void size(Act& act, Program&) {
-    CMainFrame* frame = frameFor(act);
-    const auto numbers = numbersOf(act);
+void size(Request& request, Program&) {
+    CMainFrame* frame = frameFor(request);
+    const auto numbers = numbersOf(request);
     if (frame == nullptr || !numbers) return;
     const CRect now = frame->GetWindowRect();
-    tellFrame(act);
+    tellFrame(request);
     frame->MoveWindow(CRect::at(now.left, now.top, (*numbers)[0], (*numbers)[1]));
 }
 
-void place(Act& act, Program&) {
-    CMainFrame* frame = frameFor(act);
-    const auto numbers = numbersOf(act);
+void place(Request& request, Program&) {
+    CMainFrame* frame = frameFor(request);
+    const auto numbers = numbersOf(request);
     if (frame == nullptr || !numbers) return;
-    tellFrame(act);
+    tellFrame(request);
     frame->MoveWindow({(*numbers)[0], (*numbers)[1], (*numbers)[2], (*numbers)[3]});
 }
 
-/// As the buttons of the caption do it: what is minimised keeps in mind whether it was maximised.
-void changeState(Act& act, Qt::WindowStates (*change)(Qt::WindowStates)) {
-    CMainFrame* frame = frameFor(act);
+/// Changes the frame's state as the buttons of its caption do. A minimised frame remembers whether it was
+/// maximised.
+void changeState(Request& request, Qt::WindowStates (*change)(Qt::WindowStates)) {
+    CMainFrame* frame = frameFor(request);
     if (frame == nullptr) return;
-    tellFrame(act);
+    tellFrame(request);
     QWidget& widget = widgetOf(frame->GetSafeHwnd());
     widget.setWindowState(change(widget.windowState()));
 }
 
-void minimize(Act& act, Program&) {
-    changeState(act, [](Qt::WindowStates state) { return state | Qt::WindowMinimized; });
+void minimize(Request& request, Program&) {
+    changeState(request, [](Qt::WindowStates state) { return state | Qt::WindowMinimized; });
 }
 
-void maximize(Act& act, Program&) {
-    changeState(act, [](Qt::WindowStates state) {
+void maximize(Request& request, Program&) {
+    changeState(request, [](Qt::WindowStates state) {
         return (state & ~Qt::WindowStates(Qt::WindowMinimized)) | Qt::WindowMaximized;
     });
 }
 
-void restore(Act& act, Program&) {
-    changeState(act, [](Qt::WindowStates state) {
+void restore(Request& request, Program&) {
+    changeState(request, [](Qt::WindowStates state) {
         const auto undone = state & Qt::WindowMinimized ? Qt::WindowMinimized : Qt::WindowMaximized;
         return state & ~Qt::WindowStates(undone);
     });
 }
 
-constexpr Command kFrameCommands[] = {
+constexpr Command frameTable[] = {
     {"command", 1, 1, command}, {"menu", 0, 0, menu},         {"size", 2, 2, size},
     {"place", 4, 4, place},     {"minimize", 0, 0, minimize}, {"maximize", 0, 0, maximize},
     {"restore", 0, 0, restore}, {"notify", 1, 1, notify},
@@ -138,6 +139,6 @@ constexpr Command kFrameCommands[] = {
 
 }  // namespace
 
-std::span<const Command> frameCommands() { return kFrameCommands; }
+std::span<const Command> frameCommands() { return frameTable; }
 
 }  // namespace drive

@@ -9,8 +9,8 @@
 #include "tools/drive/desktop/Pointer.h"
 #include "tools/drive/desktop/Reaction.h"
 #include "tools/drive/desktop/Windows.h"
-#include "tools/drive/script/Act.h"
 #include "tools/drive/script/Numbers.h"
+#include "tools/drive/script/Request.h"
 
 /// Mouse and keyboard.
 namespace drive {
@@ -26,13 +26,14 @@ struct Spot {
     CPoint point;
 };
 
-/// Reads `X Y [WINDOW]` from an argument on; fails the act when that is no spot.
-std::optional<Spot> spotOf(Act& act, std::size_t first) {
-    const std::optional<int> x = number<int>(act.word(first));
-    const std::optional<int> y = number<int>(act.word(first + 1));
-    const WindowChoice choice = chooseWindow(act.count() > first + 2 ? &act.word(first + 2) : nullptr);
-    if (!x || !y) act.fail("X and Y are whole numbers");
-    if (!choice.error.empty()) act.fail(choice.error);
+/// Reads `X Y [WINDOW]`, beginning with the argument `first`. The request fails when these name no point.
+std::optional<Spot> spotOf(Request& request, std::size_t first) {
+    const std::optional<int> x = number<int>(request.argument(first));
+    const std::optional<int> y = number<int>(request.argument(first + 1));
+    const WindowChoice choice =
+        chooseWindow(request.argumentCount() > first + 2 ? &request.argument(first + 2) : nullptr);
+    if (!x || !y) request.fail("X and Y are whole numbers");
+    if (!choice.error.empty()) request.fail(choice.error);
     if (!x || !y || choice.window == 0) return std::nullopt;
     return Spot{choice.window, {*x, *y}};
 }
@@ -44,7 +45,7 @@ struct MouseAction {
     void (*perform)(Pointer&);
 };
 
-constexpr std::array<MouseAction, 8> kMouseActions = {{
+constexpr std::array<MouseAction, 8> mouseActions = {{
     {"move", [](Pointer&) {}},
     {"down", [](Pointer& pointer) { pointer.press(Qt::LeftButton); }},
     {"up", [](Pointer& pointer) { pointer.release(Qt::LeftButton); }},
@@ -55,43 +56,44 @@ constexpr std::array<MouseAction, 8> kMouseActions = {{
     {"wheeldown", [](Pointer& pointer) { pointer.turnWheel(-1); }},
 }};
 
-void mouse(Act& act, Program&) {
-    const auto action = std::ranges::find(kMouseActions, act.word(0), &MouseAction::name);
-    if (action == kMouseActions.end()) return act.fail("the mouse cannot " + act.word(0));
-    const std::optional<Spot> spot = spotOf(act, 1);
+void mouse(Request& request, Program&) {
+    const auto action = std::ranges::find(mouseActions, request.argument(0), &MouseAction::name);
+    if (action == mouseActions.end()) return request.fail("the mouse cannot " + request.argument(0));
+    const std::optional<Spot> spot = spotOf(request, 1);
     if (!spot) return;
     Pointer::instance().moveTo(spot->window, spot->point);
     action->perform(Pointer::instance());
-    awaitReaction(act, &widgetAtPointer);
+    awaitReaction(request, &widgetAtPointer);
 }
 
-void click(Act& act, Program&) {
-    const std::optional<Spot> spot = spotOf(act, 0);
+void click(Request& request, Program&) {
+    const std::optional<Spot> spot = spotOf(request, 0);
     if (!spot) return;
     Pointer& pointer = Pointer::instance();
     pointer.moveTo(spot->window, spot->point);
     pointer.press(Qt::LeftButton);
     pointer.release(Qt::LeftButton);
-    awaitReaction(act, &widgetAtPointer);
+    awaitReaction(request, &widgetAtPointer);
 }
 
-void key(Act& act, Program&) {
-    const std::optional<KeyStroke> stroke = keyStrokeOf(act.word(0));
-    if (!stroke) return act.fail("no key is named " + act.word(0));
-    const WindowChoice choice = act.count() == 1 ? WindowChoice() : chooseWindow(&act.word(1));
-    if (!choice.error.empty()) return act.fail(choice.error);
+void key(Request& request, Program&) {
+    const std::optional<KeyStroke> stroke = keyStrokeOf(request.argument(0));
+    if (!stroke) return request.fail("no key is named " + request.argument(0));
+    const WindowChoice choice =
+        request.argumentCount() == 1 ? WindowChoice() : chooseWindow(&request.argument(1));
+    if (!choice.error.empty()) return request.fail(choice.error);
     strikeKey(*stroke, choice.window);
-    awaitReaction(act, &QApplication::focusWidget);
+    awaitReaction(request, &QApplication::focusWidget);
 }
 
-void type(Act& act, Program&) {
-    typeText(act.word(0));
-    awaitReaction(act, &QApplication::focusWidget);
+void type(Request& request, Program&) {
+    typeText(request.argument(0));
+    awaitReaction(request, &QApplication::focusWidget);
 }
 
-void focus(Act& act, Program&) {
-    const WindowChoice choice = chooseWindow(&act.word(0));
-    if (choice.window == 0) return act.fail(choice.error);
+void focus(Request& request, Program&) {
+    const WindowChoice choice = chooseWindow(&request.argument(0));
+    if (choice.window == 0) return request.fail(choice.error);
     QWidget& widget = widgetOf(choice.window);
     widget.activateWindow();
     widget.setFocus(Qt::OtherFocusReason);
@@ -103,19 +105,19 @@ std::string_view shapeName(Qt::CursorShape shape) {
     return shape == Qt::BitmapCursor ? "picture" : "other";
 }
 
-void cursor(Act& act, Program&) {
+void cursor(Request& request, Program&) {
     const QCursor shown = Pointer::instance().cursor();
-    act.set("shape", shapeName(shown.shape()));
-    if (shown.shape() == Qt::BitmapCursor) act.set("hotSpot", {shown.hotSpot().x(), shown.hotSpot().y()});
+    request.set("shape", shapeName(shown.shape()));
+    if (shown.shape() == Qt::BitmapCursor) request.set("hotSpot", {shown.hotSpot().x(), shown.hotSpot().y()});
 }
 
-constexpr Command kInputCommands[] = {
+constexpr Command inputTable[] = {
     {"mouse", 3, 4, mouse}, {"click", 2, 3, click}, {"key", 1, 2, key},
     {"type", 1, 1, type},   {"focus", 1, 1, focus}, {"cursor", 0, 0, cursor},
 };
 
 }  // namespace
 
-std::span<const Command> inputCommands() { return kInputCommands; }
+std::span<const Command> inputCommands() { return inputTable; }
 
 }  // namespace drive

@@ -8,10 +8,11 @@
 #include "tools/drive/commands/CommandTable.h"
 #include "tools/drive/desktop/PageFrame.h"
 #include "tools/drive/desktop/Windows.h"
-#include "tools/drive/script/Act.h"
 #include "tools/drive/script/Numbers.h"
+#include "tools/drive/script/Request.h"
 
-/// What is on show. Pictures are taken of the top-level window, so that what lies over a window is in them.
+/// Pictures and pixels of windows. They are taken from the top-level window, so that they include what lies
+/// in front of a window.
 namespace drive {
 
 using namespace platform;
@@ -31,7 +32,7 @@ void finishAnimations() {
     clock.advance();
 }
 
-/// That part of the screen, as the window's top-level window shows it; `window` exists.
+/// A part of the screen as the top-level window of `window` shows it. `window` must exist.
 QImage shown(HWND window, const CRect& onScreen) {
     QWidget& top = *widgetOf(window).window();
     const QRect part(top.mapFromGlobal(toQt(onScreen.TopLeft())), QSize(onScreen.Width(), onScreen.Height()));
@@ -40,42 +41,43 @@ QImage shown(HWND window, const CRect& onScreen) {
     return top.grab(part).toImage();
 }
 
-/// The window that the act's argument names; fails the act when there is none.
-HWND windowFor(Act& act, std::size_t index) {
-    const WindowChoice choice = chooseWindow(act.count() > index ? &act.word(index) : nullptr);
-    if (choice.window == 0) act.fail(choice.error);
+/// The window that an argument names. The request fails when there is none.
+HWND windowFor(Request& request, std::size_t index) {
+    const WindowChoice choice =
+        chooseWindow(request.argumentCount() > index ? &request.argument(index) : nullptr);
+    if (choice.window == 0) request.fail(choice.error);
     return choice.window;
 }
 
-void pixel(Act& act, Program&) {
-    const Act::Hold hold(act);
-    const std::optional<int> x = number<int>(act.word(0));
-    const std::optional<int> y = number<int>(act.word(1));
-    if (!x || !y) return act.fail("X and Y are whole numbers");
-    const HWND window = windowFor(act, 2);
+void pixel(Request& request, Program&) {
+    const Request::Hold hold(request);
+    const std::optional<int> x = number<int>(request.argument(0));
+    const std::optional<int> y = number<int>(request.argument(1));
+    if (!x || !y) return request.fail("X and Y are whole numbers");
+    const HWND window = windowFor(request, 2);
     if (window == 0) return;
     const CPoint at = clientToScreen(window, {*x, *y});
     const QImage image = shown(window, CRect::at(at.x, at.y, 1, 1));
-    act.set("rgb", image.pixelColor(0, 0).name().mid(1).toStdString());
+    request.set("rgb", image.pixelColor(0, 0).name().mid(1).toStdString());
 }
 
-void picture(Act& act, Program&) {
-    const Act::Hold hold(act);
-    const HWND window = windowFor(act, 1);
+void picture(Request& request, Program&) {
+    const Request::Hold hold(request);
+    const HWND window = windowFor(request, 1);
     if (window == 0) return;
     const QWidget& widget = widgetOf(window);
     const QImage image = shown(window, fromQt(QRect(widget.mapToGlobal(QPoint(0, 0)), widget.size())));
-    if (!image.save(QString::fromStdString(act.word(0)), "PNG")) {
-        return act.fail(act.word(0) + " cannot be written");
+    if (!image.save(QString::fromStdString(request.argument(0)), "PNG")) {
+        return request.fail(request.argument(0) + " cannot be written");
     }
-    act.set("width", image.width());
-    act.set("height", image.height());
+    request.set("width", image.width());
+    request.set("height", image.height());
 }
 
-constexpr Command kPictureCommands[] = {{"pixel", 2, 3, pixel}, {"picture", 1, 2, picture}};
+constexpr Command pictureTable[] = {{"pixel", 2, 3, pixel}, {"picture", 1, 2, picture}};
 
 }  // namespace
 
-std::span<const Command> pictureCommands() { return kPictureCommands; }
+std::span<const Command> pictureCommands() { return pictureTable; }
 
 }  // namespace drive

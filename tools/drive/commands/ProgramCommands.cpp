@@ -6,67 +6,68 @@
 #include "src/app/MainFrame.h"
 #include "tools/drive/commands/CommandTable.h"
 #include "tools/drive/desktop/Program.h"
-#include "tools/drive/script/Act.h"
 #include "tools/drive/script/Numbers.h"
+#include "tools/drive/script/Request.h"
 #include "tools/drive/script/TraceJson.h"
 
-/// Starting and ending the program, and what the machine saw of it.
+/// Starting and ending the program, answers to its message boxes, and the trace of what it did.
 namespace drive {
 
 using namespace platform;
 
 namespace {
 
-void tellWhetherRunning(Act& act, Program& program) {
-    act.whenIdle([&program](Act& done) {
+void tellWhetherRunning(Request& request, Program& program) {
+    request.whenIdle([&program](Request& done) {
         done.set("running", program.running());
         if (const std::optional<int> code = program.exitCode()) done.set("exitCode", *code);
     });
 }
 
-void start(Act& act, Program& program) {
-    if (program.started()) return act.fail("the program was started before");
-    tellWhetherRunning(act, program);
+void start(Request& request, Program& program) {
+    if (program.started()) return request.fail("the program was started before");
+    tellWhetherRunning(request, program);
     program.start();
 }
 
-void close(Act& act, Program& program) {
-    if (!program.running()) return act.fail("the program is not running");
-    if (Program::frame() == nullptr) return act.fail("there is no main window yet");
-    tellWhetherRunning(act, program);
+void close(Request& request, Program& program) {
+    if (!program.running()) return request.fail("the program is not running");
+    if (Program::frame() == nullptr) return request.fail("there is no main window yet");
+    tellWhetherRunning(request, program);
     Program::frame()->PostMessage(WM_CLOSE);
 }
 
-void wait(Act& act, Program&) {
-    const std::optional<int> milliseconds = number<int>(act.word(0));
-    if (!milliseconds || *milliseconds < 0) return act.fail("no number of milliseconds: " + act.word(0));
-    const Act::Hold hold(act);
+void wait(Request& request, Program&) {
+    const std::optional<int> milliseconds = number<int>(request.argument(0));
+    if (!milliseconds || *milliseconds < 0)
+        return request.fail("no number of milliseconds: " + request.argument(0));
+    const Request::Hold hold(request);
     QEventLoop loop;
     QTimer::singleShot(*milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
     loop.exec();
 }
 
-void answer(Act& act, Program&) {
+void answer(Request& request, Program&) {
     std::vector<BoxAnswer> answers;
-    for (const std::string& word : act.wordsFrom(0)) {
+    for (const std::string& word : request.argumentsFrom(0)) {
         const std::optional<BoxAnswer> button = boxAnswerByName(word);
-        if (!button) return act.fail("no button is named " + word);
+        if (!button) return request.fail("no button is named " + word);
         answers.push_back(*button);
     }
     machine().queueAnswers(answers);
 }
 
-void trace(Act& act, Program&) {
-    act.whenIdle([](Act& done) { done.set("trace", traceJson(machine().trace().take())); });
+void trace(Request& request, Program&) {
+    request.whenIdle([](Request& done) { done.set("trace", traceJson(machine().trace().take())); });
 }
 
-constexpr Command kProgramCommands[] = {
-    {"start", 0, 0, start}, {"close", 0, 0, close}, {"wait", 1, 1, wait}, {"answer", 1, kAnyNumber, answer},
-    {"trace", 0, 0, trace},
+constexpr Command programTable[] = {
+    {"start", 0, 0, start},           {"close", 0, 0, close}, {"wait", 1, 1, wait},
+    {"answer", 1, anyNumber, answer}, {"trace", 0, 0, trace},
 };
 
 }  // namespace
 
-std::span<const Command> programCommands() { return kProgramCommands; }
+std::span<const Command> programCommands() { return programTable; }
 
 }  // namespace drive

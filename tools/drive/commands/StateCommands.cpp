@@ -4,9 +4,9 @@
 #include "tools/drive/desktop/BookmarkJson.h"
 #include "tools/drive/desktop/Program.h"
 #include "tools/drive/desktop/Windows.h"
-#include "tools/drive/script/Act.h"
+#include "tools/drive/script/Request.h"
 
-/// What the program knows.
+/// The state of the view and of the application object, and the tree of windows.
 namespace drive {
 
 using namespace kalyxo;
@@ -38,57 +38,57 @@ Json historyJson(const History& history) {
         {"current", history.CurrentIndex()}, {"last", history.LastIndex()}, {"entries", std::move(entries)}};
 }
 
-void tellState(Act& act) {
-    if (Program::view() == nullptr) return act.fail("there is no main window");
+void tellState(Request& request) {
+    if (Program::view() == nullptr) return request.fail("there is no main window");
     const ViewInspection view = Program::view()->Inspection();
     const PageAddress& address = view.navigator.Address();
-    act.set("mode", modeName(view.mode));
-    act.set("section", address.sectionCode);
-    act.set("pageId", address.pageId);
-    act.set("itemCode", address.itemCode);
-    act.set("selectedSlot", view.items.Bar().Selected());
-    act.set("hoveredSlot", view.items.Bar().Hovered());
-    act.set("hotItem", view.items.Menu().HotItem());
-    act.set("video", view.pages.Contents().video);
-    act.set("molecule", view.pages.Contents().molecule);
-    act.set("history", historyJson(view.navigator.Places()));
-    act.set("nextCache", view.pages.Cache().NextNumber());
-    act.set("oldestCache", view.pages.Cache().OldestNumber());
-    act.set("startupFailed", view.startupFailed);
+    request.set("mode", modeName(view.mode));
+    request.set("section", address.sectionCode);
+    request.set("pageId", address.pageId);
+    request.set("itemCode", address.itemCode);
+    request.set("selectedSlot", view.items.Bar().Selected());
+    request.set("hoveredSlot", view.items.Bar().Hovered());
+    request.set("hotItem", view.items.Menu().HotItem());
+    request.set("video", view.pages.Contents().video);
+    request.set("molecule", view.pages.Contents().molecule);
+    request.set("history", historyJson(view.navigator.Places()));
+    request.set("nextCache", view.pages.Cache().NextNumber());
+    request.set("oldestCache", view.pages.Cache().OldestNumber());
+    request.set("startupFailed", view.startupFailed);
     const auto folder = view.bookmarks.CurrentFolderIndex();
-    act.set("bookmarks", bookmarksJson(view.bookmarks));
-    act.set("currentFolder", folder ? static_cast<int>(*folder) : -1);
+    request.set("bookmarks", bookmarksJson(view.bookmarks));
+    request.set("currentFolder", folder ? static_cast<int>(*folder) : -1);
 }
 
-void tellApp(Act& act) {
+void tellApp(Request& request) {
     const ProgramState& app = TheApp();
-    act.set("programFolder", text(app.m_strProgramFolder));
-    act.set("dataFolder", text(app.m_strDataFolder));
-    act.set("bookmarkFile", text(app.m_strBookmarkFile));
-    act.set("outsideInstallFolder", app.m_bOutsideInstallFolder);
-    act.set("splitterPos", app.m_nSplitterPos);
-    act.set("frameRect", rectangle(app.m_rcFrame));
-    act.set("frameState", app.m_nFrameState);
-    act.set("versions", {{"periodic", text(app.m_strVerPeriodic)},
-                         {"select", text(app.m_strVerSelect)},
-                         {"dataAn", text(app.m_strVerDataAn)},
-                         {"molCtrl", text(app.m_strVerMolCtrl)},
-                         {"zoom", text(app.m_strVerZoom)}});
+    request.set("programFolder", text(app.m_strProgramFolder));
+    request.set("dataFolder", text(app.m_strDataFolder));
+    request.set("bookmarkFile", text(app.m_strBookmarkFile));
+    request.set("outsideInstallFolder", app.m_bOutsideInstallFolder);
+    request.set("splitterPos", app.m_nSplitterPos);
+    request.set("frameRect", rectangle(app.m_rcFrame));
+    request.set("frameState", app.m_nFrameState);
+    request.set("versions", {{"periodic", text(app.m_strVerPeriodic)},
+                             {"select", text(app.m_strVerSelect)},
+                             {"dataAn", text(app.m_strVerDataAn)},
+                             {"molCtrl", text(app.m_strVerMolCtrl)},
+                             {"zoom", text(app.m_strVerZoom)}});
 }
 
-template <void (*Tell)(Act&)>
-void whenIdle(Act& act, Program&) {
-    act.whenIdle(Tell);
+template <void (*Tell)(Request&)>
+void whenIdle(Request& request, Program&) {
+    request.whenIdle(Tell);
 }
 
-constexpr Command kStateCommands[] = {
+constexpr Command stateTable[] = {
     {"state", 0, 0, whenIdle<tellState>},
     {"app", 0, 0, whenIdle<tellApp>},
-    {"windows", 0, 0, whenIdle<[](Act& act) { act.set("windows", windowTree()); }>},
+    {"windows", 0, 0, whenIdle<[](Request& request) { request.set("windows", windowTree()); }>},
 };
 
 }  // namespace
 
-std::span<const Command> stateCommands() { return kStateCommands; }
+std::span<const Command> stateCommands() { return stateTable; }
 
 }  // namespace drive

@@ -5,7 +5,7 @@
 
 namespace drive {
 
-/// The records of a list in their order, each with its class and its fields by their names.
+/// The records of the list in order, each with its class and its fields.
 Json bookmarksJson(const kalyxo::BookmarkList& list);
 
 }  // namespace drive

@@ -67,7 +67,7 @@ void describeCombo(const QComboBox& combo, Json& description) {
     description["selected"] = combo.currentIndex();
 }
 
-/// The item below `above` whose way is `wanted`: texts may hold the separator themselves.
+/// The item below `above` whose path of texts is `wanted`. It is not split at `/`, since a text may hold one.
 QModelIndex findBelow(const QAbstractItemModel& model, const QModelIndex& above, const QString& wanted) {
     for (int row = 0; row < model.rowCount(above); ++row) {
         const QModelIndex item = model.index(row, 0, above);

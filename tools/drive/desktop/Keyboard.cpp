@@ -43,7 +43,7 @@ void sendToFocus(QEvent::Type type, const KeyStroke& stroke, const QString& text
     if (!shortcut) qt_handleKeyEvent(target, type, stroke.key, stroke.modifiers, text);
 }
 
-/// The press and the release each as an event of its own, so that a key that opens a dialog comes up in it.
+/// Press and release are events of their own. So a key that opens a dialog is released in that dialog.
 void strike(KeyStroke stroke, const QString& text) {
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
         QMetaObject::invokeMethod(
@@ -72,7 +72,7 @@ void strikeKey(KeyStroke stroke, platform::HWND window) {
 
 void typeText(std::string_view text) {
     for (const QChar c : QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))) {
-        // Keys are numbered by the capital on them.
+        // A key's number is the code of its capital letter.
         const auto key = static_cast<Qt::Key>(c.toUpper().unicode());
         strike({key, c.isUpper() ? Qt::ShiftModifier : Qt::NoModifier}, c);
     }

@@ -7,10 +7,10 @@
 
 namespace drive {
 
-/// Presses and releases a key in the window that has the focus by then, or in the given one (not 0).
+/// Presses and releases a key in a window; with 0, in the one that has the focus when the key arrives.
 void strikeKey(KeyStroke stroke, platform::HWND window);
 
-/// Types a text (UTF-8) into the focus window, key by key.
+/// Types a text (UTF-8), key by key, into the window with the focus.
 void typeText(std::string_view text);
 
 }  // namespace drive

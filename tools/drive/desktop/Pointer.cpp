@@ -17,10 +17,10 @@ using platform::HWND;
 
 namespace {
 
-/// Further apart than the clicks of a double click.
-constexpr int kTimeStep = 1000;
+/// Milliseconds between two events: too many for two clicks to count as a double click.
+constexpr int timeStep = 1000;
 
-/// The state of the mouse. Everything happens in queued calls, in the order in which it was asked for.
+/// The state of the mouse. Queued calls change it, in the order in which they were made.
 struct MouseState {
     QPoint position;
     Qt::MouseButtons buttons;
@@ -39,20 +39,20 @@ QWindow* windowAtPointer() {
     return top == nullptr ? nullptr : top->windowHandle();
 }
 
-/// As a window system does before it tells of a press.
+/// Activates the top-level window, as a window system does before it delivers a press.
 void activate(const QWindow* window) {
     QWidget* top = window == nullptr ? nullptr : QWidget::find(window->winId());
     const QWidget* modal = QApplication::activeModalWidget();
     if (top == nullptr || top->isActiveWindow() || (modal != nullptr && modal != top)) return;
     top->activateWindow();
-    // At once, where the window system would answer later.
+    // The window system would answer later only.
     QApplication::setActiveWindow(top);
 }
 
 void send(QEvent::Type type, Qt::MouseButton button) {
     QWindow* window = windowAtPointer();
     if (type == QEvent::MouseButtonPress) activate(window);
-    mouse().time += kTimeStep;
+    mouse().time += timeStep;
     if (type == QEvent::MouseButtonPress) {
         mouse().buttons |= button;
         mouse().grabbing = window;
@@ -73,7 +73,7 @@ void sendSecondPress() {
     const QPointF local = window->mapFromGlobal(QPointF(mouse().position));
     QMouseEvent event(QEvent::MouseButtonDblClick, local, local, mouse().position, Qt::LeftButton,
                       Qt::LeftButton, Qt::NoModifier);
-    mouse().time += kTimeStep;
+    mouse().time += timeStep;
     event.setTimestamp(static_cast<quint64>(mouse().time));
     QSpontaneKeyEvent::setSpontaneous(&event);
     QCoreApplication::instance()->notify(window, &event);
@@ -97,7 +97,7 @@ void later(Step step) {
 
 void moveCursor(QPoint position) {
     mouse().position = position;
-    // Where the window system shows the pointer; it may tell of the move by itself or not.
+    // The window system may or may not report this move; the event below is sent in any case.
     QCursor::setPos(position);
     send(QEvent::MouseMove, Qt::NoButton);
 }

@@ -6,24 +6,24 @@
 
 namespace drive {
 
-/// The mouse of the scripted desktop. What it does arrives as events of the window system, one at a time, so
-/// that a press that opens a dialog does not keep the release behind.
+/// The mouse of the scripted desktop. Each of its actions arrives as an event of its own. So the release
+/// still arrives when a press has opened a dialog.
 class Pointer {
   public:
     static Pointer& instance();
 
-    /// Moves to a point of the window's client area and stays there.
+    /// Moves to a point of the window's client area.
     void moveTo(platform::HWND window, platform::CPoint p);
-    /// The same with a point of the screen.
+    /// Moves to a point of the screen.
     void moveTo(platform::CPoint screen);
     void press(Qt::MouseButton button);
     void release(Qt::MouseButton button);
     /// The second press of a double click.
     void pressAgain();
-    /// By so many notches, away from the user where positive.
+    /// Turns the wheel by some notches; positive ones turn it away from the user.
     void turnWheel(int notches);
 
-    /// How the window under it shows it.
+    /// The cursor of the window under the pointer.
     QCursor cursor() const;
 
   private:

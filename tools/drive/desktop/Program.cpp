@@ -11,17 +11,17 @@ using kalyxo::CKalyxoView;
 using kalyxo::CMainFrame;
 
 void Program::start() {
-    m_started = true;
-    m_starting = true;
-    m_application.InitInstance();
-    m_starting = false;
+    started_ = true;
+    starting_ = true;
+    application_.InitInstance();
+    starting_ = false;
 }
 
-bool Program::running() const { return m_starting || (m_started && frame() != nullptr); }
+bool Program::running() const { return starting_ || (started_ && frame() != nullptr); }
 
 std::optional<int> Program::exitCode() {
-    if (m_started && !running() && !m_exitCode) m_exitCode = platform::EndProgram(m_application);
-    return m_exitCode;
+    if (started_ && !running() && !exitCode_) exitCode_ = platform::EndProgram(application_);
+    return exitCode_;
 }
 
 CMainFrame* Program::frame() { return static_cast<CMainFrame*>(platform::CWinApp::Instance().GetMainWnd()); }

@@ -10,28 +10,28 @@ class CMainFrame;
 
 namespace drive {
 
-/// The program under the driver, which is started once at most.
+/// The program that the driver runs. It can be started once.
 class Program {
   public:
-    explicit Program(kalyxo::CKalyxoApp& application) : m_application(application) {}
+    explicit Program(kalyxo::CKalyxoApp& application) : application_(application) {}
 
     /// Runs the start-up sequence.
     void start();
-    bool started() const { return m_started; }
-    /// From the start to the end of the main window, or to a start-up sequence that failed.
+    bool started() const { return started_; }
+    /// True from the start until the main window has gone or the start-up sequence has failed.
     bool running() const;
-    /// Once it has ended.
+    /// The exit code; nothing before the program has ended.
     std::optional<int> exitCode();
 
-    /// Null while the main window does not exist.
+    /// The main window and its view; null while they do not exist.
     static kalyxo::CMainFrame* frame();
     static kalyxo::CKalyxoView* view();
 
   private:
-    kalyxo::CKalyxoApp& m_application;
-    bool m_started = false;
-    bool m_starting = false;
-    std::optional<int> m_exitCode;
+    kalyxo::CKalyxoApp& application_;
+    bool started_ = false;
+    bool starting_ = false;
+    std::optional<int> exitCode_;
 };
 
 }  // namespace drive

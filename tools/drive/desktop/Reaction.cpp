@@ -5,24 +5,25 @@
 #include <utility>
 
 #include "tools/drive/desktop/PageFrame.h"
-#include "tools/drive/script/Act.h"
+#include "tools/drive/script/Request.h"
 
 namespace drive {
 
 namespace {
 
-/// A page that has not drawn by then does not react to the input.
-constexpr std::chrono::milliseconds kReactionLimit{250};
+/// A page that has drawn nothing within this time does not react to the input.
+constexpr std::chrono::milliseconds reactionLimit{250};
 
 }  // namespace
 
-void awaitReaction(Act& act, std::function<QWidget*()> receiver) {
-    const auto hold = std::make_shared<Act::Hold>(act);
-    const auto behindInput = [hold, receiver = std::move(receiver)] {
+void awaitReaction(Request& request, std::function<QWidget*()> receiver) {
+    const auto hold = std::make_shared<Request::Hold>(request);
+    const auto afterInput = [hold, receiver = std::move(receiver)] {
         QWebEngineView* page = pageAround(receiver());
-        if (page != nullptr) afterNextFrame(*page, kReactionLimit, [hold] {});
+        if (page != nullptr) afterNextFrame(*page, reactionLimit, [hold] {});
     };
-    QMetaObject::invokeMethod(qApp, behindInput, Qt::QueuedConnection);
+    // Queued after the events of the input.
+    QMetaObject::invokeMethod(qApp, afterInput, Qt::QueuedConnection);
 }
 
 }  // namespace drive

@@ -6,10 +6,10 @@ class QWidget;
 
 namespace drive {
 
-class Act;
+class Request;
 
-/// Input goes on its way in events; behind them, has the answer wait until the web page that receives them,
-/// if one does, has reacted. `receiver` is asked then.
-void awaitReaction(Act& act, std::function<QWidget*()> receiver);
+/// Delays the answer to a command that has just sent input. `receiver` is called when the input has arrived;
+/// if the widget that it returns belongs to a web page, the answer waits until that page has reacted.
+void awaitReaction(Request& request, std::function<QWidget*()> receiver);
 
 }  // namespace drive

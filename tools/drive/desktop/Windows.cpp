@@ -1,5 +1,6 @@
 #include "tools/drive/desktop/Windows.h"
 
+#include <QApplication>
 #include <QWidget>
 #include <map>
 
@@ -12,7 +13,7 @@
 #include "platform/windows/Wnd.h"
 #include "src/app/MainFrame.h"
 #include "src/view/KalyxoView.h"
-#include "tools/drive/desktop/Controls.h"
+
 #include "tools/drive/desktop/Program.h"
 
 namespace drive {
@@ -39,7 +40,7 @@ HWND find(NamedWindow name) {
     return 0;
 }
 
-HWND find(ControlName name) {
+HWND find(IdName name) {
     if (const CDialog* dialog = activeDialog()) {
         const QWidget* control = dialogControl(dialog->GetSafeHwnd(), name.id);
         if (control != nullptr) return table().handleOf(control);
@@ -55,7 +56,7 @@ HWND find(ControlName name) {
 
 HWND find(HandleName name) { return table().find(name.handle) == nullptr ? 0 : name.handle; }
 
-/// The window that holds another; dialogs belong to nothing.
+/// The window that holds another; 0 for a window of its own, such as a dialog.
 HWND parentOf(HWND window) {
     const QWidget& widget = *table().widget(window);
     const bool standsAlone = widget.isWindow() && widget.windowType() != Qt::Popup;
@@ -91,6 +92,10 @@ WindowChoice chooseWindow(const std::string* word) {
     if (!name) return {0, "no window is named " + *word};
     const HWND window = findWindow(*name);
     return {window, window == 0 ? "there is no such window now" : ""};
+}
+
+CDialog* activeDialog() {
+    return dynamic_cast<CDialog*>(CWnd::FromHandle(table().handleOf(QApplication::activeModalWidget())));
 }
 
 QWidget& widgetOf(HWND window) { return *table().widget(window); }

@@ -10,27 +10,34 @@
 
 class QWidget;
 
+namespace platform {
+class CDialog;
+}
+
 namespace drive {
 
-/// The window that a script means by WINDOW, 0 when it does not exist now.
+/// The window of this name, 0 when it does not exist now.
 platform::HWND findWindow(const WindowName& name);
 
-/// The same for a word of a script, or for the view when there is none; the error when there is no such
-/// window.
+/// A window, or why there is none.
 struct WindowChoice {
     platform::HWND window = 0;
     std::string error;
 };
+/// The window that a word of a script names; the view when `word` is null.
 WindowChoice chooseWindow(const std::string* word);
+
+/// The dialog that waits for the user, null when there is none.
+platform::CDialog* activeDialog();
 
 /// The widget of a window that exists.
 QWidget& widgetOf(platform::HWND window);
 /// A point of a window's client area on the screen.
 platform::CPoint clientToScreen(platform::HWND window, platform::CPoint p);
-/// Outer rectangle on the screen.
+/// A window's outer rectangle on the screen.
 platform::CRect outerRect(platform::HWND window);
 
-/// All windows, each with those inside it, as the answer of `windows` lists them.
+/// The answer of `windows`: all windows, each with its children.
 Json windowTree();
 
 }  // namespace drive

@@ -11,7 +11,7 @@ using platform::Result;
 
 namespace {
 
-/// The arguments by their form; texts that are null were not given.
+/// The arguments as given; a text without a value was not given.
 struct Given {
     std::optional<std::string> machine;
     std::optional<std::string> newMachine;
@@ -34,7 +34,7 @@ bool* flagOf(Given& given, std::string_view option) {
     return nullptr;
 }
 
-/// Sorts the arguments; fails for one that has no place.
+/// Sorts the arguments into `given`; fails for one that has no place.
 Result<void> sortOut(std::span<const char* const> arguments, Given& given) {
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         const std::string argument = arguments[i];

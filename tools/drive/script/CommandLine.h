@@ -10,13 +10,13 @@
 
 namespace drive {
 
-/// Run a script on a machine.
+/// The task to run a script on a machine.
 struct RunScript {
     std::filesystem::path machine;
     std::optional<std::filesystem::path> script;  ///< standard input when there is none
 };
 
-/// Make a machine folder.
+/// The task to make a machine folder.
 struct NewMachine {
     std::filesystem::path machine;
     std::filesystem::path data;
@@ -27,7 +27,7 @@ struct NewMachine {
 /// What the arguments ask for.
 using Task = std::variant<RunScript, NewMachine>;
 
-/// Reads the arguments behind the program's name; options in any order.
+/// Reads the arguments that follow the program's name. Options may come in any order.
 platform::Result<Task> taskOf(std::span<const char* const> arguments);
 
 /// How the program is called.

@@ -58,10 +58,10 @@ std::optional<Variant> variantOf(TypeCode type, std::string_view word, std::dequ
 
 }  // namespace
 
-std::optional<ControlArguments> controlArguments(std::span<const TypeCode> types,
-                                                 std::span<const std::string> words) {
+std::optional<ComponentArguments> componentArguments(std::span<const TypeCode> types,
+                                                     std::span<const std::string> words) {
     if (types.size() != words.size()) return std::nullopt;
-    ControlArguments arguments;
+    ComponentArguments arguments;
     for (std::size_t i = 0; i < types.size(); ++i) {
         std::optional<Variant> value = variantOf(types[i], words[i], arguments.references);
         if (!value) return std::nullopt;

@@ -6,14 +6,15 @@
 
 namespace drive {
 
-/// Finds the moment at which the program has nothing more to do: no event waits, in the main loop or in that
-/// of a modal dialog, and nothing is busy. A running timer does not count.
+/// Finds the moment at which the program has nothing more to do: no event waits, neither in the main loop nor
+/// in that of a modal dialog, and nothing is busy. A running timer does not count.
 class IdleWatch : public QObject {
   public:
-    /// `busy` says whether something will go on by itself; `idle` is called once for each `begin`.
+    /// `busy` says whether something is at work and will go on without input. `idle` is called once for each
+    /// `begin`.
     IdleWatch(std::function<bool()> busy, std::function<void()> idle);
 
-    /// Starts to watch; in the events that follow, `idle` is called.
+    /// Starts to watch. `idle` is called from a later event.
     void begin();
 
   protected:
@@ -22,10 +23,10 @@ class IdleWatch : public QObject {
   private:
     void postRound();
 
-    std::function<bool()> m_busy;
-    std::function<void()> m_idle;
-    QTimer m_pause;
-    int m_quietRounds = 0;
+    std::function<bool()> busy_;
+    std::function<void()> idle_;
+    QTimer pause_;
+    int quietRounds_ = 0;
 };
 
 }  // namespace drive

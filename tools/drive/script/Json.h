@@ -12,13 +12,13 @@ namespace drive {
 /// Answers keep their keys in the order in which they were set.
 using Json = nlohmann::ordered_json;
 
-/// A program's text for an answer.
+/// A text of the program for an answer.
 inline Json text(std::string_view cp1253) { return platform::toUtf8(cp1253); }
 
 /// `[left, top, right, bottom]`.
 inline Json rectangle(const platform::CRect& r) { return Json::array({r.left, r.top, r.right, r.bottom}); }
 
-/// The answer on one line; bytes that are no UTF-8 (a script may hold any) become replacement characters.
+/// The answer on one line. A script may hold bytes that are not UTF-8; they become replacement characters.
 inline std::string toLine(const Json& answer) {
     return answer.dump(-1, ' ', false, Json::error_handler_t::replace);
 }

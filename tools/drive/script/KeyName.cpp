@@ -12,13 +12,13 @@ namespace drive {
 
 namespace {
 
-constexpr std::array<std::pair<std::string_view, Qt::KeyboardModifier>, 3> kModifiers = {{
+constexpr std::array<std::pair<std::string_view, Qt::KeyboardModifier>, 3> modifierNames = {{
     {"ctrl", Qt::ControlModifier},
     {"shift", Qt::ShiftModifier},
     {"alt", Qt::AltModifier},
 }};
 
-constexpr std::array<std::pair<std::string_view, Qt::Key>, 23> kKeys = {{
+constexpr std::array<std::pair<std::string_view, Qt::Key>, 23> keyNames = {{
     {"enter", Qt::Key_Return},
     {"return", Qt::Key_Return},
     {"esc", Qt::Key_Escape},
@@ -57,7 +57,7 @@ std::optional<Qt::Key> functionKey(std::string_view name) {
     return static_cast<Qt::Key>(Qt::Key_F1 + *n - 1);
 }
 
-/// Keys that carry a printable ASCII character are numbered by it, letters by their capital.
+/// The number of a key with a printable ASCII character is that character's code, for letters the capital's.
 std::optional<Qt::Key> characterKey(std::string_view name) {
     if (name.size() != 1 || name[0] <= ' ' || name[0] > '~') return std::nullopt;
     const char c = name[0];
@@ -65,7 +65,7 @@ std::optional<Qt::Key> characterKey(std::string_view name) {
 }
 
 std::optional<Qt::Key> keyOf(std::string_view name) {
-    if (const auto key = lookUp(kKeys, name)) return key;
+    if (const auto key = lookUp(keyNames, name)) return key;
     if (const auto key = functionKey(name)) return key;
     return characterKey(name);
 }
@@ -76,10 +76,10 @@ std::optional<KeyStroke> keyStrokeOf(std::string_view name) {
     const std::string lowered = platform::toLower(name);
     std::string_view rest = lowered;
     KeyStroke stroke;
-    // The plus sign is a key too, so it joins only what has something behind it.
+    // The plus sign is a key too: it separates only where something follows it.
     for (std::size_t plus = rest.find('+');
          plus != std::string_view::npos && plus > 0 && plus + 1 < rest.size(); plus = rest.find('+')) {
-        const auto modifier = lookUp(kModifiers, rest.substr(0, plus));
+        const auto modifier = lookUp(modifierNames, rest.substr(0, plus));
         if (!modifier) return std::nullopt;
         stroke.modifiers |= *modifier;
         rest.remove_prefix(plus + 1);

@@ -12,8 +12,8 @@ struct KeyStroke {
     Qt::KeyboardModifiers modifiers;
 };
 
-/// Reads a key's name, such as `Enter`, `Delete`, `F6`, `a` or `Ctrl+Shift+C`; names in any letter case.
-/// Nothing for a name that is no key.
+/// Reads a key's name, such as `Enter`, `Delete`, `F6`, `a` or `Ctrl+Shift+C`, in any letter case. Nothing
+/// when no key has that name.
 std::optional<KeyStroke> keyStrokeOf(std::string_view name);
 
 }  // namespace drive

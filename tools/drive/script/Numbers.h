@@ -7,7 +7,7 @@
 
 namespace drive {
 
-/// The whole word as a decimal number that fits the type.
+/// The word as a decimal number. Nothing when it is something else or does not fit the type.
 template <std::integral T>
 std::optional<T> number(std::string_view word) {
     T value{};

@@ -8,41 +8,41 @@
 namespace drive {
 
 ScriptReader::ScriptReader(int descriptor, LineHandler line, std::function<void(bool failed)> end)
-    : m_descriptor(descriptor),
-      m_line(std::move(line)),
-      m_end(std::move(end)),
-      m_notifier(descriptor, QSocketNotifier::Read) {
-    m_notifier.setEnabled(false);
-    QObject::connect(&m_notifier, &QSocketNotifier::activated, [this] { read(); });
+    : descriptor_(descriptor),
+      line_(std::move(line)),
+      end_(std::move(end)),
+      notifier_(descriptor, QSocketNotifier::Read) {
+    notifier_.setEnabled(false);
+    QObject::connect(&notifier_, &QSocketNotifier::activated, [this] { read(); });
 }
 
-void ScriptReader::next() { m_notifier.setEnabled(!giveLines()); }
+void ScriptReader::next() { notifier_.setEnabled(!giveLines()); }
 
 void ScriptReader::read() {
     std::array<char, 4096> bytes;
-    const ssize_t count = ::read(m_descriptor, bytes.data(), bytes.size());
+    const ssize_t count = ::read(descriptor_, bytes.data(), bytes.size());
     if (count > 0) {
-        m_bytes.append(bytes.data(), static_cast<std::size_t>(count));
-    } else if (!m_bytes.empty()) {
-        m_bytes += '\n';
+        bytes_.append(bytes.data(), static_cast<std::size_t>(count));
+    } else if (!bytes_.empty()) {
+        bytes_ += '\n';
     } else {
-        m_notifier.setEnabled(false);
-        m_end(count < 0);
+        notifier_.setEnabled(false);
+        end_(count < 0);
         return;
     }
-    // Before the line is given: what it starts may run an event loop.
-    m_notifier.setEnabled(false);
-    m_notifier.setEnabled(!giveLines());
+    // Switched off first, since what the line starts may run an event loop.
+    notifier_.setEnabled(false);
+    notifier_.setEnabled(!giveLines());
 }
 
-/// Whether a line was taken.
+/// Gives lines to the handler until it takes one; false when none is left.
 bool ScriptReader::giveLines() {
     while (true) {
-        const std::size_t end = m_bytes.find('\n');
+        const std::size_t end = bytes_.find('\n');
         if (end == std::string::npos) return false;
-        const std::string line = m_bytes.substr(0, end);
-        m_bytes.erase(0, end + 1);
-        if (m_line(line)) return true;
+        const std::string line = bytes_.substr(0, end);
+        bytes_.erase(0, end + 1);
+        if (line_(line)) return true;
     }
 }
 

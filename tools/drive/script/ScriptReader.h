@@ -6,16 +6,15 @@
 
 namespace drive {
 
-/// Reads a script a line at a time from an open file or pipe, without blocking the program that runs
-/// meanwhile.
+/// Reads a script line by line from an open file or pipe without blocking the program that runs meanwhile.
 class ScriptReader {
   public:
-    /// Receives a line without its end; false when there was nothing in it and the next one is wanted at
-    /// once.
+    /// Receives a line without its end. Returns false to be given the next line at once, because this one
+    /// holds nothing to carry out.
     using LineHandler = std::function<bool(const std::string&)>;
 
-    /// `descriptor` stays open until the end. For each `next`, `line` receives lines until it takes one, or
-    /// `end` is told that there are no more, and whether reading failed.
+    /// `descriptor` must stay open as long as the reader exists. For each `next`, `line` receives lines until
+    /// it takes one; when there are no more, `end` is called.
     ScriptReader(int descriptor, LineHandler line, std::function<void(bool failed)> end);
 
     /// Asks for the next line.
@@ -25,11 +24,11 @@ class ScriptReader {
     void read();
     bool giveLines();
 
-    int m_descriptor;
-    LineHandler m_line;
-    std::function<void(bool)> m_end;
-    QSocketNotifier m_notifier;
-    std::string m_bytes;
+    int descriptor_;
+    LineHandler line_;
+    std::function<void(bool)> end_;
+    QSocketNotifier notifier_;
+    std::string bytes_;
 };
 
 }  // namespace drive

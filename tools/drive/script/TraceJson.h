@@ -7,7 +7,7 @@
 
 namespace drive {
 
-/// The entries as the answer of `trace` lists them: objects with one key, what happened.
+/// The entries as the answer of `trace` lists them: objects with one key that says what happened.
 Json traceJson(const std::vector<platform::TraceEntry>& entries);
 
 }  // namespace drive

@@ -8,13 +8,13 @@
 
 namespace drive {
 
-/// Windows that have a name of their own in scripts.
+/// Windows that scripts call by a name.
 enum class NamedWindow { view, frame, panel, splitter };
 
-/// A control of the active dialog, else of the view, by its id.
-struct ControlName {
+/// A window by its control id: a control of the active dialog, else a window in the view.
+struct IdName {
     int id = 0;
-    friend bool operator==(const ControlName&, const ControlName&) = default;
+    friend bool operator==(const IdName&, const IdName&) = default;
 };
 
 /// A window by its handle.
@@ -23,8 +23,8 @@ struct HandleName {
     friend bool operator==(const HandleName&, const HandleName&) = default;
 };
 
-/// What a script means by WINDOW.
-using WindowName = std::variant<NamedWindow, ControlName, HandleName>;
+/// The window that a script means by WINDOW.
+using WindowName = std::variant<NamedWindow, IdName, HandleName>;
 
 /// Reads `view`, `frame`, `panel`, `splitter`, `#ID` or a handle number; nothing for any other word.
 std::optional<WindowName> windowNameOf(std::string_view word);

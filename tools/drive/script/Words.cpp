@@ -4,13 +4,13 @@ namespace drive {
 
 namespace {
 
-constexpr std::string_view kBlanks = " \t\r\n";
-/// Some editors begin a UTF-8 file with it.
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+constexpr std::string_view blanks = " \t\r\n";
+/// Some editors put this at the beginning of a UTF-8 file.
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
-bool isBlank(char c) { return kBlanks.find(c) != std::string_view::npos; }
+bool isBlank(char c) { return blanks.find(c) != std::string_view::npos; }
 
-/// Takes a quoted word off the front of `rest`, which begins with the opening quote.
+/// Removes a quoted word from the beginning of `rest` and returns it. `rest` begins with the opening quote.
 std::optional<std::string> takeQuoted(std::string_view& rest) {
     std::string word;
     for (std::size_t at = 1; at < rest.size(); ++at) {
@@ -31,7 +31,7 @@ std::optional<std::string> takeQuoted(std::string_view& rest) {
 }
 
 std::string takePlain(std::string_view& rest) {
-    const std::string_view word = rest.substr(0, rest.find_first_of(kBlanks));
+    const std::string_view word = rest.substr(0, rest.find_first_of(blanks));
     rest.remove_prefix(word.size());
     return std::string(word);
 }
@@ -41,9 +41,9 @@ std::string takePlain(std::string_view& rest) {
 std::optional<std::vector<std::string>> splitWords(std::string_view line) {
     std::vector<std::string> words;
     std::string_view rest = line;
-    if (rest.starts_with(kByteOrderMark)) rest.remove_prefix(kByteOrderMark.size());
+    if (rest.starts_with(byteOrderMark)) rest.remove_prefix(byteOrderMark.size());
     while (true) {
-        const std::size_t start = rest.find_first_not_of(kBlanks);
+        const std::size_t start = rest.find_first_not_of(blanks);
         if (start == std::string_view::npos || rest[start] == '#') return words;
         rest.remove_prefix(start);
         if (rest.front() != '"') {

@@ -7,9 +7,9 @@
 
 namespace drive {
 
-/// The words of a script line, split at blanks. `"…"` is one word with blanks, in which `\"` and `\\` stand
-/// for a quote and a backslash. A `#` at the start of an unquoted word starts a comment. No words for a blank
-/// line; nothing when a quote is not closed or not followed by a blank.
+/// The words of a script line, split at blanks. `"…"` is one word that may hold blanks; in it, `\"` and `\\`
+/// stand for a quote and a backslash. A `#` at the start of an unquoted word starts a comment. A blank line
+/// has no words. Nothing when a quote is not closed, or when no blank follows a closing quote.
 std::optional<std::vector<std::string>> splitWords(std::string_view line);
 
 }  // namespace drive

@@ -1,10 +1,8 @@
-#include "tools/drive/desktop/Controls.h"
+#include "tools/drive/desktop/Components.h"
 
-#include <QApplication>
 #include <algorithm>
 
 #include "platform/components/WebPageInspector.h"
-#include "platform/dialogs/Dialog.h"
 #include "platform/qt/WindowTable.h"
 #include "platform/windows/ComponentContainer.h"
 #include "src/resources/CommandIds.h"
@@ -15,21 +13,14 @@ namespace drive {
 
 using namespace platform;
 
-CDialog* activeDialog() {
-    const HWND window = WindowTable::instance().handleOf(QApplication::activeModalWidget());
-    return dynamic_cast<CDialog*>(CWnd::FromHandle(window));
-}
-
-ComponentHost* controlIn(HWND window) { return componentHostOf(window); }
-
 WebPageInspector* browser() {
-    ComponentHost* host = controlIn(findWindow(ControlName{kalyxo::IDC_WEB}));
+    ComponentHost* host = componentHostOf(findWindow(IdName{kalyxo::IDC_WEB}));
     return host == nullptr ? nullptr : dynamic_cast<WebPageInspector*>(&host->component());
 }
 
-bool anyControlBusy() {
+bool anyComponentBusy() {
     return std::ranges::any_of(WindowTable::instance().all(), [](HWND window) {
-        const ComponentHost* host = controlIn(window);
+        const ComponentHost* host = componentHostOf(window);
         return host != nullptr && host->component().busy();
     });
 }
