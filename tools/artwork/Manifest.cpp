@@ -12,7 +12,7 @@ namespace {
 
 using Json = nlohmann::json;
 
-constexpr int kMaxSide = 4096;
+constexpr int maxSide = 4096;
 
 Result<Json> readJson(const QString& path) {
     QFile file(path);
@@ -39,9 +39,9 @@ std::optional<QPoint> pairOf(const Json& object, const char* key) {
 }
 
 std::optional<PixelFormat> formatOf(const QString& name) {
-    if (name == "rgb") return PixelFormat::Rgb;
-    if (name == "rgba") return PixelFormat::Rgba;
-    if (name == "mono") return PixelFormat::Mono;
+    if (name == "rgb") return PixelFormat::rgb;
+    if (name == "rgba") return PixelFormat::rgba;
+    if (name == "mono") return PixelFormat::mono;
     return std::nullopt;
 }
 
@@ -74,9 +74,9 @@ Result<Picture> readPicture(const Json& entry, const Palette& palette, const QSt
     if (picture.output.isEmpty() || picture.source.isEmpty())
         return failureOf(path, QStringLiteral("an entry lacks \"output\" or \"source\""));
     const auto size = pairOf(entry, "size");
-    if (!size || size->x() < 1 || size->y() < 1 || size->x() > kMaxSide || size->y() > kMaxSide)
+    if (!size || size->x() < 1 || size->y() < 1 || size->x() > maxSide || size->y() > maxSide)
         return failureOf(
-            path, picture.output + ": \"size\" must be two numbers from 1 to " + QString::number(kMaxSide));
+            path, picture.output + ": \"size\" must be two numbers from 1 to " + QString::number(maxSide));
     picture.size = QSize(size->x(), size->y());
     const auto format = formatOf(textOf(entry, "format"));
     if (!format) return failureOf(path, picture.output + ": \"format\" must be rgb, rgba or mono");

@@ -16,7 +16,7 @@ namespace {
 
 QImage draw(QSvgRenderer& renderer, const Picture& picture) {
     QImage image(picture.size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(picture.format == PixelFormat::Rgba ? Qt::transparent : Qt::black);
+    image.fill(picture.format == PixelFormat::rgba ? Qt::transparent : Qt::black);
     QPainter painter(&image);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
                            QPainter::SmoothPixmapTransform);
@@ -27,18 +27,18 @@ QImage draw(QSvgRenderer& renderer, const Picture& picture) {
 
 QImage stored(const QImage& image, PixelFormat format) {
     switch (format) {
-        case PixelFormat::Rgb:
+        case PixelFormat::rgb:
             return image.convertToFormat(QImage::Format_RGB888);
-        case PixelFormat::Rgba:
+        case PixelFormat::rgba:
             return image.convertToFormat(QImage::Format_ARGB32);
-        case PixelFormat::Mono:
+        case PixelFormat::mono:
             return image.convertToFormat(QImage::Format_Mono, Qt::ThresholdDither);
     }
     return image;
 }
 
-/// A BMP file starts with this many bytes that a bitmap resource has not.
-constexpr qsizetype kFileHeader = 14;
+/// Bytes at the beginning of a BMP file that a bitmap resource lacks.
+constexpr qsizetype fileHeaderSize = 14;
 
 Result<void> writeResource(const QString& path, const QImage& image) {
     QBuffer bitmap;
@@ -46,7 +46,7 @@ Result<void> writeResource(const QString& path, const QImage& image) {
     if (!bitmap.open(QIODevice::WriteOnly) || !writer.write(image))
         return failureOf(path, writer.errorString());
     QFile file(path);
-    const QByteArray stored = bitmap.data().mid(kFileHeader);
+    const QByteArray stored = bitmap.data().mid(fileHeaderSize);
     if (!file.open(QIODevice::WriteOnly) || file.write(stored) != stored.size())
         return failureOf(path, file.errorString());
     return {};

@@ -12,7 +12,7 @@
 namespace artwork {
 namespace {
 
-constexpr int kDeepestNesting = 8;
+constexpr int maxNesting = 8;
 
 using Colours = QMap<QString, QString>;
 
@@ -29,10 +29,10 @@ Result<QDomDocument> load(const QString& path) {
     return document;
 }
 
-/// One walk over a source and all that it brings in.
+/// Resolves one source together with all files that it uses.
 class Walk {
   public:
-    Walk(const Palette& palette, const QDomDocument& document) : m_palette(palette), m_document(document) {}
+    Walk(const Palette& palette, const QDomDocument& document) : palette_(palette), document_(document) {}
 
     Result<void> resolve(const QDomElement& element, const QString& path, const Colours& colours, int depth) {
         if (auto done = paint(element, path, colours); !done) return done;
@@ -50,15 +50,15 @@ class Walk {
     }
 
     Colours coloursOf(const QString& set) const {
-        Colours colours = m_palette.value("base");
-        colours.insert(m_palette.value(set));
+        Colours colours = palette_.value("base");
+        colours.insert(palette_.value(set));
         return colours;
     }
 
   private:
     Result<void> include(const QDomElement& use, const QString& href, const QString& from,
                          const Colours& colours, int depth) {
-        if (depth >= kDeepestNesting) return failureOf(from, "too many files inside one another at " + href);
+        if (depth >= maxNesting) return failureOf(from, "too many files inside one another at " + href);
         const QString path = QFileInfo(from).absolutePath() + "/" + href;
         auto loaded = load(path);
         if (!loaded) return loaded.failure();
@@ -67,7 +67,7 @@ class Walk {
         const QStringList box = root.attribute("viewBox").split(' ');
         if (box.size() != 4 || box[2].toDouble() <= 0 || box[3].toDouble() <= 0)
             return failureOf(path, QStringLiteral("no usable viewBox"));
-        QDomElement group = m_document.createElement("g");
+        QDomElement group = document_.createElement("g");
         const double sx = use.attribute("width", box[2]).toDouble() / box[2].toDouble();
         const double sy = use.attribute("height", box[3]).toDouble() / box[3].toDouble();
         group.setAttribute("transform", QStringLiteral("translate(%1 %2) scale(%3 %4)")
@@ -77,7 +77,7 @@ class Walk {
         copyInto(group, root);
 
         const QString set = use.attribute("data-colours");
-        if (!set.isEmpty() && !m_palette.contains(set)) return failureOf(from, "no colour set " + set);
+        if (!set.isEmpty() && !palette_.contains(set)) return failureOf(from, "no colour set " + set);
         use.parentNode().replaceChild(group, use);
         return resolve(group, path, set.isEmpty() ? colours : coloursOf(set), depth + 1);
     }
@@ -86,7 +86,7 @@ class Walk {
         for (const char* inherited : {"fill", "stroke", "stroke-width", "stroke-linecap", "stroke-linejoin"})
             if (root.hasAttribute(inherited)) group.setAttribute(inherited, root.attribute(inherited));
         for (QDomNode node = root.firstChild(); !node.isNull(); node = node.nextSibling())
-            group.appendChild(m_document.importNode(node, true));
+            group.appendChild(document_.importNode(node, true));
     }
 
     static Result<void> paint(const QDomElement& element, const QString& path, const Colours& colours) {
@@ -103,28 +103,28 @@ class Walk {
         return {};
     }
 
-    // A missing font would be replaced silently, and texts would no longer fit their places.
+    // Qt would replace a missing font without a word, and texts would no longer fit their places.
     static Result<void> checkFont(const QDomElement& element, const QString& path) {
         const QString family = element.attribute("font-family");
         if (family.isEmpty() || QFontDatabase::hasFamily(family)) return {};
         return failureOf(path, "font not installed: " + family);
     }
 
-    const Palette& m_palette;
-    QDomDocument m_document;
+    const Palette& palette_;
+    QDomDocument document_;
 };
 
 }  // namespace
 
 SvgComposer::SvgComposer(const Palette& palette, QString colours)
-    : m_palette(palette), m_colours(std::move(colours)) {}
+    : palette_(palette), colours_(std::move(colours)) {}
 
 Result<QByteArray> SvgComposer::compose(const QString& path) const {
     auto loaded = load(path);
     if (!loaded) return loaded.failure();
     auto& document = *loaded;
-    Walk walk(m_palette, document);
-    const auto resolved = walk.resolve(document.documentElement(), path, walk.coloursOf(m_colours), 0);
+    Walk walk(palette_, document);
+    const auto resolved = walk.resolve(document.documentElement(), path, walk.coloursOf(colours_), 0);
     if (!resolved) return resolved.failure();
     return document.toByteArray(-1);
 }

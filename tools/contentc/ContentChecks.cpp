@@ -12,7 +12,7 @@ namespace {
 
 bool hasTopic(const Content& content, const formats::Section& section, std::int32_t pageId) {
     return std::ranges::any_of(content.pages, [&](const PageSource& page) {
-        return page.section == &section && page.kind != PageKind::Entry && page.number == pageId;
+        return page.section == &section && page.kind != PageKind::entry && page.number == pageId;
     });
 }
 
@@ -27,19 +27,19 @@ void checkStartPages(const Content& content, const std::filesystem::path& root, 
 
 void checkTopics(const Content& content, Diagnostics& diagnostics) {
     for (const PageSource& page : content.pages) {
-        if (page.kind != PageKind::Entry || page.topic == 0) continue;
+        if (page.kind != PageKind::entry || page.topic == 0) continue;
         if (hasTopic(content, *page.section, page.topic)) continue;
         diagnostics.error(page.topicPlace, "section '" + std::string(page.section->key) + "' has no topic " +
                                                std::to_string(page.topic));
     }
 }
 
-// Several list numbers may share one title list, where the entry number alone selects the title.
+// Several list numbers may share one title list; there the entry number alone selects the title.
 void checkSharedEntries(const Content& content, Diagnostics& diagnostics) {
     std::map<std::pair<std::string_view, std::int32_t>, const PageSource*> entries;
     for (const PageSource& page : content.pages) {
         const auto file = formats::titleListFile(formats::listNumberOf(page.number));
-        if (page.kind != PageKind::Entry || !file) continue;
+        if (page.kind != PageKind::entry || !file) continue;
         const std::int32_t entry = formats::entryNumberOf(page.number);
         const auto [first, isNew] = entries.try_emplace({*file, entry}, &page);
         if (isNew || first->second->title.text == page.title.text) continue;

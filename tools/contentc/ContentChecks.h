@@ -8,11 +8,11 @@
 
 namespace contentc {
 
-/// Checks what no file shows alone, and reports it: each section has its start page, the topic of an entry
-/// and the page of an element exist where they must, title lists name no entry in two ways.
+/// Reports what is wrong between files: a section without its start page, an entry whose topic and an element
+/// whose page do not exist, and an entry of a title list with two titles.
 void checkContent(const Content& content, const std::filesystem::path& root, Diagnostics& diagnostics);
 
-/// Checks that what pages refer to is there, and warns of glossary terms that no page uses.
+/// Reports references of pages to what does not exist, and warns of glossary terms that no page uses.
 void checkReferences(const References& references, const Content& content, const OutputFiles& outputs,
                      Diagnostics& diagnostics);
 

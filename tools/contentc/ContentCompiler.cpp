@@ -17,101 +17,100 @@ namespace {
 class ContentCompilation {
   public:
     ContentCompilation(const SourceTree& tree, Diagnostics& diagnostics)
-        : m_tree(tree), m_diagnostics(diagnostics), m_content(readContent(tree, diagnostics)) {}
+        : tree_(tree), diagnostics_(diagnostics), content_(readContent(tree, diagnostics)) {}
 
     OutputFiles run() {
         addPages();
         addTerms();
         addStyle();
-        addDataSets(m_tree.dataSets, m_outputs, m_diagnostics);
-        addCopies("images\\", m_tree.pictures);
-        addCopies("mol\\", m_tree.molecules);
-        addCopies("video\\", m_tree.videos);
+        addDataSets(tree_.dataSets, outputs_, diagnostics_);
+        addCopies("images\\", tree_.pictures);
+        addCopies("mol\\", tree_.molecules);
+        addCopies("video\\", tree_.videos);
         addTools();
         checkDrawings();
-        checkContent(m_content, m_tree.root, m_diagnostics);
-        checkReferences(m_references, m_content, m_outputs, m_diagnostics);
-        if (!m_diagnostics.hasErrors()) addIndexFiles(m_content, m_outputs, m_diagnostics);
-        return std::move(m_outputs);
+        checkContent(content_, tree_.root, diagnostics_);
+        checkReferences(references_, content_, outputs_, diagnostics_);
+        if (!diagnostics_.hasErrors()) addIndexFiles(content_, outputs_, diagnostics_);
+        return std::move(outputs_);
     }
 
   private:
     void addPages() {
-        if (m_content.startPage) addPage(*m_content.startPage, "a.htm", plainScaffold());
-        if (m_content.helpPage) addPage(*m_content.helpPage, "help.htm", plainScaffold());
-        const auto pageScaffold = scaffold(m_tree.pageTemplate, "page.html", {"title", "section"});
-        const auto moleculeScaffold = usesMolecules() ? scaffold(m_tree.moleculeTemplate, "molecule.html",
+        if (content_.startPage) addPage(*content_.startPage, "a.htm", plainScaffold());
+        if (content_.helpPage) addPage(*content_.helpPage, "help.htm", plainScaffold());
+        const auto pageScaffold = scaffold(tree_.pageTemplate, "page.html", {"title", "section"});
+        const auto moleculeScaffold = usesMolecules() ? scaffold(tree_.moleculeTemplate, "molecule.html",
                                                                  {"title", "section", "molfile"})
                                                       : std::nullopt;
-        for (const PageSource& page : m_content.pages) {
-            const auto& around = page.scaffold == PageTemplate::Molecule ? moleculeScaffold : pageScaffold;
-            // Where the scaffold is wrong, the bodies still are to be looked through.
+        for (const PageSource& page : content_.pages) {
+            const auto& around = page.scaffold == PageTemplate::molecule ? moleculeScaffold : pageScaffold;
+            // With a wrong scaffold the bodies are still compiled, to find the errors in them.
             if (const auto path = formats::pagePath(page.number))
                 addPage(page, *path, around.value_or(PageScaffold{}));
         }
     }
 
     void addPage(const PageSource& page, const std::string& path, const PageScaffold& around) {
-        m_outputs.add(path, compilePage(page, around, m_references, m_diagnostics), page.place,
-                      m_diagnostics);
+        outputs_.add(path, compilePage(page, around, references_, diagnostics_), page.place, diagnostics_);
     }
 
     bool usesMolecules() const {
         return std::ranges::any_of(
-            m_content.pages, [](const PageSource& page) { return page.scaffold == PageTemplate::Molecule; });
+            content_.pages, [](const PageSource& page) { return page.scaffold == PageTemplate::molecule; });
     }
 
     std::optional<PageScaffold> scaffold(const std::optional<SourceFile>& file, const std::string& name,
                                          std::initializer_list<std::string_view> placeholders) {
-        if (file) return readScaffold(*file, placeholders, m_diagnostics);
-        m_diagnostics.error({(m_tree.root / "templates" / name).generic_string()}, "missing");
+        if (file) return readScaffold(*file, placeholders, diagnostics_);
+        diagnostics_.error({(tree_.root / "templates" / name).generic_string()}, "missing");
         return std::nullopt;
     }
 
     void addTerms() {
-        for (const TermSource& term : m_content.terms) {
-            m_outputs.add("glossary\\" + term.key + ".htm", glossaryFile(term), term.place, m_diagnostics);
+        for (const TermSource& term : content_.terms) {
+            outputs_.add("glossary\\" + term.key + ".htm", glossaryFile(term), term.place, diagnostics_);
         }
     }
 
     void addStyle() {
-        if (!m_tree.style) return;
+        if (!tree_.style) return;
         std::string bytes;
-        for (const TextLine& line : readLines(*m_tree.style, m_diagnostics)) bytes += line.text + "\r\n";
-        m_outputs.add("style\\kalyxo.css", std::move(bytes), m_tree.style->place(), m_diagnostics);
+        for (const TextLine& line : readLines(*tree_.style, diagnostics_)) bytes += line.text + "\r\n";
+        outputs_.add("style\\kalyxo.css", std::move(bytes), tree_.style->place(), diagnostics_);
     }
 
     void addCopies(const std::string& folder, const std::vector<SourceFile>& files) {
         for (const SourceFile& file : files) {
-            m_outputs.add(folder + file.name(), file.bytes, file.place(), m_diagnostics);
+            outputs_.add(folder + file.name(), file.bytes, file.place(), diagnostics_);
         }
     }
 
     void addTools() {
-        if (m_tree.tools.empty()) return;
-        for (const SourceFile& file : m_tree.tools) {
+        if (tree_.tools.empty()) return;
+        for (const SourceFile& file : tree_.tools) {
             if (file.path.extension() == ".txt") continue;
             const std::string folder = file.path.parent_path().filename().string();
-            m_outputs.add("tools\\" + folder + '\\' + file.name(), file.bytes, file.place(), m_diagnostics);
+            outputs_.add("tools\\" + folder + '\\' + file.name(), file.bytes, file.place(), diagnostics_);
         }
-        m_outputs.add("tools\\shared\\elements.js", elementScript(),
-                      {(m_tree.root / "tools").generic_string()}, m_diagnostics);
+        outputs_.add("tools\\shared\\elements.js", elementScript(), {(tree_.root / "tools").generic_string()},
+                     diagnostics_);
     }
 
     void checkDrawings() {
-        for (const SourceFile& drawing : m_tree.drawings) {
+        for (const SourceFile& drawing : tree_.drawings) {
             const std::string picture = drawing.stem() + ".png";
-            if (m_outputs.contains("images\\" + picture)) continue;
-            m_diagnostics.error(drawing.place(),
-                                "no image folder has the rendered picture '" + picture + '\'');
+            if (outputs_.contains("images\\" + picture)) continue;
+            diagnostics_.error(drawing.place(),
+                               "no image folder has the rendered picture '" + picture + '\'');
         }
     }
 
-    const SourceTree& m_tree;
-    Diagnostics& m_diagnostics;
-    Content m_content;
-    References m_references;
-    OutputFiles m_outputs;
+    const SourceTree& tree_;
+    Diagnostics& diagnostics_;
+    Content content_;
+    References references_;
+    OutputFiles outputs_;
 };
 
 }  // namespace

@@ -7,8 +7,8 @@
 
 namespace contentc {
 
-/// Compiles the sources to the files of a data folder. Nothing when there was an error; all errors and
-/// warnings are in `diagnostics`. The same sources give the same files.
+/// Compiles the sources to the files of a data folder. Nothing when there was an error. Errors and warnings
+/// are added to `diagnostics`. The same sources always give the same files.
 std::optional<OutputFiles> compileContent(const SourceTree& tree, Diagnostics& diagnostics);
 
 }  // namespace contentc

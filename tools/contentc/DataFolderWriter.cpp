@@ -25,23 +25,23 @@ fs::path siblingOf(const fs::path& folder, const std::string& suffix) {
     return sibling += suffix + std::to_string(::getpid());
 }
 
-/// Removes a folder, with all in it, at the start and at the end of its life.
+/// A folder that is removed with its contents when the object is created and when it is destroyed.
 class TemporaryFolder {
   public:
-    explicit TemporaryFolder(fs::path path) : m_path(std::move(path)) { remove(); }
+    explicit TemporaryFolder(fs::path path) : path_(std::move(path)) { remove(); }
     ~TemporaryFolder() { remove(); }
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
-    const fs::path& path() const { return m_path; }
+    const fs::path& path() const { return path_; }
 
   private:
     void remove() const {
         std::error_code ignored;
-        fs::remove_all(m_path, ignored);
+        fs::remove_all(path_, ignored);
     }
 
-    fs::path m_path;
+    fs::path path_;
 };
 
 fs::path nativePath(const fs::path& folder, std::string dosPath) {
@@ -68,7 +68,7 @@ Result<void> writeAll(const OutputFiles& files, const fs::path& folder) {
     return {};
 }
 
-/// Replacing a folder deletes what is in it: only what was made by this writer may go.
+/// Replacing a folder deletes its contents, so it must be empty or a data folder.
 bool mayReplace(const fs::path& folder) {
     std::error_code failed;
     if (!fs::exists(fs::symlink_status(folder, failed))) return true;
@@ -76,7 +76,8 @@ bool mayReplace(const fs::path& folder) {
     return fs::is_empty(folder, failed) || fs::is_regular_file(folder / "a.htm", failed);
 }
 
-/// The former folder is removed only after the new one stands in its place.
+/// Puts the folder `made` in the place of `folder`. A former folder is removed last, or put back after a
+/// failure.
 Result<void> moveInto(const fs::path& made, const fs::path& folder) {
     const fs::path former = siblingOf(folder, ".old-");
     std::error_code failed;

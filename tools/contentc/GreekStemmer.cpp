@@ -10,17 +10,16 @@ namespace contentc {
 
 void GreekStemmer::Delete::operator()(sb_stemmer* stemmer) const { sb_stemmer_delete(stemmer); }
 
-GreekStemmer::GreekStemmer() : m_stemmer(sb_stemmer_new("greek", "UTF_8")) {}
+GreekStemmer::GreekStemmer() : stemmer_(sb_stemmer_new("greek", "UTF_8")) {}
 
 std::string GreekStemmer::stemOf(std::string_view word) const {
     const std::string utf8 = platform::toUtf8(word);
     const auto isAscii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
-    if (!m_stemmer || std::ranges::any_of(word, isAscii)) return utf8;
+    if (!stemmer_ || std::ranges::any_of(word, isAscii)) return utf8;
     const auto* const letters = reinterpret_cast<const sb_symbol*>(utf8.data());
-    const sb_symbol* const stem = sb_stemmer_stem(m_stemmer.get(), letters, static_cast<int>(utf8.size()));
+    const sb_symbol* const stem = sb_stemmer_stem(stemmer_.get(), letters, static_cast<int>(utf8.size()));
     if (!stem) return utf8;
-    return {reinterpret_cast<const char*>(stem),
-            static_cast<std::size_t>(sb_stemmer_length(m_stemmer.get()))};
+    return {reinterpret_cast<const char*>(stem), static_cast<std::size_t>(sb_stemmer_length(stemmer_.get()))};
 }
 
 }  // namespace contentc

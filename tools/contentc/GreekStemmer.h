@@ -13,14 +13,14 @@ class GreekStemmer {
   public:
     GreekStemmer();
 
-    /// The stem of a lower-case word, in UTF-8; a word that is not all Greek letters is its own stem.
+    /// The stem of a lower-case word, in UTF-8. A word with other than Greek letters is its own stem.
     std::string stemOf(std::string_view word) const;
 
   private:
     struct Delete {
         void operator()(sb_stemmer* stemmer) const;
     };
-    std::unique_ptr<sb_stemmer, Delete> m_stemmer;
+    std::unique_ptr<sb_stemmer, Delete> stemmer_;
 };
 
 }  // namespace contentc

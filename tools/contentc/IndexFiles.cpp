@@ -16,12 +16,12 @@ namespace {
 class IndexFileMaker {
   public:
     IndexFileMaker(const Content& content, OutputFiles& outputs, Diagnostics& diagnostics)
-        : m_content(content), m_outputs(outputs), m_diagnostics(diagnostics) {}
+        : content_(content), outputs_(outputs), diagnostics_(diagnostics) {}
 
     void addSectionTitles() {
         for (const formats::Section& section : formats::sectionTable()) {
             std::vector<formats::SectionTitleRecord> records;
-            for (const PageSource* topic : topicsOf(m_content, section)) {
+            for (const PageSource* topic : topicsOf(content_, section)) {
                 records.push_back({topic->title.text, topic->number});
             }
             if (section.key == "elemcomp") addElementTitles(records);
@@ -32,9 +32,9 @@ class IndexFileMaker {
     void addTitleLists() {
         std::map<std::string_view, std::vector<std::string>> lists;
         for (const formats::TitleList& list : formats::titleListTable()) lists[list.fileName];
-        for (const PageSource& page : m_content.pages) {
+        for (const PageSource& page : content_.pages) {
             const auto file = formats::titleListFile(formats::listNumberOf(page.number));
-            if (page.kind != PageKind::Entry || !file) continue;
+            if (page.kind != PageKind::entry || !file) continue;
             const auto entry = static_cast<std::size_t>(formats::entryNumberOf(page.number));
             std::vector<std::string>& titles = lists[*file];
             if (titles.size() < entry) titles.resize(entry);
@@ -45,7 +45,7 @@ class IndexFileMaker {
 
     void addElementIndex() {
         std::vector<formats::ElementPageRecord> records;
-        for (const ElementLine& element : m_content.elements) records.push_back(element.record);
+        for (const ElementLine& element : content_.elements) records.push_back(element.record);
         add(std::string(formats::elementIndexFile), formats::encodeElementIndex(records));
     }
 
@@ -58,7 +58,7 @@ class IndexFileMaker {
     }
 
     void addWordSearch() {
-        const WordIndex index = makeWordIndex(m_content);
+        const WordIndex index = makeWordIndex(content_);
         add(std::string(formats::wordIndexFile), formats::encodeWordIndex(index.words));
         add(std::string(formats::alternativesFile), formats::encodeAlternatives(index.alternatives));
         add(std::string(formats::firstLettersFile), formats::encodeFirstLetters(index.firstLetters));
@@ -68,9 +68,9 @@ class IndexFileMaker {
   private:
     // The periodic table opens the page of an element by its page id, even where the page is an entry.
     void addElementTitles(std::vector<formats::SectionTitleRecord>& records) const {
-        for (const ElementLine& element : m_content.elements) {
-            const PageSource* page = elementPage(m_content, element);
-            if (!page || page->kind != PageKind::Entry) continue;
+        for (const ElementLine& element : content_.elements) {
+            const PageSource* page = elementPage(content_, element);
+            if (!page || page->kind != PageKind::entry) continue;
             const formats::SectionTitleRecord record{page->title.text, page->number};
             if (std::ranges::find(records, record) == records.end()) records.push_back(record);
         }
@@ -78,9 +78,9 @@ class IndexFileMaker {
 
     std::vector<formats::BrowseTopic> browseTopics(const formats::Section& section) const {
         std::vector<formats::BrowseTopic> topics;
-        for (const PageSource* page : topicsOf(m_content, section)) {
+        for (const PageSource* page : topicsOf(content_, section)) {
             formats::BrowseTopic topic{page->number, page->number, page->title.text, {}};
-            for (const PageSource* entry : entriesOf(m_content, *page)) {
+            for (const PageSource* entry : entriesOf(content_, *page)) {
                 topic.entries.push_back({entry->number, entry->title.text});
             }
             topics.push_back(std::move(topic));
@@ -91,15 +91,15 @@ class IndexFileMaker {
     void add(const std::string& name, std::optional<std::string> image) {
         const SourcePlace place{name};
         if (!image) {
-            m_diagnostics.error(place, "the content does not fit into the file");
+            diagnostics_.error(place, "the content does not fit into the file");
         } else {
-            m_outputs.add(name, std::move(*image), place, m_diagnostics);
+            outputs_.add(name, std::move(*image), place, diagnostics_);
         }
     }
 
-    const Content& m_content;
-    OutputFiles& m_outputs;
-    Diagnostics& m_diagnostics;
+    const Content& content_;
+    OutputFiles& outputs_;
+    Diagnostics& diagnostics_;
 };
 
 }  // namespace

@@ -5,8 +5,8 @@
 
 namespace contentc {
 
-/// Adds the index files of checked content: the sections' page titles, the title lists, the periodic table's
-/// index, the browse selection's index and the files of the word search.
+/// Adds the index files: the sections' page titles, the title lists, the indexes of the periodic table and of
+/// the browse selection, and the files of the word search. The content must have been checked.
 void addIndexFiles(const Content& content, OutputFiles& outputs, Diagnostics& diagnostics);
 
 }  // namespace contentc

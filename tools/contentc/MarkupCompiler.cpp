@@ -8,12 +8,12 @@
 namespace contentc {
 namespace {
 
-constexpr std::string_view kOpenMark = "{{";
-constexpr std::string_view kCloseMark = "}}";
-constexpr std::string_view kOpenLink = "[[";
-constexpr std::string_view kCloseLink = "]]";
-constexpr std::string_view kLinkDelimiter = "~G";
-constexpr std::string_view kEndOfPath = "\"'<> \t#?{";
+constexpr std::string_view markStart = "{{";
+constexpr std::string_view markEnd = "}}";
+constexpr std::string_view linkStart = "[[";
+constexpr std::string_view linkEnd = "]]";
+constexpr std::string_view linkDelimiter = "~G";
+constexpr std::string_view pathEnds = "\"'<> \t#?{";
 
 /// Whether a text can name a video or molecule file.
 bool isMediaName(std::string_view text) {
@@ -22,7 +22,7 @@ bool isMediaName(std::string_view text) {
     });
 }
 
-/// The marks that are lines of their own.
+/// Whether a mark must stand on a line of its own.
 bool isLineMark(std::string_view name) { return name.starts_with("video") || name.starts_with("molecule"); }
 
 bool isToolMark(std::string_view name) { return name.starts_with("tool") || name == "end"; }
@@ -31,44 +31,41 @@ bool isToolMark(std::string_view name) { return name.starts_with("tool") || name
 
 MarkupCompiler::MarkupCompiler(MarkValues values, bool glossary, References& references,
                                Diagnostics& diagnostics)
-    : m_values(std::move(values)),
-      m_glossary(glossary),
-      m_references(references),
-      m_diagnostics(diagnostics) {}
+    : values_(std::move(values)), glossary_(glossary), references_(references), diagnostics_(diagnostics) {}
 
 TextLine MarkupCompiler::compile(const TextLine& line) {
-    m_place = line.place;
-    m_rest = line.text;
-    m_result.clear();
-    m_linkWords.reset();
-    m_linkDelimiters = 0;
-    while (!m_rest.empty()) {
-        if (m_rest.starts_with(kOpenMark)) {
+    place_ = line.place;
+    rest_ = line.text;
+    result_.clear();
+    linkWords_.reset();
+    linkDelimiters_ = 0;
+    while (!rest_.empty()) {
+        if (rest_.starts_with(markStart)) {
             compileMark();
-        } else if (m_rest.starts_with(kOpenLink)) {
+        } else if (rest_.starts_with(linkStart)) {
             openLink();
-        } else if (m_linkWords && m_rest.starts_with(kCloseLink)) {
+        } else if (linkWords_ && rest_.starts_with(linkEnd)) {
             closeLink();
         } else {
             take(1);
         }
     }
     finish();
-    return {m_result, m_place};
+    return {result_, place_};
 }
 
 void MarkupCompiler::compileMark() {
-    const std::size_t end = m_rest.find(kCloseMark);
+    const std::size_t end = rest_.find(markEnd);
     if (end == std::string_view::npos) {
         error("'{{' is not closed on its line");
-        take(kOpenMark.size());
+        take(markStart.size());
         return;
     }
-    const std::string_view name = m_rest.substr(kOpenMark.size(), end - kOpenMark.size());
-    m_rest.remove_prefix(end + kCloseMark.size());
-    const auto value = m_values.find(name);
-    if (value != m_values.end()) {
-        m_result.append(value->second);
+    const std::string_view name = rest_.substr(markStart.size(), end - markStart.size());
+    rest_.remove_prefix(end + markEnd.size());
+    const auto value = values_.find(name);
+    if (value != values_.end()) {
+        result_.append(value->second);
         if (name == "data") noteDataPath();
     } else if (isLineMark(name)) {
         error(inQuotes("{{" + std::string(name) + "}}") +
@@ -84,59 +81,59 @@ void MarkupCompiler::compileMark() {
 }
 
 void MarkupCompiler::openLink() {
-    const std::string_view inner = m_rest.substr(kOpenLink.size());
+    const std::string_view inner = rest_.substr(linkStart.size());
     const std::string_view key = inner.substr(0, inner.find_first_of("|]"));
-    if (m_linkWords) error("'[[' inside a glossary link");
-    if (!m_glossary) error("a glossary link works only on a page of a section");
+    if (linkWords_) error("'[[' inside a glossary link");
+    if (!glossary_) error("a glossary link works only on a page of a section");
     if (!inner.substr(key.size()).starts_with('|')) {
         error("'[[' without '|'");
-        take(kOpenLink.size());
+        take(linkStart.size());
         return;
     }
     if (isGlossaryKey(key)) {
-        m_references.terms.push_back({m_place, std::string(key)});
+        references_.terms.push_back({place_, std::string(key)});
     } else {
         error("glossary key " + inQuotes(key) + " is not 8 characters of a-z and 0-9");
     }
-    m_result.append(kLinkDelimiter).append(key);
-    m_rest.remove_prefix(kOpenLink.size() + key.size() + 1);
-    m_linkWords = m_result.size();
-    ++m_linkDelimiters;
+    result_.append(linkDelimiter).append(key);
+    rest_.remove_prefix(linkStart.size() + key.size() + 1);
+    linkWords_ = result_.size();
+    ++linkDelimiters_;
 }
 
 void MarkupCompiler::closeLink() {
-    if (trimmed(std::string_view(m_result).substr(*m_linkWords)).empty())
+    if (trimmed(std::string_view(result_).substr(*linkWords_)).empty())
         error("a glossary link without words");
-    m_result.append(kLinkDelimiter);
-    ++m_linkDelimiters;
-    m_rest.remove_prefix(kCloseLink.size());
-    m_linkWords.reset();
+    result_.append(linkDelimiter);
+    ++linkDelimiters_;
+    rest_.remove_prefix(linkEnd.size());
+    linkWords_.reset();
 }
 
 void MarkupCompiler::take(std::size_t length) {
-    m_result.append(m_rest.substr(0, length));
-    m_rest.remove_prefix(length);
+    result_.append(rest_.substr(0, length));
+    rest_.remove_prefix(length);
 }
 
 void MarkupCompiler::noteDataPath() {
-    const std::string_view path = m_rest.substr(0, m_rest.find_first_of(kEndOfPath));
-    m_references.dataPaths.push_back({m_place, std::string(path)});
+    const std::string_view path = rest_.substr(0, rest_.find_first_of(pathEnds));
+    references_.dataPaths.push_back({place_, std::string(path)});
 }
 
 void MarkupCompiler::finish() {
-    if (m_linkWords) error("'[[' is not closed on its line");
-    const bool hasOwnTilde = std::ranges::count(m_result, '~') > m_linkDelimiters;
-    if (hasOwnTilde && m_result.find(kLinkDelimiter) != std::string::npos) {
+    if (linkWords_) error("'[[' is not closed on its line");
+    const bool hasOwnTilde = std::ranges::count(result_, '~') > linkDelimiters_;
+    if (hasOwnTilde && result_.find(linkDelimiter) != std::string::npos) {
         error("'~' would be taken for a glossary link");
     }
 }
 
-void MarkupCompiler::error(std::string message) { m_diagnostics.error(m_place, std::move(message)); }
+void MarkupCompiler::error(std::string message) { diagnostics_.error(place_, std::move(message)); }
 
 std::optional<std::string_view> nameInMarkLine(std::string_view line, std::string_view mark) {
     line = trimmed(line);
-    if (!line.starts_with(kOpenMark) || !line.ends_with(kCloseMark)) return std::nullopt;
-    line = line.substr(kOpenMark.size(), line.size() - kOpenMark.size() - kCloseMark.size());
+    if (!line.starts_with(markStart) || !line.ends_with(markEnd)) return std::nullopt;
+    line = line.substr(markStart.size(), line.size() - markStart.size() - markEnd.size());
     if (!line.starts_with(mark) || !line.substr(mark.size()).starts_with(' ')) return std::nullopt;
     const std::string_view name = trimmed(line.substr(mark.size()));
     if (!isMediaName(name)) return std::nullopt;

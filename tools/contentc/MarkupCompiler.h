@@ -13,14 +13,15 @@ namespace contentc {
 /// The texts that stand for the marks `{{name}}`, by name.
 using MarkValues = std::map<std::string, std::string, std::less<>>;
 
-/// The value of `{{data}}` on a page that is prepared before it is shown: the placeholder of the data folder.
-inline constexpr std::string_view kDataFolderMarker = "\x05..";
+/// The value of `{{data}}` on a page that is prepared before it is shown: the marker of the data folder.
+inline constexpr std::string_view dataFolderMarker = "\x05..";
 
 /// Turns the marks of page lines into the markers that page preparation works on: `{{name}}` into the value
 /// of that mark, `[[key|words]]` into a glossary link.
 class MarkupCompiler {
   public:
-    /// Without `glossary` links are refused, for pages that nothing prepares.
+    /// `glossary` allows links to glossary terms. They work only on pages that are prepared before they are
+    /// shown.
     MarkupCompiler(MarkValues values, bool glossary, References& references, Diagnostics& diagnostics);
 
     /// The line with its marks replaced. Unknown and unclosed marks and malformed links are reported.
@@ -35,23 +36,23 @@ class MarkupCompiler {
     void finish();
     void error(std::string message);
 
-    MarkValues m_values;
-    bool m_glossary;
-    References& m_references;
-    Diagnostics& m_diagnostics;
+    MarkValues values_;
+    bool glossary_;
+    References& references_;
+    Diagnostics& diagnostics_;
 
     // The line being compiled.
-    SourcePlace m_place;
-    std::string_view m_rest;
-    std::string m_result;
+    SourcePlace place_;
+    std::string_view rest_;
+    std::string result_;
     /// Where the words of the open link start in the result.
-    std::optional<std::size_t> m_linkWords;
-    /// The '~' in the result that are not of the text.
-    int m_linkDelimiters = 0;
+    std::optional<std::size_t> linkWords_;
+    /// How many '~' of the result belong to link delimiters and not to the text.
+    int linkDelimiters_ = 0;
 };
 
-/// The name in a line that is nothing but `{{mark NAME}}`, of letters a to z, digits, '-' and '_'. Nothing
-/// for any other line.
+/// The NAME of a line that consists of `{{mark NAME}}` only. The name has letters, digits, '-' and '_'.
+/// Nothing for any other line.
 std::optional<std::string_view> nameInMarkLine(std::string_view line, std::string_view mark);
 
 }  // namespace contentc

@@ -15,7 +15,7 @@ struct Options {
     std::filesystem::path output;
 };
 
-inline constexpr std::string_view kUsage =
+inline constexpr std::string_view usageText =
     "usage: contentc SOURCE-FOLDER OUTPUT-FOLDER [--images FOLDER]... [--media FOLDER]...\n"
     "Compiles the content sources into a data folder.\n"
     "  --images FOLDER   pictures to copy: the main menu's (*.bmp) and rendered drawings (*.png)\n"

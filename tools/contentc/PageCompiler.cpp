@@ -11,19 +11,18 @@
 namespace contentc {
 namespace {
 
-constexpr std::string_view kVideoMarker = "\x04..";
+constexpr std::string_view videoMarker = "\x04..";
 // A small video of 320 × 240 pixels with its control strip of 18.
-constexpr std::string_view kVideoAttributes = "WIDTH=320 HEIGHT=258 AUTOPLAY=FALSE";
-constexpr std::string_view kMoleculeMarker = "\x03..";
+constexpr std::string_view videoAttributes = "WIDTH=320 HEIGHT=258 AUTOPLAY=FALSE";
 
 class PageCompilation {
   public:
     PageCompilation(const PageSource& page, References& references, Diagnostics& diagnostics)
-        : m_page(page), m_references(references), m_diagnostics(diagnostics) {}
+        : page_(page), references_(references), diagnostics_(diagnostics) {}
 
     std::vector<TextLine> compile(const PageScaffold& scaffold) {
         const std::vector<TextLine> body = compileBody();
-        MarkupCompiler markup(scaffoldMarks(), isPrepared(), m_references, m_diagnostics);
+        MarkupCompiler markup(scaffoldMarks(), isPrepared(), references_, diagnostics_);
         std::vector<TextLine> lines;
         for (const TextLine& line : scaffold.head) lines.push_back(markup.compile(line));
         lines.insert(lines.end(), body.begin(), body.end());
@@ -32,30 +31,30 @@ class PageCompilation {
     }
 
   private:
-    bool isPrepared() const { return m_page.kind != PageKind::Plain; }
+    bool isPrepared() const { return page_.kind != PageKind::plain; }
 
     MarkValues bodyMarks() const {
-        // A plain page lies in the data folder itself, so that its relative addresses start there.
-        return {{"data", isPrepared() ? std::string(kDataFolderMarker) : ""}};
+        // A plain page lies in the data folder itself, so its relative addresses start there.
+        return {{"data", isPrepared() ? std::string(dataFolderMarker) : ""}};
     }
 
     MarkValues scaffoldMarks() const {
         MarkValues marks = bodyMarks();
-        marks["title"] = escapeHtml(m_page.title.text);
-        if (m_page.section) {
-            marks["section"] = m_page.section->key;
-            marks["sectionname"] = m_page.section->displayName;
+        marks["title"] = escapeHtml(page_.title.text);
+        if (page_.section) {
+            marks["section"] = page_.section->key;
+            marks["sectionname"] = page_.section->displayName;
         }
-        if (m_page.scaffold == PageTemplate::Molecule) {
-            marks["molfile"] = std::string(kMoleculeMarker) + "mol\\" + m_molecule.value_or("") + ".mol";
+        if (page_.scaffold == PageTemplate::molecule) {
+            marks["molfile"] = std::string(moleculeMarker) + "mol\\" + molecule_.value_or("") + ".mol";
         }
         return marks;
     }
 
     std::vector<TextLine> compileBody() {
-        MarkupCompiler markup(bodyMarks(), isPrepared(), m_references, m_diagnostics);
+        MarkupCompiler markup(bodyMarks(), isPrepared(), references_, diagnostics_);
         std::vector<TextLine> lines;
-        for (auto line = m_page.body.begin(); line != m_page.body.end(); ++line) {
+        for (auto line = page_.body.begin(); line != page_.body.end(); ++line) {
             if (const auto video = nameInMarkLine(line->text, "video")) {
                 lines.push_back(videoLine(*video, line->place));
             } else if (const auto molecule = nameInMarkLine(line->text, "molecule")) {
@@ -66,19 +65,18 @@ class PageCompilation {
                 lines.push_back(markup.compile(*line));
             }
         }
-        if (m_page.scaffold == PageTemplate::Molecule && !m_molecule) {
-            m_diagnostics.error(m_page.place,
-                                "a page of template 'molecule' needs a line '{{molecule NAME}}'");
+        if (page_.scaffold == PageTemplate::molecule && !molecule_) {
+            diagnostics_.error(page_.place, "a page of template 'molecule' needs a line '{{molecule NAME}}'");
         }
         return lines;
     }
 
     TextLine videoLine(std::string_view name, const SourcePlace& place) {
-        if (!isPrepared()) m_diagnostics.error(place, "a video works only on a page of a section");
-        m_references.videos.push_back({place, std::string(name)});
+        if (!isPrepared()) diagnostics_.error(place, "a video works only on a page of a section");
+        references_.videos.push_back({place, std::string(name)});
         std::string line = "<EMBED SRC=\"";
-        line.append(kVideoMarker).append("video\\").append(name).append(".webm\" ");
-        return {line.append(kVideoAttributes) + ">", place};
+        line.append(videoMarker).append("video\\").append(name).append(".webm\" ");
+        return {line.append(videoAttributes) + ">", place};
     }
 
     using Line = std::vector<TextLine>::const_iterator;
@@ -86,10 +84,10 @@ class PageCompilation {
     /// Adds the tool of a line; the result is the last line that goes with it.
     Line addTool(const ToolLine& tool, Line line, MarkupCompiler& markup, std::vector<TextLine>& lines) {
         const SourcePlace place = line->place;
-        if (!isPrepared()) m_diagnostics.error(place, "a tool works only on a page of a section");
+        if (!isPrepared()) diagnostics_.error(place, "a tool works only on a page of a section");
         noteTool(tool, place);
         lines.push_back({openTool(tool), place});
-        if (tool.name == kQuizTool) line = addQuiz(line, markup, lines);
+        if (tool.name == quizTool) line = addQuiz(line, markup, lines);
         lines.push_back({closeTool(tool), place});
         return line;
     }
@@ -97,43 +95,43 @@ class PageCompilation {
     void noteTool(const ToolLine& tool, const SourcePlace& place) {
         ToolUse use{place, tool.name, {}};
         for (const auto& [name, value] : tool.settings) use.settings.push_back(name);
-        m_references.tools.push_back(std::move(use));
+        references_.tools.push_back(std::move(use));
     }
 
     Line addQuiz(Line line, MarkupCompiler& markup, std::vector<TextLine>& lines) {
-        const auto isEnd = [](const TextLine& next) { return trimmed(next.text) == kEndLine; };
-        const Line end = std::find_if(line + 1, m_page.body.end(), isEnd);
-        if (end == m_page.body.end()) {
-            m_diagnostics.error(line->place, "the quiz has no line '{{end}}'");
+        const auto isEnd = [](const TextLine& next) { return trimmed(next.text) == endLine; };
+        const Line end = std::find_if(line + 1, page_.body.end(), isEnd);
+        if (end == page_.body.end()) {
+            diagnostics_.error(line->place, "the quiz has no line '{{end}}'");
             return end - 1;
         }
-        const auto quiz = compileQuiz({line + 1, end}, line->place, markup, m_diagnostics);
+        const auto quiz = compileQuiz({line + 1, end}, line->place, markup, diagnostics_);
         lines.insert(lines.end(), quiz.begin(), quiz.end());
         return end;
     }
 
     void setMolecule(std::string_view name, const SourcePlace& place) {
-        if (m_page.scaffold != PageTemplate::Molecule) {
-            m_diagnostics.error(place, "a molecule needs the header line 'template: molecule'");
-        } else if (m_molecule) {
-            m_diagnostics.error(place, "a second molecule on the page");
+        if (page_.scaffold != PageTemplate::molecule) {
+            diagnostics_.error(place, "a molecule needs the header line 'template: molecule'");
+        } else if (molecule_) {
+            diagnostics_.error(place, "a second molecule on the page");
         }
-        m_references.molecules.push_back({place, std::string(name)});
-        m_molecule = name;
+        references_.molecules.push_back({place, std::string(name)});
+        molecule_ = name;
     }
 
-    const PageSource& m_page;
-    References& m_references;
-    Diagnostics& m_diagnostics;
-    std::optional<std::string> m_molecule;
+    const PageSource& page_;
+    References& references_;
+    Diagnostics& diagnostics_;
+    std::optional<std::string> molecule_;
 };
 
 std::string joinLines(const std::vector<TextLine>& lines, Diagnostics& diagnostics) {
     std::string bytes;
     for (const TextLine& line : lines) {
-        if (line.text.size() > kLongestPageLine) {
+        if (line.text.size() > maxPageLine) {
             diagnostics.error(line.place, "line has " + std::to_string(line.text.size()) +
-                                              " bytes, at most " + std::to_string(kLongestPageLine) +
+                                              " bytes, at most " + std::to_string(maxPageLine) +
                                               " are allowed");
         }
         bytes.append(line.text).append("\r\n");
@@ -147,7 +145,7 @@ std::string compilePage(const PageSource& page, const PageScaffold& scaffold, Re
                         Diagnostics& diagnostics) {
     const std::vector<TextLine> lines = PageCompilation(page, references, diagnostics).compile(scaffold);
     const bool hasScaffold = !scaffold.head.empty();
-    if (page.scaffold == PageTemplate::Molecule && hasScaffold)
+    if (page.scaffold == PageTemplate::molecule && hasScaffold)
         checkMoleculeLayout(lines, page.place, diagnostics);
     return joinLines(lines, diagnostics);
 }

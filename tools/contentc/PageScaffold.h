@@ -15,12 +15,12 @@ struct PageScaffold {
     std::vector<TextLine> foot;
 };
 
-/// Reads a scaffold. Nothing, with a message, when it lacks `{{body}}` or one of the further `placeholders`.
+/// Reads a scaffold. Reported, with nothing returned, when it lacks `{{body}}` or one of the `placeholders`.
 std::optional<PageScaffold> readScaffold(const SourceFile& file,
                                          std::initializer_list<std::string_view> placeholders,
                                          Diagnostics& diagnostics);
 
-/// The bare HTML page around the body of a page that nothing prepares.
+/// The bare HTML around the body of a plain page.
 PageScaffold plainScaffold();
 
 }  // namespace contentc

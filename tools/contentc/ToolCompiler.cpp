@@ -7,7 +7,7 @@
 namespace contentc {
 namespace {
 
-constexpr std::string_view kToolMark = "{{tool ";
+constexpr std::string_view toolMark = "{{tool ";
 
 bool isNameCharacter(char c) { return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '-'; }
 
@@ -35,82 +35,82 @@ std::optional<std::pair<std::string, std::string>> takeSetting(std::string_view&
 class QuizCompilation {
   public:
     QuizCompilation(MarkupCompiler& markup, Diagnostics& diagnostics)
-        : m_markup(markup), m_diagnostics(diagnostics) {}
+        : markup_(markup), diagnostics_(diagnostics) {}
 
     std::vector<TextLine> compile(const std::vector<TextLine>& lines, const SourcePlace& place) {
         for (const TextLine& line : lines) {
             if (!trimmed(line.text).empty()) compileLine(line);
         }
         endQuestion();
-        if (m_questions == 0) m_diagnostics.error(place, "a quiz without questions");
-        return std::move(m_html);
+        if (questions_ == 0) diagnostics_.error(place, "a quiz without questions");
+        return std::move(html_);
     }
 
   private:
     void compileLine(const TextLine& line) {
         const std::string_view text = trimmed(line.text);
         const char kind = text.front();
-        const std::string inner = m_markup.compile({std::string(trimmed(text.substr(1))), line.place}).text;
+        const std::string inner = markup_.compile({std::string(trimmed(text.substr(1))), line.place}).text;
         if (kind == '?') {
             beginQuestion(inner, line.place);
-        } else if (m_questions == 0) {
-            m_diagnostics.error(line.place, "a quiz begins with a question: '? …'");
+        } else if (questions_ == 0) {
+            diagnostics_.error(line.place, "a quiz begins with a question: '? …'");
         } else if (kind == '-' || kind == '+') {
             addAnswer(inner, kind == '+', line.place);
-        } else if (kind == '>' && m_answers > 0) {
+        } else if (kind == '>' && answers_ > 0) {
             add("<P CLASS=\"why\">" + inner + "</P>", line.place);
         } else if (kind == '!') {
-            m_explanation = "<P CLASS=\"explanation\">" + inner + "</P>";
+            explanation_ = "<P CLASS=\"explanation\">" + inner + "</P>";
         } else {
-            m_diagnostics.error(line.place, "a line of a quiz begins with '?', '-', '+', '>' or '!'");
+            diagnostics_.error(line.place, "a line of a quiz begins with '?', '-', '+', '>' or '!'");
         }
     }
 
     void beginQuestion(const std::string& text, const SourcePlace& place) {
         endQuestion();
-        ++m_questions;
-        m_place = place;
-        m_answers = m_rightAnswers = 0;
+        ++questions_;
+        place_ = place;
+        answers_ = rightAnswers_ = 0;
         add("<DIV CLASS=\"question\"><P CLASS=\"asked\">" + text + "</P><UL>", place);
     }
 
     void addAnswer(const std::string& text, bool right, const SourcePlace& place) {
-        ++m_answers;
-        m_rightAnswers += right ? 1 : 0;
+        ++answers_;
+        rightAnswers_ += right ? 1 : 0;
         const std::string begin = right ? "<LI CLASS=\"right\">" : "<LI>";
         add(begin + "<SPAN CLASS=\"answer\">" + text + "</SPAN>", place);
     }
 
     void endQuestion() {
-        if (m_questions == 0) return;
-        if (m_answers < 2)
-            m_diagnostics.error(m_place, "a question needs two answers or more");
-        else if (m_rightAnswers != 1)
-            m_diagnostics.error(m_place, "a question needs one right answer: '+ …'");
-        add("</UL>" + m_explanation + "</DIV>", m_place);
-        m_explanation.clear();
+        if (questions_ == 0) return;
+        if (answers_ < 2)
+            diagnostics_.error(place_, "a question needs two answers or more");
+        else if (rightAnswers_ != 1)
+            diagnostics_.error(place_, "a question needs one right answer: '+ …'");
+        add("</UL>" + explanation_ + "</DIV>", place_);
+        explanation_.clear();
     }
 
-    void add(std::string html, const SourcePlace& place) { m_html.push_back({std::move(html), place}); }
+    void add(std::string html, const SourcePlace& place) { html_.push_back({std::move(html), place}); }
 
-    MarkupCompiler& m_markup;
-    Diagnostics& m_diagnostics;
-    std::vector<TextLine> m_html;
-    int m_questions = 0;
+    MarkupCompiler& markup_;
+    Diagnostics& diagnostics_;
+    std::vector<TextLine> html_;
+    int questions_ = 0;
 
     // The question being compiled.
-    SourcePlace m_place;
-    int m_answers = 0;
-    int m_rightAnswers = 0;
-    std::string m_explanation;
+    SourcePlace place_;
+    int answers_ = 0;
+    int rightAnswers_ = 0;
+    std::string explanation_;
 };
 
 }  // namespace
 
 std::optional<ToolLine> readToolLine(std::string_view line) {
     line = trimmed(line);
-    if (!line.starts_with(kToolMark) || !line.ends_with("}}")) return std::nullopt;
-    std::string_view rest = trimmed(line.substr(kToolMark.size(), line.size() - kToolMark.size() - 2));
+    if (!line.starts_with(toolMark) || !line.ends_with("}}")) return std::nullopt;
+    std::string_view rest = trimmed(line.substr(toolMark.size(), line.size() - toolMark.size() - 2));
     ToolLine tool{takeName(rest), {}};
     if (tool.name.empty()) return std::nullopt;
     while (!rest.empty()) {
@@ -130,7 +130,7 @@ std::string openTool(const ToolLine& tool) {
 }
 
 std::string closeTool(const ToolLine& tool) {
-    const std::string folder(kDataFolderMarker);
+    const std::string folder(dataFolderMarker);
     return "</DIV><LINK REL=\"stylesheet\" HREF=\"" + folder + "tools\\shared\\style.css\">" +
            "<SCRIPT TYPE=\"module\" SRC=\"" + folder + "tools\\" + tool.name + "\\face.js\"></SCRIPT>";
 }

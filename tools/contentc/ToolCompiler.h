@@ -25,8 +25,8 @@ std::string openTool(const ToolLine& tool);
 std::string closeTool(const ToolLine& tool);
 
 /// The tool whose questions stand below its line, as far as a line `{{end}}`.
-inline constexpr std::string_view kQuizTool = "quiz";
-inline constexpr std::string_view kEndLine = "{{end}}";
+inline constexpr std::string_view quizTool = "quiz";
+inline constexpr std::string_view endLine = "{{end}}";
 
 /// Turns the lines of a quiz into HTML that its script makes questions of. A question begins with `?`, an
 /// answer with `-`, the right one with `+`; `>` tells why the answer above it is right or wrong, and `!`

@@ -11,52 +11,52 @@ namespace {
 
 class WordIndexMaker {
   public:
-    explicit WordIndexMaker(const Content& content) : m_content(content) {}
+    explicit WordIndexMaker(const Content& content) : content_(content) {}
 
     WordIndex run() {
         for (const formats::Section& section : formats::sectionTable()) {
-            for (const PageSource* topic : topicsOf(m_content, section)) {
+            for (const PageSource* topic : topicsOf(content_, section)) {
                 addPage(*topic, topic->number, 0);
-                for (const PageSource* entry : entriesOf(m_content, *topic))
+                for (const PageSource* entry : entriesOf(content_, *topic))
                     addPage(*entry, topic->number, entry->number);
             }
         }
-        m_index.words.assign(m_words.begin(), m_words.end());
+        index_.words.assign(words_.begin(), words_.end());
         addAlternatives();
         addFirstLetters();
-        return std::move(m_index);
+        return std::move(index_);
     }
 
   private:
     void addPage(const PageSource& page, std::int32_t pageId, std::int32_t itemCode) {
         for (const std::string& word : wordsOf(page)) {
-            if (m_content.words.stopWords.contains(word) || word.size() > formats::maxIndexedWord) continue;
-            m_words.insert(word);
-            m_index.occurrences.push_back({word, pageId, itemCode, page.section->code});
+            if (content_.words.stopWords.contains(word) || word.size() > formats::maxIndexedWord) continue;
+            words_.insert(word);
+            index_.occurrences.push_back({word, pageId, itemCode, page.section->code});
         }
     }
 
     void addAlternatives() {
         std::int32_t group = 0;
-        for (std::vector<std::string>& forms : groupForms(m_words, m_content.words.formGroups)) {
+        for (std::vector<std::string>& forms : groupForms(words_, content_.words.formGroups)) {
             std::erase_if(forms, [](const auto& form) { return form.size() > formats::maxAlternative; });
             if (forms.size() < 2) continue;
             ++group;
-            for (const std::string& form : forms) m_index.alternatives.push_back({group, form});
+            for (const std::string& form : forms) index_.alternatives.push_back({group, form});
         }
     }
 
     void addFirstLetters() {
-        for (std::uint32_t i = 0; i < m_index.words.size(); ++i) {
-            const char letter = m_index.words[i].front();
-            auto& letters = m_index.firstLetters;
+        for (std::uint32_t i = 0; i < index_.words.size(); ++i) {
+            const char letter = index_.words[i].front();
+            auto& letters = index_.firstLetters;
             if (letters.empty() || letters.back().letter != letter) letters.push_back({letter, i});
         }
     }
 
-    const Content& m_content;
-    std::set<std::string> m_words;
-    WordIndex m_index;
+    const Content& content_;
+    std::set<std::string> words_;
+    WordIndex index_;
 };
 
 }  // namespace
@@ -65,7 +65,7 @@ WordIndex makeWordIndex(const Content& content) { return WordIndexMaker(content)
 
 std::vector<std::vector<std::string>> groupForms(const std::set<std::string>& words,
                                                  const std::vector<std::vector<std::string>>& formGroups) {
-    // A group of the author has his first word as its key, marked so that no stem is the same.
+    // The key of an author's group is its first word with a '=' before it, which no stem has.
     std::map<std::string_view, std::string> keys;
     for (const std::vector<std::string>& group : formGroups) {
         for (const std::string& word : group) keys[word] = '=' + group.front();

@@ -16,15 +16,15 @@ struct WordIndex {
     /// Groups of two words and more, numbered from 1 in the order of their first words.
     std::vector<formats::AlternativeRecord> alternatives;
     std::vector<formats::FirstLetterRecord> firstLetters;
-    /// Each word once for each page, in the order of sections and pages.
+    /// One record for each word of each page, in the order of sections and pages.
     std::vector<formats::OccurrenceRecord> occurrences;
 };
 
-/// Indexes the words of all section pages that are no stop words. Words too long for a record are left out.
+/// Indexes the words of all section pages. Stop words and words too long for a record are left out.
 WordIndex makeWordIndex(const Content& content);
 
-/// Groups forms of one word: those that the author put together, and otherwise those of one stem. Each group
-/// in ascending order.
+/// Groups the forms of one word: those that the author has grouped, and of the others those with the same
+/// stem. The groups and the words in each are in ascending order.
 std::vector<std::vector<std::string>> groupForms(const std::set<std::string>& words,
                                                  const std::vector<std::vector<std::string>>& formGroups);
 

@@ -6,9 +6,9 @@
 
 namespace {
 
-enum ExitStatus { Done = 0, Failed = 1, WrongArguments = 2 };
+enum ExitStatus { done = 0, failed = 1, wrongArguments = 2 };
 
-/// The first named folder that is none; empty when all are there.
+/// The first of the given folders that is no folder; empty when all are.
 std::filesystem::path missingFolder(const contentc::SourceFolders& sources) {
     std::vector<std::filesystem::path> folders{sources.content};
     folders.insert(folders.end(), sources.images.begin(), sources.images.end());
@@ -39,13 +39,13 @@ int run(const contentc::Options& options) {
 int main(int argc, char* argv[]) {
     const auto options = contentc::parseOptions({argv + (argc > 0 ? 1 : 0), argv + argc});
     if (!options) {
-        std::cerr << contentc::kUsage;
-        return WrongArguments;
+        std::cerr << contentc::usageText;
+        return wrongArguments;
     }
     const std::filesystem::path missing = missingFolder(options->sources);
     if (!missing.empty()) {
         std::cerr << "contentc: " << missing.generic_string() << ": no such folder\n";
-        return WrongArguments;
+        return wrongArguments;
     }
     return run(*options);
 }

@@ -27,7 +27,7 @@ std::string_view ourName(const std::string& reference) {
     return {};
 }
 
-/// Reads one property; labels have their text in an attribute.
+/// Reads one property. Labels have their text in an attribute.
 void readProperty(QXmlStreamReader& reader, Record& record) {
     const auto attributes = reader.attributes();
     const std::string_view name =
@@ -47,7 +47,7 @@ Record readAtom(QXmlStreamReader& reader) {
 void keep(Record record, Records& records) {
     const int number = QByteArray::fromStdString(record["number"]).toInt();
     record.erase("number");
-    // The list has a dummy with the number 0.
+    // The list begins with a dummy element that has the number 0.
     if (number >= 1 && number <= elementCount) records.emplace(number, std::move(record));
 }
 

@@ -7,9 +7,9 @@
 
 namespace elementc {
 
-/// The elements 1 to 118 of the Blue Obelisk's `elements.xml`, under our field names: symbol, name,
-/// electronegativity (Pauling), ionisation (eV), melting and boiling (K), discovered (year, 0 for antiquity),
-/// configuration ("Ar 3d6 4s2"). `file` names it in messages.
+/// Reads the elements 1 to 118 from the Blue Obelisk's `elements.xml`. The fields get our names: symbol,
+/// name, electronegativity (Pauling), ionisation (eV), melting and boiling (K), discovered (year, 0 for
+/// antiquity), configuration ("Ar 3d6 4s2"). `file` is its name in messages.
 Result<Records> readBodr(std::string_view xml, const std::string& file);
 
 }  // namespace elementc

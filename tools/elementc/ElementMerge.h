@@ -7,9 +7,9 @@
 
 namespace elementc {
 
-/// Joins the elements of the Blue Obelisk with the corrections to them and with our own table, which has a
-/// row for each. Symbols must agree, so that no row can slip. A correction has number, symbol, field and
-/// value.
+/// Joins the elements of the Blue Obelisk with corrections to them and with our own table, which has one row
+/// for each element. Number and symbol must agree in every row, so that a shifted table is found. A
+/// correction has number, symbol, field and value.
 Result<Records> mergeElements(Records bodr, std::span<const SourceRow> corrections,
                               std::span<const SourceRow> own);
 

@@ -35,7 +35,7 @@ std::span<const Element, elementCount> elements() { return table; }
 constexpr std::array<std::string_view, 6> required{"symbol", "Greek name", "name",
                                                    "family", "mass",       "discovered"};
 
-// In the order in which an element has them.
+// In the order of the members of Element.
 constexpr std::array<std::string_view, 8> figures{"mass",
                                                   "melting",
                                                   "boiling",
@@ -50,7 +50,7 @@ bool isDecimal(std::string_view text) {
            std::ranges::count(text, '.') <= 1 && text != ".";
 }
 
-/// Whether a text can stand between quotes as it is.
+/// Whether a text can be put between quotes without escapes.
 bool isPlain(std::string_view text) { return text.find_first_of("\"\\\n\r") == std::string_view::npos; }
 
 Result<void> check(const Record& record) {

@@ -6,8 +6,8 @@
 
 namespace elementc {
 
-/// The C++ source with the table of elements that `controls/common/Element.h` declares. A figure that is no
-/// decimal number, and a missing symbol, name, mass or year, is an error.
+/// The C++ source with the table of elements that `controls/elements/Element.h` declares. It is an error when
+/// a figure is no decimal number, or when a symbol, name, mass or year is missing.
 Result<std::string> writeTable(const Records& records);
 
 }  // namespace elementc

@@ -12,7 +12,7 @@ namespace {
 class Render : public ::testing::Test {
   protected:
     void put(const QString& name, const QByteArray& text) {
-        QFile file(m_folder.filePath(name));
+        QFile file(folder_.filePath(name));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(text);
     }
@@ -39,19 +39,19 @@ class Render : public ::testing::Test {
 
     int run() {
         QProcess process;
-        process.start(RENDER_ARTWORK, {m_folder.filePath("manifest.json"), m_folder.path()});
+        process.start(RENDER_ARTWORK, {folder_.filePath("manifest.json"), folder_.path()});
         process.waitForFinished();
-        m_errors = QString::fromUtf8(process.readAllStandardError());
+        errors_ = QString::fromUtf8(process.readAllStandardError());
         return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
     }
 
-    QTemporaryDir m_folder;
-    QString m_errors;
+    QTemporaryDir folder_;
+    QString errors_;
 };
 
 TEST_F(Render, DrawsIncludedFilesInTheColoursAsked) {
-    ASSERT_EQ(run(), 0) << m_errors.toStdString();
-    const QImage image(m_folder.filePath("out/a.png"));
+    ASSERT_EQ(run(), 0) << errors_.toStdString();
+    const QImage image(folder_.filePath("out/a.png"));
     EXPECT_EQ(image.size(), QSize(4, 2));
     EXPECT_EQ(image.pixelColor(1, 1), QColor(0x10, 0x20, 0x30));
     EXPECT_EQ(image.pixelColor(2, 1), QColor(255, 0, 0));
@@ -80,7 +80,7 @@ TEST_F(Render, TellsFileAndReasonOfAnError) {
         put("manifest.json", good);
         put(wrong.file, wrong.text);
         EXPECT_EQ(run(), wrong.status) << wrong.message;
-        EXPECT_TRUE(m_errors.contains(wrong.message)) << m_errors.toStdString();
+        EXPECT_TRUE(errors_.contains(wrong.message)) << errors_.toStdString();
     }
 }
 

@@ -6,10 +6,10 @@ namespace {
 
 using Messages = std::vector<std::string>;
 
-const std::string kTopicHeader = "title: T\nkind: topic\n---\n";
+const std::string topicHeader = "title: T\nkind: topic\n---\n";
 
-constexpr const char* kPage = "pages/uses/400010.page";
-constexpr const char* kMolecule = "templates/molecule.html";
+constexpr const char* pageFile = "pages/uses/400010.page";
+constexpr const char* moleculeFile = "templates/molecule.html";
 
 // The molecule page's lines, from the one with the EMBED on; the twelve before them are blank.
 std::string moleculeTemplate(const std::string& fromLine13, int linesBefore = 12) {
@@ -17,11 +17,11 @@ std::string moleculeTemplate(const std::string& fromLine13, int linesBefore = 12
            "{{body}}\n";
 }
 
-const std::string kEmbed = "<EMBED SRC=\"{{molfile}}\" WIDTH=340 HEIGHT=290\n";
-const std::string kNoEmbed =
+const std::string embedLines = "<EMBED SRC=\"{{molfile}}\" WIDTH=340 HEIGHT=290\n";
+const std::string noEmbed =
     "13: line 13 of the finished molecule page must hold the '<EMBED ' of the molecule with the sizes 340 "
     "and 290";
-const std::string kNoTrue = "15: line 15 of the finished molecule page must end in its only 'true'";
+const std::string noTrue = "15: line 15 of the finished molecule page must end in its only 'true'";
 
 /// One file of the sources with a text that is wrong, and all that there is to say about it; messages that
 /// begin with a line number are about this file.
@@ -29,7 +29,7 @@ const struct {
     const char* file;
     std::string text;
     Messages messages;
-} kBadSources[] = {
+} badSources[] = {
     // Data sets.
     {"datasets/gases.data",
      "number: 1\ntitle: T\ncolumn: text | N\ncolumn: number | V\n---\nα\t1\nβ\tδύο\nγ\n",
@@ -42,18 +42,18 @@ const struct {
       "such"}},
     {"datasets/gases.txt", "", {"1: not a *.data file"}},
     // Headers of pages.
-    {kPage, "title: T\nkind: topic\n<P>", {"3: no line '---' between header and body"}},
-    {kPage, "", {"1: no line '---' between header and body"}},
-    {kPage,
+    {pageFile, "title: T\nkind: topic\n<P>", {"3: no line '---' between header and body"}},
+    {pageFile, "", {"1: no line '---' between header and body"}},
+    {pageFile,
      "title T\ncolour: red\nkind: topic\nkind: entry\n---\n",
      {"1: not a header line 'name: value'", "2: unknown header field 'colour'",
       "4: header field 'kind' stands twice", "5: header field 'title' is missing"}},
-    {kPage,
+    {pageFile,
      "title:\nkind: page\norder: first\ntemplate: film\n---\n",
      {"1: header field 'title' is empty", "2: unknown kind 'page'", "3: not a number: 'first'",
       "4: unknown template 'film'"}},
-    {kPage, "title: T\nkind: topic\ntopic: 400000\n---\n", {"3: only an entry has a topic"}},
-    {kPage,
+    {pageFile, "title: T\nkind: topic\ntopic: 400000\n---\n", {"3: only an entry has a topic"}},
+    {pageFile,
      "title: " + std::string(108, 'x') + "\nkind: topic\n---\n",
      {"1: title has 108 bytes, at most 107 fit"}},
     {"pages/uses/40001.page",
@@ -61,13 +61,13 @@ const struct {
      {"1: title has 60 bytes, at most 59 fit"}},
     {"start.page", "title: T\nkind: start\n---\n", {"2: unknown header field 'kind'"}},
     // Page numbers.
-    {"pages/uses/1000000.page", kTopicHeader, {"1: file name is not a page number: '1000000'"}},
-    {"pages/uses/0400010.page", kTopicHeader, {"1: file name is not a page number: '0400010'"}},
-    {"pages/uses/intro.page", kTopicHeader, {"1: file name is not a page number: 'intro'"}},
+    {"pages/uses/1000000.page", topicHeader, {"1: file name is not a page number: '1000000'"}},
+    {"pages/uses/0400010.page", topicHeader, {"1: file name is not a page number: '0400010'"}},
+    {"pages/uses/intro.page", topicHeader, {"1: file name is not a page number: 'intro'"}},
     {"pages/uses/410010.page",
-     kTopicHeader,
+     topicHeader,
      {"1: '41\\0010' is already made from pages/elemcomp/410010.page"}},
-    {"pages/uses/400000.page", kTopicHeader, {"1: page 400000 must be of kind 'start'"}},
+    {"pages/uses/400000.page", topicHeader, {"1: page 400000 must be of kind 'start'"}},
     {"pages/uses/400001.page",
      "title: T\nkind: start\n---\n",
      {"1: the start page of this section is 400000, not 400001"}},
@@ -90,26 +90,26 @@ const struct {
       "6: element 1 stands twice", "7: not a line 'atomic-number page-id'",
       "8: not a line 'atomic-number page-id'"}},
     // Marks in the text.
-    {kPage,
-     kTopicHeader + "ok\n[[hydrogen|H\n[[hydrogen]]\n[[hydroge|H]]\n[[Hydrogen|H]]\n",
+    {pageFile,
+     topicHeader + "ok\n[[hydrogen|H\n[[hydrogen]]\n[[hydroge|H]]\n[[Hydrogen|H]]\n",
      {"5: '[[' is not closed on its line", "6: '[[' without '|'",
       "7: glossary key 'hydroge' is not 8 characters of a-z and 0-9",
       "8: glossary key 'Hydrogen' is not 8 characters of a-z and 0-9"}},
-    {kPage,
-     kTopicHeader + "[[helium00|He]]\n[[hydrogen| ]]\n[[hydrogen|a [[hydrogen|b]]\n~ [[hydrogen|H]]\n~Graph\n"
-                    "[[hydrogen|a~b]]\n{{date}}\n{{title}}\n{{data\n",
+    {pageFile,
+     topicHeader + "[[helium00|He]]\n[[hydrogen| ]]\n[[hydrogen|a [[hydrogen|b]]\n~ [[hydrogen|H]]\n~Graph\n"
+                   "[[hydrogen|a~b]]\n{{date}}\n{{title}}\n{{data\n",
      {"4: no glossary term has the key 'helium00'", "5: a glossary link without words",
       "6: '[[' inside a glossary link", "7: '~' would be taken for a glossary link",
       "8: '~' would be taken for a glossary link", "9: '~' would be taken for a glossary link",
       "10: unknown mark '{{date}}'", "11: unknown mark '{{title}}'", "12: '{{' is not closed on its line"}},
-    {kPage,
-     kTopicHeader + "{{video none}}\n<P>{{video none}}\n{{molecule water}}\n{{video a\\b}}\n",
+    {pageFile,
+     topicHeader + "{{video none}}\n<P>{{video none}}\n{{molecule water}}\n{{video a\\b}}\n",
      {"4: no video is named 'none'",
       "5: '{{video none}}' is not '{{video NAME}}' or '{{molecule NAME}}' on a line of its own",
       "6: a molecule needs the header line 'template: molecule'",
       "7: '{{video a\\b}}' is not '{{video NAME}}' or '{{molecule NAME}}' on a line of its own"}},
-    {kPage,
-     kTopicHeader + "<IMG SRC=\"{{data}}images\\none.png\">\n<IMG SRC={{data}}images/none.gif>\n",
+    {pageFile,
+     topicHeader + "<IMG SRC=\"{{data}}images\\none.png\">\n<IMG SRC={{data}}images/none.gif>\n",
      {"4: the data folder has no file 'images\\none.png'",
       "5: the data folder has no file 'images/none.gif'"}},
     {"pages/struct/370010.page",
@@ -119,13 +119,13 @@ const struct {
      "title: T\nkind: topic\ntemplate: molecule\n---\n",
      {"1: a page of template 'molecule' needs a line '{{molecule NAME}}'"}},
     // Tools.
-    {kPage,
-     kTopicHeader + "{{tool clock at=\"3\" on=\"4\"}}\n{{tool quiz at=\"3\"}}\n? q\n+ a\n- "
+    {pageFile,
+     topicHeader + "{{tool clock at=\"3\" on=\"4\"}}\n{{tool quiz at=\"3\"}}\n? q\n+ a\n- "
                     "b\n{{end}}\n{{tool shared}}\n",
      {"4: tool 'clock' has no setting 'on'; its settings: at, of",
       "5: tool 'quiz' has no setting 'at'; its settings: none", "10: no tool is named 'shared'"}},
-    {kPage,
-     kTopicHeader + "{{tool none}}\n<P>{{tool clock}}\n{{tool clock at=3}}\n{{end}}\n",
+    {pageFile,
+     topicHeader + "{{tool none}}\n<P>{{tool clock}}\n{{tool clock at=3}}\n{{end}}\n",
      {"4: no tool is named 'none'",
       "5: '{{tool clock}}' is not '{{tool NAME}}', with settings as 'name=\"value\"', or the '{{end}}' of a "
       "quiz, "
@@ -136,9 +136,9 @@ const struct {
       "7: '{{end}}' is not '{{tool NAME}}', with settings as 'name=\"value\"', or the '{{end}}' of a quiz, "
       "on a "
       "line of its own"}},
-    {kPage,
-     kTopicHeader + "{{tool quiz}}\n+ a\n? q\n+ a\nb\n> c\n? q\n+ a\n+ b\n? q\n> c\n- a\n- b\n{{end}}\n"
-                    "{{tool quiz}}\n\n{{end}}\n{{tool quiz}}\n? q\n",
+    {pageFile,
+     topicHeader + "{{tool quiz}}\n+ a\n? q\n+ a\nb\n> c\n? q\n+ a\n+ b\n? q\n> c\n- a\n- b\n{{end}}\n"
+                   "{{tool quiz}}\n\n{{end}}\n{{tool quiz}}\n? q\n",
      {"5: a quiz begins with a question: '? …'", "6: a question needs two answers or more",
       "8: a line of a quiz begins with '?', '-', '+', '>' or '!'",
       "10: a question needs one right answer: '+ …'", "13: a question needs one right answer: '+ …'",
@@ -148,12 +148,12 @@ const struct {
      "title: T\n---\n[[hydrogen|H]]\n{{tool clock}}\n",
      {"3: a glossary link works only on a page of a section", "4: a tool works only on a page of a section"}},
     // What text may hold.
-    {kPage,
+    {pageFile,
      "title: H\xE2\x82\x82O\nkind: topic\n---\nok\n\xE2\x86\x92\xE2\x86\x92\n",
      {"1: not in code page 1253: '\xE2\x82\x82' (U+2082)",
       "5: not in code page 1253: '\xE2\x86\x92' (U+2192)"}},
-    {kPage,
-     kTopicHeader + "\xE1\n\x05..\n\xC2\x81\n" + std::string(20001, 'x') + "\n",
+    {pageFile,
+     topicHeader + "\xE1\n\x05..\n\xC2\x81\n" + std::string(20001, 'x') + "\n",
      {"4: not UTF-8", "5: control character U+0005", "6: control character U+0081",
       "7: line has 20001 bytes, at most 20000 are allowed"}},
     {"style.css", "P { }\n/* \xE2\x82\x82 */\n", {"2: not in code page 1253: '\xE2\x82\x82' (U+2082)"}},
@@ -181,23 +181,23 @@ const struct {
      {"1: placeholder '{{body}}' is missing", "1: placeholder '{{section}}' is missing",
       "1: placeholder '{{title}}' is missing"}},
     {"templates/page.html", "{{title}}{{section}}\n<TD>{{body}}\n{{foot}}\n", {"3: unknown mark '{{foot}}'"}},
-    {kMolecule, "{{title}}{{section}}\n\n{{body}}\n", {"1: placeholder '{{molfile}}' is missing"}},
+    {moleculeFile, "{{title}}{{section}}\n\n{{body}}\n", {"1: placeholder '{{molfile}}' is missing"}},
     // The layout of molecule pages.
-    {kMolecule, moleculeTemplate(kEmbed + "\ntrue\n</TD>\n", 13), {kNoEmbed, kNoTrue}},
-    {kMolecule,
+    {moleculeFile, moleculeTemplate(embedLines + "\ntrue\n</TD>\n", 13), {noEmbed, noTrue}},
+    {moleculeFile,
      moleculeTemplate("<EMBED SRC=\"{{molfile}}\" WIDTH=340 HEIGHT=300\n\nS=true>\n</TD>\n"),
-     {kNoEmbed, kNoTrue}},
-    {kMolecule, moleculeTemplate(kEmbed + "\na=true b=true\n</TD>\n"), {kNoTrue}},
-    {kMolecule,
-     moleculeTemplate(kEmbed + "</TD>\ntrue\n </TD>\n"),
+     {noEmbed, noTrue}},
+    {moleculeFile, moleculeTemplate(embedLines + "\na=true b=true\n</TD>\n"), {noTrue}},
+    {moleculeFile,
+     moleculeTemplate(embedLines + "</TD>\ntrue\n </TD>\n"),
      {"pages/struct/370010.page:1: no line after line 15 of the finished page begins with '</TD>'"}},
-    {kMolecule,
+    {moleculeFile,
      moleculeTemplate("<EMBED TYPE=\"mol\" SRC=\"{{molfile}}\" WIDTH=340 HEIGHT=290\n\ntrue\n</TD>\n"),
      {"13: the molecule file must be the first text in quotes on its line"}},
 };
 
 TEST(BadSources, AreReportedByLine) {
-    for (const auto& [file, text, messages] : kBadSources) {
+    for (const auto& [file, text, messages] : badSources) {
         ContentFolder content;
         content.write("tools/clock/face.js", "");
         content.write("tools/clock/settings.txt", "of\nat\n");

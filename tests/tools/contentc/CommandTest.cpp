@@ -14,63 +14,63 @@ class Command : public testing::Test {
   protected:
     /// Runs the compiler; the exit status.
     int run(const std::string& arguments) {
-        const std::string errors = m_content.beside("errors").string();
+        const std::string errors = content_.beside("errors").string();
         const std::string command =
-            m_limits + std::string(CONTENTC) + ' ' + arguments + " >'" + errors + "' 2>&1";
+            limits_ + std::string(CONTENTC) + ' ' + arguments + " >'" + errors + "' 2>&1";
         const int status = std::system(command.c_str());
-        m_errors = readAll(errors);
+        errors_ = readAll(errors);
         return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     }
     int compileTo(const std::string& name) {
-        return run('\'' + m_content.sources().string() + "' '" + folder(name).string() + '\'');
+        return run('\'' + content_.sources().string() + "' '" + folder(name).string() + '\'');
     }
-    fs::path folder(const std::string& name) const { return m_content.beside("out") / name; }
+    fs::path folder(const std::string& name) const { return content_.beside("out") / name; }
 
-    ContentFolder m_content;
+    ContentFolder content_;
     /// Shell commands before the run.
-    std::string m_limits;
-    std::string m_errors;
+    std::string limits_;
+    std::string errors_;
 };
 
 TEST_F(Command, SameSourcesGiveTheSameBytes) {
     EXPECT_EQ(compileTo("one"), 0);
     EXPECT_EQ(compileTo("two"), 0);
-    EXPECT_EQ(m_errors, "");
+    EXPECT_EQ(errors_, "");
     const Files files = listAll(folder("one"));
     EXPECT_FALSE(files.empty());
     EXPECT_EQ(files, listAll(folder("two")));
 }
 
 TEST_F(Command, SourceErrorsAreAllToldAndLeaveNoFolder) {
-    m_content.write("pages/uses/400010.page", "title: T\nkind: topic\n---\n{{x}}\n{{y}}\n");
-    m_content.write("pages/concept/10.page", "");
+    content_.write("pages/uses/400010.page", "title: T\nkind: topic\n---\n{{x}}\n{{y}}\n");
+    content_.write("pages/concept/10.page", "");
     EXPECT_EQ(compileTo("data"), 1);
-    const std::string pages = m_content.sources().generic_string() + "/pages/";
-    EXPECT_EQ(m_errors, pages + "concept/10.page:1: no line '---' between header and body\n" + pages +
-                            "uses/400010.page:4: unknown mark '{{x}}'\n" + pages +
-                            "uses/400010.page:5: unknown mark '{{y}}'\n");
-    EXPECT_FALSE(fs::exists(m_content.beside("out")));
+    const std::string pages = content_.sources().generic_string() + "/pages/";
+    EXPECT_EQ(errors_, pages + "concept/10.page:1: no line '---' between header and body\n" + pages +
+                           "uses/400010.page:4: unknown mark '{{x}}'\n" + pages +
+                           "uses/400010.page:5: unknown mark '{{y}}'\n");
+    EXPECT_FALSE(fs::exists(content_.beside("out")));
 }
 
 // As on a full disk: no file may be written beyond 512 bytes or so.
 TEST_F(Command, WriteErrorKeepsTheFormerFolder) {
     EXPECT_EQ(compileTo("data"), 0);
-    const Files former = listAll(m_content.beside("out"));
-    m_content.write("pictures/large.png", std::string(100'000, 'x'));
-    m_limits = "trap '' XFSZ; ulimit -f 1; ";
+    const Files former = listAll(content_.beside("out"));
+    content_.write("pictures/large.png", std::string(100'000, 'x'));
+    limits_ = "trap '' XFSZ; ulimit -f 1; ";
     EXPECT_EQ(compileTo("data"), 1);
-    EXPECT_NE(m_errors.find("images/large.png: cannot be written"), std::string::npos) << m_errors;
-    EXPECT_EQ(listAll(m_content.beside("out")), former);
+    EXPECT_NE(errors_.find("images/large.png: cannot be written"), std::string::npos) << errors_;
+    EXPECT_EQ(listAll(content_.beside("out")), former);
 }
 
 TEST_F(Command, WrongArgumentsAreRefused) {
-    const std::string both = '\'' + m_content.sources().string() + "' '" + folder("data").string() + "' ";
+    const std::string both = '\'' + content_.sources().string() + "' '" + folder("data").string() + "' ";
     for (const std::string& arguments : {std::string(), both + "third", both + "--images", both + "--quick x",
                                          both + "--media '" + folder("none").string() + '\''}) {
         EXPECT_EQ(run(arguments), 2) << arguments;
-        EXPECT_NE(m_errors, "") << arguments;
+        EXPECT_NE(errors_, "") << arguments;
     }
-    EXPECT_FALSE(fs::exists(m_content.beside("out")));
+    EXPECT_FALSE(fs::exists(content_.beside("out")));
 }
 
 }  // namespace

@@ -8,11 +8,11 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char* kPageTemplate =
+constexpr const char* samplePage =
     "<HTML>\n<TITLE>{{title}}</TITLE>\n<LINK HREF=\"{{data}}style\\kalyxo.css\">\n"
     "<BODY CLASS=\"{{section}}\">\n<P>{{sectionname}}</P>\n{{body}}\n</BODY></HTML>\n";
 
-constexpr const char* kMoleculeTemplate =
+constexpr const char* sampleMoleculePage =
     "<HTML>\n<TITLE>{{title}}</TITLE>\n3\n4\n5\n6\n7\n8\n9\n10\n<BODY "
     "CLASS=\"{{section}}\">\n<TABLE><TR><TD>\n"
     "<EMBED SRC=\"{{molfile}}\" WIDTH=340 "
@@ -23,8 +23,8 @@ constexpr const char* kMoleculeTemplate =
 ContentFolder::ContentFolder() {
     write("start.page", "title: Kalyxo\n---\n<P>Welcome</P>\n");
     write("style.css", "P { }\n");
-    write("templates/page.html", kPageTemplate);
-    write("templates/molecule.html", kMoleculeTemplate);
+    write("templates/page.html", samplePage);
+    write("templates/molecule.html", sampleMoleculePage);
     const std::pair<const char*, const char*> starts[] = {
         {"react", "170070"},   {"struct", "370001"},   {"source", "290000"}, {"uses", "400000"},
         {"history", "320000"}, {"elemcomp", "410000"}, {"concept", "450000"}};

@@ -14,11 +14,11 @@ class ContentFolder {
     ContentFolder();
 
     /// The folder of the sources; beside it tests may write what they like.
-    std::filesystem::path sources() const { return m_root / "content"; }
-    std::filesystem::path beside(const std::string& name) const { return m_root / name; }
+    std::filesystem::path sources() const { return root_ / "content"; }
+    std::filesystem::path beside(const std::string& name) const { return root_ / name; }
 
     void write(const std::string& file, const std::string& text) const {
-        m_root.write("content/" + file, text);
+        root_.write("content/" + file, text);
     }
     void remove(const std::string& file) const { std::filesystem::remove_all(sources() / file); }
 
@@ -30,7 +30,7 @@ class ContentFolder {
     std::vector<std::string> messages;
 
   private:
-    TestFolder m_root;
+    TestFolder root_;
 };
 
 /// The whole file; empty when it cannot be read.

@@ -16,43 +16,43 @@ class DataFolderWriter : public testing::Test {
         add("01\\4\\123", "page");
     }
     void add(const std::string& path, const std::string& bytes) {
-        m_files.add(path, bytes, {"source"}, m_diagnostics);
+        files_.add(path, bytes, {"source"}, diagnostics_);
     }
-    std::string write() const { return contentc::writeDataFolder(m_files, folder()).message(); }
-    fs::path folder() const { return m_content.beside("out/data"); }
+    std::string write() const { return contentc::writeDataFolder(files_, folder()).message(); }
+    fs::path folder() const { return content_.beside("out/data"); }
     /// What stands where the data folder goes.
     Files names() const {
         Files names;
-        for (const auto& entry : fs::directory_iterator(m_content.beside("out")))
+        for (const auto& entry : fs::directory_iterator(content_.beside("out")))
             names.push_back(entry.path().filename());
         return names;
     }
 
-    ContentFolder m_content;
-    contentc::OutputFiles m_files;
-    contentc::Diagnostics m_diagnostics;
+    ContentFolder content_;
+    contentc::OutputFiles files_;
+    contentc::Diagnostics diagnostics_;
 };
 
-const Files kWritten{"01/4/123: page", "a.htm: start"};
+const Files writtenFiles{"01/4/123: page", "a.htm: start"};
 
 TEST_F(DataFolderWriter, ReplacesAnEmptyFolderAndAFormerDataFolder) {
     fs::create_directories(folder() / "");
     EXPECT_EQ(write(), "");
     add("new.dat", "new");
     fs::create_directory(folder() / "40");
-    EXPECT_EQ(contentc::writeDataFolder(m_files, folder() / "").message(), "");
+    EXPECT_EQ(contentc::writeDataFolder(files_, folder() / "").message(), "");
     EXPECT_EQ(listAll(folder()), (Files{"01/4/123: page", "a.htm: start", "new.dat: new"}));
     EXPECT_FALSE(fs::exists(folder() / "40"));
     EXPECT_EQ(names(), Files{"data"});
 }
 
 TEST_F(DataFolderWriter, LeavesAFolderOfOtherThingsAlone) {
-    m_content.write("../out/data/letter.txt", "mine");
+    content_.write("../out/data/letter.txt", "mine");
     EXPECT_NE(write().find("is in use by something other than a data folder"), std::string::npos);
     EXPECT_EQ(listAll(folder()), Files{"letter.txt: mine"});
-    m_content.write("../out/file", "mine");
-    EXPECT_NE(contentc::writeDataFolder(m_files, m_content.beside("out/file")).message(), "");
-    EXPECT_EQ(readAll(m_content.beside("out/file")), "mine");
+    content_.write("../out/file", "mine");
+    EXPECT_NE(contentc::writeDataFolder(files_, content_.beside("out/file")).message(), "");
+    EXPECT_EQ(readAll(content_.beside("out/file")), "mine");
 }
 
 // A file where a folder has to be: writing fails half-way.
@@ -61,7 +61,7 @@ TEST_F(DataFolderWriter, FailureKeepsTheFormerFolderAndLeavesNothingElse) {
     add("b", "file");
     add("b\\c", "below a file");
     EXPECT_NE(write(), "");
-    EXPECT_EQ(listAll(folder()), kWritten);
+    EXPECT_EQ(listAll(folder()), writtenFiles);
     EXPECT_EQ(names(), Files{"data"});
 
     fs::remove_all(folder());

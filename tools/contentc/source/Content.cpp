@@ -8,7 +8,7 @@ namespace {
 
 bool pageComesBefore(const PageSource* a, const PageSource* b) {
     const auto rank = [](const PageSource& page) {
-        return std::tuple(page.kind != PageKind::Start, page.order, page.number);
+        return std::tuple(page.kind != PageKind::start, page.order, page.number);
     };
     return rank(*a) < rank(*b);
 }
@@ -64,13 +64,13 @@ Content readContent(const SourceTree& tree, Diagnostics& diagnostics) {
 
 std::vector<const PageSource*> topicsOf(const Content& content, const formats::Section& section) {
     return pagesInOrder(content, [&section](const PageSource& page) {
-        return page.section == &section && page.kind != PageKind::Entry;
+        return page.section == &section && page.kind != PageKind::entry;
     });
 }
 
 std::vector<const PageSource*> entriesOf(const Content& content, const PageSource& topic) {
     return pagesInOrder(content, [&topic](const PageSource& page) {
-        return page.section == topic.section && page.kind == PageKind::Entry && page.topic == topic.number;
+        return page.section == topic.section && page.kind == PageKind::entry && page.topic == topic.number;
     });
 }
 

@@ -25,7 +25,7 @@ struct Content {
     Tools tools;
 };
 
-/// Parses all sources; what is wrong is reported, and what is too faulty is left out.
+/// Parses all sources. Errors are reported, and what is too faulty to be used is left out.
 Content readContent(const SourceTree& tree, Diagnostics& diagnostics);
 
 /// The start page and the topics of a section in display order.
@@ -34,7 +34,7 @@ std::vector<const PageSource*> topicsOf(const Content& content, const formats::S
 /// The entries of a topic or start page in display order.
 std::vector<const PageSource*> entriesOf(const Content& content, const PageSource& topic);
 
-/// The page of the section `elemcomp` that a click on the element opens: a topic or an entry. Null when there
+/// The page that a click on the element opens: a topic or an entry of the section `elemcomp`. Null when there
 /// is none.
 const PageSource* elementPage(const Content& content, const ElementLine& element);
 

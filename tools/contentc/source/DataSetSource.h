@@ -8,8 +8,8 @@
 
 namespace contentc {
 
-/// Adds the data analyser's data sets in the form of the data folder. Every faulty line is reported, and so
-/// is a number that two sets have.
+/// Adds the data sets of the data analyser, in the form that the data folder has. Every faulty line is
+/// reported, and so are two sets with the same number.
 void addDataSets(const std::vector<SourceFile>& files, OutputFiles& outputs, Diagnostics& diagnostics);
 
 }  // namespace contentc

@@ -17,23 +17,23 @@ bool comesBefore(const Diagnostic& a, const Diagnostic& b) {
 
 std::string toLine(const Diagnostic& diagnostic) {
     const std::string place = diagnostic.place.file + ':' + std::to_string(diagnostic.place.line) + ": ";
-    return place + (diagnostic.severity == Severity::Warning ? "warning: " : "") + diagnostic.message;
+    return place + (diagnostic.severity == Severity::warning ? "warning: " : "") + diagnostic.message;
 }
 
 void Diagnostics::error(const SourcePlace& place, std::string message) {
-    m_found.push_back({place, Severity::Error, std::move(message)});
+    found_.push_back({place, Severity::error, std::move(message)});
 }
 
 void Diagnostics::warning(const SourcePlace& place, std::string message) {
-    m_found.push_back({place, Severity::Warning, std::move(message)});
+    found_.push_back({place, Severity::warning, std::move(message)});
 }
 
 bool Diagnostics::hasErrors() const {
-    return std::ranges::any_of(m_found, [](const Diagnostic& d) { return d.severity == Severity::Error; });
+    return std::ranges::any_of(found_, [](const Diagnostic& d) { return d.severity == Severity::error; });
 }
 
 std::vector<Diagnostic> Diagnostics::sorted() const {
-    std::vector<Diagnostic> sorted = m_found;
+    std::vector<Diagnostic> sorted = found_;
     std::ranges::sort(sorted, comesBefore);
     sorted.erase(std::unique(sorted.begin(), sorted.end()), sorted.end());
     return sorted;

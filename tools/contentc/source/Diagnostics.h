@@ -15,7 +15,7 @@ struct SourcePlace {
     bool operator==(const SourcePlace&) const = default;
 };
 
-enum class Severity { Error, Warning };
+enum class Severity { error, warning };
 
 /// One thing to tell the author.
 struct Diagnostic {
@@ -29,7 +29,7 @@ struct Diagnostic {
 /// `file:line: message`, or `file:line: warning: message`.
 std::string toLine(const Diagnostic& diagnostic);
 
-/// Collects what is wrong with the sources; compiling goes on after an error, so that all are found.
+/// Collects what is wrong with the sources. Compiling goes on after an error, so that all errors are found.
 class Diagnostics {
   public:
     void error(const SourcePlace& place, std::string message);
@@ -37,11 +37,11 @@ class Diagnostics {
 
     bool hasErrors() const;
 
-    /// By file and line, each once: a fault in a page scaffold is found again with every page.
+    /// Sorted by file and line, without repetitions: a fault in a page scaffold is found with every page.
     std::vector<Diagnostic> sorted() const;
 
   private:
-    std::vector<Diagnostic> m_found;
+    std::vector<Diagnostic> found_;
 };
 
 }  // namespace contentc

@@ -6,13 +6,13 @@
 namespace contentc {
 namespace {
 
-constexpr std::int32_t kLastElement = 118;
+constexpr std::int32_t lastElement = 118;
 
 std::optional<formats::ElementPageRecord> parseElement(std::string_view line) {
     const std::size_t blank = std::min(line.find_first_of(" \t"), line.size());
     const auto atomicNumber = parseNumber(line.substr(0, blank));
     const auto pageId = parseNumber(trimmed(line.substr(blank)));
-    if (!atomicNumber || !pageId || *atomicNumber < 1 || *atomicNumber > kLastElement) return std::nullopt;
+    if (!atomicNumber || !pageId || *atomicNumber < 1 || *atomicNumber > lastElement) return std::nullopt;
     return formats::ElementPageRecord{static_cast<std::uint8_t>(*atomicNumber), *pageId};
 }
 

@@ -14,8 +14,8 @@ struct ElementLine {
     formats::ElementPageRecord record;
 };
 
-/// Reads the lines that lead from the periodic table to the pages of the elements. Blank lines and lines that
-/// begin with `#` are skipped; wrong ones and elements named twice are reported and left out.
+/// Reads which page the periodic table opens for which element. Blank lines and lines that begin with `#` are
+/// skipped. Wrong lines and elements named twice are reported and left out.
 std::vector<ElementLine> readElements(const SourceFile& file, Diagnostics& diagnostics);
 
 }  // namespace contentc

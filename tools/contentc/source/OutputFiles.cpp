@@ -14,12 +14,12 @@ std::string normalised(std::string_view path) {
     return key;
 }
 
-constexpr std::string_view kAllowedSigns = ".-_\\";
+constexpr std::string_view allowedSigns = ".-_\\";
 
 bool isPortable(std::string_view path) {
     return std::ranges::all_of(path, [](char c) {
         const auto value = static_cast<unsigned char>(c);
-        return value < 0x80 && (std::isalnum(value) || kAllowedSigns.find(c) != std::string_view::npos);
+        return value < 0x80 && (std::isalnum(value) || allowedSigns.find(c) != std::string_view::npos);
     });
 }
 
@@ -32,10 +32,10 @@ void OutputFiles::add(const std::string& path, std::string bytes, const SourcePl
         return;
     }
     std::string key = normalised(path);
-    const auto [place, isNew] = m_files.try_emplace(std::move(key), File{path, std::move(bytes), source});
+    const auto [place, isNew] = files_.try_emplace(std::move(key), File{path, std::move(bytes), source});
     if (!isNew) diagnostics.error(source, "'" + path + "' is already made from " + place->second.source.file);
 }
 
-bool OutputFiles::contains(std::string_view path) const { return m_files.contains(normalised(path)); }
+bool OutputFiles::contains(std::string_view path) const { return files_.contains(normalised(path)); }
 
 }  // namespace contentc

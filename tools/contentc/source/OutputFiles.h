@@ -19,18 +19,18 @@ class OutputFiles {
         SourcePlace source;
     };
 
-    /// Adds a file. Reported are a path that another file has (letter case does not count) and a path with
-    /// characters other than a to z, digits, '.', '-' and '_'.
+    /// Adds a file. An error is reported when another file has this path (letter case does not count), or
+    /// when the path has characters other than a to z, digits, '.', '-' and '_'.
     void add(const std::string& path, std::string bytes, const SourcePlace& source, Diagnostics& diagnostics);
 
-    /// Whether there is such a file; letter case does not count, and '/' does for '\'.
+    /// Whether there is such a file. Letter case does not count, and '/' is the same as '\'.
     bool contains(std::string_view path) const;
 
     /// By path in lower case.
-    const std::map<std::string, File>& files() const { return m_files; }
+    const std::map<std::string, File>& files() const { return files_; }
 
   private:
-    std::map<std::string, File> m_files;
+    std::map<std::string, File> files_;
 };
 
 }  // namespace contentc

@@ -5,13 +5,13 @@
 namespace contentc {
 namespace {
 
-constexpr std::string_view kEndOfHeader = "---";
+constexpr std::string_view endOfHeader = "---";
 
 }  // namespace
 
 std::optional<PageHeader> PageHeader::take(const SourceFile& file, std::vector<TextLine>& lines,
                                            Diagnostics& diagnostics) {
-    const auto end = std::ranges::find(lines, kEndOfHeader, &TextLine::text);
+    const auto end = std::ranges::find(lines, endOfHeader, &TextLine::text);
     if (end == lines.end()) {
         diagnostics.error(lines.empty() ? file.place() : lines.back().place,
                           "no line '---' between header and body");
@@ -31,27 +31,27 @@ void PageHeader::add(const TextLine& line, Diagnostics& diagnostics) {
     }
     const std::string name(trimmed(line.text.substr(0, colon)));
     const TextLine field{std::string(trimmed(std::string_view(line.text).substr(colon + 1))), line.place};
-    if (!m_fields.emplace(name, field).second) {
+    if (!fields_.emplace(name, field).second) {
         diagnostics.error(line.place, "header field " + inQuotes(name) + " stands twice");
     }
 }
 
 void PageHeader::allowOnly(std::initializer_list<std::string_view> known, Diagnostics& diagnostics) const {
-    for (const auto& [name, field] : m_fields) {
+    for (const auto& [name, field] : fields_) {
         if (std::ranges::find(known, name) != known.end()) continue;
         diagnostics.error(field.place, "unknown header field " + inQuotes(name));
     }
 }
 
 const TextLine* PageHeader::find(std::string_view name) const {
-    const auto found = m_fields.find(name);
-    return found == m_fields.end() ? nullptr : &found->second;
+    const auto found = fields_.find(name);
+    return found == fields_.end() ? nullptr : &found->second;
 }
 
 const TextLine* PageHeader::require(std::string_view name, Diagnostics& diagnostics) const {
     const TextLine* field = find(name);
     if (!field) {
-        diagnostics.error(m_end, "header field " + inQuotes(name) + " is missing");
+        diagnostics.error(end_, "header field " + inQuotes(name) + " is missing");
     } else if (field->text.empty()) {
         diagnostics.error(field->place, "header field " + inQuotes(name) + " is empty");
         return nullptr;

@@ -14,8 +14,8 @@ namespace contentc {
 /// The `name: value` lines at the head of a page source.
 class PageHeader {
   public:
-    /// Takes the header off `lines`, which then hold the body. Lines that are no fields and fields named
-    /// twice are reported; so is a missing `---`, and then there is no header.
+    /// Removes the header from `lines`, which then hold the body. Lines that are no fields and fields named
+    /// twice are reported. A missing `---` is reported too; then there is no header.
     static std::optional<PageHeader> take(const SourceFile& file, std::vector<TextLine>& lines,
                                           Diagnostics& diagnostics);
 
@@ -25,17 +25,17 @@ class PageHeader {
     /// Null when the page does not have the field.
     const TextLine* find(std::string_view name) const;
 
-    /// As `find`; a missing or empty field is reported.
+    /// Like `find`, but a missing or empty field is reported.
     const TextLine* require(std::string_view name, Diagnostics& diagnostics) const;
 
   private:
-    explicit PageHeader(SourcePlace end) : m_end(std::move(end)) {}
+    explicit PageHeader(SourcePlace end) : end_(std::move(end)) {}
 
     void add(const TextLine& line, Diagnostics& diagnostics);
 
-    std::map<std::string, TextLine, std::less<>> m_fields;
+    std::map<std::string, TextLine, std::less<>> fields_;
     /// The line `---`, where a missing field is reported.
-    SourcePlace m_end;
+    SourcePlace end_;
 };
 
 }  // namespace contentc

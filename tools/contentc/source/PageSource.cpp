@@ -11,57 +11,57 @@ namespace contentc {
 namespace {
 
 std::optional<PageKind> kindNamed(std::string_view name) {
-    if (name == "start") return PageKind::Start;
-    if (name == "topic") return PageKind::Topic;
-    if (name == "entry") return PageKind::Entry;
+    if (name == "start") return PageKind::start;
+    if (name == "topic") return PageKind::topic;
+    if (name == "entry") return PageKind::entry;
     return std::nullopt;
 }
 
-/// Interprets header fields one by one; what is wrong is reported and leaves the page as it was.
+/// Reads header fields one by one. A wrong one is reported and leaves the page as it was.
 class HeaderReader {
   public:
     HeaderReader(const PageHeader& header, PageSource& page, Diagnostics& diagnostics)
-        : m_header(header), m_page(page), m_diagnostics(diagnostics) {}
+        : header_(header), page_(page), diagnostics_(diagnostics) {}
 
     bool readKind() {
-        const TextLine* field = m_header.require("kind", m_diagnostics);
+        const TextLine* field = header_.require("kind", diagnostics_);
         if (!field) return false;
         const auto kind = kindNamed(field->text);
-        if (kind) m_page.kind = *kind;
-        if (!kind) m_diagnostics.error(field->place, "unknown kind " + inQuotes(field->text));
+        if (kind) page_.kind = *kind;
+        if (!kind) diagnostics_.error(field->place, "unknown kind " + inQuotes(field->text));
         return kind.has_value();
     }
 
     void readTitle(std::size_t longest) {
-        const TextLine* field = m_header.require("title", m_diagnostics);
+        const TextLine* field = header_.require("title", diagnostics_);
         if (!field) return;
-        m_page.title = *field;
+        page_.title = *field;
         if (field->text.size() <= longest) return;
-        m_diagnostics.error(field->place, "title has " + std::to_string(field->text.size()) +
-                                              " bytes, at most " + std::to_string(longest) + " fit");
+        diagnostics_.error(field->place, "title has " + std::to_string(field->text.size()) +
+                                             " bytes, at most " + std::to_string(longest) + " fit");
     }
 
     void readTopic() {
-        const bool isEntry = m_page.kind == PageKind::Entry;
-        const TextLine* field = isEntry ? m_header.require("topic", m_diagnostics) : m_header.find("topic");
+        const bool isEntry = page_.kind == PageKind::entry;
+        const TextLine* field = isEntry ? header_.require("topic", diagnostics_) : header_.find("topic");
         if (!field) return;
-        m_page.topicPlace = field->place;
+        page_.topicPlace = field->place;
         if (isEntry) {
-            readNumber(field, m_page.topic);
+            readNumber(field, page_.topic);
         } else {
-            m_diagnostics.error(field->place, "only an entry has a topic");
+            diagnostics_.error(field->place, "only an entry has a topic");
         }
     }
 
-    void readOrder() { readNumber(m_header.find("order"), m_page.order); }
+    void readOrder() { readNumber(header_.find("order"), page_.order); }
 
     void readTemplate() {
-        const TextLine* field = m_header.find("template");
+        const TextLine* field = header_.find("template");
         if (!field || field->text == "page") return;
         if (field->text == "molecule") {
-            m_page.scaffold = PageTemplate::Molecule;
+            page_.scaffold = PageTemplate::molecule;
         } else {
-            m_diagnostics.error(field->place, "unknown template " + inQuotes(field->text));
+            diagnostics_.error(field->place, "unknown template " + inQuotes(field->text));
         }
     }
 
@@ -71,16 +71,16 @@ class HeaderReader {
         if (const auto value = parseNumber(field->text)) {
             number = *value;
         } else {
-            m_diagnostics.error(field->place, "not a number: " + inQuotes(field->text));
+            diagnostics_.error(field->place, "not a number: " + inQuotes(field->text));
         }
     }
 
-    const PageHeader& m_header;
-    PageSource& m_page;
-    Diagnostics& m_diagnostics;
+    const PageHeader& header_;
+    PageSource& page_;
+    Diagnostics& diagnostics_;
 };
 
-/// The number that the file is named after, when its digits are written as usual.
+/// The page number in the file's name. Reported when there is none, or when it has leading zeros.
 std::optional<std::int32_t> numberOf(const SourceFile& file, Diagnostics& diagnostics) {
     const auto number = parseNumber(file.stem());
     if (number && formats::pagePath(*number) && std::to_string(*number) == file.stem()) return number;
@@ -88,16 +88,16 @@ std::optional<std::int32_t> numberOf(const SourceFile& file, Diagnostics& diagno
     return std::nullopt;
 }
 
-/// Whether the number suits the kind: start pages have theirs, entries an item code.
+/// Reports a number that does not suit the kind: start pages have fixed numbers, entries item codes.
 void checkNumber(const PageSource& page, Diagnostics& diagnostics) {
     const bool isStart = page.number == page.section->startPage;
     const std::string number = std::to_string(page.number);
-    if (page.kind == PageKind::Start && !isStart) {
+    if (page.kind == PageKind::start && !isStart) {
         diagnostics.error(page.place, "the start page of this section is " +
                                           std::to_string(page.section->startPage) + ", not " + number);
-    } else if (page.kind != PageKind::Start && isStart) {
+    } else if (page.kind != PageKind::start && isStart) {
         diagnostics.error(page.place, "page " + number + " must be of kind 'start'");
-    } else if (page.kind == PageKind::Entry && (!formats::titleListFile(formats::listNumberOf(page.number)) ||
+    } else if (page.kind == PageKind::entry && (!formats::titleListFile(formats::listNumberOf(page.number)) ||
                                                 formats::entryNumberOf(page.number) < 1)) {
         diagnostics.error(page.place, "entry " + number + " belongs to no title list");
     }

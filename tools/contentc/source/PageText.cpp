@@ -15,9 +15,9 @@ namespace {
 
 using namespace platform::literals;
 
-constexpr char kSigma = "σ"_gr[0];
-constexpr char kFinalSigma = "ς"_gr[0];
-constexpr std::string_view kAccented = "άέήίόύώΐΰ"_gr;
+constexpr char sigma = "σ"_gr[0];
+constexpr char finalSigma = "ς"_gr[0];
+constexpr std::string_view accented = "άέήίόύώΐΰ"_gr;
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
@@ -26,86 +26,87 @@ bool isLetter(char c) {
     return (letter >= U'a' && letter <= U'z') || (letter >= U'ά' && letter <= U'ώ') || letter == U'ΐ';
 }
 
-/// The lowered digits of formulas, which the code page does not have.
-constexpr char32_t kLoweredZero = U'\u2080';
-constexpr char32_t kLoweredNine = U'\u2089';
+/// The lowered digits of formulas. The code page does not have them.
+constexpr char32_t loweredZero = U'\u2080';
+constexpr char32_t loweredNine = U'\u2089';
 
-/// A character given by its number. A blank when the code page does not have it.
+/// The character with a number, a blank when the code page does not have it. A lowered digit becomes a plain
+/// one.
 char characterOf(std::string_view digits) {
     const bool isHexadecimal = digits.starts_with('x') || digits.starts_with('X');
     if (isHexadecimal) digits.remove_prefix(1);
     std::uint32_t number = 0;
     std::from_chars(digits.data(), digits.data() + digits.size(), number, isHexadecimal ? 16 : 10);
-    if (number >= kLoweredZero && number <= kLoweredNine)
-        return static_cast<char>('0' + (number - kLoweredZero));
+    if (number >= loweredZero && number <= loweredNine)
+        return static_cast<char>('0' + (number - loweredZero));
     const int byte = number < 0x10000 ? platform::codepage::fromUnicode(number) : -1;
     return byte < 0x20 ? ' ' : static_cast<char>(byte);
 }
 
-/// Walks through the markup of a body and keeps what is not markup.
+/// Goes through a body and keeps what is not markup.
 class TextExtraction {
   public:
-    explicit TextExtraction(std::string_view markup) : m_rest(markup) {}
+    explicit TextExtraction(std::string_view markup) : rest_(markup) {}
 
     std::string run() {
-        while (!m_rest.empty()) {
-            if (m_rest.starts_with("<!--")) {
+        while (!rest_.empty()) {
+            if (rest_.starts_with("<!--")) {
                 skipThrough("-->");
-            } else if (m_rest.starts_with('<')) {
+            } else if (rest_.starts_with('<')) {
                 takeTag();
-            } else if (m_rest.starts_with("{{")) {
+            } else if (rest_.starts_with("{{")) {
                 skipThrough("}}");
-                m_text.push_back(' ');
-            } else if (m_rest.starts_with("[[") && m_rest.find('|') != std::string_view::npos) {
+                text_.push_back(' ');
+            } else if (rest_.starts_with("[[") && rest_.find('|') != std::string_view::npos) {
                 skipThrough("|");
-            } else if (m_rest.starts_with("]]")) {
-                m_rest.remove_prefix(2);
-            } else if (m_rest.starts_with('&')) {
+            } else if (rest_.starts_with("]]")) {
+                rest_.remove_prefix(2);
+            } else if (rest_.starts_with('&')) {
                 takeEntity();
             } else {
-                m_text.push_back(m_rest.front());
-                m_rest.remove_prefix(1);
+                text_.push_back(rest_.front());
+                rest_.remove_prefix(1);
             }
         }
-        return std::move(m_text);
+        return std::move(text_);
     }
 
   private:
     void skipThrough(std::string_view end) {
-        const std::size_t at = m_rest.find(end);
-        m_rest.remove_prefix(at == std::string_view::npos ? m_rest.size() : at + end.size());
+        const std::size_t at = rest_.find(end);
+        rest_.remove_prefix(at == std::string_view::npos ? rest_.size() : at + end.size());
     }
 
     void takeTag() {
-        std::string_view name = m_rest.substr(1, m_rest.find_first_of("> \t\n", 1) - 1);
+        std::string_view name = rest_.substr(1, rest_.find_first_of("> \t\n", 1) - 1);
         if (name.starts_with('/')) name.remove_prefix(1);
-        constexpr std::array<std::string_view, 6> kWithinWords{"sub", "sup", "b", "i", "em", "strong"};
+        constexpr std::array<std::string_view, 6> inlineTags{"sub", "sup", "b", "i", "em", "strong"};
         const std::string lowerName = platform::toLower(name);
-        if (std::ranges::find(kWithinWords, lowerName) == kWithinWords.end()) m_text.push_back(' ');
+        if (std::ranges::find(inlineTags, lowerName) == inlineTags.end()) text_.push_back(' ');
         skipThrough(">");
     }
 
     void takeEntity() {
-        constexpr std::size_t kLongestName = 12;
-        const std::size_t end = m_rest.substr(0, kLongestName).find(';');
+        constexpr std::size_t maxName = 12;
+        const std::size_t end = rest_.substr(0, maxName).find(';');
         if (end == std::string_view::npos || end < 2) {
-            m_text.push_back(' ');
-            m_rest.remove_prefix(1);
+            text_.push_back(' ');
+            rest_.remove_prefix(1);
             return;
         }
-        const std::string_view name = m_rest.substr(1, end - 1);
-        m_text.push_back(name.starts_with('#') ? characterOf(name.substr(1)) : ' ');
-        m_rest.remove_prefix(end + 1);
+        const std::string_view name = rest_.substr(1, end - 1);
+        text_.push_back(name.starts_with('#') ? characterOf(name.substr(1)) : ' ');
+        rest_.remove_prefix(end + 1);
     }
 
-    std::string_view m_rest;
-    std::string m_text;
+    std::string_view rest_;
+    std::string text_;
 };
 
-/// Takes the accent from the last letter that has one when another before it has one too.
+/// Removes the last accent of a word that has two.
 void dropSecondAccent(std::string& word) {
-    const std::size_t first = word.find_first_of(kAccented);
-    const std::size_t last = word.find_last_of(kAccented);
+    const std::size_t first = word.find_first_of(accented);
+    const std::size_t last = word.find_last_of(accented);
     if (first == last) return;
     const char letter = word[last];
     const std::string plain = platform::fold({&letter, 1});
@@ -122,7 +123,7 @@ std::string visibleText(const std::vector<TextLine>& body) {
 
 std::string normalizedWord(std::string_view word) {
     std::string normalized = platform::toLower(word);
-    if (normalized.ends_with(kSigma)) normalized.back() = kFinalSigma;
+    if (normalized.ends_with(sigma)) normalized.back() = finalSigma;
     dropSecondAccent(normalized);
     return normalized;
 }

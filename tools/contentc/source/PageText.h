@@ -8,16 +8,16 @@
 
 namespace contentc {
 
-/// What a reader sees of a body: its text without tags and marks, characters by name or number resolved where
-/// the code page has them. Tags other than those of raised, lowered and emphasised text leave a blank.
+/// The text that a reader sees, without tags and marks. Characters given by number are resolved when the code
+/// page has them. A tag leaves a blank, unless it is one of raised, lowered or emphasised text.
 std::string visibleText(const std::vector<TextLine>& body);
 
-/// A word as it stands in the index: lower case, a final sigma at its end, and only the first of two accents
-/// (the second comes from the word behind).
+/// A word as it stands in the index: in lower case, with a final sigma at its end, and with only the first of
+/// two accents. (The second accent comes from a word that follows.)
 std::string normalizedWord(std::string_view word);
 
-/// The words of a text, normalized: runs of letters and digits that begin with a letter, two characters or
-/// longer. Chemical formulas are words, without the number before them.
+/// The normalized words of a text. A word begins with a letter, goes on with letters and digits, and has at
+/// least two characters; so a chemical formula is a word, without a number before it.
 std::set<std::string> wordsOf(std::string_view text);
 
 /// The words of a page's title and body.

@@ -22,8 +22,8 @@ bool isControl(char32_t value) { return (value < 0x20 && value != '\t') || (valu
 
 bool isPrivate(char32_t value) { return value >= 0xE000 && value < 0xF900; }
 
-/// What is wrong with a character, or nothing. Controls and private characters have bytes in the code page,
-/// but no meaning on a page.
+/// What is wrong with a character; empty when nothing is. Control and private characters have bytes in the
+/// code page, but no meaning on a page.
 std::string faultOf(const Utf8Character& character, std::string_view bytes) {
     if (character.value == Utf8Character::malformed) return "not UTF-8";
     if (isControl(character.value)) return "control character " + codePoint(character.value);
@@ -62,10 +62,10 @@ std::vector<TextLine> readLines(const SourceFile& file, Diagnostics& diagnostics
 }
 
 std::string_view trimmed(std::string_view text) {
-    constexpr std::string_view kBlanks = " \t";
-    const std::size_t first = text.find_first_not_of(kBlanks);
+    constexpr std::string_view blanks = " \t";
+    const std::size_t first = text.find_first_not_of(blanks);
     if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
 std::optional<std::int32_t> parseNumber(std::string_view text) {

@@ -18,14 +18,14 @@ struct TextLine {
 };
 
 /// The lines of a UTF-8 source file in code page 1253, without line ends. Characters outside the code page,
-/// bytes that are no UTF-8 and control characters (some are markers in finished pages) are reported, one for
-/// each line, and come out as '?'.
+/// bytes that are not UTF-8 and control characters (some are markers in finished pages) become '?', and the
+/// first on each line is reported.
 std::vector<TextLine> readLines(const SourceFile& file, Diagnostics& diagnostics);
 
 /// The text without blanks and tabs at its ends.
 std::string_view trimmed(std::string_view text);
 
-/// A decimal number of 32 bits and nothing else.
+/// The text as a decimal number. Nothing when it is something else or does not fit into 32 bits.
 std::optional<std::int32_t> parseNumber(std::string_view text);
 
 /// `text` in quotes for a message; code page 1253 becomes UTF-8.

@@ -27,13 +27,13 @@ void append(std::vector<SourceFile>& files, std::vector<SourceFile> more) {
 
 class TreeReader {
   public:
-    explicit TreeReader(Diagnostics& diagnostics) : m_diagnostics(diagnostics) {}
+    explicit TreeReader(Diagnostics& diagnostics) : diagnostics_(diagnostics) {}
 
     std::optional<SourceFile> readFile(const fs::path& path) {
         std::ifstream stream(path, std::ios::binary);
         SourceFile file{path, {std::istreambuf_iterator<char>(stream), {}}};
         if (stream.is_open() && !stream.bad()) return file;
-        m_diagnostics.error(file.place(), "cannot be read");
+        diagnostics_.error(file.place(), "cannot be read");
         return std::nullopt;
     }
 
@@ -52,11 +52,11 @@ class TreeReader {
         return files;
     }
 
-    /// As `readFiles`, for folders in which a file with another name is content that would be lost.
+    /// Like `readFiles`, but a file with another extension is reported, because its content would be lost.
     std::vector<SourceFile> readFilesStrictly(const fs::path& folder, std::string_view extension) {
         for (const fs::path& path : listFolder(folder)) {
             if (path.extension() == extension) continue;
-            m_diagnostics.error({path.generic_string()}, "not a *" + std::string(extension) + " file");
+            diagnostics_.error({path.generic_string()}, "not a *" + std::string(extension) + " file");
         }
         return readFiles(folder, {extension});
     }
@@ -78,7 +78,7 @@ class TreeReader {
     }
 
   private:
-    Diagnostics& m_diagnostics;
+    Diagnostics& diagnostics_;
 };
 
 }  // namespace

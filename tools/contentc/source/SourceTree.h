@@ -29,7 +29,7 @@ struct SectionFolder {
     std::vector<SourceFile> pages;
 };
 
-/// Everything that goes into a data folder, as files; in each list sorted by path.
+/// The source files of a data folder. Each list is sorted by path.
 struct SourceTree {
     std::filesystem::path root;
     std::optional<SourceFile> startPage;
@@ -65,7 +65,7 @@ struct SourceFolders {
     std::vector<std::filesystem::path> media;
 };
 
-/// Reads all files. Those that cannot be read and those that lie where they are of no use are reported.
+/// Reads all files. Reports those that cannot be read, and those in folders where they are of no use.
 SourceTree readSourceTree(const SourceFolders& folders, Diagnostics& diagnostics);
 
 }  // namespace contentc

@@ -5,34 +5,34 @@
 namespace contentc {
 namespace {
 
-constexpr std::size_t kKeyLength = 8;
-// What the program reads at once: a longer first line would run into the definition, a longer further line
-// would be broken in two.
-constexpr std::size_t kLongestTerm = 48;
-constexpr std::size_t kLongestLine = 4997;
+constexpr std::size_t keyLength = 8;
+// The program's buffers: the rest of a longer first line would become part of the definition, and a longer
+// line further down would become two.
+constexpr std::size_t maxTerm = 48;
+constexpr std::size_t maxLine = 4997;
 // The program shows no definition shorter than this.
-constexpr std::size_t kShortestDefinition = 5;
+constexpr std::size_t minDefinition = 5;
 // Between two lines of the text shown stand CR and LF.
-constexpr std::size_t kLineEnd = 2;
+constexpr std::size_t lineEndSize = 2;
 
 void checkDefinition(const TermSource& term, Diagnostics& diagnostics) {
     std::size_t shown = 0;
     int line = 1;
     for (const std::string& text : term.definition) {
         ++line;
-        shown += text.size() + (shown > 0 ? kLineEnd : 0);
-        if (text.size() <= kLongestLine) continue;
+        shown += text.size() + (shown > 0 ? lineEndSize : 0);
+        if (text.size() <= maxLine) continue;
         diagnostics.error({term.place.file, line},
-                          "line is longer than " + std::to_string(kLongestLine) + " bytes");
+                          "line is longer than " + std::to_string(maxLine) + " bytes");
     }
-    if (shown < kShortestDefinition)
+    if (shown < minDefinition)
         diagnostics.error(term.place, "definition is missing or too short to be shown");
 }
 
 }  // namespace
 
 bool isGlossaryKey(std::string_view text) {
-    return text.size() == kKeyLength &&
+    return text.size() == keyLength &&
            std::ranges::all_of(text, [](char c) { return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9'); });
 }
 
@@ -50,8 +50,8 @@ std::optional<TermSource> readTerm(const SourceFile& file, Diagnostics& diagnost
 
     TermSource term{file.place(), file.stem(), lines.front().text, {}};
     for (std::size_t i = 1; i < lines.size(); ++i) term.definition.push_back(std::move(lines[i].text));
-    if (term.term.size() > kLongestTerm) {
-        diagnostics.error(term.place, "term is longer than " + std::to_string(kLongestTerm) + " bytes");
+    if (term.term.size() > maxTerm) {
+        diagnostics.error(term.place, "term is longer than " + std::to_string(maxTerm) + " bytes");
     }
     checkDefinition(term, diagnostics);
     return term;

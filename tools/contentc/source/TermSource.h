@@ -20,7 +20,7 @@ struct TermSource {
     std::vector<std::string> definition;
 };
 
-/// Reads a term. Nothing when it is too faulty to be used further; everything wrong is reported.
+/// Reads a term. Errors are reported. Nothing when the term is too faulty to be used.
 std::optional<TermSource> readTerm(const SourceFile& file, Diagnostics& diagnostics);
 
 /// The glossary file: the same lines, ended by CR LF.

@@ -9,7 +9,7 @@
 
 namespace contentc {
 
-/// What the author says about words: which are not worth finding, and which belong together.
+/// The author's lists of words: those that are not worth finding, and those that belong together.
 struct WordsSource {
     /// Words that are not indexed, normalized.
     std::set<std::string> stopWords;
