@@ -1,8 +1,8 @@
-# A component: the loadable module NAME.ocx, made of the current folder's room and of Module.cpp, which holds the two
-# exports and the version text.
+# A component: the loadable module NAME.ocx, made of the current folder's room, its Module.cpp, which states the component,
+# and controls/common/Module.cpp, which holds the two exports and the version of the file.
 function(add_component_module NAME)
     this_room(ROOM PARTS)
-    add_library(${NAME} MODULE Module.cpp ${ARGN})
+    add_library(${NAME} MODULE Module.cpp ${CMAKE_SOURCE_DIR}/controls/common/Module.cpp ${ARGN})
     use_rooms(${NAME} PRIVATE)
     target_link_libraries(${NAME} PRIVATE ${PARTS} Qt6::Widgets)
     target_link_options(${NAME} PRIVATE -Wl,--exclude-libs,ALL)

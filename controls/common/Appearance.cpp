@@ -15,7 +15,7 @@ QFont narrowed(QFont font) {
 }
 
 // In the order of the families.
-constexpr std::array<FamilyColors, familyCount> colors{{
+constexpr std::array<GroupColors, familyCount> colors{{
     {{0xF7, 0xCD, 0xBE}, {0xC2, 0x5B, 0x35}},
     {{0xFA, 0xE0, 0xB4}, {0xB9, 0x7A, 0x10}},
     {{0xCF, 0xE1, 0xED}, {0x3A, 0x7A, 0xA0}},
@@ -30,7 +30,7 @@ constexpr std::array<FamilyColors, familyCount> colors{{
 
 }  // namespace
 
-FamilyColors familyColors(Family family) { return colors[static_cast<std::size_t>(family)]; }
+GroupColors familyColors(Family family) { return colors[static_cast<std::size_t>(family)]; }
 
 QFont font(int pixels, QFont::Weight weight) {
     QFont font(QStringLiteral("Liberation Sans"));
@@ -40,15 +40,15 @@ QFont font(int pixels, QFont::Weight weight) {
     return font;
 }
 
-std::optional<QFont> fittingFont(const QString& words, int width, int pixels, int leastPixels,
+std::optional<QFont> fittingFont(const QString& words, int width, int pixels, int minPixels,
                                  QFont::Weight weight) {
     const auto fits = [&](const QFont& tried) {
         return QFontMetrics(tried).horizontalAdvance(words) <= width;
     };
-    for (int size = pixels; size >= leastPixels; --size) {
+    for (int size = pixels; size >= minPixels; --size) {
         if (const QFont usual = font(size, weight); fits(usual)) return usual;
         // One pixel smaller is better than narrowed.
-        if (size > leastPixels && fits(font(size - 1, weight))) return font(size - 1, weight);
+        if (size > minPixels && fits(font(size - 1, weight))) return font(size - 1, weight);
         if (const QFont narrow = narrowed(font(size, weight)); fits(narrow)) return narrow;
     }
     return std::nullopt;

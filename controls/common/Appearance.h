@@ -7,8 +7,7 @@
 
 #include "controls/elements/Element.h"
 
-/// Colours and fonts of the components. They are all their own, so that they look the same under any theme of
-/// the desktop.
+/// Colours and fonts of the components. They do not depend on the theme of the desktop.
 namespace controls::appearance {
 
 inline constexpr QColor paper{0xFF, 0xFF, 0xFF};
@@ -22,18 +21,19 @@ inline constexpr QColor warm{0xE0, 0xA0, 0x30};
 inline constexpr QColor stripe{0xF1, 0xF6, 0xFA};
 inline constexpr QColor selected{0xD3, 0xE5, 0xF0};
 
-/// The two colours of a family: `fill` is light enough for dark text, `edge` is its strong companion.
-struct FamilyColors {
+/// The two colours of a group of elements or rows. `fill` is light enough for dark text; `edge` is a strong
+/// colour of the same hue.
+struct GroupColors {
     QColor fill;
     QColor edge;
 };
-FamilyColors familyColors(Family family);
+GroupColors familyColors(Family family);
 
 QFont font(int pixels, QFont::Weight weight = QFont::Normal);
 
-/// The largest font of at most `pixels` in which the words fit `width`, narrowed letters included; nothing
-/// when they do not even fit at `leastPixels`.
-std::optional<QFont> fittingFont(const QString& words, int width, int pixels, int leastPixels,
+/// The largest font of at most `pixels` in which the words fit into `width`, if need be with narrowed
+/// letters. Nothing when they do not even fit at `minPixels`.
+std::optional<QFont> fittingFont(const QString& words, int width, int pixels, int minPixels,
                                  QFont::Weight weight = QFont::Normal);
 
 }  // namespace controls::appearance

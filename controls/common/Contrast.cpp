@@ -23,9 +23,9 @@ double contrast(const QColor& one, const QColor& other) {
     return (lighter + 0.05) / (darker + 0.05);
 }
 
-QColor readableOn(const QColor& below) {
-    // The better one has a contrast of more than 4.5 on any ground.
-    return contrast(Qt::black, below) >= contrast(Qt::white, below) ? Qt::black : Qt::white;
+QColor readableOn(const QColor& background) {
+    // On any background one of the two has enough contrast.
+    return contrast(Qt::black, background) >= contrast(Qt::white, background) ? Qt::black : Qt::white;
 }
 
 }  // namespace controls::appearance

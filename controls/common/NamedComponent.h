@@ -1,17 +1,17 @@
 #pragma once
 
 #include <QPointer>
+#include <QWidget>
 #include <array>
 
-#include "controls/common/NamePlate.h"
 #include "platform/components/Component.h"
 
 namespace controls {
 
-/// A control that tells its version (operation 1) and shows its name.
+/// A component that tells its version (operation 1) and shows its name.
 class NamedComponent : public platform::Component {
   public:
-    /// `versionKind` and `versionName` are how the version is asked for.
+    /// `versionKind` and `versionName` are kind and name of the operation that tells the version.
     NamedComponent(const QString& name, platform::InvokeKind versionKind, std::string_view versionName,
                    QWidget* parent);
     ~NamedComponent() override;
@@ -26,8 +26,8 @@ class NamedComponent : public platform::Component {
 
   private:
     std::array<platform::OperationInfo, 1> operations_;
-    // The parent that the host gave it may destroy it first.
-    QPointer<NamePlate> plate_;
+    // Its Qt parent, which belongs to the host, may destroy it first.
+    QPointer<QWidget> plate_;
 };
 
 }  // namespace controls

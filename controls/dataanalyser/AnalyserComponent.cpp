@@ -3,6 +3,7 @@
 #include <array>
 
 #include "controls/common/Version.h"
+#include "controls/dataanalyser/ClipboardCopy.h"
 #include "platform/components/DispatchMap.h"
 
 namespace controls::dataanalyser {
@@ -16,7 +17,7 @@ using platform::Variant;
 using Self = AnalyserComponent;
 
 constexpr std::string_view documentName = "Kalyxo";
-// Of the page, what a graph leaves free on each side.
+// The margin on each side of a printed graph is this part of the page's width.
 constexpr int marginPart = 16;
 constexpr int pixelsPerInch = 110;
 
@@ -70,7 +71,7 @@ std::optional<Variant> AnalyserComponent::invoke(std::int32_t dispid, platform::
     return platform::dispatch(*this, operationTable, dispid, kind, arguments);
 }
 
-std::string AnalyserComponent::version() const { return std::string(controls::version()); }
+std::string AnalyserComponent::version() const { return std::string(controls::version); }
 
 std::int16_t AnalyserComponent::viewMode() const { return analyser_.graphShown() ? 1 : 0; }
 void AnalyserComponent::putViewMode(std::int16_t mode) { analyser_.setGraphShown(mode != 0); }
@@ -101,12 +102,12 @@ std::int32_t AnalyserComponent::selectionSize() const {
 
 std::int16_t AnalyserComponent::topRow() const { return analyser_.top(); }
 
-// Every host is served. The files are read when something of them is first asked for.
+// Any host code is accepted. The files are read when they are first needed.
 void AnalyserComponent::initialise(std::int32_t, const std::string& dataFolder) { dataFolder_ = dataFolder; }
 
-void AnalyserComponent::copyAllData() { pane_->copyAll(); }
+void AnalyserComponent::copyAllData() { copyAllRows(analyser_); }
 
-void AnalyserComponent::copySelection() { pane_->copySelected(); }
+void AnalyserComponent::copySelection() { copySelectedRows(analyser_); }
 
 std::int16_t AnalyserComponent::dataSet() const { return analyser_.dataSet().number; }
 void AnalyserComponent::setDataSet(std::int16_t number) { analyser_.setDataSet(number); }

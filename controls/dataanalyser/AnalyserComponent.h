@@ -18,7 +18,7 @@ namespace controls::dataanalyser {
 /// The class id of the data analyser.
 inline constexpr std::string_view classId = "5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E103";
 
-/// The data analyser as its host sees it; README.md tells what each value of its state means.
+/// The data analyser with the operations that its host calls. README.md describes the values of its state.
 class AnalyserComponent : public platform::Component {
   public:
     AnalyserComponent(platform::ComponentSite& site, QWidget* parent, GraphPartsSource graphs);
@@ -71,14 +71,15 @@ class AnalyserComponent : public platform::Component {
     platform::ComponentSite& site_;
     std::string dataFolder_;
     Analyser analyser_;
-    // The parent that the host gave it may destroy it first.
+    // Its Qt parent, which belongs to the host, may destroy it first.
     QPointer<AnalyserPane> pane_;
     StateBlocks blocks_;
-    // What the entries to come are, as the host has told; otherwise they are the analyser's own.
+    // The words of the entries that the host is about to set. Without them, the analyser's own order of
+    // entries counts.
     std::optional<std::vector<std::int32_t>> hostsWords_;
 };
 
-/// Makes the control of a module.
+/// Creates the component of the module.
 std::unique_ptr<platform::Component> createAnalyserComponent(platform::ComponentSite& site, QWidget* parent);
 
 }  // namespace controls::dataanalyser

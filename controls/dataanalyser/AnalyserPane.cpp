@@ -1,23 +1,18 @@
 #include "controls/dataanalyser/AnalyserPane.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
-#include <QImage>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QMimeData>
-#include <QPainter>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 #include <utility>
 
 #include "controls/common/Appearance.h"
 #include "controls/common/QtText.h"
+#include "controls/dataanalyser/ClipboardCopy.h"
+#include "controls/dataanalyser/DataStrip.h"
 #include "controls/dataanalyser/GraphStrip.h"
 #include "controls/dataanalyser/look/MessageLine.h"
 #include "controls/dataanalyser/look/StyleRules.h"
-#include "controls/dataanalyser/model/TableText.h"
-#include "controls/dataanalyser/table/TableStrip.h"
 #include "controls/dataanalyser/table/TableView.h"
 
 namespace controls::dataanalyser {
@@ -25,9 +20,7 @@ namespace controls::dataanalyser {
 namespace {
 
 constexpr QSize usualGraph{1000, 640};
-constexpr QSize leastGraph{480, 320};
-// A copied picture is sharp on paper too.
-constexpr double pictureScale = 2;
+constexpr QSize minGraph{480, 320};
 
 }  // namespace
 
@@ -44,27 +37,27 @@ QSize AnalyserPane::sizeHint() const { return {1016, 640}; }
 
 void AnalyserPane::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    if (!strip_) build();
+    if (!dataStrip_) build();
 }
 
-// What is made here belongs to its Qt parent.
+// Qt parents own what is made here.
 // NOLINTBEGIN(cppcoreguidelines-owning-memory)
 
 void AnalyserPane::build() {
     setFont(appearance::font(12));
     setStyleSheet(QString::fromUtf8(styleRules));
-    strip_ = new TableStrip(analyser_, this);
+    dataStrip_ = new DataStrip(analyser_, this);
     graphStrip_ = new GraphStrip(
         analyser_, [this](double factor) { graph_ ? graph_->zoom(factor) : void(); }, this);
     table_ = new TableView(
-        analyser_, [this] { copySelected(); }, this);
+        analyser_, [this] { copySelectedRows(analyser_); }, this);
     message_ = new MessageLine(this);
     views_ = new QStackedWidget(this);
     views_->addWidget(table_);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(strip_);
+    column->addWidget(dataStrip_);
     column->addWidget(graphStrip_);
     column->addWidget(views_, 1);
     column->addWidget(message_);
@@ -106,7 +99,7 @@ void AnalyserPane::noteChange(Change change) {
 void AnalyserPane::refreshNow() {
     scheduled_ = false;
     if (!views_ || changes_.empty()) return;
-    strip_->refresh();
+    dataStrip_->refresh();
     refreshTable();
     refreshView();
     refreshMessage();
@@ -143,7 +136,7 @@ QString AnalyserPane::leftOutNote() const {
 
 void AnalyserPane::refreshMessage() {
     const std::string& source = analyser_.dataSet().source;
-    // What a narrow window cuts off is the end of the source.
+    // The source comes last, because a narrow window cuts off the end.
     QStringList notes;
     if (const QString leftOut = leftOutNote(); !leftOut.isEmpty()) notes += leftOut;
     if (!source.empty()) notes += QStringLiteral("Πηγή: %1").arg(toQt(source));
@@ -160,37 +153,14 @@ void AnalyserPane::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-void AnalyserPane::copyAll() const { copyRows(analyser_.rows()); }
-
-void AnalyserPane::copySelected() const {
-    std::vector<int> rows;
-    for (const std::int16_t id : analyser_.selected()) rows.push_back(analyser_.placeOf(id));
-    if (!rows.empty()) copyRows(std::move(rows));
-}
-
-void AnalyserPane::copyRows(std::vector<int> rows) const {
-    const CopiedTable table{analyser_.dataSet(), analyser_.layout().shownColumns(), std::move(rows),
-                            analyser_.unit()};
-    auto copied = std::make_unique<QMimeData>();
-    copied->setText(toQt(tabbedText(table)));
-    copied->setHtml(toQt(htmlTable(table)));
-    QGuiApplication::clipboard()->setMimeData(copied.release());
-}
-
 QSize AnalyserPane::graphSize() const {
     const bool visible = graph_ && graph_->widget().isVisible();
-    return visible ? graph_->widget().size().expandedTo(leastGraph) : usualGraph;
+    return visible ? graph_->widget().size().expandedTo(minGraph) : usualGraph;
 }
 
 bool AnalyserPane::copyGraph() {
     if (!analyser_.graphShown() || !graphs()) return false;
-    QImage picture(graphSize() * pictureScale, QImage::Format_RGB32);
-    picture.fill(Qt::white);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    graphs()->paint(analyser_, painter, QRectF(picture.rect()), pictureScale);
-    painter.end();
-    QGuiApplication::clipboard()->setImage(picture);
+    copyGraphPicture(analyser_, *graphs(), graphSize());
     return true;
 }
 

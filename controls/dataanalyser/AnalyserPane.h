@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QWidget>
-#include <memory>
 #include <set>
 
 #include "controls/dataanalyser/look/GraphParts.h"
@@ -12,32 +11,25 @@ class QStackedWidget;
 
 namespace controls::dataanalyser {
 
+class DataStrip;
 class GraphStrip;
 class MessageLine;
-class TableStrip;
 class TableView;
 
-/// The analyser on the screen: strips with the choices, and the table or the graph under them. What it shows
-/// is made when it is first shown, for programs create it long before, and the graph when that is first asked
-/// for.
+/// The analyser on the screen: strips with the choices, and the table or the graph below them. Its contents
+/// are made when it is first shown, because a program creates it long before, and the graph when it is first
+/// needed.
 class AnalyserPane : public QWidget {
   public:
     AnalyserPane(Analyser& analyser, GraphPartsSource source, QWidget* parent);
     ~AnalyserPane() override;
 
-    /// Put the rows on the clipboard as text and as an HTML table; without a selected row the second changes
-    /// nothing.
-    void copyAll() const;
-    void copySelected() const;
-    /// Puts the graph on the clipboard as a picture; false when there is none on show.
+    /// Puts the graph on the clipboard as a picture; false when no graph is shown.
     bool copyGraph();
-    /// What draws graphs, got when it is first asked for; null when it is not there.
+    /// The functions that draw graphs, loaded with the first call; null when they cannot be loaded.
     const GraphParts* graphs();
-    /// The size in which a graph looks as on the screen.
-    QSize graphSize() const;
 
-    /// Brings everything on show into line with the analyser, which otherwise happens a moment after a
-    /// change.
+    /// Shows the analyser's state at once. Without this call that happens a moment after a change.
     void refreshNow();
 
     QSize sizeHint() const override;
@@ -54,14 +46,14 @@ class AnalyserPane : public QWidget {
     void refreshView();
     QString leftOutNote() const;
     void refreshMessage();
-    void copyRows(std::vector<int> rows) const;
+    QSize graphSize() const;
 
     Analyser& analyser_;
     GraphPartsSource graphsSource_;
     const GraphParts* graphs_ = nullptr;
-    std::set<Change> changes_;  // since the last refreshing
+    std::set<Change> changes_;  // since the last refreshNow
     bool scheduled_ = false;
-    TableStrip* strip_ = nullptr;
+    DataStrip* dataStrip_ = nullptr;
     GraphStrip* graphStrip_ = nullptr;
     QStackedWidget* views_ = nullptr;
     TableView* table_ = nullptr;

@@ -20,7 +20,7 @@ constexpr double fartherFactor = 1 / closerFactor;
 
 }  // namespace
 
-// What is made here belongs to its Qt parent.
+// Qt parents own what is made here.
 // NOLINTBEGIN(cppcoreguidelines-owning-memory)
 
 GraphStrip::GraphStrip(Analyser& analyser, std::function<void(double)> zoom, QWidget* parent)
@@ -78,7 +78,7 @@ void GraphStrip::layOut() {
     halves_->addLayout(axes, 1);
     for (ChoiceBox* box : {xs_, ys_}) box->setMinimumContentsLength(3);
     for (QPushButton* button : {closer_, farther_}) button->setFixedWidth(28);
-    // As it is read.
+    // The Tab key follows the order in which the strip is read.
     QList<QWidget*> order;
     for (QAbstractButton* kind : kinds_->buttons()) order.append(kind);
     order << fit_ << closer_ << farther_ << whole_ << xs_ << logX_ << ys_ << logY_;

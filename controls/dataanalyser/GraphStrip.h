@@ -14,13 +14,14 @@ class Analyser;
 class ChoiceBox;
 struct GraphPlan;
 
-/// The strip above a graph: which kind, which columns, which axes.
+/// The strip above a graph. It chooses the kind of graph, the columns and the axes.
 class GraphStrip : public QWidget {
   public:
-    /// `zoom` is called with the factor by which the shown part is to become wider, 0 for the whole graph.
+    /// `zoom` is called with the factor by which the part that is shown becomes wider, or with 0 for the
+    /// whole graph.
     GraphStrip(Analyser& analyser, std::function<void(double factor)> zoom, QWidget* parent);
 
-    /// Brings the choices into line with the analyser.
+    /// Shows the choices of the analyser.
     void refresh();
 
   protected:

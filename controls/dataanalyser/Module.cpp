@@ -1,23 +1,6 @@
+#include "controls/common/Module.h"
+
 #include "controls/dataanalyser/AnalyserComponent.h"
-#include "platform/components/ComponentModule.h"
 
-// The version that the file tells; the first three numbers are those that the component reports.
-__attribute__((section(".kalyxo.version"), used)) const char versionText[] = "1.0.40.0";
-
-extern "C" {
-
-__attribute__((visibility("default"))) void DllRegisterServer(platform::ModuleRegistrar& registrar);
-__attribute__((visibility("default"))) const platform::ComponentModule* DllGetClassObject();
-
-void DllRegisterServer(platform::ModuleRegistrar& registrar) {
-    registrar.registerClass(controls::dataanalyser::classId);
-}
-
-const platform::ComponentModule* DllGetClassObject() {
-    static constexpr platform::ComponentModule module{
-        .classId = controls::dataanalyser::classId,
-        .create = controls::dataanalyser::createAnalyserComponent};
-    return &module;
-}
-
-}  // extern "C"
+const platform::ComponentModule controls::componentModule{
+    .classId = controls::dataanalyser::classId, .create = controls::dataanalyser::createAnalyserComponent};

@@ -26,7 +26,7 @@ const Element* nobleGas(std::string_view symbol) {
     return found != elements().end() && found->family == Family::nobleGas ? &*found : nullptr;
 }
 
-/// Adds the subshells of one word of a configuration; false when the word means nothing.
+/// Adds the subshells that a word of a configuration stands for; false when it stands for none.
 bool add(std::string_view word, int number, std::vector<Subshell>& subshells) {
     if (const auto subshell = subshellOf(word)) {
         subshells.push_back(*subshell);

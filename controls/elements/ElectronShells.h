@@ -14,11 +14,11 @@ struct Subshell {
     friend bool operator==(const Subshell&, const Subshell&) = default;
 };
 
-/// All subshells of an element that hold electrons, those of the noble gas included, from the innermost shell
-/// outwards; empty when its configuration is not known.
+/// All subshells of an element that hold electrons, from the innermost shell outwards. Empty when its
+/// configuration is not known.
 std::vector<Subshell> subshellsOf(const Element& element);
 
-/// How many electrons each shell holds, from the innermost (K) outwards; empty when that is not known.
+/// The number of electrons in each shell, from the innermost (K) outwards. Empty when it is not known.
 std::vector<int> shellsOf(const Element& element);
 
 }  // namespace controls

@@ -22,7 +22,7 @@ constexpr std::array<std::string_view, familyCount> familyNames{
     "Ακτινίδες"_gr, "Μέταλλα p"_gr,       "Μεταλλοειδή"_gr,         "Αμέταλλα"_gr,
     "Αλογόνα"_gr,   "Ευγενή αέρια"_gr};
 
-/// Place in its period, from 1.
+/// The element's place in its period, from 1.
 int placeInPeriod(const Element& element) {
     return element.number - periodEnds[static_cast<std::size_t>(element.period()) - 1];
 }

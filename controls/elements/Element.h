@@ -29,7 +29,7 @@ enum class Block : std::uint8_t { s, p, d, f };
 /// State of matter.
 enum class Matter : std::uint8_t { solid, liquid, gas, unknown };
 
-/// A measured value in the digits that are known of it, such as "20.180"; empty when it is not known.
+/// A measured value, written with its significant digits, such as "20.180"; empty when it is not known.
 struct Figure {
     std::string_view digits;  ///< decimal digits with at most one point
 
@@ -37,18 +37,18 @@ struct Figure {
     std::optional<double> value() const;
     /// How many digits stand after the point.
     int decimals() const;
-    /// The digits with the decimal comma that Greek uses; empty when not known.
+    /// The digits with the decimal comma of Greek; empty when the value is not known.
     std::string withComma() const;
 };
 
-/// Stands as the year of an element that was known in antiquity.
+/// The year of discovery of an element that was known in antiquity.
 inline constexpr std::int16_t antiquity = 0;
 
 /// 25 °C in K.
 inline constexpr double roomTemperature = 298.15;
 inline constexpr double zeroCelsius = 273.15;
 
-/// The last element of which atoms enough were there to measure how its electrons are arranged.
+/// The last element whose electron configuration has been measured; those of later ones are calculated.
 inline constexpr int lastMeasuredConfiguration = 105;
 
 /// One chemical element. Texts are in code page 1253.
@@ -66,30 +66,30 @@ struct Element {
     Figure ionisation;         ///< first ionisation energy, eV
     Figure covalentRadius;     ///< pm
     Figure crust;              ///< abundance in the Earth's crust, mg/kg
-    /// The subshells in the order in which the source writes them, after the symbol of the noble gas whose
-    /// electrons come first, such as "Ar 3d6 4s2".
+    /// The symbol of the noble gas with the inner electrons, and then the other subshells as the source
+    /// orders them, such as "Ar 3d6 4s2".
     std::string_view configuration;
     std::int16_t discovered;  ///< year, or `antiquity`
 
     /// 1 to 7.
     int period() const;
-    /// 1 to 18, or 0 for lanthanides and actinides, which belong to none.
+    /// 1 to 18, or 0 for lanthanides and actinides, which have no group.
     int group() const;
     Block block() const;
-    /// Whether it goes over into gas before it would melt.
+    /// Whether it turns from solid into gas at one atmosphere.
     bool sublimes() const;
     /// Whether it never melts at one atmosphere; `meltingPoint` is then one under pressure.
     bool meltsUnderPressureOnly() const;
-    /// The state at one atmosphere; unknown where it depends on a point that is not known.
+    /// The state at one atmosphere; unknown when it depends on a melting or boiling point that is not known.
     Matter matterAt(double kelvin) const;
     /// The state at 25 °C.
     Matter matter() const { return matterAt(roomTemperature); }
-    /// True when `configuration` was calculated and not measured.
+    /// Whether `configuration` was calculated and not measured.
     bool hasCalculatedConfiguration() const { return number > lastMeasuredConfiguration; }
-    /// False when an element has no standard atomic mass, as it does not occur with a fixed mixture of
-    /// isotopes; `mass` is then the mass number of the longest-lived one.
+    /// False for an element without a fixed mixture of isotopes in nature. Its `mass` is the mass number of
+    /// its longest-lived isotope.
     bool hasStandardMass() const { return mass.decimals() > 0; }
-    /// The relative atomic mass with decimal comma, a mass number in brackets.
+    /// The relative atomic mass with decimal comma, or the mass number in brackets.
     std::string massText() const;
 };
 
@@ -104,7 +104,7 @@ const Element* findElement(int number);
 /// The Greek name of a family.
 std::string_view familyName(Family family);
 
-/// The family with a code of 1 to 10 (the legend's order), nothing for another code.
+/// The family with a code of 1 to 10, in the order of the legend; nothing for another code.
 std::optional<Family> familyOfCode(int code);
 inline constexpr int familyCode(Family family) { return static_cast<int>(family) + 1; }
 

@@ -1,8 +1,8 @@
 #include "controls/elements/ElementQuantity.h"
 
 #include <array>
-#include <charconv>
 
+#include "controls/elements/NumberText.h"
 #include "platform/text/GreekLiteral.h"
 
 namespace controls {
@@ -54,16 +54,11 @@ Figure figureOf(const Element& element, Quantity quantity) {
     return {};
 }
 
-/// The energy in kJ/mol, in no more digits than are known of it in eV.
+/// The energy in kJ/mol, with no more digits than are known of it in eV.
 std::string kilojoules(const Figure& electronvolts) {
     const auto value = electronvolts.value();
-    if (!value) return {};
-    std::array<char, 32> buffer{};
-    const auto [end, error] =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), *value * kilojoulesPerMole,
-                      std::chars_format::fixed, electronvolts.decimals() > 2 ? 1 : 0);
-    if (error != std::errc()) return {};
-    return Figure{{buffer.data(), end}}.withComma();
+    return value ? fixedNumber(*value * kilojoulesPerMole, electronvolts.decimals() > 2 ? 1 : 0)
+                 : std::string();
 }
 
 }  // namespace

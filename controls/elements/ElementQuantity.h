@@ -9,7 +9,7 @@
 
 namespace controls {
 
-/// What elements can be compared by. The codes (from 0) are kept in bookmarks.
+/// The quantities by which elements can be compared. Their codes (from 0) are kept in bookmarks.
 enum class Quantity : std::uint8_t {
     electronegativity,
     covalentRadius,
@@ -22,16 +22,16 @@ enum class Quantity : std::uint8_t {
 };
 inline constexpr int quantityCount = 8;
 
-/// The name of a quantity and its unit, which may be empty; code page 1253.
+/// The name of a quantity, and its unit, which is empty for some; code page 1253.
 std::string_view quantityName(Quantity quantity);
 std::string_view quantityUnit(Quantity quantity);
 
-/// The value in the unit of `quantityUnit`; nothing when it is not known. An element known in antiquity has
-/// the year `antiquity`.
+/// The value in the unit of `quantityUnit`; nothing when it is not known. The year of an element known in
+/// antiquity is `antiquity`.
 std::optional<double> quantityValue(const Element& element, Quantity quantity);
 
-/// The same in the digits that are known, with decimal comma and without unit; empty when not known. The year
-/// of an element known in antiquity is "αρχαιότητα".
+/// The value in its significant digits, with decimal comma and without unit; empty when it is not known. The
+/// year of an element known in antiquity is "αρχαιότητα".
 std::string quantityText(const Element& element, Quantity quantity);
 
 }  // namespace controls

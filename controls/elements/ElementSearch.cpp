@@ -2,13 +2,12 @@
 
 #include <algorithm>
 
-#include "controls/elements/Element.h"
 #include "platform/text/Fold.h"
 
 namespace controls {
 
-int findElementByStart(std::string_view typed) {
-    if (typed.empty()) return 0;
+const Element* findElementByStart(std::string_view typed) {
+    if (typed.empty()) return nullptr;
     const std::string wanted = platform::fold(typed);
     const auto isSymbol = [&](const Element& element) { return platform::fold(element.symbol) == wanted; };
     const auto startsName = [&](const Element& element) {
@@ -17,7 +16,7 @@ int findElementByStart(std::string_view typed) {
     };
     auto found = std::ranges::find_if(elements(), isSymbol);
     if (found == elements().end()) found = std::ranges::find_if(elements(), startsName);
-    return found == elements().end() ? 0 : found->number;
+    return found == elements().end() ? nullptr : &*found;
 }
 
 }  // namespace controls

@@ -2,11 +2,13 @@
 
 #include <string_view>
 
+#include "controls/elements/Element.h"
+
 namespace controls {
 
-/// The element that typed characters (code page 1253) lead to: the one with exactly this symbol, else the
-/// first by atomic number whose Greek or English name starts with them. Case, tonos and dialytika do not
-/// count. 0 when there is none or nothing is typed.
-int findElementByStart(std::string_view typed);
+/// The element with this symbol, else the first by atomic number whose Greek or English name starts with the
+/// typed characters (code page 1253). Case, tonos and dialytika do not count. Null when there is none or
+/// nothing is typed.
+const Element* findElementByStart(std::string_view typed);
 
 }  // namespace controls

@@ -6,15 +6,25 @@
 
 namespace controls {
 
-/// Gathers the characters that a reader types to jump to an element.
+/// Gathers the characters that a reader types to jump to something by its name.
 class TypeAhead {
   public:
-    /// A pause longer than this starts a new word.
+    /// After a longer pause a new name begins.
     static constexpr std::int64_t pauseMilliseconds = 1000;
 
-    /// Takes typed characters (code page 1253) and the time on any steady clock. Returns the atomic number to
-    /// jump to, 0 to stay. Characters that lead nowhere after the earlier ones start a new word.
-    int type(std::string_view characters, std::int64_t milliseconds);
+    /// Adds typed characters (code page 1253) and returns what `find` finds for the name typed so far; its
+    /// result is false when it finds nothing. Then the new characters alone begin a new name. The time may
+    /// come from any steady clock.
+    template <class Find>
+    auto type(std::string_view characters, std::int64_t milliseconds, const Find& find) {
+        if (milliseconds - last_ > pauseMilliseconds) typed_.clear();
+        last_ = milliseconds;
+        typed_ += characters;
+        auto found = find(std::string_view(typed_));
+        if (found) return found;
+        typed_ = characters;
+        return find(std::string_view(typed_));
+    }
 
   private:
     std::string typed_;

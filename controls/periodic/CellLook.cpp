@@ -2,11 +2,10 @@
 
 #include <array>
 
-#include "controls/common/Appearance.h"
 #include "controls/common/Contrast.h"
 #include "controls/common/QtText.h"
 #include "controls/periodic/ColorScale.h"
-#include "controls/periodic/FigureText.h"
+#include "controls/periodic/ValueText.h"
 #include "controls/periodic/model/ElementKinds.h"
 #include "controls/periodic/model/QuantityScale.h"
 
@@ -14,11 +13,13 @@ namespace controls::periodic {
 
 namespace {
 
+using appearance::GroupColors;
+
 // Blue, yellow and orange differ for every kind of colour vision, and in lightness.
-constexpr KindColors blue{{0xB9, 0xD7, 0xEC}, {0x2B, 0x6C, 0x98}};
-constexpr KindColors yellow{{0xFB, 0xEF, 0xB4}, {0x96, 0x82, 0x0B}};
-constexpr KindColors orange{{0xE9, 0xA0, 0x78}, {0xB2, 0x50, 0x22}};
-constexpr KindColors gray{noData, {0x7C, 0x88, 0x93}};
+constexpr GroupColors blue{{0xB9, 0xD7, 0xEC}, {0x2B, 0x6C, 0x98}};
+constexpr GroupColors yellow{{0xFB, 0xEF, 0xB4}, {0x96, 0x82, 0x0B}};
+constexpr GroupColors orange{{0xE9, 0xA0, 0x78}, {0xB2, 0x50, 0x22}};
+constexpr GroupColors gray{noData, {0x7C, 0x88, 0x93}};
 
 constexpr std::array characterColors{blue, yellow, orange};
 constexpr std::array matterColors{orange, blue, yellow, gray};
@@ -31,7 +32,7 @@ QString bottomOfKind(const Element& element, const TableState& state, int kind) 
 
 CellLook lookOfKind(const Element& element, const TableState& state, int highlighted) {
     const int kind = kindOf(element, state.view, state.kelvin);
-    const KindColors colors = kindColors(state.view, kind);
+    const GroupColors colors = kindColors(state.view, kind);
     CellLook look{.fill = colors.fill,
                   .edge = colors.edge,
                   .text = appearance::text,
@@ -71,12 +72,11 @@ CellLook lookOfValue(const Element& element, const TableState& state, Quantity q
 
 }  // namespace
 
-KindColors kindColors(TableView view, int kind) {
+GroupColors kindColors(TableView view, int kind) {
     const auto index = static_cast<std::size_t>(kind) - 1;
     if (view == TableView::metals) return characterColors[index];
     if (view == TableView::matter) return matterColors[index];
-    const auto colors = appearance::familyColors(*familyOfCode(kind));
-    return {colors.fill, colors.edge};
+    return appearance::familyColors(*familyOfCode(kind));
 }
 
 CellLook lookOf(const Element& element, const TableState& state, int highlighted) {

@@ -9,18 +9,18 @@ namespace controls::periodic {
 
 namespace {
 
-constexpr int leastSymbolPixels = 11;
+constexpr int minSymbolPixels = 11;
 constexpr int inset = 2;
 constexpr int strokeDistance = 7;
 
-/// The part of the cell between two shares of its height.
+/// The part of a cell between two fractions of its height.
 QRect band(const QRect& cell, double from, double to) {
     const int top = cell.top() + static_cast<int>(cell.height() * from);
     const int bottom = cell.top() + static_cast<int>(cell.height() * to);
     return {cell.left() + inset, top, cell.width() - 2 * inset, bottom - top};
 }
 
-/// Draws a ring of this width round an area.
+/// Draws a ring of this width around an area.
 void paintRing(QPainter& painter, const QRect& area, int width, const QColor& color) {
     const QRect outer = area.adjusted(-width, -width, width, width);
     painter.fillRect(QRect(outer.left(), outer.top(), outer.width(), width), color);
@@ -43,12 +43,12 @@ void paintNoData(QPainter& painter, const QRect& area) {
     painter.restore();
 }
 
-CellPainter::CellPainter(QPainter& painter, Lettering& lettering, QSize cell)
-    : painter_(painter), lettering_(lettering) {
-    const int least = std::min(cell.width() * 9 / 8, cell.height());
+CellPainter::CellPainter(QPainter& painter, TextFitter& fitter, QSize cell)
+    : painter_(painter), fitter_(fitter) {
+    const int side = std::min(cell.width() * 9 / 8, cell.height());
     withName_ = cell.width() >= 46 && cell.height() >= 46;
-    symbolPixels_ = std::max(least * (withName_ ? 36 : 40) / 100, leastSymbolPixels);
-    numberPixels_ = std::max(least * (withName_ ? 17 : 25) / 100, Lettering::leastPixels);
+    symbolPixels_ = std::max(side * (withName_ ? 36 : 40) / 100, minSymbolPixels);
+    numberPixels_ = std::max(side * (withName_ ? 17 : 25) / 100, TextFitter::minPixels);
     smallPixels_ = numberPixels_;
 }
 
@@ -56,7 +56,7 @@ void CellPainter::paint(const QRect& cell, const Element& element, const CellLoo
     paintGround(cell, look);
     painter_.setPen(look.text);
     if (look.ground == CellLook::Ground::empty) {
-        lettering_.draw(painter_, cell, QString::number(element.number), numberPixels_, Qt::AlignCenter);
+        fitter_.draw(painter_, cell, QString::number(element.number), numberPixels_, Qt::AlignCenter);
     } else {
         paintTexts(cell, element, look.bottom);
     }
@@ -78,31 +78,31 @@ void CellPainter::paintGround(const QRect& cell, const CellLook& look) const {
 }
 
 void CellPainter::paintFrame(const QRect& cell, const QColor& color, bool focused) const {
-    // The light line parts the frame from a dark cell.
+    // A light line between a dark cell and its frame.
     paintRing(painter_, cell, 1, appearance::paper);
     paintRing(painter_, cell.adjusted(-1, -1, 1, 1), 2, color);
     if (focused) paintRing(painter_, cell.adjusted(-3, -3, 3, 3), 1, appearance::warm);
 }
 
 void CellPainter::paintTexts(const QRect& cell, const Element& element, const QString& bottom) const {
-    lettering_.draw(painter_, band(cell, withName_ ? 0.04 : 0.03, 0.30).adjusted(1, 0, 0, 0),
-                    QString::number(element.number), numberPixels_, Qt::AlignLeft | Qt::AlignTop);
-    lettering_.draw(painter_, withName_ ? band(cell, 0.19, 0.59) : band(cell, 0.26, 0.74),
-                    toQt(element.symbol), symbolPixels_, Qt::AlignCenter, QFont::Bold);
+    fitter_.draw(painter_, band(cell, withName_ ? 0.04 : 0.03, 0.30).adjusted(1, 0, 0, 0),
+                 QString::number(element.number), numberPixels_, Qt::AlignLeft | Qt::AlignTop);
+    fitter_.draw(painter_, withName_ ? band(cell, 0.19, 0.59) : band(cell, 0.26, 0.74), toQt(element.symbol),
+                 symbolPixels_, Qt::AlignCenter, QFont::Bold);
     if (withName_) {
-        lettering_.draw(painter_, band(cell, 0.58, 0.77), toQt(element.greekName), smallPixels_,
-                        Qt::AlignCenter);
+        fitter_.draw(painter_, band(cell, 0.58, 0.77), toQt(element.greekName), smallPixels_,
+                     Qt::AlignCenter);
     }
-    lettering_.draw(painter_, withName_ ? band(cell, 0.75, 0.94) : band(cell, 0.67, 0.94), bottom,
-                    smallPixels_, Qt::AlignCenter);
+    fitter_.draw(painter_, withName_ ? band(cell, 0.75, 0.94) : band(cell, 0.67, 0.94), bottom, smallPixels_,
+                 Qt::AlignCenter);
 }
 
 void CellPainter::paintPlaceholder(const QRect& cell, const QString& range, const QColor& edge) const {
     painter_.fillRect(cell, edge);
     painter_.fillRect(cell.adjusted(1, 1, -1, -1), appearance::paper);
     painter_.setPen(appearance::text);
-    lettering_.draw(painter_, cell.adjusted(inset, inset, -inset, -inset), range, numberPixels_,
-                    Qt::AlignCenter);
+    fitter_.draw(painter_, cell.adjusted(inset, inset, -inset, -inset), range, numberPixels_,
+                 Qt::AlignCenter);
 }
 
 }  // namespace controls::periodic

@@ -5,23 +5,23 @@
 
 #include "controls/elements/Element.h"
 #include "controls/periodic/CellLook.h"
-#include "controls/periodic/Lettering.h"
+#include "controls/periodic/TextFitter.h"
 
 namespace controls::periodic {
 
-/// Draws the cells of one table size. Symbol and atomic number are always there; the last line and the name
-/// are left out where they would not be readable.
+/// Draws the cells of a table whose cells have one size. Every cell shows symbol and atomic number. The name
+/// and the last line are left out where they could not be read.
 class CellPainter {
   public:
-    CellPainter(QPainter& painter, Lettering& lettering, QSize cell);
+    CellPainter(QPainter& painter, TextFitter& fitter, QSize cell);
 
     void paint(const QRect& cell, const Element& element, const CellLook& look) const;
     /// The frame of the hovered or selected cell. It lies outside the cell, so that it covers no text.
     void paintFrame(const QRect& cell, const QColor& color, bool focused) const;
-    /// The place that a period leaves for the elements of a row below, such as "57–71".
+    /// The cell that stands in a period for the elements of a row below, such as "57–71".
     void paintPlaceholder(const QRect& cell, const QString& range, const QColor& edge) const;
 
-    /// How far a frame reaches out of its cell.
+    /// How many pixels a frame lies outside its cell.
     static constexpr int frameReach = 4;
 
   private:
@@ -29,14 +29,14 @@ class CellPainter {
     void paintTexts(const QRect& cell, const Element& element, const QString& bottom) const;
 
     QPainter& painter_;
-    Lettering& lettering_;
+    TextFitter& fitter_;
     int numberPixels_;
     int symbolPixels_;
     int smallPixels_;
     bool withName_;
 };
 
-/// Fills an area with the ground and the strokes that mean that there is no data.
+/// Fills an area with the pattern that means that there is no data.
 void paintNoData(QPainter& painter, const QRect& area);
 
 }  // namespace controls::periodic

@@ -62,7 +62,7 @@ Oklab between(const Oklab& from, const Oklab& to, double share) {
             std::lerp(from.b, to.b, share)};
 }
 
-/// Goes from end to end over the middle at an even pace.
+/// The colour at a position on the way from low over middle to high, with even steps.
 Oklab along(double position) {
     const double bend = distance(low, middle) / (distance(low, middle) + distance(middle, high));
     if (position <= bend) return between(low, middle, position / bend);

@@ -5,16 +5,16 @@
 #include "controls/common/Appearance.h"
 #include "controls/common/QtText.h"
 #include "controls/elements/ElectronShells.h"
-#include "controls/periodic/FigureText.h"
 #include "controls/periodic/ShellDrawing.h"
+#include "controls/periodic/ValueText.h"
 
 namespace controls::periodic {
 
 namespace {
 
-constexpr int leastFactHeight = 12;
-constexpr int mostFactPixels = 19;
-constexpr int leastFactWidth = 150;
+constexpr int minFactHeight = 12;
+constexpr int maxFactPixels = 19;
+constexpr int minFactWidth = 150;
 constexpr int headingLines = 3;
 
 QString matterText(Matter matter) {
@@ -57,29 +57,29 @@ void paintPanel(QPainter& painter, const QRect& area, const QColor& mark) {
     painter.fillRect(QRect(area.left(), area.top(), 4, area.height()), mark);
 }
 
-/// The patch with atomic number and symbol.
-void paintTile(QPainter& painter, Lettering& lettering, const QRect& tile, const Element& element) {
+/// The coloured square with atomic number and symbol.
+void paintTile(QPainter& painter, TextFitter& fitter, const QRect& tile, const Element& element) {
     painter.fillRect(tile, appearance::familyColors(element.family).fill);
     painter.setPen(appearance::text);
     const int number = tile.height() * 30 / 100;
-    lettering.draw(painter, QRect(tile.left() + 3, tile.top() + 2, tile.width() - 6, number),
-                   QString::number(element.number), number * 8 / 10, Qt::AlignLeft);
-    lettering.draw(painter, tile.adjusted(2, number - 2, -2, 0), toQt(element.symbol),
-                   tile.height() * 48 / 100, Qt::AlignCenter, QFont::Bold);
+    fitter.draw(painter, QRect(tile.left() + 3, tile.top() + 2, tile.width() - 6, number),
+                QString::number(element.number), number * 8 / 10, Qt::AlignLeft);
+    fitter.draw(painter, tile.adjusted(2, number - 2, -2, 0), toQt(element.symbol), tile.height() * 48 / 100,
+                Qt::AlignCenter, QFont::Bold);
 }
 
-/// Both names; the English one only where it fits.
-void paintNames(QPainter& painter, Lettering& lettering, const QRect& area, const Element& element) {
+/// The Greek name, and the English one where it fits.
+void paintNames(QPainter& painter, TextFitter& fitter, const QRect& area, const Element& element) {
     const int pixels = area.height() * 8 / 10;
     const QString name = toQt(element.greekName);
-    const auto font = lettering.font(name, area.width(), pixels, QFont::Bold);
+    const auto font = fitter.font(name, area.width(), pixels, QFont::Bold);
     if (!font) return;
     painter.setPen(appearance::deep);
-    Lettering::draw(painter, area, name, *font, Qt::AlignLeft);
-    const int used = Lettering::widthOf(name, *font) + pixels / 2;
+    TextFitter::draw(painter, area, name, *font, Qt::AlignLeft);
+    const int used = TextFitter::widthOf(name, *font) + pixels / 2;
     painter.setPen(appearance::muted);
-    lettering.draw(painter, area.adjusted(used, 0, 0, 0), toQt(element.englishName), pixels * 7 / 10,
-                   Qt::AlignLeft);
+    fitter.draw(painter, area.adjusted(used, 0, 0, 0), toQt(element.englishName), pixels * 7 / 10,
+                Qt::AlignLeft);
 }
 
 QString electronsText(const Element& element) {
@@ -87,63 +87,62 @@ QString electronsText(const Element& element) {
     return element.hasCalculatedConfiguration() ? text + QStringLiteral(" (υπολογισμένη)") : text;
 }
 
-void paintHeading(QPainter& painter, Lettering& lettering, const QRect& area, const Element& element) {
+void paintHeading(QPainter& painter, TextFitter& fitter, const QRect& area, const Element& element) {
     const QRect tile(area.left(), area.top(), area.height(), area.height());
-    paintTile(painter, lettering, tile, element);
+    paintTile(painter, fitter, tile, element);
     const QRect lines(QPoint(tile.right() + area.height() / 8 + 3, area.top()), area.bottomRight());
     const int first = lines.height() * 42 / 100;
     const int height = (lines.height() - first) / (headingLines - 1);
     const auto line = [&](int index) {
         return QRect(lines.left(), lines.top() + first + index * height, lines.width(), height);
     };
-    paintNames(painter, lettering, QRect(lines.left(), lines.top(), lines.width(), first), element);
+    paintNames(painter, fitter, QRect(lines.left(), lines.top(), lines.width(), first), element);
     painter.setPen(appearance::text);
-    const int pixels = std::max(height * 8 / 10, Lettering::leastPixels + 1);
-    lettering.draw(painter, line(0),
-                   toQt(familyName(element.family)) + QStringLiteral(" · ") + placeText(element), pixels,
-                   Qt::AlignLeft);
-    lettering.draw(painter, line(1),
-                   QStringLiteral("Ar = %1 · ").arg(toQt(element.massText())) + electronsText(element),
-                   pixels, Qt::AlignLeft);
+    const int pixels = std::max(height * 8 / 10, TextFitter::minPixels + 1);
+    fitter.draw(painter, line(0),
+                toQt(familyName(element.family)) + QStringLiteral(" · ") + placeText(element), pixels,
+                Qt::AlignLeft);
+    fitter.draw(painter, line(1),
+                QStringLiteral("Ar = %1 · ").arg(toQt(element.massText())) + electronsText(element), pixels,
+                Qt::AlignLeft);
 }
 
-/// The font of the facts; it does not depend on the element, so that the card stays calm under a moving
-/// pointer.
-QFont fontOfFacts(Lettering& lettering, int width, int pixels) {
+/// The font of the facts. It is the same for all elements, so that it does not change while the pointer
+/// moves.
+QFont fontOfFacts(TextFitter& fitter, int width, int pixels) {
     static const QString usual = QStringLiteral("Σημείο βρασμού 3134 K = 2861 °C");
-    return lettering.font(usual, width - pixels / 2, pixels)
-        .value_or(appearance::font(Lettering::leastPixels));
+    return fitter.font(usual, width - pixels / 2, pixels).value_or(appearance::font(TextFitter::minPixels));
 }
 
-/// A fact that is too long for the font has a smaller one.
-void paintFact(QPainter& painter, Lettering& lettering, const QRect& area, const Fact& fact,
+/// Draws one fact. If it is too long for the usual font, it gets a smaller one.
+void paintFact(QPainter& painter, TextFitter& fitter, const QRect& area, const Fact& fact,
                const QFont& usual) {
     QFont font = usual;
     const int space = usual.pixelSize() / 2;
-    if (Lettering::widthOf(fact.label, usual) + Lettering::widthOf(fact.value, usual) + space >
+    if (TextFitter::widthOf(fact.label, usual) + TextFitter::widthOf(fact.value, usual) + space >
         area.width()) {
-        font = lettering.font(fact.label + fact.value, area.width() - space, usual.pixelSize())
-                   .value_or(appearance::font(Lettering::leastPixels));
+        font = fitter.font(fact.label + fact.value, area.width() - space, usual.pixelSize())
+                   .value_or(appearance::font(TextFitter::minPixels));
     }
     painter.setPen(appearance::muted);
-    Lettering::draw(painter, area, fact.label, font, Qt::AlignLeft);
+    TextFitter::draw(painter, area, fact.label, font, Qt::AlignLeft);
     painter.setPen(appearance::text);
-    Lettering::draw(painter, area, fact.value, font, Qt::AlignRight);
+    TextFitter::draw(painter, area, fact.value, font, Qt::AlignRight);
 }
 
-/// As many facts as there is room for, the first column first.
-void paintFacts(QPainter& painter, Lettering& lettering, const QRect& area, std::vector<Fact> facts) {
+/// Draws as many facts as there is room for, column by column.
+void paintFacts(QPainter& painter, TextFitter& fitter, const QRect& area, std::vector<Fact> facts) {
     const int count = static_cast<int>(facts.size());
-    const int columns = std::clamp(area.width() / leastFactWidth, 1, 2);
-    const int rows = std::clamp(area.height() / leastFactHeight, 1, (count + columns - 1) / columns);
+    const int columns = std::clamp(area.width() / minFactWidth, 1, 2);
+    const int rows = std::clamp(area.height() / minFactHeight, 1, (count + columns - 1) / columns);
     facts.resize(static_cast<std::size_t>(std::min(count, rows * columns)));
     const int gutter = columns == 1 ? 0 : area.width() / 24;
     const int width = (area.width() - (columns - 1) * gutter) / columns;
     const int height = area.height() / rows;
-    const QFont font = fontOfFacts(lettering, width, std::clamp(height * 7 / 10, 9, mostFactPixels));
+    const QFont font = fontOfFacts(fitter, width, std::clamp(height * 7 / 10, 9, maxFactPixels));
     for (int i = 0; i < static_cast<int>(facts.size()); ++i) {
         paintFact(
-            painter, lettering,
+            painter, fitter,
             QRect(area.left() + i / rows * (width + gutter), area.top() + i % rows * height, width, height),
             facts[static_cast<std::size_t>(i)], font);
     }
@@ -184,36 +183,35 @@ QString shellText(const Element& element) {
     return text;
 }
 
-void paintCard(QPainter& painter, Lettering& lettering, const QRect& area, const Element& element,
+void paintCard(QPainter& painter, TextFitter& fitter, const QRect& area, const Element& element,
                const TableState& state) {
     paintPanel(painter, area, appearance::familyColors(element.family).edge);
     const int space = area.height() / 30 + 2;
     const QRect inner = area.adjusted(4 + 2 * space, space, -2 * space, -space);
-    const int shellLine = std::max(inner.height() / 9, Lettering::leastPixels + 2);
+    const int shellLine = std::max(inner.height() / 9, TextFitter::minPixels + 2);
     const int side = std::min(inner.height() - shellLine, inner.width() * 2 / 5);
     const QRect shells(inner.right() + 1 - side, inner.top(), side, inner.height());
-    paintShells(painter, lettering, shells.adjusted(0, 0, 0, -shellLine), element);
+    paintShells(painter, fitter, shells.adjusted(0, 0, 0, -shellLine), element);
     painter.setPen(appearance::text);
-    lettering.draw(painter, QRect(shells.left(), shells.bottom() + 1 - shellLine, side, shellLine),
-                   shellText(element), shellLine * 8 / 10, Qt::AlignCenter);
+    fitter.draw(painter, QRect(shells.left(), shells.bottom() + 1 - shellLine, side, shellLine),
+                shellText(element), shellLine * 8 / 10, Qt::AlignCenter);
     const QRect rest(inner.topLeft(), QPoint(shells.left() - 3 * space, inner.bottom()));
     const int heading = rest.height() * 38 / 100;
-    paintHeading(painter, lettering, QRect(rest.left(), rest.top(), rest.width(), heading), element);
-    paintFacts(painter, lettering, rest.adjusted(0, heading + space, 0, 0), factsOf(element, state));
+    paintHeading(painter, fitter, QRect(rest.left(), rest.top(), rest.width(), heading), element);
+    paintFacts(painter, fitter, rest.adjusted(0, heading + space, 0, 0), factsOf(element, state));
 }
 
-void paintEmptyCard(QPainter& painter, Lettering& lettering, const QRect& area) {
+void paintEmptyCard(QPainter& painter, TextFitter& fitter, const QRect& area) {
     paintPanel(painter, area, appearance::warm);
     const int unit = area.height() / 10;
     const QRect inner = area.adjusted(unit + 8, 2 * unit, -unit, -2 * unit);
     painter.setPen(appearance::deep);
-    lettering.draw(painter, QRect(inner.left(), inner.top(), inner.width(), 3 * unit),
-                   QStringLiteral("Περιοδικός Πίνακας"), std::min(unit * 5 / 2, 40), Qt::AlignLeft,
-                   QFont::Bold);
+    fitter.draw(painter, QRect(inner.left(), inner.top(), inner.width(), 3 * unit),
+                QStringLiteral("Περιοδικός Πίνακας"), std::min(unit * 5 / 2, 40), Qt::AlignLeft, QFont::Bold);
     painter.setPen(appearance::muted);
-    lettering.draw(painter, QRect(inner.left(), inner.top() + 3 * unit, inner.width(), 3 * unit),
-                   QStringLiteral("Επίλεξε ένα στοιχείο ή γράψε το σύμβολο ή το όνομά του"),
-                   std::clamp(unit * 3 / 2, 11, 22), Qt::AlignLeft);
+    fitter.draw(painter, QRect(inner.left(), inner.top() + 3 * unit, inner.width(), 3 * unit),
+                QStringLiteral("Επίλεξε ένα στοιχείο ή γράψε το σύμβολο ή το όνομά του"),
+                std::clamp(unit * 3 / 2, 11, 22), Qt::AlignLeft);
 }
 
 }  // namespace controls::periodic

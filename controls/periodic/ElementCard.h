@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "controls/elements/Element.h"
-#include "controls/periodic/Lettering.h"
+#include "controls/periodic/TextFitter.h"
 #include "controls/periodic/model/TableState.h"
 
 namespace controls::periodic {
@@ -16,22 +16,22 @@ struct Fact {
     QString value;
 };
 
-/// The facts that the card tells of an element besides its names, the most important first and the one that
-/// the view is about before all; what is not known is told as "–". The state of matter is that of the table's
-/// temperature in the view of matter, else that at 25 °C.
+/// The facts on the card of an element, the most important first. The fact that the view shows comes before
+/// all others. What is not known is "–". The state of matter is that at the temperature of the slider in the
+/// view of matter, else at 25 °C.
 std::vector<Fact> factsOf(const Element& element, const TableState& state);
 
-/// Where an element stands, such as "ομάδα 8, περίοδος 4, τομέας d".
+/// The place of an element in the table, such as "ομάδα 8, περίοδος 4, τομέας d".
 QString placeText(const Element& element);
 
 /// The electrons of each shell, such as "2 · 8 · 14 · 2".
 QString shellText(const Element& element);
 
 /// Draws the card with an element's main data and its electrons.
-void paintCard(QPainter& painter, Lettering& lettering, const QRect& area, const Element& element,
+void paintCard(QPainter& painter, TextFitter& fitter, const QRect& area, const Element& element,
                const TableState& state);
 
 /// Draws the card while no element is chosen.
-void paintEmptyCard(QPainter& painter, Lettering& lettering, const QRect& area);
+void paintEmptyCard(QPainter& painter, TextFitter& fitter, const QRect& area);
 
 }  // namespace controls::periodic

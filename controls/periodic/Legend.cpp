@@ -8,7 +8,7 @@
 #include "controls/periodic/CellLook.h"
 #include "controls/periodic/CellPainter.h"
 #include "controls/periodic/ColorScale.h"
-#include "controls/periodic/FigureText.h"
+#include "controls/periodic/ValueText.h"
 #include "controls/periodic/model/ElementKinds.h"
 #include "controls/periodic/model/QuantityScale.h"
 
@@ -28,14 +28,14 @@ QString kindText(const TableState& state, int kind) {
     return QStringLiteral("%1 (%2)").arg(name).arg(count);
 }
 
-/// The font in which the texts of all kinds fit their items.
-QFont fontOfKinds(Lettering& lettering, const TableLayout& layout, const TableState& state, int width) {
+/// The largest font in which the texts of all kinds fit their items.
+QFont fontOfKinds(TextFitter& fitter, const TableLayout& layout, const TableState& state, int width) {
     int pixels = layout.labelPixels() + 1;
-    QFont smallest = appearance::font(Lettering::leastPixels);
+    QFont smallest = appearance::font(TextFitter::minPixels);
     for (int kind = 1; kind <= kindCount(state.view); ++kind) {
-        const auto font = lettering.font(kindText(state, kind), width, pixels);
+        const auto font = fitter.font(kindText(state, kind), width, pixels);
         if (!font) return smallest;
-        // One font for all: the narrowed letters of the longest text as well.
+        // If one text needs narrowed letters, all get them.
         if (kind == 1 || font->pixelSize() < pixels || font->stretch() != 0) {
             pixels = font->pixelSize();
             smallest = *font;
@@ -44,45 +44,44 @@ QFont fontOfKinds(Lettering& lettering, const TableLayout& layout, const TableSt
     return smallest;
 }
 
-void paintSwatch(QPainter& painter, const QRect& area, const KindColors& colors, bool hatched) {
+void paintSwatch(QPainter& painter, const QRect& area, const appearance::GroupColors& colors, bool hatched) {
     painter.fillRect(area, colors.edge);
     const QRect inner = area.adjusted(1, 1, -1, -1);
     hatched ? paintNoData(painter, inner) : painter.fillRect(inner, colors.fill);
 }
 
-void paintKinds(QPainter& painter, Lettering& lettering, const TableLayout& layout, const TableState& state,
+void paintKinds(QPainter& painter, TextFitter& fitter, const TableLayout& layout, const TableState& state,
                 int highlighted) {
     const QRect swatch = layout.swatch();
     const int start = swatch.right() + swatchGap;
-    const QFont font =
-        fontOfKinds(lettering, layout, state, layout.kindItem(state.view, 1).width() - start - 2);
+    const QFont font = fontOfKinds(fitter, layout, state, layout.kindItem(state.view, 1).width() - start - 2);
     for (int kind = 1; kind <= kindCount(state.view); ++kind) {
         const QRect item = layout.kindItem(state.view, kind);
         if (highlighted == kind) painter.fillRect(item, appearance::selected);
         const bool unknown = state.view == TableView::matter && kind == kindCount(state.view);
         paintSwatch(painter, swatch.translated(item.topLeft()), kindColors(state.view, kind), unknown);
         painter.setPen(appearance::text);
-        Lettering::draw(painter, item.adjusted(start, 0, 0, 0), kindText(state, kind), font, Qt::AlignLeft);
+        TextFitter::draw(painter, item.adjusted(start, 0, 0, 0), kindText(state, kind), font, Qt::AlignLeft);
     }
 }
 
-void paintDescription(QPainter& painter, Lettering& lettering, const TableLayout& layout, TableView view,
+void paintDescription(QPainter& painter, TextFitter& fitter, const TableLayout& layout, TableView view,
                       Quantity quantity) {
     const QString unit = toQt(quantityUnit(quantity));
     const QString name =
         toQt(quantityName(quantity)) + (unit.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(unit));
     painter.setPen(appearance::deep);
-    lettering.draw(painter, layout.quantityName(view), name, layout.labelPixels() + 2, Qt::AlignLeft,
-                   QFont::DemiBold);
+    fitter.draw(painter, layout.quantityName(view), name, layout.labelPixels() + 2, Qt::AlignLeft,
+                QFont::DemiBold);
     const QRect item = layout.noDataItem(view);
     const QRect swatch = layout.swatch();
-    // Every element has a year; what is empty there has not been found yet.
+    // Every element has a year of discovery, so an empty cell there means that it was found later.
     const bool years = quantity == Quantity::discovery;
     paintSwatch(painter, swatch.translated(item.topLeft()), {appearance::ground, appearance::muted}, !years);
     painter.setPen(appearance::text);
-    lettering.draw(painter, item.adjusted(swatch.right() + swatchGap, 0, -2, 0),
-                   years ? QStringLiteral("Άγνωστο ακόμη") : QStringLiteral("Χωρίς τιμή"),
-                   layout.labelPixels(), Qt::AlignLeft);
+    fitter.draw(painter, item.adjusted(swatch.right() + swatchGap, 0, -2, 0),
+                years ? QStringLiteral("Άγνωστο ακόμη") : QStringLiteral("Χωρίς τιμή"), layout.labelPixels(),
+                Qt::AlignLeft);
 }
 
 void paintBar(QPainter& painter, const QRect& bar) {
@@ -96,21 +95,21 @@ QString tickText(Quantity quantity, double tick) {
     return quantity == Quantity::discovery ? QString::number(tick) : numberText(tick);
 }
 
-/// Marks round values; a figure that would touch the one before is left out.
+/// Marks round values. A number that would touch the one before is left out.
 void paintTicks(QPainter& painter, const TableLayout& layout, TableView view, const QuantityScale& scale,
                 Quantity quantity) {
     const QRect bar = layout.colorBar(view);
     const QRect figures = layout.barFigures(view);
-    const QFont font = appearance::font(std::max(layout.labelPixels(), Lettering::leastPixels));
+    const QFont font = appearance::font(std::max(layout.labelPixels(), TextFitter::minPixels));
     int taken = figures.left() - figures.height() * 2;
     for (const double tick : scale.ticks()) {
         const int x = bar.left() + static_cast<int>(scale.position(tick) * (bar.width() - 1));
         const QString text = tickText(quantity, tick);
-        const int width = Lettering::widthOf(text, font);
+        const int width = TextFitter::widthOf(text, font);
         if (x - width / 2 < taken) continue;
         painter.fillRect(QRect(x, bar.bottom() + 1, 1, tickHeight), appearance::muted);
         painter.setPen(appearance::text);
-        Lettering::draw(
+        TextFitter::draw(
             painter, QRect(x - width / 2, figures.top() + tickHeight, width, figures.height() - tickHeight),
             text, font, Qt::AlignHCenter);
         taken = x + width / 2 + font.pixelSize() / 2;
@@ -119,11 +118,11 @@ void paintTicks(QPainter& painter, const TableLayout& layout, TableView view, co
 
 }  // namespace
 
-void paintLegend(QPainter& painter, Lettering& lettering, const TableLayout& layout, const TableState& state,
+void paintLegend(QPainter& painter, TextFitter& fitter, const TableLayout& layout, const TableState& state,
                  int highlighted) {
     const auto quantity = quantityOf(state.view);
-    if (!quantity) return paintKinds(painter, lettering, layout, state, highlighted);
-    paintDescription(painter, lettering, layout, state.view, *quantity);
+    if (!quantity) return paintKinds(painter, fitter, layout, state, highlighted);
+    paintDescription(painter, fitter, layout, state.view, *quantity);
     paintBar(painter, layout.colorBar(state.view));
     paintTicks(painter, layout, state.view, QuantityScale(*quantity, state.otherScale), *quantity);
 }

@@ -46,7 +46,7 @@ std::optional<Variant> PeriodicComponent::invoke(std::int32_t dispid, platform::
     return platform::dispatch(*this, operationTable, dispid, kind, arguments);
 }
 
-std::string PeriodicComponent::version() const { return std::string(controls::version()); }
+std::string PeriodicComponent::version() const { return std::string(controls::version); }
 
 bool PeriodicComponent::setDataFolder(const std::string& dataFolder) { return !dataFolder.empty(); }
 

@@ -14,7 +14,7 @@ namespace controls::periodic {
 /// The class id of the periodic table.
 inline constexpr std::string_view classId = "5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E101";
 
-/// The periodic table as its host sees it.
+/// The periodic table with the operations that its host calls.
 class PeriodicComponent : public platform::Component {
   public:
     PeriodicComponent(platform::ComponentSite& site, QWidget* parent);
@@ -31,12 +31,12 @@ class PeriodicComponent : public platform::Component {
     /// @name Operations, called through `invoke`.
     /// @{
     std::string version() const;
-    /// True when a folder is named. The table needs none of its files.
+    /// True when the name is not empty. The table uses no file of the folder.
     bool setDataFolder(const std::string& dataFolder);
     void redraw();
     std::int32_t getStateA() const;
     std::int32_t getStateB() const;
-    /// Takes any numbers; see stateOf.
+    /// Any numbers are allowed; see stateOf.
     void setState(std::int32_t first, std::int32_t second);
     /// @}
 
@@ -44,11 +44,11 @@ class PeriodicComponent : public platform::Component {
     void raiseChosen(int number);
 
     platform::ComponentSite& site_;
-    // The parent that the host gave it may destroy it first.
+    // Its Qt parent, which belongs to the host, may destroy it first.
     QPointer<PeriodicWidget> table_;
 };
 
-/// Makes the control of a module.
+/// Creates the component of the module.
 std::unique_ptr<platform::Component> createPeriodicComponent(platform::ComponentSite& site, QWidget* parent);
 
 }  // namespace controls::periodic

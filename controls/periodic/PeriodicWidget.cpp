@@ -8,14 +8,13 @@
 #include <optional>
 #include <utility>
 
-#include "controls/common/Appearance.h"
 #include "controls/common/QtText.h"
+#include "controls/elements/ElementSearch.h"
 #include "controls/periodic/CellPainter.h"
-#include "controls/periodic/ElementCard.h"
-#include "controls/periodic/FigureText.h"
-#include "controls/periodic/Legend.h"
 #include "controls/periodic/ScaleBox.h"
+#include "controls/periodic/TablePainter.h"
 #include "controls/periodic/ValueSlider.h"
+#include "controls/periodic/ValueText.h"
 #include "controls/periodic/ViewStrip.h"
 #include "controls/periodic/model/ElementKinds.h"
 #include "controls/periodic/model/QuantityScale.h"
@@ -52,11 +51,11 @@ QString yearWords(int year) {
 }
 
 ValueSlider::Purpose temperaturePurpose() {
-    return {leastKelvin, mostKelvin, usualKelvin, kelvinStep, QStringLiteral("Θερμοκρασία"), temperatureText};
+    return {minKelvin, maxKelvin, usualKelvin, kelvinStep, QStringLiteral("Θερμοκρασία"), temperatureText};
 }
 
 ValueSlider::Purpose yearPurpose() {
-    return {leastYear, mostYear, mostYear, yearStep, QStringLiteral("Έτος"), yearWords};
+    return {minYear, maxYear, maxYear, yearStep, QStringLiteral("Έτος"), yearWords};
 }
 
 }  // namespace
@@ -75,18 +74,18 @@ QSize PeriodicWidget::sizeHint() const { return {1016, 640}; }
 
 void PeriodicWidget::makeParts() {
     strip_ = &platform::makeQtChild<ViewStrip>(
-        lettering_,
+        fitter_,
         [this](TableView view) {
             setView(view);
             takeFocus();
         },
         this);
-    slider_ = &platform::makeQtChild<ValueSlider>(lettering_, this);
+    slider_ = &platform::makeQtChild<ValueSlider>(fitter_, this);
     connect(slider_, &QSlider::valueChanged, this, [this](int value) {
         slide(value);
         takeFocus();
     });
-    scaleBox_ = &platform::makeQtChild<ScaleBox>(lettering_, this);
+    scaleBox_ = &platform::makeQtChild<ScaleBox>(fitter_, this);
     connect(scaleBox_, &QCheckBox::clicked, this, [this] {
         state_.otherScale = !state_.otherScale;
         update();
@@ -154,7 +153,7 @@ void PeriodicWidget::select(int number) {
 
 void PeriodicWidget::choose(int number) {
     select(number);
-    // The page that opens takes the pointer over, and no leave event tells of it.
+    // The page that opens now covers the table, and no leave event comes.
     hover(0);
     chosen_(number);
 }
@@ -191,66 +190,8 @@ void PeriodicWidget::resizeEvent(QResizeEvent*) { updateParts(); }
 
 void PeriodicWidget::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    const TableLayout layout = layoutNow();
-    const CellPainter cells(painter, lettering_, layout.cellSize());
-    painter.fillRect(event->rect(), appearance::ground);
-    paintLabels(painter, layout);
-    paintPlaceholders(cells, layout);
-    paintElements(cells, layout, event->region());
-    if (event->region().intersects(layout.card())) paintCardOf(painter, layout.card());
-    if (event->region().intersects(layout.legend(state_.view))) {
-        paintLegend(painter, lettering_, layout, state_, highlightedNow());
-    }
-}
-
-void PeriodicWidget::paintCardOf(QPainter& painter, const QRect& area) {
-    const Element* shown = findElement(hovered_ != 0 ? hovered_ : state_.selected);
-    if (shown) return paintCard(painter, lettering_, area, *shown, state_);
-    paintEmptyCard(painter, lettering_, area);
-    if (!hasFocus()) return;
-    // No cell shows it.
-    painter.setPen(QPen(appearance::deep, 2));
-    painter.drawRect(area.adjusted(1, 1, -1, -1));
-}
-
-void PeriodicWidget::paintElements(const CellPainter& cells, const TableLayout& layout,
-                                   const QRegion& dirty) const {
-    const int highlighted = highlightedNow();
-    for (const Element& element : elements()) {
-        const QRect cell = layout.cell(placeOf(element.number));
-        if (dirty.intersects(cell)) cells.paint(cell, element, lookOf(element, state_, highlighted));
-    }
-    if (hovered_ != 0) cells.paintFrame(layout.cell(placeOf(hovered_)), appearance::accent, false);
-    if (state_.selected != 0) {
-        cells.paintFrame(layout.cell(placeOf(state_.selected)), appearance::deep, hasFocus());
-    }
-}
-
-void PeriodicWidget::paintPlaceholders(const CellPainter& cells, const TableLayout& layout) const {
-    const bool families = state_.view == TableView::families;
-    const auto edge = [&](Family family) {
-        return families ? appearance::familyColors(family).edge : appearance::line;
-    };
-    cells.paintPlaceholder(layout.cell({innerColumn, 6}), QStringLiteral("57–71"), edge(Family::lanthanide));
-    cells.paintPlaceholder(layout.cell({innerColumn, 7}), QStringLiteral("89–103"), edge(Family::actinide));
-}
-
-void PeriodicWidget::paintLabels(QPainter& painter, const TableLayout& layout) {
-    painter.setPen(appearance::muted);
-    const int pixels = layout.labelPixels();
-    for (int group = 1; group <= columnCount; ++group) {
-        lettering_.draw(painter, layout.groupLabel(group), QString::number(group), pixels, Qt::AlignCenter,
-                        QFont::DemiBold);
-    }
-    for (int period = 1; period <= 7; ++period) {
-        lettering_.draw(painter, layout.periodLabel(period), QString::number(period), pixels, Qt::AlignCenter,
-                        QFont::DemiBold);
-    }
-    for (const auto& [row, family] :
-         {std::pair(lanthanideRow, Family::lanthanide), std::pair(actinideRow, Family::actinide)}) {
-        lettering_.draw(painter, layout.rowName(row), toQt(familyName(family)), pixels + 2, Qt::AlignRight,
-                        QFont::DemiBold);
-    }
+    const int highlighted = hoveredKind_ != 0 ? hoveredKind_ : state_.highlighted;
+    paintTable(painter, fitter_, layoutNow(), {state_, hovered_, highlighted, hasFocus()}, event->region());
 }
 
 void PeriodicWidget::mouseMoveEvent(QMouseEvent* event) {
@@ -329,9 +270,9 @@ bool PeriodicWidget::highlightByKey(int key) {
 }
 
 void PeriodicWidget::typed(const QKeyEvent& event) {
-    if (const int found = typeAhead_.type(fromQt(event.text()), clock_.elapsed())) {
+    if (const Element* found = typeAhead_.type(fromQt(event.text()), clock_.elapsed(), findElementByStart)) {
         hover(0);
-        select(found);
+        select(found->number);
     }
 }
 

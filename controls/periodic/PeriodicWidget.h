@@ -5,15 +5,14 @@
 #include <functional>
 
 #include "controls/elements/TypeAhead.h"
-#include "controls/periodic/Lettering.h"
 #include "controls/periodic/TableAccessible.h"
 #include "controls/periodic/TableLayout.h"
+#include "controls/periodic/TextFitter.h"
 #include "controls/periodic/model/ElementGrid.h"
 #include "controls/periodic/model/TableState.h"
 
 namespace controls::periodic {
 
-class CellPainter;
 class ScaleBox;
 class ValueSlider;
 class ViewStrip;
@@ -29,11 +28,11 @@ class PeriodicWidget : public QWidget {
     const TableState& state() const { return state_; }
     void setState(const TableState& state);
 
-    /// The cell of an element, and the element under a point (0 for none), in the table's coordinates.
+    /// The cell of an element, and the element at a point (0 for none), in the table's coordinates.
     QRect cellOf(int number) const { return layoutNow().cell(placeOf(number)); }
     int elementAt(QPoint point) const { return layoutNow().elementAt(point); }
 
-    /// Selects an element and tells that the reader has chosen it.
+    /// Selects an element and calls `chosen`.
     void choose(int number);
 
     QSize sizeHint() const override;
@@ -51,9 +50,9 @@ class PeriodicWidget : public QWidget {
   private:
     TableLayout layoutNow() const { return TableLayout(size()); }
     void makeParts();
-    /// Takes the keyboard after a click on one of the parts, unless that has it already.
+    /// Takes the focus after a click on one of the parts, unless the table or a part has it.
     void takeFocus();
-    /// Brings strip, slider and box to the state and into their places.
+    /// Places strip, slider and box, and makes them show the state.
     void updateParts();
     void updateSlider();
     void select(int number);
@@ -62,9 +61,7 @@ class PeriodicWidget : public QWidget {
     void setView(TableView view);
     void slide(int value);
     void highlight(int kind);
-    /// The kind that stands out now, 0 for none.
-    int highlightedNow() const { return hoveredKind_ != 0 ? hoveredKind_ : state_.highlighted; }
-    /// Has the cell of an element drawn anew.
+    /// Draws the cell of an element anew.
     void updateCell(int number);
     void updateCard();
     bool step(int key);
@@ -72,21 +69,17 @@ class PeriodicWidget : public QWidget {
     bool stepSlider(int key);
     bool highlightByKey(int key);
     void typed(const QKeyEvent& event);
-    void paintElements(const CellPainter& cells, const TableLayout& layout, const QRegion& dirty) const;
-    void paintPlaceholders(const CellPainter& cells, const TableLayout& layout) const;
-    void paintLabels(QPainter& painter, const TableLayout& layout);
-    void paintCardOf(QPainter& painter, const QRect& area);
 
     std::function<void(int)> chosen_;
     TableState state_;
-    int hovered_ = 0;
-    int hoveredKind_ = 0;
-    int pressed_ = 0;
+    int hovered_ = 0;      // the element under the pointer, 0 for none
+    int hoveredKind_ = 0;  // the kind under the pointer, 0 for none
+    int pressed_ = 0;      // the element on which the mouse button was pressed, 0 for none
     TypeAhead typeAhead_;
     QElapsedTimer clock_;
-    Lettering lettering_;
+    TextFitter fitter_;
     TableAccess access_;
-    // Children of this window.
+    // Qt children of this window, null until it is first shown.
     ViewStrip* strip_ = nullptr;
     ValueSlider* slider_ = nullptr;
     ScaleBox* scaleBox_ = nullptr;

@@ -7,8 +7,8 @@
 
 namespace controls::periodic {
 
-ScaleBox::ScaleBox(Lettering& lettering, QWidget* parent)
-    : QCheckBox(QStringLiteral("Λογαριθμική κλίμακα"), parent), lettering_(lettering) {
+ScaleBox::ScaleBox(TextFitter& fitter, QWidget* parent)
+    : QCheckBox(QStringLiteral("Λογαριθμική κλίμακα"), parent), fitter_(fitter) {
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);
 }
@@ -27,8 +27,8 @@ void ScaleBox::paintEvent(QPaintEvent*) {
         painter.drawPolyline(QPolygonF({at(0.22, 0.52), at(0.42, 0.72), at(0.8, 0.28)}));
     }
     painter.setPen(appearance::text);
-    lettering_.draw(painter, rect().adjusted(box.right() + 5, 0, 0, 0), text(), height() * 55 / 100,
-                    Qt::AlignLeft);
+    fitter_.draw(painter, rect().adjusted(box.right() + 5, 0, 0, 0), text(), height() * 55 / 100,
+                 Qt::AlignLeft);
 }
 
 }  // namespace controls::periodic

@@ -2,21 +2,21 @@
 
 #include <QCheckBox>
 
-#include "controls/periodic/Lettering.h"
+#include "controls/periodic/TextFitter.h"
 
 namespace controls::periodic {
 
-/// The choice of a logarithmic colour scale in the legend.
+/// The check box in the legend that chooses a logarithmic colour scale.
 class ScaleBox : public QCheckBox {
   public:
-    ScaleBox(Lettering& lettering, QWidget* parent);
+    ScaleBox(TextFitter& fitter, QWidget* parent);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
     bool hitButton(const QPoint& position) const override { return rect().contains(position); }
 
   private:
-    Lettering& lettering_;
+    TextFitter& fitter_;
 };
 
 }  // namespace controls::periodic

@@ -12,7 +12,7 @@ namespace controls::periodic {
 
 namespace {
 
-/// Atoms of fewer shells are drawn smaller.
+/// Atoms with fewer shells than this are drawn smaller.
 constexpr int fewShells = 4;
 constexpr double nucleusShare = 0.2;
 constexpr QColor electron{0x3A, 0x7A, 0xA0};
@@ -22,8 +22,8 @@ constexpr QColor orbit{0xB4, 0xC2, 0xCE};
 /// The measures of a drawing.
 struct Atom {
     QPointF center;
-    double outermost;  // radius of the last place for a shell
-    int places;
+    double outermost;  // radius of the circle farthest out
+    int places;        // circles from the nucleus to that one
     double nucleus;
     double dot;
 
@@ -36,7 +36,7 @@ Atom atomIn(const QRect& area, int shells) {
     return {QRectF(area).center(), half - dot - 0.5, std::max(shells, fewShells), half * nucleusShare, dot};
 }
 
-/// The circle of a shell and its electrons, the first of them at the top.
+/// Draws the circle of a shell with its electrons, the first of them at the top.
 void paintShell(QPainter& painter, const Atom& atom, int shell, int electrons, const QColor& color) {
     const double radius = atom.radius(shell);
     painter.setBrush(Qt::NoBrush);
@@ -51,20 +51,20 @@ void paintShell(QPainter& painter, const Atom& atom, int shell, int electrons, c
     }
 }
 
-void paintNucleus(QPainter& painter, Lettering& lettering, const Atom& atom, const Element& element) {
+void paintNucleus(QPainter& painter, TextFitter& fitter, const Atom& atom, const Element& element) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(appearance::deep);
     painter.drawEllipse(atom.center, atom.nucleus, atom.nucleus);
     painter.setPen(appearance::paper);
     const int side = static_cast<int>(atom.nucleus * 2);
     const QPoint corner = (atom.center - QPointF(atom.nucleus, atom.nucleus)).toPoint();
-    lettering.draw(painter, QRect(corner, QSize(side, side)), toQt(element.symbol), side / 2, Qt::AlignCenter,
-                   QFont::Bold);
+    fitter.draw(painter, QRect(corner, QSize(side, side)), toQt(element.symbol), side / 2, Qt::AlignCenter,
+                QFont::Bold);
 }
 
 }  // namespace
 
-void paintShells(QPainter& painter, Lettering& lettering, const QRect& area, const Element& element) {
+void paintShells(QPainter& painter, TextFitter& fitter, const QRect& area, const Element& element) {
     const auto shells = shellsOf(element);
     const int count = static_cast<int>(shells.size());
     const Atom atom = atomIn(area, count);
@@ -74,7 +74,7 @@ void paintShells(QPainter& painter, Lettering& lettering, const QRect& area, con
         paintShell(painter, atom, shell, shells[static_cast<std::size_t>(shell) - 1],
                    shell == count ? outerElectron : electron);
     }
-    paintNucleus(painter, lettering, atom, element);
+    paintNucleus(painter, fitter, atom, element);
     painter.restore();
 }
 

@@ -3,12 +3,13 @@
 #include <QPainter>
 
 #include "controls/elements/Element.h"
-#include "controls/periodic/Lettering.h"
+#include "controls/periodic/TextFitter.h"
 
 namespace controls::periodic {
 
-/// Draws the electrons of an atom on the circles of their shells round the nucleus, with the number on each
-/// shell; the outermost stand out. A square of the area's shorter side is used.
-void paintShells(QPainter& painter, Lettering& lettering, const QRect& area, const Element& element);
+/// Draws an atom: the nucleus with the symbol, and around it a circle for each shell with its electrons.
+/// Those of the outermost shell have a colour of their own. The drawing is as wide as the shorter side of the
+/// area.
+void paintShells(QPainter& painter, TextFitter& fitter, const QRect& area, const Element& element);
 
 }  // namespace controls::periodic

@@ -3,9 +3,9 @@
 #include <memory>
 
 #include "controls/common/QtText.h"
-#include "controls/periodic/FigureText.h"
-#include "controls/periodic/Lettering.h"
 #include "controls/periodic/PeriodicWidget.h"
+#include "controls/periodic/TextFitter.h"
+#include "controls/periodic/ValueText.h"
 #include "controls/periodic/model/ElementKinds.h"
 #include "platform/qt/WidgetWithParts.h"
 
@@ -61,7 +61,7 @@ class TableAccessible : public platform::WidgetWithParts {
 };
 
 QAccessibleInterface* accessibleOf(const QString&, QObject* object) {
-    // Not by type information: the browser engine's objects, asked about here too, carry none.
+    // qobject_cast, because the browser engine's objects, which come here too, have no C++ type information.
     auto* table = qobject_cast<PeriodicWidget*>(object);
     return table ? std::make_unique<TableAccessible>(*table).release() : nullptr;
 }
@@ -76,7 +76,7 @@ QString spokenText(const Element& element, const TableState& state) {
                              .arg(element.number);
     if (const auto quantity = quantityOf(state.view)) {
         const QString value = quantityValue(element, *quantity)
-                                  ? Lettering::plain(valueWithUnit(element, *quantity))
+                                  ? TextFitter::plain(valueWithUnit(element, *quantity))
                                   : QStringLiteral("χωρίς τιμή");
         return QStringLiteral("%1, %2: %3").arg(name, toQt(quantityName(*quantity)), value);
     }
@@ -84,7 +84,8 @@ QString spokenText(const Element& element, const TableState& state) {
         name, toQt(kindName(state.view, kindOf(element, state.view, state.kelvin))));
 }
 
-// Qt keeps one entry for each factory, and the module may go before the program does.
+// Installed for all tables together, and removed with the last: the module may be unloaded before the program
+// ends.
 TableAccess::TableAccess() {
     if (tables++ == 0) QAccessible::installFactory(accessibleOf);
 }

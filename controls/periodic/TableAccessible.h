@@ -11,11 +11,11 @@ namespace controls::periodic {
 
 class PeriodicWidget;
 
-/// What is read out of an element: its name, symbol and number, and what the view tells of it.
+/// What a screen reader says of an element: its name, symbol and number, and its value in the view.
 QString spokenText(const Element& element, const TableState& state);
 
-/// As long as it is there, assistive technology finds the cells of periodic tables, each with its name and
-/// place.
+/// While an object of this class exists, screen readers find the cells of periodic tables, each with its name
+/// and place.
 class TableAccess {
   public:
     TableAccess();
@@ -23,7 +23,7 @@ class TableAccess {
     TableAccess(const TableAccess&) = delete;
     TableAccess& operator=(const TableAccess&) = delete;
 
-    /// Tells that the cell of an element has got the focus.
+    /// Tells screen readers that the cell of an element has got the focus.
     static void focused(PeriodicWidget& table, int number);
 };
 

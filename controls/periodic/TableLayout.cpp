@@ -12,8 +12,8 @@ constexpr int wideStrip = 900;  // from this width on, the strip stands in one r
 constexpr int legendRows = 2;
 constexpr int sliderPercent = 36;
 constexpr int descriptionPercent = 32;
-constexpr double highestCell = 1.15;
-constexpr double widestCell = 1.5;
+constexpr double maxHeightToWidth = 1.15;
+constexpr double maxWidthToHeight = 1.5;
 
 /// The row of a group's first element.
 int firstRow(int group) {
@@ -32,12 +32,12 @@ TableLayout::TableLayout(QSize size)
     const int legendHeight = legendRows * (labelSize_ * 3 / 2);
     const int free = size.height() - strip_.height();
     const int width = std::max(size.width() - 2 * margin_ - labelSize_, columnCount);
-    // A third of a cell parts the periods from the two rows below.
+    // Between the periods and the two rows below lies a third of a cell.
     const int height = std::max(free - 3 * margin_ - labelSize_ - legendHeight, rowCount);
     cellWidth_ = width / columnCount;
     cellHeight_ = std::max(height * 3 / (rowCount * 3 + 1), 1);
-    cellHeight_ = std::min(cellHeight_, static_cast<int>(cellWidth_ * highestCell));
-    cellWidth_ = std::min(cellWidth_, static_cast<int>(cellHeight_ * widestCell));
+    cellHeight_ = std::min(cellHeight_, static_cast<int>(cellWidth_ * maxHeightToWidth));
+    cellWidth_ = std::min(cellWidth_, static_cast<int>(cellHeight_ * maxWidthToHeight));
     gap_ = cellWidth_ >= 48 ? 3 : 2;
     innerGap_ = cellHeight_ / 3;
 
@@ -134,7 +134,7 @@ QRect TableLayout::scaleBox(TableView view) const {
 }
 
 QRect TableLayout::barSpace(TableView view) const {
-    // The figures at the ends stand out over the bar.
+    // The numbers at the ends of the bar are wider than the bar.
     const QRect space = legend(view);
     return QRect(QPoint(description(view).right() + 1, space.top()), space.bottomRight())
         .adjusted(2 * labelSize_, 0, -labelSize_, 0);

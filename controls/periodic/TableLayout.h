@@ -10,12 +10,12 @@
 
 namespace controls::periodic {
 
-/// Where everything in the table lies, for one size of the window. All edges lie on whole pixels.
+/// The places of everything in the table, for one size of its window. All edges lie on whole pixels.
 class TableLayout {
   public:
     explicit TableLayout(QSize size);
 
-    /// The strip of views at the top, and in how many rows it stands.
+    /// The strip of views at the top, and the number of its rows.
     QRect strip() const { return strip_; }
     int stripRows() const { return stripRows_; }
 
@@ -23,42 +23,42 @@ class TableLayout {
     QRect cell(Place place) const;
     QSize cellSize() const { return {cellWidth_ - gap_, cellHeight_ - gap_}; }
 
-    /// The number of a group, just above the group's first element.
+    /// The number of a group, above the group's first element.
     QRect groupLabel(int group) const;
     QRect periodLabel(int period) const;
-    /// The name of the lanthanides' and the actinides' row, before it.
+    /// The name of the lanthanides or the actinides, to the left of their row.
     QRect rowName(int row) const;
-    /// Free space above the transition metals.
+    /// The card of an element, in the free space above the transition metals.
     QRect card() const;
 
-    /// The legend below the table, beside the slider if the view has one.
+    /// The legend below the table. If the view has a slider, that lies to the right of it.
     QRect legend(TableView view) const;
     /// The place of the slider; empty in a view without one.
     QRect slider(TableView view) const;
     /// The item of a kind (from 1) in the legend.
     QRect kindItem(TableView view, int kind) const;
-    /// The patch of colour in each item, measured from the item's corner.
+    /// The colour sample of an item, relative to the item's corner.
     QRect swatch() const;
-    /// The parts of the legend of a quantity: its name, the mark of cells without data, the choice of the
-    /// scale and the bar of colours with its figures.
+    /// The parts of a quantity's legend: its name, the sample of a cell without data, the check box of the
+    /// scale, and the colour bar with its numbers.
     QRect quantityName(TableView view) const;
     QRect noDataItem(TableView view) const;
     QRect scaleBox(TableView view) const;
     QRect colorBar(TableView view) const;
     QRect barFigures(TableView view) const;
 
-    /// The element under a point, 0 when there is none.
+    /// The atomic number of the element at a point, 0 when there is none.
     int elementAt(QPoint point) const;
-    /// The kind whose item is under a point, 0 when there is none.
+    /// The kind whose legend item is at a point, 0 when there is none.
     int kindAt(QPoint point, TableView view) const;
 
     int labelPixels() const;
 
   private:
     int kindColumns(TableView view) const;
-    /// The left third of a quantity's legend.
+    /// The left third of a quantity's legend, which describes the quantity.
     QRect description(TableView view) const;
-    /// The rest of it.
+    /// The rest of the legend, which holds the colour bar and its numbers.
     QRect barSpace(TableView view) const;
 
     QPoint origin_;  // of the cell in column 1, row 1

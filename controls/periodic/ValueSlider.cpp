@@ -17,8 +17,8 @@ constexpr int pageSteps = 10;
 
 }  // namespace
 
-ValueSlider::ValueSlider(Lettering& lettering, QWidget* parent)
-    : QSlider(Qt::Horizontal, parent), lettering_(lettering) {
+ValueSlider::ValueSlider(TextFitter& fitter, QWidget* parent)
+    : QSlider(Qt::Horizontal, parent), fitter_(fitter) {
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);
 }
@@ -26,7 +26,7 @@ ValueSlider::ValueSlider(Lettering& lettering, QWidget* parent)
 void ValueSlider::setPurpose(Purpose purpose, int value) {
     purpose_ = std::move(purpose);
     const QSignalBlocker quiet(this);
-    setRange(purpose_.least, purpose_.most);
+    setRange(purpose_.min, purpose_.max);
     setSingleStep(purpose_.step);
     setPageStep(purpose_.step * pageSteps);
     setAccessibleName(purpose_.name);
@@ -57,8 +57,8 @@ void ValueSlider::paintEvent(QPaintEvent*) {
     painter.fillRect(rect(), appearance::ground);
     painter.setPen(appearance::text);
     if (purpose_.words) {
-        lettering_.draw(painter, QRect(0, 0, width(), height() / 2), purpose_.words(value()),
-                        height() * 38 / 100, Qt::AlignCenter, QFont::DemiBold);
+        fitter_.draw(painter, QRect(0, 0, width(), height() / 2), purpose_.words(value()),
+                     height() * 38 / 100, Qt::AlignCenter, QFont::DemiBold);
     }
     const QRect line = groove();
     const int x = positionOf(value());
@@ -79,7 +79,7 @@ void ValueSlider::mouseMoveEvent(QMouseEvent* event) {
     if (event->buttons().testFlag(Qt::LeftButton)) setValue(valueAt(event->position().toPoint().x()));
 }
 
-// The slider's own handling would move it by its style's measures.
+// QSlider's own handling would compute another value.
 void ValueSlider::mouseReleaseEvent(QMouseEvent*) {}
 
 void ValueSlider::mouseDoubleClickEvent(QMouseEvent* event) {

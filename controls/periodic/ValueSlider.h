@@ -3,29 +3,30 @@
 #include <QSlider>
 #include <functional>
 
-#include "controls/periodic/Lettering.h"
+#include "controls/periodic/TextFitter.h"
 
 namespace controls::periodic {
 
-/// A slider with its value in words above it. A click leads straight to the value there, a double click back
-/// to the usual one.
+/// A slider with its value in words above it. A click sets the value at that place, a double click the usual
+/// value.
 class ValueSlider : public QSlider {
   public:
-    ValueSlider(Lettering& lettering, QWidget* parent);
+    ValueSlider(TextFitter& fitter, QWidget* parent);
 
-    /// What the slider is for: its range, the value it goes back to, its name and the words for a value. No
-    /// change of value is told.
+    /// What the slider stands for: its range, the value after a double click, its name and the words for a
+    /// value.
     struct Purpose {
-        int least;
-        int most;
+        int min;
+        int max;
         int usual;
         int step;
         QString name;
         std::function<QString(int value)> words;
     };
+    /// Sets purpose and value without telling of a change of the value.
     void setPurpose(Purpose purpose, int value);
 
-    /// Where the handle's middle stands at a value, in the slider's coordinates.
+    /// The x coordinate of the handle's middle at a value.
     int positionOf(int value) const;
 
   protected:
@@ -39,7 +40,7 @@ class ValueSlider : public QSlider {
     QRect groove() const;
     int valueAt(int x) const;
 
-    Lettering& lettering_;
+    TextFitter& fitter_;
     Purpose purpose_{};
 };
 

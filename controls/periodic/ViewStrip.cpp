@@ -12,22 +12,22 @@ namespace controls::periodic {
 
 namespace {
 
-constexpr int leastPixels = 10;
-constexpr int mostPixels = 15;
+constexpr int minPixels = 10;
+constexpr int maxPixels = 15;
 constexpr int padding = 4;
 constexpr int paddingInWidths = 12;
-/// Where the strip breaks when it stands in two rows.
+/// The first view of the second row, when the strip has two rows.
 constexpr int secondRow = static_cast<int>(TableView::density);
 
 int wantedWidth(TableView view) {
-    return QFontMetrics(appearance::font(mostPixels)).horizontalAdvance(toQt(viewName(view))) +
+    return QFontMetrics(appearance::font(maxPixels)).horizontalAdvance(toQt(viewName(view))) +
            paddingInWidths;
 }
 
 }  // namespace
 
-ViewButton::ViewButton(TableView view, Lettering& lettering, QWidget* parent)
-    : QRadioButton(toQt(viewName(view)), parent), lettering_(lettering) {
+ViewButton::ViewButton(TableView view, TextFitter& fitter, QWidget* parent)
+    : QRadioButton(toQt(viewName(view)), parent), fitter_(fitter) {
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
     setCursor(Qt::PointingHandCursor);
@@ -45,17 +45,17 @@ void ViewButton::paintEvent(QPaintEvent*) {
     painter.fillRect(QRect(width() - 1, 0, 1, height()), appearance::line);
     if (hasFocus()) painter.fillRect(QRect(2, height() - 3, width() - 5, 2), appearance::warm);
     painter.setPen(isChecked() ? appearance::paper : appearance::deep);
-    lettering_.draw(painter, rect().adjusted(padding, 0, -padding, 0), text(),
-                    std::clamp(height() / 2, leastPixels, mostPixels), Qt::AlignCenter,
-                    isChecked() ? QFont::DemiBold : QFont::Normal);
+    fitter_.draw(painter, rect().adjusted(padding, 0, -padding, 0), text(),
+                 std::clamp(height() / 2, minPixels, maxPixels), Qt::AlignCenter,
+                 isChecked() ? QFont::DemiBold : QFont::Normal);
 }
 
-ViewStrip::ViewStrip(Lettering& lettering, const std::function<void(TableView)>& chosen, QWidget* parent)
+ViewStrip::ViewStrip(TextFitter& fitter, const std::function<void(TableView)>& chosen, QWidget* parent)
     : QWidget(parent) {
     setAccessibleName(QStringLiteral("Προβολές"));
     for (int code = 0; code < viewCount; ++code) {
         const TableView view = *viewOfCode(code);
-        auto* button = &platform::makeQtChild<ViewButton>(view, lettering, this);
+        auto* button = &platform::makeQtChild<ViewButton>(view, fitter, this);
         connect(button, &QAbstractButton::clicked, this, [chosen, view] { chosen(view); });
         buttons_[static_cast<std::size_t>(code)] = button;
     }
@@ -67,7 +67,7 @@ const QWidget& ViewStrip::button(TableView view) const { return *buttons_[static
 
 void ViewStrip::place(const QRect& area, int rows) {
     setGeometry(area);
-    // The last pixel is the line below the strip.
+    // The last row of pixels is the line below the strip.
     const int height = (area.height() - rows) / rows;
     const int end = rows == 1 ? viewCount : secondRow;
     placeRow({0, 0, area.width(), height}, 0, end);

@@ -4,33 +4,34 @@
 #include <array>
 #include <functional>
 
-#include "controls/periodic/Lettering.h"
+#include "controls/periodic/TextFitter.h"
 #include "controls/periodic/model/TableView.h"
 
 namespace controls::periodic {
 
-/// One view in the strip. Only the keyboard gives it the focus, so that a click leaves it to the table.
+/// The button of one view in the strip. A click does not give it the focus, so that the table keeps the
+/// keyboard.
 class ViewButton : public QRadioButton {
   public:
-    ViewButton(TableView view, Lettering& lettering, QWidget* parent);
+    ViewButton(TableView view, TextFitter& fitter, QWidget* parent);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
     bool hitButton(const QPoint& position) const override { return rect().contains(position); }
 
   private:
-    Lettering& lettering_;
+    TextFitter& fitter_;
 };
 
 /// The strip of views at the top of the table.
 class ViewStrip : public QWidget {
   public:
     /// `chosen` is called when the reader chooses a view.
-    ViewStrip(Lettering& lettering, const std::function<void(TableView)>& chosen, QWidget* parent);
+    ViewStrip(TextFitter& fitter, const std::function<void(TableView)>& chosen, QWidget* parent);
 
-    /// Shows which view is on.
+    /// Marks the view that the table shows.
     void setView(TableView view);
-    /// Lays the strip out in one row or two.
+    /// Lays the strip out in one row or in two.
     void place(const QRect& area, int rows);
 
     const QWidget& button(TableView view) const;

@@ -8,7 +8,7 @@
 
 #include "controls/common/Appearance.h"
 
-/// What the browse selection adds to the look that all components share.
+/// The look of the browse selection: that of all components, and what it adds.
 namespace controls::select::appearance {
 
 using controls::appearance::accent;
@@ -22,7 +22,8 @@ inline constexpr QColor entryText{0x33, 0x47, 0x5B};
 inline constexpr QColor hover{0xE8, 0xF1, 0xF6};
 inline constexpr QColor found{0xFF, 0xE4, 0x9C};
 
-/// The accent of a section, the same as on its pages; the general accent for an unknown code.
+/// The accent colour of a section, the same as on its pages. For an unknown code it is that of all
+/// components.
 QColor sectionAccent(std::int16_t code);
 
 /// The font of the list and the field.

@@ -16,11 +16,10 @@ namespace {
 
 constexpr int maxTyped = 100;
 constexpr int iconSize = 16;
-// Below this the text needs the room.
+// A narrower field has no glass, so that more text fits.
 constexpr int narrowWidth = 150;
 
-/// Drawn in each size that it is shown in: on screens of one and a half pixels to a coordinate, too, it is
-/// sharp.
+/// Draws the glass in the size in which it is shown, so that it is sharp on every screen.
 class GlassEngine : public QIconEngine {
   public:
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override {
@@ -57,7 +56,7 @@ FilterField::FilterField(QWidget* parent)
     setContextMenuPolicy(Qt::NoContextMenu);
 }
 
-/// They carry pictures only.
+/// Gives the buttons names for screen readers, because they show pictures only.
 void FilterField::nameButtons() {
     for (QToolButton* const button : findChildren<QToolButton*>()) {
         const bool glass = button->defaultAction() == glass_;

@@ -15,14 +15,14 @@ class FilterField : public QLineEdit {
   public:
     explicit FilterField(QWidget* parent);
 
-    /// Carries out the messages for cut, copy and paste; all others are left alone. Always 0.
+    /// Carries out the messages for cut, copy and paste and ignores all others. The result is always 0.
     platform::LRESULT receive(platform::UINT message);
 
-    /// Types a text as if the field had the focus already.
+    /// Takes the focus and appends a text, as if it had been typed here.
     void takeTyping(const QString& text);
 
   signals:
-    /// A key that leads into the list was pressed.
+    /// Emitted when a key is pressed that leads into the list.
     void leftAtBottom();
 
   protected:

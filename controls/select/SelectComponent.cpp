@@ -73,7 +73,7 @@ std::optional<Variant> SelectComponent::invoke(std::int32_t dispid, platform::In
     return platform::dispatch(*this, operationTable, dispid, kind, arguments);
 }
 
-std::string SelectComponent::version() const { return std::string(controls::version()); }
+std::string SelectComponent::version() const { return std::string(controls::version); }
 
 std::string SelectComponent::getPageTitle(std::int32_t pageId) const {
     std::string title = selection_.pageTitle(pageId);
@@ -81,7 +81,7 @@ std::string SelectComponent::getPageTitle(std::int32_t pageId) const {
     return title;
 }
 
-// Any host is served, and commands for the view are none of this component's.
+// Any host code is accepted. The view's window is not used, because this component sends it no commands.
 void SelectComponent::initialise(std::int16_t, std::string dataFolder, std::int32_t) {
     folder_.emplace(site_.files(), std::move(dataFolder));
     pane_->setIndex(folder_->readIndex());

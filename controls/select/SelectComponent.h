@@ -17,7 +17,7 @@ class SelectPane;
 /// The class id of the browse selection.
 inline constexpr std::string_view classId = "5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E102";
 
-/// The browse selection as its host sees it.
+/// The browse selection with the operations that its host calls.
 class SelectComponent : public platform::Component {
   public:
     SelectComponent(platform::ComponentSite& site, QWidget* parent);
@@ -49,13 +49,13 @@ class SelectComponent : public platform::Component {
     platform::ComponentSite& site_;
     BrowseSelection selection_;
     std::optional<BrowseFolder> folder_;
-    // The parent that the host gave it may destroy it first.
+    // Its Qt parent, which belongs to the host, may destroy it first.
     QPointer<SelectPane> pane_;
     platform::HWND editWindow_ = 0;
     platform::HWND auxWindow_ = 0;
 };
 
-/// Makes the control of a module.
+/// Creates the component of the module.
 std::unique_ptr<platform::Component> createSelectComponent(platform::ComponentSite& site, QWidget* parent);
 
 }  // namespace controls::select

@@ -138,7 +138,7 @@ void SelectPane::narrow(const QString& text) {
     relist([&] { selection_.list().narrow(fromQt(text)); });
     view_->scrollToTop();
     if (const QModelIndex shown = shownIndex(); shown.isValid()) view_->reveal(shown);
-    // What Enter opens must be in sight, even if the place on show is then not.
+    // The line that Enter opens must be visible, even if the place that is shown then is not.
     if (const auto match = selection_.list().firstMatch()) {
         const QModelIndex index = model_->indexOf(*match);
         view_->setCurrentIndex(index);
@@ -174,8 +174,8 @@ void SelectPane::markMoved() {
     revealLater();
 }
 
-// A host that returns to a place sets the section first and asks for the place right after: only where that
-// ends is of interest.
+// A host that returns to a place sets the section first and asks for the place next. Only the last of these
+// places is scrolled to.
 void SelectPane::revealLater() {
     if (std::exchange(revealPending_, true)) return;
     QTimer::singleShot(0, this, &SelectPane::revealShown);
@@ -198,7 +198,7 @@ QModelIndex SelectPane::shownIndex() const {
 
 void SelectPane::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    // Costly, and not needed by a pane that nobody has seen yet.
+    // Set late, because it takes long and a pane that has never been shown does not need it.
     if (styleSheet().isEmpty()) setStyleSheet(appearance::styleSheet());
     revealLater();
 }

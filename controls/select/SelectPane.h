@@ -14,9 +14,8 @@ class FilterField;
 class TopicModel;
 class TopicView;
 
-/// What the reader sees of the browse selection: the section's name, the text field and the list. The pane
-/// changes the selection and shows its state; the events that follow from the reader's choices go to
-/// `onChoice`.
+/// The browse selection on the screen: the name of the section, the text field and the list. The pane changes
+/// the selection and shows its state. It gives the events of the reader's choices to `onChoice`.
 class SelectPane : public QWidget {
     Q_OBJECT
 
@@ -30,7 +29,7 @@ class SelectPane : public QWidget {
     void setSection(std::int16_t code);
     /// Shows a place that the host asks for and returns the answer.
     ChoiceEvents showPlace(const Place& place);
-    /// Opens the first match of the narrowed list, or the line selected in the whole list.
+    /// Chooses the first match of the narrowed list, or the current line of the whole list.
     void openFirst();
 
     FilterField& field() { return *field_; }

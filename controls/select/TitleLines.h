@@ -6,10 +6,10 @@
 
 namespace controls::select {
 
-/// A piece of a title that stands on one line.
+/// The part of a title that stands on one line.
 struct TitleLine {
     QString text;
-    /// Where the piece starts in the title.
+    /// The position of the part in the title.
     qsizetype start = 0;
 };
 

@@ -20,7 +20,7 @@ constexpr int barWidth = 3;
 constexpr int markerWidth = 20;
 constexpr int topicIndent = 22;
 constexpr int entryIndent = 32;
-// Room for the scroll bar is kept free always, so that its coming and going breaks no title anew.
+// Always leaves room for the scroll bar, so that titles do not change their lines when it comes or goes.
 constexpr int rightMargin = 12;
 constexpr int topicPadding = 6;
 constexpr int entryPadding = 4;
@@ -31,7 +31,7 @@ int paddingOf(const QModelIndex& index) { return TopicModel::isTopic(index) ? to
 
 QString titleOf(const QModelIndex& index) { return index.data(Qt::DisplayRole).toString(); }
 
-// The found parts that stand on the line, as background colours.
+/// The matching parts on a line, as ranges with a background colour.
 QList<QTextLayout::FormatRange> foundRanges(const std::vector<Span>& spans, const TitleLine& line) {
     QList<QTextLayout::FormatRange> ranges;
     for (const Span& span : spans) {
@@ -107,7 +107,7 @@ void TopicDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
 void TopicDelegate::paintBackground(QPainter& painter, const QStyleOptionViewItem& option,
                                     const QModelIndex& index) const {
     const TopicModel::Mark mark = modelOf(index).mark(index);
-    // While the reader types, the line that Enter would open stands out like one under the pointer.
+    // While the reader types, the line that Enter would open looks like a line under the pointer.
     const bool pointed = option.state.testFlag(QStyle::State_MouseOver) || index == view_.currentIndex();
     const QColor background = mark == TopicModel::Mark::shown ? appearance::selected
                               : pointed                       ? appearance::hover
@@ -156,7 +156,7 @@ bool TopicDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const 
     if (event->type() != QEvent::ToolTip || !index.isValid()) return false;
     const QString title = titleOf(index);
     const bool elided = breakTitle(title, fontOf(index).font, titleRect(index, option.rect).width()).elided;
-    // As a paragraph the title breaks into lines.
+    // A tool tip breaks its text into lines only when that is HTML.
     const QString tip = elided ? QStringLiteral("<p>%1</p>").arg(title.toHtmlEscaped()) : QString();
     QToolTip::showText(event->globalPos(), tip, view);
     return true;

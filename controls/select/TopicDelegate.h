@@ -9,16 +9,16 @@ class QTreeView;
 
 namespace controls::select {
 
-/// Draws the lines of the list: marker, title on one or two lines with the found parts, and the mark of the
-/// place on show.
+/// Draws the lines of the list: the marker that opens a topic, the title on one or two lines with the
+/// matching parts coloured, and the bar beside the place that is shown.
 class TopicDelegate : public QStyledItemDelegate {
     Q_OBJECT
 
   public:
-    /// Serves one view, which shows a TopicModel.
+    /// The view must show a TopicModel.
     explicit TopicDelegate(QTreeView* view);
 
-    /// The colour of the bar beside the place on show.
+    /// Sets the colour of the bar beside the place that is shown.
     void setAccent(const QColor& accent) { accent_ = accent; }
 
     /// Whether a point of the view lies on the marker that opens and closes the topic.
@@ -27,12 +27,12 @@ class TopicDelegate : public QStyledItemDelegate {
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
-    /// A title that does not fit is told in full.
+    /// Shows a title that does not fit as a tool tip.
     bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                    const QModelIndex& index) override;
 
   private:
-    /// A font and what measuring with it has given.
+    /// A font, and the widths of titles that have been measured with it.
     struct TitleFont {
         explicit TitleFont(const QFont& given) : font(given), metrics(given) {}
         int lineHeight() const { return metrics.lineSpacing() + 1; }
@@ -52,7 +52,7 @@ class TopicDelegate : public QStyledItemDelegate {
 
     QTreeView& view_;
     QColor accent_;
-    // Long lists are measured at every change of the width.
+    // A long list is measured again whenever its width changes, so the widths of titles are kept.
     mutable TitleFont regular_;
     mutable TitleFont bold_;
 };

@@ -9,7 +9,7 @@ namespace controls::select {
 TopicModel::TopicModel(BrowseSelection& selection, QObject* parent)
     : QAbstractItemModel(parent), selection_(selection) {}
 
-// The internal id is 0 for a topic, else one more than the row of the entry's topic.
+// The internal id of a topic is 0, that of an entry is the row of its topic plus one.
 QModelIndex TopicModel::index(int row, int column, const QModelIndex& parent) const {
     if (!hasIndex(row, column, parent)) return {};
     return createIndex(row, column, parent.isValid() ? static_cast<quintptr>(parent.row()) + 1 : quintptr{0});

@@ -7,21 +7,21 @@
 
 namespace controls::select {
 
-/// The browse selection's list as a tree of two levels for Qt's views.
+/// The list of the browse selection as a tree of two levels, for Qt's views.
 class TopicModel : public QAbstractItemModel {
     Q_OBJECT
 
   public:
-    /// How a line stands to the place on show.
+    /// How a line is related to the place that is shown.
     enum class Mark {
         none,
-        parent,  ///< its entry is on show and listed below it
-        shown,   ///< it is on show, or its entry is, but not listed or inside the closed topic
+        parent,  ///< the line is the topic of the place, which stands below it
+        shown,   ///< the line is the place, or its topic when the line of the place is not visible
     };
 
     TopicModel(BrowseSelection& selection, QObject* parent);
 
-    /// Carries out a change of what is listed.
+    /// Carries out a change of the list and tells the view.
     template <class Change>
     void reset(Change&& change) {
         beginResetModel();
@@ -30,7 +30,7 @@ class TopicModel : public QAbstractItemModel {
     }
 
     Row rowOf(const QModelIndex& index) const;
-    /// An invalid index when the line is not listed.
+    /// The index of a line, invalid when the line is not listed.
     QModelIndex indexOf(const Row& row) const;
 
     Mark mark(const QModelIndex& index) const;

@@ -55,7 +55,7 @@ void TopicView::remeasure() {
 
 void TopicView::reveal(const QModelIndex& index) {
     setCurrentIndex(index);
-    // The heights may be due for a new calculation, and an old rectangle would tell nothing.
+    // The heights of lines may have to be computed again; until then their rectangles are wrong.
     executeDelayedItemsLayout();
     if (!viewport()->rect().contains(visualRect(index))) scrollTo(index, PositionAtCenter);
     if (isExpanded(index)) {
@@ -133,7 +133,7 @@ void TopicView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void TopicView::mouseDoubleClickEvent(QMouseEvent* event) {
-    // The first press has chosen the line already; two quick ones on a marker are two.
+    // The first press has already chosen the line. On a marker, a double click counts as two clicks.
     if (delegate_->onMarker(indexAt(event->pos()), event->pos())) {
         mousePressEvent(event);
     } else {
@@ -144,7 +144,7 @@ void TopicView::mouseDoubleClickEvent(QMouseEvent* event) {
 void TopicView::resizeEvent(QResizeEvent* event) {
     QTreeView::resizeEvent(event);
     verticalScrollBar()->setSingleStep(scrollStep);
-    // Titles break elsewhere now.
+    // Titles break into other lines now.
     if (event->size().width() != event->oldSize().width()) scheduleDelayedItemsLayout();
 }
 

@@ -7,7 +7,7 @@ namespace controls::select {
 class TopicDelegate;
 class TopicModel;
 
-/// The list of topics and entries, driven by mouse and keyboard.
+/// The list of topics and entries, with its mouse and keyboard handling.
 class TopicView : public QTreeView {
     Q_OBJECT
 
@@ -16,23 +16,23 @@ class TopicView : public QTreeView {
 
     void setAccent(const QColor& accent);
 
-    /// Has all lines measured and drawn anew, because other titles may be bold now.
+    /// Measures and draws all lines anew. Needed when other titles have become bold.
     void remeasure();
 
-    /// Makes a line the current one and scrolls to it; an opened topic brings its entries along as far as
-    /// they fit.
+    /// Makes a line the current one and scrolls to it. Of an opened topic, as many entries as fit become
+    /// visible too.
     void reveal(const QModelIndex& index);
 
   signals:
-    /// The reader wants to see the line's page.
+    /// Emitted when the reader chooses a line.
     void chosen(const QModelIndex& index);
-    /// A text was typed that belongs into the field.
+    /// Emitted when a text is typed, which belongs into the field.
     void typed(const QString& text);
-    /// Backspace was pressed.
+    /// Emitted when Backspace is pressed.
     void erased();
-    /// The selection should go up, out of the list.
+    /// Emitted when the Up key is pressed on the first line.
     void leftAtTop();
-    /// Esc was pressed.
+    /// Emitted when Esc is pressed.
     void escaped();
 
   protected:

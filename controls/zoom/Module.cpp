@@ -1,27 +1,16 @@
+#include "controls/common/Module.h"
+
 #include <array>
 
 #include "controls/contract/HostMessages.h"
 #include "controls/zoom/MoleculeZoom.h"
-#include "platform/components/ComponentModule.h"
 
-// The version that the file tells; the first three numbers are those that the component reports.
-__attribute__((section(".kalyxo.version"), used)) const char versionText[] = "1.0.40.0";
+namespace {
 
-extern "C" {
+constexpr std::array commands = {controls::showEnlargedView};
 
-__attribute__((visibility("default"))) void DllRegisterServer(platform::ModuleRegistrar& registrar);
-__attribute__((visibility("default"))) const platform::ComponentModule* DllGetClassObject();
+}  // namespace
 
-void DllRegisterServer(platform::ModuleRegistrar& registrar) {
-    registrar.registerClass(controls::zoom::classId);
-}
-
-const platform::ComponentModule* DllGetClassObject() {
-    static constexpr std::array commands = {controls::showEnlargedView};
-    static constexpr platform::ComponentModule module{.classId = controls::zoom::classId,
-                                                      .create = controls::zoom::createMoleculeZoom,
-                                                      .pagePart = {":/zoom/zoom.html", commands}};
-    return &module;
-}
-
-}  // extern "C"
+const platform::ComponentModule controls::componentModule{.classId = controls::zoom::classId,
+                                                          .create = controls::zoom::createMoleculeZoom,
+                                                          .pagePart = {":/zoom/zoom.html", commands}};

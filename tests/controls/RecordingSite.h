@@ -9,7 +9,7 @@
 
 #include "platform/components/Component.h"
 
-/// Host of a control under test: notes the events raised, and calls operations by id.
+/// The host of a component under test. It records the events that the component raises.
 class RecordingSite : public platform::ComponentSite {
   public:
     struct Event {
@@ -31,36 +31,40 @@ class RecordingSite : public platform::ComponentSite {
     std::vector<Event> events;
 };
 
+/// @name Calls of operations by id.
+/// @{
 template <class... A>
-std::optional<platform::Variant> invoke(platform::Component& control, std::int32_t dispid,
+std::optional<platform::Variant> invoke(platform::Component& component, std::int32_t dispid,
                                         platform::InvokeKind kind, A&&... arguments) {
     const std::vector<platform::Variant> values{platform::Variant(std::forward<A>(arguments))...};
-    return control.invoke(dispid, kind, values);
+    return component.invoke(dispid, kind, values);
 }
 
 template <class... A>
-void call(platform::Component& control, std::int32_t dispid, A&&... arguments) {
-    const auto result = invoke(control, dispid, platform::InvokeKind::method, std::forward<A>(arguments)...);
+void call(platform::Component& component, std::int32_t dispid, A&&... arguments) {
+    const auto result =
+        invoke(component, dispid, platform::InvokeKind::method, std::forward<A>(arguments)...);
     ASSERT_TRUE(result && result->empty()) << "operation " << dispid;
 }
 
-/// The result of an operation, which must be of this type.
+/// Calls an operation whose result must be of the type `R`.
 template <class R, class... A>
-R ask(platform::Component& control, std::int32_t dispid, platform::InvokeKind kind, A&&... arguments) {
+R ask(platform::Component& component, std::int32_t dispid, platform::InvokeKind kind, A&&... arguments) {
     const std::optional<platform::Variant> result =
-        invoke(control, dispid, kind, std::forward<A>(arguments)...);
+        invoke(component, dispid, kind, std::forward<A>(arguments)...);
     const R* value = result ? result->get<R>() : nullptr;
     EXPECT_NE(value, nullptr) << "operation " << dispid;
     return value ? *value : R();
 }
 
 template <class R>
-R property(platform::Component& control, std::int32_t dispid) {
-    return ask<R>(control, dispid, platform::InvokeKind::propertyGet);
+R property(platform::Component& component, std::int32_t dispid) {
+    return ask<R>(component, dispid, platform::InvokeKind::propertyGet);
 }
 
 template <class T>
-void put(platform::Component& control, std::int32_t dispid, T value) {
-    const auto result = invoke(control, dispid, platform::InvokeKind::propertyPut, value);
+void put(platform::Component& component, std::int32_t dispid, T value) {
+    const auto result = invoke(component, dispid, platform::InvokeKind::propertyPut, value);
     ASSERT_TRUE(result && result->empty()) << "property " << dispid;
 }
+/// @}

@@ -18,8 +18,8 @@
 #include "controls/dataanalyser/look/CategoryLook.h"
 #include "controls/dataanalyser/look/ShownText.h"
 #include "controls/dataanalyser/model/Analyser.h"
-#include "controls/dataanalyser/model/FigureText.h"
 #include "controls/dataanalyser/model/RowNames.h"
+#include "controls/elements/NumberText.h"
 
 namespace controls::dataanalyser {
 
@@ -28,7 +28,7 @@ namespace {
 constexpr int labelPixels = 11;
 constexpr int titlePixels = 12;
 constexpr int headingPixels = 15;
-// Least distances of ticks: numbers beside each other need more room than those above each other.
+// Minimal distances of ticks. Numbers beside each other need more room than numbers above each other.
 constexpr double tickPixelsAcross = 80;
 constexpr double tickPixelsUp = 45;
 constexpr double decadePixelsUp = 25;
@@ -38,7 +38,7 @@ constexpr double legendPixels = 10;
 constexpr double legendLine = 22;
 constexpr double legendSurroundings = 50;
 
-QString figure(double value) { return shownFigures(toQt(shortFigure(value, 6))); }
+QString figure(double value) { return shownFigures(toQt(shortNumber(value, 6))); }
 
 std::string_view nameOf(const Analyser& analyser) { return analyser.dataSet().title; }
 
@@ -66,17 +66,18 @@ QScatterSeries::MarkerShape legendShape(PointShape shape) {
     }
 }
 
-// What is made here belongs to the chart.
+// The chart owns what is made here.
 // NOLINTBEGIN(cppcoreguidelines-owning-memory)
 
 int decadeOf(double power) { return static_cast<int>(std::lround(std::log10(power))); }
 
 QString decadeText(int decade) {
     if (decade < -4 || decade > 6) return shownFormula(QStringLiteral("10^%1").arg(decade));
-    return toQt(fixedFigure(std::pow(10, decade), std::max(0, -decade)));
+    return toQt(fixedNumber(std::pow(10, decade), std::max(0, -decade)));
 }
 
-/// An axis of the decimal logarithms: the library's own logarithmic axis can write no more than "1E-07".
+/// Makes an axis of the decimal logarithms with texts of its own. Qt's logarithmic axis can only write
+/// "1E-07".
 QAbstractAxis* makeLogarithmicAxis(const AxisRange& range, double ticks) {
     auto* axis = new QCategoryAxis();
     axis->setLabelsPosition(QCategoryAxis::AxisLabelsPositionOnValue);
@@ -89,13 +90,13 @@ QAbstractAxis* makeLogarithmicAxis(const AxisRange& range, double ticks) {
     return axis;
 }
 
-/// A number as the axis has it.
+/// A number as its axis counts it.
 double onAxis(const AxisRange& range, double value) { return range.logarithmic ? std::log10(value) : value; }
 
-QAbstractAxis* makeLinearAxis(const AxisRange& range, double ticks, double leastDistance) {
+QAbstractAxis* makeLinearAxis(const AxisRange& range, double ticks, double minDistance) {
     auto* axis = new QValueAxis();
     const int parts = std::max(2, static_cast<int>(ticks));
-    const double distance = std::max(tickDistance(range.span(), parts), leastDistance);
+    const double distance = std::max(tickDistance(range.span(), parts), minDistance);
     axis->setTickType(QValueAxis::TicksDynamic);
     axis->setTickAnchor(0);
     axis->setTickInterval(distance);
@@ -106,9 +107,9 @@ QAbstractAxis* makeLinearAxis(const AxisRange& range, double ticks, double least
     return axis;
 }
 
-QAbstractAxis* makeAxis(const AxisRange& range, const QString& title, double ticks, double leastDistance) {
+QAbstractAxis* makeAxis(const AxisRange& range, const QString& title, double ticks, double minDistance) {
     QAbstractAxis* axis =
-        range.logarithmic ? makeLogarithmicAxis(range, ticks) : makeLinearAxis(range, ticks, leastDistance);
+        range.logarithmic ? makeLogarithmicAxis(range, ticks) : makeLinearAxis(range, ticks, minDistance);
     axis->setTitleText(title);
     axis->setTitleFont(appearance::font(titlePixels, QFont::DemiBold));
     axis->setLabelsFont(appearance::font(labelPixels));
@@ -122,7 +123,7 @@ QAbstractAxis* makeAxis(const AxisRange& range, const QString& title, double tic
 }  // namespace
 
 GraphChart::GraphChart() : marks_(new GraphMarks(this)), hover_(new GraphHover(this)) {
-    // Greek numbers have a hyphen for a minus; these are written alike but for a true one.
+    // Qt writes Greek numbers with a hyphen for a minus. Finnish numbers are the same, but with a true minus.
     QLocale numbers(QLocale::Finnish);
     numbers.setNumberOptions(QLocale::OmitGroupSeparator);
     setLocale(numbers);
@@ -143,7 +144,8 @@ GraphChart::GraphChart() : marks_(new GraphMarks(this)), hover_(new GraphHover(t
 }
 
 void GraphChart::showGraph(const Analyser& analyser) {
-    // What was hovered is a mark of the former graph, maybe of another data set.
+    // The hovered mark belongs to the former graph, which may be of another data set. Its row is hovered
+    // again.
     const int row = shownSet_ == analyser.dataSet().number ? hoveredRow() : -1;
     setHovered(-1);
     analyser_ = &analyser;
@@ -157,26 +159,26 @@ void GraphChart::showGraph(const Analyser& analyser) {
     const GraphWindow window = analyser.window(graph);
     const Categories& categories = analyser.categories();
     setTitle(toQt(nameOf(analyser)));
-    GraphScenery scenery{{}, window, {}, {}, barNames(analyser, graph), 0};
+    GraphContent content{{}, window, {}, {}, barNames(analyser, graph), 0};
     for (int i = 0; i < static_cast<int>(categories.names.size()); ++i) {
-        scenery.categories.push_back(categoryLook(categories, i));
+        content.categories.push_back(categoryLook(categories, i));
     }
-    for (const std::int16_t id : analyser.selected()) scenery.selected.insert(analyser.placeOf(id));
-    scenery.nameSpace = scenery.names.empty() ? 8 : GraphMarks::spaceFor(scenery.names, size().height());
-    setMargins(QMargins(12, 8, 12, scenery.nameSpace));
+    for (const std::int16_t id : analyser.selected()) content.selected.insert(analyser.placeOf(id));
+    content.nameSpace = content.names.empty() ? 8 : GraphMarks::spaceFor(content.names, size().height());
+    setMargins(QMargins(12, 8, 12, content.nameSpace));
     setAxes(graph, window.x, window.y);
     addLines(graph, window);
     addLegendEntries(analyser, graph);
-    scenery.graph = std::move(graph);
-    marks_->setScenery(std::move(scenery));
+    content.graph = std::move(graph);
+    marks_->setContent(std::move(content));
     placeMarks();
-    const auto& marks = marks_->scenery().graph.marks;
+    const auto& marks = marks_->content().graph.marks;
     const auto still = std::ranges::find(marks, row, &GraphMark::row);
     if (row >= 0 && still != marks.end()) setHovered(static_cast<int>(still - marks.begin()));
 }
 
 int GraphChart::hoveredRow() const {
-    return hovered_ < 0 ? -1 : marks_->scenery().graph.marks[static_cast<std::size_t>(hovered_)].row;
+    return hovered_ < 0 ? -1 : marks_->content().graph.marks[static_cast<std::size_t>(hovered_)].row;
 }
 
 void GraphChart::setAxes(const Graph& graph, const AxisRange& x, const AxisRange& y) {
@@ -192,7 +194,7 @@ void GraphChart::setAxes(const Graph& graph, const AxisRange& x, const AxisRange
         across->setLabelsVisible(false);
         across->setGridLineVisible(false);
         across->setTitleVisible(false);
-        // The names are the marks of this axis; of its own it has only those at its ends.
+        // The names of the bars take the place of ticks, so this axis has ticks at its ends only.
         static_cast<QValueAxis*>(across)->setTickAnchor(x.from);
         static_cast<QValueAxis*>(across)->setTickInterval(x.span());
     }
@@ -228,13 +230,13 @@ void GraphChart::addLines(const Graph& graph, const GraphWindow& window) {
     addSeries(*line);
     for (QLegendMarker* marker : legend()->markers(line)) marker->setVisible(false);
     const QString words = shownFigures(toQt(equation(*graph.fit, graph.plan.logX, graph.plan.logY))) +
-                          QStringLiteral(",   r² = ") + toQt(fixedFigure(graph.fit->rSquared, 4));
+                          QStringLiteral(",   r² = ") + toQt(fixedNumber(graph.fit->rSquared, 4));
     setTitle(title() + QStringLiteral(":&nbsp; <span style=\"font-weight:normal\">%1</span>").arg(words));
 }
 
 void GraphChart::addLegendEntries(const Analyser& analyser, const Graph& graph) {
     const std::set<int> present = graph.categories();
-    // A legend that is cut off tells less than none.
+    // A legend that does not fit is left out.
     const bool fits = size().width() > roomForLegend &&
                       static_cast<double>(present.size()) * legendLine < size().height() - legendSurroundings;
     legend()->setVisible(present.size() > 1 && fits);
@@ -259,11 +261,11 @@ void GraphChart::placeMarks() {
 }
 
 void GraphChart::setHovered(int index) {
-    const auto& marks = marks_->scenery().graph.marks;
+    const auto& marks = marks_->content().graph.marks;
     hovered_ = index >= 0 && index < static_cast<int>(marks.size()) ? index : -1;
     if (hovered_ < 0) return hover_->hide();
     const QPointF place = marks_->place(marks[static_cast<std::size_t>(hovered_)]);
-    if (!plotArea().adjusted(-1, -1, 1, 1).contains(place) && marks_->scenery().graph.plan.hasPoints()) {
+    if (!plotArea().adjusted(-1, -1, 1, 1).contains(place) && marks_->content().graph.plan.hasPoints()) {
         return hover_->hide();
     }
     hover_->showAt(place, linesOf(hovered_), boundingRect());
@@ -272,7 +274,7 @@ void GraphChart::setHovered(int index) {
 QStringList GraphChart::hoverLines() const { return hovered_ < 0 ? QStringList() : hover_->lines(); }
 
 QStringList GraphChart::linesOf(int index) const {
-    const Graph& graph = marks_->scenery().graph;
+    const Graph& graph = marks_->content().graph;
     const GraphMark& mark = graph.marks[static_cast<std::size_t>(index)];
     if (graph.plan.kind == GraphKind::histogram) {
         return {QStringLiteral("%1 έως %2").arg(figure(mark.left), figure(mark.right)),

@@ -14,22 +14,22 @@ struct AxisRange;
 struct Graph;
 struct GraphWindow;
 
-/// The graph that the analyser tells of, as a chart: axes, lines and legend are Qt Charts' own, points and
-/// bars are `GraphMarks`.
+/// The graph of the analyser as a chart. Qt Charts draws axes, lines and legend; `GraphMarks` draws points
+/// and bars.
 class GraphChart : public QChart {
   public:
     GraphChart();
 
-    /// Draws everything anew.
+    /// Draws the graph anew.
     void showGraph(const Analyser& analyser);
     const GraphMarks& marks() const { return *marks_; }
 
-    /// Shows the name of a mark by its index; −1 for none.
+    /// Marks a point or bar as hovered and shows its label; −1 for none.
     void setHovered(int index);
     int hovered() const { return hovered_; }
-    /// The row of the mark hovered, −1 for none.
+    /// The row of the hovered mark, −1 for none.
     int hoveredRow() const;
-    /// The words beside the mark hovered; empty for none.
+    /// The lines of the label, empty when nothing is hovered.
     QStringList hoverLines() const;
 
   private:
@@ -40,7 +40,7 @@ class GraphChart : public QChart {
     void placeMarks();
     QStringList linesOf(int index) const;
 
-    // Theirs is the chart, as it is of all series and axes.
+    // The chart is their Qt parent and owns them, like all series and axes.
     GraphMarks* marks_;
     GraphHover* hover_;
     const Analyser* analyser_ = nullptr;

@@ -5,12 +5,12 @@
 
 namespace controls::dataanalyser {
 
-/// The mark under the pointer: a ring around it and a label with its name.
+/// Shows which mark is under the pointer: a ring around it and a label.
 class GraphHover : public QGraphicsItem {
   public:
     explicit GraphHover(QGraphicsItem* parent);
 
-    /// Shows the label beside a place, within `area`; the first line is the name.
+    /// Shows the ring at a place and the label beside it, within `area`. The first line is the name.
     void showAt(const QPointF& place, const QStringList& lines, const QRectF& area);
     const QStringList& lines() const { return lines_; }
 

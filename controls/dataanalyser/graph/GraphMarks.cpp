@@ -15,10 +15,10 @@ constexpr double pointRadius = 4;
 constexpr double smallPointRadius = 2.5;
 constexpr std::size_t manyPoints = 1000;
 constexpr double reach = 12;
-constexpr double leastNameWidth = 11;
+constexpr double minNameWidth = 11;
 constexpr int namePixels = 11;
-constexpr int leastNameSpace = 120;
-constexpr int mostNameSpace = 180;
+constexpr int minNameSpace = 120;
+constexpr int maxNameSpace = 180;
 constexpr int nameGap = 8;
 
 QColor halfway(const QColor& one, const QColor& other) {
@@ -34,8 +34,8 @@ GraphMarks::GraphMarks(QGraphicsItem* parent) : QGraphicsItem(parent) {
     setZValue(20);
 }
 
-void GraphMarks::setScenery(GraphScenery scenery) {
-    scenery_ = std::move(scenery);
+void GraphMarks::setContent(GraphContent content) {
+    content_ = std::move(content);
     update();
 }
 
@@ -45,20 +45,20 @@ void GraphMarks::setPlotArea(const QRectF& area) {
 }
 
 double GraphMarks::across(double x) const {
-    return plotArea_.left() + scenery_.window.x.place(x) * plotArea_.width();
+    return plotArea_.left() + content_.window.x.place(x) * plotArea_.width();
 }
 
 double GraphMarks::down(double y) const {
-    return plotArea_.bottom() - scenery_.window.y.place(y) * plotArea_.height();
+    return plotArea_.bottom() - content_.window.y.place(y) * plotArea_.height();
 }
 
 QPointF GraphMarks::place(const GraphMark& mark) const {
-    return scenery_.graph.plan.hasPoints() ? QPointF(across(mark.x), down(mark.y))
+    return content_.graph.plan.hasPoints() ? QPointF(across(mark.x), down(mark.y))
                                            : QPointF(barOf(mark).center().x(), down(mark.y));
 }
 
 QRectF GraphMarks::barOf(const GraphMark& mark) const {
-    const AxisRange& y = scenery_.window.y;
+    const AxisRange& y = content_.window.y;
     const double foot = y.logarithmic ? plotArea_.bottom() : down(0);
     const QRectF bar(QPointF(across(mark.left), down(mark.y)), QPointF(across(mark.right), foot));
     return bar.normalized();
@@ -66,16 +66,16 @@ QRectF GraphMarks::barOf(const GraphMark& mark) const {
 
 int GraphMarks::markAt(const QPointF& position) const {
     if (!plotArea_.adjusted(-reach, -reach, reach, reach).contains(position)) return -1;
-    const auto& marks = scenery_.graph.marks;
+    const auto& marks = content_.graph.marks;
     int nearest = -1;
-    double least = reach;
+    double nearestDistance = reach;
     for (std::size_t i = 0; i < marks.size(); ++i) {
         const QPointF away = place(marks[i]) - position;
-        if (!scenery_.graph.plan.hasPoints()) {
+        if (!content_.graph.plan.hasPoints()) {
             const QRectF bar = barOf(marks[i]);
             if (position.x() >= bar.left() && position.x() < bar.right()) return static_cast<int>(i);
-        } else if (const double distance = std::hypot(away.x(), away.y()); distance < least) {
-            least = distance;
+        } else if (const double distance = std::hypot(away.x(), away.y()); distance < nearestDistance) {
+            nearestDistance = distance;
             nearest = static_cast<int>(i);
         }
     }
@@ -86,25 +86,25 @@ int GraphMarks::spaceFor(const std::vector<QString>& names, double height) {
     const QFontMetrics metrics(appearance::font(namePixels));
     int widest = 2 * nameGap;
     for (const QString& name : names) widest = std::max(widest, metrics.horizontalAdvance(name));
-    // A pixel more, as widths are rounded.
+    // One pixel more, because widths are rounded.
     return std::min(widest + 1 + nameGap,
-                    std::clamp(static_cast<int>(height / 4), leastNameSpace, mostNameSpace));
+                    std::clamp(static_cast<int>(height / 4), minNameSpace, maxNameSpace));
 }
 
-QRectF GraphMarks::boundingRect() const { return plotArea_.adjusted(-60, -10, 60, mostNameSpace); }
+QRectF GraphMarks::boundingRect() const { return plotArea_.adjusted(-60, -10, 60, maxNameSpace); }
 
 CategoryLook GraphMarks::lookOf(const GraphMark& mark) const {
     const auto category = static_cast<std::size_t>(mark.category);
-    if (mark.category >= 0 && category < scenery_.categories.size()) return scenery_.categories[category];
+    if (mark.category >= 0 && category < content_.categories.size()) return content_.categories[category];
     return {appearance::familyColors(Family::transition)};
 }
 
 void GraphMarks::paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget*) {
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    if (scenery_.graph.plan.kind == GraphKind::bar) paintNames(*painter);
+    if (content_.graph.plan.kind == GraphKind::bar) paintNames(*painter);
     painter->setClipRect(plotArea_.adjusted(-pointRadius, -pointRadius, pointRadius, pointRadius));
-    if (scenery_.graph.plan.hasPoints()) {
+    if (content_.graph.plan.hasPoints()) {
         paintPoints(*painter, option->exposedRect.adjusted(-reach, -reach, reach, reach));
     } else {
         painter->setClipRect(plotArea_);
@@ -114,7 +114,7 @@ void GraphMarks::paint(QPainter* painter, const QStyleOptionGraphicsItem* option
 }
 
 void GraphMarks::paintPoints(QPainter& painter, const QRectF& exposed) const {
-    const auto& marks = scenery_.graph.marks;
+    const auto& marks = content_.graph.marks;
     const double size = marks.size() > manyPoints ? smallPointRadius : pointRadius;
     int category = -2;
     CategoryLook look;
@@ -129,22 +129,22 @@ void GraphMarks::paintPoints(QPainter& painter, const QRectF& exposed) const {
         }
         paintPoint(painter, look.shape, at, size);
     }
-    if (scenery_.selected.empty()) return;
+    if (content_.selected.empty()) return;
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(appearance::text, 2));
     for (const GraphMark& mark : marks) {
-        if (scenery_.selected.contains(mark.row)) painter.drawEllipse(place(mark), size + 3, size + 3);
+        if (content_.selected.contains(mark.row)) painter.drawEllipse(place(mark), size + 3, size + 3);
     }
 }
 
 void GraphMarks::paintBars(QPainter& painter) const {
-    const bool hasGroups = scenery_.graph.categories().size() > 1;
-    for (const GraphMark& mark : scenery_.graph.marks) {
+    const bool hasGroups = content_.graph.categories().size() > 1;
+    for (const GraphMark& mark : content_.graph.marks) {
         const QRectF bar = barOf(mark);
         if (!bar.adjusted(-1, -1, 1, 1).intersects(plotArea_)) continue;
         const CategoryLook look = lookOf(mark);
         const QColor& edge = look.colors.edge;
-        const bool chosen = scenery_.selected.contains(mark.row);
+        const bool chosen = content_.selected.contains(mark.row);
         const bool wide = bar.width() > 4;
         painter.setBrush(chosen || !wide ? edge : halfway(edge, appearance::paper));
         painter.setPen(wide ? QPen(chosen ? appearance::text : edge, 1) : QPen(Qt::NoPen));
@@ -157,20 +157,20 @@ void GraphMarks::paintBars(QPainter& painter) const {
 }
 
 void GraphMarks::paintNames(QPainter& painter) const {
-    const auto& marks = scenery_.graph.marks;
-    const double width = plotArea_.width() / scenery_.window.x.span();
+    const auto& marks = content_.graph.marks;
+    const double width = plotArea_.width() / content_.window.x.span();
     painter.setFont(appearance::font(namePixels));
     const QFontMetrics metrics(painter.font());
     painter.setPen(appearance::text);
-    // Where bars are too narrow for each to have its name, only some have.
-    const auto step = static_cast<std::size_t>(std::max(1.0, std::ceil(leastNameWidth / width)));
+    // When the bars are too narrow for all names, only some are drawn.
+    const auto step = static_cast<std::size_t>(std::max(1.0, std::ceil(minNameWidth / width)));
     const double room = width * static_cast<double>(step);
     const bool level = std::ranges::all_of(
-        scenery_.names, [&](const QString& name) { return metrics.horizontalAdvance(name) + 4 < room; });
-    for (std::size_t i = 0; i < marks.size() && i < scenery_.names.size(); i += step) {
+        content_.names, [&](const QString& name) { return metrics.horizontalAdvance(name) + 4 < room; });
+    for (std::size_t i = 0; i < marks.size() && i < content_.names.size(); i += step) {
         const double x = across(marks[i].x);
         if (x < plotArea_.left() || x > plotArea_.right()) continue;
-        const QString& name = scenery_.names[i];
+        const QString& name = content_.names[i];
         if (level) {
             painter.drawText(QRectF(x - room / 2, plotArea_.bottom() + 4, room, 16), Qt::AlignCenter, name);
             continue;
@@ -178,7 +178,7 @@ void GraphMarks::paintNames(QPainter& painter) const {
         painter.save();
         painter.translate(x, plotArea_.bottom() + 4);
         painter.rotate(-90);
-        const int length = scenery_.nameSpace - nameGap;
+        const int length = content_.nameSpace - nameGap;
         painter.drawText(QRectF(-length, -8, length, 16), Qt::AlignRight | Qt::AlignVCenter,
                          metrics.elidedText(name, Qt::ElideRight, length));
         painter.restore();

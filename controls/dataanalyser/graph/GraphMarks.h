@@ -10,36 +10,35 @@
 namespace controls::dataanalyser {
 
 /// What `GraphMarks` draws.
-struct GraphScenery {
+struct GraphContent {
     Graph graph;
-    GraphWindow window;                    ///< the part of the graph on show
-    std::vector<CategoryLook> categories;  ///< one for each category
-    std::set<int> selected;                ///< rows, by place
-    std::vector<QString> names;            ///< under a bar graph, one for each mark
-    int nameSpace = 0;                     ///< below the axis, in pixels
+    GraphWindow window;                    ///< the part of the graph that is shown
+    std::vector<CategoryLook> categories;  ///< the look of each category
+    std::set<int> selected;                ///< the selected rows, by their places in the data set
+    std::vector<QString> names;            ///< the names under the bars, one for each mark
+    int nameSpace = 0;                     ///< the height of the names below the axis, in pixels
 };
 
-/// The points or bars of a graph, all in one: ten thousand graphics items would be slow.
+/// All points or bars of a graph. They are one graphics item, because ten thousand items would be slow.
 class GraphMarks : public QGraphicsItem {
   public:
     explicit GraphMarks(QGraphicsItem* parent);
 
-    void setScenery(GraphScenery scenery);
-    const GraphScenery& scenery() const { return scenery_; }
-    /// Where on the chart the plane lies.
+    void setContent(GraphContent content);
+    const GraphContent& content() const { return content_; }
+    /// The area of the chart between its axes.
     void setPlotArea(const QRectF& area);
     const QRectF& plotArea() const { return plotArea_; }
 
-    /// The place of a mark on the chart: that of a point, or the middle of the end of a bar.
+    /// The place of a mark on the chart: a point itself, or the middle of the upper end of a bar.
     QPointF place(const GraphMark& mark) const;
-    /// The index of the mark at a place of the chart: the nearest point within reach, or the bar there; −1
-    /// for none.
+    /// The index of the nearest point within reach of a place of the chart, or of the bar there; −1 for none.
     int markAt(const QPointF& position) const;
 
     QRectF boundingRect() const override;
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
-    /// The space for names under the axis of a bar graph in a chart of this height, all in pixels.
+    /// The height in pixels that names under a bar graph need, in a chart of this height.
     static int spaceFor(const std::vector<QString>& names, double height);
 
   private:
@@ -51,7 +50,7 @@ class GraphMarks : public QGraphicsItem {
     void paintBars(QPainter& painter) const;
     void paintNames(QPainter& painter) const;
 
-    GraphScenery scenery_;
+    GraphContent content_;
     QRectF plotArea_;
 };
 

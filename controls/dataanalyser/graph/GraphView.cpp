@@ -20,7 +20,7 @@ constexpr double keyFactor = 0.7;
 constexpr double wheelFactor = 0.8;
 constexpr double wheelStep = 120;
 constexpr double keyMove = 0.2;
-constexpr int leastFrame = 8;
+constexpr int minFrame = 8;
 
 }  // namespace
 
@@ -44,11 +44,11 @@ GraphView::GraphView(Analyser& analyser, std::function<void()> copy, QWidget* pa
 
 void GraphView::refresh() { chart_->showGraph(analyser_); }
 
-int GraphView::leftOut() const { return chart_->marks().scenery().graph.leftOut; }
+int GraphView::leftOut() const { return chart_->marks().content().graph.leftOut; }
 
-GraphWindow GraphView::window() const { return chart_->marks().scenery().window; }
+GraphWindow GraphView::window() const { return chart_->marks().content().window; }
 
-const GraphWindow& GraphView::whole() const { return chart_->marks().scenery().graph.whole; }
+const GraphWindow& GraphView::whole() const { return chart_->marks().content().graph.whole; }
 
 QPointF GraphView::placeOn(const QPointF& position) const {
     const QRectF& area = chart_->marks().plotArea();
@@ -63,8 +63,8 @@ void GraphView::zoom(double factor) {
 
 void GraphView::zoomAbout(double factor, const QPointF& place) {
     const GraphWindow now = window();
-    // Bars that lose their feet, or are not reached at all, tell nothing.
-    const bool upright = chart_->marks().scenery().graph.plan.hasPoints() || factor > 1;
+    // Bars keep their feet: zooming in changes only the horizontal axis of a bar graph.
+    const bool upright = chart_->marks().content().graph.plan.hasPoints() || factor > 1;
     const GraphWindow next{zoomed(now.x, factor, place.x(), whole().x),
                            upright ? zoomed(now.y, factor, place.y(), whole().y) : now.y};
     analyser_.setWindow(next == whole() ? std::nullopt : std::optional(next));
@@ -86,7 +86,7 @@ void GraphView::move(double across, double up) {
 }
 
 void GraphView::step(int by) {
-    const auto count = static_cast<int>(chart_->marks().scenery().graph.marks.size());
+    const auto count = static_cast<int>(chart_->marks().content().graph.marks.size());
     if (count == 0) return;
     chart_->setHovered((std::max(chart_->hovered() + by, by > 0 ? 0 : -1) + count) % count);
     setAccessibleDescription(chart_->hoverLines().join(QStringLiteral(", ")));
@@ -94,7 +94,7 @@ void GraphView::step(int by) {
 
 void GraphView::chooseHovered(bool toggle) {
     const int row = chart_->hoveredRow();
-    // The analyser may be at another data set already, a moment before the chart is.
+    // The analyser may already have another data set, a moment before the chart shows it.
     if (row < 0 || static_cast<std::size_t>(row) >= analyser_.dataSet().rowCount()) return;
     const std::int16_t id = analyser_.idAt(row);
     auto ids = toggle ? analyser_.selected() : std::vector<std::int16_t>();
@@ -119,7 +119,7 @@ void GraphView::mouseMoveEvent(QMouseEvent* event) {
     if (pressed_ && (event->buttons() & Qt::LeftButton)) {
         const QRect frame = QRect(*pressed_, at).normalized();
         frame_->setGeometry(frame);
-        frame_->setVisible(std::max(frame.width(), frame.height()) > leastFrame);
+        frame_->setVisible(std::max(frame.width(), frame.height()) > minFrame);
         return;
     }
     chart_->setHovered(chart_->marks().markAt(chart_->mapFromScene(mapToScene(at))));
@@ -130,7 +130,7 @@ void GraphView::mouseReleaseEvent(QMouseEvent* event) {
     const QRect frame =
         QRect(*std::exchange(pressed_, std::nullopt), event->position().toPoint()).normalized();
     frame_->hide();
-    if (frame.width() > leastFrame && frame.height() > leastFrame) return zoomInto(frame);
+    if (frame.width() > minFrame && frame.height() > minFrame) return zoomInto(frame);
     chart_->setHovered(chart_->marks().markAt(chart_->mapFromScene(mapToScene(frame.center()))));
     chooseHovered((event->modifiers() & Qt::ControlModifier) != 0);
 }
@@ -163,13 +163,13 @@ bool GraphView::zoomByKey(int key) {
 }
 
 bool GraphView::moveByKey(const QKeyEvent& event) {
-    const bool whole = !(event.modifiers() & Qt::ShiftModifier);
+    const bool byMark = !(event.modifiers() & Qt::ShiftModifier);
     switch (event.key()) {
         case Qt::Key_Right:
-            whole ? step(1) : move(keyMove, 0);
+            byMark ? step(1) : move(keyMove, 0);
             return true;
         case Qt::Key_Left:
-            whole ? step(-1) : move(-keyMove, 0);
+            byMark ? step(-1) : move(-keyMove, 0);
             return true;
         case Qt::Key_Up:
             move(0, keyMove);
@@ -198,7 +198,7 @@ void GraphView::leaveEvent(QEvent* event) {
 namespace {
 
 GraphPane* makePane(Analyser& analyser, std::function<void()> copy, QWidget* parent) {
-    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): its Qt parent has it
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): its Qt parent owns it
     return new GraphView(analyser, std::move(copy), parent);
 }
 
@@ -216,7 +216,7 @@ void paintGraph(Analyser& analyser, QPainter& painter, const QRectF& area, doubl
 }  // namespace
 
 const GraphParts* linkedGraphParts() {
-    static const GraphParts parts{controls::version(), makePane, paintGraph};
+    static const GraphParts parts{controls::version, makePane, paintGraph};
     return &parts;
 }
 

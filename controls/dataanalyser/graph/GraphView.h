@@ -14,10 +14,11 @@ class Analyser;
 class GraphChart;
 struct GraphWindow;
 
-/// The graph on the screen: names under the pointer, zoom by wheel, frame and keys.
+/// The graph on the screen. It shows the names of points under the pointer and zooms by wheel, mouse and
+/// keys.
 class GraphView : public QChartView, public GraphPane {
   public:
-    /// `copy` is called when the reader asks to copy the graph by key.
+    /// `copy` is called when the reader presses the keys for copying.
     GraphView(Analyser& analyser, std::function<void()> copy, QWidget* parent);
 
     QWidget& widget() override { return *this; }

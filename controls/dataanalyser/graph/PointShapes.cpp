@@ -8,7 +8,7 @@ namespace controls::dataanalyser {
 
 namespace {
 
-/// The corners, the first above the middle, by turns at this and at the other distance from it.
+/// The corners of a polygon around 0, 0, the first at the top. Their distances from the middle alternate.
 QPolygonF corners(int count, double distance, double other) {
     QPolygonF polygon;
     for (int i = 0; i < count; ++i) {

@@ -7,7 +7,7 @@ class QPointF;
 
 namespace controls::dataanalyser {
 
-/// Draws a point with the painter's pen and brush, as large to the eye as a circle of this radius.
+/// Draws a point with the painter's pen and brush. All shapes look as large as a circle of this radius.
 void paintPoint(QPainter& painter, PointShape shape, const QPointF& place, double radius);
 
 }  // namespace controls::dataanalyser

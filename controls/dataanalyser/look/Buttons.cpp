@@ -5,7 +5,7 @@
 
 namespace controls::dataanalyser {
 
-// What is made here belongs to its Qt parent.
+// Qt parents own what is made here.
 // NOLINTBEGIN(cppcoreguidelines-owning-memory)
 
 QPushButton* makeButton(const QString& text, const QString& name, QWidget* parent) {
@@ -23,7 +23,7 @@ QPushButton* makeToggle(const QString& text, const QString& name, QWidget* paren
 
 void addChoice(QButtonGroup& group, int id, const QString& text, const QString& name, QWidget* parent) {
     QPushButton* button = makeToggle(text, name, parent);
-    // By this it is a radio button to assistive technology.
+    // Screen readers then call it a radio button.
     button->setAutoExclusive(true);
     group.addButton(button, id);
 }

@@ -6,19 +6,20 @@ class QButtonGroup;
 
 namespace controls::dataanalyser {
 
-/// A button of a strip; its name is also its tool tip.
+/// Makes a button of a strip. Its name is also its tool tip.
 QPushButton* makeButton(const QString& text, const QString& name, QWidget* parent);
 
-/// A button that stays pressed.
+/// Makes a button that stays pressed until it is clicked again.
 QPushButton* makeToggle(const QString& text, const QString& name, QWidget* parent);
 
-/// Adds to a group a toggle of which one is pressed at a time.
+/// Adds a button to a group in which one button is pressed at a time.
 void addChoice(QButtonGroup& group, int id, const QString& text, const QString& name, QWidget* parent);
 
-/// Presses the button of this id. Tab leads to it, and arrow keys from it to the others of its group.
+/// Presses the button with this id. The Tab key leads to this button, and arrow keys to the others of the
+/// group.
 void choose(const QButtonGroup& group, int id);
 
-/// A row of a group's buttons side by side.
+/// Makes a row with the buttons of a group side by side.
 QWidget* joinedButtons(const QButtonGroup& group, QWidget* parent);
 
 }  // namespace controls::dataanalyser

@@ -10,13 +10,13 @@ namespace {
 
 constexpr CategoryLook noGroup{{appearance::selected, appearance::accent}, PointShape::circle};
 
-// In the order of the families; two that share a shape have colours that nobody takes for each other.
+// In the order of the families. Families with the same shape have colours that everybody can tell apart.
 constexpr std::array<PointShape, familyCount> familyShapes{
     PointShape::circle, PointShape::square,  PointShape::circle, PointShape::triangle, PointShape::diamond,
     PointShape::square, PointShape::diamond, PointShape::star,   PointShape::triangle, PointShape::star};
 
-// Chosen by searching for the largest differences: 30 in CIELAB between any two, 34 between two of a shape as
-// they are seen without one kind of cone.
+// Found by a search for the largest differences: at least 30 in CIELAB between any two, and at least 34
+// between two of the same shape as colour-blind people see them.
 constexpr std::array<QColor, 18> colors{{
     {0xBF, 0x6A, 0x00},
     {0x57, 0x29, 0x17},

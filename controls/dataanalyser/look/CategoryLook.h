@@ -10,15 +10,15 @@ namespace controls::dataanalyser {
 enum class PointShape : std::uint8_t { circle, square, triangle, diamond, star };
 inline constexpr int pointShapeCount = 5;
 
-/// How the rows of a group are told from those of the others.
+/// The colours and the shape of points by which the rows of a category are recognised.
 struct CategoryLook {
-    appearance::FamilyColors colors;
+    appearance::GroupColors colors;
     PointShape shape = PointShape::circle;
 };
 
-/// The look of a data set's group (index into `Categories::names`; −1 for none). Elements' families have the
-/// colours of the periodic table. Eighteen groups differ in colour, ninety in colour or shape; colours that
-/// look alike with any kind of colour vision have different shapes.
+/// The look of a category, an index into `Categories::names`, −1 for none. Families of elements have the
+/// colours of the periodic table. Eighteen categories differ in colour, ninety in colour or shape. Colours
+/// that look alike to colour-blind people have different shapes.
 CategoryLook categoryLook(const Categories& categories, int category);
 
 }  // namespace controls::dataanalyser

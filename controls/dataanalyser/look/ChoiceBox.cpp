@@ -15,7 +15,7 @@ ChoiceBox::ChoiceBox(const QString& accessibleName, QWidget* parent) : QComboBox
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(8);
     setMaxVisibleItems(24);
-    // The usual one of combo boxes heeds no style sheet.
+    // The usual delegate of combo boxes ignores style sheets.
     setItemDelegate(&platform::makeQtChild<QStyledItemDelegate>(this));
 }
 
@@ -34,7 +34,7 @@ void ChoiceBox::setItems(const QList<QPair<QString, int>>& items, int chosen) {
 
 void ChoiceBox::paintEvent(QPaintEvent* event) {
     QComboBox::paintEvent(event);
-    // A style sheet takes the arrow away and brings back only one from a picture file.
+    // With a style sheet the box has no arrow, except one from a picture file.
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);

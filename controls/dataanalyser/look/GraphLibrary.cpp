@@ -19,14 +19,14 @@ std::filesystem::path ownFolder() {
 
 }  // namespace
 
-// The library stays, as the component's own module does.
+// The library is never unloaded, like the module of the component.
 const GraphParts* loadGraphParts() {
     const std::filesystem::path file = ownFolder() / "kzdataangk-graphs.so";
     void* library = ::dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
     if (!library) return nullptr;
     const auto parts = reinterpret_cast<GraphPartsSource>(::dlsym(library, graphPartsName));
     const GraphParts* loaded = parts ? parts() : nullptr;
-    return loaded && loaded->version == controls::version() ? loaded : nullptr;
+    return loaded && loaded->version == controls::version ? loaded : nullptr;
 }
 
 }  // namespace controls::dataanalyser

@@ -10,7 +10,7 @@ namespace controls::dataanalyser {
 
 class Analyser;
 
-/// The graph on the screen, as the rest of the component sees it.
+/// The graph on the screen, as the rest of the component uses it.
 class GraphPane {
   public:
     GraphPane() = default;
@@ -19,36 +19,37 @@ class GraphPane {
     GraphPane& operator=(const GraphPane&) = delete;
 
     virtual QWidget& widget() = 0;
-    /// Draws everything anew.
+    /// Draws the graph anew from the analyser's state.
     virtual void refresh() = 0;
-    /// Shows a part that is wider by the factor, about the middle; 0 shows the whole graph.
+    /// Makes the part that is shown wider by a factor, around its middle. 0 shows the whole graph.
     virtual void zoom(double factor) = 0;
-    /// How many rows the graph on show has left out.
+    /// The number of rows that the graph leaves out.
     virtual int leftOut() const = 0;
 };
 
-/// What draws graphs. It lies in a library of its own, for the charts that it needs are large and a program
-/// that shows no graph is not to wait for them.
+/// The functions that draw graphs. They lie in a library of their own, because the charts that they need are
+/// large and would delay the start of the program.
 struct GraphParts {
-    /// That of the component; the two belong together.
+    /// The version of the library. It must be that of the component.
     std::string_view version;
-    /// Makes a graph that belongs to its Qt parent; `copy` is called when the reader asks to copy it by key.
+    /// Makes a graph, which belongs to its Qt parent. `copy` is called when the reader presses the keys for
+    /// copying.
     GraphPane* (*makePane)(Analyser& analyser, std::function<void()> copy, QWidget* parent);
-    /// Draws it on a page; `area` is in the painter's own units, `unitsPerPixel` how many of them a pixel of
-    /// the screen is to take.
+    /// Draws the graph on a page. `area` is in units of the painter; `unitsPerPixel` of them are one pixel of
+    /// the screen.
     void (*paint)(Analyser& analyser, QPainter& painter, const QRectF& area, double unitsPerPixel);
 };
 
-/// Gets the parts when the first graph is to be drawn; null when they are not there.
+/// Gets the functions when the first graph is to be drawn. Null when they cannot be loaded.
 using GraphPartsSource = const GraphParts* (*)();
 
-/// The parts in the program or library that calls this, which is linked with them.
+/// The functions in the program or library that calls this. It must be linked with them.
 const GraphParts* linkedGraphParts();
 
-/// Those in the file `kzdataangk-graphs.so` beside the component's module.
+/// The functions in the library `kzdataangk-graphs.so`, which lies beside the component's module.
 const GraphParts* loadGraphParts();
 
-/// The function that the file exports.
+/// The name of the function that the library exports, a `GraphPartsSource`.
 inline constexpr const char* graphPartsName = "KalyxoGraphParts";
 
 }  // namespace controls::dataanalyser

@@ -6,12 +6,12 @@
 
 namespace controls::dataanalyser {
 
-/// The line at the lower edge: where the facts come from, and what had to be left out.
+/// The line at the lower edge, with the source of the facts and with what had to be left out.
 class MessageLine : public QWidget {
   public:
     explicit MessageLine(QWidget* parent);
 
-    /// `warning` stands out when there is one; all of its lines are in the tool tip.
+    /// Shows a note and the first warning. The tool tip holds the note and all warnings.
     void setTexts(const QString& note, const QStringList& warnings);
     QSize sizeHint() const override;
 

@@ -6,20 +6,20 @@
 
 namespace controls::dataanalyser {
 
-/// How high the letters of a table are, in pixels, and how low they become so that a text fits.
+/// The font size of the table in pixels, and the size to which it may shrink for a long text.
 inline constexpr int tableFontPixels = 12;
-inline constexpr int smallestTableFontPixels = 9;
+inline constexpr int minTableFontPixels = 9;
 
-/// A chemical formula with its digits lowered and what follows `^` raised.
+/// A chemical formula with lowered digits; what follows a `^` is raised.
 QString shownFormula(const QString& formula);
 
-/// Numbers with a true minus and, for an exponent, a power of ten: "-1,2E-9" is "−1,2·10⁻⁹".
+/// Numbers with a minus instead of a hyphen, and exponents as powers of ten: "-1,2E-9" becomes "−1,2·10⁻⁹".
 QString shownFigures(QString figures);
 
-/// What a cell looks like on the screen; "–" when it is not known.
+/// The text of a cell on the screen, "–" when its value is not known.
 QString shownCell(const formats::DataColumn& column, std::size_t row, TemperatureUnit unit);
 
-/// The row's names: its cells of words, but for the group.
+/// The names of a row: its cells of words, without the category.
 QString shownRowName(const formats::DataSet& set, std::size_t row);
 
 }  // namespace controls::dataanalyser

@@ -2,7 +2,7 @@
 
 namespace controls::dataanalyser {
 
-/// The look of the pane's widgets, in the colours of `appearance`.
+/// The style sheet of the analyser. Its colours are those of controls/common/Appearance.h.
 inline constexpr const char* styleRules = R"(
 QLabel, QPushButton, QComboBox, QMenu { font-family: "Liberation Sans"; font-size: 12px; }
 #strip { background: #f3f6f9; }

@@ -16,29 +16,28 @@ namespace controls::dataanalyser {
 /// What has changed in the analyser.
 enum class Change : std::uint8_t { dataSet, rows, unit, columns, selection, top, view, graph };
 
-/// The analyser without its windows: the data sets, which are read when they are first asked for, and the
-/// state. Rows are named by id here.
+/// The analyser without its windows: the data sets and the state. Rows are identified by their ids.
 class Analyser {
   public:
-    /// @param openLibrary reads the data sets, once and late.
+    /// `openLibrary` reads the data sets. It is called once, when something of them is first needed.
     explicit Analyser(std::function<DataLibrary()> openLibrary) : openLibrary_(std::move(openLibrary)) {}
 
-    /// Is told of every change. There is one listener.
+    /// Sets the one listener that is told of every change.
     void setListener(std::function<void(Change)> listener) { listener_ = std::move(listener); }
 
     const DataLibrary& library() const;
     const formats::DataSet& dataSet() const;
     const Categories& categories() const;
-    /// The rows listed, from the top, by their places in the set.
+    /// The rows that the table lists, from the top, by their places in the data set.
     const std::vector<int>& rows() const;
-    /// The place of a row in the set, −1 when it has none of this id.
+    /// The place of a row in the data set, −1 when there is no row with this id.
     int placeOf(std::int32_t id) const;
     std::int16_t idAt(int place) const { return dataSet().rowIds[static_cast<std::size_t>(place)]; }
 
-    /// Chooses a data set (the elements for an unknown number) and forgets what was chosen in the last one,
-    /// but for the order of its rows.
+    /// Chooses a data set (the elements for an unknown number). All choices made in the former data set are
+    /// forgotten, except the order of the rows.
     void setDataSet(std::int16_t number);
-    /// The order of the rows, from whatever was put.
+    /// The order of the rows. A column or category that the data set lacks counts as none.
     RowOrder order() const;
     void setSortColumn(std::int16_t column);
     void setDescending(bool descending);
@@ -50,10 +49,10 @@ class Analyser {
     ColumnLayout layout() const;
     void setLayout(const ColumnLayout& layout);
 
-    /// The selected rows that are listed, in their order.
+    /// The selected rows among those listed, from the top.
     std::vector<std::int16_t> selected() const;
     void setSelected(std::vector<std::int16_t> ids);
-    /// What a view tells of itself, which is no change for it.
+    /// Notes where a view has moved its cursor or its topmost row. The listener is not told.
     void noteCursor(std::int16_t id) { state_.set.cursor = id; }
     void noteTop(std::int16_t id) { state_.set.top = id; }
     std::int32_t cursor() const { return placeOf(state_.set.cursor) < 0 ? 0 : state_.set.cursor; }
@@ -65,21 +64,22 @@ class Analyser {
     void setGraphShown(bool shown);
     GraphPlan plan() const;
     void setPlan(const GraphPlan& plan);
-    /// A kind code that no graph has is that of the scatter graph.
+    /// An unknown code sets the scatter graph.
     void setGraphKind(int code);
     Graph graph() const;
-    /// The part of the graph on show; the whole one unless the reader has zoomed in.
+    /// The part of the graph that is shown: the whole graph, unless the reader has zoomed in.
     GraphWindow window(const Graph& graph) const;
     void setWindow(const std::optional<GraphWindow>& window);
 
-    /// @name Entries of the state, each named by a word: the width and presence of a column by its place, and
-    /// what the graph shows (README.md).
+    /// @name Entries of the state. A word names each of them: the place of a column names its width and
+    /// whether it is shown, and the words in AnalyserState.h name the category and what the graph shows (see
+    /// README.md).
     /// @{
     std::vector<std::int32_t> entryWords() const;
     std::int32_t entry(std::int32_t word) const;
-    /// A word without meaning here does nothing; a value without meaning is the default.
+    /// An unknown word changes nothing. A value without meaning sets the default.
     void setEntry(std::int32_t word, std::int32_t value);
-    /// All entries as they are when a data set has just been chosen.
+    /// Sets all entries to their values in a data set that has just been chosen.
     void clearEntries();
     /// @}
 
@@ -91,7 +91,7 @@ class Analyser {
     std::function<DataLibrary()> openLibrary_;
     std::function<void(Change)> listener_;
     AnalyserState state_;
-    // What follows from the state and the data, kept until either changes.
+    // Computed from state and data, and kept until one of them changes.
     mutable std::optional<DataLibrary> library_;
     mutable std::optional<Categories> categories_;
     mutable std::optional<std::vector<int>> rows_;

@@ -1,7 +1,7 @@
 #include <bit>
 
 #include "controls/dataanalyser/model/Analyser.h"
-#include "controls/dataanalyser/model/EntryWords.h"
+#include "controls/dataanalyser/model/AnalyserState.h"
 
 namespace controls::dataanalyser {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "controls/dataanalyser/model/FigureText.h"
+#include "controls/elements/NumberText.h"
 #include "platform/text/GreekLiteral.h"
 
 namespace controls::dataanalyser {
@@ -28,7 +28,7 @@ std::optional<BestFit> bestFit(std::span<const PlanePoint> points) {
     }
     const double slope = sxy / sxx;
     if (!std::isfinite(slope)) return std::nullopt;
-    // Points on a level line are all on it.
+    // A level line fits perfectly when all points have the same y.
     const double rSquared = syy > 0 ? std::clamp(sxy * sxy / (sxx * syy), 0.0, 1.0) : 1;
     return BestFit{slope, mean.y - slope * mean.x, rSquared};
 }
@@ -36,11 +36,11 @@ std::optional<BestFit> bestFit(std::span<const PlanePoint> points) {
 std::string equation(const BestFit& fit, bool logX, bool logY) {
     std::string text = logY ? "log y = " : "y = ";
     if (fit.slope < 0) text += '-';
-    text += shortFigure(std::abs(fit.slope));
+    text += shortNumber(std::abs(fit.slope));
     text += "·"_gr;
     text += logX ? "log x" : "x";
     text += fit.intercept < 0 ? " - " : " + ";
-    return text + shortFigure(std::abs(fit.intercept));
+    return text + shortNumber(std::abs(fit.intercept));
 }
 
 }  // namespace controls::dataanalyser

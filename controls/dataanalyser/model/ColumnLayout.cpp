@@ -5,7 +5,7 @@
 namespace controls::dataanalyser {
 
 void ColumnLayout::setWidth(std::size_t column, int pixels) {
-    columns_[column].width = pixels >= least && pixels <= most ? pixels : automatic;
+    columns_[column].width = pixels >= minWidth && pixels <= maxWidth ? pixels : automatic;
 }
 
 void ColumnLayout::setShown(std::size_t column, bool shown) {
@@ -24,23 +24,23 @@ std::vector<std::size_t> ColumnLayout::shownColumns() const {
 std::vector<int> ColumnLayout::spread(int space, std::span<const int> needed) const {
     std::vector<int> widths(columns_.size());
     std::vector<std::size_t> sharing;
-    int neededInAll = 0;
+    int totalNeeded = 0;
     for (const std::size_t column : shownColumns()) {
         widths[column] = columns_[column].width;
         space -= widths[column];
         if (widths[column] != automatic) continue;
         sharing.push_back(column);
-        neededInAll += needed[column];
+        totalNeeded += needed[column];
     }
-    if (neededInAll == 0) return widths;
-    int rest = std::max(space, neededInAll);
+    if (totalNeeded == 0) return widths;
+    int rest = std::max(space, totalNeeded);
     for (const std::size_t column : sharing) {
-        // Of what is left each takes its part, so that nothing is lost by rounding.
-        const int part = needed[column] * rest / neededInAll;
+        // Each takes its part of what is left, so that no pixel is lost by rounding.
+        const int part = needed[column] * rest / totalNeeded;
         widths[column] = part;
         rest -= part;
-        neededInAll -= needed[column];
-        if (neededInAll == 0) break;
+        totalNeeded -= needed[column];
+        if (totalNeeded == 0) break;
     }
     return widths;
 }

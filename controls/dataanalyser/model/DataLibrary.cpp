@@ -16,7 +16,7 @@ using namespace platform::literals;
 using formats::DataSetFault;
 
 constexpr std::string_view extension = ".dat";
-constexpr std::size_t largestFile = 32U << 20U;
+constexpr std::size_t maxFileSize = 32U << 20U;
 
 std::string_view reason(DataSetFault fault) {
     switch (fault) {
@@ -62,13 +62,13 @@ DataLibrary::DataLibrary(const platform::FileSystem& files, const std::string& d
 
 void DataLibrary::addFile(const platform::FileSystem& files, const std::string& folder,
                           const std::string& name) {
-    const auto text = files.readAll(folder + name, largestFile);
+    const auto text = files.readAll(folder + name, maxFileSize);
     if (!text) {
         remarks_.push_back(name + std::string(": το αρχείο δεν διαβάζεται"_gr));
         return;
     }
     auto decoded = formats::decodeDataSet(*text);
-    // Of a wrong head one fault tells enough.
+    // When the head is wrong, its first fault tells enough.
     if (!decoded.set) decoded.faults.resize(1);
     for (const auto& fault : decoded.faults) remarks_.push_back(remarkOf(name, fault));
     if (!decoded.set) return;

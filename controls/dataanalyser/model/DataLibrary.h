@@ -8,22 +8,22 @@
 
 namespace controls::dataanalyser {
 
-/// The data sets that can be shown.
+/// The data sets that the analyser can show.
 class DataLibrary {
   public:
     /// The elements only.
     DataLibrary();
-    /// The elements and one set more.
+    /// The elements and one further data set.
     explicit DataLibrary(formats::DataSet set);
-    /// The elements and the sets in the files of the data folder (a DOS path ending in a backslash).
+    /// The elements and the data sets of the data folder, which is a DOS path with a backslash at its end.
     DataLibrary(const platform::FileSystem& files, const std::string& dataFolder);
 
     /// The elements, then the others by number.
     const std::vector<formats::DataSet>& sets() const { return sets_; }
-    /// The set with a number, the elements when there is none.
+    /// The data set with this number, the elements when there is none.
     const formats::DataSet& find(int number) const;
 
-    /// What had to be left out and why, a line of Greek for each, in code page 1253.
+    /// What had to be left out and why: lines of Greek in code page 1253.
     const std::vector<std::string>& remarks() const { return remarks_; }
 
   private:

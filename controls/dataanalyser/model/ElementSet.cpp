@@ -15,10 +15,10 @@ using formats::DataColumn;
 using formats::DataColumnKind;
 
 constexpr double notKnown = std::numeric_limits<double>::quiet_NaN();
-// Stands before any year and is no number that a graph could show.
+// Sorts before any year, and graphs leave it out as they do every infinite number.
 constexpr double beforeAllYears = -std::numeric_limits<double>::infinity();
 
-// Places of the columns that a graph shows at first.
+// The columns that a graph shows at first.
 constexpr std::size_t atomicNumberColumn = 0;
 constexpr std::size_t electronegativityColumn = 9;
 
@@ -38,11 +38,11 @@ DataColumn numbers(std::string_view title, std::string_view unit, std::string (*
     return column;
 }
 
-template <Figure Element::*member>
-DataColumn figures(std::string_view title, std::string_view unit) {
+template <Quantity quantity>
+DataColumn quantityColumn(std::string_view unit = quantityUnit(quantity)) {
     return numbers(
-        title, unit, [](const Element& element) { return (element.*member).withComma(); },
-        [](const Element& element) { return (element.*member).value().value_or(notKnown); });
+        quantityName(quantity), unit, [](const Element& element) { return quantityText(element, quantity); },
+        [](const Element& element) { return quantityValue(element, quantity).value_or(notKnown); });
 }
 
 std::string groupText(const Element& element) {
@@ -51,16 +51,12 @@ std::string groupText(const Element& element) {
 
 double groupValue(const Element& element) { return element.group() == 0 ? notKnown : element.group(); }
 
-std::string yearText(const Element& element) {
-    return element.discovered == antiquity ? std::string("αρχαιότητα"_gr)
-                                           : std::to_string(element.discovered);
-}
-
 double yearValue(const Element& element) {
     return element.discovered == antiquity ? beforeAllYears : element.discovered;
 }
 
-/// Those that the columns of melting and boiling points need a remark for: "C, As".
+/// The symbols of the elements that sublime, such as "C, As": the melting and boiling points need a remark
+/// for them.
 std::string sublimingElements() {
     std::string symbols;
     for (const Element& element : elements()) {
@@ -93,18 +89,16 @@ formats::DataSet elementSet() {
         numbers(
             "Περίοδος"_gr, "", [](const Element& e) { return std::to_string(e.period()); },
             [](const Element& e) -> double { return e.period(); }),
-        figures<&Element::meltingPoint>("Σημείο τήξης"_gr, "K"),
-        figures<&Element::boilingPoint>("Σημείο βρασμού"_gr, "K"),
-        figures<&Element::density>("Πυκνότητα"_gr, "g/cm³"_gr),
-        figures<&Element::electronegativity>("Ηλεκτραρνητικότητα"_gr, ""),
-        numbers("Έτος ανακάλυψης"_gr, "", yearText, yearValue),
+        quantityColumn<Quantity::melting>(),
+        quantityColumn<Quantity::boiling>(),
+        quantityColumn<Quantity::density>(),
+        quantityColumn<Quantity::electronegativity>(""),
         numbers(
-            quantityName(Quantity::ionisation), quantityUnit(Quantity::ionisation),
-            [](const Element& e) { return quantityText(e, Quantity::ionisation); },
-            [](const Element& e) { return quantityValue(e, Quantity::ionisation).value_or(notKnown); }),
-        figures<&Element::covalentRadius>(quantityName(Quantity::covalentRadius),
-                                          quantityUnit(Quantity::covalentRadius)),
-        figures<&Element::crust>("Αφθονία στον φλοιό της Γης"_gr, "mg/kg"),
+            quantityName(Quantity::discovery), "",
+            [](const Element& e) { return quantityText(e, Quantity::discovery); }, yearValue),
+        quantityColumn<Quantity::ionisation>(),
+        quantityColumn<Quantity::covalentRadius>(),
+        quantityColumn<Quantity::crust>(),
         words(DataColumnKind::category, "Οικογένεια"_gr,
               [](const Element& e) { return familyName(e.family); }),
     };

@@ -4,7 +4,7 @@
 
 namespace controls::dataanalyser {
 
-/// The elements as a data set with the number 0; a row is named by its atomic number.
+/// The elements as a data set with the number 0. The id of a row is its atomic number.
 formats::DataSet elementSet();
 
 }  // namespace controls::dataanalyser

@@ -12,7 +12,7 @@ namespace {
 
 using namespace platform::literals;
 
-constexpr double barHalf = 0.4;
+constexpr double halfBarWidth = 0.4;
 
 class GraphMaker {
   public:
@@ -55,7 +55,7 @@ class GraphMaker {
                 ++graph_.leftOut;
                 continue;
             }
-            graph_.marks.push_back({x, y, x - barHalf, x + barHalf, row, categories_.ofRow[place]});
+            graph_.marks.push_back({x, y, x - halfBarWidth, x + halfBarWidth, row, categories_.ofRow[place]});
         }
     }
 
@@ -80,7 +80,8 @@ class GraphMaker {
             if (!plan().hasPoints()) xs.push_back(mark.right);
             ys.push_back(mark.y);
         }
-        // Bars grow from zero; those of a logarithmic axis from a decade below the shortest.
+        // Bars begin at zero. On a logarithmic axis half the shortest bar is added, so that a decade lies
+        // below it.
         if (!plan().hasPoints()) {
             ys.push_back(plan().logY ? 0.5 * (ys.empty() ? 1 : *std::ranges::min_element(ys)) : 0);
         }

@@ -9,10 +9,10 @@ namespace controls::dataanalyser {
 namespace {
 
 constexpr double room = 0.04;
-// Beyond these a number could not be told from its neighbour on an axis.
-constexpr double mostMagnitude = 1e15;
-constexpr double leastPart = 1e-6;
-constexpr double leastLogarithm = 1e-30;
+// Beyond these limits neighbouring numbers of an axis could not be told apart.
+constexpr double maxMagnitude = 1e15;
+constexpr double minPart = 1e-6;
+constexpr double minLogarithmic = 1e-30;
 
 AxisRange decades(double from, double to) {
     const double low = std::floor(std::log10(from) + 1e-9);
@@ -27,14 +27,14 @@ AxisRange withRoom(double from, double to) {
     return {from >= 0 && low < 0 ? 0 : low, to <= 0 && from < 0 && high > 0 ? 0 : high, false};
 }
 
-/// Takes or adds one decade, on the side that is farther from the place.
+/// Removes or adds one decade, at the end that is farther from the place.
 AxisRange zoomedByDecade(const AxisRange& range, double factor, double place, const AxisRange& whole) {
     AxisRange next = range;
-    const bool atEnd = place < 0.5;
+    const bool atUpperEnd = place < 0.5;
     if (factor < 1 && range.to / range.from > 10.5) {
-        (atEnd ? next.to : next.from) *= atEnd ? 0.1 : 10;
+        (atUpperEnd ? next.to : next.from) *= atUpperEnd ? 0.1 : 10;
     } else if (factor > 1) {
-        (atEnd ? next.to : next.from) *= atEnd ? 10 : 0.1;
+        (atUpperEnd ? next.to : next.from) *= atUpperEnd ? 10 : 0.1;
         next.from = std::max(next.from, whole.from);
         next.to = std::min(next.to, whole.to);
         if (next == range) return whole;
@@ -46,7 +46,7 @@ AxisRange zoomedByDecade(const AxisRange& range, double factor, double place, co
 
 bool AxisRange::valid() const {
     if (!std::isfinite(from) || !std::isfinite(to) || from >= to) return false;
-    return logarithmic ? from >= leastLogarithm : std::max(std::abs(from), std::abs(to)) <= mostMagnitude;
+    return logarithmic ? from >= minLogarithmic : std::max(std::abs(from), std::abs(to)) <= maxMagnitude;
 }
 
 double AxisRange::place(double value) const {
@@ -61,7 +61,7 @@ double AxisRange::at(double place) const {
 AxisRange rangeOf(std::span<const double> values, bool logarithmic) {
     std::optional<std::pair<double, double>> ends;
     for (const double value : values) {
-        if (!std::isfinite(value) || (logarithmic && value < leastLogarithm)) continue;
+        if (!std::isfinite(value) || (logarithmic && value < minLogarithmic)) continue;
         if (!ends) ends = {value, value};
         ends = {std::min(ends->first, value), std::max(ends->second, value)};
     }
@@ -71,7 +71,7 @@ AxisRange rangeOf(std::span<const double> values, bool logarithmic) {
 
 AxisRange zoomed(const AxisRange& range, double factor, double place, const AxisRange& whole) {
     if (range.logarithmic) return zoomedByDecade(range, factor, place, whole);
-    const double span = std::clamp(range.span() * factor, whole.span() * leastPart, whole.span());
+    const double span = std::clamp(range.span() * factor, whole.span() * minPart, whole.span());
     const double fixed = range.at(place);
     const double from = std::clamp(fixed - place * span, whole.from, whole.to - span);
     return {from, from + span, false};
@@ -94,15 +94,6 @@ AxisRange partOf(const AxisRange& range, double fromPlace, double toPlace) {
     const auto [low, high] = std::minmax({std::clamp(fromPlace, 0.0, 1.0), std::clamp(toPlace, 0.0, 1.0)});
     if (range.logarithmic) return decades(range.at(low), range.at(high));
     return {range.at(low), range.at(high), false};
-}
-
-double tickDistance(double span, int parts) {
-    const double rough = span / std::max(parts, 1);
-    const double power = std::pow(10, std::floor(std::log10(rough)));
-    for (const double step : {1.0, 2.0, 5.0}) {
-        if (rough <= step * power * 1.0001) return step * power;
-    }
-    return 10 * power;
 }
 
 int decadesPerTick(const AxisRange& range, int parts) {

@@ -3,18 +3,18 @@
 #include <algorithm>
 #include <cmath>
 
-#include "controls/dataanalyser/model/GraphWindow.h"
+#include "controls/elements/NumberText.h"
 
 namespace controls::dataanalyser {
 
 namespace {
 
-constexpr int fewestBins = 5;
-constexpr int mostBins = 40;
+constexpr int minBins = 5;
+constexpr int maxBins = 40;
 
 int binsFor(std::size_t values) {
-    return std::clamp(static_cast<int>(std::lround(std::sqrt(static_cast<double>(values)))), fewestBins,
-                      mostBins);
+    return std::clamp(static_cast<int>(std::lround(std::sqrt(static_cast<double>(values)))), minBins,
+                      maxBins);
 }
 
 }  // namespace
@@ -22,13 +22,13 @@ int binsFor(std::size_t values) {
 std::vector<HistogramBin> histogram(std::span<const double> values, bool logarithmic) {
     if (values.empty()) return {};
     const auto scaled = [logarithmic](double value) { return logarithmic ? std::log10(value) : value; };
-    const auto [least, most] = std::ranges::minmax(values);
-    const double span = scaled(most) - scaled(least);
-    // Values that are all alike fill one bin of their own.
-    const double smallest = std::max(std::abs(scaled(most)) * 1e-9, 1e-12);
-    const double width = span > smallest ? tickDistance(span, binsFor(values.size())) : 1;
-    const double first = std::floor(scaled(least) / width + 1e-9);
-    const double last = std::max(std::ceil(scaled(most) / width - 1e-9), first + 1);
+    const auto [min, max] = std::ranges::minmax(values);
+    const double span = scaled(max) - scaled(min);
+    // Values that are all the same get a bin of width 1.
+    const double minSpan = std::max(std::abs(scaled(max)) * 1e-9, 1e-12);
+    const double width = span > minSpan ? tickDistance(span, binsFor(values.size())) : 1;
+    const double first = std::floor(scaled(min) / width + 1e-9);
+    const double last = std::max(std::ceil(scaled(max) / width - 1e-9), first + 1);
     std::vector<HistogramBin> bins;
     const auto count = static_cast<int>(std::lround(last - first));
     for (int i = 0; i < count; ++i) {

@@ -5,7 +5,7 @@
 
 namespace controls::dataanalyser {
 
-/// How many values lie between two numbers; the lower one belongs to it, of the last the upper one too.
+/// The number of values from `from` up to, but not including, `to`. The last bin includes its `to`.
 struct HistogramBin {
     double from = 0;
     double to = 0;
@@ -13,8 +13,9 @@ struct HistogramBin {
     friend bool operator==(const HistogramBin&, const HistogramBin&) = default;
 };
 
-/// Parts values, which are finite and above zero when logarithmic, into bins of equal width with round
-/// bounds: about as many as the square root of their number, 5 to 40. None for no values.
+/// Sorts values into bins of equal width with round bounds. There are about as many bins as the square root
+/// of the number of values, from 5 to 40; none when there are no values. Values must be finite, and above
+/// zero when logarithmic.
 std::vector<HistogramBin> histogram(std::span<const double> values, bool logarithmic);
 
 }  // namespace controls::dataanalyser

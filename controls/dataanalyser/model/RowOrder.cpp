@@ -10,7 +10,7 @@ namespace controls::dataanalyser {
 
 namespace {
 
-/// Sorts rows by keys, of which `isKnown` tells those that have no place in the order.
+/// Sorts rows by their keys. Rows whose key is not known come last.
 template <class Key, class IsKnown>
 void sortByKeys(std::vector<int>& rows, const std::vector<Key>& keys, bool descending,
                 const IsKnown& isKnown) {

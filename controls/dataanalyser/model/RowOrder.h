@@ -9,23 +9,24 @@
 
 namespace controls::dataanalyser {
 
-/// The groups that a data set's rows belong to.
+/// The groups that the rows of a data set belong to.
 struct Categories {
-    std::vector<std::string> names;  ///< in the order of the rows; none when the set has no such column
+    std::vector<std::string> names;  ///< in order of appearance; empty when the data set has no categories
     std::vector<int> ofRow;          ///< for each row an index into `names`, −1 for none
 };
 Categories categoriesOf(const formats::DataSet& set);
 
 /// Which rows of a data set are listed and in which order.
 struct RowOrder {
-    std::optional<std::size_t> column;  ///< nothing keeps the set's own order
+    std::optional<std::size_t> column;  ///< nothing for the order of the data set
     bool descending = false;
-    int category = 0;  ///< 1 is the first, 0 lists all rows
+    int category = 0;  ///< from 1, 0 for all rows
     friend bool operator==(const RowOrder&, const RowOrder&) = default;
 };
 
-/// The rows from the top, by their places in the set. What is not known stands last in either direction; rows
-/// that are alike stay in the set's order. Words are in alphabetical order, accents aside.
+/// The rows from the top, by their places in the data set. Unknown values come last in either direction. Rows
+/// with equal values keep the order of the data set. Words are sorted alphabetically without regard to
+/// accents.
 std::vector<int> orderedRows(const formats::DataSet& set, const Categories& categories,
                              const RowOrder& order);
 

@@ -14,7 +14,7 @@ void append(std::vector<std::byte>& bytes, T value) {
         bytes.push_back(static_cast<std::byte>(bits >> (8 * i) & 0xFF));
 }
 
-/// The little-endian numbers in some bytes; an incomplete last one is passed over.
+/// The little-endian numbers in some bytes. An incomplete last one is left out.
 template <class T>
 std::vector<T> numbers(std::span<const std::byte> bytes) {
     std::vector<T> values(bytes.size() / sizeof(T));

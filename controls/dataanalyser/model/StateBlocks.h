@@ -8,30 +8,30 @@
 
 namespace controls::dataanalyser {
 
-/// A place in the analyser's memory as its state carries it: the number of a block that the analyser keeps,
-/// never an address. 0 is no place.
+/// The number by which the state of the analyser names a block of bytes that it keeps. It is no address. 0
+/// names no block.
 using Location = std::int32_t;
 inline constexpr Location entriesLocation = 1;
 inline constexpr Location selectionLocation = 2;
 inline constexpr Location firstHostLocation = 3;
 
-/// The two blocks of the analyser's state, each with what was put in last, and the blocks that a host handed
-/// over last; see README.md for the bytes.
+/// The blocks of bytes that the analyser keeps: its entries, its selected rows, and the last two blocks from
+/// its host. README.md describes their bytes.
 class StateBlocks {
   public:
-    /// Notes the words of the entries.
+    /// Keeps the words of the entries.
     Location keepEntries(std::span<const std::int32_t> words);
-    /// Notes the selected rows.
+    /// Keeps the selected rows.
     Location keepSelection(std::span<const std::int16_t> ids);
-    /// Keeps a copy of a host's block until two more have come.
+    /// Keeps a copy of a block from the host. It is lost when the host has given two further blocks.
     Location keepHosts(std::span<const std::byte> bytes);
 
-    /// The bytes at a location; empty when nothing is there.
+    /// The bytes of a block, empty when there is no such block.
     std::span<const std::byte> at(Location location) const;
 
-    /// The words of entries told by a block; none when it is no such block.
+    /// The words in a block of entries, empty when the block is of another form.
     std::vector<std::int32_t> entries(Location location) const;
-    /// The rows told by the first `size` bytes at a location.
+    /// The rows in the first `size` bytes of a block.
     std::vector<std::int16_t> selection(Location location, std::int32_t size) const;
 
   private:

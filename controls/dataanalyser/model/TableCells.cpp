@@ -3,8 +3,8 @@
 #include <cmath>
 #include <limits>
 
-#include "controls/dataanalyser/model/FigureText.h"
 #include "controls/elements/Element.h"
+#include "controls/elements/NumberText.h"
 #include "platform/text/GreekLiteral.h"
 
 namespace controls::dataanalyser {
@@ -16,7 +16,7 @@ using namespace platform::literals;
 constexpr std::string_view kelvin = "K";
 constexpr std::string_view celsius = "°C"_gr;
 
-/// What is added to the column's own values to show them.
+/// The number that converts the column's values into the unit shown, when it is added to them.
 double shift(const formats::DataColumn& column, TemperatureUnit unit) {
     if (!isTemperature(column) || shownUnit(column, unit) == column.unit) return 0;
     return unit == TemperatureUnit::kelvin ? zeroCelsius : -zeroCelsius;
@@ -47,7 +47,7 @@ std::string cellText(const formats::DataColumn& column, std::size_t row, Tempera
     const std::string& text = column.cells[row];
     const double added = shift(column, unit);
     if (added == 0 || !std::isfinite(column.values[row])) return text;
-    return fixedFigure(column.values[row] + added, decimalsOf(text));
+    return fixedNumber(column.values[row] + added, decimalsOf(text));
 }
 
 double cellValue(const formats::DataColumn& column, std::size_t row, TemperatureUnit unit) {

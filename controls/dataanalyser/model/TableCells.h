@@ -10,22 +10,22 @@ namespace controls::dataanalyser {
 
 enum class TemperatureUnit : std::uint8_t { kelvin, celsius };
 
-/// Whether the column's numbers are temperatures, which are shown in the unit that the reader has chosen.
+/// Whether a column holds temperatures. These are shown in the unit that the reader has chosen.
 bool isTemperature(const formats::DataColumn& column);
 
-/// The unit in which the column is shown; empty when it has none.
+/// The unit in which a column is shown, empty when it has none.
 std::string shownUnit(const formats::DataColumn& column, TemperatureUnit unit);
 
 /// The heading of a column with its unit, in code page 1253.
 std::string heading(const formats::DataColumn& column, TemperatureUnit unit);
 
-/// What stands in a cell, in code page 1253 and with decimal comma; empty when it is not known.
+/// The text of a cell, in code page 1253 and with decimal comma; empty when its value is not known.
 std::string cellText(const formats::DataColumn& column, std::size_t row, TemperatureUnit unit);
 
-/// The number of a cell in the unit shown; NaN when it is not known or the column holds words.
+/// The number in a cell, in the unit shown. NaN when it is not known or the column holds words.
 double cellValue(const formats::DataColumn& column, std::size_t row, TemperatureUnit unit);
 
-/// What stands for an unknown value on the screen.
+/// The text that the screen shows for an unknown value.
 std::string_view unknownText();
 
 }  // namespace controls::dataanalyser

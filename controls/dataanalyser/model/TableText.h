@@ -8,7 +8,7 @@
 
 namespace controls::dataanalyser {
 
-/// What is copied of a data set.
+/// A part of a data set that is to be copied.
 struct CopiedTable {
     const formats::DataSet& set;
     std::vector<std::size_t> columns;
@@ -16,7 +16,7 @@ struct CopiedTable {
     TemperatureUnit unit;
 };
 
-/// The rows under the headings, one line each, cells parted by tabs; code page 1253. An unknown value is an
+/// The headings and the rows as lines, with tabs between the cells; code page 1253. An unknown value is an
 /// empty cell.
 std::string tabbedText(const CopiedTable& table);
 

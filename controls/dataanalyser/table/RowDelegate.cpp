@@ -28,7 +28,7 @@ const QAbstractItemView* viewWithCursor(const QStyleOptionViewItem& option, cons
     return under ? view : nullptr;
 }
 
-/// Whether the column names the rows and so carries the colour of their group.
+/// Whether this is the column of the rows' names, whose cells have the colour of the category.
 bool carriesColor(const QModelIndex& index) {
     const auto& columns = modelOf(index).analyser().dataSet().columns;
     const auto first = std::ranges::find_if(columns, [](const auto& column) { return !column.isNumber(); });
@@ -63,8 +63,8 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     const QRect inner = option.rect.adjusted(colored ? padding + 2 : padding, 0, -padding, 0);
     const auto weight = colored ? QFont::DemiBold : QFont::Normal;
     const auto font =
-        appearance::fittingFont(text, inner.width(), tableFontPixels, smallestTableFontPixels, weight)
-            .value_or(appearance::font(smallestTableFontPixels, weight));
+        appearance::fittingFont(text, inner.width(), tableFontPixels, minTableFontPixels, weight)
+            .value_or(appearance::font(minTableFontPixels, weight));
     painter->setFont(font);
     painter->setPen(appearance::text);
     const auto align = index.data(Qt::TextAlignmentRole).value<Qt::Alignment>();

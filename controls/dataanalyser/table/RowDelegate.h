@@ -4,7 +4,7 @@
 
 namespace controls::dataanalyser {
 
-/// Draws the cells of the table in the component's own colours.
+/// Draws the cells of the table in the colours of the component.
 class RowDelegate : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;

@@ -14,9 +14,8 @@ constexpr int headerHeight = 54;
 constexpr int arrowSpace = 10;
 constexpr int textFlags = Qt::AlignCenter | Qt::TextWordWrap;
 
-/// With soft hyphens where words too long for a narrow column may be parted, and units kept together.
+/// Adds soft hyphens to words that are too long for a narrow column, and keeps units on one line.
 QString withBreaks(QString words) {
-    // Of a unit nothing is parted.
     const qsizetype unit = words.lastIndexOf(u'(');
     if (unit >= 0) {
         QString kept = words.mid(unit).replace(u' ', QChar(QChar::Nbsp));
@@ -67,7 +66,7 @@ int TableHeader::commonPixels() const {
     int pixels = tableFontPixels;
     for (int section = 0; section < count(); ++section) {
         const QSize area = textArea(QRect(0, 0, sectionSize(section), height())).size();
-        while (pixels > smallestTableFontPixels && !fits(text(section), area, pixels)) --pixels;
+        while (pixels > minTableFontPixels && !fits(text(section), area, pixels)) --pixels;
     }
     return pixels;
 }

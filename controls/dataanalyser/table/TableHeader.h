@@ -4,7 +4,7 @@
 
 namespace controls::dataanalyser {
 
-/// The headings of the table; the one that the rows are sorted by carries an arrow.
+/// The headings of the table. The heading of the column by which the rows are sorted has an arrow.
 class TableHeader : public QHeaderView {
   public:
     explicit TableHeader(QWidget* parent);
@@ -16,10 +16,10 @@ class TableHeader : public QHeaderView {
 
   private:
     QString text(int section) const;
-    /// The largest letters in which all headings fit their columns.
+    /// The largest font size in which all headings fit their columns.
     int commonPixels() const;
 
-    int pixels_ = 0;  // of the letters, settled anew by each painting
+    int pixels_ = 0;  // the font size, computed before each painting
 };
 
 }  // namespace controls::dataanalyser

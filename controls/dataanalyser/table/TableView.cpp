@@ -10,6 +10,8 @@
 
 #include "controls/common/Appearance.h"
 #include "controls/common/QtText.h"
+#include "controls/dataanalyser/look/ShownText.h"
+#include "controls/dataanalyser/model/RowNames.h"
 #include "controls/dataanalyser/table/RowDelegate.h"
 #include "controls/dataanalyser/table/TableHeader.h"
 #include "controls/dataanalyser/table/TableModel.h"
@@ -20,22 +22,20 @@ namespace {
 
 constexpr int rowPixels = 24;
 constexpr int cellPadding = 20;
-constexpr int leastNeeded = 60;
-constexpr int mostNeeded = 240;
-constexpr int headingPixels = 9;
-constexpr int mostForWord = 80;
+constexpr int minNeeded = 60;
+constexpr int maxNeeded = 240;
+constexpr int maxForWord = 80;
 
-/// The width that a column needs: that of its longest cell, by characters, and what the longest
-/// word of its heading needs in small letters.
+/// The width that a column needs for the cell with the most characters, and for the longest word of its
+/// heading in small letters.
 int neededWidth(const formats::DataColumn& column, const QFontMetrics& metrics) {
     const auto longest = std::ranges::max_element(column.cells, {}, &std::string::size);
     int width = longest == column.cells.end() ? 0 : metrics.horizontalAdvance(toQt(*longest));
-    const QFontMetrics small(appearance::font(headingPixels, QFont::DemiBold));
+    const QFontMetrics small(appearance::font(minTableFontPixels, QFont::DemiBold));
     int word = 0;
     for (const QString& part : toQt(column.title).split(u' '))
         word = std::max(word, small.horizontalAdvance(part));
-    return std::clamp(std::max(width + cellPadding, std::min(word + 8, mostForWord)), leastNeeded,
-                      mostNeeded);
+    return std::clamp(std::max(width + cellPadding, std::min(word + 8, maxForWord)), minNeeded, maxNeeded);
 }
 
 }  // namespace
@@ -89,7 +89,7 @@ void TableView::refreshRows() {
 void TableView::refreshUnit() { rows_->refreshCells(); }
 
 void TableView::measureColumns() {
-    const QFontMetrics metrics(appearance::font(12));
+    const QFontMetrics metrics(appearance::font(tableFontPixels));
     needed_.clear();
     for (const formats::DataColumn& column : analyser_.dataSet().columns) {
         needed_.push_back(neededWidth(column, metrics));
@@ -183,9 +183,11 @@ bool TableView::sortByKey(const QKeyEvent& event) {
 }
 
 void TableView::keyboardSearch(const QString& search) {
-    const int place = search_.type(fromQt(search), clock_.elapsed(), analyser_.dataSet(), analyser_.rows());
-    const int row = rows_->rowOf(place);
-    if (row >= 0) setCurrentIndex(rows_->index(row, cursorColumn_));
+    const auto find = [this](std::string_view typed) {
+        return findRowByStart(analyser_.dataSet(), analyser_.rows(), typed);
+    };
+    const auto place = typeAhead_.type(fromQt(search), clock_.elapsed(), find);
+    if (place) setCurrentIndex(rows_->index(rows_->rowOf(*place), cursorColumn_));
 }
 
 void TableView::resizeEvent(QResizeEvent* event) {
@@ -208,7 +210,7 @@ void TableView::currentChanged(const QModelIndex& current, const QModelIndex& pr
     const int place = rows_->placeAt(current.row());
     if (!refreshing_) cursorColumn_ = std::max(current.column(), 0);
     if (!refreshing_) analyser_.noteCursor(place < 0 ? std::int16_t{0} : analyser_.idAt(place));
-    // The delegate marks the whole row and the heading's column.
+    // The delegate draws the row of the cursor in a way of its own.
     viewport()->update();
 }
 

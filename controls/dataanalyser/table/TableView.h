@@ -6,19 +6,19 @@
 #include <vector>
 
 #include "controls/dataanalyser/model/Analyser.h"
-#include "controls/dataanalyser/model/RowNames.h"
+#include "controls/elements/TypeAhead.h"
 
 namespace controls::dataanalyser {
 
 class TableModel;
 
-/// The table on the screen. What the reader does in it goes to the analyser, which tells when to `refresh`.
+/// The table on the screen. It passes what the reader does on to the analyser. When the analyser has changed,
+/// the refresh functions bring the table up to date.
 class TableView : public QTableView {
   public:
-    /// `copy` is called when the reader asks to copy the selected rows by key.
+    /// `copy` is called when the reader presses the keys for copying.
     TableView(Analyser& analyser, std::function<void()> copy, QWidget* parent);
 
-    /// Brings the table into line with the analyser.
     void refreshRows();
     void refreshUnit();
     void refreshColumns();
@@ -47,10 +47,10 @@ class TableView : public QTableView {
     Analyser& analyser_;
     std::function<void()> copy_;
     TableModel* rows_;
-    std::vector<int> needed_;  // widths that the columns need at least
+    std::vector<int> needed_;  // the minimal widths of the columns
     int cursorColumn_ = 0;
     bool refreshing_ = false;
-    RowSearch search_;
+    TypeAhead typeAhead_;
     QElapsedTimer clock_;
 };
 

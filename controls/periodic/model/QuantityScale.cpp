@@ -4,6 +4,8 @@
 #include <array>
 #include <cmath>
 
+#include "controls/elements/NumberText.h"
+
 namespace controls::periodic {
 
 namespace {
@@ -13,8 +15,8 @@ struct Ends {
     double high;
 };
 
-/// The ends of both scales hold the values of all elements, but for the abundances of elements that only come
-/// from the decay of others.
+/// Both scales cover the values of all elements, except for the tiny abundances of elements that exist only
+/// as products of decay.
 struct Scales {
     Ends linear;
     Ends logarithmic;
@@ -33,17 +35,8 @@ constexpr std::array<Scales, quantityCount> scales{{
     {{0, 500000}, {1e-4, 1e6}, true},
 }};
 
-constexpr double wantedTicks = 6;
+constexpr int wantedTicks = 6;
 constexpr double fewDecades = 2;
-
-/// The round step, 1, 2 or 5 times a power of ten, nearest above.
-double roundStep(double step) {
-    const double decade = std::pow(10, std::floor(std::log10(step)));
-    for (const double factor : {1.0, 2.0, 5.0}) {
-        if (factor * decade >= step) return factor * decade;
-    }
-    return 10 * decade;
-}
 
 }  // namespace
 
@@ -64,7 +57,7 @@ double QuantityScale::position(double value) const {
 std::vector<double> QuantityScale::ticks() const { return logarithmic_ ? decades() : linearTicks(); }
 
 std::vector<double> QuantityScale::linearTicks() const {
-    const double step = roundStep((high_ - low_) / wantedTicks);
+    const double step = tickDistance(high_ - low_, wantedTicks);
     const auto first = static_cast<int>(std::ceil(low_ / step));
     const auto last = static_cast<int>(std::floor(high_ / step));
     std::vector<double> ticks;

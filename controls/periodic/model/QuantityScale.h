@@ -6,20 +6,22 @@
 
 namespace controls::periodic {
 
-/// How the values of a quantity are spread over the colours.
+/// How the values of a quantity are spread over the colour scale.
 class QuantityScale {
   public:
-    /// The usual scale of a quantity, or the other one of linear and logarithmic (not for the year).
+    /// The usual scale of a quantity. With `other`, a logarithmic scale instead of a linear one and the
+    /// reverse; the year of discovery has a linear scale only.
     explicit QuantityScale(Quantity quantity, bool other = false);
 
     bool logarithmic() const { return logarithmic_; }
     double low() const { return low_; }
     double high() const { return high_; }
 
-    /// From 0 at the low end to 1 at the high end; a value beyond an end counts as the end.
+    /// The position of a value from 0 (the low end) to 1 (the high end). A value beyond an end is placed at
+    /// it.
     double position(double value) const;
 
-    /// The round values to be marked, in ascending order.
+    /// The round values that the scale marks, in ascending order.
     std::vector<double> ticks() const;
 
   private:

@@ -6,7 +6,7 @@ namespace controls::periodic {
 
 namespace {
 
-/// Some bits of a half.
+/// The bits of a half that hold one part of the state.
 struct Field {
     int shift;
     int width;
@@ -26,7 +26,7 @@ constexpr Field kelvinField{4, 13};
 constexpr Field yearField{17, 11};
 constexpr std::uint32_t secondMask = highlightedField.mask() | kelvinField.mask() | yearField.mask();
 
-/// The bits of a half, none when there are any outside the mask.
+/// The bits of a half; none of them when any lies outside the mask.
 std::uint32_t known(std::int32_t half, std::uint32_t mask) {
     const auto bits = static_cast<std::uint32_t>(half);
     return (bits & ~mask) == 0 ? bits : 0;
@@ -42,7 +42,7 @@ std::int32_t firstHalf(const TableState& state) {
 std::int32_t secondHalf(const TableState& state) {
     return highlightedField.with(state.highlighted) |
            kelvinField.with(state.kelvin == usualKelvin ? 0 : state.kelvin + 1) |
-           yearField.with(state.year == mostYear ? 0 : state.year);
+           yearField.with(state.year == maxYear ? 0 : state.year);
 }
 
 TableState stateOf(std::int32_t first, std::int32_t second) {
@@ -53,10 +53,10 @@ TableState stateOf(std::int32_t first, std::int32_t second) {
     state.view = viewOfCode(viewField.in(a)).value_or(state.view);
     state.otherScale = scaleField.in(a) == 1 && hasOtherScale(state.view);
     if (const int kind = highlightedField.in(b); kind <= kindCount(state.view)) state.highlighted = kind;
-    if (const int kelvin = kelvinField.in(b)-1; kelvin >= leastKelvin && kelvin <= mostKelvin) {
+    if (const int kelvin = kelvinField.in(b)-1; kelvin >= minKelvin && kelvin <= maxKelvin) {
         state.kelvin = kelvin;
     }
-    if (const int year = yearField.in(b); year >= leastYear && year <= mostYear) state.year = year;
+    if (const int year = yearField.in(b); year >= minYear && year <= maxYear) state.year = year;
     return state;
 }
 

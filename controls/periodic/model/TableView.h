@@ -8,8 +8,8 @@
 
 namespace controls::periodic {
 
-/// What the table shows of each element, in the order of the strip. A view's code is kept in bookmarks; from
-/// `electronegativity` on, the views are those of the quantities.
+/// What the table shows of each element, in the order of the strip. The code of a view is kept in bookmarks.
+/// The views from `electronegativity` on are those of the quantities, in their order.
 enum class TableView : std::uint8_t {
     families,
     metals,
@@ -34,18 +34,18 @@ constexpr std::optional<TableView> viewOfCode(int code) {
     return static_cast<TableView>(code);
 }
 
-/// The quantity that a view colours the elements by; nothing for a view of kinds of elements.
+/// The quantity that a view shows; nothing for a view of kinds of elements.
 constexpr std::optional<Quantity> quantityOf(TableView view) {
     const int code = viewCode(view) - firstQuantityView;
     return code < 0 ? std::nullopt : std::optional(static_cast<Quantity>(code));
 }
 
-/// Whether a view has a linear and a logarithmic colour scale; time has only a linear one.
+/// Whether a view has both a linear and a logarithmic colour scale.
 constexpr bool hasOtherScale(TableView view) {
     return quantityOf(view).has_value() && view != TableView::discovery;
 }
 
-/// The word for a view in the strip, in code page 1253.
+/// The name of a view in the strip, in code page 1253.
 std::string_view viewName(TableView view);
 
 }  // namespace controls::periodic

@@ -16,8 +16,8 @@ namespace controls::select {
 
 namespace {
 
-// More than any content holds: a file that is larger is not one of ours.
-constexpr std::size_t largestFile = std::size_t{16} << 20;
+// No content has larger files.
+constexpr std::size_t maxFileSize = std::size_t{16} << 20;
 
 }  // namespace
 
@@ -27,7 +27,7 @@ BrowseFolder::BrowseFolder(const platform::FileSystem& files, std::string folder
 std::string BrowseFolder::path(std::string_view name) const { return folder_ + std::string(name); }
 
 formats::BrowseIndex BrowseFolder::readIndex() const {
-    const auto image = files_.readAll(path(formats::browseIndexFile), largestFile);
+    const auto image = files_.readAll(path(formats::browseIndexFile), maxFileSize);
     auto index = image ? formats::decodeBrowseIndex(*image) : std::nullopt;
     return index ? *std::move(index) : readTitleFiles();
 }
@@ -44,7 +44,7 @@ formats::BrowseIndex BrowseFolder::readTitleFiles() const {
 }
 
 std::string BrowseFolder::readTitleFile(std::string_view sectionKey) const {
-    return files_.readAll(path(std::string(sectionKey) + ".dat"), largestFile).value_or(std::string());
+    return files_.readAll(path(std::string(sectionKey) + ".dat"), maxFileSize).value_or(std::string());
 }
 
 std::string BrowseFolder::pageTitle(std::int16_t section, std::int32_t pageId) const {

@@ -9,20 +9,20 @@
 
 namespace controls::select {
 
-/// Reads from the data folder what the browse selection shows. Nothing is kept: each call opens and closes
-/// its files.
+/// Reads the files of the data folder for the browse selection. Each call opens and closes its files.
 class BrowseFolder {
   public:
     /// `files` must outlive the object; `folder` is a DOS path that ends with a backslash.
     BrowseFolder(const platform::FileSystem& files, std::string folder);
 
-    /// The index file, or, when it is missing or damaged, the pages of the sections' title files.
+    /// Reads the index. When its file is missing or damaged, the index is made of the sections' title files.
     formats::BrowseIndex readIndex() const;
 
-    /// The title of a page in the title files, that of `section` first; empty when none has it.
+    /// The title of a page in the title files, of which that of `section` comes first; empty when none has
+    /// it.
     std::string pageTitle(std::int16_t section, std::int32_t pageId) const;
 
-    /// The title of an entry in its title list; empty when there is no such list or entry.
+    /// The title of an entry in its title list, empty when there is no such list or entry.
     std::string entryTitle(std::int32_t itemCode) const;
 
   private:

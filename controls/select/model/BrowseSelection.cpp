@@ -26,8 +26,8 @@ std::optional<Row> rowOfEntry(const BrowseSection& section, std::int32_t itemCod
     return std::nullopt;
 }
 
-// An unknown topic leaves the entry's own number to go by; an entry of a start page is shown under it as
-// well.
+/// The line of a place. When its topic is unknown, the line of the entry with its item code or page id: an
+/// entry of a start page is a page of its own.
 std::optional<Row> rowOf(const BrowseSection& section, const Place& place) {
     const auto topic = std::ranges::find(section.topics, place.pageId, &BrowseTopic::pageId);
     if (topic == section.topics.end()) {

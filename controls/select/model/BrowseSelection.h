@@ -11,15 +11,15 @@
 
 namespace controls::select {
 
-/// The state of the browse selection: the section listed, the place that the host shows, and what each
-/// request or choice is answered with. The caller raises the events that it returns.
+/// The state of the browse selection: the section that is listed and the place that the host shows. It
+/// answers requests of the host and choices of the reader with events, which the caller raises.
 class BrowseSelection {
   public:
     BrowseSelection() = default;
     BrowseSelection(const BrowseSelection&) = delete;
     BrowseSelection& operator=(const BrowseSelection&) = delete;
 
-    /// Starts anew with an index, no section and no place.
+    /// Sets a new index and forgets section and place.
     void setIndex(formats::BrowseIndex index);
 
     /// 0 until a section is set.
@@ -28,26 +28,29 @@ class BrowseSelection {
     TopicList& list() { return list_; }
     const TopicList& list() const { return list_; }
 
-    /// Lists a section; the same one again keeps its narrowing and opened topics. Its start page counts as
-    /// shown from now on, for the host opens it unless it asks for another place at once.
+    /// Lists a section. Setting the same section again keeps the filter and the opened topics. The start page
+    /// of the section becomes the place shown, because the host opens it, unless it asks for another place
+    /// next.
     void setSection(std::int16_t code);
 
-    /// The section that has the place, the current one first; the current one when none has.
+    /// The section that has the place: the current section if it can be, the current section also when none
+    /// has it.
     std::int16_t sectionOf(const Place& place) const;
 
     /// Shows a place that the host asks for, in its section and with its topic opened. A negative item code
     /// stands for the topic's own page.
     ChoiceEvents show(const Place& place);
 
-    /// Shows the line that the reader has chosen, which must be a line of the section.
+    /// Shows the line that the reader has chosen. It must be a line of the section.
     ChoiceEvents choose(const Row& row);
 
-    /// The line of the place on show: its entry, else its topic; nothing when the section has neither.
+    /// The line of the place that is shown: its entry, else its topic; nothing when the section has neither.
     const std::optional<Row>& shownRow() const { return shownRow_; }
 
-    /// The title of a page in the index: a topic, or an entry of that number; empty when unknown.
+    /// The title of the topic with this page id, else of the entry with this number; empty when there is
+    /// none.
     std::string pageTitle(std::int32_t pageId) const;
-    /// The title of an entry in the index, the current section first; empty when unknown.
+    /// The title of an entry, looked up in the current section first; empty when there is none.
     std::string itemTitle(std::int32_t itemCode) const;
 
   private:
@@ -59,7 +62,7 @@ class BrowseSelection {
     formats::BrowseIndex index_;
     std::int16_t section_ = 0;
     Place shown_;
-    // Kept because each drawn and measured line asks for it.
+    // Kept, because every line asks for it when it is drawn or measured.
     std::optional<Row> shownRow_;
     TopicList list_;
 };

@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::int32_t startPageStep = 10'000;
 
-// The host has already opened a start page under its own id, so no other number may answer for it.
+// A start page is always answered by its own id, because the host has already opened it under that number.
 std::int32_t pageNumberOf(std::int32_t pageId, const formats::BrowseTopic* topic) {
     return topic && !isStartPage(pageId) ? topic->pageNumber : pageId;
 }

@@ -9,7 +9,7 @@
 
 namespace controls::select {
 
-/// The host shows the page and takes the page id as the topic on show, with no entry.
+/// The reader has chosen a page. The host shows it, and takes the page id as its topic, without an entry.
 struct PageChosen {
     std::int32_t pageNumber = 0;
     std::int32_t pageId = 0;
@@ -17,7 +17,8 @@ struct PageChosen {
     bool operator==(const PageChosen&) const = default;
 };
 
-/// The host keeps its topic, takes the item code as the entry on show and shows the page of that number.
+/// The reader has chosen an entry. The host keeps its topic, takes the item code as its entry and shows the
+/// page with that number.
 struct ItemChosen {
     std::int32_t itemCode = 0;
 
@@ -27,20 +28,20 @@ struct ItemChosen {
 using ChoiceEvent = std::variant<PageChosen, ItemChosen>;
 using ChoiceEvents = std::vector<ChoiceEvent>;
 
-/// Whether the host opens this page itself when it returns to it, without asking for its entry: the start
-/// page of a section, or any multiple of 10000.
+/// Whether a page is the start page of a section or a multiple of 10000. When the host returns to such a
+/// page, it opens the page itself and does not ask for an entry.
 bool isStartPage(std::int32_t pageId);
 
-/// The answer to a host that asks for a place, known to the section or not (`section` may be null). Empty
-/// when the place names no page at all.
+/// The answer to a host that asks for a place. The section need not have the place, and may be null. Empty
+/// when the place names no page.
 ChoiceEvents answerTo(const Place& asked, const formats::BrowseSection* section);
 
-/// What the reader's choice of a topic's own page raises.
+/// The events for the reader's choice of a topic's own page.
 ChoiceEvents choiceOf(const formats::BrowseTopic& topic);
 
-/// What the reader's choice of an entry raises, so that the host's address leads back to the entry: its topic
-/// first when the host shows another one. An entry of a start page counts as a page of its own, because the
-/// host would return to the start page alone.
+/// The events for the reader's choice of an entry. They make the host's address lead back to the entry: first
+/// comes its topic when the host shows another one. An entry of a start page is chosen as a page of its own,
+/// because the host would return to the start page only.
 ChoiceEvents choiceOf(const formats::BrowseTopic& topic, const formats::BrowseEntry& entry,
                       const Place& shown);
 

@@ -6,11 +6,11 @@
 
 namespace controls::select {
 
-/// What the host calls the place on show.
+/// A place in the content, as the host names it.
 struct Place {
-    /// The topic that owns the page; 0 when none.
+    /// The page id of the topic, 0 for none.
     std::int32_t pageId = 0;
-    /// The entry of that topic, or 0 for the topic's own page.
+    /// The entry of that topic, 0 for the topic's own page.
     std::int32_t itemCode = 0;
 
     bool operator==(const Place&) const = default;

@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::string_view blanks = " \t\r\n\xA0";
 
-// Overlapping and touching parts become one.
+/// Joins parts that overlap or touch.
 std::vector<Span> merged(std::vector<Span> found) {
     std::ranges::sort(found, {}, &Span::start);
     std::vector<Span> result;

@@ -15,8 +15,8 @@ struct Span {
     bool operator==(const Span&) const = default;
 };
 
-/// What the reader has typed: words that a title must all hold, anywhere and in any order, letter case and
-/// accents left aside.
+/// The words that the reader has typed. A title passes when it holds all of them, anywhere and in any order,
+/// without regard to letter case and accents.
 class TitleFilter {
   public:
     /// Lets every title pass.
@@ -24,13 +24,13 @@ class TitleFilter {
     /// Takes the words of a text in code page 1253.
     explicit TitleFilter(std::string_view text);
 
-    /// Whether there is a word to look for.
+    /// Whether the filter has any word.
     bool active() const { return !words_.empty(); }
 
     /// Whether a title passes; `folded` is the title as `platform::fold` gives it.
     bool passes(std::string_view folded) const;
 
-    /// The parts of a folded title that the words name, in order and without overlap.
+    /// The parts of a folded title that match the words, in order and without overlap.
     std::vector<Span> spans(std::string_view folded) const;
 
   private:

@@ -40,7 +40,7 @@ void TopicList::narrow(std::string_view text) {
         if (auto listed = filtered(topic)) listed_.push_back(std::move(*listed));
     }
     for (const ListedTopic& listed : listed_) {
-        // Entries that are listed but do not pass stay behind their topic.
+        // A topic stays closed when its entries are listed without passing the filter themselves.
         openedWhileNarrowed_[listed.topic] =
             !listed.entries.empty() && filter_.passes(folded({listed.topic, listed.entries.front()}));
     }

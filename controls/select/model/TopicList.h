@@ -13,11 +13,11 @@
 
 namespace controls::select {
 
-/// The topics of one section as the reader sees them: all, or those that pass the filter, each opened or
+/// The topics of one section as they are listed: all of them or those that pass the filter, each opened or
 /// closed.
 class TopicList {
   public:
-    /// A topic that is listed, with its listed entries; both count from 0 in the section.
+    /// A topic that is listed, and its entries that are listed. Both are positions in the section, from 0.
     struct ListedTopic {
         std::size_t topic = 0;
         /// Whether its own title passes the filter.
@@ -25,27 +25,27 @@ class TopicList {
         std::vector<std::size_t> entries;
     };
 
-    /// Lists a section, which must outlive its use here, with all topics closed and nothing left out; null
-    /// lists nothing.
+    /// Lists all topics of a section, closed. The section must exist as long as it is listed. Null lists
+    /// nothing.
     void setSection(const formats::BrowseSection* section);
 
-    /// Leaves only what the text finds. A topic stays when its title passes (with all entries, closed, unless
-    /// some of them pass too) or when an entry passes (opened, with these entries). A blank text lists
-    /// everything again, with the topics opened as they were.
+    /// Lists only what matches the text. When entries of a topic pass the filter, the topic is listed opened,
+    /// with these entries. When only its title passes, it is listed closed, with all entries. A blank text
+    /// lists everything again, and the topics are opened as before.
     void narrow(std::string_view text);
     bool narrowed() const { return filter_.active(); }
 
     std::span<const ListedTopic> topics() const { return listed_; }
     bool contains(const Row& row) const;
 
-    /// The first line whose own title passes; nothing when the list is not narrowed or is empty.
+    /// The first line whose own title passes the filter. Nothing when the list is not narrowed or is empty.
     std::optional<Row> firstMatch() const;
 
-    /// Topics are opened and closed by their position in the section; a narrowed list forgets that when it
-    /// changes.
+    /// Whether a topic is opened; topics are named by their positions in the section. Topics opened or closed
+    /// in a narrowed list are so only until the list changes.
     bool opened(std::size_t topic) const;
     void setOpened(std::size_t topic, bool opened);
-    /// Opens a topic in the narrowed list and in the whole one.
+    /// Opens a topic in the narrowed list and in the whole list.
     void openLastingly(std::size_t topic);
 
     const std::string& title(const Row& row) const;

@@ -175,19 +175,23 @@ TEST(ElementSearch, SymbolThenStartOfANameInEitherLanguage) {
                           {"ΣΊΔΗΡΟΣ"_gr, "Fe"}, {"ηλιο"_gr, "He"}, {"αινσταινιο"_gr, "Es"},
                           {"ogan", "Og"},       {"d", "Dy"}};
     for (const auto& [typed, symbol] : cases) {
-        EXPECT_EQ(findElementByStart(typed), numberOf(symbol)) << typed;
+        EXPECT_EQ(findElementByStart(typed), findElement(numberOf(symbol))) << typed;
     }
-    EXPECT_EQ(findElementByStart(""), 0);
-    EXPECT_EQ(findElementByStart("qq"), 0);
+    EXPECT_EQ(findElementByStart(""), nullptr);
+    EXPECT_EQ(findElementByStart("qq"), nullptr);
 }
 
 TEST(TypeAhead, LettersOfOneWordBelongTogetherUntilAPause) {
     TypeAhead typing;
-    EXPECT_EQ(typing.type("c", 5000), numberOf("C"));
-    EXPECT_EQ(typing.type("a", 5400), numberOf("Ca"));
-    EXPECT_EQ(typing.type("a", 5400 + TypeAhead::pauseMilliseconds + 1), numberOf("Al"));
-    EXPECT_EQ(typing.type("x", 6500), numberOf("Xe")) << "a letter that leads nowhere starts a new word";
-    EXPECT_EQ(typing.type("q", 6600), 0);
+    const auto type = [&](std::string_view characters, std::int64_t milliseconds) {
+        const Element* found = typing.type(characters, milliseconds, findElementByStart);
+        return found ? found->symbol : std::string_view();
+    };
+    EXPECT_EQ(type("c", 5000), "C");
+    EXPECT_EQ(type("a", 5400), "Ca");
+    EXPECT_EQ(type("a", 5400 + TypeAhead::pauseMilliseconds + 1), "Al");
+    EXPECT_EQ(type("x", 6500), "Xe") << "a letter that leads nowhere starts a new word";
+    EXPECT_EQ(type("q", 6600), "");
 }
 
 }  // namespace

@@ -10,7 +10,7 @@
 #include "controls/zoom/MoleculeZoom.h"
 #include "tests/controls/RecordingSite.h"
 
-/// What each component offers its host, and that it takes nothing else.
+/// Each component has the operations of its interface and refuses all other calls.
 namespace controls {
 namespace {
 
@@ -21,14 +21,14 @@ using platform::Variant;
 
 constexpr InvokeKind kinds[] = {InvokeKind::method, InvokeKind::propertyGet, InvokeKind::propertyPut};
 
-struct Component {
-    const char* name;
+struct Offer {
+    const char* component;
     platform::ComponentFactory create;
     /// A line for each operation: id, kind, name, types of the arguments.
     const char* operations;
 };
 
-const Component components[] = {
+const Offer offers[] = {
     {"periodic table", periodic::createPeriodicComponent,
      "1 get Version\n2 call SetDataFolder text\n3 call Redraw\n4 call GetStateA\n5 call GetStateB\n"
      "6 call SetState I4 I4\n"},
@@ -80,10 +80,10 @@ std::vector<Variant> fitting(const OperationInfo& operation) {
     return values;
 }
 
-void refusesMisfits(platform::Component& control, const OperationInfo& operation) {
+void refusesMisfits(platform::Component& component, const OperationInfo& operation) {
     SCOPED_TRACE(operation.name);
     const auto refuses = [&](const std::vector<Variant>& arguments) {
-        EXPECT_FALSE(control.invoke(operation.dispid, operation.kind, arguments));
+        EXPECT_FALSE(component.invoke(operation.dispid, operation.kind, arguments));
     };
     std::vector<Variant> arguments = fitting(operation);
     arguments.emplace_back(std::int32_t{1});
@@ -100,47 +100,47 @@ void refusesMisfits(platform::Component& control, const OperationInfo& operation
     }
 }
 
-void refusesAllBut(platform::Component& control) {
+void refusesAllOtherIds(platform::Component& component) {
     for (std::int32_t dispid = -2; dispid < 30; ++dispid) {
         for (const InvokeKind kind : kinds) {
             const auto is = [&](const OperationInfo& each) {
                 return each.dispid == dispid && each.kind == kind;
             };
-            if (std::ranges::any_of(control.operations(), is)) continue;
-            EXPECT_FALSE(control.invoke(dispid, kind, {})) << dispid;
-            EXPECT_FALSE(control.invoke(dispid, kind, std::vector{Variant(std::int32_t{1})})) << dispid;
+            if (std::ranges::any_of(component.operations(), is)) continue;
+            EXPECT_FALSE(component.invoke(dispid, kind, {})) << dispid;
+            EXPECT_FALSE(component.invoke(dispid, kind, std::vector{Variant(std::int32_t{1})})) << dispid;
         }
     }
 }
 
 TEST(Operations, AreThoseOfTheInterfaceAndTakeTheirArgumentsOnly) {
-    for (const Component& component : components) {
-        SCOPED_TRACE(component.name);
+    for (const Offer& offer : offers) {
+        SCOPED_TRACE(offer.component);
         RecordingSite site;
-        const auto control = component.create(site, nullptr);
+        const auto component = offer.create(site, nullptr);
         std::string lines;
-        for (const OperationInfo& operation : control->operations()) {
+        for (const OperationInfo& operation : component->operations()) {
             lines += lineOf(operation);
-            refusesMisfits(*control, operation);
+            refusesMisfits(*component, operation);
         }
-        EXPECT_EQ(lines, component.operations);
-        refusesAllBut(*control);
+        EXPECT_EQ(lines, offer.operations);
+        refusesAllOtherIds(*component);
         EXPECT_TRUE(site.events.empty());
     }
 }
 
-TEST(Controls, SurviveTheirHostsWindow) {
-    for (const Component& component : components) {
-        SCOPED_TRACE(component.name);
+TEST(Components, SurviveTheirHostsWindow) {
+    for (const Offer& offer : offers) {
+        SCOPED_TRACE(offer.component);
         RecordingSite site;
         auto window = std::make_unique<QWidget>();
-        const auto control = component.create(site, window.get());
-        EXPECT_EQ(control->widget().parentWidget(), window.get());
-        control->widget().resize(120, 30);
-        control->widget().grab();
+        const auto component = offer.create(site, window.get());
+        EXPECT_EQ(component->widget().parentWidget(), window.get());
+        component->widget().resize(120, 30);
+        component->widget().grab();
         window.reset();
-        for (const OperationInfo& operation : control->operations()) {
-            if (operation.arguments.empty()) control->invoke(operation.dispid, operation.kind, {});
+        for (const OperationInfo& operation : component->operations()) {
+            if (operation.arguments.empty()) component->invoke(operation.dispid, operation.kind, {});
         }
     }
 }

@@ -4,7 +4,7 @@
 
 #include "controls/dataanalyser/graph/GraphChart.h"
 #include "controls/dataanalyser/graph/GraphMarks.h"
-#include "controls/dataanalyser/model/EntryWords.h"
+#include "controls/dataanalyser/model/AnalyserState.h"
 #include "tests/controls/dataanalyser/AnalyserTest.h"
 
 namespace controls::dataanalyser {
@@ -19,12 +19,12 @@ bool isBlank(const QImage& picture) {
 }
 
 TEST_F(AnalyserTest, FaultyRowsAreNamedInTheMessageLine) {
-    call(control_, 15, gases);
+    call(component_, 15, gases);
     ASSERT_EQ(table().model()->rowCount(), 4);
     EXPECT_EQ(cell(1, 1), "CH₄");
     EXPECT_EQ(cell(3, 3), "–");
     const QString told =
-        control_.widget().findChild<QWidget*>(QStringLiteral("message"))->accessibleDescription();
+        component_.widget().findChild<QWidget*>(QStringLiteral("message"))->accessibleDescription();
     EXPECT_TRUE(told.contains(QStringLiteral("gases.dat, γραμμή 13 («λάθος»)"))) << told.toStdString();
     EXPECT_TRUE(told.contains(QStringLiteral("γραμμή 16 («κομμένο»): το αρχείο τελειώνει απότομα")));
     EXPECT_TRUE(told.contains(QStringLiteral("Πηγή: δοκιμή")));
@@ -33,43 +33,43 @@ TEST_F(AnalyserTest, FaultyRowsAreNamedInTheMessageLine) {
 TEST_F(AnalyserTest, ClickOnAHeadingSortsAndASecondTurnsTheOrder) {
     clickRow(0);
     clickHeading(8);
-    EXPECT_EQ(property<std::int16_t>(control_, 3), 8);
+    EXPECT_EQ(property<std::int16_t>(component_, 3), 8);
     EXPECT_EQ(cell(0, 1), "H");
     clickHeading(8);
-    EXPECT_TRUE(property<bool>(control_, 5));
+    EXPECT_TRUE(property<bool>(component_, 5));
     EXPECT_EQ(cell(0, 1), "Os");
     EXPECT_EQ(cell(117, 8), "–");
     EXPECT_EQ(selected(), std::vector<std::int16_t>{1}) << "the selection stays with its element";
     clickHeading(0);
-    EXPECT_FALSE(property<bool>(control_, 5));
+    EXPECT_FALSE(property<bool>(component_, 5));
 }
 
 TEST_F(AnalyserTest, KeysSortByTheColumnUnderTheCursor) {
     table().setCurrentIndex(table().model()->index(0, 2));
     QTest::keyClick(&table(), Qt::Key_Down, Qt::AltModifier);
-    EXPECT_EQ(property<std::int16_t>(control_, 3), 2);
+    EXPECT_EQ(property<std::int16_t>(component_, 3), 2);
     EXPECT_EQ(cell(0, 2), "Ψευδάργυρος");
     QTest::keyClick(&table(), Qt::Key_Up, Qt::AltModifier);
     EXPECT_EQ(cell(0, 2), "Άζωτο");
 }
 
 TEST_F(AnalyserTest, DataSetAndCategoryAreChosenInTheStrip) {
-    const auto boxes = control_.widget().findChildren<QComboBox*>();
+    const auto boxes = component_.widget().findChildren<QComboBox*>();
     QTest::keyClick(boxes[1], Qt::Key_Down);
     EXPECT_EQ(entry(categoryWord), 1);
     EXPECT_EQ(table().model()->rowCount(), 7) << "non-metals";
     QTest::keyClick(boxes[0], Qt::Key_Down);
-    EXPECT_EQ(ask<std::int16_t>(control_, 13, InvokeKind::method), gases);
+    EXPECT_EQ(ask<std::int16_t>(component_, 13, InvokeKind::method), gases);
     EXPECT_EQ(table().model()->rowCount(), 4);
     EXPECT_EQ(boxes[1]->currentIndex(), 0);
 }
 
 TEST_F(AnalyserTest, CopySelectionPutsTextAndATableOnTheClipboard) {
-    call(control_, 12);
+    call(component_, 12);
     EXPECT_EQ(copiedText(), QStringLiteral("before")) << "nothing is selected";
     clickRow(3);
     clickRow(0, Qt::ControlModifier);
-    call(control_, 12);
+    call(component_, 12);
     const QStringList lines = copiedText().split(QLatin1Char('\n'));
     ASSERT_EQ(lines.size(), 4);
     EXPECT_TRUE(lines[1].startsWith(QStringLiteral("1\tH\tΥδρογόνο\t1,008\t")));
@@ -82,40 +82,40 @@ TEST_F(AnalyserTest, CopySelectionPutsTextAndATableOnTheClipboard) {
 }
 
 TEST_F(AnalyserTest, GraphIsCopiedAndPrintedOnlyWhenShown) {
-    EXPECT_EQ(ask<std::int16_t>(control_, 22, InvokeKind::method), 0);
-    call(control_, 23);
+    EXPECT_EQ(ask<std::int16_t>(component_, 22, InvokeKind::method), 0);
+    call(component_, 23);
     EXPECT_EQ(copiedText(), QStringLiteral("before"));
     EXPECT_TRUE(site_.printed.empty());
-    put(control_, 2, std::int16_t{1});
-    EXPECT_EQ(ask<std::int16_t>(control_, 22, InvokeKind::method), 1);
+    put(component_, 2, std::int16_t{1});
+    EXPECT_EQ(ask<std::int16_t>(component_, 22, InvokeKind::method), 1);
     EXPECT_FALSE(isBlank(QGuiApplication::clipboard()->image()));
-    call(control_, 23);
+    call(component_, 23);
     EXPECT_EQ(site_.printed, std::vector<std::string>{"Kalyxo"});
     EXPECT_FALSE(isBlank(site_.page));
 }
 
 TEST(AnalyserComponentWithoutGraphs, SaysSo) {
     DataSite site;
-    AnalyserComponent control(site, nullptr, [] { return static_cast<const GraphParts*>(nullptr); });
-    control.widget().show();
-    put(control, 2, std::int16_t{1});
-    static_cast<AnalyserPane&>(control.widget()).refreshNow();
+    AnalyserComponent component(site, nullptr, [] { return static_cast<const GraphParts*>(nullptr); });
+    component.widget().show();
+    put(component, 2, std::int16_t{1});
+    static_cast<AnalyserPane&>(component.widget()).refreshNow();
     QCoreApplication::processEvents();
-    EXPECT_TRUE(std::ranges::any_of(control.widget().findChildren<QLabel*>(), [](const QLabel* label) {
+    EXPECT_TRUE(std::ranges::any_of(component.widget().findChildren<QLabel*>(), [](const QLabel* label) {
         return label->isVisible() &&
                label->text().contains(QStringLiteral("δεν είναι δυνατό"), Qt::CaseInsensitive);
     }));
 }
 
 TEST_F(AnalyserTest, PointerTellsThePointsName) {
-    call(control_, 15, gases);
-    put(control_, 2, std::int16_t{1});
+    call(component_, 15, gases);
+    put(component_, 2, std::int16_t{1});
     const GraphMarks& marks = graph().graphChart().marks();
-    ASSERT_EQ(marks.scenery().graph.marks.size(), 3U) << "without the row that has no mass";
+    ASSERT_EQ(marks.content().graph.marks.size(), 3U) << "without the row that has no mass";
     const QString told =
-        control_.widget().findChild<QWidget*>(QStringLiteral("message"))->accessibleDescription();
+        component_.widget().findChild<QWidget*>(QStringLiteral("message"))->accessibleDescription();
     EXPECT_TRUE(told.startsWith(QStringLiteral("1 γραμμή δεν έχει τιμή"))) << told.toStdString();
-    const QPointF place = marks.place(marks.scenery().graph.marks[1]);
+    const QPointF place = marks.place(marks.content().graph.marks[1]);
     const QPoint at = graph().mapFromScene(graph().graphChart().mapToScene(place));
     QTest::mouseMove(graph().viewport(), at);
     EXPECT_EQ(graph().graphChart().hoverLines(),
@@ -126,26 +126,26 @@ TEST_F(AnalyserTest, PointerTellsThePointsName) {
 }
 
 TEST_F(AnalyserTest, NameUnderThePointerGoesWithItsDataSet) {
-    put(control_, 2, std::int16_t{1});
+    put(component_, 2, std::int16_t{1});
     for (int i = 0; i < 50; ++i) QTest::keyClick(&graph(), Qt::Key_Right);
     EXPECT_FALSE(graph().graphChart().hoverLines().isEmpty());
-    call(control_, 15, gases);
+    call(component_, 15, gases);
     EXPECT_TRUE(graph().graphChart().hoverLines().isEmpty());
 }
 
 TEST_F(AnalyserTest, KeysZoomMoveAndReset) {
-    put(control_, 2, std::int16_t{1});
-    const GraphWindow whole = graph().graphChart().marks().scenery().window;
+    put(component_, 2, std::int16_t{1});
+    const GraphWindow whole = graph().graphChart().marks().content().window;
     QTest::keyClick(&graph(), Qt::Key_Plus);
-    const GraphWindow closer = graph().graphChart().marks().scenery().window;
+    const GraphWindow closer = graph().graphChart().marks().content().window;
     EXPECT_LT(closer.x.span(), whole.x.span());
     QTest::keyClick(&graph(), Qt::Key_Right, Qt::ShiftModifier);
-    EXPECT_GT(graph().graphChart().marks().scenery().window.x.from, closer.x.from);
+    EXPECT_GT(graph().graphChart().marks().content().window.x.from, closer.x.from);
     QTest::keyClick(&graph(), Qt::Key_Home);
-    EXPECT_EQ(graph().graphChart().marks().scenery().window, whole);
-    put(control_, 7, std::int16_t{2});
+    EXPECT_EQ(graph().graphChart().marks().content().window, whole);
+    put(component_, 7, std::int16_t{2});
     QTest::keyClick(&graph(), Qt::Key_Plus);
-    const GraphScenery& bars = graph().graphChart().marks().scenery();
+    const GraphContent& bars = graph().graphChart().marks().content();
     EXPECT_LT(bars.window.x.span(), bars.graph.whole.x.span());
     EXPECT_NEAR(bars.window.y.span(), bars.graph.whole.y.span(), 1e-4) << "bars keep their feet";
 }

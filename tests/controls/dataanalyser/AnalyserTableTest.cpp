@@ -12,6 +12,7 @@
 #include "controls/dataanalyser/model/RowNames.h"
 #include "controls/dataanalyser/model/RowOrder.h"
 #include "controls/dataanalyser/model/TableText.h"
+#include "controls/elements/NumberText.h"
 #include "formats/DataSetFile.h"
 #include "platform/text/CodePage1253.h"
 
@@ -33,7 +34,7 @@ std::vector<int> ordered(const formats::DataSet& set, const RowOrder& order) {
 
 using Rows = std::vector<int>;
 
-TEST(AnalyserRows, AreSortedAndParted) {
+TEST(AnalyserRows, AreSortedAndSelectedByCategory) {
     const auto set = sample();
     EXPECT_EQ(ordered(set, {}), (Rows{0, 1, 2, 3}));
     EXPECT_EQ(ordered(set, {0, false, 0}), (Rows{3, 1, 2, 0})) << "accents do not count";
@@ -61,11 +62,9 @@ TEST(AnalyserRows, ElementsThatDoNotMeltAtOneAtmosphereAreTold) {
 TEST(AnalyserRows, TypedCharactersFindThem) {
     const auto set = elementSet();
     const auto rows = ordered(set, {});
-    RowSearch search;
-    EXPECT_EQ(search.type("c", 0, set, rows), 5) << "the symbol comes before all beginnings";
-    EXPECT_EQ(search.type("o", 10, set, rows), 26);
-    EXPECT_EQ(search.type(platform::fromUtf8("χρυ"), 5000, set, rows), 78);
-    EXPECT_EQ(search.type("%", 5001, set, rows), -1);
+    EXPECT_EQ(findRowByStart(set, rows, "c"), 5) << "the symbol comes before all beginnings";
+    EXPECT_EQ(findRowByStart(set, rows, platform::fromUtf8("χρυ")), 78);
+    EXPECT_EQ(findRowByStart(set, rows, "%"), std::nullopt);
 }
 
 TEST(AnalyserText, CopiesHaveUnitsCommasAndNoMarkup) {

@@ -19,7 +19,7 @@
 
 namespace controls::dataanalyser {
 
-/// A host with a data folder on drive D:, in which a data set has faulty rows, and a printer that draws on a
+/// A host with a data folder on drive D:, whose data set has faulty rows, and with a printer that draws on a
 /// picture.
 class DataSite : public RecordingSite {
   public:
@@ -54,29 +54,29 @@ class DataSite : public RecordingSite {
     platform::FileSystem files_{{{'D', platform::DriveType::cdrom, folder_.path()}}};
 };
 
-/// The number of its data set.
+/// The number of the data set in its data folder.
 inline constexpr std::int16_t gases = 7;
 
-/// The analyser on show, with that data.
+/// The analyser on the screen, with that data folder.
 class AnalyserTest : public testing::Test {
   protected:
     AnalyserTest() {
-        call(control_, 10, std::int32_t{1103}, std::string("D:\\"));
-        control_.widget().resize(1016, 640);
-        control_.widget().show();
+        call(component_, 10, std::int32_t{1103}, std::string("D:\\"));
+        component_.widget().resize(1016, 640);
+        component_.widget().show();
         QGuiApplication::clipboard()->setText(QStringLiteral("before"));
     }
 
-    AnalyserPane& pane() { return static_cast<AnalyserPane&>(control_.widget()); }
-    /// What is under way is carried out first.
+    AnalyserPane& pane() { return static_cast<AnalyserPane&>(component_.widget()); }
+    /// The table, after all changes have been shown.
     TableView& table() {
         pane().refreshNow();
-        return dynamic_cast<TableView&>(*control_.widget().findChild<QTableView*>());
+        return dynamic_cast<TableView&>(*component_.widget().findChild<QTableView*>());
     }
     GraphView& graph() {
         pane().refreshNow();
         QCoreApplication::processEvents();
-        return dynamic_cast<GraphView&>(*control_.widget().findChild<QChartView*>());
+        return dynamic_cast<GraphView&>(*component_.widget().findChild<QChartView*>());
     }
     std::string cell(int row, int column) {
         return table().model()->index(row, column).data().toString().toStdString();
@@ -94,28 +94,28 @@ class AnalyserTest : public testing::Test {
     /// Selects rows by id, as a host does.
     void select(const std::vector<std::int16_t>& ids, std::int16_t top = 0) {
         const auto bytes = std::as_bytes(std::span(ids));
-        call(control_, 18, static_cast<std::int32_t>(bytes.size()), top, control_.keepBlock(bytes));
+        call(component_, 18, static_cast<std::int32_t>(bytes.size()), top, component_.keepBlock(bytes));
     }
     std::vector<std::int16_t> selected() {
-        std::vector<std::int16_t> ids(static_cast<std::size_t>(property<std::int32_t>(control_, 8)) / 2);
-        const auto bytes = control_.block(ask<std::int32_t>(control_, 17, platform::InvokeKind::method));
+        std::vector<std::int16_t> ids(static_cast<std::size_t>(property<std::int32_t>(component_, 8)) / 2);
+        const auto bytes = component_.block(ask<std::int32_t>(component_, 17, platform::InvokeKind::method));
         EXPECT_EQ(bytes.size(), ids.size() * 2);
         if (!ids.empty()) std::memcpy(ids.data(), bytes.data(), bytes.size());
         return ids;
     }
-    /// An entry by its word.
+    /// The value of the entry with this word.
     std::int32_t entry(std::int32_t word) {
-        return ask<std::int32_t>(control_, 21, platform::InvokeKind::method, place(word));
+        return ask<std::int32_t>(component_, 21, platform::InvokeKind::method, place(word));
     }
-    void setEntry(std::int32_t word, std::int32_t value) { call(control_, 20, place(word), value); }
+    void setEntry(std::int32_t word, std::int32_t value) { call(component_, 20, place(word), value); }
     static QString copiedText() { return QGuiApplication::clipboard()->text(); }
 
     DataSite site_;
-    AnalyserComponent control_{site_, nullptr, linkedGraphParts};
+    AnalyserComponent component_{site_, nullptr, linkedGraphParts};
 
   private:
     std::int16_t place(std::int32_t word) {
-        const auto bytes = control_.block(ask<std::int32_t>(control_, 14, platform::InvokeKind::method));
+        const auto bytes = component_.block(ask<std::int32_t>(component_, 14, platform::InvokeKind::method));
         std::vector<std::int32_t> words(bytes.size() / 4);
         std::memcpy(words.data(), bytes.data(), bytes.size());
         return static_cast<std::int16_t>(std::ranges::find(words, word) - words.begin() - 1);

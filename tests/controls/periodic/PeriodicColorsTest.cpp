@@ -25,7 +25,8 @@ Three linearRgb(const QColor& color) {
     return {decoded(color.redF()), decoded(color.greenF()), decoded(color.blueF())};
 }
 
-/// CIELAB (D65), by which the evenness of the scale is judged, whatever space it was made in.
+/// The colour in CIELAB (D65). The evenness of the scale is judged in this space, though it was made in
+/// another.
 Three lab(const Three& rgb) {
     constexpr std::array<Three, 3> toXyz{{{0.4124564, 0.3575761, 0.1804375},
                                           {0.2126729, 0.7151522, 0.0721750},
@@ -44,7 +45,8 @@ double distance(const Three& one, const Three& other) {
     return std::hypot(one[0] - other[0], one[1] - other[1], one[2] - other[2]);
 }
 
-/// How a colour is seen (G. Machado et al., 2009, full strength) by eyes that lack one kind of cone.
+/// A kind of colour vision: how a colour is seen by eyes that lack one kind of cone (G. Machado et al.,
+/// 2009).
 struct Vision {
     const char* name;
     std::array<Three, 3> matrix;
@@ -71,16 +73,16 @@ const std::vector<Vision> visions{
 TEST(ColorScale, GetsDarkerByEvenStepsForEveryKindOfColourVision) {
     constexpr int steps = 10;
     for (const Vision& vision : visions) {
-        double least = 1000;
-        double most = 0;
+        double minStep = 1000;
+        double maxStep = 0;
         for (int i = 0; i < steps; ++i) {
             const Three here = vision.seen(scaleColor(i / double(steps)));
             const Three next = vision.seen(scaleColor((i + 1) / double(steps)));
             EXPECT_GT(here[0], next[0] + 3) << vision.name << ' ' << i;
-            least = std::min(least, distance(here, next));
-            most = std::max(most, distance(here, next));
+            minStep = std::min(minStep, distance(here, next));
+            maxStep = std::max(maxStep, distance(here, next));
         }
-        EXPECT_LT(most / least, 2.2) << vision.name << ' ' << least << ' ' << most;
+        EXPECT_LT(maxStep / minStep, 2.2) << vision.name << ' ' << minStep << ' ' << maxStep;
     }
 }
 
@@ -98,7 +100,7 @@ TEST(CellLook, TextCanBeReadOnEveryCellInEveryState) {
                     if (look.ground == CellLook::Ground::hatched) grounds = {noData, noDataStroke};
                     if (look.ground == CellLook::Ground::empty) grounds = {appearance::ground};
                     for (const QColor& below : grounds) {
-                        EXPECT_GE(appearance::contrast(look.text, below), appearance::leastContrast)
+                        EXPECT_GE(appearance::contrast(look.text, below), appearance::minContrast)
                             << element.symbol << " view " << code;
                     }
                 }

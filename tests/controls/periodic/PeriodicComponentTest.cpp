@@ -15,15 +15,15 @@ class PeriodicComponentTest : public testing::Test {
   protected:
     PeriodicComponentTest() { table().resize(1016, 640); }
 
-    QWidget& table() { return control_.widget(); }
-    std::int32_t stateA() { return ask<std::int32_t>(control_, 4, InvokeKind::method); }
-    std::int32_t stateB() { return ask<std::int32_t>(control_, 5, InvokeKind::method); }
+    QWidget& table() { return component_.widget(); }
+    std::int32_t stateA() { return ask<std::int32_t>(component_, 4, InvokeKind::method); }
+    std::int32_t stateB() { return ask<std::int32_t>(component_, 5, InvokeKind::method); }
     int selected() { return stateA() & 0xFF; }
     QPoint middleOf(int number) { return TableLayout(table().size()).cell(placeOf(number)).center(); }
     void press(Qt::Key key) { QTest::keyClick(&table(), key); }
 
     RecordingSite site_;
-    PeriodicComponent control_{site_, nullptr};
+    PeriodicComponent component_{site_, nullptr};
 };
 
 TEST_F(PeriodicComponentTest, StateComesBackAndNonsenseFallsBack) {
@@ -51,7 +51,7 @@ TEST_F(PeriodicComponentTest, StateComesBackAndNonsenseFallsBack) {
                           {-1, -1, 0, 0},
                           {INT32_MIN, INT32_MAX, 0, 0}};
     for (const auto& [a, b, expectedA, expectedB] : cases) {
-        call(control_, 6, a, b);
+        call(component_, 6, a, b);
         EXPECT_EQ(stateA(), expectedA) << a;
         EXPECT_EQ(stateB(), expectedB) << b;
     }
@@ -59,7 +59,7 @@ TEST_F(PeriodicComponentTest, StateComesBackAndNonsenseFallsBack) {
 }
 
 TEST_F(PeriodicComponentTest, PressesThatAreNoClickRaiseNothing) {
-    EXPECT_FALSE(ask<bool>(control_, 2, InvokeKind::method, std::string())) << "no data folder";
+    EXPECT_FALSE(ask<bool>(component_, 2, InvokeKind::method, std::string())) << "no data folder";
     press(Qt::Key_Return);
     QTest::mouseClick(&table(), Qt::RightButton, {}, middleOf(26));
     QTest::mousePress(&table(), Qt::LeftButton, {}, middleOf(26));
@@ -80,7 +80,7 @@ TEST_F(PeriodicComponentTest, ArrowKeysWalkThroughTheTable) {
                           {89, Qt::Key_Down, 89}, {118, Qt::Key_Right, 118}, {118, Qt::Key_Up, 86},
                           {26, Qt::Key_Home, 1},  {26, Qt::Key_End, 118}};
     for (const auto& [from, key, to] : cases) {
-        call(control_, 6, std::int32_t{from}, std::int32_t{0});
+        call(component_, 6, std::int32_t{from}, std::int32_t{0});
         press(key);
         EXPECT_EQ(selected(), to) << from << " key " << key;
     }

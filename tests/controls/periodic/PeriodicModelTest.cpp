@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "controls/periodic/ElementCard.h"
-#include "controls/periodic/FigureText.h"
+#include "controls/periodic/ValueText.h"
 #include "controls/periodic/model/ElementKinds.h"
 #include "controls/periodic/model/QuantityScale.h"
 #include "controls/periodic/model/TableState.h"
@@ -41,8 +41,8 @@ TEST(PeriodicState, AnyTwoNumbersMakeAStateThatStays) {
         const TableState state = stateOf(next() & 0x1FFFF, next() & 0x0FFFFFFF);
         EXPECT_TRUE(state.selected == 0 || findElement(state.selected));
         EXPECT_LE(state.highlighted, kindCount(state.view));
-        EXPECT_TRUE(state.kelvin >= leastKelvin && state.kelvin <= mostKelvin);
-        EXPECT_TRUE(state.year >= leastYear && state.year <= mostYear);
+        EXPECT_TRUE(state.kelvin >= minKelvin && state.kelvin <= maxKelvin);
+        EXPECT_TRUE(state.year >= minYear && state.year <= maxYear);
         EXPECT_EQ(stateOf(firstHalf(state), secondHalf(state)), state);
     }
 }
@@ -96,7 +96,7 @@ TEST(QuantityScale, EveryValueHasAPlaceAndOnlyTinyAbundancesShareTheEnd) {
     EXPECT_FALSE(QuantityScale(Quantity::discovery, true).logarithmic());
 }
 
-TEST(FigureText, NumbersAsTheyAreReadInGreek) {
+TEST(ValueText, NumbersAsTheyAreReadInGreek) {
     struct Case {
         double value;
         const char* text;
@@ -112,7 +112,7 @@ TEST(FigureText, NumbersAsTheyAreReadInGreek) {
     EXPECT_EQ(temperatureText(273), "273 K = 0 °C");
 }
 
-TEST(FigureText, ValuesWithTheirUnits) {
+TEST(ValueText, ValuesWithTheirUnits) {
     struct Case {
         int number;
         Quantity quantity;

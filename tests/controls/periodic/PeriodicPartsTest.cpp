@@ -139,8 +139,8 @@ TEST(PeriodicCreation, NothingIsMadeBeforeTheTableIsShown) {
 }
 
 TEST_F(PeriodicParts, DrawingAgainWhatHasChangedGivesTheWholePicture) {
-    // The window keeps its pixels where it is not told to draw, as a table that draws too little would find
-    // out.
+    // The window keeps the pixels that are not drawn anew, so a table that draws too little gives another
+    // picture.
     QWidget& window = table_;
     for (const int number : {26, 57, 118}) {
         QTest::mouseMove(&window, table_.cellOf(number).center());

@@ -15,15 +15,15 @@
 #include "tests/controls/select/SampleIndex.h"
 #include "tests/support/TestFolder.h"
 
-/// Hosts a control and notes its events as "page 1 2" and "item 3".
+/// The host of a browse selection. It records events as "page 1 2" and "item 3".
 class SelectHost : public platform::ComponentSite {
   public:
     SelectHost() : SelectHost(*formats::encodeBrowseIndex(sample::index())) {}
-    /// With this content of the index file; none when empty.
+    /// The index file has this content; there is none when it is empty.
     explicit SelectHost(std::string_view indexFile) {
         if (!indexFile.empty()) data.write("select.ndx", indexFile);
         files_.setDrives({{'D', platform::DriveType::cdrom, data.path()}});
-        control = controls::select::createSelectComponent(*this, nullptr);
+        component = controls::select::createSelectComponent(*this, nullptr);
     }
 
     void initialise() {
@@ -31,11 +31,12 @@ class SelectHost : public platform::ComponentSite {
         call(5, sample::elements);
     }
 
-    /// Calls a method; an empty variant also when the control refuses it.
+    /// Calls a method. The result is empty also when the component refuses the call.
     template <class... Arguments>
     platform::Variant call(std::int32_t dispid, Arguments... given) {
         const std::vector<platform::Variant> arguments{platform::Variant(given)...};
-        return control->invoke(dispid, platform::InvokeKind::method, arguments).value_or(platform::Variant());
+        return component->invoke(dispid, platform::InvokeKind::method, arguments)
+            .value_or(platform::Variant());
     }
 
     std::string text(std::int32_t dispid, std::int32_t argument) {
@@ -46,7 +47,7 @@ class SelectHost : public platform::ComponentSite {
     std::vector<std::string> takeEvents() { return std::exchange(events_, {}); }
 
     controls::select::SelectPane& pane() {
-        return static_cast<controls::select::SelectPane&>(control->widget());
+        return static_cast<controls::select::SelectPane&>(component->widget());
     }
 
     void raiseEvent(std::int32_t dispid, std::span<platform::Variant> arguments) override {
@@ -65,7 +66,7 @@ class SelectHost : public platform::ComponentSite {
     const platform::FileSystem& files() const override { return files_; }
 
     TestFolder data;  ///< drive D:
-    std::unique_ptr<platform::Component> control;
+    std::unique_ptr<platform::Component> component;
 
   private:
     platform::FileSystem files_;

@@ -13,7 +13,7 @@ using Lines = std::vector<std::string>;
 
 namespace {
 
-// The pane on a screen, worked by keys and the mouse.
+/// The pane on the screen, operated by keys and mouse.
 class SelectPaneTest : public testing::Test {
   protected:
     void SetUp() override {
@@ -57,7 +57,7 @@ class SelectPaneTest : public testing::Test {
     QModelIndex topic(int row) { return model().index(row, 0); }
     QModelIndex entry(int topicRow, int row) { return model().index(row, 0, topic(topicRow)); }
 
-    // The titles marked as the place on show.
+    /// The titles marked as the place that is shown.
     QStringList marked() {
         QStringList titles;
         for (QModelIndex at = topic(0); at.isValid(); at = view().indexBelow(at)) {

@@ -13,7 +13,8 @@ class TopicListTest : public testing::Test {
   protected:
     TopicListTest() { list_.setSection(formats::findSection(index_, sample::elements)); }
 
-    // The listed titles as UTF-8, those of opened topics with their entries, as "Topic[Entry,Entry] Topic".
+    /// The listed titles in UTF-8, with the entries of opened topics, such as "Topic > Entry > Entry |
+    /// Topic".
     std::string listed() const {
         std::string text;
         for (const auto& topic : list_.topics()) {

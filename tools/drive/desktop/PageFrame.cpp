@@ -31,34 +31,34 @@ constexpr auto kWorld = QWebEngineScript::ApplicationWorld;
 class FrameWait : public QObject {
   public:
     FrameWait(QWebEngineView& view, std::chrono::milliseconds limit, std::function<void()> done)
-        : QObject(&view), m_page(view.page()), m_done(std::move(done)) {
-        m_page->runJavaScript(kAskForFrame, kWorld);
-        connect(&m_look, &QTimer::timeout, this, &FrameWait::look);
-        m_look.start(kLookAgain);
+        : QObject(&view), page_(view.page()), done_(std::move(done)) {
+        page_->runJavaScript(kAskForFrame, kWorld);
+        connect(&look_, &QTimer::timeout, this, &FrameWait::look);
+        look_.start(kLookAgain);
         QTimer::singleShot(limit, this, &FrameWait::finish);
     }
     ~FrameWait() override { finish(); }
 
   private:
     void look() {
-        if (!m_page || m_page->isLoading()) return finish();
-        m_page->runJavaScript("window.frameDrawn", kWorld,
+        if (!page_ || page_->isLoading()) return finish();
+        page_->runJavaScript("window.frameDrawn", kWorld,
                               [waiting = QPointer<FrameWait>(this)](const QVariant& drawn) {
                                   if (waiting && drawn.toBool()) waiting->finish();
                               });
     }
 
     void finish() {
-        m_look.stop();
-        if (const auto done = std::exchange(m_done, nullptr)) {
+        look_.stop();
+        if (const auto done = std::exchange(done_, nullptr)) {
             done();
             deleteLater();
         }
     }
 
-    QPointer<QWebEnginePage> m_page;
-    std::function<void()> m_done;
-    QTimer m_look;
+    QPointer<QWebEnginePage> page_;
+    std::function<void()> done_;
+    QTimer look_;
 };
 
 bool isSeen(const QWebEngineView& view, const QWidget& widget, const QRect& part) {

@@ -12,12 +12,12 @@ namespace controls::dataanalyser {
 class Analyser;
 class ChoiceBox;
 
-/// The upper strip: which data set, which rows and columns, which unit, table or graph.
-class TableStrip : public QWidget {
+/// The upper strip. It chooses the data set, its rows and columns, the unit, and table or graph.
+class DataStrip : public QWidget {
   public:
-    TableStrip(Analyser& analyser, QWidget* parent);
+    DataStrip(Analyser& analyser, QWidget* parent);
 
-    /// Brings the choices into line with the analyser.
+    /// Shows the choices of the analyser.
     void refresh();
 
   protected:

@@ -1,4 +1,4 @@
-#include "controls/dataanalyser/table/TableStrip.h"
+#include "controls/dataanalyser/DataStrip.h"
 
 #include <QButtonGroup>
 #include <QHBoxLayout>
@@ -16,7 +16,7 @@ namespace controls::dataanalyser {
 
 namespace {
 
-// Narrower than this the strip does without its title and the count.
+// A narrower strip shows no title, or no count of rows.
 constexpr int roomForTitle = 960;
 constexpr int roomForCount = 780;
 
@@ -30,10 +30,10 @@ QString countText(std::size_t rows, std::size_t selected) {
 
 }  // namespace
 
-// What is made here belongs to its Qt parent.
+// Qt parents own what is made here.
 // NOLINTBEGIN(cppcoreguidelines-owning-memory)
 
-TableStrip::TableStrip(Analyser& analyser, QWidget* parent)
+DataStrip::DataStrip(Analyser& analyser, QWidget* parent)
     : QWidget(parent),
       analyser_(analyser),
       title_(new QLabel(QStringLiteral("Αναλυτής δεδομένων"), this)),
@@ -53,7 +53,7 @@ TableStrip::TableStrip(Analyser& analyser, QWidget* parent)
     connectChoices();
 }
 
-void TableStrip::makeChoices() {
+void DataStrip::makeChoices() {
     addChoice(*units_, static_cast<int>(TemperatureUnit::kelvin), QStringLiteral("K"),
               QStringLiteral("Θερμοκρασίες σε Κέλβιν"), this);
     addChoice(*units_, static_cast<int>(TemperatureUnit::celsius), QStringLiteral("°C"),
@@ -65,7 +65,7 @@ void TableStrip::makeChoices() {
     categories_->setMinimumContentsLength(13);
 }
 
-void TableStrip::layOut() {
+void DataStrip::layOut() {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(10, 5, 10, 5);
     row->setSpacing(8);
@@ -83,7 +83,7 @@ void TableStrip::layOut() {
 
 // NOLINTEND(cppcoreguidelines-owning-memory)
 
-void TableStrip::connectChoices() {
+void DataStrip::connectChoices() {
     connect(sets_, &QComboBox::activated, this, [this] {
         analyser_.setSortColumn(-1);
         analyser_.setDescending(false);
@@ -99,7 +99,7 @@ void TableStrip::connectChoices() {
     connect(columnMenu_, &QMenu::aboutToShow, this, [this] { fillColumnMenu(); });
 }
 
-void TableStrip::fillColumnMenu() {
+void DataStrip::fillColumnMenu() {
     columnMenu_->clear();
     const ColumnLayout layout = analyser_.layout();
     const auto& columns = analyser_.dataSet().columns;
@@ -118,7 +118,7 @@ void TableStrip::fillColumnMenu() {
             [this] { analyser_.setLayout(ColumnLayout(analyser_.dataSet().columns.size())); });
 }
 
-void TableStrip::refresh() {
+void DataStrip::refresh() {
     QList<QPair<QString, int>> sets;
     for (const auto& set : analyser_.library().sets()) sets.append({toQt(set.title), set.number});
     sets_->setItems(sets, analyser_.dataSet().number);
@@ -138,11 +138,11 @@ void TableStrip::refresh() {
     refreshCount();
 }
 
-void TableStrip::refreshCount() {
+void DataStrip::refreshCount() {
     count_->setText(countText(analyser_.rows().size(), analyser_.selected().size()));
 }
 
-void TableStrip::resizeEvent(QResizeEvent* event) {
+void DataStrip::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     title_->setVisible(width() >= roomForTitle);
     count_->setVisible(width() >= roomForCount);

@@ -1,4 +1,4 @@
-#include "controls/periodic/Lettering.h"
+#include "controls/periodic/TextFitter.h"
 
 #include <QFontMetrics>
 #include <QStringList>
@@ -10,7 +10,7 @@ namespace controls::periodic {
 
 namespace {
 
-constexpr qsizetype mostRemembered = 4000;
+constexpr qsizetype maxRemembered = 4000;
 constexpr int raisedPercent = 75;
 constexpr int liftPercent = 36;
 
@@ -19,7 +19,7 @@ QFont raised(QFont font) {
     return font;
 }
 
-/// Calls `each` with every part of a text and whether it is raised.
+/// Calls `each` with every part of a text, and with true when the part is raised.
 template <class Each>
 void forParts(const QString& words, const Each& each) {
     bool raise = false;
@@ -41,24 +41,24 @@ int baseline(const QRect& area, const QFontMetrics& metrics, Qt::Alignment align
 
 }  // namespace
 
-std::optional<QFont> Lettering::font(const QString& words, int width, int pixels, QFont::Weight weight) {
+std::optional<QFont> TextFitter::font(const QString& words, int width, int pixels, QFont::Weight weight) {
     const Wanted wanted{words, width, pixels, weight};
     if (const auto known = fonts_.constFind(wanted); known != fonts_.cend()) return *known;
-    // Windows of many sizes would gather fonts without end.
-    if (fonts_.size() >= mostRemembered) fonts_.clear();
-    return *fonts_.insert(wanted, appearance::fittingFont(plain(words), width, std::max(pixels, leastPixels),
-                                                          leastPixels, weight));
+    // Every size of the window adds fonts.
+    if (fonts_.size() >= maxRemembered) fonts_.clear();
+    return *fonts_.insert(
+        wanted, appearance::fittingFont(plain(words), width, std::max(pixels, minPixels), minPixels, weight));
 }
 
-void Lettering::draw(QPainter& painter, const QRect& area, const QString& words, int pixels,
-                     Qt::Alignment alignment, QFont::Weight weight) {
+void TextFitter::draw(QPainter& painter, const QRect& area, const QString& words, int pixels,
+                      Qt::Alignment alignment, QFont::Weight weight) {
     if (const auto fitting = font(words, area.width(), pixels, weight)) {
         draw(painter, area, words, *fitting, alignment);
     }
 }
 
-void Lettering::draw(QPainter& painter, const QRect& area, const QString& words, const QFont& font,
-                     Qt::Alignment alignment) {
+void TextFitter::draw(QPainter& painter, const QRect& area, const QString& words, const QFont& font,
+                      Qt::Alignment alignment) {
     painter.setFont(font);
     const QFontMetrics metrics = painter.fontMetrics();
     int x = leftEdge(area, widthOf(words, font), alignment);
@@ -71,7 +71,7 @@ void Lettering::draw(QPainter& painter, const QRect& area, const QString& words,
     });
 }
 
-int Lettering::widthOf(const QString& words, const QFont& font) {
+int TextFitter::widthOf(const QString& words, const QFont& font) {
     int width = 0;
     forParts(words, [&](const QString& part, bool raise) {
         width += QFontMetrics(raise ? raised(font) : font).horizontalAdvance(part);

@@ -8,29 +8,30 @@
 
 namespace controls::periodic {
 
-/// Draws one-line texts in the largest font that fits, and remembers these fonts, as finding them takes
-/// longer than drawing. What stands between two '^' is raised.
-class Lettering {
+/// Draws one-line texts in the largest font that fits. It remembers these fonts, because finding them takes
+/// longer than drawing. Text between two '^' is raised.
+class TextFitter {
   public:
-    /// The smallest letters that are still readable, in pixels.
-    static constexpr int leastPixels = 8;
+    /// The size of the smallest letters that can be read, in pixels.
+    static constexpr int minPixels = 8;
 
-    /// The font for a text in a width, at most `pixels` high; nothing when the smallest is too wide.
+    /// The largest font of at most `pixels` in which a text fits into a width. Nothing when the smallest is
+    /// too wide.
     std::optional<QFont> font(const QString& words, int width, int pixels,
                               QFont::Weight weight = QFont::Normal);
 
-    /// Draws a text in the pen's colour; nothing when it does not fit.
+    /// Draws a text in the pen's colour; draws nothing when it does not fit.
     void draw(QPainter& painter, const QRect& area, const QString& words, int pixels, Qt::Alignment alignment,
               QFont::Weight weight = QFont::Normal);
 
-    /// The same in a font that is given.
+    /// Draws a text in a given font.
     static void draw(QPainter& painter, const QRect& area, const QString& words, const QFont& font,
                      Qt::Alignment alignment);
 
     /// The width of a text in pixels.
     static int widthOf(const QString& words, const QFont& font);
 
-    /// The text without the marks of raising.
+    /// The text without the '^' marks.
     static QString plain(QString words) { return words.remove(QLatin1Char('^')); }
 
   private:

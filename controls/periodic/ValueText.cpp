@@ -1,48 +1,47 @@
-#include "controls/periodic/FigureText.h"
+#include "controls/periodic/ValueText.h"
 
 #include <QStringList>
-
 #include <cmath>
 
 #include "controls/common/QtText.h"
+#include "controls/elements/NumberText.h"
 
 namespace controls::periodic {
 
 namespace {
 
-constexpr double leastPlain = 0.001;
-constexpr double mostPlain = 1e6;
-constexpr double percent = 10000;  // mg/kg
-
-QString withComma(QString text) { return text.replace(QLatin1Char('.'), QLatin1Char(',')); }
+// Numbers outside these limits are written with a power of ten.
+constexpr double minPlain = 0.001;
+constexpr double maxPlain = 1e6;
+constexpr double percent = 10000;  // in mg/kg
 
 QString withPower(double value) {
-    // A little more, as 0,001 is stored as less than that.
+    // The small addition corrects rounding: 0.001 is stored as a smaller number.
     const int power = static_cast<int>(std::floor(std::log10(value) + 1e-10));
     const double factor = value / std::pow(10, power);
     QString raised = withMinus(QStringLiteral("10^%1^").arg(power));
     if (std::abs(factor - 1) < 1e-6) return raised;
-    return withComma(QString::number(factor, 'g', 3)) + QStringLiteral("·") + raised;
+    return toQt(shortNumber(factor, 3)) + QStringLiteral("·") + raised;
 }
 
-/// Degrees Celsius in as many decimals as are known of the temperature in K, but no more than one.
+/// A temperature in °C, with as many decimals as are known of it in K, but at most one.
 QString celsius(const Figure& kelvin) {
     const double value = kelvin.value().value_or(0) - zeroCelsius;
-    return withMinus(withComma(QString::number(value, 'f', std::min(kelvin.decimals(), 1))));
+    return withMinus(toQt(fixedNumber(value, std::min(kelvin.decimals(), 1))));
 }
 
-/// In one digit what needs a power of ten, in two what is small, else in those that are there.
+/// A number below 1 is shortened to two digits, or to one when it is written with a power of ten.
 QString shortText(double value) {
     if (value >= 1) return numberText(value);
-    // A little more, as 5.5 is stored as less than that.
-    return numberText(QString::number(value * (1 + 1e-9), 'g', value < leastPlain ? 1 : 2).toDouble());
+    // The small addition corrects rounding: a number such as 5.5e-10 may be stored as a smaller one.
+    return numberText(QString::number(value * (1 + 1e-9), 'g', value < minPlain ? 1 : 2).toDouble());
 }
 
 }  // namespace
 
 QString numberText(double value) {
-    if (value != 0 && (value < leastPlain || value >= mostPlain)) return withPower(value);
-    return withComma(QString::number(value, 'g', 6));
+    if (value != 0 && (value < minPlain || value >= maxPlain)) return withPower(value);
+    return toQt(shortNumber(value, 6));
 }
 
 QString valueText(const Element& element, Quantity quantity) {
