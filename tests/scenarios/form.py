@@ -37,7 +37,7 @@ def parse_scenario(text):
 
 
 def expanded(lines, mistakes):
-    """The lines, those of each block once for each of its rows."""
+    """All lines in order; those of a block appear once for each of its rows."""
     left = iter(lines)
     for where, line in left:
         if line.startswith("#*"):
@@ -47,7 +47,7 @@ def expanded(lines, mistakes):
 
 
 def block_of(where, left, mistakes):
-    """The lines up to the end of the block, blocks within it among them."""
+    """The lines up to the end of the block, including blocks within it."""
     block, depth = [], 1
     for each in left:
         depth += each[1].startswith("#*") - (each[1] == "#.")

@@ -1,10 +1,10 @@
-"""What an answer of the driver must hold: see README.md, the end of the table."""
+"""Compares answers of the driver with fragments: see the end of README.md."""
 
 MORE = "…"
 
 
 def difference(answer, fragment, place=""):
-    """Where and how an answer differs from what a fragment asks for; None when it holds all of it."""
+    """Where and how an answer differs from a fragment; None when it contains the fragment."""
     if isinstance(fragment, dict) and isinstance(answer, dict):
         return difference_in_object(answer, fragment, place)
     if isinstance(fragment, list) and isinstance(answer, list):
@@ -13,7 +13,7 @@ def difference(answer, fragment, place=""):
 
 
 def find_somewhere(answer, fragment):
-    """The first object, at any depth of the answer, that holds the fragment; None when there is none."""
+    """The first object at any depth of the answer that contains the fragment; None when there is none."""
     if isinstance(answer, dict) and difference(answer, fragment) is None:
         return answer
     inner = answer.values() if isinstance(answer, dict) else answer if isinstance(answer, list) else ()

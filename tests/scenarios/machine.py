@@ -1,4 +1,4 @@
-"""The machine that a scenario runs on: its changes before the program starts, and checks of its files."""
+"""The machine that a scenario runs on: changes before the program starts, and checks of its files."""
 
 import json
 import os
@@ -14,7 +14,7 @@ SETTINGS_KEY = r"HKEY_LOCAL_MACHINE\Software\Orvane\Kalyxo Greek\Library Edition
 
 
 class Problem(Exception):
-    """What could not be done, or is not as it must be."""
+    """Something that could not be done, or a check that failed."""
 
 
 class Machine:
@@ -108,12 +108,12 @@ def cp1253(text):
 
 
 def hex_bytes(text):
-    """Bytes from hexadecimal pairs; what stands in single quotes is taken letter by letter."""
+    """Bytes from hexadecimal pairs and from letters in single quotes."""
     return b"".join(word[1:-1].encode() if word[0] == "'" else bytes.fromhex(word) for word in text.split())
 
 
 def link_folder(origin, target):
-    """The folder again, its files as links: a scenario pays nothing for the content that it leaves as it is."""
+    """Copies the folder with links for its files, so that content that a scenario does not change costs no time."""
     shutil.copytree(origin, target, copy_function=lambda file, link: Path(link).symlink_to(file))
 
 
@@ -140,14 +140,14 @@ def merged(config, change):
 
 
 def add_setting(registry, name, value):
-    """A key that stands in the file twice has the values of both, the later ones first."""
+    """Adds the key once more. When a key stands in the file twice, its later values count."""
     quoted = json.dumps(value, ensure_ascii=False) if isinstance(value, str) else f"dword:{value & 0xFFFFFFFF:08x}"
     entry = f'\r\n[{SETTINGS_KEY}]\r\n"{name}"={quoted}\r\n'
     replace(registry, registry.read_bytes() + entry.encode())
 
 
 def printed_pages(pdf):
-    """What stands where on each page of a PDF file; pdftohtml measures in 1/216 inch with this zoom."""
+    """The pictures and texts on each page of a PDF file; with this zoom pdftohtml measures in 1/216 inch."""
     command = ["pdftohtml", "-xml", "-zoom", "3", "-stdout", pdf]
     lines = subprocess.run(command, capture_output=True, encoding="utf-8", check=False).stdout.splitlines()
     pages = []

@@ -1,5 +1,5 @@
-"""Runs one scenario: run.py DRIVER CONTENT SCENARIO. Exit status 0 when all is as it must be, 1 when something
-is not, 2 for wrong arguments."""
+"""Runs one scenario: run.py DRIVER CONTENT SCENARIO. Exit status: 0 when every check holds, 1 when one fails, 2 for
+wrong arguments."""
 
 import json
 import subprocess
@@ -15,23 +15,23 @@ PATIENCE = 60  # seconds for the answer to one command
 
 
 class Broken(Problem):
-    """Nothing that follows can succeed."""
+    """A problem after which the scenario cannot go on."""
 
 
 class Run:
-    """Carries a scenario out and tells what was not as it must be."""
+    """Carries a scenario out and reports each check that fails."""
 
     def __init__(self, driver, content, name):
         self.driver_file, self.name = driver, name
         self.machine = Machine(driver, content)
         self.driver = None
         self.answer = {}
-        self.unchecked = None  # where a command stands whose success no expectation has looked at yet
+        self.unchecked = None  # the line of the last command, unless an expectation has looked at its success
         self.captures = {}
         self.failed = False
 
     def run(self, steps, mistakes):
-        """Whether every expectation held."""
+        """Runs the scenario; true when every check held."""
         for mistake in mistakes:
             self.fail(mistake)
         try:
@@ -82,7 +82,7 @@ class Run:
         self.unchecked = step.where
 
     def finish_command(self):
-        """A command succeeds, unless an expectation looks at `ok` itself."""
+        """Fails when the last command failed, unless an expectation has looked at `ok`."""
         where, self.unchecked = self.unchecked, None
         if where is not None and not self.answer.get("ok"):
             self.fail(f"{where}: not carried out: {self.answer}")
@@ -125,7 +125,7 @@ class Run:
                                        env=self.machine.environment, stdin=subprocess.PIPE, stdout=subprocess.PIPE, encoding="utf-8")
 
     def ask(self, line):
-        """The line that answers this one; empty when the driver ends or takes too long."""
+        """The answer to a line; empty when the driver ends or takes too long."""
         limit = threading.Timer(PATIENCE, self.driver.kill)
         limit.start()
         try:

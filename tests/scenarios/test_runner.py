@@ -1,4 +1,4 @@
-"""The scenarios' runner itself: what it takes for held, and that it passes over no mistake."""
+"""Tests of the runner of scenarios: which checks hold, and that no mistake is overlooked."""
 
 import contextlib
 import io
