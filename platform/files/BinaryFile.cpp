@@ -1,6 +1,5 @@
 #include "platform/files/BinaryFile.h"
 
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -11,9 +10,9 @@ namespace platform {
 BinaryFile::BinaryFile(FileHandle file, std::uint64_t size) : file_(std::move(file)), size_(size) {}
 
 std::optional<BinaryFile> BinaryFile::open(FileHandle file) {
-    struct stat status {};
-    if (!file || ::fstat(file.descriptor(), &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
-    return BinaryFile(std::move(file), static_cast<std::uint64_t>(status.st_size));
+    if (!file) return std::nullopt;
+    const std::uint64_t size = file.size();
+    return BinaryFile(std::move(file), size);
 }
 
 std::optional<BinaryFile> BinaryFile::open(const FileSystem& files, std::string_view dosPath) {

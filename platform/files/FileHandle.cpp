@@ -1,11 +1,15 @@
 #include "platform/files/FileHandle.h"
 
 #include <fcntl.h>
+#include <linux/openat2.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
+#include <climits>
 
 namespace platform {
 
@@ -13,20 +17,69 @@ namespace {
 
 constexpr mode_t newFileMode = 0666;
 
-int openRetrying(const std::string& path, int flags) {
+/// A pipe or device in place of a file is opened without waiting for its other end.
+constexpr int commonFlags = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+
+/// Calls `open` until no signal interrupts it.
+template <typename Open>
+int retrying(Open open) {
     int descriptor = -1;
     do {
-        descriptor = ::open(path.c_str(), flags | O_CLOEXEC, newFileMode);
+        descriptor = static_cast<int>(open());
     } while (descriptor < 0 && errno == EINTR);
     return descriptor;
+}
+
+int openRetrying(const std::string& path, int flags) {
+    return retrying([&] { return ::open(path.c_str(), flags | commonFlags, newFileMode); });
+}
+
+/// Fails with ENOSYS or EPERM on a host that does not have this way of opening.
+int openInside(int folder, const std::string& relativePath) {
+    open_how how{};
+    how.flags = O_RDONLY | commonFlags;
+    how.resolve = RESOLVE_BENEATH | RESOLVE_NO_MAGICLINKS;
+    return retrying([&] { return ::syscall(SYS_openat2, folder, relativePath.c_str(), &how, sizeof how); });
+}
+
+/// The path of an open file or folder without any links; empty when the host does not tell.
+std::string realPath(int descriptor) {
+    std::array<char, PATH_MAX> path{};
+    const std::string link = "/proc/self/fd/" + std::to_string(descriptor);
+    const ssize_t length = ::readlink(link.c_str(), path.data(), path.size());
+    return length > 0 ? std::string(path.data(), static_cast<std::size_t>(length)) : std::string();
 }
 
 }  // namespace
 
 FileHandle::~FileHandle() { close(); }
 
+/// Asked of the open file, since the name may lead to another one by now.
+FileHandle FileHandle::onlyIfRegular() && {
+    struct stat found = {};
+    if (::fstat(descriptor_, &found) != 0 || !S_ISREG(found.st_mode)) close();
+    return std::move(*this);
+}
+
+bool FileHandle::liesBelow(const FileHandle& folder) const {
+    const std::string above = realPath(folder.descriptor_);
+    if (above.empty()) return false;
+    return realPath(descriptor_).starts_with(above.ends_with('/') ? above : above + '/');
+}
+
 FileHandle FileHandle::openForReading(const std::string& path) {
-    return FileHandle(openRetrying(path, O_RDONLY));
+    return FileHandle(openRetrying(path, O_RDONLY)).onlyIfRegular();
+}
+
+FileHandle FileHandle::openBeneath(const std::string& folder, const std::string& relativePath) {
+    const FileHandle root = openFolder(folder);
+    if (!root) return {};
+    FileHandle file(openInside(root.descriptor_, relativePath));
+    if (!file && (errno == ENOSYS || errno == EPERM)) {
+        file = openForReading(folder + '/' + relativePath);
+        if (file && !file.liesBelow(root)) file.close();
+    }
+    return std::move(file).onlyIfRegular();
 }
 
 FileHandle FileHandle::openForWriting(const std::string& path, bool create) {
@@ -35,6 +88,10 @@ FileHandle FileHandle::openForWriting(const std::string& path, bool create) {
 
 FileHandle FileHandle::createNew(const std::string& path) {
     return FileHandle(openRetrying(path, O_WRONLY | O_CREAT | O_EXCL));
+}
+
+FileHandle FileHandle::openFolder(const std::string& path) {
+    return FileHandle(openRetrying(path, O_RDONLY | O_DIRECTORY));
 }
 
 std::optional<std::size_t> FileHandle::read(void* buffer, std::size_t size) {

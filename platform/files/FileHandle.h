@@ -23,20 +23,27 @@ class FileHandle {
     FileHandle& operator=(const FileHandle&) = delete;
     ~FileHandle();
 
-    /// Opens an existing file for reading; a closed handle when that fails.
+    /// Opens an existing regular file for reading. A closed handle when that fails, or when something else
+    /// has that name (a folder, a pipe, a device); never waits for one.
     static FileHandle openForReading(const std::string& path);
 
+    /// The same for a path below a folder: the file must really lie there, so a symbolic link or `..` that
+    /// leads out of the folder gives a closed handle. The folder itself may be a link.
+    static FileHandle openBeneath(const std::string& folder, const std::string& relativePath);
+
     /// Opens a file for writing and empties it; creates a missing one only when `create` says so. A closed
-    /// handle when that fails.
+    /// handle when that fails; never waits for the other end of a pipe.
     static FileHandle openForWriting(const std::string& path, bool create);
+
+    /// Opens a folder, which can be locked but not read; a closed handle when that fails.
+    static FileHandle openFolder(const std::string& path);
 
     /// Creates a file that must not exist yet; a closed handle when that fails.
     static FileHandle createNew(const std::string& path);
 
     explicit operator bool() const { return descriptor_ >= 0; }
 
-    /// Reads up to `size` bytes where the last read ended; 0 at the end of the file, nothing on failure (a
-    /// folder opens, but cannot be read).
+    /// Reads up to `size` bytes where the last read ended; 0 at the end of the file, nothing on failure.
     std::optional<std::size_t> read(void* buffer, std::size_t size);
 
     /// Reads on to the end of the file, `limit` bytes at most; nothing on failure, or when `step` has
@@ -61,6 +68,9 @@ class FileHandle {
 
   private:
     explicit FileHandle(int descriptor) : descriptor_(descriptor) {}
+
+    FileHandle onlyIfRegular() &&;
+    bool liesBelow(const FileHandle& folder) const;
 
     int descriptor_ = -1;
 };

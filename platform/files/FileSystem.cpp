@@ -59,6 +59,11 @@ const Drive* FileSystem::findDrive(char letter) const {
     return found == drives_.end() ? nullptr : &*found;
 }
 
+void FileSystem::setContentFolder(std::string_view dosPath) {
+    const auto native = nativePath(dosPath);
+    contentFolder_ = native ? std::optional(plainPath(*native)) : std::nullopt;
+}
+
 DriveType FileSystem::driveType(char letter) const {
     const Drive* drive = findDrive(letter);
     return drive ? drive->type : DriveType::noRoot;
@@ -97,9 +102,15 @@ FileHandle FileSystem::openForReading(std::string_view dosPath) const {
     const auto place = locate(dosPath);
     if (!place) return {};
     const auto& [drive, names] = *place;
-    if (auto file = FileHandle::openForReading(joinNames(drive->folder, names))) return file;
+    if (auto file = openNative(joinNames(drive->folder, names))) return file;
     const auto found = findNamesInAnyCase(drive->folder, names);
-    return found ? FileHandle::openForReading(*found) : FileHandle();
+    return found ? openNative(*found) : FileHandle();
+}
+
+FileHandle FileSystem::openNative(const std::string& path) const {
+    const auto below = contentFolder_ ? partBelow(*contentFolder_, path) : std::nullopt;
+    return below ? FileHandle::openBeneath(*contentFolder_, std::string(*below))
+                 : FileHandle::openForReading(path);
 }
 
 FileHandle FileSystem::openForWriting(std::string_view dosPath) const {

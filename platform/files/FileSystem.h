@@ -40,6 +40,10 @@ class FileSystem {
     void setDrives(std::vector<Drive> drives);
     const std::vector<Drive>& drives() const { return drives_; }
 
+    /// Names the folder (DOS path) whose files come from anywhere. Those in it and below it open for reading
+    /// only if they really lie there; symbolic links must not lead out of it. Before, there is none.
+    void setContentFolder(std::string_view dosPath);
+
     /// The type of a drive by its letter, in either case; `noRoot` when there is none.
     DriveType driveType(char letter) const;
 
@@ -52,11 +56,12 @@ class FileSystem {
     /// nothing when there is no such drive or a name is outside the code page. Need not exist.
     std::optional<std::string> dosPath(const std::filesystem::path& native) const;
 
-    /// Opens an existing file for reading; a closed handle when there is none or it is a folder.
+    /// Opens an existing regular file for reading; a closed handle when there is none. Never waits for a pipe
+    /// or device of that name.
     FileHandle openForReading(std::string_view dosPath) const;
 
     /// Opens a file for writing, empty: an existing one is emptied, a missing one created. A closed handle on
-    /// failure.
+    /// failure; never waits for the other end of a pipe.
     FileHandle openForWriting(std::string_view dosPath) const;
 
     /// Whether there is a file or folder of that name.
@@ -102,10 +107,12 @@ class FileSystem {
 
     const Drive* findDrive(char letter) const;
     std::optional<Place> locate(std::string_view dosPath) const;
+    FileHandle openNative(const std::string& path) const;
     FileHandle createIn(const std::string& folder, const std::string& name) const;
 
     std::vector<Drive> drives_;
-    mutable FolderNames written_;  ///< those of the folder last written to
+    std::optional<std::string> contentFolder_;  ///< host path
+    mutable FolderNames written_;               ///< those of the folder last written to
 };
 
 }  // namespace platform

@@ -81,9 +81,6 @@ bool replaceFile(const FileSystem& files, std::string_view dosPath, std::string_
 }
 
 bool copyFileOver(const fs::path& from, const fs::path& to) {
-    std::error_code ignored;
-    // A device might never end.
-    if (!fs::is_regular_file(from, ignored)) return false;
     FileHandle source = FileHandle::openForReading(from);
     return source && copyFileOver(source, to);
 }

@@ -40,7 +40,7 @@ TextReader::TextReader(FileHandle file)
 std::optional<TextReader> TextReader::open(FileHandle file) {
     if (!file) return std::nullopt;
     TextReader reader(std::move(file));
-    // A folder opens like a file and shows itself only when it is read.
+    // A medium that is damaged shows itself only when the file is read.
     if (!reader.fill() && reader.failed_) return std::nullopt;
     return reader;
 }

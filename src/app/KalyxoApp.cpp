@@ -86,6 +86,7 @@ bool CKalyxoApp::SetUpDataPaths() {
     if (!paths) return false;
     m_strDataFolder = std::move(paths->dataFolder);
     m_strBookmarkFile = std::move(paths->bookmarkFile);
+    machine().files().setContentFolder(m_strDataFolder);
     return true;
 }
 

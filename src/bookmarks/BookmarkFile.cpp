@@ -81,7 +81,9 @@ std::string WriteBookmarks(const BookmarkArray& records) {
 }
 
 BookmarkLoad LoadBookmarks(const FileSystem& files, std::string_view path, BookmarkList& list) {
-    std::optional<BinaryFile> file = BinaryFile::open(files, path);
+    // By host path: the user's own file may be a link, even where it lies in the data folder.
+    const auto native = files.nativePath(path);
+    std::optional<BinaryFile> file = native ? BinaryFile::open(*native) : std::nullopt;
     std::optional<BookmarkArray> records = file ? load(*file) : std::nullopt;
     if (!records) {
         list.ResetBookmarks();

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <array>
-#include <fstream>
 #include <initializer_list>
-#include <iterator>
 #include <optional>
 #include <sstream>
 #include <system_error>
+
+#include "platform/files/FileHandle.h"
 
 namespace kalyxo {
 
@@ -113,9 +113,12 @@ std::optional<DriveType> typeOf(const MountLine& line, const RemovableTexts& rem
     return line.device.starts_with("/dev/") ? diskType(line.device, inUserPlace, removable) : std::nullopt;
 }
 
+/// The host's texts are far shorter.
+constexpr std::size_t kMaxTextBytes = std::size_t{16} << 20;
+
 std::string textOf(const fs::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
+    platform::FileHandle handle = platform::FileHandle::openForReading(file);
+    return handle ? handle.readAll(kMaxTextBytes).value_or("") : std::string();
 }
 
 RemovableTexts presentRemovableTexts() {

@@ -1,11 +1,9 @@
 #include "src/host/OwnMachine.h"
 
-#include <algorithm>
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
 #include <system_error>
 
+#include "platform/files/FileHandle.h"
 #include "platform/files/FolderLock.h"
 #include "platform/files/ReplaceFile.h"
 #include "platform/machine/NewMachine.h"
@@ -67,11 +65,12 @@ Result<void> makeUnlessFinished(const fs::path& folder, const InstalledFiles& in
 }
 
 bool sameContent(const fs::path& a, const fs::path& b) {
-    std::ifstream first(a, std::ios::binary);
-    std::ifstream second(b, std::ios::binary);
-    if (!first || !second) return false;
-    using Bytes = std::istreambuf_iterator<char>;
-    return std::equal(Bytes(first), Bytes(), Bytes(second), Bytes());
+    platform::FileHandle first = platform::FileHandle::openForReading(a);
+    platform::FileHandle second = platform::FileHandle::openForReading(b);
+    const auto size = static_cast<std::size_t>(first.size());
+    if (!first || !second || size != second.size()) return false;
+    const auto bytes = first.readAll(size);
+    return bytes && bytes == second.readAll(size);
 }
 
 /// A module that cannot be replaced stays; the program then tells of its version itself. False when that was

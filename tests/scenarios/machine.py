@@ -56,6 +56,8 @@ class Machine:
             merge_into_json(self.folder / "machine.json", value)
         elif what == "setting":
             add_setting(self.folder / "registry.reg", words[0], value)
+        elif what == "pipe":
+            make_pipe(self.path(words[0]))
         elif what in ("write", "bytes"):
             replace(self.path(words[0]), cp1253(value) if what == "write" else hex_bytes(value))
         else:
@@ -113,8 +115,15 @@ def hex_bytes(text):
 
 
 def link_folder(origin, target):
-    """Copies the folder with links for its files, so that content that a scenario does not change costs no time."""
-    shutil.copytree(origin, target, copy_function=lambda file, link: Path(link).symlink_to(file))
+    """Copies the folder with hard links for its files where the host can; symbolic links would lead out of the content."""
+    shutil.copytree(origin, target, copy_function=link_file)
+
+
+def link_file(origin, target):
+    try:
+        os.link(origin, target)
+    except OSError:
+        shutil.copy2(origin, target)
 
 
 def replace(file, content):
@@ -122,6 +131,11 @@ def replace(file, content):
     file.unlink(missing_ok=True)
     file.parent.mkdir(parents=True, exist_ok=True)
     file.write_bytes(content)
+
+
+def make_pipe(file):
+    file.unlink(missing_ok=True)
+    os.mkfifo(file)
 
 
 def merge_into_json(file, change):

@@ -1,6 +1,7 @@
 #include "platform/files/FileSystem.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <chrono>
 #include <string>
@@ -11,6 +12,8 @@
 
 namespace platform {
 namespace {
+
+namespace fs = std::filesystem;
 
 class FileSystemTest : public ::testing::Test {
   protected:
@@ -140,6 +143,42 @@ TEST_F(FileSystemTest, ReadAllStopsAtTheLimit) {
     EXPECT_EQ(files.readAll("C:\\empty", 10), "");
     EXPECT_EQ(files.readAll("C:\\g", 10), std::nullopt);
     EXPECT_EQ(files.readAll("C:\\", 10), std::nullopt);
+}
+
+TEST_F(FileSystemTest, OnlyRegularFilesOpenAndNothingIsWaitedFor) {
+    folder.write("folder/x", "");
+    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+    files.setDrives({{'C', DriveType::fixed, folder.path()}, {'Z', DriveType::fixed, "/"}});
+    for (const char* const name : {"C:\\folder", "C:\\pipe", "C:\\PIPE", "Z:\\dev\\zero"}) {
+        EXPECT_FALSE(files.openForReading(name)) << name;
+        EXPECT_FALSE(files.copyFile(name, "C:\\copy")) << name;
+    }
+    EXPECT_FALSE(files.openForWriting("C:\\pipe"));
+}
+
+TEST_F(FileSystemTest, NoLinkLeadsOutOfTheContentFolder) {
+    folder.write("data/a.htm", "page");
+    folder.write("data/sub/b.htm", "page");
+    folder.write("datas/secret", "outside");
+    const auto link = [this](const fs::path& target, const std::string& name) {
+        fs::create_symlink(target, folder / name);
+    };
+    link("sub/b.htm", "data/inside.htm");
+    link("../datas/secret", "data/up.htm");
+    link(folder / "datas/secret", "data/absolute.htm");
+    link("../datas", "data/outside");
+    link("data", "named");
+    const std::pair<const char*, bool> cases[] = {
+        {"a.htm", true},   {"A.HTM", true},   {"sub\\b.htm", true},    {"inside.htm", true},
+        {"up.htm", false}, {"UP.HTM", false}, {"absolute.htm", false}, {"outside\\secret", false}};
+    for (const char* const content : {"C:\\data", "C:\\DATA\\", "C:\\named\\"}) {
+        files.setContentFolder(content);
+        for (const auto& [name, opens] : cases) {
+            const std::string path = std::string(content) + "\\" + name;
+            EXPECT_EQ(static_cast<bool>(files.openForReading(path)), opens) << path;
+        }
+    }
+    EXPECT_TRUE(files.openForReading("C:\\datas\\secret"));
 }
 
 TEST_F(FileSystemTest, FilesAreCopiedMovedAndDeleted) {
