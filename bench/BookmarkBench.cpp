@@ -57,6 +57,7 @@ class Drive {
     ~Drive() { fs::remove_all(m_root); }
     Drive(const Drive&) = delete;
     Drive& operator=(const Drive&) = delete;
+    const fs::path& root() const { return m_root; }
 
   private:
     fs::path m_root;
@@ -69,10 +70,11 @@ constexpr const char* kPath = "C:\\bookmark.dat";
 
 void LoadingOfBookmarks(benchmark::State& state) {
     const Drive drive;
-    SaveBookmarks(drive.files, kPath, makeRecords(static_cast<int>(state.range(0))));
+    BookmarkFile file(drive.files, kPath, drive.root());
+    file.Save(makeRecords(static_cast<int>(state.range(0))));
     for (auto _ : state) {
         BookmarkList list;
-        if (LoadBookmarks(drive.files, kPath, list) != BookmarkLoad::loaded) {
+        if (file.Load(list) != BookmarkLoad::loaded) {
             state.SkipWithError("the file was not read");
             return;
         }
@@ -84,9 +86,12 @@ BENCHMARK(LoadingOfBookmarks)->Arg(10'000)->Arg(100'000)->Unit(benchmark::kMilli
 void SavingOfBookmarks(benchmark::State& state) {
     const Drive drive;
     const BookmarkArray records = makeRecords(static_cast<int>(state.range(0)));
-    SaveBookmarks(drive.files, kPath, records);
+    BookmarkFile file(drive.files, kPath, drive.root());
+    file.Save(records);
+    BookmarkList list;
+    file.Load(list);
     for (auto _ : state) {
-        if (SaveBookmarks(drive.files, kPath, records) != BookmarkSave::saved) {
+        if (file.Save(records) != BookmarkSave::saved) {
             state.SkipWithError("the file was not written");
             return;
         }

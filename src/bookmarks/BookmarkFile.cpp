@@ -3,9 +3,13 @@
 #include <array>
 #include <new>
 #include <span>
+#include <utility>
 
 #include "platform/base/Archive.h"
 #include "platform/files/BinaryFile.h"
+#include "platform/files/FolderLock.h"
+#include "platform/files/ReplaceFile.h"
+#include "src/bookmarks/BookmarkMerge.h"
 
 namespace kalyxo {
 
@@ -18,7 +22,7 @@ namespace {
 
 constexpr std::uint32_t kVersion = 1;
 /// The tag of a class that came before, and the length of an empty name.
-constexpr std::size_t kSmallestRecord = 3;
+constexpr std::size_t kMinRecordBytes = 3;
 
 constexpr std::array kClasses = {&CBMFolder::runtimeClass, &CBMBrowse::runtimeClass,
                                  &CBMPeriodic::runtimeClass, &CBMDataAn::runtimeClass};
@@ -33,18 +37,31 @@ std::unique_ptr<CBookmark> loadRecord(CArchive& archive, bool first) {
 }
 
 std::optional<std::string> readWhole(BinaryFile& file) {
-    if (file.size() > kLargestBookmarkFile) return std::nullopt;
+    if (file.size() > kMaxBookmarkBytes) return std::nullopt;
     std::string bytes(static_cast<std::size_t>(file.size()), '\0');
     if (file.read(std::as_writable_bytes(std::span(bytes))) != bytes.size()) return std::nullopt;
     return bytes;
 }
 
-std::optional<BookmarkArray> load(BinaryFile& file) {
+/// A bookmark file as it is on disk.
+struct FileOnDisk {
+    bool exists = false;  ///< and can be opened
+    std::string bytes;
+    std::optional<BookmarkArray> records;  ///< nothing when the file is damaged
+};
+
+FileOnDisk readFile(const FileSystem& files, std::string_view path) {
+    // By host path: the user's own file may be a link, even where it lies in the data folder.
+    const auto native = files.nativePath(path);
+    std::optional<BinaryFile> file = native ? BinaryFile::open(*native) : std::nullopt;
+    if (!file) return {};
     try {
-        const std::optional<std::string> bytes = readWhole(file);
-        return bytes ? ReadBookmarks(*bytes) : std::nullopt;
+        std::optional<std::string> bytes = readWhole(*file);
+        if (!bytes) return {true, {}, std::nullopt};
+        auto records = ReadBookmarks(*bytes);
+        return {true, std::move(*bytes), std::move(records)};
     } catch (const std::bad_alloc&) {
-        return std::nullopt;
+        return {true, {}, std::nullopt};
     }
 }
 
@@ -57,7 +74,7 @@ std::optional<BookmarkArray> ReadBookmarks(std::string_view bytes) {
     archive.Exchange(version, count);
     const std::size_t elements = archive.LoadCount();
     if (archive.Failed() || version != kVersion || count < 1 || elements != static_cast<std::size_t>(count) ||
-        elements > archive.Remaining() / kSmallestRecord) {
+        elements > kMaxBookmarks || elements > archive.Remaining() / kMinRecordBytes) {
         return std::nullopt;
     }
     BookmarkArray records;
@@ -80,27 +97,65 @@ std::string WriteBookmarks(const BookmarkArray& records) {
     return archive.Stored();
 }
 
-BookmarkLoad LoadBookmarks(const FileSystem& files, std::string_view path, BookmarkList& list) {
-    // By host path: the user's own file may be a link, even where it lies in the data folder.
-    const auto native = files.nativePath(path);
-    std::optional<BinaryFile> file = native ? BinaryFile::open(*native) : std::nullopt;
-    std::optional<BookmarkArray> records = file ? load(*file) : std::nullopt;
-    if (!records) {
+BookmarkFile::BookmarkFile(const FileSystem& files, std::string path, std::filesystem::path lockFolder)
+    : m_files(files), m_path(std::move(path)), m_lockFolder(std::move(lockFolder)) {}
+
+BookmarkLoad BookmarkFile::Load(BookmarkList& list) {
+    FileOnDisk file = readFile(m_files, m_path);
+    if (!file.records) {
         list.ResetBookmarks();
-        return file ? BookmarkLoad::damaged : BookmarkLoad::noFile;
+        return file.exists ? BookmarkLoad::damaged : BookmarkLoad::noFile;
     }
-    list.Replace(std::move(*records));
+    list.Replace(std::move(*file.records));
+    m_loaded = std::move(file.bytes);
     return BookmarkLoad::loaded;
 }
 
-BookmarkSave SaveBookmarks(const FileSystem& files, std::string_view path, const BookmarkArray& records) {
-    CreatePathFolders(files, path);
-    files.copyFile(path, std::string(path) + ".bak");
-    FileHandle file = files.openForWriting(path);
+BookmarkSave BookmarkFile::Save(const BookmarkArray& records) const {
+    const auto lock = platform::FolderLock::wait(m_lockFolder);
+    CreatePathFolders(m_files, m_path);
+    std::string bytes = WriteBookmarks(records);
+    FileOnDisk present = readFile(m_files, m_path);
+    if (present.records) {
+        keepCopy(present.bytes);
+        if (present.bytes != m_loaded) bytes = mergedBytes(std::move(*present.records), bytes);
+    } else if (present.exists) {
+        keepDamaged();
+    }
+    FileHandle file = m_files.openForWriting(m_path);
     if (!file) return BookmarkSave::notCreated;
-    const std::string bytes = WriteBookmarks(records);
     const bool written = file.write(bytes.data(), bytes.size());
     return file.close() && written ? BookmarkSave::saved : BookmarkSave::notWritten;
+}
+
+std::string BookmarkFile::mergedBytes(BookmarkArray theirs, const std::string& ours) const {
+    auto records = ReadBookmarks(ours);
+    if (!records) return ours;
+    auto before = m_loaded ? ReadBookmarks(*m_loaded) : std::nullopt;
+    if (!before) before = DefaultBookmarks();
+    const BookmarkArray merged = MergeBookmarks(*before, std::move(theirs), std::move(*records));
+    return merged.empty() ? ours : WriteBookmarks(merged);
+}
+
+void BookmarkFile::keepCopy(const std::string& bytes) const {
+    const std::string name = firstName(".bak", [&](const std::string& candidate) {
+        return !m_files.exists(candidate) || readFile(m_files, candidate).records;
+    });
+    platform::replaceFile(m_files, name, bytes);
+}
+
+void BookmarkFile::keepDamaged() const {
+    m_files.moveFile(m_path, firstName(".damaged", [&](const std::string& candidate) {
+                         return !m_files.exists(candidate);
+                     }));
+}
+
+std::string BookmarkFile::firstName(std::string_view ending,
+                                    const std::function<bool(const std::string&)>& mayTake) const {
+    std::string name = m_path + std::string(ending);
+    for (int number = 2; !mayTake(name); ++number)
+        name = m_path + std::string(ending) + std::to_string(number);
+    return name;
 }
 
 void CreatePathFolders(const FileSystem& files, std::string_view path) {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstddef>
+#include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -17,21 +20,44 @@ std::optional<BookmarkArray> ReadBookmarks(std::string_view bytes);
 /// The bytes of a file.
 std::string WriteBookmarks(const BookmarkArray& records);
 
-/// The largest file that is read, which holds more than a million bookmarks; a larger one counts as damaged.
-inline constexpr std::size_t kLargestBookmarkFile = std::size_t{64} * 1024 * 1024;
+/// Limits that no user's file meets, since records are made one by one; beyond them a file counts as damaged.
+inline constexpr std::size_t kMaxBookmarkBytes = std::size_t{16} * 1024 * 1024;
+inline constexpr std::size_t kMaxBookmarks = 0x20000;
 
 enum class BookmarkLoad { loaded, noFile, damaged };
 enum class BookmarkSave { saved, notCreated, notWritten };
 
-/// Gives the list the bookmarks of a file by DOS path, or the default folder when there is none or it is
-/// damaged. The file stays as it is.
-BookmarkLoad LoadBookmarks(const platform::FileSystem& files, std::string_view path, BookmarkList& list);
+/// The bookmark file during one run of the program, which reads it at its start and writes it at its end.
+/// Several programs on one machine may do so.
+class BookmarkFile {
+  public:
+    /// The file by DOS path, and the folder (host path) that all programs lock while they write it. `files`
+    /// must outlive the object.
+    BookmarkFile(const platform::FileSystem& files, std::string path, std::filesystem::path lockFolder);
 
-/// Writes the file by DOS path anew, in its place, and creates the folders of the path. A file that was there
-/// is copied to the same name with ".bak" behind it; it does not matter whether that succeeds. `notCreated`
-/// leaves the file as it was, `notWritten` a part of it.
-BookmarkSave SaveBookmarks(const platform::FileSystem& files, std::string_view path,
-                           const BookmarkArray& records);
+    /// Gives the list the bookmarks of the file, or the default folder when there is none or it is damaged.
+    /// The file stays as it is.
+    BookmarkLoad Load(BookmarkList& list);
+
+    /// Writes the file anew, in its place, and creates the folders of its path. Where another program has
+    /// written it since it was loaded, what that one added and deleted is merged in. Before, a whole file is
+    /// copied to the same name with ".bak" behind it, a damaged one gets a name with ".damaged" behind it;
+    /// with a number where the name is taken. It does not matter whether that succeeds. `notCreated` leaves
+    /// a whole file as it was, `notWritten` a part of it.
+    BookmarkSave Save(const BookmarkArray& records) const;
+
+  private:
+    std::string mergedBytes(BookmarkArray theirs, const std::string& ours) const;
+    void keepCopy(const std::string& bytes) const;
+    void keepDamaged() const;
+    std::string firstName(std::string_view ending,
+                          const std::function<bool(const std::string&)>& mayTake) const;
+
+    const platform::FileSystem& m_files;
+    std::string m_path;
+    std::filesystem::path m_lockFolder;
+    std::optional<std::string> m_loaded;  ///< the bytes of the file when it was loaded
+};
 
 /// Creates the folders named in a file path; those that are there already stay.
 void CreatePathFolders(const platform::FileSystem& files, std::string_view path);

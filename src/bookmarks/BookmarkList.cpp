@@ -9,18 +9,18 @@
 
 namespace kalyxo {
 
+BookmarkArray DefaultBookmarks() {
+    BookmarkArray records;
+    records.push_back(std::make_unique<CBMFolder>());
+    records.front()->name = platform::LoadString(IDS_FOLDER_DEFAULT_NAME);
+    return records;
+}
+
 std::optional<std::size_t> BookmarkList::CurrentFolderIndex() const {
     const auto found = std::ranges::find_if(
         m_arrBookmarks, [this](const auto& record) { return record.get() == m_pCurrentFolder; });
     if (found == m_arrBookmarks.end()) return std::nullopt;
     return static_cast<std::size_t>(found - m_arrBookmarks.begin());
-}
-
-void BookmarkList::ResetBookmarks() {
-    BookmarkArray records;
-    records.push_back(std::make_unique<CBMFolder>());
-    records.front()->name = platform::LoadString(IDS_FOLDER_DEFAULT_NAME);
-    Replace(std::move(records));
 }
 
 void BookmarkList::Replace(BookmarkArray records) {

@@ -14,6 +14,9 @@ namespace kalyxo {
 /// Records in the order of display: a folder, then the bookmarks in it, up to the next folder.
 using BookmarkArray = std::vector<std::unique_ptr<CBookmark>>;
 
+/// One empty folder with the default name.
+BookmarkArray DefaultBookmarks();
+
 /// The user's bookmarks. Once loaded, the first record is a folder.
 class BookmarkList {
   public:
@@ -25,8 +28,7 @@ class BookmarkList {
     /// `folder` is a folder of the list, or null.
     void SetCurrentFolder(const CBookmark* folder) { m_pCurrentFolder = folder; }
 
-    /// Makes it one empty folder with the default name.
-    void ResetBookmarks();
+    void ResetBookmarks() { Replace(DefaultBookmarks()); }
     /// Takes other records, the first of them a folder, which becomes the current one.
     void Replace(BookmarkArray records);
     /// Makes it these records, each of them one of its own or of `added`, and none of them twice. All others

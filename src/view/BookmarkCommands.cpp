@@ -6,7 +6,6 @@
 #include "platform/machine/Machine.h"
 #include "src/bookmarks/AnalyserCapture.h"
 #include "src/bookmarks/BookmarkDlg.h"
-#include "src/bookmarks/BookmarkFile.h"
 #include "src/bookmarks/BookmarkNames.h"
 #include "src/resources/ResourceIds.h"
 #include "src/state/ProgramState.h"
@@ -18,19 +17,20 @@ using platform::LoadString;
 using platform::machine;
 
 void BookmarkCommands::LoadBookmarks() {
-    if (kalyxo::LoadBookmarks(machine().files(), TheApp().m_strBookmarkFile, m_bookmarks) ==
-        BookmarkLoad::damaged) {
+    m_file.emplace(machine().files(), TheApp().m_strBookmarkFile, machine().folder());
+    if (m_file->Load(m_bookmarks) == BookmarkLoad::damaged) {
         AfxMessageBox(LoadString(IDS_BOOKMARKS_DAMAGED));
     }
 }
 
 void BookmarkCommands::SaveBookmarks() {
-    const std::string& path = TheApp().m_strBookmarkFile;
-    switch (kalyxo::SaveBookmarks(machine().files(), path, m_bookmarks.Records())) {
+    if (!m_file) return;
+    switch (m_file->Save(m_bookmarks.Records())) {
         case BookmarkSave::saved:
             break;
         case BookmarkSave::notCreated:
-            AfxMessageBox(std::string(LoadString(IDS_BOOKMARKS_NOT_CREATED)).append(path));
+            AfxMessageBox(
+                std::string(LoadString(IDS_BOOKMARKS_NOT_CREATED)).append(TheApp().m_strBookmarkFile));
             break;
         case BookmarkSave::notWritten:
             AfxMessageBox(LoadString(IDS_BOOKMARKS_NOT_WRITTEN));

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
+#include "src/bookmarks/BookmarkFile.h"
 #include "src/bookmarks/BookmarkList.h"
 #include "src/components/HostedComponents.h"
 #include "src/view/ContentMode.h"
@@ -40,6 +42,7 @@ class BookmarkCommands {
     Navigator& m_navigator;
     ContentHost& m_host;
     BookmarkList m_bookmarks;
+    std::optional<BookmarkFile> m_file;  ///< once the bookmarks are loaded
 };
 
 }  // namespace kalyxo

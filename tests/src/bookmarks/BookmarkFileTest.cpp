@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <sstream>
+
 #include "platform/text/GreekLiteral.h"
+#include "src/bookmarks/BookmarkMerge.h"
 #include "tests/support/HexBytes.h"
 #include "tests/support/TestDrives.h"
 
@@ -156,25 +160,147 @@ TEST(BookmarkFile, RefusesEachBeginningOfAFile) {
 
 class BookmarksOnDisk : public testing::Test {
   protected:
-    BookmarkLoad load(const std::string& path) { return LoadBookmarks(drives_.files, path, list_); }
-    BookmarkSave save(const std::string& path) { return SaveBookmarks(drives_.files, path, list_.Records()); }
+    /// A run of the program: its file and its list.
+    struct Run {
+        explicit Run(const TestDrives& drives) : file(drives.files, "C:\\b.dat", drives.host("C:\\")) {}
+        BookmarkLoad load() { return file.Load(list); }
+        BookmarkSave save() { return file.Save(list.Records()); }
+        void add(const std::string& name) {
+            auto record = std::make_unique<CBMBrowse>();
+            record->name = name;
+            list.Add(std::move(record));
+        }
+        BookmarkFile file;
+        BookmarkList list;
+    };
+    std::string names() {
+        Run run(drives_);
+        EXPECT_EQ(run.load(), BookmarkLoad::loaded);
+        std::string names;
+        for (const auto& record : run.list.Records()) names += record->name + " ";
+        return names;
+    }
 
     TestDrives drives_;
-    BookmarkList list_;
 };
 
 TEST_F(BookmarksOnDisk, TooLargeFileIsDamaged) {
     drives_.put("C:\\b.dat", kDefaultFile);
-    std::filesystem::resize_file(drives_.host("C:\\b.dat"), kLargestBookmarkFile + 1);
-    EXPECT_EQ(load("C:\\b.dat"), BookmarkLoad::damaged);
+    std::filesystem::resize_file(drives_.host("C:\\b.dat"), kMaxBookmarkBytes + 1);
+    EXPECT_EQ(Run(drives_).load(), BookmarkLoad::damaged);
+    const std::string folder = hexBytes("01 80 00");
+    std::string folders = hexBytes("01 00 00 00  01 00 02 00  FF FF 01 00 02 00 " + kFolderClass + "00");
+    for (std::size_t i = 0; i < kMaxBookmarks; ++i) folders += folder;
+    EXPECT_FALSE(ReadBookmarks(folders));
+    folders[4] = folders[10] = 0;
+    EXPECT_TRUE(ReadBookmarks(folders));
+}
+
+TEST_F(BookmarksOnDisk, TwoProgramsKeepEachOthersBookmarks) {
+    drives_.put("C:\\b.dat", kFileOfAllClasses);
+    Run first(drives_);
+    Run second(drives_);
+    Run third(drives_);
+    for (Run* const run : {&first, &second, &third}) run->load();
+    first.add("first");
+    second.add("second");
+    for (Run* const run : {&first, &second, &third}) EXPECT_EQ(run->save(), BookmarkSave::saved);
+    EXPECT_EQ(names(), std::string("Α"_gr) + " p t d second first  q ");
+}
+
+TEST_F(BookmarksOnDisk, FileThatAppearsDuringTheRunIsKept) {
+    Run run(drives_);
+    EXPECT_EQ(run.load(), BookmarkLoad::noFile);
+    run.add("new");
+    drives_.put("C:\\b.dat", kFileOfAllClasses);
+    EXPECT_EQ(run.save(), BookmarkSave::saved);
+    EXPECT_EQ(names(), std::string("Οι σελιδοδείκτες μου new Α p t d  q "_gr));
+}
+
+TEST_F(BookmarksOnDisk, OnlyWholeFilesBecomeTheCopy) {
+    struct Case {
+        const char* what;
+        std::string file, bak;             ///< before the save; none when empty
+        std::string copy, secondCopy;      ///< after it: .bak and .bak2
+        std::string damaged, moreDamaged;  ///< .damaged and .damaged2
+    };
+    const std::string none = drives_.get("C:\\none");
+    const std::string half = kFileOfAllClasses.substr(0, 100);
+    const Case cases[] = {
+        {"whole", kFileOfAllClasses, "", kFileOfAllClasses, none, none, none},
+        {"whole, over a former copy", kFileOfAllClasses, kDefaultFile, kFileOfAllClasses, none, none, none},
+        {"whole, beside a foreign file", kFileOfAllClasses, "mine", "mine", kFileOfAllClasses, none, none},
+        {"half", half, kFileOfAllClasses, kFileOfAllClasses, kFileOfAllClasses, half, none},
+        {"half once more", half, kFileOfAllClasses, kFileOfAllClasses, kFileOfAllClasses, half, half},
+    };
+    for (const Case& row : cases) {
+        drives_.put("C:\\b.dat", row.file);
+        if (!row.bak.empty()) drives_.put("C:\\b.dat.bak", row.bak);
+        Run run(drives_);
+        run.load();
+        EXPECT_EQ(run.save(), BookmarkSave::saved) << row.what;
+        EXPECT_EQ(drives_.get("C:\\b.dat.bak"), row.copy) << row.what;
+        EXPECT_EQ(drives_.get("C:\\b.dat.bak2"), row.secondCopy) << row.what;
+        EXPECT_EQ(drives_.get("C:\\b.dat.damaged"), row.damaged) << row.what;
+        EXPECT_EQ(drives_.get("C:\\b.dat.damaged2"), row.moreDamaged) << row.what;
+    }
 }
 
 TEST_F(BookmarksOnDisk, CopyThatCannotBeMadeDoesNotMatter) {
     drives_.put("C:\\b.dat", kFileOfAllClasses);
     drives_.put("C:\\b.dat.bak\\in the way", "");
-    EXPECT_EQ(load("C:\\b.dat"), BookmarkLoad::loaded);
-    EXPECT_EQ(save("C:\\b.dat"), BookmarkSave::saved);
+    Run run(drives_);
+    EXPECT_EQ(run.load(), BookmarkLoad::loaded);
+    const FullDisk full(kFileOfAllClasses.size());
+    EXPECT_EQ(run.save(), BookmarkSave::saved);
     EXPECT_EQ(drives_.get("C:\\b.dat"), kFileOfAllClasses);
+}
+
+/// Bookmarks of a text such as "F a b | G c=2": folders and what is in them, with a page id behind "=".
+BookmarkArray bookmarks(std::string_view text) {
+    BookmarkArray records;
+    std::istringstream words{std::string(text)};
+    bool folder = true;
+    for (std::string word; words >> word; folder = word == "|") {
+        if (word == "|") continue;
+        if (folder) {
+            add<CBMFolder>(records, word);
+            continue;
+        }
+        const std::size_t equals = std::min(word.find('='), word.size());
+        add<CBMBrowse>(records, word.substr(0, equals)).pageId =
+            equals < word.size() ? std::stoi(word.substr(equals + 1)) : 1;
+    }
+    return records;
+}
+
+TEST(BookmarkMerge, KeepsWhatEitherAddedAndLeavesOutWhatEitherDeleted) {
+    struct Case {
+        const char* what;
+        const char *before, *theirs, *ours, *merged;
+    };
+    const Case cases[] = {
+        {"both add to one folder", "F a | G b", "F a x | G b", "F a y | G b", "F a y x | G b"},
+        {"both add the same", "F a", "F a x", "F a x", "F a x"},
+        {"both add one name with other content", "F a", "F a x=1", "F a x=2", "F a x=2 x=1"},
+        {"both add a folder", "F", "F | X x", "F | Y y", "F | Y y | X x"},
+        {"both add a folder of one name", "F", "F | X x", "F | X y", "F | X y x"},
+        {"we deleted", "F a b", "F a b c", "F b", "F b c"},
+        {"they deleted", "F a b", "F b", "F a b c", "F b c"},
+        {"we deleted a folder", "F a | G b", "F a x | G b", "F a", "F a x"},
+        {"we deleted a folder to which they added", "F a | G b", "F a | G b c", "F a", "F a | G c"},
+        {"they deleted a folder", "F a | G b", "F a", "F a y | G b", "F a y"},
+        {"they deleted a folder to which we added", "F a | G b", "F a", "F a | G b c", "F a | G c"},
+        {"they renamed, we added", "F a", "F b", "F a c", "F c b"},
+        {"they moved, we added", "F a | G", "F | G a", "F a c | G", "F c | G a"},
+        {"we changed nothing", "F a b | G c", "G c | F b a", "F a b | G c", "G c | F b a"},
+        {"folders of two names in one", "F a | F a", "F a | F a", "F a b | F a", "F a b | F a"},
+    };
+    for (const auto& [what, before, theirs, ours, merged] : cases) {
+        EXPECT_EQ(WriteBookmarks(MergeBookmarks(bookmarks(before), bookmarks(theirs), bookmarks(ours))),
+                  WriteBookmarks(bookmarks(merged)))
+            << what;
+    }
 }
 
 TEST(BookmarkRecords, RenamedRecordIsTheSameButForItsName) {
