@@ -58,6 +58,8 @@ bool registerModule(std::string_view dosPath) {
     machine().trace().record(TraceRegister{std::string(dosPath)});
     Registrar registrar(dosPath);
     call(registrar);
+    // At once: the program may end without coming to write its registry.
+    machine().flushRegistry();
     return true;
 }
 
