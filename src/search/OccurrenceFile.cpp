@@ -59,9 +59,9 @@ void appendHit(const char* record, std::vector<SearchHit>& hits) {
 OccurrenceFile::OccurrenceFile(const platform::FileSystem& files, std::string_view dataFolder)
     : m_file(platform::BinaryFile::open(files, std::string(dataFolder).append(formats::occurrencesFile))) {}
 
-void OccurrenceFile::Collect(std::string_view word, std::vector<SearchHit>& hits, std::size_t limit,
+bool OccurrenceFile::Collect(std::string_view word, std::vector<SearchHit>& hits, std::size_t limit,
                              const platform::ProgressStep& step) const {
-    if (!m_file || word.size() > occurrenceWordField) return;
+    if (!m_file || word.size() > occurrenceWordField) return true;
     const WordMatcher matches(word);
     const auto block = std::make_unique<Block>();
     std::size_t got = 0;
@@ -73,7 +73,9 @@ void OccurrenceFile::Collect(std::string_view word, std::vector<SearchHit>& hits
         for (const char* record = block->data(); record < end; record += occurrenceRecordSize) {
             if (matches(record) && hits.size() < limit) appendHit(record, hits);
         }
-    } while (got == block->size() && hits.size() < limit && platform::GoesOn(step, offset, m_file->size()));
+        if (!platform::GoesOn(step, offset, m_file->size())) return false;
+    } while (got == block->size() && hits.size() < limit);
+    return true;
 }
 
 }  // namespace kalyxo

@@ -15,9 +15,9 @@ class OccurrenceFile {
     /// Opens the file of the data folder; without one nothing is found.
     OccurrenceFile(const platform::FileSystem& files, std::string_view dataFolder);
 
-    /// Appends the places of a word, compared byte for byte, in file order, until `hits` holds `limit` or
-    /// `step` cancels. A partial last record is ignored.
-    void Collect(std::string_view word, std::vector<SearchHit>& hits, std::size_t limit,
+    /// Appends the places of a word, compared byte for byte, in file order, until `hits` holds `limit`. A
+    /// partial last record is ignored. False when `step` has cancelled it.
+    bool Collect(std::string_view word, std::vector<SearchHit>& hits, std::size_t limit,
                  const platform::ProgressStep& step = {}) const;
 
   private:

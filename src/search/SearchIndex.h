@@ -36,10 +36,10 @@ class SearchIndex {
 
     /// Starts a search run without hits.
     void ResetHits() { m_hits.clear(); }
-    /// Appends the occurrences of a word in file order; those beyond `MaxHits` are left out. Cancelled, it
-    /// may leave out others too.
-    void CollectHits(std::string_view word, const platform::ProgressStep& step = {}) {
-        m_occurrences.Collect(word, m_hits, MaxHits, step);
+    /// Appends the occurrences of a word in file order; those beyond `MaxHits` are left out. False when
+    /// `step` has cancelled it; then others may be left out too.
+    bool CollectHits(std::string_view word, const platform::ProgressStep& step = {}) {
+        return m_occurrences.Collect(word, m_hits, MaxHits, step);
     }
     std::size_t HitCount() const { return m_hits.size(); }
     const SearchHit& HitAt(std::size_t i) const { return m_hits[i]; }

@@ -22,9 +22,10 @@ class HitTitlesTest : public testing::Test {
         folder.put("D:\\comp.ttl", std::string(60, 'c') + std::string(59, 'd'));
     }
 
-    std::vector<ResultRow> rowsOf(const std::vector<std::string>& words) {
+    std::vector<ResultRow> rowsOf(const std::vector<std::string>& words,
+                                  const platform::ProgressStep& step = {}) {
         SearchIndex index(folder.files, "D:\\");
-        return FindRows(index, words, titles);
+        return FindRows(index, words, titles, step);
     }
 
     SearchFolder folder;
@@ -91,6 +92,23 @@ TEST_F(HitTitlesTest, InvisibleHitsCountTowardsTheMost) {
     const auto rows = rowsOf({"a"});
     ASSERT_EQ(rows.size(), 1U);
     EXPECT_EQ(rows[0].hit, 399U);
+}
+
+TEST_F(HitTitlesTest, CancelledSearchHasNoRowsAndReadsNoFurther) {
+    std::vector<formats::OccurrenceRecord> records(10'000, {"other", 1, 0, 2});
+    records.front() = {"a", 370010, 0, 2};
+    folder.putOccurrences(records);
+    int steps = 0;
+    const auto cancelAt = [&steps](int last) {
+        return [&steps, last](auto, auto) { return ++steps < last; };
+    };
+    const std::vector<std::string> words = {"a", "b", "c", "d"};
+    EXPECT_EQ(rowsOf(words, cancelAt(1'000)).size(), 1U);
+    for (int last = steps; last > 0; --last) {
+        steps = 0;
+        EXPECT_EQ(rowsOf(words, cancelAt(last)).size(), 0U) << last;
+        EXPECT_EQ(steps, last);
+    }
 }
 
 TEST(CompareCellsTest, BytesAreUnsignedAndCaseAndAccentsCount) {
