@@ -148,10 +148,15 @@ bool FileSystem::isFolder(std::string_view dosPath) const {
     return native && fs::is_directory(*native, ignored);
 }
 
-std::optional<std::string> FileSystem::readAll(std::string_view dosPath, std::size_t limit,
+std::optional<std::string> FileSystem::readAll(std::string_view dosPath, std::size_t maxBytes,
                                                const ProgressStep& step) const {
     FileHandle file = openForReading(dosPath);
-    return file ? file.readAll(limit, step) : std::nullopt;
+    return file && file.size() <= maxBytes ? file.readAll(maxBytes, step) : std::nullopt;
+}
+
+std::optional<std::string> FileSystem::readStart(std::string_view dosPath, std::size_t maxBytes) const {
+    FileHandle file = openForReading(dosPath);
+    return file ? file.readAll(maxBytes) : std::nullopt;
 }
 
 bool FileSystem::copyFile(std::string_view from, std::string_view to) const {

@@ -69,10 +69,13 @@ class FileSystem {
     /// Whether there is a folder of that name.
     bool isFolder(std::string_view dosPath) const;
 
-    /// The first `limit` bytes of a file (all of a shorter one), or nothing when it cannot be read, or `step`
-    /// has cancelled that.
-    std::optional<std::string> readAll(std::string_view dosPath, std::size_t limit,
+    /// All of a file. Nothing when it has more than `maxBytes`, which is found out before it is read, when it
+    /// cannot be read, or when `step` has cancelled that.
+    std::optional<std::string> readAll(std::string_view dosPath, std::size_t maxBytes,
                                        const ProgressStep& step = {}) const;
+
+    /// The first `maxBytes` bytes of a file, all of a shorter one; nothing when it cannot be read.
+    std::optional<std::string> readStart(std::string_view dosPath, std::size_t maxBytes) const;
 
     /// Copies a file over `to`, which may exist; a failure leaves no half of it, and a former `to` as it was.
     bool copyFile(std::string_view from, std::string_view to) const;

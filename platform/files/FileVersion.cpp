@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::string_view versionSection = ".kalyxo.version";
 constexpr std::size_t longestVersion = 255;
-constexpr std::uint64_t largestNameTable = 1 << 20;
+constexpr std::uint64_t maxNameTableBytes = 1 << 20;
 
 template <typename T>
 std::optional<T> readRecord(const BinaryFile& file, std::uint64_t offset) {
@@ -69,7 +69,7 @@ std::optional<std::string> fileVersionText(const std::filesystem::path& path) {
     if (!header || !isElf64(*header)) return std::nullopt;
     const auto sections = readSections(*file, *header);
     if (!sections || header->e_shstrndx >= sections->size()) return std::nullopt;
-    const auto names = readSection(*file, (*sections)[header->e_shstrndx], largestNameTable);
+    const auto names = readSection(*file, (*sections)[header->e_shstrndx], maxNameTableBytes);
     if (!names) return std::nullopt;
     for (const auto& section : *sections) {
         if (textAt(*names, section.sh_name) != versionSection) continue;

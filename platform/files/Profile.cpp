@@ -13,7 +13,7 @@ namespace platform {
 namespace {
 
 /// No INI file is longer; a longer file is something else and is left alone.
-constexpr std::size_t largestFile = 1 << 20;
+constexpr std::size_t maxFileBytes = 1 << 20;
 
 std::string_view trimmed(std::string_view text) {
     const std::size_t first = text.find_first_not_of(" \t\r\n");
@@ -89,8 +89,8 @@ bool writeProfileString(const FileSystem& files, std::string_view dosPath, std::
                         std::string_view key, std::string_view value) {
     std::string content;
     if (files.exists(dosPath)) {
-        auto old = files.readAll(dosPath, largestFile + 1);
-        if (!old || old->size() > largestFile) return false;
+        auto old = files.readAll(dosPath, maxFileBytes);
+        if (!old) return false;
         content = std::move(*old);
     }
     auto lines = splitLines(content);

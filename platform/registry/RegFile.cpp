@@ -12,7 +12,7 @@ namespace platform {
 
 namespace {
 
-constexpr std::uint64_t largestFile = 64U << 20;
+constexpr std::uint64_t maxFileBytes = 64U << 20;
 
 char16_t unitAt(std::string_view bytes, std::size_t index) {
     const auto low = static_cast<unsigned char>(bytes[2 * index]);
@@ -84,7 +84,7 @@ void formatKey(std::string& target, const RegistryNode& key, const std::string& 
 
 std::optional<std::string> readBytes(const std::filesystem::path& path) {
     auto file = BinaryFile::open(path);
-    if (!file || file->size() > largestFile) return std::nullopt;
+    if (!file || file->size() > maxFileBytes) return std::nullopt;
     std::string bytes(static_cast<std::size_t>(file->size()), '\0');
     const bool whole = file->read(std::as_writable_bytes(std::span(bytes))) == bytes.size();
     return whole ? std::optional(std::move(bytes)) : std::nullopt;

@@ -9,14 +9,14 @@ namespace kalyxo {
 
 namespace {
 
-/// Room for far more records than keys exist; a longer file is read no further.
-constexpr std::size_t kLargestIndex = 1 << 20;
+/// Room for far more records than keys exist.
+constexpr std::size_t kMaxIndexBytes = 1 << 20;
 
 }  // namespace
 
 bool ElementIndex::Load(const platform::FileSystem& files, std::string_view dataFolder) {
     const std::optional<std::string> image =
-        files.readAll(std::string(dataFolder).append(formats::elementIndexFile), kLargestIndex);
+        files.readAll(std::string(dataFolder).append(formats::elementIndexFile), kMaxIndexBytes);
     if (!image) return false;
     m_records = formats::decodeElementIndex(*image);
     return true;

@@ -1,5 +1,6 @@
 #include "src/display/Picture.h"
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <new>
@@ -19,6 +20,9 @@ namespace {
 /// Pixels to a coordinate in the sharper of two files.
 constexpr int kSharpScale = 2;
 
+/// A picture of 8192 × 8192 pixels; larger ones are refused before they are read.
+constexpr std::uint64_t kMaxPixelBytes = std::uint64_t{8192} * 8192 * 3;
+
 /// Offsets in a BMP file.
 constexpr std::uint64_t kPixelOffsetAt = 10;
 constexpr std::uint64_t kHeaderAt = 14;
@@ -37,7 +41,7 @@ std::optional<std::uint64_t> pixelBytes(const BITMAPINFOHEADER& header, std::uin
     // Both factors stay below 2^33, so the comparison is made by division, where nothing can overflow.
     const std::uint64_t stride = PictureStride(static_cast<std::uint32_t>(header.biWidth));
     const auto rows = static_cast<std::uint64_t>(header.biHeight);
-    if (rows > available / stride) return std::nullopt;
+    if (rows > std::min(available, kMaxPixelBytes) / stride) return std::nullopt;
     return rows * stride;
 }
 

@@ -16,6 +16,7 @@ namespace {
 constexpr std::size_t kTitleRoom = 50;
 constexpr std::size_t kLineRoom = 4999;
 constexpr std::size_t kMinDefinition = 5;
+constexpr std::size_t kMaxDefinitionBytes = std::size_t{1} << 20;
 
 std::string_view untilLineEnd(std::string_view line) {
     using namespace std::string_view_literals;
@@ -33,7 +34,8 @@ std::optional<std::string> GlossaryFile(std::string_view url) {
     const std::string lower = platform::toLower(url);
     const std::size_t at = lower.find(kGlossaryPrefix);
     if (at == std::string::npos) return std::nullopt;
-    return lower.substr(at + kGlossaryPrefix.size());
+    const std::string name = lower.substr(at + kGlossaryPrefix.size());
+    return name.find_first_of("\\/:") == std::string::npos ? name : std::string();
 }
 
 std::optional<std::string> ReadDefinition(const platform::FileSystem& files, std::string_view path) {
@@ -42,7 +44,10 @@ std::optional<std::string> ReadDefinition(const platform::FileSystem& files, std
     std::vector<char> line(kLineRoom);
     reader->readLine(line.data(), kTitleRoom);
     std::string text;
+    std::size_t bytesRead = 0;
     while (const std::size_t length = reader->readLine(line.data(), line.size())) {
+        bytesRead += length;
+        if (bytesRead > kMaxDefinitionBytes) return std::nullopt;
         if (!text.empty()) text += "\r\n";
         text += untilLineEnd({line.data(), length});
     }

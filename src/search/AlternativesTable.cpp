@@ -34,7 +34,7 @@ std::int32_t groupOf(std::string_view word, std::string_view image) {
 void AlternativesTable::Load(const platform::FileSystem& files, std::string_view dataFolder,
                              const platform::ProgressStep& step) {
     m_image =
-        files.readAll(std::string(dataFolder).append(formats::alternativesFile), kLargestIndexFile, step)
+        files.readAll(std::string(dataFolder).append(formats::alternativesFile), kMaxIndexFileBytes, step)
             .value_or("");
 }
 

@@ -55,7 +55,7 @@ const HitTitles::PageTitles& HitTitles::pageTitles(std::string_view key) {
     if (const auto known = m_pageTitles.find(key); known != m_pageTitles.end()) return known->second;
     PageTitles& titles = m_pageTitles[std::string(key)];
     const auto image =
-        m_files.readAll(std::string(m_dataFolder).append(key).append(".dat"), kLargestIndexFile);
+        m_files.readAll(std::string(m_dataFolder).append(key).append(".dat"), kMaxIndexFileBytes);
     std::string_view rest = image ? std::string_view(*image) : std::string_view();
     while (auto record = formats::decodeSectionTitle(rest)) {
         titles.try_emplace(record->pageId, std::move(record->title));

@@ -4,7 +4,8 @@
 
 namespace kalyxo {
 
-/// As much of an index file as is read whole into memory; what a longer one holds beyond is left out.
-inline constexpr std::size_t kLargestIndexFile = std::size_t{256} << 20;
+/// The longest index file that is read whole into memory, room for a million words; a longer one counts as
+/// one that cannot be read.
+inline constexpr std::size_t kMaxIndexFileBytes = std::size_t{32} << 20;
 
 }  // namespace kalyxo

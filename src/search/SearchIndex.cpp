@@ -15,7 +15,7 @@ SearchIndex::SearchIndex(const platform::FileSystem& files, std::string dataFold
 
 std::vector<std::string> SearchIndex::LoadWordIndex(const platform::ProgressStep& step) const {
     return formats::decodeWordIndex(
-        m_files.readAll(pathOf(formats::wordIndexFile), kLargestIndexFile, step).value_or(""));
+        m_files.readAll(pathOf(formats::wordIndexFile), kMaxIndexFileBytes, step).value_or(""));
 }
 
 void SearchIndex::LoadAlternatives(const platform::ProgressStep& step) {

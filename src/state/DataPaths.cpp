@@ -19,7 +19,7 @@ constexpr std::string_view kBookmark = "Bookmark";
 std::string iniFile(const PathSources& sources) { return sources.programFolder + "\\cset.ini"; }
 
 std::string readIni(const FileSystem& files, const PathSources& sources) {
-    std::string text = files.readAll(iniFile(sources), kIniBytesRead).value_or(std::string());
+    std::string text = files.readStart(iniFile(sources), kIniBytesRead).value_or(std::string());
     text.resize(std::min(text.size(), text.find('\0')));
     return text;
 }

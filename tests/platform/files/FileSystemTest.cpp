@@ -135,11 +135,13 @@ TEST_F(FileSystemTest, WritingFollowsWhatHappensToTheFolder) {
     EXPECT_FALSE(write("C:\\other\\1.htm"));
 }
 
-TEST_F(FileSystemTest, ReadAllStopsAtTheLimit) {
+TEST_F(FileSystemTest, LongerFilesAreReadInPartOrNotAtAll) {
     folder.write("f", std::string("ab\0\x1A\r\n", 6));
     folder.write("empty", "");
-    EXPECT_EQ(files.readAll("C:\\F", 3), std::string("ab\0", 3));
-    EXPECT_EQ(files.readAll("C:\\F", 6), files.readAll("C:\\f", 1 << 20));
+    EXPECT_EQ(files.readAll("C:\\F", 5), std::nullopt);
+    EXPECT_EQ(files.readAll("C:\\F", 6), std::string("ab\0\x1A\r\n", 6));
+    EXPECT_EQ(files.readStart("C:\\F", 3), std::string("ab\0", 3));
+    EXPECT_EQ(files.readStart("C:\\F", 10), files.readAll("C:\\f", 10));
     EXPECT_EQ(files.readAll("C:\\empty", 10), "");
     EXPECT_EQ(files.readAll("C:\\g", 10), std::nullopt);
     EXPECT_EQ(files.readAll("C:\\", 10), std::nullopt);

@@ -4,6 +4,8 @@
 
 #include "src/display/BitmapPalette.h"
 #include "src/display/FlightPath.h"
+#include "src/display/Picture.h"
+#include "tests/support/TestFolder.h"
 
 namespace kalyxo {
 namespace {
@@ -40,6 +42,28 @@ TEST(FlightPathTest, RectanglesThatTouchDoNotOverlap) {
     for (const CRect& beside : {CRect::at(244, 60, 20, 20), CRect::at(80, 60, 20, 20),
                                 CRect::at(120, 94, 20, 20), CRect::at(120, 30, 20, 20)}) {
         EXPECT_FALSE(Overlap(panel, beside)) << beside.left << ',' << beside.top;
+    }
+}
+
+TEST(PictureTest, AbsurdSizesAreRefusedBeforeTheyAreRead) {
+    const struct {
+        std::int32_t width, height;
+        PictureResult result;
+    } cases[] = {{8192, 8192, PictureResult::loaded},
+                 {8192, 8193, PictureResult::fileError},
+                 {40'000, 40'000, PictureResult::fileError}};
+    const TestFolder folder;
+    for (const auto& [width, height, result] : cases) {
+        BITMAPINFOHEADER header;
+        header.biSize = sizeof(header);
+        header.biWidth = width;
+        header.biHeight = height;
+        header.biBitCount = 24;
+        std::string head("BM\0\0\0\0\0\0\0\0\x36\0\0\0", 14);
+        head.append(reinterpret_cast<const char*>(&header), sizeof(header));
+        std::filesystem::resize_file(folder.write("p.bmp", head), std::uintmax_t{6} << 30);
+        Picture picture;
+        EXPECT_EQ(picture.LoadPicture(folder.asDrive(), "C:\\p.bmp"), result) << width << ' ' << height;
     }
 }
 

@@ -34,8 +34,18 @@ TEST(DefinitionTest, IsWhatFollowsTheFirstLine) {
         drives.put("D:\\glossary\\word.htm", c.file);
         EXPECT_EQ(ReadDefinition(drives.files, "D:\\glossary\\WORD.htm"), c.text) << c.what;
     }
+    std::filesystem::resize_file(drives.host("D:\\glossary\\word.htm"), std::uintmax_t{1} << 40);
+    EXPECT_EQ(ReadDefinition(drives.files, "D:\\glossary\\word.htm"), std::nullopt) << "absurd size";
     EXPECT_EQ(ReadDefinition(drives.files, "D:\\glossary\\other.htm"), std::nullopt);
     EXPECT_EQ(ReadDefinition(drives.files, "D:\\glossary\\"), std::nullopt);
+}
+
+TEST(GlossaryFileTest, LiesInTheGlossaryFolder) {
+    const std::pair<const char*, std::optional<std::string>> cases[] = {
+        {"D:\\1.htm", std::nullopt},   {"D:\\pjqbhgAcid.htm", "acid.htm"}, {"pjqbhg..\\bookmark.dat", ""},
+        {"pjqbhg../bookmark.dat", ""}, {"pjqbhgz:\\etc\\passwd", ""},      {"pjqbhgz:passwd", ""},
+    };
+    for (const auto& [url, file] : cases) EXPECT_EQ(GlossaryFile(url), file) << url;
 }
 
 TEST(GlossaryPopupTest, StaysInTheClientArea) {

@@ -5,6 +5,7 @@
 #include <fstream>
 
 #include "platform/text/GreekLiteral.h"
+#include "src/search/IndexFileLimit.h"
 #include "tests/src/search/SearchFolder.h"
 
 namespace kalyxo {
@@ -156,19 +157,21 @@ TEST_F(SearchIndexTest, FileMayGrowAndShrinkWhileItIsOpen) {
     EXPECT_EQ(searched.HitCount(), 3U);
 }
 
-TEST_F(SearchIndexTest, FilesOfAHundredMegabytesAreTaken) {
-    constexpr std::size_t kSize = 100'000'000;
-    for (const char* name : {"words.ndx", "words.alt", "words.pr1", "words.dat"}) {
-        folder.put("D:\\"s + name, "");
-        std::filesystem::resize_file(folder.host("D:\\"s + name), kSize);
+TEST_F(SearchIndexTest, FilesBeyondTheLimitCountAsEmptyAndOccurrencesHaveNone) {
+    for (const std::size_t size : {kMaxIndexFileBytes, kMaxIndexFileBytes + 1}) {
+        for (const char* name : {"words.ndx", "words.alt", "words.pr1", "words.dat"}) {
+            folder.put("D:\\"s + name, "");
+            std::filesystem::resize_file(folder.host("D:\\"s + name), size);
+        }
+        const bool taken = size == kMaxIndexFileBytes;
+        SearchIndex searched = index();
+        EXPECT_EQ(searched.LoadWordIndex().size(), taken ? size / 32 : 0);
+        searched.LoadAlternatives();
+        EXPECT_EQ(searched.ExpandAlternatives("", true).size(), 1U);
+        EXPECT_FALSE(searched.LoadFirstLetterTable());
+        searched.CollectHits("");
+        EXPECT_EQ(searched.HitCount(), 400U);
     }
-    SearchIndex searched = index();
-    EXPECT_EQ(searched.LoadWordIndex().size(), kSize / 32);
-    searched.LoadAlternatives();
-    EXPECT_FALSE(searched.LoadFirstLetterTable());
-    EXPECT_EQ(searched.ExpandAlternatives("a", true), Words{"a"});
-    searched.CollectHits("");
-    EXPECT_EQ(searched.HitCount(), 400U);
 }
 
 }  // namespace
