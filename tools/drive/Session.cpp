@@ -1,6 +1,7 @@
 #include "tools/drive/Session.h"
 
 #include <QCoreApplication>
+#include <chrono>
 #include <cstdio>
 #include <utility>
 
@@ -16,6 +17,9 @@ namespace {
 
 constexpr int scriptUnreadable = 2;
 
+/// Far longer than anything takes that comes to an end.
+constexpr std::chrono::seconds maxWait(50);
+
 void print(const Json& answer) {
     std::printf("%s\n", toLine(answer).c_str());
     std::fflush(stdout);
@@ -25,7 +29,7 @@ void print(const Json& answer) {
 
 Session::Session(int script, kalyxo::CKalyxoApp& application)
     : program_(application),
-      watch_([this] { return isBusy(); }, [this] { answer(); }),
+      watch_([this] { return isBusy(); }, [this] { answer(); }, [this] { giveUp(); }, maxWait),
       reader_(
           script, [this](const std::string& line) { return takeLine(line); }, &Session::endOfScript) {
     watchClipboard(*this);
@@ -63,6 +67,12 @@ void Session::carryOut(const std::shared_ptr<Request>& request, const Command& c
 }
 
 bool Session::isBusy() const { return request_->held() || anyComponentBusy(); }
+
+/// The command's answer may never be complete; what is still to come of it is left aside.
+void Session::giveUp() {
+    print(refusal(std::exchange(request_, nullptr)->name(), "the program does not come to rest"));
+    reader_.next();
+}
 
 void Session::answer() {
     print(std::exchange(request_, nullptr)->answer());

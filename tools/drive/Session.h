@@ -31,6 +31,7 @@ class Session : public QObject {
     void carryOut(const std::shared_ptr<Request>& request, const Command& command);
     bool isBusy() const;
     void answer();
+    void giveUp();
     static void endOfScript(bool failed);
 
     Program program_;

@@ -22,10 +22,15 @@ class IdleWatchTest : public EventLoopTest {
     bool busy_ = false;
     QEventLoop loop_;
     IdleWatch watch_{[this] { return busy_; },
-                     [this] {
-                         note("idle ");
-                         loop_.quit();
-                     }};
+                      [this] {
+                          note("idle ");
+                          loop_.quit();
+                      },
+                      [this] {
+                          note("given up ");
+                          loop_.quit();
+                      },
+                      std::chrono::milliseconds(200)};
 };
 
 TEST_F(IdleWatchTest, ComesBehindAllThatFollowsFromAnEvent) {
@@ -52,6 +57,17 @@ TEST_F(IdleWatchTest, WaitsForWhatIsBusyButNotForTimers) {
     watch_.begin();
     ASSERT_TRUE(runLoop(loop_));
     EXPECT_EQ(notes_, "done idle ");
+}
+
+TEST_F(IdleWatchTest, GivesUpWhatNeverComesToRest) {
+    busy_ = true;
+    watch_.begin();
+    ASSERT_TRUE(runLoop(loop_));
+    EXPECT_EQ(notes_, "given up ");
+    busy_ = false;
+    watch_.begin();
+    ASSERT_TRUE(runLoop(loop_));
+    EXPECT_EQ(notes_, "given up idle ");
 }
 
 }  // namespace

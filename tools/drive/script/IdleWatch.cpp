@@ -18,8 +18,15 @@ constexpr int quietRounds = 3;
 
 }  // namespace
 
-IdleWatch::IdleWatch(std::function<bool()> busy, std::function<void()> idle)
+IdleWatch::IdleWatch(std::function<bool()> busy, std::function<void()> idle, std::function<void()> giveUp,
+                     std::chrono::milliseconds limit)
     : busy_(std::move(busy)), idle_(std::move(idle)) {
+    limit_.setSingleShot(true);
+    limit_.setInterval(limit);
+    connect(&limit_, &QTimer::timeout, this, [this, giveUp = std::move(giveUp)] {
+        stop();
+        giveUp();
+    });
     pause_.setSingleShot(true);
     pause_.setTimerType(Qt::PreciseTimer);
     connect(&pause_, &QTimer::timeout, this, &IdleWatch::postRound);
@@ -27,7 +34,13 @@ IdleWatch::IdleWatch(std::function<bool()> busy, std::function<void()> idle)
 
 void IdleWatch::begin() {
     quietRounds_ = 0;
+    limit_.start();
     postRound();
+}
+
+void IdleWatch::stop() {
+    limit_.stop();
+    pause_.stop();
 }
 
 /// Events are delivered by priority, so this one comes after all others that wait.
@@ -38,11 +51,14 @@ void IdleWatch::postRound() {
 
 bool IdleWatch::event(QEvent* event) {
     if (event->type() != roundEvent) return QObject::event(event);
+    // A round that was posted before the limit was over.
+    if (!limit_.isActive()) return true;
     const bool busy = busy_();
     quietRounds_ = busy ? 0 : quietRounds_ + 1;
     if (quietRounds_ < quietRounds) {
         pause_.start(busy ? busyPauseMs : 0);
     } else {
+        stop();
         idle_();
     }
     return true;

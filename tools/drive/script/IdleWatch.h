@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QTimer>
+#include <chrono>
 #include <functional>
 
 namespace drive {
@@ -10,11 +11,12 @@ namespace drive {
 /// in that of a modal dialog, and nothing is busy. A running timer does not count.
 class IdleWatch : public QObject {
   public:
-    /// `busy` says whether something is at work and will go on without input. `idle` is called once for each
-    /// `begin`.
-    IdleWatch(std::function<bool()> busy, std::function<void()> idle);
+    /// `busy` says whether something is at work and will go on without input. For each `begin` either `idle` is called once, or
+    /// `giveUp` when the moment has not come within the limit.
+    IdleWatch(std::function<bool()> busy, std::function<void()> idle, std::function<void()> giveUp,
+              std::chrono::milliseconds limit);
 
-    /// Starts to watch. `idle` is called from a later event.
+    /// Starts to watch. `idle` or `giveUp` is called from a later event.
     void begin();
 
   protected:
@@ -22,10 +24,12 @@ class IdleWatch : public QObject {
 
   private:
     void postRound();
+    void stop();
 
     std::function<bool()> busy_;
     std::function<void()> idle_;
     QTimer pause_;
+    QTimer limit_;  ///< runs while the moment is waited for
     int quietRounds_ = 0;
 };
 
