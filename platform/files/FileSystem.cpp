@@ -42,6 +42,14 @@ std::optional<std::string> dosName(std::string_view native) {
     return fromUtf8Strict(native);
 }
 
+/// The DOS path of host names below a folder, whose own DOS path ends with a backslash.
+std::optional<std::string> dosPathBelow(const std::string& root, std::string_view names) {
+    auto below = dosName(names);
+    if (!below) return std::nullopt;
+    std::replace(below->begin(), below->end(), '/', '\\');
+    return root + *below;
+}
+
 }  // namespace
 
 void FileSystem::setDrives(std::vector<Drive> drives) {
@@ -69,20 +77,43 @@ DriveType FileSystem::driveType(char letter) const {
     return drive ? drive->type : DriveType::noRoot;
 }
 
+void FileSystem::mount(std::string_view dosFolder, const fs::path& folder) {
+    if (auto path = parseDosPath(dosFolder))
+        mounts_.push_back(
+            {path->letter, std::move(path->names), std::string(dosFolder) + '\\', plainPath(folder)});
+}
+
+const FileSystem::Mount* FileSystem::findMount(char letter, const std::vector<std::string>& names) const {
+    const auto found = std::ranges::find_if(mounts_, [&](const Mount& mount) {
+        return mount.letter == letter && mount.names.size() <= names.size() &&
+               std::equal(mount.names.begin(), mount.names.end(), names.begin(), isSameButForCase);
+    });
+    return found == mounts_.end() ? nullptr : &*found;
+}
+
 std::optional<FileSystem::Place> FileSystem::locate(std::string_view dosPath) const {
     auto parsed = parseDosPath(dosPath);
-    const Drive* drive = parsed ? findDrive(parsed->letter) : nullptr;
+    if (!parsed) return std::nullopt;
+    auto& names = parsed->names;
+    if (const Mount* const mount = findMount(parsed->letter, names)) {
+        names.erase(names.begin(), names.begin() + static_cast<std::ptrdiff_t>(mount->names.size()));
+        return Place{mount->folder, std::move(names)};
+    }
+    const Drive* const drive = findDrive(parsed->letter);
     if (!drive) return std::nullopt;
-    return Place{drive, std::move(parsed->names)};
+    return Place{drive->folder, std::move(names)};
 }
 
 std::optional<fs::path> FileSystem::nativePath(std::string_view dosPath) const {
     const auto place = locate(dosPath);
-    return place ? findNames(place->drive->folder, place->names) : std::nullopt;
+    return place ? findNames(place->folder, place->names) : std::nullopt;
 }
 
 std::optional<std::string> FileSystem::dosPath(const fs::path& native) const {
     const std::string path = plainPath(native);
+    for (const Mount& mount : mounts_) {
+        if (const auto rest = partBelow(mount.folder.native(), path)) return dosPathBelow(mount.root, *rest);
+    }
     const Drive* best = nullptr;
     std::string_view below;
     for (const auto& drive : drives_) {
@@ -92,18 +123,15 @@ std::optional<std::string> FileSystem::dosPath(const fs::path& native) const {
         below = *rest;
     }
     if (!best) return std::nullopt;
-    auto names = dosName(below);
-    if (!names) return std::nullopt;
-    std::replace(names->begin(), names->end(), '/', '\\');
-    return std::string{best->letter} + ":\\" + *names;
+    return dosPathBelow({best->letter, ':', '\\'}, below);
 }
 
 FileHandle FileSystem::openForReading(std::string_view dosPath) const {
     const auto place = locate(dosPath);
     if (!place) return {};
-    const auto& [drive, names] = *place;
-    if (auto file = openNative(joinNames(drive->folder, names))) return file;
-    const auto found = findNamesInAnyCase(drive->folder, names);
+    const auto& [folder, names] = *place;
+    if (auto file = openNative(joinNames(folder, names))) return file;
+    const auto found = findNamesInAnyCase(folder, names);
     return found ? openNative(*found) : FileHandle();
 }
 
@@ -119,11 +147,11 @@ FileHandle FileSystem::openForWriting(std::string_view dosPath) const {
     const std::string name = std::move(place->names.back());
     place->names.pop_back();
 
-    const std::string exact = joinNames(place->drive->folder, place->names);
+    const std::string exact = joinNames(place->folder, place->names);
     if (!written_.find(name) && written_.areOf(exact)) return createIn(exact, name);
     // Not created at once: a file whose name differs in case only is the one that is meant.
     if (auto file = FileHandle::openForWriting(joinName(exact, name), false)) return file;
-    const auto folder = findFolder(place->drive->folder, place->names);
+    const auto folder = findFolder(place->folder, place->names);
     if (!folder || !written_.take(*folder)) return {};
     const auto known = written_.find(name);
     return known ? FileHandle::openForWriting(joinName(*folder, *known), false) : createIn(*folder, name);
@@ -178,14 +206,13 @@ bool FileSystem::deleteFile(std::string_view dosPath) const {
     const auto place = locate(dosPath);
     if (!place || place->names.empty()) return false;
     const std::string& name = place->names.back();
-    const std::string folder =
-        joinNames(place->drive->folder, {place->names.begin(), place->names.end() - 1});
+    const std::string folder = joinNames(place->folder, {place->names.begin(), place->names.end() - 1});
     const bool known = written_.areOf(folder);
     if (::unlink(joinName(folder, name).c_str()) == 0) {
         if (known) written_.remove(name);
         return true;
     }
-    const auto found = findNamesInAnyCase(place->drive->folder, place->names);
+    const auto found = findNamesInAnyCase(place->folder, place->names);
     return found && ::unlink(found->c_str()) == 0;
 }
 

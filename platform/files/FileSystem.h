@@ -44,6 +44,10 @@ class FileSystem {
     /// only if they really lie there; symbolic links must not lead out of it. Before, there is none.
     void setContentFolder(std::string_view dosPath);
 
+    /// Has a DOS folder, named without a backslash at its end, be a folder of the host from now on, whatever
+    /// its drive holds there.
+    void mount(std::string_view dosFolder, const std::filesystem::path& folder);
+
     /// The type of a drive by its letter, in either case; `noRoot` when there is none.
     DriveType driveType(char letter) const;
 
@@ -102,18 +106,26 @@ class FileSystem {
                                                        const ProgressStep& step = {}) const;
 
   private:
-    /// A DOS path as the drive and the host names below it.
+    /// A DOS path as the host folder of its drive, or of what is mounted there, and the host names below it.
     struct Place {
-        const Drive* drive;
+        std::filesystem::path folder;
         std::vector<std::string> names;
+    };
+    struct Mount {
+        char letter;
+        std::vector<std::string> names;
+        std::string root;  ///< the DOS path, with a backslash at its end
+        std::filesystem::path folder;
     };
 
     const Drive* findDrive(char letter) const;
+    const Mount* findMount(char letter, const std::vector<std::string>& names) const;
     std::optional<Place> locate(std::string_view dosPath) const;
     FileHandle openNative(const std::string& path) const;
     FileHandle createIn(const std::string& folder, const std::string& name) const;
 
     std::vector<Drive> drives_;
+    std::vector<Mount> mounts_;
     std::optional<std::string> contentFolder_;  ///< host path
     mutable FolderNames written_;               ///< those of the folder last written to
 };

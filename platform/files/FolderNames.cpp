@@ -35,14 +35,6 @@ bool canCorrespond(char a, char b) {
     return beyondAscii || lower(a) == lower(b);
 }
 
-bool isSameButForCase(std::string_view a, std::string_view b) {
-    // Rules out nearly all names without converting them.
-    if (!std::equal(a.begin(), a.end(), b.begin(), b.end(), canCorrespond)) return false;
-    const auto first = fromUtf8Strict(a);
-    const auto second = fromUtf8Strict(b);
-    return first && second && equalsNoCase(*first, *second);
-}
-
 /// Chooses among the names that are offered, one after the other.
 class NameChoice {
   public:
@@ -63,6 +55,14 @@ class NameChoice {
 };
 
 }  // namespace
+
+bool isSameButForCase(std::string_view a, std::string_view b) {
+    // Rules out nearly all names without converting them.
+    if (!std::equal(a.begin(), a.end(), b.begin(), b.end(), canCorrespond)) return false;
+    const auto first = fromUtf8Strict(a);
+    const auto second = fromUtf8Strict(b);
+    return first && second && equalsNoCase(*first, *second);
+}
 
 std::optional<std::string> findName(const std::string& folder, std::string_view name) {
     NameChoice choice(name);

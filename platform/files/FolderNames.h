@@ -10,6 +10,9 @@
 
 namespace platform {
 
+/// Whether two names (UTF-8, within code page 1253) differ at most in letter case.
+bool isSameButForCase(std::string_view a, std::string_view b);
+
 /// The name (UTF-8) in a host folder that is `name`, or else differs from it in letter case only (of several
 /// the first by byte order); nothing when there is none or the folder cannot be read.
 std::optional<std::string> findName(const std::string& folder, std::string_view name);

@@ -96,8 +96,7 @@ void registerComponents(Registry& registry, const NewMachineOptions& options) {
 }
 
 Result<void> fillDrives(Machine& machine, const NewMachineOptions& options, const ProgressStep& step) {
-    const NewMachineFile program{machine.programPath(),
-                                 "This file stands for the program on this machine.\r\n"};
+    const NewMachineFile program{machine.programPath(), std::string(programPlaceholder)};
     if (auto done = writeFile(machine.files(), program); !done) return done;
     if (auto done = makeFolders(machine, options); !done) return done;
     if (auto done = copyModules(machine.files(), options, step); !done) return done;

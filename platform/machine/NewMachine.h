@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -25,6 +26,10 @@ struct NewMachineFile {
     std::string path;     ///< DOS path
     std::string content;  ///< byte for byte
 };
+
+/// What the program file of a machine holds.
+inline constexpr std::string_view programPlaceholder =
+    "This file stands for the program on this machine.\r\n";
 
 /// What a new machine gets. Texts are code page 1253, paths DOS paths unless said otherwise.
 struct NewMachineOptions {

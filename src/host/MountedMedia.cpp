@@ -114,11 +114,11 @@ std::optional<DriveType> typeOf(const MountLine& line, const RemovableTexts& rem
 }
 
 /// The host's texts are far shorter.
-constexpr std::size_t kMaxTextBytes = std::size_t{16} << 20;
+constexpr std::size_t kMaxHostText = std::size_t{16} << 20;
 
 std::string textOf(const fs::path& file) {
     platform::FileHandle handle = platform::FileHandle::openForReading(file);
-    return handle ? handle.readAll(kMaxTextBytes).value_or("") : std::string();
+    return handle ? handle.readAll(kMaxHostText).value_or("") : std::string();
 }
 
 RemovableTexts presentRemovableTexts() {

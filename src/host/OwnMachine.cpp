@@ -1,20 +1,31 @@
 #include "src/host/OwnMachine.h"
 
+#include <pwd.h>
+#include <unistd.h>
+
+#include <cstdio>
 #include <cstdlib>
 #include <system_error>
 
+#include "platform/base/Resources.h"
 #include "platform/files/FileHandle.h"
 #include "platform/files/FolderLock.h"
 #include "platform/files/ReplaceFile.h"
 #include "platform/machine/NewMachine.h"
 #include "platform/registry/RegFile.h"
+#include "platform/text/CodePage1253.h"
 #include "src/host/DriveLetters.h"
+#include "src/host/MachineRepair.h"
 #include "src/host/MachineSetup.h"
+#include "src/resources/ResourceIds.h"
 
 namespace kalyxo {
 
 namespace fs = std::filesystem;
 
+using Options = platform::NewMachineOptions;
+
+using platform::Failure;
 using platform::Machine;
 using platform::MachineConfig;
 using platform::ProgressStep;
@@ -34,34 +45,50 @@ bool isThere(const fs::path& path) {
     return fs::symlink_status(path, ignored).type() != fs::file_type::not_found;
 }
 
-/// The registry is written last, so a machine without one was never finished; and the user may delete either
-/// file to have it made anew.
-bool isFinished(const fs::path& folder) {
-    return isThere(configFile(folder)) && isThere(registryFile(folder));
+/// A message of the string table about a file or folder of the host.
+Failure problem(platform::UINT message, const fs::path& path) {
+    std::string text(platform::LoadString(message));
+    return {text.replace(text.find("%s"), 2, platform::fromUtf8(path.string()))};
 }
 
-Result<void> finish(const fs::path& folder, const InstalledFiles& installed, const MachineConfig& config,
-                    const ProgressStep& step) {
-    platform::NewMachineOptions options = NewMachineOptions(installed.content, installed.modules, {});
-    options.config = config;
-    options.config.drives[kHostLetter] = {platform::DriveType::fixed, "/"};
-    return platform::makeMachine(folder, options, step);
+Failure notMade(const fs::path& path) { return problem(IDS_START_NOT_MADE, path); }
+Failure notRead(const fs::path& path) { return problem(IDS_START_NOT_READ, path); }
+
+/// What the file holds; `otherwise` when there is none.
+template <typename T, typename Read>
+Result<T> load(const fs::path& file, const Read& read, T otherwise) {
+    if (!isThere(file)) return otherwise;
+    Result<T> loaded = read(file);
+    if (loaded) return loaded;
+    std::fprintf(stderr, "kalyxo: %s\n", loaded.failure().message.c_str());
+    const bool opens = static_cast<bool>(platform::FileHandle::openForReading(file));
+    return opens ? problem(IDS_START_DAMAGED, file) : notRead(file);
 }
 
-/// One program makes the machine; another that starts meanwhile waits, and finds it made.
-Result<void> makeUnlessFinished(const fs::path& folder, const InstalledFiles& installed,
-                                const ProgressStep& step) {
+platform::DriveConfig discDrive(const fs::path& content) {
     std::error_code ignored;
-    fs::create_directories(folder, ignored);
-    const auto lock = platform::FolderLock::wait(folder);
-    if (isFinished(folder)) return {};
-    MachineConfig known = DefaultMachineConfig();
-    if (isThere(configFile(folder))) {
-        auto config = platform::loadMachineConfig(configFile(folder), DefaultMachineConfig());
-        if (!config) return config.failure();
-        known = *std::move(config);
-    }
-    return finish(folder, installed, known, step);
+    return {platform::DriveType::cdrom, fs::absolute(content, ignored).lexically_normal()};
+}
+
+bool hasModules(const fs::path& folder) {
+    const auto modules = platform::modulesIn(folder);
+    return modules && !modules->empty();
+}
+
+MachineConfig newConfig(const Options& options) {
+    MachineConfig config = options.config;
+    if (!options.discFolder.empty()) config.drives[kDiscLetter] = discDrive(options.discFolder);
+    config.drives[kHostLetter] = {platform::DriveType::fixed, "/"};
+    return config;
+}
+
+Result<MachineConfig> loadConfig(const fs::path& folder, const Options& options) {
+    const fs::path file = configFile(folder);
+    const MachineConfig fresh = newConfig(options);
+    if (!isThere(file) && !platform::saveMachineConfig(fresh, file)) return notMade(file);
+    return load(
+        file, [](const fs::path& path) { return platform::loadMachineConfig(path, DefaultMachineConfig()); },
+        fresh);
 }
 
 bool sameContent(const fs::path& a, const fs::path& b) {
@@ -75,10 +102,10 @@ bool sameContent(const fs::path& a, const fs::path& b) {
 
 /// A module that cannot be replaced stays; the program then tells of its version itself. False when that was
 /// cancelled.
-bool updateModules(Machine& machine, const fs::path& modules, const ProgressStep& step) {
-    const auto target = machine.files().nativePath(NewMachineOptions({}, {}, {}).modulesTo);
-    if (!target || modules.empty()) return true;
-    const auto installed = platform::modulesIn(modules).value_or(std::vector<fs::path>());
+bool updateModules(Machine& machine, const Options& options, const ProgressStep& step) {
+    const auto target = machine.files().nativePath(options.modulesTo);
+    if (!target) return true;
+    const auto installed = platform::modulesIn(options.modulesFrom).value_or(std::vector<fs::path>());
     std::uint64_t done = 0;
     for (const fs::path& module : installed) {
         if (!platform::GoesOn(step, done++, installed.size())) return false;
@@ -94,10 +121,36 @@ void followPresent(MachineConfig& config, const InstalledFiles& installed, const
     for (const auto& [name, value] : present.metrics) config.metrics[name] = value;
     const auto disc = config.drives.find(kDiscLetter);
     std::error_code ignored;
-    if (disc == config.drives.end() || installed.content.empty()) return;
-    if (disc->second.folder.is_absolute() && !fs::is_directory(disc->second.folder, ignored)) {
-        disc->second.folder = installed.content;
-    }
+    const bool there = disc != config.drives.end() &&
+                       (disc->second.folder.is_relative() || fs::is_directory(disc->second.folder, ignored));
+    if (!there && !installed.content.empty()) config.drives[kDiscLetter] = discDrive(installed.content);
+}
+
+/// Makes what is missing of the machine; true when its registry is to be written. A machine that was never
+/// finished gets its registry file last.
+Result<bool> complete(Machine& machine, const Options& options, const ProgressStep& step) {
+    const bool unfinished = !isThere(registryFile(machine.folder()));
+    const auto repaired = RepairMachine(machine, options);
+    if (!repaired) return notMade(repaired.failure().message);
+    if (unfinished && !options.modulesFrom.empty() && !hasModules(options.modulesFrom))
+        return notRead(options.modulesFrom);
+    if (!updateModules(machine, options, step)) return Failure{"cancelled"};
+    return unfinished || *repaired;
+}
+
+/// The folder, made where there is none, and locked, so that one program makes the machine while others wait.
+std::optional<platform::FolderLock> lockedFolder(const fs::path& folder) {
+    std::error_code ignored;
+    fs::create_directories(folder, ignored);
+    return platform::FolderLock::wait(folder);
+}
+
+/// That of the environment, or else of the host's list of users.
+fs::path homeFolder() {
+    const char* const home = std::getenv("HOME");
+    if (home != nullptr && *home != '\0') return home;
+    const passwd* const user = ::getpwuid(::getuid());
+    return user != nullptr && user->pw_dir != nullptr ? user->pw_dir : "";
 }
 
 }  // namespace
@@ -105,29 +158,44 @@ void followPresent(MachineConfig& config, const InstalledFiles& installed, const
 fs::path OwnMachineFolder() {
     const char* data = std::getenv("XDG_DATA_HOME");
     if (data != nullptr && fs::path(data).is_absolute()) return fs::path(data) / "kalyxo";
-    const char* home = std::getenv("HOME");
-    return home == nullptr || *home == '\0' ? fs::path() : fs::path(home) / ".local/share/kalyxo";
+    const fs::path home = homeFolder();
+    return home.empty() ? fs::path() : home / ".local/share/kalyxo";
 }
 
 Result<std::unique_ptr<Machine>> OpenOwnMachine(const fs::path& folder, const InstalledFiles& installed,
                                                 const PresentScreen& present,
                                                 const std::vector<MountedMedium>& media,
                                                 const ProgressStep& step) {
-    if (const auto made = makeUnlessFinished(folder, installed, step); !made) return made.failure();
-    auto config = platform::loadMachineConfig(configFile(folder), DefaultMachineConfig());
+    const Options options = NewMachineOptions(installed.content, installed.modules, {});
+    auto lock = lockedFolder(folder);
+    if (!lock) return isThere(folder) ? notRead(folder) : notMade(folder.empty() ? "$HOME" : folder);
+    auto config = loadConfig(folder, options);
     if (!config) return config.failure();
-    auto registry = platform::loadRegFile(registryFile(folder));
+    auto registry = load(registryFile(folder), platform::loadRegFile, platform::Registry());
     if (!registry) return registry.failure();
     followPresent(*config, installed, present);
     const LetterMemory remembered = RememberedLetters(*registry);
     const LetterMemory letters = AddMediaDrives(*config, remembered, media);
     auto machine = std::make_unique<Machine>(folder, *std::move(config), *std::move(registry));
-    if (letters != remembered) {
-        RememberLetters(machine->registry(), letters);
-        machine->flushRegistry();
-    }
-    if (!updateModules(*machine, installed.modules, step)) return platform::Failure{"cancelled"};
+    const auto changed = complete(*machine, options, step);
+    if (!changed) return changed.failure();
+    // Writing the registry takes the lock for itself.
+    lock.reset();
+    if (letters != remembered) RememberLetters(machine->registry(), letters);
+    if (*changed || letters != remembered) machine->flushRegistry();
+    // Without a file of before, that none can be written is told now; else the program runs as far as it can.
+    if (!isThere(registryFile(folder))) return notMade(registryFile(folder));
     return machine;
+}
+
+std::string AddDrive(platform::FileSystem& files, const fs::path& folder) {
+    char letter = kHostLetter;
+    while (letter > kDiscLetter && files.driveType(letter) != platform::DriveType::noRoot) --letter;
+    auto drives = files.drives();
+    std::erase_if(drives, [letter](const platform::Drive& drive) { return drive.letter == letter; });
+    drives.push_back({letter, platform::DriveType::fixed, folder});
+    files.setDrives(std::move(drives));
+    return std::string{letter} + ":\\";
 }
 
 }  // namespace kalyxo

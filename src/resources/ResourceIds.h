@@ -76,6 +76,10 @@ inline constexpr platform::UINT IDS_NO_BROWSE_SELECTION = 61343;
 inline constexpr platform::UINT IDS_NO_DATA_ANALYSER = 61344;
 inline constexpr platform::UINT IDS_NO_MOLECULE_CONTROLLER = 61345;
 inline constexpr platform::UINT IDS_NO_MOLECULE_ZOOM = 61346;
+/// Why there is no machine to run on; "%s" is the file or folder.
+inline constexpr platform::UINT IDS_START_NOT_MADE = 61347;
+inline constexpr platform::UINT IDS_START_NOT_READ = 61348;
+inline constexpr platform::UINT IDS_START_DAMAGED = 61349;
 
 /// Dialog ids.
 inline constexpr platform::UINT IDD_ABOUT = 100;

@@ -105,6 +105,16 @@ constexpr std::array kStrings = {
     StringResource{IDS_NO_DATA_ANALYSER, "Data Analyser component not installed correctly"},
     StringResource{IDS_NO_MOLECULE_CONTROLLER, "Molecule Controller component not installed correctly"},
     StringResource{IDS_NO_MOLECULE_ZOOM, "Molecule Zoom component not installed correctly"},
+    StringResource{IDS_START_NOT_MADE,
+                   "Το Kalyxo δεν μπορεί να ξεκινήσει, γιατί δεν μπορεί να δημιουργήσει:\r\n\r\n%s\r\n\r\n"
+                   "Ελέγξτε ότι έχετε δικαίωμα εγγραφής εκεί και ότι υπάρχει ελεύθερος χώρος στον δίσκο, και "
+                   "ξεκινήστε το πάλι."_gr},
+    StringResource{IDS_START_NOT_READ,
+                   "Το Kalyxo δεν μπορεί να ξεκινήσει, γιατί δεν μπορεί να διαβάσει:\r\n\r\n%s\r\n\r\n"
+                   "Ελέγξτε ότι υπάρχει και ότι έχετε δικαίωμα ανάγνωσης, και ξεκινήστε το πάλι."_gr},
+    StringResource{IDS_START_DAMAGED,
+                   "Το Kalyxo δεν μπορεί να ξεκινήσει, γιατί αυτό το αρχείο είναι κατεστραμμένο:\r\n\r\n%s"
+                   "\r\n\r\nΔιορθώστε ή διαγράψτε το αρχείο, και ξεκινήστε το πάλι."_gr},
 };
 
 }  // namespace

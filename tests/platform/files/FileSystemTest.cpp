@@ -183,6 +183,21 @@ TEST_F(FileSystemTest, NoLinkLeadsOutOfTheContentFolder) {
     EXPECT_TRUE(files.openForReading("C:\\datas\\secret"));
 }
 
+TEST_F(FileSystemTest, MountedFolderTakesThePlaceOfWhatIsThere) {
+    folder.write("c/Kalyxo/cache", "in the way");
+    folder.write("elsewhere/1.htm", "page");
+    files.setDrives({{'C', DriveType::fixed, folder / "c"}});
+    files.mount("C:\\Kalyxo\\cache", folder / "elsewhere");
+    EXPECT_EQ(files.readAll("c:\\KALYXO\\Cache\\1.HTM", 10), "page");
+    EXPECT_TRUE(files.isFolder("C:\\Kalyxo\\cache"));
+    EXPECT_TRUE(files.openForWriting("C:\\Kalyxo\\cache\\2.htm"));
+    EXPECT_TRUE(fs::exists(folder / "elsewhere/2.htm"));
+    EXPECT_TRUE(files.deleteFile("C:\\Kalyxo\\cache\\2.htm"));
+    EXPECT_EQ(files.dosPath(folder / "elsewhere/1.htm"), "C:\\Kalyxo\\cache\\1.htm");
+    EXPECT_EQ(files.dosPath(folder / "c/Kalyxo/x"), "C:\\Kalyxo\\x");
+    EXPECT_FALSE(files.exists("C:\\Kalyxo\\caches"));
+}
+
 TEST_F(FileSystemTest, FilesAreCopiedMovedAndDeleted) {
     folder.write("a", "content");
     folder.write("B", "a former and longer content");

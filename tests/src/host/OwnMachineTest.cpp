@@ -1,10 +1,14 @@
 #include <gtest/gtest.h>
+#include <pwd.h>
+#include <unistd.h>
 
 #include <future>
 #include <vector>
 
 #include "platform/base/Resources.h"
+#include "platform/text/CodePage1253.h"
 #include "src/host/OwnMachine.h"
+#include "src/host/SpareCache.h"
 #include "src/resources/ResourceTable.h"
 #include "src/state/Settings.h"
 #include "tests/support/TestFolder.h"
@@ -78,6 +82,107 @@ TEST_F(OwnMachine, MakingThatWasBrokenOffIsTakenUpAgain) {
         EXPECT_TRUE((*opened)->files().exists("D:\\a.htm")) << missing;
         EXPECT_EQ(m_root.read(kCopiedModule), "version one");
     }
+}
+
+TEST_F(OwnMachine, WhatIsMissingIsMadeAgain) {
+    ASSERT_TRUE(open());
+    m_root.write("own/c/Kalyxo/bookmark.dat", "kept");
+    for (const char* missing :
+         {"own/c/Kalyxo/ActiveX", "own/c/Kalyxo/cset.ini", "own/c/Temp", "own/c/Kalyxo", "own/c"}) {
+        fs::remove_all(m_root / missing);
+        const auto opened = open();
+        ASSERT_TRUE(opened) << missing;
+        EXPECT_EQ(m_root.read(kCopiedModule), "version one") << missing;
+        EXPECT_NE(m_root.read("own/c/Kalyxo/cset.ini").find("DataPath=D:\\\r\n"), std::string::npos)
+            << missing;
+        EXPECT_TRUE(fs::exists(m_root / "own/c/Kalyxo/kalyxo.exe")) << missing;
+        EXPECT_TRUE(fs::is_directory(m_root / "own/c/Temp")) << missing;
+        EXPECT_EQ(
+            fs::exists(m_root / "own/c/Kalyxo/bookmark.dat"),
+            !std::string_view(missing).ends_with("Kalyxo") && !std::string_view(missing).ends_with("/c"));
+        m_root.write("own/c/Kalyxo/bookmark.dat", "kept");
+    }
+}
+
+TEST_F(OwnMachine, SettingsAndRegistrationsThatAreMissingAreMadeAgainAndOthersStay) {
+    ASSERT_TRUE(open());
+    m_root.write("own/registry.reg",
+                 "Windows Registry Editor Version 5.00\r\n\r\n[HKEY_CLASSES_ROOT\\CLSID\\"
+                 "{5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E101}\\InprocServer32]\r\n@=\"C:\\\\mine.ocx\"\r\n");
+    ASSERT_TRUE(open());
+    const auto opened = open();
+    ASSERT_TRUE(opened);
+    platform::Registry& registry = (*opened)->registry();
+    EXPECT_EQ(
+        registry.openKey(platform::HKEY_LOCAL_MACHINE, SettingsKeyPath())->queryString("Directory", 256),
+        "C:\\Kalyxo");
+    const std::string reg = m_root.read("own/registry.reg");
+    EXPECT_NE(reg.find("mine.ocx"), std::string::npos);
+    EXPECT_NE(reg.find("kzzoomgk.ocx"), std::string::npos);
+}
+
+TEST_F(OwnMachine, IniEditedByHandKeepsItsTextAndGetsItsLineEnds) {
+    ASSERT_TRUE(open());
+    m_root.write("own/c/Kalyxo/cset.ini", "[Settings]\nDataPath=E:\\x\r\nBookmark=C:\\b.dat\n");
+    ASSERT_TRUE(open());
+    EXPECT_EQ(m_root.read("own/c/Kalyxo/cset.ini"), "[Settings]\r\nDataPath=E:\\x\r\nBookmark=C:\\b.dat\r\n");
+    fs::remove(m_root / "own/registry.reg");
+    ASSERT_TRUE(open());
+    EXPECT_NE(m_root.read("own/c/Kalyxo/cset.ini").find("E:\\x"), std::string::npos);
+}
+
+TEST_F(OwnMachine, ContentThatIsInstalledLaterIsTheDisc) {
+    fs::rename(m_root / "content", m_root / "elsewhere");
+    ASSERT_TRUE(open());
+    fs::rename(m_root / "elsewhere", m_root / "content");
+    const auto opened = open();
+    ASSERT_TRUE(opened);
+    EXPECT_TRUE((*opened)->files().exists("D:\\a.htm"));
+    EXPECT_EQ((*opened)->files().driveType('D'), platform::DriveType::cdrom);
+}
+
+TEST_F(OwnMachine, EachCauseHasItsMessageAndNamesTheFile) {
+    ASSERT_TRUE(open());
+    const auto says = [this](std::string_view words, const std::string& name) {
+        const auto opened = open();
+        ASSERT_FALSE(opened) << name;
+        const std::string message = platform::toUtf8(opened.message());
+        EXPECT_NE(message.find(words), std::string::npos) << message;
+        EXPECT_NE(message.find((m_root / name).string()), std::string::npos) << message;
+    };
+    m_root.write("own/registry.reg", "no registry");
+    says("είναι κατεστραμμένο", "own/registry.reg");
+    fs::remove(m_root / "own/registry.reg");
+    fs::create_directory(m_root / "own/registry.reg");
+    says("δεν μπορεί να διαβάσει", "own/registry.reg");
+    fs::remove_all(m_root / "own");
+    m_root.write("own", "a file");
+    says("δεν μπορεί να διαβάσει", "own");
+    fs::remove(m_root / "own");
+    fs::create_symlink(m_root / "nowhere/at all", m_root / "own");
+    says("δεν μπορεί να διαβάσει", "own");
+    fs::remove(m_root / "own");
+    m_root.write("own/c", "a file");
+    says("δεν μπορεί να δημιουργήσει", "own/c");
+}
+
+TEST_F(OwnMachine, CacheThatCannotBeWrittenLiesElsewhereUntilTheEnd) {
+    const auto opened = open();
+    ASSERT_TRUE(opened);
+    const platform::FileSystem& files = (*opened)->files();
+    m_root.write("own/c/Kalyxo/cache", "in the way");
+    fs::path elsewhere;
+    {
+        const SpareCache spare(**opened);
+        elsewhere = files.nativePath("C:\\Kalyxo\\cache").value_or("");
+        EXPECT_TRUE(files.openForWriting("C:\\Kalyxo\\cache\\1.htm"));
+        EXPECT_TRUE(fs::exists(elsewhere / "1.htm"));
+    }
+    EXPECT_FALSE(fs::exists(elsewhere));
+    const auto usual = open();
+    fs::remove(m_root / "own/c/Kalyxo/cache");
+    const SpareCache none(**usual);
+    EXPECT_EQ((*usual)->files().nativePath("C:\\Kalyxo\\cache"), m_root / "own/c/Kalyxo/cache");
 }
 
 TEST_F(OwnMachine, CopyingThatIsCancelledIsTakenUpAgain) {
@@ -158,7 +263,7 @@ TEST_F(OwnMachine, LiesInTheUsersDataFolder) {
     EXPECT_EQ(OwnMachineFolder(), "/home/x/.local/share/kalyxo");
     ::unsetenv("XDG_DATA_HOME");
     ::unsetenv("HOME");
-    EXPECT_EQ(OwnMachineFolder(), "");
+    EXPECT_EQ(OwnMachineFolder(), fs::path(::getpwuid(::getuid())->pw_dir) / ".local/share/kalyxo");
 }
 
 }  // namespace
