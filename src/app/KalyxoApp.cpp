@@ -81,8 +81,8 @@ bool CKalyxoApp::ReadRegistrySettings() {
 }
 
 bool CKalyxoApp::SetUpDataPaths() {
-    std::optional<DataPaths> paths =
-        FindDataPaths(machine().files(), {m_strProgramFolder, machine().tempFolder()}, askForFolder);
+    std::optional<DataPaths> paths = FindDataPaths(
+        machine().files(), {m_strProgramFolder, machine().tempFolder(), m_strGivenDataFolder}, askForFolder);
     if (!paths) return false;
     m_strDataFolder = std::move(paths->dataFolder);
     m_strBookmarkFile = std::move(paths->bookmarkFile);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 #include "platform/base/Geometry.h"
 #include "platform/framework/WinApp.h"
@@ -11,6 +12,9 @@ namespace kalyxo {
 /// The application object: the start-up sequence, which fills the state that everything else reads.
 class CKalyxoApp : public platform::CWinApp, public ProgramState {
   public:
+    /// `dataFolder` is shown in this run whatever cset.ini says; it ends with a backslash.
+    explicit CKalyxoApp(std::string dataFolder = {}) : m_strGivenDataFolder(std::move(dataFolder)) {}
+
     static const platform::CRuntimeClass runtimeClass;
     const platform::CRuntimeClass& GetRuntimeClass() const override { return runtimeClass; }
     const platform::MessageMap* GetMessageMap() const override;
@@ -27,6 +31,8 @@ class CKalyxoApp : public platform::CWinApp, public ProgramState {
     void addDocTemplate();
     void chooseFirstShow();
     void warnOfFewColours();
+
+    std::string m_strGivenDataFolder;
 };
 
 /// The warning for a screen of so many bits per pixel; empty when it shows enough colours.

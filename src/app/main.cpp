@@ -1,23 +1,29 @@
+#include <cstdio>
+
 #include "platform/base/Resources.h"
 #include "platform/dialogs/MessageBox.h"
 #include "platform/dialogs/Progress.h"
 #include "platform/framework/Desktop.h"
 #include "platform/framework/Run.h"
-#include "platform/text/CodePage1253.h"
 #include "src/app/KalyxoApp.h"
+#include "src/host/CommandLine.h"
 #include "src/host/OwnMachine.h"
 #include "src/resources/ResourceIds.h"
+#include "src/host/SpareCache.h"
 #include "src/resources/ResourceTable.h"
 
 namespace {
 
 constexpr int kNoMachine = 1;
+constexpr int kWrongArguments = 2;
 
-/// `problem` says which file is damaged, in UTF-8.
-void tellNoMachine(const std::string& problem) {
-    platform::AfxMessageBox(std::string(platform::LoadString(kalyxo::IDS_CANNOT_START)) +
-                            platform::fromUtf8(problem) +
-                            std::string(platform::LoadString(kalyxo::IDS_MEND_FILE)));
+kalyxo::Arguments behindName(int argc, char** argv) {
+    return kalyxo::Arguments(argv, static_cast<std::size_t>(argc)).subspan(argc > 0 ? 1 : 0);
+}
+
+int complain(const std::string& problem) {
+    std::fprintf(stderr, "kalyxo: %s\n", problem.c_str());
+    return kWrongArguments;
 }
 
 /// The user's machine; null, after the user has been told why, when it cannot be opened.
@@ -29,18 +35,27 @@ std::unique_ptr<platform::Machine> openMachine(const platform::Desktop& desktop)
     const bool cancelled = progress->Cancelled();
     progress.reset();
     if (opened) return *std::move(opened);
-    if (!cancelled) tellNoMachine(opened.failure().message);
+    if (!cancelled) platform::AfxMessageBox(opened.failure().message);
     return nullptr;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+    // Answered without a desktop, where there may be none.
+    if (const auto answer = kalyxo::AnswerTo(behindName(argc, argv))) {
+        std::fwrite(answer->data(), 1, answer->size(), stdout);
+        return 0;
+    }
     platform::SetResources(kalyxo::ProgramResources());
     const platform::Desktop desktop(argc, argv);
+    const auto dataFolder = kalyxo::GivenDataFolder(behindName(argc, argv));
+    if (!dataFolder) return complain(dataFolder.failure().message);
     const auto opened = openMachine(desktop);
     if (!opened) return kNoMachine;
     platform::setMachine(opened.get());
-    kalyxo::CKalyxoApp program;
+    const kalyxo::SpareCache cache(*opened);
+    kalyxo::CKalyxoApp program(dataFolder->empty() ? std::string()
+                                                   : kalyxo::AddDrive(opened->files(), *dataFolder));
     return platform::RunProgram(program);
 }

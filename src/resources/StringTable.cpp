@@ -77,8 +77,6 @@ constexpr std::array kStrings = {
     StringResource{IDS_SO_MANY_COLOURS,
                    " χρώματα.\r\nΓια καλύτερα αποτελέσματα προτείνεται να ρυθμίσετε την οθόνη σας ώστε να "
                    "απεικονίζει χιλιάδες ή εκατομμύρια χρώματα."_gr},
-    StringResource{IDS_CANNOT_START, "Το Kalyxo δεν μπορεί να ξεκινήσει.\r\n\r\n"_gr},
-    StringResource{IDS_MEND_FILE, "\r\n\r\nΔιορθώστε ή διαγράψτε το αρχείο και ξεκινήστε πάλι."_gr},
     StringResource{IDS_PREPARING_MACHINE, "Ετοιμάζεται ο φάκελος του Kalyxo…"_gr},
     StringResource{IDS_OPENING_BOOKMARKS, "Ανοίγουν οι σελιδοδείκτες…"_gr},
     StringResource{IDS_BOOKMARK_GOTO, "Μετάβαση σε σελιδοδείκτη"_gr},

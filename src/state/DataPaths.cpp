@@ -65,7 +65,9 @@ std::string decideBookmarkFile(const FileSystem& files, const PathSources& sourc
 std::optional<DataPaths> FindDataPaths(const FileSystem& files, const PathSources& sources,
                                        const FolderChooser& choose) {
     const std::string ini = readIni(files, sources);
-    std::optional<std::string> data = locateContent(files, sources, choose, initialDataFolder(ini));
+    std::optional<std::string> data = sources.dataFolder.empty()
+                                          ? locateContent(files, sources, choose, initialDataFolder(ini))
+                                          : sources.dataFolder;
     if (!data) return std::nullopt;
     return DataPaths{std::move(*data), decideBookmarkFile(files, sources, choose, ini)};
 }

@@ -23,10 +23,12 @@ struct DataPaths {
     std::string bookmarkFile;
 };
 
-/// The folders from which the paths are decided.
+/// What the paths are decided from.
 struct PathSources {
     std::string programFolder;  ///< holds cset.ini; no trailing backslash
     std::string tempFolder;     ///< ends with a backslash
+    std::string dataFolder =
+        {};  ///< the data folder of this run, ends with a backslash; empty when cset.ini tells it
 };
 
 /// Reads the paths from cset.ini. The user is asked for a path that is missing or of no use, and the answer
