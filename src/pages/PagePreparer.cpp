@@ -1,5 +1,6 @@
 #include "src/pages/PagePreparer.h"
 
+#include <cstring>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -32,7 +33,8 @@ void rewriteLines(TextReader& source, TextWriter& target, const LineRewriter& re
     std::uint64_t lines = 0;
     while (const std::size_t length = source.readLine(buffer.get(), kLineLimit)) {
         if (++lines % kLinesPerStep == 0 && !platform::GoesOn(step, lines, 0)) break;
-        const std::string_view line(buffer.get(), length);
+        // A NUL ends its line, the line's own end included.
+        const std::string_view line(buffer.get(), ::strnlen(buffer.get(), length));
         if (LineRewriter::Concerns(line)) {
             working = line;
             rewriter.Rewrite(working, notes);

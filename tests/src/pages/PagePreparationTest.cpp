@@ -47,6 +47,7 @@ TEST_F(PagePreparation, RewritesEachMarker) {
          "<A HREF=\"pjqbhg12345678.htm\"><U>a</U></A>,<A HREF=\"pjqbhg87654321.htm\"><U>b</U></A>.\r\n"},
         {"term without end", "~G12345678water \x05..\n", "~G12345678water D:\\x\\\r\n"},
         {"term that ends within its key", "~G1234~G5678water\n", "~G1234~G5678water\r\n"},
+        {"a NUL ends its line and the line end", std::string("a\0\x05..b\nc\0\n\0d\ne\n", 15), "ace\r\n"},
         {"tilde that is no term hides the term", "~ ~G12345678a~G\n", "~ ~G12345678a~G\r\n"},
     };
     for (const LineCase& c : cases) EXPECT_EQ(prepare(c.source, "D:\\x\\"), c.prepared) << c.what;
@@ -143,6 +144,8 @@ TEST_F(PagePreparation, WritesTheEnlargedMoleculePage) {
         drives.get("C:\\bigvid.htm"),
         "<HTML>\r\n<BODY BGCOLOR=\"#000000\">\r\n<EMBED SRC=\"D:\\m.mol\" WIDTH=640 HEIGHT=498\r\nspin\r\n"
         "display=false\r\nkept\r\n</BODY></HTML>\r\n");
+    prepare(page.replace(page.find("spin"), 5, std::string("spin\n\0", 6)));
+    EXPECT_EQ(drives.get("C:\\bigvid.htm").find('\0'), std::string::npos);
     prepare("<HTML>\n\x03..m.mol\n");
     EXPECT_EQ(drives.get("C:\\bigvid.htm"), "<HTML>\r\n<BODY BGCOLOR=\"#000000\">\r\n\r\n</BODY></HTML>\r\n");
 }
