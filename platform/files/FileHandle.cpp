@@ -72,7 +72,7 @@ FileHandle FileHandle::openForReading(const std::string& path) {
 }
 
 FileHandle FileHandle::openBeneath(const std::string& folder, const std::string& relativePath) {
-    const FileHandle root = openFolder(folder);
+    const FileHandle root(openRetrying(folder, O_RDONLY | O_DIRECTORY));
     if (!root) return {};
     FileHandle file(openInside(root.descriptor_, relativePath));
     if (!file && (errno == ENOSYS || errno == EPERM)) {
@@ -90,8 +90,8 @@ FileHandle FileHandle::createNew(const std::string& path) {
     return FileHandle(openRetrying(path, O_WRONLY | O_CREAT | O_EXCL));
 }
 
-FileHandle FileHandle::openFolder(const std::string& path) {
-    return FileHandle(openRetrying(path, O_RDONLY | O_DIRECTORY));
+FileHandle FileHandle::openForLocking(const std::string& path) {
+    return FileHandle(openRetrying(path, O_RDONLY));
 }
 
 std::optional<std::size_t> FileHandle::read(void* buffer, std::size_t size) {

@@ -35,8 +35,9 @@ class FileHandle {
     /// handle when that fails; never waits for the other end of a pipe.
     static FileHandle openForWriting(const std::string& path, bool create);
 
-    /// Opens a folder, which can be locked but not read; a closed handle when that fails.
-    static FileHandle openFolder(const std::string& path);
+    /// Opens what has that name, in most cases a folder, to lock it and not to read it; a closed handle when
+    /// that fails.
+    static FileHandle openForLocking(const std::string& path);
 
     /// Creates a file that must not exist yet; a closed handle when that fails.
     static FileHandle createNew(const std::string& path);

@@ -31,13 +31,13 @@ bool standsAt(const FileHandle& folder, const fs::path& path) {
 }  // namespace
 
 std::optional<FolderLock> FolderLock::wait(const fs::path& folder) {
-    FileHandle handle = FileHandle::openFolder(folder.string());
+    FileHandle handle = FileHandle::openForLocking(folder.string());
     if (!handle || heldByAnother(handle, LOCK_EX)) return std::nullopt;
     return FolderLock(std::move(handle));
 }
 
 std::optional<FolderLock> FolderLock::tryNow(const fs::path& folder) {
-    FileHandle handle = FileHandle::openFolder(folder.string());
+    FileHandle handle = FileHandle::openForLocking(folder.string());
     if (!handle || heldByAnother(handle, LOCK_EX | LOCK_NB) || !standsAt(handle, folder)) return std::nullopt;
     return FolderLock(std::move(handle));
 }

@@ -142,7 +142,7 @@ Result<bool> complete(Machine& machine, const Options& options, const ProgressSt
 std::optional<platform::FolderLock> lockedFolder(const fs::path& folder) {
     std::error_code ignored;
     fs::create_directories(folder, ignored);
-    return platform::FolderLock::wait(folder);
+    return fs::is_directory(folder, ignored) ? platform::FolderLock::wait(folder) : std::nullopt;
 }
 
 /// That of the environment, or else of the host's list of users.

@@ -64,7 +64,7 @@ class Run:
         self.finish_command()
         if step.what == "restart":
             return self.end_driver(step.where)
-        demand(self.driver is None, "the machine cannot be changed while the program runs")
+        demand(self.driver is None or step.what == "copy", "the machine cannot be changed while the program runs")
         try:
             self.machine.change(step.what, step.words, step.value)
         except (Problem, OSError, TypeError) as problem:
