@@ -67,7 +67,14 @@ Desktop::~Desktop() { setPrintListener({}); }
 ScreenConfig Desktop::screen() const {
     const QScreen* const first = QGuiApplication::primaryScreen();
     if (!first) return {};
-    return {first->size().width(), first->size().height(), first->depth()};
+    const QRect area = first->geometry();
+    ScreenConfig screen;
+    screen.width = area.width();
+    screen.height = area.height();
+    screen.bitsPerPixel = first->depth();
+    screen.left = area.left();
+    screen.top = area.top();
+    return screen;
 }
 
 std::map<std::string, int, std::less<>> Desktop::metrics() const {

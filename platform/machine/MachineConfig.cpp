@@ -94,6 +94,8 @@ void readScreen(FieldReader& reader, const Json& root, ScreenConfig& screen) {
     reader.readInteger(*object, "height", "screen", 1, maxExtent, screen.height);
     reader.readInteger(*object, "bitsPerPixel", "screen", 1, 32, screen.bitsPerPixel);
     reader.readInteger(*object, "pixelRatio", "screen", 1, maxPixelRatio, screen.pixelRatio);
+    reader.readInteger(*object, "left", "screen", -maxExtent, maxExtent, screen.left);
+    reader.readInteger(*object, "top", "screen", -maxExtent, maxExtent, screen.top);
 }
 
 void readMetrics(FieldReader& reader, const Json& root, MachineConfig& config) {
@@ -213,6 +215,8 @@ Json toJson(const MachineConfig& config) {
     root["screen"] = {
         {"width", screen.width}, {"height", screen.height}, {"bitsPerPixel", screen.bitsPerPixel}};
     if (screen.pixelRatio != 1) root["screen"]["pixelRatio"] = screen.pixelRatio;
+    if (screen.left != 0) root["screen"]["left"] = screen.left;
+    if (screen.top != 0) root["screen"]["top"] = screen.top;
     root["metrics"] = Json::object();
     for (const auto& [name, value] : config.metrics) root["metrics"][name] = value;
     root["drives"] = drivesToJson(config);

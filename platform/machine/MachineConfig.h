@@ -18,6 +18,8 @@ struct ScreenConfig {
     int height = 768;
     int bitsPerPixel = 32;
     int pixelRatio = 1;  ///< physical pixels per logical pixel, across and down; width and height are logical
+    int left = 0;        ///< its left and upper edge among all screens
+    int top = 0;
 
     bool operator==(const ScreenConfig&) const = default;
 };

@@ -33,7 +33,10 @@ std::optional<std::string> askForFolder(FolderPurpose purpose) {
     return chooser.DoModal() == IDOK ? std::optional(chooser.Folder()) : std::nullopt;
 }
 
-CSize screenSize() { return {machine().metric(SM_CXSCREEN), machine().metric(SM_CYSCREEN)}; }
+CRect screenArea() {
+    const ScreenConfig& screen = machine().screen();
+    return CRect::at(screen.left, screen.top, screen.width, screen.height);
+}
 
 }  // namespace
 
@@ -73,7 +76,7 @@ bool CKalyxoApp::ReadRegistrySettings() {
         LocateProgram(machine().programPath(), key->queryString("Directory", kMaxDirectory));
     m_strProgramFolder = location.folder;
     m_bOutsideInstallFolder = location.outsideInstallFolder;
-    const WindowLayout layout = ReadLayout(*key, screenSize());
+    const WindowLayout layout = ReadLayout(*key, screenArea());
     m_nSplitterPos = layout.splitterPos;
     m_nFrameState = layout.frameState;
     m_rcFrame = layout.frame;
@@ -96,7 +99,8 @@ void CKalyxoApp::addDocTemplate() {
 }
 
 void CKalyxoApp::chooseFirstShow() {
-    m_nCmdShow = IsSmallScreen(screenSize()) ? SW_SHOWMAXIMIZED : SW_SHOWNORMAL;
+    m_nCmdShow = IsSmallScreen({machine().screen().width, machine().screen().height}) ? SW_SHOWMAXIMIZED
+                                                                                      : SW_SHOWNORMAL;
 }
 
 void CKalyxoApp::warnOfFewColours() {

@@ -46,8 +46,9 @@ const CRuntimeClass CSplashDlg::runtimeClass{"CSplashDlg"};
 
 CSplashDlg::CSplashDlg() : CDialog(IDD_SPLASH), m_nBitmapId(IDB_SPLASH) {
     if (!Create()) return;
-    MoveWindow(CRect::at((machine().metric(SM_CXSCREEN) - kWindow.cx) / 2,
-                         (machine().metric(SM_CYSCREEN) - kWindow.cy) / 2, kWindow.cx, kWindow.cy));
+    const ScreenConfig& screen = machine().screen();
+    MoveWindow(CRect::at(screen.left + (screen.width - kWindow.cx) / 2,
+                         screen.top + (screen.height - kWindow.cy) / 2, kWindow.cx, kWindow.cy));
     ShowWindow(SW_SHOW);
     SendMessage(WM_PAINT);
     UpdateWindow(*this);

@@ -92,8 +92,9 @@ bool CBookmarkDlg::fillTree() {
 void CBookmarkDlg::collapse() {
     SetWindowText(LoadString(IDS_BOOKMARK_ADD));
     const CSize size = windowSize(kCollapsed);
-    const int x = (machine().metric(SM_CXSCREEN) - size.cx) / 2;
-    const int y = (machine().metric(SM_CYSCREEN) - dialogPixels(kExpanded).cy) / 2;
+    const ScreenConfig& screen = machine().screen();
+    const int x = screen.left + (screen.width - size.cx) / 2;
+    const int y = screen.top + (screen.height - dialogPixels(kExpanded).cy) / 2;
     MoveWindow(CRect::at(x, y, size.cx, size.cy));
     showOrganiser(false);
     GotoDlgCtrl(IDOK);

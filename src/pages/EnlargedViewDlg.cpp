@@ -41,8 +41,8 @@ EnlargedViewLayout LayOutEnlargedView(EnlargedViewMode mode) {
     const CSize outer{inner.width + 2 * system.metric(SM_CXDLGFRAME),
                       inner.height + system.metric(SM_CYCAPTION) + 2 * system.metric(SM_CYDLGFRAME)};
     return {
-        CRect::at((system.metric(SM_CXSCREEN) - outer.cx) / 2, (system.metric(SM_CYMAXIMIZED) - outer.cy) / 2,
-                  outer.cx, outer.cy),
+        CRect::at(system.screen().left + (system.screen().width - outer.cx) / 2,
+                  system.screen().top + (system.metric(SM_CYMAXIMIZED) - outer.cy) / 2, outer.cx, outer.cy),
         CRect::at(0, 0, inner.width + inner.extraWidth, inner.height - kButtonStrip),
         CRect::at((outer.cx - kButton.cx) / 2, inner.height - kButtonFromBottom, kButton.cx, kButton.cy),
     };

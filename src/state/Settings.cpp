@@ -22,11 +22,11 @@ int numberOr(const RegistryKey& key, std::string_view name, int fallback) {
     return stored ? static_cast<int>(*stored) : fallback;
 }
 
-void useDefaultFrame(WindowLayout& layout, platform::CSize screen) {
-    const bool narrow = screen.cx < kNarrowScreen;
+void useDefaultFrame(WindowLayout& layout, const CRect& screen) {
+    const bool narrow = screen.Width() < kNarrowScreen;
     layout.frameState = narrow ? kFrameMaximised : kFrameNormal;
-    const int left = narrow ? 0 : (screen.cx - kDefaultWidth) / 2;
-    const int top = narrow ? 0 : (screen.cy - kDefaultHeight) / 2;
+    const int left = screen.left + (narrow ? 0 : (screen.Width() - kDefaultWidth) / 2);
+    const int top = screen.top + (narrow ? 0 : (screen.Height() - kDefaultHeight) / 2);
     layout.frame = CRect::at(left, top, kDefaultWidth, kDefaultHeight);
 }
 
@@ -44,7 +44,7 @@ ProgramLocation LocateProgram(std::string_view programFile, const std::optional<
     return {std::string(ownFolder), true};
 }
 
-WindowLayout ReadLayout(const RegistryKey& key, platform::CSize screen) {
+WindowLayout ReadLayout(const RegistryKey& key, const CRect& screen) {
     WindowLayout layout;
     layout.splitterPos = numberOr(key, "Splitter", kDefaultSplitter);
     const std::optional<std::uint32_t> size = key.queryDword("Size");

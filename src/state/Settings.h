@@ -38,7 +38,7 @@ ProgramLocation LocateProgram(std::string_view programFile, const std::optional<
 /// Reads the layout from the settings key. A value that is missing or of another type has its default.
 /// Without the frame's state, the frame is 640 × 480 in the middle of the screen, or maximised on a screen
 /// narrower than 700.
-WindowLayout ReadLayout(const platform::RegistryKey& key, platform::CSize screen);
+WindowLayout ReadLayout(const platform::RegistryKey& key, const platform::CRect& screen);
 
 /// Writes the layout to the settings key, which is created when it is missing; false when it can be neither
 /// opened nor created.

@@ -56,8 +56,8 @@ std::string offscreenPlatform(const platform::ScreenConfig& screen) {
     const double ratio = pixelRatio(screen);
     const Json layout = {{"screens",
                           {{{"name", "machine"},
-                            {"x", 0},
-                            {"y", 0},
+                            {"x", std::lround(screen.left * ratio)},
+                            {"y", std::lround(screen.top * ratio)},
                             {"width", std::lround(screen.width * ratio)},
                             {"height", std::lround(screen.height * ratio)},
                             {"logicalDpi", 96},
