@@ -12,7 +12,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Whether another has it; a host that cannot lock says something else.
+/// Whether another program holds the lock. On a host that cannot lock, nobody does.
 bool heldByAnother(const FileHandle& folder, int operation) {
     int result = -1;
     do {

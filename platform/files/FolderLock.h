@@ -8,15 +8,15 @@
 
 namespace platform {
 
-/// The word of a program that a folder is its own for the time being. Binds only those who ask for it as
-/// well; leaves no trace in the folder, and ends with the process, however that ends. Where the host cannot
-/// lock, all may have it.
+/// A lock on a folder, held while the object lives. Only programs that ask for the lock are kept out. It leaves
+/// nothing in the folder, and ends with the process, however that ends. Where the host cannot lock, everyone
+/// gets it.
 class FolderLock {
   public:
-    /// Waits until no other has the folder; nothing when it cannot be opened.
+    /// Waits until no other program holds the lock; nothing when the folder cannot be opened.
     static std::optional<FolderLock> wait(const std::filesystem::path& folder);
 
-    /// Nothing when another has the folder, has removed it meanwhile, or it cannot be opened.
+    /// Nothing when another program holds the lock, has removed the folder meanwhile, or it cannot be opened.
     static std::optional<FolderLock> tryNow(const std::filesystem::path& folder);
 
   private:

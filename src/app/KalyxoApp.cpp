@@ -29,7 +29,8 @@ constexpr std::uint32_t kStartUpWaitMs = 2000;
 constexpr std::size_t kMaxDirectory = 256;
 
 std::optional<std::string> askForFolder(FolderPurpose purpose) {
-    CFindFolderDlg chooser(purpose);
+    CFindFolderDlg chooser;
+    chooser.m_nMode = purpose;
     return chooser.DoModal() == IDOK ? std::optional(chooser.Folder()) : std::nullopt;
 }
 

@@ -15,7 +15,7 @@ namespace {
 
 /// The place where the platform itself remembers letters.
 constexpr std::string_view kMountedDevices = "System\\MountedDevices";
-constexpr std::size_t kLongestFolder = std::size_t{4} * 4096 + 1;
+constexpr std::size_t kMaxFolderText = std::size_t{4} * 4096 + 1;
 constexpr char kFirstLetter = 'D';
 constexpr char kLastLetter = 'Z';
 
@@ -62,7 +62,7 @@ std::optional<char> letterFor(const std::string& folder, const MachineConfig& co
     return fresh ? fresh : firstLetter(config, [](char) { return true; });
 }
 
-/// Those with a letter of their own first, so that no newcomer can take it.
+/// Those with a letter of their own first, so that no new medium can take it.
 std::vector<MountedMedium> inOrder(std::vector<MountedMedium> media, const LetterMemory& remembered) {
     std::stable_partition(media.begin(), media.end(), [&](const MountedMedium& medium) {
         const std::string folder = inAscii(medium.folder.string());
@@ -78,7 +78,7 @@ LetterMemory RememberedLetters(Registry& registry) {
     LetterMemory letters;
     const auto key = registry.openKey(platform::HKEY_LOCAL_MACHINE, kMountedDevices);
     for (char letter = kFirstLetter; key && letter <= kLastLetter; ++letter) {
-        if (auto folder = key->queryString(valueName(letter), kLongestFolder)) letters[letter] = *folder;
+        if (auto folder = key->queryString(valueName(letter), kMaxFolderText)) letters[letter] = *folder;
     }
     return letters;
 }

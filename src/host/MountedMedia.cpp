@@ -104,6 +104,8 @@ std::optional<DriveType> diskType(std::string_view device, bool inUserPlace, con
     return inUserPlace ? std::optional(DriveType::fixed) : std::nullopt;
 }
 
+/// Nothing for a file system of the host itself: its root, and what lies in its own folders, among which
+/// there are places where users mount (`/run/media`).
 std::optional<DriveType> typeOf(const MountLine& line, const RemovableTexts& removable) {
     const bool inUserPlace = liesBelowOneOf(line.folder, kUserPlaces);
     if (line.folder == "/" || (liesBelowOneOf(line.folder, kSystemPlaces) && !inUserPlace)) return {};
