@@ -8,9 +8,9 @@
 
 namespace platform {
 
-/// A lock on a folder, held while the object lives. Only programs that ask for the lock are kept out. It leaves
-/// nothing in the folder, and ends with the process, however that ends. Where the host cannot lock, everyone
-/// gets it.
+/// A lock on a folder, held while the object lives. Only programs that ask for the lock are kept out. It
+/// leaves nothing in the folder, and ends with the process, however that ends. Where the host cannot lock,
+/// everyone gets it.
 class FolderLock {
   public:
     /// Waits until no other program holds the lock; nothing when the folder cannot be opened.

@@ -19,7 +19,8 @@ bool ComponentContainer::createComponent(std::string_view classId) {
     const HWND parent = WindowTable::instance().nearestHandle(parentWidget());
     const int componentId = WindowTable::instance().find(handle())->id;
     host_ = ComponentHost::create(classId, this, [=](std::int32_t dispid, std::span<Variant> arguments) {
-        if (CWnd* const receiver = CWnd::FromHandle(parent)) receiver->OnEvent(componentId, dispid, arguments);
+        if (CWnd* const receiver = CWnd::FromHandle(parent))
+            receiver->OnEvent(componentId, dispid, arguments);
     });
     if (!host_) return false;
     setFocusProxy(&host_->component().widget());

@@ -22,9 +22,6 @@ class CFindFolderDlg : public platform::CDialog {
     /// The folder that was chosen, without a backslash at its end.
     const std::string& Folder() const { return m_strFolder; }
 
-    /// What the folder is asked for; set before the dialog opens.
-    FolderPurpose m_nMode = FolderPurpose::locateContent;
-
   protected:
     void DoDataExchange(platform::CDataExchange& exchange) override;
     bool OnInitDialog() override;

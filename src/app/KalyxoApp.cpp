@@ -29,8 +29,7 @@ constexpr std::uint32_t kStartUpWaitMs = 2000;
 constexpr std::size_t kMaxDirectory = 256;
 
 std::optional<std::string> askForFolder(FolderPurpose purpose) {
-    CFindFolderDlg chooser;
-    chooser.m_nMode = purpose;
+    CFindFolderDlg chooser(purpose);
     return chooser.DoModal() == IDOK ? std::optional(chooser.Folder()) : std::nullopt;
 }
 

@@ -8,8 +8,8 @@
 #include "src/app/KalyxoApp.h"
 #include "src/host/CommandLine.h"
 #include "src/host/OwnMachine.h"
-#include "src/resources/ResourceIds.h"
 #include "src/host/SpareCache.h"
+#include "src/resources/ResourceIds.h"
 #include "src/resources/ResourceTable.h"
 
 namespace {

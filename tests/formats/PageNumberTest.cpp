@@ -33,8 +33,7 @@ TEST(PageNumber, OtherNumbersHaveNoPath) {
 
 TEST(PageNumber, NoTwoNumbersShareAPath) {
     std::set<std::string> paths;
-    for (std::int32_t number = 1; number <= formats::maxPageNumber; ++number)
-        paths.insert(*pagePath(number));
+    for (std::int32_t number = 1; number <= formats::maxPageNumber; ++number) paths.insert(*pagePath(number));
     EXPECT_EQ(paths.size(), static_cast<std::size_t>(formats::maxPageNumber));
 }
 

@@ -11,8 +11,8 @@ class TestDrives {
   public:
     TestDrives() {
         for (const char* drive : {"c", "d"}) std::filesystem::create_directories(root_ / drive);
-        files.setDrives({{'C', platform::DriveType::fixed, root_ / "c"},
-                         {'D', platform::DriveType::cdrom, root_ / "d"}});
+        files.setDrives(
+            {{'C', platform::DriveType::fixed, root_ / "c"}, {'D', platform::DriveType::cdrom, root_ / "d"}});
     }
 
     /// Writes a file, and makes the folders above it.

@@ -27,11 +27,11 @@ int run(const contentc::Options& options) {
     for (const contentc::Diagnostic& diagnostic : diagnostics.sorted()) {
         std::cerr << contentc::toLine(diagnostic) << '\n';
     }
-    if (!files) return Failed;
+    if (!files) return failed;
     const auto written = contentc::writeDataFolder(*files, options.output);
-    if (written) return Done;
+    if (written) return done;
     std::cerr << "contentc: " << written.failure().message << '\n';
-    return Failed;
+    return failed;
 }
 
 }  // namespace

@@ -121,7 +121,7 @@ const struct {
     // Tools.
     {pageFile,
      topicHeader + "{{tool clock at=\"3\" on=\"4\"}}\n{{tool quiz at=\"3\"}}\n? q\n+ a\n- "
-                    "b\n{{end}}\n{{tool shared}}\n",
+                   "b\n{{end}}\n{{tool shared}}\n",
      {"4: tool 'clock' has no setting 'on'; its settings: at, of",
       "5: tool 'quiz' has no setting 'at'; its settings: none", "10: no tool is named 'shared'"}},
     {pageFile,

@@ -22,15 +22,15 @@ class IdleWatchTest : public EventLoopTest {
     bool busy_ = false;
     QEventLoop loop_;
     IdleWatch watch_{[this] { return busy_; },
-                      [this] {
-                          note("idle ");
-                          loop_.quit();
-                      },
-                      [this] {
-                          note("given up ");
-                          loop_.quit();
-                      },
-                      std::chrono::milliseconds(200)};
+                     [this] {
+                         note("idle ");
+                         loop_.quit();
+                     },
+                     [this] {
+                         note("given up ");
+                         loop_.quit();
+                     },
+                     std::chrono::milliseconds(200)};
 };
 
 TEST_F(IdleWatchTest, ComesBehindAllThatFollowsFromAnEvent) {

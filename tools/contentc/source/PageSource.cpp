@@ -118,7 +118,7 @@ std::optional<PageSource> readSectionPage(const SourceFile& file, const formats:
     header->allowOnly({"title", "kind", "topic", "order", "template"}, diagnostics);
     HeaderReader reader(*header, page, diagnostics);
     const bool hasKind = reader.readKind();
-    reader.readTitle(page.kind == PageKind::Entry ? formats::maxEntryTitle : formats::maxSectionTitle);
+    reader.readTitle(page.kind == PageKind::entry ? formats::maxEntryTitle : formats::maxSectionTitle);
     reader.readOrder();
     reader.readTemplate();
     if (hasKind) reader.readTopic();

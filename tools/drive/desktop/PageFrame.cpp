@@ -43,9 +43,9 @@ class FrameWait : public QObject {
     void look() {
         if (!page_ || page_->isLoading()) return finish();
         page_->runJavaScript("window.frameDrawn", kWorld,
-                              [waiting = QPointer<FrameWait>(this)](const QVariant& drawn) {
-                                  if (waiting && drawn.toBool()) waiting->finish();
-                              });
+                             [waiting = QPointer<FrameWait>(this)](const QVariant& drawn) {
+                                 if (waiting && drawn.toBool()) waiting->finish();
+                             });
     }
 
     void finish() {

@@ -11,8 +11,8 @@ namespace drive {
 /// in that of a modal dialog, and nothing is busy. A running timer does not count.
 class IdleWatch : public QObject {
   public:
-    /// `busy` says whether something is at work and will go on without input. For each `begin` either `idle` is called once, or
-    /// `giveUp` when the moment has not come within the limit.
+    /// `busy` says whether something is at work and will go on without input. For each `begin` either `idle`
+    /// is called once, or `giveUp` when the moment has not come within the limit.
     IdleWatch(std::function<bool()> busy, std::function<void()> idle, std::function<void()> giveUp,
               std::chrono::milliseconds limit);
 
