@@ -10,8 +10,8 @@ namespace {
 class FirstPaint : public QObject {
   protected:
     bool eventFilter(QObject*, QEvent* event) override {
-        if (!m_told && event->type() == QEvent::Paint) {
-            m_told = true;
+        if (!told_ && event->type() == QEvent::Paint) {
+            told_ = true;
             std::puts("shown");
             std::fflush(stdout);
         }
@@ -19,7 +19,7 @@ class FirstPaint : public QObject {
     }
 
   private:
-    bool m_told = false;
+    bool told_ = false;
 };
 
 }  // namespace

@@ -50,27 +50,27 @@ BookmarkArray makeRecords(int count) {
 class Drive {
   public:
     Drive()
-        : m_root(fs::temp_directory_path() / ("kalyxo-bookmark-bench-" + std::to_string(::getpid()))),
-          files({{'C', platform::DriveType::fixed, m_root}}) {
-        fs::create_directories(m_root);
+        : root_(fs::temp_directory_path() / ("kalyxo-bookmark-bench-" + std::to_string(::getpid()))),
+          files({{'C', platform::DriveType::fixed, root_}}) {
+        fs::create_directories(root_);
     }
-    ~Drive() { fs::remove_all(m_root); }
+    ~Drive() { fs::remove_all(root_); }
     Drive(const Drive&) = delete;
     Drive& operator=(const Drive&) = delete;
-    const fs::path& root() const { return m_root; }
+    const fs::path& root() const { return root_; }
 
   private:
-    fs::path m_root;
+    fs::path root_;
 
   public:
     const platform::FileSystem files;
 };
 
-constexpr const char* kPath = "C:\\bookmark.dat";
+constexpr const char* bookmarkPath = "C:\\bookmark.dat";
 
 void LoadingOfBookmarks(benchmark::State& state) {
     const Drive drive;
-    BookmarkFile file(drive.files, kPath, drive.root());
+    BookmarkFile file(drive.files, bookmarkPath, drive.root());
     file.Save(makeRecords(static_cast<int>(state.range(0))));
     for (auto _ : state) {
         BookmarkList list;
@@ -86,7 +86,7 @@ BENCHMARK(LoadingOfBookmarks)->Arg(10'000)->Arg(100'000)->Unit(benchmark::kMilli
 void SavingOfBookmarks(benchmark::State& state) {
     const Drive drive;
     const BookmarkArray records = makeRecords(static_cast<int>(state.range(0)));
-    BookmarkFile file(drive.files, kPath, drive.root());
+    BookmarkFile file(drive.files, bookmarkPath, drive.root());
     file.Save(records);
     BookmarkList list;
     file.Load(list);

@@ -70,32 +70,32 @@ ChildProcess::ChildProcess(const std::vector<std::string>& arguments) {
     argv.reserve(arguments.size() + 1);
     for (const std::string& argument : arguments) argv.push_back(const_cast<char*>(argument.c_str()));
     argv.push_back(nullptr);
-    if (::posix_spawn(&m_pid, argv[0], &actions, nullptr, argv.data(), environ) != 0) m_pid = -1;
+    if (::posix_spawn(&pid_, argv[0], &actions, nullptr, argv.data(), environ) != 0) pid_ = -1;
     posix_spawn_file_actions_destroy(&actions);
     ::close(input[0]);
     ::close(output[1]);
-    m_input.reset(::fdopen(input[1], "w"));
-    m_output.reset(::fdopen(output[0], "r"));
+    input_.reset(::fdopen(input[1], "w"));
+    output_.reset(::fdopen(output[0], "r"));
 }
 
 ChildProcess::~ChildProcess() {
-    m_input.reset();
-    if (m_pid <= 0) return;
-    ::kill(m_pid, SIGTERM);
-    ::waitpid(m_pid, nullptr, 0);
+    input_.reset();
+    if (pid_ <= 0) return;
+    ::kill(pid_, SIGTERM);
+    ::waitpid(pid_, nullptr, 0);
 }
 
 void ChildProcess::writeLine(const std::string& line) {
-    std::fprintf(m_input.get(), "%s\n", line.c_str());
-    std::fflush(m_input.get());
+    std::fprintf(input_.get(), "%s\n", line.c_str());
+    std::fflush(input_.get());
 }
 
 std::string ChildProcess::readLine() {
     char* line = nullptr;
     std::size_t room = 0;
-    const ssize_t length = ::getline(&line, &room, m_output.get());
+    const ssize_t length = ::getline(&line, &room, output_.get());
     const std::unique_ptr<char, void (*)(void*)> owner(line, &std::free);
     return length > 0 ? std::string(line, static_cast<std::size_t>(length)) : std::string();
 }
 
-std::size_t ChildProcess::memory() const { return treeBytes(m_pid, childrenByParent()); }
+std::size_t ChildProcess::memory() const { return treeBytes(pid_, childrenByParent()); }

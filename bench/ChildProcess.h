@@ -26,7 +26,7 @@ class ChildProcess {
 
   private:
     using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
-    pid_t m_pid = -1;
-    File m_input{nullptr, &std::fclose};
-    File m_output{nullptr, &std::fclose};
+    pid_t pid_ = -1;
+    File input_{nullptr, &std::fclose};
+    File output_{nullptr, &std::fclose};
 };

@@ -16,14 +16,14 @@ namespace fs = std::filesystem;
 using namespace bench;
 using Clock = std::chrono::steady_clock;
 
-constexpr std::size_t kWords = 50'000;
-constexpr std::size_t kBookmarks = 10'000;
+constexpr std::size_t wordCount = 50'000;
+constexpr std::size_t bookmarkCount = 10'000;
 
 /// Different words of Greek small letters, in no order.
 std::vector<std::string> manyWords() {
     std::mt19937 random(5);
     std::vector<std::string> words;
-    for (std::size_t i = 0; i < kWords; ++i) {
+    for (std::size_t i = 0; i < wordCount; ++i) {
         std::string word;
         for (std::size_t number = i; number > 0; number /= 24) word += static_cast<char>(0xE1 + number % 24);
         word.append(3 + random() % 8, static_cast<char>(0xE1 + random() % 24));
@@ -36,32 +36,32 @@ std::vector<std::string> manyWords() {
 class LargeVocabulary {
   public:
     LargeVocabulary()
-        : m_root(fs::temp_directory_path() / ("kalyxo-bench-words" + std::to_string(::getpid()))) {
-        fs::copy(kContent, m_root, fs::copy_options::recursive);
-        std::ofstream(m_root / "words.ndx", std::ios::binary | std::ios::trunc)
+        : root_(fs::temp_directory_path() / ("kalyxo-bench-words" + std::to_string(::getpid()))) {
+        fs::copy(kContent, root_, fs::copy_options::recursive);
+        std::ofstream(root_ / "words.ndx", std::ios::binary | std::ios::trunc)
             << *formats::encodeWordIndex(manyWords());
     }
-    ~LargeVocabulary() { fs::remove_all(m_root); }
+    ~LargeVocabulary() { fs::remove_all(root_); }
     LargeVocabulary(const LargeVocabulary&) = delete;
     LargeVocabulary& operator=(const LargeVocabulary&) = delete;
 
-    std::string folder() const { return m_root; }
+    std::string folder() const { return root_; }
 
   private:
-    fs::path m_root;
+    fs::path root_;
 };
 
 /// Every hundredth record is a folder.
 std::string manyBookmarks() {
     kalyxo::BookmarkArray records;
-    for (std::size_t i = 0; i < kBookmarks; ++i) {
+    for (std::size_t i = 0; i < bookmarkCount; ++i) {
         std::unique_ptr<kalyxo::CBookmark> record;
         if (i % 100 == 0) {
             record = std::make_unique<kalyxo::CBMFolder>();
         } else {
             record = std::make_unique<kalyxo::CBMPeriodic>();
         }
-        record->name = "Record number " + std::to_string(i * 7919 % kBookmarks);
+        record->name = "Record number " + std::to_string(i * 7919 % bookmarkCount);
         records.push_back(std::move(record));
     }
     return kalyxo::WriteBookmarks(records);

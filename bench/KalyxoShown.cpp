@@ -18,8 +18,8 @@ namespace {
 class FirstPaint : public QObject {
   protected:
     bool eventFilter(QObject* receiver, QEvent* event) override {
-        if (!m_told && event->type() == QEvent::Paint && isView(qobject_cast<QWidget*>(receiver))) {
-            m_told = true;
+        if (!told_ && event->type() == QEvent::Paint && isView(qobject_cast<QWidget*>(receiver))) {
+            told_ = true;
             std::puts("shown");
             std::fflush(stdout);
         }
@@ -33,7 +33,7 @@ class FirstPaint : public QObject {
         return entry && entry->className == "CKalyxoView";
     }
 
-    bool m_told = false;
+    bool told_ = false;
 };
 
 }  // namespace

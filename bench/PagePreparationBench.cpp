@@ -18,38 +18,38 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kPages = 2000;
-constexpr std::size_t kPageBytes = 8 * std::size_t{1024};
+constexpr int pageCount = 2000;
+constexpr std::size_t pageBytes = 8 * std::size_t{1024};
 
 /// A page as the content has them: markup, text, and here and there a marker.
 std::string makePage() {
     std::string page =
         "<HTML>\r\n<HEAD><LINK REL=stylesheet HREF=\"\x05..style\\kalyxo.css\"></HEAD>\r\n"
         "<BODY BGCOLOR=\"#FFFFFF\" ALINK=\"#FFFFFF\">\r\n";
-    while (page.size() < kPageBytes) {
+    while (page.size() < pageBytes) {
         page += "<P CLASS=text>The particles of a gas move freely and fill the whole vessel.</P>\r\n";
         if (page.size() % 5 == 0) page += "<P>A ~Gmolecule01molecule~G is the smallest part.</P>\r\n";
     }
-    page.resize(kPageBytes - 16);
+    page.resize(pageBytes - 16);
     return page + "</BODY>\r\n</HTML>\r\n";
 }
 
 /// Source and target folders on the memory file system, removed at the end.
 class Pages {
   public:
-    Pages() : m_root(fs::path("/dev/shm") / ("kalyxo-bench-" + std::to_string(::getpid()))) {
-        fs::create_directories(m_root / "d");
-        fs::create_directories(m_root / "c");
+    Pages() : root_(fs::path("/dev/shm") / ("kalyxo-bench-" + std::to_string(::getpid()))) {
+        fs::create_directories(root_ / "d");
+        fs::create_directories(root_ / "c");
         const std::string page = makePage();
-        for (int i = 0; i < kPages; ++i) std::ofstream(source(i), std::ios::binary) << page;
+        for (int i = 0; i < pageCount; ++i) std::ofstream(source(i), std::ios::binary) << page;
     }
-    ~Pages() { fs::remove_all(m_root); }
+    ~Pages() { fs::remove_all(root_); }
     Pages(const Pages&) = delete;
     Pages& operator=(const Pages&) = delete;
 
-    fs::path source(int i) const { return m_root / "d" / std::to_string(i); }
-    fs::path target(int i) const { return m_root / "c" / (std::to_string(i) + ".htm"); }
-    const fs::path& root() const { return m_root; }
+    fs::path source(int i) const { return root_ / "d" / std::to_string(i); }
+    fs::path target(int i) const { return root_ / "c" / (std::to_string(i) + ".htm"); }
+    const fs::path& root() const { return root_; }
 
     static const Pages& instance() {
         static const Pages pages;
@@ -57,7 +57,7 @@ class Pages {
     }
 
   private:
-    fs::path m_root;
+    fs::path root_;
 };
 
 void copyPlainly(const fs::path& from, const fs::path& to) {
@@ -73,7 +73,7 @@ void copyPlainly(const fs::path& from, const fs::path& to) {
 void PlainCopyOfPages(benchmark::State& state) {
     const Pages& pages = Pages::instance();
     for (auto _ : state) {
-        for (int i = 0; i < kPages; ++i) copyPlainly(pages.source(i), pages.target(i));
+        for (int i = 0; i < pageCount; ++i) copyPlainly(pages.source(i), pages.target(i));
     }
 }
 BENCHMARK(PlainCopyOfPages)->Unit(benchmark::kMillisecond);
@@ -85,7 +85,7 @@ void PreparationOfPages(benchmark::State& state) {
     const kalyxo::PagePreparer preparer(files, "D:\\", "C:\\");
     kalyxo::PageContents contents;
     for (auto _ : state) {
-        for (int i = 0; i < kPages; ++i) {
+        for (int i = 0; i < pageCount; ++i) {
             const std::string number = std::to_string(i);
             if (preparer.PreparePage("D:\\" + number, "C:\\" + number + ".htm", contents) !=
                 kalyxo::PrepareResult::prepared) {

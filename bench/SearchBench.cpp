@@ -23,31 +23,30 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::int32_t kRecords = 1'000'000;
-constexpr int kForms = 10;
+constexpr std::int32_t recordCount = 1'000'000;
+constexpr int formCount = 10;
 /// One record in so many is one of the forms, so that all of them together stay below the most hits.
-constexpr std::int32_t kRecordsPerHit = 2'600;
-constexpr std::int32_t kPages = 400;
+constexpr std::int32_t recordsPerHit = 2'600;
+constexpr std::int32_t pageCount = 400;
 
 std::string formOf(std::int32_t number) { return "searched-form" + std::to_string(number); }
 
 /// A data folder, removed at the end.
 class IndexFolder {
   public:
-    IndexFolder()
-        : m_root(fs::temp_directory_path() / ("kalyxo-bench-search-" + std::to_string(::getpid()))) {
-        fs::create_directories(m_root);
+    IndexFolder() : root_(fs::temp_directory_path() / ("kalyxo-bench-search-" + std::to_string(::getpid()))) {
+        fs::create_directories(root_);
         writeOccurrences();
         writeAlternatives();
         writeTitles();
     }
-    ~IndexFolder() { fs::remove_all(m_root); }
+    ~IndexFolder() { fs::remove_all(root_); }
     IndexFolder(const IndexFolder&) = delete;
     IndexFolder& operator=(const IndexFolder&) = delete;
 
-    fs::path file(std::string_view name) const { return m_root / name; }
+    fs::path file(std::string_view name) const { return root_ / name; }
     platform::FileSystem drives() const {
-        return platform::FileSystem({{'D', platform::DriveType::cdrom, m_root}});
+        return platform::FileSystem({{'D', platform::DriveType::cdrom, root_}});
     }
 
     static const IndexFolder& instance() {
@@ -63,26 +62,26 @@ class IndexFolder {
     /// Words of the lengths that a text has, many with the same beginning, the searched ones among them.
     void writeOccurrences() const {
         std::vector<formats::OccurrenceRecord> records;
-        for (std::int32_t i = 0; i < kRecords; ++i) {
-            const bool isHit = i % kRecordsPerHit == 0;
-            const std::int32_t hit = i / kRecordsPerHit;
-            records.push_back({isHit ? formOf(hit % kForms) : "search" + std::to_string(i % 50'000),
-                               isHit ? hit % kPages : i, isHit ? 10'001 + hit : 0, 2});
+        for (std::int32_t i = 0; i < recordCount; ++i) {
+            const bool isHit = i % recordsPerHit == 0;
+            const std::int32_t hit = i / recordsPerHit;
+            records.push_back({isHit ? formOf(hit % formCount) : "search" + std::to_string(i % 50'000),
+                               isHit ? hit % pageCount : i, isHit ? 10'001 + hit : 0, 2});
         }
         write("words.dat", *formats::encodeOccurrences(records));
     }
 
     void writeAlternatives() const {
         std::vector<formats::AlternativeRecord> records;
-        records.reserve(kForms);
-        for (std::int32_t i = 0; i < kForms; ++i) records.push_back({1, formOf(i)});
+        records.reserve(formCount);
+        for (std::int32_t i = 0; i < formCount; ++i) records.push_back({1, formOf(i)});
         write("words.alt", *formats::encodeAlternatives(records));
     }
 
     void writeTitles() const {
         std::vector<formats::SectionTitleRecord> pages;
         std::vector<std::string> entries;
-        for (std::int32_t i = 0; i < kPages; ++i) {
+        for (std::int32_t i = 0; i < pageCount; ++i) {
             pages.push_back({"The title of page " + std::to_string(i), i});
             entries.push_back("The title of entry " + std::to_string(i));
         }
@@ -90,7 +89,7 @@ class IndexFolder {
         write("elem.ttl", *formats::encodeTitleList(entries));
     }
 
-    fs::path m_root;
+    fs::path root_;
 };
 
 /// The file mapped into memory and touched once.
@@ -100,21 +99,21 @@ class MappedFile {
         const int file = ::open(path.c_str(), O_RDONLY);
         struct stat status {};
         ::fstat(file, &status);
-        m_size = static_cast<std::size_t>(status.st_size);
-        void* const mapped = ::mmap(nullptr, m_size, PROT_READ, MAP_SHARED | MAP_POPULATE, file, 0);
+        size_ = static_cast<std::size_t>(status.st_size);
+        void* const mapped = ::mmap(nullptr, size_, PROT_READ, MAP_SHARED | MAP_POPULATE, file, 0);
         ::close(file);
-        m_bytes = mapped == MAP_FAILED ? nullptr : static_cast<const char*>(mapped);
+        bytes_ = mapped == MAP_FAILED ? nullptr : static_cast<const char*>(mapped);
     }
-    ~MappedFile() { ::munmap(const_cast<char*>(m_bytes), m_size); }
+    ~MappedFile() { ::munmap(const_cast<char*>(bytes_), size_); }
     MappedFile(const MappedFile&) = delete;
     MappedFile& operator=(const MappedFile&) = delete;
 
-    const char* bytes() const { return m_bytes; }
-    std::size_t size() const { return m_size; }
+    const char* bytes() const { return bytes_; }
+    std::size_t size() const { return size_; }
 
   private:
-    const char* m_bytes = nullptr;
-    std::size_t m_size = 0;
+    const char* bytes_ = nullptr;
+    std::size_t size_ = 0;
 };
 
 /// The scan as plain C: the word and its NUL compared at the start of each record.
@@ -142,15 +141,15 @@ void check(benchmark::State& state, std::size_t found, std::size_t expected) {
     if (found != expected) state.SkipWithError("not all occurrences were found");
 }
 
-constexpr std::size_t kHitsOfAll = (kRecords + kRecordsPerHit - 1) / kRecordsPerHit;
-constexpr std::size_t kHitsOfOne = (kHitsOfAll + kForms - 1) / kForms;
+constexpr std::size_t hitsOfAll = (recordCount + recordsPerHit - 1) / recordsPerHit;
+constexpr std::size_t hitsOfOne = (hitsOfAll + formCount - 1) / formCount;
 
 void MappedScanInPlainC(benchmark::State& state) {
     const MappedFile file(IndexFolder::instance().file("words.dat"));
     const std::string word = formOf(0);
     int found = 0;
     for (auto _ : state) found = countPlainly(file.bytes(), file.size(), word.c_str());
-    check(state, static_cast<std::size_t>(found), kHitsOfOne);
+    check(state, static_cast<std::size_t>(found), hitsOfOne);
 }
 BENCHMARK(MappedScanInPlainC)->Unit(benchmark::kMillisecond);
 
@@ -160,7 +159,7 @@ void FreadRecordByRecord(benchmark::State& state) {
     const std::string word = formOf(0);
     int found = 0;
     for (auto _ : state) found = countByFread(file.get(), word.c_str());
-    check(state, static_cast<std::size_t>(found), kHitsOfOne);
+    check(state, static_cast<std::size_t>(found), hitsOfOne);
 }
 BENCHMARK(FreadRecordByRecord)->Unit(benchmark::kMillisecond);
 
@@ -171,7 +170,7 @@ void OneLookUp(benchmark::State& state) {
         index.ResetHits();
         index.CollectHits(formOf(0));
     }
-    check(state, index.HitCount(), kHitsOfOne);
+    check(state, index.HitCount(), hitsOfOne);
 }
 BENCHMARK(OneLookUp)->Unit(benchmark::kMillisecond);
 
@@ -190,7 +189,7 @@ void SearchWithForms(benchmark::State& state) {
     check(state, rows, index.HitCount());
     state.counters["rows"] = static_cast<double>(rows);
 }
-BENCHMARK(SearchWithForms)->Unit(benchmark::kMillisecond)->Arg(1)->Arg(5)->Arg(kForms);
+BENCHMARK(SearchWithForms)->Unit(benchmark::kMillisecond)->Arg(1)->Arg(5)->Arg(formCount);
 
 /// The titles and rows of 400 hits alone: all occurrences of one word at the beginning of the file.
 void FourHundredHitsIntoRows(benchmark::State& state) {
@@ -199,11 +198,11 @@ void FourHundredHitsIntoRows(benchmark::State& state) {
     for (auto _ : state) {
         kalyxo::HitTitles titles(files, "D:\\");
         kalyxo::ResultRows folded;
-        for (std::int32_t i = 0; i < kPages; ++i)
+        for (std::int32_t i = 0; i < pageCount; ++i)
             folded.Add(titles.MakeHitTexts({i, 10'001 + i, 2}), static_cast<std::size_t>(i));
         rows = folded.Rows().size();
     }
-    check(state, rows, kPages);
+    check(state, rows, pageCount);
 }
 BENCHMARK(FourHundredHitsIntoRows)->Unit(benchmark::kMillisecond);
 

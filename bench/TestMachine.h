@@ -18,20 +18,20 @@ class TestMachine {
   public:
     /// `name` tells it from others of the process.
     explicit TestMachine(const std::string& name, const std::string& disc = kContent)
-        : m_folder(std::filesystem::temp_directory_path() /
-                   ("kalyxo-bench-" + name + std::to_string(::getpid()))) {
-        ChildProcess maker({kBin + "/kalyxo-drive", "--new-machine", m_folder, "--data", disc});
+        : folder_(std::filesystem::temp_directory_path() /
+                  ("kalyxo-bench-" + name + std::to_string(::getpid()))) {
+        ChildProcess maker({kBin + "/kalyxo-drive", "--new-machine", folder_, "--data", disc});
         maker.readLine();
     }
-    ~TestMachine() { std::filesystem::remove_all(m_folder); }
+    ~TestMachine() { std::filesystem::remove_all(folder_); }
     TestMachine(const TestMachine&) = delete;
     TestMachine& operator=(const TestMachine&) = delete;
 
-    std::string folder() const { return m_folder; }
-    std::vector<std::string> driver() const { return {kBin + "/kalyxo-drive", "--machine", m_folder}; }
+    std::string folder() const { return folder_; }
+    std::vector<std::string> driver() const { return {kBin + "/kalyxo-drive", "--machine", folder_}; }
 
   private:
-    std::filesystem::path m_folder;
+    std::filesystem::path folder_;
 };
 
 }  // namespace bench

@@ -15,10 +15,10 @@ using formats::decodeBrowseIndex;
 using formats::encodeBrowseIndex;
 
 // Offsets in the image of `sampleIndex`.
-constexpr std::size_t kSections = 20;
-constexpr std::size_t kTopics = kSections + 2 * 8;
-constexpr std::size_t kEntries = kTopics + 3 * 16;
-constexpr std::size_t kTexts = kEntries + 2 * 8;
+constexpr std::size_t sectionsAt = 20;
+constexpr std::size_t topicsAt = sectionsAt + 2 * 8;
+constexpr std::size_t entriesAt = topicsAt + 3 * 16;
+constexpr std::size_t textsAt = entriesAt + 2 * 8;
 
 formats::BrowseIndex sampleIndex() {
     return {{{6,
@@ -39,8 +39,8 @@ std::string damaged(std::size_t offset, T value) {
 
 /// The image of the sample with the texts before the last one run together with it.
 std::string withoutFirstTitleEnds() {
-    constexpr std::size_t kBeforeLast = 25;
-    return encodeBrowseIndex(sampleIndex())->replace(kTexts, kBeforeLast, kBeforeLast, 'x');
+    constexpr std::size_t beforeLast = 25;
+    return encodeBrowseIndex(sampleIndex())->replace(textsAt, beforeLast, beforeLast, 'x');
 }
 
 TEST(BrowseIndex, ComesBackAsWritten) {
@@ -53,12 +53,12 @@ TEST(BrowseIndex, ComesBackAsWritten) {
 
 TEST(BrowseIndex, HasItsBlocksWhereTheDescriptionSays) {
     const std::string image = *encodeBrowseIndex(sampleIndex());
-    EXPECT_EQ(image.substr(0, kSections),
-              "KSEL\x01\0\x02\0\x03\0\0\0\x02\0\0\0"s + static_cast<char>(image.size() - kTexts) + "\0\0\0"s);
-    EXPECT_EQ(image.substr(kSections, 8), "\x06\0\0\0\x02\0\0\0"s);
-    EXPECT_EQ(image.substr(kTopics + 16, 16), "\x9A\x41\x06\0\x9A\x41\x06\0\x09\0\0\0\x02\0\0\0"s);
-    EXPECT_EQ(image.substr(kEntries, 8), "\x11\x27\0\0\x0F\0\0\0"s);
-    EXPECT_EQ(image.substr(kTexts + 9, 6), "Gases\0"s);
+    EXPECT_EQ(image.substr(0, sectionsAt), "KSEL\x01\0\x02\0\x03\0\0\0\x02\0\0\0"s +
+                                               static_cast<char>(image.size() - textsAt) + "\0\0\0"s);
+    EXPECT_EQ(image.substr(sectionsAt, 8), "\x06\0\0\0\x02\0\0\0"s);
+    EXPECT_EQ(image.substr(topicsAt + 16, 16), "\x9A\x41\x06\0\x9A\x41\x06\0\x09\0\0\0\x02\0\0\0"s);
+    EXPECT_EQ(image.substr(entriesAt, 8), "\x11\x27\0\0\x0F\0\0\0"s);
+    EXPECT_EQ(image.substr(textsAt + 9, 6), "Gases\0"s);
 }
 
 TEST(BrowseIndex, FindsTopicsAndEntries) {
@@ -93,20 +93,20 @@ TEST(BrowseIndex, DamageIsRefused) {
         {"huge topic count", damaged<std::uint32_t>(8, 0xFFFFFFFF)},
         {"entry count for topic count", damaged<std::uint32_t>(12, 0)},
         {"huge text size", damaged<std::uint32_t>(16, 0xFFFFFFFF)},
-        {"unknown section", damaged<std::int16_t>(kSections, 8)},
-        {"section twice", damaged<std::int16_t>(kSections, 2)},
-        {"more topics than there are", damaged<std::uint32_t>(kSections + 4, 4)},
-        {"huge number of topics", damaged<std::uint32_t>(kSections + 4, 0x10000001)},
-        {"topics left over", damaged<std::uint32_t>(kSections + 4, 1)},
-        {"page id 0", damaged<std::int32_t>(kTopics, 0)},
-        {"page number out of range", damaged<std::int32_t>(kTopics + 4, 1000000)},
-        {"title behind the texts", damaged<std::uint32_t>(kTopics + 8, 200)},
-        {"title far behind the texts", damaged<std::uint32_t>(kTopics + 8, 0xFFFFFFFF)},
-        {"more entries than there are", damaged<std::uint32_t>(kTopics + 12, 3)},
-        {"huge number of entries", damaged<std::uint32_t>(kTopics + 12, 0x20000001)},
-        {"entries left over", damaged<std::uint32_t>(kTopics + 16 + 12, 1)},
-        {"negative item code", damaged<std::int32_t>(kEntries, -10001)},
-        {"entry title behind the texts", damaged<std::uint32_t>(kEntries + 4, 1000)},
+        {"unknown section", damaged<std::int16_t>(sectionsAt, 8)},
+        {"section twice", damaged<std::int16_t>(sectionsAt, 2)},
+        {"more topics than there are", damaged<std::uint32_t>(sectionsAt + 4, 4)},
+        {"huge number of topics", damaged<std::uint32_t>(sectionsAt + 4, 0x10000001)},
+        {"topics left over", damaged<std::uint32_t>(sectionsAt + 4, 1)},
+        {"page id 0", damaged<std::int32_t>(topicsAt, 0)},
+        {"page number out of range", damaged<std::int32_t>(topicsAt + 4, 1000000)},
+        {"title behind the texts", damaged<std::uint32_t>(topicsAt + 8, 200)},
+        {"title far behind the texts", damaged<std::uint32_t>(topicsAt + 8, 0xFFFFFFFF)},
+        {"more entries than there are", damaged<std::uint32_t>(topicsAt + 12, 3)},
+        {"huge number of entries", damaged<std::uint32_t>(topicsAt + 12, 0x20000001)},
+        {"entries left over", damaged<std::uint32_t>(topicsAt + 16 + 12, 1)},
+        {"negative item code", damaged<std::int32_t>(entriesAt, -10001)},
+        {"entry title behind the texts", damaged<std::uint32_t>(entriesAt + 4, 1000)},
         {"title too long", withoutFirstTitleEnds()},
         {"last title without NUL", damaged<std::uint8_t>(encodeBrowseIndex(sampleIndex())->size() - 1, 'x')},
     };
