@@ -80,7 +80,7 @@ TEST_F(ConvertedVideo, WaitsGoesOnFromAnyPlaceAndEnds) {
 TEST_F(ConvertedVideo, LeavesNothingBehind) {
     const QStringList before = QDir::temp().entryList();
     openFilm("mpeg1.mpg", "AUTOPLAY=TRUE");
-    EXPECT_TRUE(runUntil([&] { return text() == "0:01"; }));
+    EXPECT_TRUE(runUntil([&] { return text() >= "0:01" && text() <= "0:06"; }));
     open("about:blank");
     EXPECT_TRUE(runUntil([] { return children("ffmpeg") + children("ffprobe") == 0; }));
     for (const QString& name : QDir::temp().entryList()) {
