@@ -28,7 +28,32 @@ constexpr std::array<GroupColors, familyCount> colors{{
     {{0xCD, 0xD4, 0xF4}, {0x4C, 0x5F, 0xBE}},
 }};
 
+struct NamedColor {
+    const char* name;
+    QColor color;
+};
+
+// Colours that style sheets name. No name is the beginning of another.
+constexpr std::array<NamedColor, 12> namedColors{{{"@paper", paper},
+                                                  {"@ground", ground},
+                                                  {"@text", text},
+                                                  {"@muted", muted},
+                                                  {"@line", line},
+                                                  {"@deep", deep},
+                                                  {"@accent", accent},
+                                                  {"@warm", warm},
+                                                  {"@selected", selected},
+                                                  {"@frame", frame},
+                                                  {"@disabled", disabled},
+                                                  {"@handle", handle}}};
+
 }  // namespace
+
+QString withColors(const char* styleSheet) {
+    QString sheet = QString::fromLatin1(styleSheet);
+    for (const auto& [name, color] : namedColors) sheet.replace(QLatin1String(name), color.name());
+    return sheet;
+}
 
 GroupColors familyColors(Family family) { return colors[static_cast<std::size_t>(family)]; }
 

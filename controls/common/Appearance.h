@@ -20,6 +20,12 @@ inline constexpr QColor accent{0x3A, 0x7A, 0xA0};
 inline constexpr QColor warm{0xE0, 0xA0, 0x30};
 inline constexpr QColor stripe{0xF1, 0xF6, 0xFA};
 inline constexpr QColor selected{0xD3, 0xE5, 0xF0};
+inline constexpr QColor frame{0xA9, 0xBF, 0xCD};
+inline constexpr QColor disabled{0x9A, 0xA7, 0xB4};
+inline constexpr QColor handle{0xB5, 0xC8, 0xD4};
+
+/// A style sheet in which the names of these colours, such as `@deep`, are replaced by the colours.
+QString withColors(const char* styleSheet);
 
 /// The two colours of a group of elements or rows. `fill` is light enough for dark text; `edge` is a strong
 /// colour of the same hue.

@@ -45,7 +45,7 @@ void AnalyserPane::showEvent(QShowEvent* event) {
 
 void AnalyserPane::build() {
     setFont(appearance::font(12));
-    setStyleSheet(QString::fromUtf8(styleRules));
+    setStyleSheet(appearance::withColors(styleRules));
     dataStrip_ = new DataStrip(analyser_, this);
     graphStrip_ = new GraphStrip(
         analyser_, [this](double factor) { graph_ ? graph_->zoom(factor) : void(); }, this);

@@ -14,20 +14,20 @@ constexpr std::array<QColor, 7> accents = {
     QColor(0x85, 0x5A, 0x0C), QColor(0x0C, 0x72, 0x7B), QColor(0xAB, 0x35, 0x57)};
 
 constexpr const char* rules = R"(
-#selectPane { background: #ffffff; }
-#sectionName { background: #ffffff; padding: 10px 8px 7px 8px; font-size: 15px; font-weight: bold; }
-#emptyNote { background: #ffffff; color: #526070; padding: 14px 8px; }
-#filterField { background: #ffffff; color: #1c2733; border: 1px solid #a9bfcd; border-radius: 5px;
-               padding: 4px 3px 4px 4px; selection-background-color: #3a7aa0; selection-color: #ffffff; }
-#filterField:hover { border-color: #3a7aa0; }
-#filterField:focus { border: 2px solid #3a7aa0; padding: 3px 2px 3px 3px; }
-#topicView { background: #ffffff; border: none; outline: none; }
-QScrollBar:vertical { background: #ffffff; width: 9px; margin: 0; border: none; }
-QScrollBar::handle:vertical { background: #b5c8d4; min-height: 28px; border-radius: 3px; margin: 1px 2px; }
-QScrollBar::handle:vertical:hover { background: #3a7aa0; }
+#selectPane { background: @paper; }
+#sectionName { background: @paper; padding: 10px 8px 7px 8px; font-size: 15px; font-weight: bold; }
+#emptyNote { background: @paper; color: @muted; padding: 14px 8px; }
+#filterField { background: @paper; color: @text; border: 1px solid @frame; border-radius: 5px;
+               padding: 4px 3px 4px 4px; selection-background-color: @accent; selection-color: @paper; }
+#filterField:hover { border-color: @accent; }
+#filterField:focus { border: 2px solid @accent; padding: 3px 2px 3px 3px; }
+#topicView { background: @paper; border: none; outline: none; }
+QScrollBar:vertical { background: @paper; width: 9px; margin: 0; border: none; }
+QScrollBar::handle:vertical { background: @handle; min-height: 28px; border-radius: 3px; margin: 1px 2px; }
+QScrollBar::handle:vertical:hover { background: @accent; }
 QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical { height: 0; border: none; }
-QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: #ffffff; }
-QToolTip { background: #1f4e6b; color: #ffffff; border: 1px solid #1f4e6b; padding: 4px;
+QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: @paper; }
+QToolTip { background: @deep; color: @paper; border: 1px solid @deep; padding: 4px;
            font-family: "Liberation Sans"; font-size: 13px; }
 )";
 
@@ -51,6 +51,6 @@ QPalette palette() {
     return palette;
 }
 
-QString styleSheet() { return QString::fromLatin1(rules); }
+QString styleSheet() { return controls::appearance::withColors(rules); }
 
 }  // namespace controls::select::appearance
