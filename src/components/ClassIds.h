@@ -4,7 +4,7 @@
 
 namespace kalyxo {
 
-/// Class ids of the components, without braces; each component carries the same.
+/// Class ids of the components, without braces. Each component's own source states the same id.
 inline constexpr std::string_view kPeriodTableClass = "5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E101";
 inline constexpr std::string_view kSelectClass = "5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E102";
 inline constexpr std::string_view kDataAnalClass = "5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E103";
@@ -13,19 +13,19 @@ inline constexpr std::string_view kKzZoomClass = "5B0C1E52-6C1A-4B0E-9F57-2D7A51
 /// The web browser's published class id.
 inline constexpr std::string_view kWebBrowserClass = "EAB22AC3-30C1-11CF-A7EB-0000C05BAE0B";
 
-/// Class ids that content pages carry for molecule controller and molecule zoom; page preparation puts the
-/// components' own in their place.
+/// Class ids of molecule controller and molecule zoom in content pages. Page preparation replaces them by
+/// those of the components.
 inline constexpr std::string_view kPageMolCtrlClass = "5B0C1E52-6C1A-4B0E-9F57-2D7A51C3A104";
 inline constexpr std::string_view kPageKzZoomClass = "5B0C1E52-6C1A-4B0E-9F57-2D7A51C3A105";
 
-/// Files of the components in the ActiveX folder.
+/// File names of the components in the ActiveX folder.
 inline constexpr std::string_view kPeriodTableFile = "kyptgk.ocx";
 inline constexpr std::string_view kSelectFile = "kzselectgk.ocx";
 inline constexpr std::string_view kDataAnalFile = "kzdataangk.ocx";
 inline constexpr std::string_view kMolCtrlFile = "kymolgk.ocx";
 inline constexpr std::string_view kKzZoomFile = "kzzoomgk.ocx";
 
-/// Numbers by which browse selection and data analyser know their host.
+/// Host codes that browse selection and data analyser are initialised with.
 inline constexpr short kSelectHostCode = 1102;
 inline constexpr int kDataAnalHostCode = 1103;
 

@@ -6,7 +6,7 @@
 
 namespace kalyxo {
 
-/// Gives a wrapper class its class id, its name and the Create call that makes the control.
+/// Base of the classes that call a component. `Wrapper` states the component's class id and its own name.
 template <class Wrapper>
 class Component : public platform::CWnd {
   public:
@@ -14,9 +14,8 @@ class Component : public platform::CWnd {
         static constexpr platform::CRuntimeClass runtimeClass{Wrapper::kName};
         return runtimeClass;
     }
-    static constexpr std::string_view GetClsid() { return Wrapper::kClass; }
 
-    /// Makes the control's window in `parent`; false when the class cannot be created.
+    /// Creates the component in a window of its own in `parent`; false when the class cannot be created.
     bool Create(std::string_view windowName, platform::DWORD style, const platform::CRect& rect,
                 platform::CWnd& parent, platform::UINT id) {
         return CreateControl(Wrapper::kClass, windowName, style, rect, parent, id);

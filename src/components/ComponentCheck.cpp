@@ -12,13 +12,13 @@ namespace kalyxo {
 
 namespace {
 
-/// Longest path that is read from a registration, with its NUL.
-constexpr std::size_t kLongestPath = 256;
+/// The longest path that is read from a registration, with its NUL.
+constexpr std::size_t kMaxPath = 256;
 
-/// Other libraries in use keep the former file open under this name.
+/// A replaced library is renamed to end like this, because running programs may have it open.
 constexpr std::string_view kReplacedSuffix = ".klyx";
 
-/// The library whose replacement needs a new start, and those whose does not.
+/// The library whose replacement needs a new start of the program, and those whose replacement does not.
 constexpr std::string_view kFrameworkLibrary = "mfc42.dll";
 constexpr std::array<std::string_view, 3> kOtherLibraries = {"msvcrt.dll", "olepro32.dll", "oleaut32.dll"};
 
@@ -39,7 +39,7 @@ std::string suppliedFile(std::string_view programFolder, std::string_view name) 
 std::optional<std::string> registeredPath(platform::Machine& machine, std::string_view classId) {
     const std::string path = "CLSID\\{" + std::string(classId) + "}\\InprocServer32";
     const auto key = machine.registry().openKey(platform::HKEY_CLASSES_ROOT, path);
-    return key ? key->queryString("", kLongestPath) : std::nullopt;
+    return key ? key->queryString("", kMaxPath) : std::nullopt;
 }
 
 }  // namespace
@@ -70,7 +70,7 @@ void ComponentCheck::UpdateSystemLibrary(std::string_view name) {
     const std::string supplied = suppliedFile(m_programFolder, name);
     if (GetFileVersionNumbers(m_machine, name) >= GetFileVersionNumbers(m_machine, supplied)) return;
     const std::string target = m_machine.systemFolder().append("\\").append(name);
-    // Neither failure is told: the next start tries again.
+    // The user is not told of a failure here; the next start tries again.
     m_machine.files().moveFile(target, target + std::string(kReplacedSuffix));
     m_machine.files().copyFile(supplied, target);
     RegisterComponentFile(m_programFolder, target, true);
@@ -80,19 +80,20 @@ void ComponentCheck::UpdateSystemLibrary(std::string_view name) {
 void ComponentCheck::CheckComponentFile(std::string_view file, std::string_view classId) {
     const std::optional<std::string> registered = registeredPath(m_machine, classId);
     if (!registered) {
-        // Never registered on this machine: done without a word, and the component can be made at once.
+        // A component that was never registered is registered silently; the program need not be started
+        // again.
         RegisterComponentFile(m_programFolder, file);
         return;
     }
     const FileVersionNumbers installed = GetFileVersionNumbers(m_machine, *registered);
     if (installed >= GetFileVersionNumbers(m_machine, suppliedFile(m_programFolder, file))) return;
-    if (installed.most != 0 && userKeepsOlder()) return;
+    if (installed.high != 0 && userKeepsOlder()) return;
     m_nReplaceDecision = ReplaceDecision::yes;
     RegisterComponentFile(m_programFolder, file);
     m_bComponentsRegistered = true;
 }
 
-/// Asks once; any later older component goes by the first answer.
+/// Asks the user once. The answer counts for all older components.
 bool ComponentCheck::userKeepsOlder() {
     if (m_nReplaceDecision != ReplaceDecision::notAsked || m_replaceOlder()) return false;
     m_nReplaceDecision = ReplaceDecision::no;

@@ -11,12 +11,12 @@ class Machine;
 
 namespace kalyxo {
 
-/// Registers a component file: with `fullPath` the file of that path, else the one of that name in the
-/// program folder's ActiveX folder. A file that does not load is passed over.
+/// Registers a component file. `file` is a whole path with `fullPath`, else a name in the program's ActiveX
+/// folder. A file that does not load is ignored.
 void RegisterComponentFile(std::string_view programFolder, std::string_view file, bool fullPath = false);
 
-/// The check of a program that runs outside its installed folder: libraries and components of the machine
-/// that are older than the copies in the program's ActiveX folder are replaced by those.
+/// The check of a program that runs outside its installed folder. It replaces libraries and components of the
+/// machine that are older than the copies in the program's ActiveX folder.
 class ComponentCheck {
   public:
     /// Asks the user whether older components are to be replaced.
@@ -25,8 +25,8 @@ class ComponentCheck {
     /// How the check ended.
     enum class Result {
         upToDate,
-        refused,    ///< the user keeps an older component; the start cannot go on
-        registered  ///< something was replaced or registered anew; the program has to be started again
+        refused,    ///< the user keeps an older component, and the start cannot go on
+        registered  ///< something was replaced or registered, and the program must be started again
     };
 
     ComponentCheck(platform::Machine& machine, std::string programFolder, Question replaceOlder)
@@ -40,10 +40,10 @@ class ComponentCheck {
     enum class ReplaceDecision { notAsked = 0, yes = 1, no = 2 };
 
     void updateSystemLibraries();
-    /// Replaces a library of the system folder that is older than the supplied copy; the former file stays
+    /// Replaces a library of the system folder that is older than the supplied copy. The former file is kept
     /// under another name.
     void UpdateSystemLibrary(std::string_view name);
-    /// Registers the supplied copy of a component that is not registered or registered in an older version.
+    /// Registers the supplied copy of a component when none, or an older version, is registered.
     void CheckComponentFile(std::string_view file, std::string_view classId);
     bool userKeepsOlder();
 

@@ -17,11 +17,11 @@ class CDataAnal : public Component<CDataAnal> {
     static constexpr std::string_view kClass = kDataAnalClass;
 
     std::string Version() { return Get<std::string>(1); }
-    /// 0 = the table is shown, otherwise a graph.
+    /// 0 when the table is shown, else a graph is.
     std::int16_t GetViewMode() { return Get<std::int16_t>(2); }
     void SetViewMode(std::int16_t mode) { Put(2, mode); }
 
-    /// @name The state that a bookmark carries; its meaning is the component's business.
+    /// @name The state that a bookmark keeps. Only the component knows what its values mean.
     /// @{
     std::int16_t GetOption3() { return Get<std::int16_t>(3); }
     void SetOption3(std::int16_t value) { Put(3, value); }
@@ -35,25 +35,25 @@ class CDataAnal : public Component<CDataAnal> {
     void SetOption7(std::int16_t value) { Put(7, value); }
     std::int32_t GetValue8() { return Get<std::int32_t>(8); }
     std::int16_t GetValue9() { return Get<std::int16_t>(9); }
-    /// Location of a block of `GetValue8` bytes.
+    /// The location of a block of `GetValue8` bytes.
     std::int32_t GetValue11() { return Method<std::int32_t>(17); }
     void SetValues(std::int32_t value8, std::int16_t value9, std::int32_t value11) {
         Method<void>(18, value8, value9, value11);
     }
     std::int16_t GetMode() { return Method<std::int16_t>(13); }
     void SetMode(std::int16_t mode) { Method<void>(15, mode); }
-    /// Location of a block of words, the first of which counts them all; there is an entry for each other.
+    /// The location of a block of words. The first word is their number; each other word stands for an entry.
     std::int32_t GetEntryCountRef() { return Method<std::int32_t>(14); }
     void SetEntryCountRef(std::int32_t location) { Method<void>(16, location); }
     std::int32_t GetEntry(std::int16_t index) { return Method<std::int32_t>(21, index); }
     void SetEntry(std::int16_t index, std::int32_t value) { Method<void>(20, index, value); }
-    /// The bytes at a location that the component gave, valid until its next call.
+    /// The bytes at a location of the component, valid until the next call.
     std::span<const std::byte> Block(std::int32_t location) const { return ComponentBlock(location); }
-    /// Gives the component a block, and the location to name it by; two are kept at a time.
+    /// Gives the component a block of bytes to keep and returns its location. It keeps the last two.
     std::int32_t KeepBlock(std::span<const std::byte> bytes) { return KeepComponentBlock(bytes); }
     /// @}
 
-    /// Once, right after creation.
+    /// To be called once, right after creation.
     void Initialise(std::int32_t hostCode, const std::string& dataFolder) {
         Method<void>(10, hostCode, dataFolder);
     }

@@ -13,13 +13,13 @@ class FileSystem;
 
 namespace kalyxo {
 
-/// Leads from an element of the periodic table to its page.
+/// The index of the elements' pages.
 class ElementIndex {
   public:
-    /// Reads the index of the data folder; false, with the index as it was, when there is none.
+    /// Reads the index of the data folder. False when there is none; the index then stays as it was.
     bool Load(const platform::FileSystem& files, std::string_view dataFolder);
 
-    /// The page id of the first record with this key; nothing for a key without record.
+    /// The page id of the first record with this key, nothing when there is none.
     std::optional<std::int32_t> PageOf(std::int16_t elementKey) const;
 
   private:

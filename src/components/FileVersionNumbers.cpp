@@ -16,7 +16,7 @@ constexpr std::size_t kParts = 4;
 
 bool isBlank(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
-/// Blanks, a sign, digits; the number modulo 65536. Unsigned arithmetic keeps that through any length.
+/// Reads blanks, a sign and digits: the number modulo 65536, for any number of digits.
 std::uint32_t partNumber(std::string_view text) {
     while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
     const bool negative = text.starts_with('-');

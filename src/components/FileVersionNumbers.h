@@ -10,22 +10,22 @@ class Machine;
 
 namespace kalyxo {
 
-/// A file version as two numbers that compare like it.
+/// A file version as two numbers, which are compared in order.
 struct FileVersionNumbers {
-    std::uint32_t most = 0;   ///< first part × 65536 + second
-    std::uint32_t least = 0;  ///< third part × 65536 + fourth
+    std::uint32_t high = 0;  ///< first part × 65536 + second
+    std::uint32_t low = 0;   ///< third part × 65536 + fourth
 
     // NOLINTNEXTLINE(modernize-use-nullptr): taken for a null pointer
     friend auto operator<=>(const FileVersionNumbers&, const FileVersionNumbers&) = default;
 };
 
-/// The numbers of a version text such as "1.0.40.0" or "1,0,40,0". Each part counts modulo 65536 and is read
-/// up to its first other character than a digit. A text without a stop gives 0.0, one of less than four parts
-/// leaves `least` at 0.
+/// The numbers of a version text such as "1.0.40.0" or "1,0,40,0". Each part ends before its first character
+/// that is no digit, and counts modulo 65536. A text without a full stop gives zeros; with fewer than four
+/// parts `low` is 0.
 FileVersionNumbers ParseFileVersion(std::string_view text);
 
-/// The version that a file carries, 0.0 when it is missing or carries none. A bare file name stands for the
-/// library in use, as the machine finds it.
+/// The version of a file, zeros when it is missing or has none. A file name without a folder stands for the
+/// library that the machine would load.
 FileVersionNumbers GetFileVersionNumbers(platform::Machine& machine, std::string_view path);
 
 }  // namespace kalyxo

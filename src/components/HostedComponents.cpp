@@ -19,12 +19,12 @@ using platform::WS_VISIBLE;
 
 namespace {
 
-/// What creating one component takes.
+/// Creates components in a view.
 struct Creation {
     CWnd& view;
     const std::string& programFolder;
 
-    /// Two tries, the second after registering the file.
+    /// Tries twice, the second time after registering the component's file.
     template <class Wrapper>
     bool create(Wrapper& wrapper, std::string_view windowName, UINT id, std::string_view file) const {
         const CRect client = view.GetClientRect();
@@ -34,7 +34,7 @@ struct Creation {
     }
 };
 
-/// The browser starts out of sight to the left of the client area.
+/// The browser's first place: out of sight, to the left of the client area.
 CRect browserParkedIn(const CWnd& view) { return {-800, 0, -500, view.GetClientRect().Height()}; }
 
 struct RequiredVersion {

@@ -13,19 +13,19 @@
 
 namespace kalyxo {
 
-/// The browse selection's windows that the program has to do with.
+/// The windows of the browse selection that the program uses.
 struct SelectWindows {
     platform::HWND edit = 0;    ///< its text field
-    platform::HWND target = 0;  ///< takes the notice of Enter in it
+    platform::HWND target = 0;  ///< the notice of an Enter key in the text field goes to it
 };
 
-/// Where the components find their content, and who hosts them.
+/// The folders that the components need.
 struct ComponentSurroundings {
     std::string programFolder;  ///< no trailing backslash; its ActiveX folder holds the component files
     std::string dataFolder;
 };
 
-/// The components that the view keeps for the whole run.
+/// The components that the view keeps while the program runs.
 class HostedComponents {
   public:
     /// Creates them hidden in `view`, in their order, and readies them. A component that cannot be created is
@@ -40,8 +40,8 @@ class HostedComponents {
     CWebBrowser browser;
 };
 
-/// Components whose reported version sorts before the one that the program needs, byte by byte: their keys in
-/// the order in which the user is told.
+/// The keys of the components whose version is too old, in the order in which the user is told. Versions are
+/// compared as texts, byte by byte.
 std::vector<std::string_view> OutdatedComponents(const ComponentVersions& versions);
 
 }  // namespace kalyxo

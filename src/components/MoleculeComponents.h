@@ -7,7 +7,7 @@
 
 namespace kalyxo {
 
-/// The molecule controller; made by the program only to read its version.
+/// The molecule controller. The program creates it only to read its version.
 class CMolCtrl : public Component<CMolCtrl> {
   public:
     static constexpr std::string_view kName = "CMolCtrl";
@@ -16,7 +16,7 @@ class CMolCtrl : public Component<CMolCtrl> {
     std::string Version() { return Get<std::string>(1); }
 };
 
-/// The molecule zoom; made by the program only to read its version.
+/// The molecule zoom. The program creates it only to read its version.
 class CKzZoom : public Component<CKzZoom> {
   public:
     static constexpr std::string_view kName = "CKzZoom";

@@ -9,10 +9,10 @@ using platform::PALETTEENTRY;
 
 namespace {
 
-/// A colour as it stands in the table: blue, green, red, and a byte that is not used.
+/// Bytes of a colour in the table: blue, green, red, and one that is not used.
 constexpr std::size_t kStoredColour = 4;
-/// The deepest pictures whose pixels are numbers of colours.
-constexpr int kDeepestIndexed = 8;
+/// Up to this many bits, a pixel is an index into the colour table.
+constexpr int kMaxIndexedBits = 8;
 
 PALETTEENTRY entryAt(std::span<const std::byte> table, std::size_t index) {
     const auto part = [&](std::size_t offset) {
@@ -25,7 +25,7 @@ PALETTEENTRY entryAt(std::span<const std::byte> table, std::size_t index) {
 
 std::uint32_t ColourCount(const BITMAPINFOHEADER& header) {
     if (header.biClrUsed != 0) return header.biClrUsed;
-    return header.biBitCount <= kDeepestIndexed ? 1U << header.biBitCount : 0;
+    return header.biBitCount <= kMaxIndexedBits ? 1U << header.biBitCount : 0;
 }
 
 std::optional<std::vector<PALETTEENTRY>> CreatePaletteFromHeader(std::span<const std::byte> bitmap,

@@ -22,7 +22,7 @@ std::vector<CRect> FlightPath(const CRect& start, const CRect& end) {
     const int count = frameCount(end.left - start.left, end.top - start.top);
     std::vector<CRect> frames;
     for (int k = 0; k < count; ++k) {
-        // Each step is cut to whole pixels before it is repeated.
+        // A step is rounded down to whole pixels first and then multiplied.
         const auto at = [&](int from, int to) { return from + k * ((to - from) / count); };
         frames.push_back(CRect::at(at(start.left, end.left), at(start.top, end.top),
                                    at(start.Width(), end.Width()), at(start.Height(), end.Height())));

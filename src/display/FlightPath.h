@@ -6,8 +6,8 @@
 
 namespace kalyxo {
 
-/// The rectangles through which one turns into another: one for each 40 pixels between their corners, the
-/// first of them `start`; `end` itself is not among them.
+/// The rectangles of an animation that turns one rectangle into another: one for each 40 pixels between their
+/// corners. The first is `start`; `end` is not among them.
 std::vector<platform::CRect> FlightPath(const platform::CRect& start, const platform::CRect& end);
 
 /// Whether two rectangles have a pixel in common.

@@ -4,7 +4,7 @@
 
 namespace kalyxo {
 
-/// The colours in which bars, buttons and boxes are edged.
+/// The colours of the edges of bars, buttons and boxes.
 inline constexpr platform::COLORREF kWhite = platform::RGB(255, 255, 255);
 inline constexpr platform::COLORREF kLightGrey = platform::RGB(192, 192, 192);
 inline constexpr platform::COLORREF kDarkGrey = platform::RGB(128, 128, 128);

@@ -17,7 +17,7 @@ using platform::BITMAPINFOHEADER;
 
 namespace {
 
-/// Pixels to a coordinate in the sharper of two files.
+/// Pixels for each coordinate in the sharper of two files.
 constexpr int kSharpScale = 2;
 
 /// A picture of 8192 × 8192 pixels; larger ones are refused before they are read.
@@ -33,13 +33,18 @@ bool readAt(const BinaryFile& file, std::uint64_t offset, T& value) {
     return file.readAt(offset, std::as_writable_bytes(std::span(&value, 1))) == sizeof(T);
 }
 
-/// Bytes of the pixel block, or nothing when the picture is of a kind that is not drawn or the file is too
-/// short for it.
+/// The length of a row in bytes: three for each pixel, rounded up to a multiple of 4.
+constexpr std::uint64_t rowBytes(std::int32_t width) {
+    return (static_cast<std::uint64_t>(width) * 3 + 3) / 4 * 4;
+}
+
+/// The size of the pixels in bytes. Nothing when the kind of picture is not supported or the file is too
+/// short.
 std::optional<std::uint64_t> pixelBytes(const BITMAPINFOHEADER& header, std::uint64_t available) {
     if (header.biBitCount != 24 || header.biCompression != 0) return std::nullopt;
     if (header.biWidth <= 0 || header.biHeight <= 0) return std::nullopt;
-    // Both factors stay below 2^33, so the comparison is made by division, where nothing can overflow.
-    const std::uint64_t stride = PictureStride(static_cast<std::uint32_t>(header.biWidth));
+    // A product of the two could overflow, a division cannot.
+    const std::uint64_t stride = rowBytes(header.biWidth);
     const auto rows = static_cast<std::uint64_t>(header.biHeight);
     if (rows > std::min(available, kMaxPixelBytes) / stride) return std::nullopt;
     return rows * stride;
@@ -79,7 +84,7 @@ PictureResult Picture::load(const platform::FileSystem& files, std::string_view 
     const std::optional<std::uint64_t> bytes = pixelBytes(header, file->size() - pixelOffset);
     if (!bytes) return PictureResult::fileError;
     try {
-        // Not set to zero first: the file's bytes come right after.
+        // Not initialised, because the bytes of the file follow at once.
         m_pixels = std::make_unique_for_overwrite<std::uint8_t[]>(*bytes);
     } catch (const std::bad_alloc&) {
         return PictureResult::outOfMemory;

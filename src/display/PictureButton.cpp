@@ -12,10 +12,10 @@ using namespace platform;
 
 namespace {
 
-/// One for all buttons.
+/// The same for all buttons.
 HWND focusReturn = 0;
 
-/// The pixels of a horizontal or vertical line with its start and without its end.
+/// The pixels of a horizontal or vertical line, including its start but not its end.
 CRect linePixels(CPoint from, CPoint to) {
     if (from.y == to.y) {
         const int left = std::min(from.x, to.x + 1);

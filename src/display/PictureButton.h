@@ -6,18 +6,18 @@
 
 namespace kalyxo {
 
-/// A button of the tool panel: a picture on a raised face, which sinks while it is held down.
+/// A button of the tool panel: a picture on a raised face that sinks while the button is pressed.
 class CPictureButton : public platform::CButton {
   public:
     const platform::MessageMap* GetMessageMap() const override;
 
-    /// Makes the button on show; false, and nothing is made, when there is no bitmap `picture`. `name` is for
-    /// screen readers, code page 1253.
+    /// Creates the visible button. False, and nothing is created, when there is no bitmap `picture`. `name`
+    /// is for screen readers, in code page 1253.
     bool Create(const platform::CRect& rect, platform::CWnd& parent, platform::UINT id,
                 platform::UINT picture, std::string_view name);
     void DrawItem(const platform::DRAWITEMSTRUCT& item) override;
 
-    /// The window outside of the panel that lost the focus to a picture button last; 0 when none has.
+    /// The window outside the panel from which a picture button last took the focus, 0 when there is none.
     static platform::HWND FocusReturn();
 
   private:

@@ -21,11 +21,11 @@ namespace {
 /// Pixels by which an arrow key moves the bar.
 constexpr int kKeyStep = 8;
 
-/// Colours of the raised strip across its thickness.
+/// The colours of the lines of the raised bar.
 constexpr std::array<COLORREF, CSplitterBar::kThickness> kRaised = {
     kLightGrey, kWhite, kLightGrey, kLightGrey, kLightGrey, kDarkGrey, kBlack};
 
-/// The value within [min, max]; max gives way when the range is empty.
+/// The value brought into [min, max]. When max is below min, the result is min.
 int clampTo(int value, int min, int max) { return std::max(min, std::min(value, max)); }
 
 }  // namespace
@@ -118,7 +118,7 @@ void CSplitterBar::OnMouseMove(UINT, CPoint point) {
     m_pParent->SendMessage(WM_PAINT);
 }
 
-/// The arrows along the way move the bar; every other key is left alone.
+/// The two arrow keys in the direction of movement move the bar. Every other key gets its default handling.
 void CSplitterBar::OnKeyDown(UINT key) {
     const bool back = key == (m_bHorizontal ? VK_UP : VK_LEFT);
     if (!back && key != (m_bHorizontal ? VK_DOWN : VK_RIGHT)) {

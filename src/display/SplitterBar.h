@@ -5,8 +5,9 @@
 
 namespace kalyxo {
 
-/// The bar between two panes. The user drags it within a range; when the button is released it tells its
-/// parent with WM_COMMAND, wParam = position, lParam = its control id. The parent lays out the panes.
+/// The bar between two panes. The user drags it within a range. When the button is released, the bar sends
+/// its parent WM_COMMAND with its position in wParam and its control id in lParam. The parent lays out the
+/// panes.
 class CSplitterBar : public platform::CWnd {
   public:
     static constexpr int kThickness = 7;
@@ -15,13 +16,13 @@ class CSplitterBar : public platform::CWnd {
     const platform::CRuntimeClass& GetRuntimeClass() const override;
     const platform::MessageMap* GetMessageMap() const override;
 
-    /// Makes the window at (x, y); the coordinate along the moving axis is first brought into [min, max]. A
-    /// horizontal bar moves up and down, a vertical one left and right.
+    /// Creates the window at (x, y). The coordinate in the direction of movement is brought into [min, max]
+    /// first. A horizontal bar moves up and down, a vertical one left and right.
     bool Create(int x, int y, int length, bool horizontal, int min, int max, platform::CWnd& parent);
 
-    /// Coordinate along the moving axis in the parent's client area; −1 before creation.
+    /// The coordinate in the direction of movement, in the parent's client area; −1 before creation.
     int GetPos() const { return m_nPos; }
-    /// Changes the range; a bar outside of it is pulled in, and the parent told.
+    /// Changes the range. A bar outside it is moved into it, and the parent is told.
     void SetRange(int min, int max);
     /// Changes the length without moving the bar.
     void SetLength(int length);

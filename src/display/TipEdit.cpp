@@ -40,7 +40,7 @@ void CTipEdit::Pop() {
     ShowWindow(SW_SHOW);
     SetFocus();
     SetCapture();
-    // From here on the box is not asked for a cursor any more.
+    // A window that captures the mouse is not asked for its cursor.
     m_cursor.Set();
 }
 

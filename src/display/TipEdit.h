@@ -5,17 +5,17 @@
 
 namespace kalyxo {
 
-/// A box with a text, like a tooltip, that hides as soon as the user does anything: at the next click in the
-/// program's windows, at a key, and when the focus goes elsewhere. Its text cannot be typed in or selected.
+/// A box with a text, like a tooltip. It hides at the next click in the program's windows, at the next key,
+/// and when it loses the focus. Its text can be neither edited nor selected.
 class CTipEdit : public platform::CEdit {
   public:
     static const platform::CRuntimeClass runtimeClass;
     const platform::CRuntimeClass& GetRuntimeClass() const override { return runtimeClass; }
     const platform::MessageMap* GetMessageMap() const override;
 
-    /// Makes it hidden in `parent`.
+    /// Creates the hidden box in `parent`.
     bool CreateHidden(platform::CWnd& parent, platform::UINT id);
-    /// Shows it with the keyboard focus and the mouse.
+    /// Shows the box, which takes the keyboard focus and captures the mouse.
     void Pop();
     void Hide();
 
@@ -28,7 +28,7 @@ class CTipEdit : public platform::CEdit {
     void dismiss();
 
     platform::CCursor m_cursor = platform::CCursor::Arrow();
-    /// Had the focus before, and has it again when the user dismisses the box.
+    /// The window that had the focus before. It gets the focus again when the user dismisses the box.
     platform::HWND m_hwndFormer = 0;
 };
 

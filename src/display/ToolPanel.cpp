@@ -19,16 +19,16 @@ namespace {
 constexpr UINT kFirstButton = 801;
 constexpr CSize kButtonSize{23, 22};
 constexpr int kPanelWidth = 144;
-/// Height of the panel without its caption.
+/// The height of the panel without its caption.
 constexpr int kHeightBelowCaption = 28;
 
-/// Where the rectangle flies to: its size, and how far left of a window's right edge it ends.
+/// The end of the flight: the size of the rectangle, and its distance from the right edge of a window.
 constexpr int kCornerSize = 20;
 constexpr int kCornerDistance = 24;
 constexpr COLORREF kFlightColour = RGB(0, 0, 128);
 constexpr std::uint32_t kFrameMs = 20;
 
-/// A button, which bears the name of a menu command.
+/// A button. Its name is that of a menu command.
 struct Tool {
     UINT picture;
     UINT command;
@@ -88,7 +88,7 @@ void CToolPanel::returnFocus() {
 
 void CToolPanel::OnCopy() {
     returnFocus();
-    // Only those that apply to what is on show are carried out.
+    // Only the commands that suit what is shown are carried out.
     for (const UINT command :
          {ID_EDIT_COPY, ID_COPY_VIDEO, ID_COPY_MOLECULE, ID_COPY_ALL_DATA, ID_COPY_GRAPH}) {
         send(command);
@@ -100,7 +100,7 @@ void CToolPanel::OnPaste() {
     send(ID_EDIT_PASTE);
 }
 
-/// Enter pushes the button with the focus.
+/// The Enter key presses the button that has the focus.
 void CToolPanel::OnOK() {
     for (const CPictureButton& button : m_buttons) {
         if (button.GetSafeHwnd() != GetFocus()) continue;

@@ -17,11 +17,13 @@ class CToolPanel : public platform::CDialog {
     const platform::CRuntimeClass& GetRuntimeClass() const override { return runtimeClass; }
     const platform::MessageMap* GetMessageMap() const override;
 
-    /// Shows it for the first time, at the top right corner of the panes, which are given in screen pixels.
+    /// Shows the panel for the first time, in the top right corner of the panes, which are given in screen
+    /// pixels.
     void ShowAtCorner(const platform::CRect& panes);
-    /// Hides it; a rectangle flies from its place to the top right corner of the main window.
+    /// Hides the panel. A rectangle flies from its place to the top right corner of the main window.
     void AnimateHide();
-    /// Shows it where it was last, after a rectangle has flown there from the top right corner of the view.
+    /// A rectangle flies from the top right corner of the view to the panel's last place, where the panel
+    /// appears.
     void AnimateShow(const platform::CRect& view);
 
   protected:

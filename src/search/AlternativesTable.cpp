@@ -10,7 +10,7 @@ namespace kalyxo {
 
 namespace {
 
-/// Calls `take` with each record until it returns false.
+/// Calls `take` with each record until `take` returns false.
 template <typename Take>
 void walk(std::string_view image, Take take) {
     while (image.size() >= formats::alternativeRecordSize && take(image))

@@ -8,19 +8,19 @@
 
 namespace kalyxo {
 
-/// `words.alt` in memory: which words are forms of one another.
+/// The file `words.alt` in memory, which groups the forms of a word.
 class AlternativesTable {
   public:
-    /// Reads the file of the data folder; without one no word has other forms.
+    /// Reads the file of the data folder. When there is none, no word has other forms.
     void Load(const platform::FileSystem& files, std::string_view dataFolder,
               const platform::ProgressStep& step = {});
 
-    /// The word, and behind it the other forms of its group in file order, each once. The group is that of
-    /// the word's first record; a word without record belongs to the group −1.
+    /// The word, followed by the other forms of its group in file order, each once. The group is that of the
+    /// word's first record; a word without a record belongs to the group −1.
     std::vector<std::string> FormsOf(std::string_view word) const;
 
   private:
-    /// The file as it is; the records are read where they stand.
+    /// The bytes of the file. Its records are decoded when they are needed.
     std::string m_image;
 };
 

@@ -13,30 +13,30 @@
 
 namespace kalyxo {
 
-/// What the result list shows for a hit; code page 1253.
+/// The texts of a hit in the result list, in code page 1253.
 struct HitTexts {
-    std::string name;      ///< the entry, or the page where the hit is the page itself
-    std::string topic;     ///< the section
-    std::string subgroup;  ///< the page that holds the entry; empty for a page
+    std::string name;      ///< the title of the entry, or of the page when the hit is a page
+    std::string topic;     ///< the name of the section
+    std::string subgroup;  ///< the title of the page with the entry; empty when the hit is a page
 
     // NOLINTNEXTLINE(modernize-use-nullptr): taken for a null pointer
     friend auto operator<=>(const HitTexts&, const HitTexts&) = default;
 };
 
-/// Names the hits of one search run from the title files of the data folder. Each file is opened once, so an
-/// object is for one run.
+/// Finds the titles of hits in the title files of the data folder. An object opens each file once, so it
+/// serves one search run.
 class HitTitles {
   public:
     /// The data folder ends with a backslash; `files` must outlive the object.
     HitTitles(const platform::FileSystem& files, std::string dataFolder);
 
-    /// The title of the first record with this page id in `<key>.dat`; empty when there is none.
+    /// The title of the first record with this page id in `<key>.dat`, empty when there is none.
     std::string LookUpPageTitle(std::string_view key, std::int32_t pageId);
 
-    /// The title of an entry; "?" when its code names no list, or its list no such entry.
+    /// The title of an entry, "?" when there is no such list or entry.
     std::string LookUpEntryTitle(std::int32_t itemCode);
 
-    /// The texts of a hit; nothing for a hit of no section.
+    /// The texts of a hit. Nothing when its section does not exist.
     std::optional<HitTexts> MakeHitTexts(const SearchHit& hit);
 
   private:

@@ -8,10 +8,10 @@ void ResultRows::Add(const std::optional<HitTexts>& texts, std::size_t hit) {
 
 namespace {
 
-/// False when it was cancelled.
+/// Adds the rows of a word's hits; false when the search was cancelled.
 bool addRowsOf(const std::string& word, ResultRows& rows, SearchIndex& index, HitTitles& titles,
                const platform::ProgressStep& step) {
-    // Hits of the words before have their rows already, or read like one.
+    // The hits of earlier words have been added already.
     const std::size_t first = index.HitCount();
     if (!index.CollectHits(word, step)) return false;
     for (std::size_t hit = first; hit < index.HitCount(); ++hit) {

@@ -16,14 +16,14 @@ namespace kalyxo {
 /// A line of the result list.
 struct ResultRow {
     HitTexts texts;
-    /// Index of the first hit that reads so.
+    /// The index of the first hit with these texts.
     std::size_t hit = 0;
 };
 
-/// The lines of the result list in the order in which they come up; hits that read the same are one.
+/// The rows of the result list, in the order in which they are found. Hits with the same texts share a row.
 class ResultRows {
   public:
-    /// Adds a row for a hit, unless it has no texts or a row reads the same to the byte.
+    /// Adds a row for a hit, unless it has no texts or another row has the same texts.
     void Add(const std::optional<HitTexts>& texts, std::size_t hit);
 
     const std::vector<ResultRow>& Rows() const { return m_rows; }
@@ -38,8 +38,8 @@ class ResultRows {
 std::vector<ResultRow> FindRows(SearchIndex& index, std::span<const std::string> words, HitTitles& titles,
                                 const platform::ProgressStep& step = {});
 
-/// Compares two cells as unsigned bytes: negative, 0 or positive. A text comes behind one that it begins
-/// with.
+/// Compares two cells by their unsigned bytes: negative, 0 or positive. A text comes after any text that it
+/// begins with.
 int CompareCells(std::string_view a, std::string_view b);
 
 }  // namespace kalyxo

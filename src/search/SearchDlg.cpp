@@ -22,7 +22,7 @@ namespace {
 /// Columns of the result list.
 enum Column { NameColumn, TopicColumn, SubgroupColumn };
 
-/// Words that go into the list between two looks at the clock.
+/// The number of words that are added to the list before progress is told.
 constexpr std::size_t kWordsPerStep = 1024;
 
 }  // namespace
@@ -73,7 +73,7 @@ bool CSearchDlg::OnInitDialog() {
     return false;
 }
 
-/// False when the user did not want to wait.
+/// False when the user has cancelled.
 bool CSearchDlg::loadIndex() {
     CProgress progress(LoadString(IDS_READING_WORDS));
     const ProgressStep step = progress.Step();
@@ -111,7 +111,7 @@ void CSearchDlg::OnWordEdited() {
     std::string withoutSpaces = text;
     std::erase(withoutSpaces, ' ');
     if (withoutSpaces != text) {
-        // Writing the field brings its change here again.
+        // This calls the function again.
         m_word.SetWindowText(withoutSpaces);
         const int end = static_cast<int>(withoutSpaces.size());
         m_word.SetSel(end, end);

@@ -12,8 +12,8 @@
 
 namespace kalyxo {
 
-/// The word search: a word of the vocabulary is typed or picked, looked up with or without its other forms,
-/// and one of the places found is chosen.
+/// The dialog of the word search. The user types or picks a word of the vocabulary, which is looked up with
+/// or without its other forms, and chooses one of the places found.
 class CSearchDlg : public platform::CDialog {
   public:
     /// Searches the data folder, which ends with a backslash; `files` must outlive the dialog.
@@ -23,7 +23,8 @@ class CSearchDlg : public platform::CDialog {
     const platform::CRuntimeClass& GetRuntimeClass() const override { return runtimeClass; }
     const platform::MessageMap* GetMessageMap() const override;
 
-    /// The chosen place and what to remember of the search; valid after the dialog has ended with OK.
+    /// The place that was chosen, and what to remember of the search. Valid when the dialog has ended with
+    /// OK.
     const SearchHit& Chosen() const { return m_chosen; }
     const SearchState& State() const { return m_state; }
 
@@ -55,7 +56,7 @@ class CSearchDlg : public platform::CDialog {
     SearchIndex m_index;
     SearchState m_state;
     SearchHit m_chosen;
-    /// Mutes the word field while the dialog itself writes into it.
+    /// True while the dialog itself writes into the word field.
     bool m_ignoreWordEdits = false;
 
     platform::CEdit m_word;

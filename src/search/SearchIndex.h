@@ -31,13 +31,13 @@ class SearchIndex {
     bool LoadFirstLetterTable();
     const std::vector<formats::FirstLetterRecord>& FirstLetters() const { return m_firstLetters; }
 
-    /// The words that one search looks up: the chosen word, and when wanted the other forms of its group.
+    /// The words to look up: the chosen word and, if wanted, the other forms of its group.
     std::vector<std::string> ExpandAlternatives(std::string_view word, bool wanted) const;
 
     /// Starts a search run without hits.
     void ResetHits() { m_hits.clear(); }
-    /// Appends the occurrences of a word in file order; those beyond `MaxHits` are left out. False when
-    /// `step` has cancelled it; then others may be left out too.
+    /// Appends the occurrences of a word in file order, up to `MaxHits` hits in all. False when `step` has
+    /// cancelled the search; then any occurrences may be missing.
     bool CollectHits(std::string_view word, const platform::ProgressStep& step = {}) {
         return m_occurrences.Collect(word, m_hits, MaxHits, step);
     }

@@ -4,14 +4,14 @@
 
 namespace kalyxo {
 
-/// What the view remembers of the last search that led to a place.
+/// What the view remembers of the last search in which a place was chosen.
 struct SearchState {
-    int alternatives = 0;  ///< 1 when the word's other forms were searched too
-    /// Widths of the result list's columns, in pixels.
+    int alternatives = 0;  ///< 1 when other forms of the word were searched too
+    /// The widths of the result list's columns, in pixels.
     int nameWidth = 130;
     int topicWidth = 120;
     int subgroupWidth = 130;
-    int row = -1;      ///< the chosen row, −1 = none
+    int row = -1;      ///< the chosen row, −1 for none
     std::string word;  ///< code page 1253
 };
 

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int scriptUnreadable = 2;
 
-/// Far longer than anything takes that comes to an end.
+/// Far longer than any command takes that comes to an end.
 constexpr std::chrono::seconds maxWait(50);
 
 void print(const Json& answer) {
@@ -68,7 +68,7 @@ void Session::carryOut(const std::shared_ptr<Request>& request, const Command& c
 
 bool Session::isBusy() const { return request_->held() || anyComponentBusy(); }
 
-/// The command's answer may never be complete; what is still to come of it is left aside.
+/// Refuses a command whose answer may never be complete.
 void Session::giveUp() {
     print(refusal(std::exchange(request_, nullptr)->name(), "the program does not come to rest"));
     reader_.next();

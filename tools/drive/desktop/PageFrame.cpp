@@ -15,26 +15,26 @@ namespace drive {
 namespace {
 
 /// Only a page that draws no more at all takes as long.
-constexpr std::chrono::milliseconds kPictureLimit{5000};
-constexpr std::chrono::milliseconds kLookAgain{2};
+constexpr std::chrono::milliseconds pictureLimit{5000};
+constexpr std::chrono::milliseconds lookAgain{2};
 
 /// Asks for a note when the engine draws the page anew: the first call back comes with the frame that was in
 /// the works already, the second with one that shows all that is there now.
-constexpr const char* kAskForFrame =
+constexpr const char* askForFrame =
     "window.frameDrawn = false;"
     "requestAnimationFrame(() => requestAnimationFrame(() => { window.frameDrawn = true; }));";
 
 /// Not the page's own world, in which its scripts would see the note.
-constexpr auto kWorld = QWebEngineScript::ApplicationWorld;
+constexpr auto scriptWorld = QWebEngineScript::ApplicationWorld;
 
 /// Waits for one frame; its view owns it.
 class FrameWait : public QObject {
   public:
     FrameWait(QWebEngineView& view, std::chrono::milliseconds limit, std::function<void()> done)
         : QObject(&view), page_(view.page()), done_(std::move(done)) {
-        page_->runJavaScript(kAskForFrame, kWorld);
+        page_->runJavaScript(askForFrame, scriptWorld);
         connect(&look_, &QTimer::timeout, this, &FrameWait::look);
-        look_.start(kLookAgain);
+        look_.start(lookAgain);
         QTimer::singleShot(limit, this, &FrameWait::finish);
     }
     ~FrameWait() override { finish(); }
@@ -42,7 +42,7 @@ class FrameWait : public QObject {
   private:
     void look() {
         if (!page_ || page_->isLoading()) return finish();
-        page_->runJavaScript("window.frameDrawn", kWorld,
+        page_->runJavaScript("window.frameDrawn", scriptWorld,
                              [waiting = QPointer<FrameWait>(this)](const QVariant& drawn) {
                                  if (waiting && drawn.toBool()) waiting->finish();
                              });
@@ -77,9 +77,9 @@ QString scriptToMark(const QColor& colour) {
         .arg(colour.name());
 }
 
-constexpr QColor kMark(0xfe, 0x01, 0xfd);
-constexpr QColor kOtherMark(0x01, 0xfe, 0x02);
-constexpr const char* kUnmark =
+constexpr QColor firstMark(0xfe, 0x01, 0xfd);
+constexpr QColor otherMark(0x01, 0xfe, 0x02);
+constexpr const char* unmark =
     "document.adoptedStyleSheets = document.adoptedStyleSheets.filter(sheet => sheet !== window.frameMark);";
 
 QColor cornerOf(QWebEngineView& view) { return view.grab(QRect(0, 0, 1, 1)).toImage().pixelColor(0, 0); }
@@ -92,8 +92,8 @@ void runUntil(QWebEngineView& view, const std::function<bool()>& reached) {
         if (view.page()->isLoading() || reached()) loop.quit();
     });
     QObject::connect(&view, &QObject::destroyed, &loop, &QEventLoop::quit);
-    QTimer::singleShot(kPictureLimit, &loop, &QEventLoop::quit);
-    look.start(kLookAgain);
+    QTimer::singleShot(pictureLimit, &loop, &QEventLoop::quit);
+    look.start(lookAgain);
     loop.exec();
 }
 
@@ -101,11 +101,11 @@ void runUntil(QWebEngineView& view, const std::function<bool()>& reached) {
 /// page gets a mark and loses it again: the frame in which it is gone shows all that came before, too.
 void awaitFrame(QWebEngineView& view) {
     const QPointer<QWebEngineView> shown = &view;
-    const QColor mark = cornerOf(view) == kMark ? kOtherMark : kMark;
-    view.page()->runJavaScript(scriptToMark(mark), kWorld);
+    const QColor mark = cornerOf(view) == firstMark ? otherMark : firstMark;
+    view.page()->runJavaScript(scriptToMark(mark), scriptWorld);
     runUntil(view, [&] { return cornerOf(view) == mark; });
     if (!shown) return;
-    view.page()->runJavaScript(QString::fromLatin1(kUnmark), kWorld);
+    view.page()->runJavaScript(QString::fromLatin1(unmark), scriptWorld);
     runUntil(view, [&] { return cornerOf(view) != mark; });
 }
 
