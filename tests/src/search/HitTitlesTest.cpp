@@ -15,21 +15,21 @@ using namespace std::string_literals;
 class HitTitlesTest : public testing::Test {
   protected:
     HitTitlesTest() {
-        folder.putTitles("struct", {{"Water", 370010}, {"Again", 370010}, {"", 370020}});
-        folder.putTitles("history", {{"Past", 320010}});
-        folder.putList("elem.ttl", {"one", "two", "three", ""});
-        folder.putList("history.ttl", {"h1", "h2", "h3", "h4", "h5"});
-        folder.put("D:\\comp.ttl", std::string(60, 'c') + std::string(59, 'd'));
+        folder_.putTitles("struct", {{"Water", 370010}, {"Again", 370010}, {"", 370020}});
+        folder_.putTitles("history", {{"Past", 320010}});
+        folder_.putList("elem.ttl", {"one", "two", "three", ""});
+        folder_.putList("history.ttl", {"h1", "h2", "h3", "h4", "h5"});
+        folder_.put("D:\\comp.ttl", std::string(60, 'c') + std::string(59, 'd'));
     }
 
     std::vector<ResultRow> rowsOf(const std::vector<std::string>& words,
                                   const platform::ProgressStep& step = {}) {
-        SearchIndex index(folder.files, "D:\\");
-        return FindRows(index, words, titles, step);
+        SearchIndex index(folder_.files, "D:\\");
+        return FindRows(index, words, titles_, step);
     }
 
-    SearchFolder folder;
-    HitTitles titles{folder.files, "D:\\"};
+    SearchFolder folder_;
+    HitTitles titles_{folder_.files, "D:\\"};
 };
 
 TEST_F(HitTitlesTest, EntryTitleIsInTheListOfItsNumber) {
@@ -41,8 +41,8 @@ TEST_F(HitTitlesTest, EntryTitleIsInTheListOfItsNumber) {
                  {19999, "?"},      {20002, "?"},      {40001, "?"},   {-10003, "?"},  {780001, "?"},
                  {2147483647, "?"}, {-2147483647, "?"}};
     for (const auto& [itemCode, title] : cases)
-        EXPECT_EQ(titles.LookUpEntryTitle(itemCode), title) << itemCode;
-    EXPECT_EQ(titles.LookUpEntryTitle(20001), std::string(60, 'c'));
+        EXPECT_EQ(titles_.LookUpEntryTitle(itemCode), title) << itemCode;
+    EXPECT_EQ(titles_.LookUpEntryTitle(20001), std::string(60, 'c'));
 }
 
 TEST_F(HitTitlesTest, TextsOfAHit) {
@@ -62,18 +62,18 @@ TEST_F(HitTitlesTest, TextsOfAHit) {
         {{-320010, 1, 5}, {"?", past, ""}},
     };
     for (const auto& [hit, texts] : cases)
-        EXPECT_EQ(titles.MakeHitTexts(hit), texts) << hit.pageId << ' ' << hit.itemCode;
+        EXPECT_EQ(titles_.MakeHitTexts(hit), texts) << hit.pageId << ' ' << hit.itemCode;
     for (const int section : {-32768, -1, 0, 8, 32767})
-        EXPECT_EQ(titles.MakeHitTexts({370010, 0, static_cast<std::int16_t>(section)}), std::nullopt);
+        EXPECT_EQ(titles_.MakeHitTexts({370010, 0, static_cast<std::int16_t>(section)}), std::nullopt);
 }
 
 TEST_F(HitTitlesTest, HitsThatReadTheSameAreOneRowOfTheFirst) {
-    folder.putOccurrences({{"b", 370010, 0, 2},
-                           {"a", 370010, 0, 2},
-                           {"a", 370010, 0, 8},
-                           {"b", 370010, 10002, 2},
-                           {"a", 370010, 10002, 2},
-                           {"b", 320010, 0, 5}});
+    folder_.putOccurrences({{"b", 370010, 0, 2},
+                            {"a", 370010, 0, 2},
+                            {"a", 370010, 0, 8},
+                            {"b", 370010, 10002, 2},
+                            {"a", 370010, 10002, 2},
+                            {"b", 320010, 0, 5}});
     const auto rows = rowsOf({"a", "b"});
     ASSERT_EQ(rows.size(), 3U);
     EXPECT_EQ(rows[0].texts.name, "Water");
@@ -88,7 +88,7 @@ TEST_F(HitTitlesTest, InvisibleHitsCountTowardsTheMost) {
     std::vector<formats::OccurrenceRecord> records(399, {"a", 1, 0, 0});
     records.push_back({"a", 370010, 0, 2});
     records.push_back({"a", 320010, 0, 5});
-    folder.putOccurrences(records);
+    folder_.putOccurrences(records);
     const auto rows = rowsOf({"a"});
     ASSERT_EQ(rows.size(), 1U);
     EXPECT_EQ(rows[0].hit, 399U);
@@ -97,7 +97,7 @@ TEST_F(HitTitlesTest, InvisibleHitsCountTowardsTheMost) {
 TEST_F(HitTitlesTest, CancelledSearchHasNoRowsAndReadsNoFurther) {
     std::vector<formats::OccurrenceRecord> records(10'000, {"other", 1, 0, 2});
     records.front() = {"a", 370010, 0, 2};
-    folder.putOccurrences(records);
+    folder_.putOccurrences(records);
     int steps = 0;
     const auto cancelAt = [&steps](int last) {
         return [&steps, last](auto, auto) { return ++steps < last; };

@@ -17,7 +17,7 @@ using Words = std::vector<std::string>;
 
 class SearchIndexTest : public testing::Test {
   protected:
-    SearchIndex index() const { return {folder.files, "D:\\"}; }
+    SearchIndex index() const { return {folder_.files, "D:\\"}; }
 
     /// The page ids of the hits of one search run.
     std::vector<std::int32_t> pagesOf(const Words& words) const {
@@ -35,17 +35,17 @@ class SearchIndexTest : public testing::Test {
         return searched.ExpandAlternatives(word, true);
     }
 
-    SearchFolder folder;
+    SearchFolder folder_;
 };
 
 TEST_F(SearchIndexTest, WordsStandInFileOrderAndAPartialLastRecordIsIgnored) {
-    folder.put("D:\\words.ndx", "b"s + std::string(31, '\0') + "a\0rest"s + std::string(26, '\0') +
-                                    std::string(32, 'x') + std::string(31, 'y'));
+    folder_.put("D:\\words.ndx", "b"s + std::string(31, '\0') + "a\0rest"s + std::string(26, '\0') +
+                                     std::string(32, 'x') + std::string(31, 'y'));
     EXPECT_EQ(index().LoadWordIndex(), (Words{"b", "a", std::string(32, 'x')}));
 }
 
 TEST_F(SearchIndexTest, FormsAreThoseOfTheGroupOfTheFirstRecord) {
-    folder.putAlternatives(
+    folder_.putAlternatives(
         {{7, "acid"}, {7, "acids"}, {9, "acid"}, {9, "base"}, {7, "acids"}, {7, "acidic"}, {-1, "stray"}});
     EXPECT_EQ(formsOf("acid"), (Words{"acid", "acids", "acidic"}));
     EXPECT_EQ(formsOf("acidic"), (Words{"acidic", "acid", "acids"}));
@@ -55,7 +55,7 @@ TEST_F(SearchIndexTest, FormsAreThoseOfTheGroupOfTheFirstRecord) {
 }
 
 TEST_F(SearchIndexTest, FormWithoutNulEndsWithItsFieldAndAPartialRecordIsNone) {
-    folder.put("D:\\words.alt", "\1\0\0\0"s + std::string(26, 'x') + "\1\0\0\0"s + std::string(25, 'y'));
+    folder_.put("D:\\words.alt", "\1\0\0\0"s + std::string(26, 'x') + "\1\0\0\0"s + std::string(25, 'y'));
     EXPECT_EQ(formsOf(std::string(26, 'x')), Words{std::string(26, 'x')});
     EXPECT_EQ(formsOf(std::string(25, 'y')), Words{std::string(25, 'y')});
 }
@@ -72,7 +72,7 @@ TEST_F(SearchIndexTest, FirstLetterTableKeepsTwoHundredRecordsAndSaysWhenThereAr
                  {201 * 8, 200, false},
                  {5000 * 8, 200, false}};
     for (const auto& [bytes, kept, fits] : cases) {
-        folder.put("D:\\words.pr1", std::string(bytes, 'a'));
+        folder_.put("D:\\words.pr1", std::string(bytes, 'a'));
         SearchIndex loaded = index();
         EXPECT_EQ(loaded.LoadFirstLetterTable(), fits) << bytes;
         EXPECT_EQ(loaded.FirstLetters().size(), kept) << bytes;
@@ -81,15 +81,15 @@ TEST_F(SearchIndexTest, FirstLetterTableKeepsTwoHundredRecordsAndSaysWhenThereAr
 
 TEST_F(SearchIndexTest, OccurrenceIsAHitWhenItsWordIsTheSameToTheByte) {
     const std::string long31(31, 'w');
-    folder.putOccurrences({{"acid", 1, 10003, 2},
-                           {"Acid", 2, 0, 2},
-                           {"acids", 3, 0, 2},
-                           {"aci", 4, 0, 2},
-                           {"", 5, 0, 2},
-                           {std::string("οξύ"_gr), 6, 0, 2},
-                           {std::string("οξυ"_gr), 7, 0, 2},
-                           {long31, 8, 0, 2},
-                           {"acid", -9, -1, -3}});
+    folder_.putOccurrences({{"acid", 1, 10003, 2},
+                            {"Acid", 2, 0, 2},
+                            {"acids", 3, 0, 2},
+                            {"aci", 4, 0, 2},
+                            {"", 5, 0, 2},
+                            {std::string("οξύ"_gr), 6, 0, 2},
+                            {std::string("οξυ"_gr), 7, 0, 2},
+                            {long31, 8, 0, 2},
+                            {"acid", -9, -1, -3}});
     EXPECT_EQ(pagesOf({"acid"}), (std::vector{1, -9}));
     EXPECT_EQ(pagesOf({""}), std::vector{5});
     EXPECT_EQ(pagesOf({std::string("οξύ"_gr)}), std::vector{6});
@@ -104,7 +104,7 @@ TEST_F(SearchIndexTest, OccurrenceIsAHitWhenItsWordIsTheSameToTheByte) {
 
 TEST_F(SearchIndexTest, OccurrenceWithoutNulIsAWordAsLongAsItsFieldAndAPartialRecordIsNone) {
     const std::string tail = "\5\0\0\0\0\0\0\0\1\0\0"s;
-    folder.put("D:\\words.dat", std::string(32, 'w') + tail + std::string(32, 'w') + tail.substr(0, 10));
+    folder_.put("D:\\words.dat", std::string(32, 'w') + tail + std::string(32, 'w') + tail.substr(0, 10));
     EXPECT_EQ(pagesOf({std::string(32, 'w')}), std::vector{5});
     EXPECT_TRUE(pagesOf({std::string(31, 'w')}).empty());
 }
@@ -119,7 +119,7 @@ TEST_F(SearchIndexTest, EveryRecordOfALongFileIsLookedAt) {
     }
     records.back() = {"wanted", -1, 0, 1};
     expected.push_back(-1);
-    folder.putOccurrences(records);
+    folder_.putOccurrences(records);
     EXPECT_EQ(pagesOf({"wanted"}), expected);
 }
 
@@ -131,7 +131,7 @@ TEST_F(SearchIndexTest, FourHundredHitsAreTheMostOfOneRunOverAllItsWords) {
         records.push_back({i % 4 == 0 ? "few" : "x", 1000 + i, 0, 1});
         if (i % 4 == 0) expected.push_back(1000 + i);
     }
-    folder.putOccurrences(records);
+    folder_.putOccurrences(records);
     for (std::int32_t i = 0; expected.size() < 400; ++i) expected.push_back(i);
     EXPECT_EQ(pagesOf({"few", "many", "few"}), expected);
     EXPECT_EQ(pagesOf({"many"}).size(), 400U);
@@ -145,12 +145,12 @@ TEST_F(SearchIndexTest, FourHundredHitsAreTheMostOfOneRunOverAllItsWords) {
 }
 
 TEST_F(SearchIndexTest, FileMayGrowAndShrinkWhileItIsOpen) {
-    folder.putOccurrences({{"a", 1, 0, 1}, {"a", 2, 0, 1}});
+    folder_.putOccurrences({{"a", 1, 0, 1}, {"a", 2, 0, 1}});
     SearchIndex searched = index();
-    std::filesystem::resize_file(folder.host("D:\\words.dat"), 43 + 10);
+    std::filesystem::resize_file(folder_.host("D:\\words.dat"), 43 + 10);
     searched.CollectHits("a");
     EXPECT_EQ(searched.HitCount(), 1U);
-    std::ofstream(folder.host("D:\\words.dat"), std::ios::binary | std::ios::trunc)
+    std::ofstream(folder_.host("D:\\words.dat"), std::ios::binary | std::ios::trunc)
         << *formats::encodeOccurrences(std::vector<formats::OccurrenceRecord>(3, {"a", 3, 0, 1}));
     searched.ResetHits();
     searched.CollectHits("a");
@@ -160,8 +160,8 @@ TEST_F(SearchIndexTest, FileMayGrowAndShrinkWhileItIsOpen) {
 TEST_F(SearchIndexTest, FilesBeyondTheLimitCountAsEmptyAndOccurrencesHaveNone) {
     for (const std::size_t size : {kMaxIndexFileBytes, kMaxIndexFileBytes + 1}) {
         for (const char* name : {"words.ndx", "words.alt", "words.pr1", "words.dat"}) {
-            folder.put("D:\\"s + name, "");
-            std::filesystem::resize_file(folder.host("D:\\"s + name), size);
+            folder_.put("D:\\"s + name, "");
+            std::filesystem::resize_file(folder_.host("D:\\"s + name), size);
         }
         const bool taken = size == kMaxIndexFileBytes;
         SearchIndex searched = index();

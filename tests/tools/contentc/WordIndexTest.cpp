@@ -74,23 +74,23 @@ class WordFiles : public testing::Test {
   protected:
     WordFiles() {
         // A small vocabulary: what the sample's other pages say is left out.
-        content.write(
+        content_.write(
             "words/stop.txt",
             "# not worth finding\nStart of ΤΟ\n\nreact struct source uses history elemcomp concept\n");
-        content.write("words/forms.txt", "νερό νερού\n");
+        content_.write("words/forms.txt", "νερό νερού\n");
     }
 
-    ContentFolder content;
+    ContentFolder content_;
 };
 
 TEST_F(WordFiles, HoldEachWordWithItsPlaces) {
-    content.write("pages/uses/400010.page", "title: Το νερό\nkind: topic\n---\n<P>αέρια, νερό</P>\n");
-    content.write("pages/uses/40001.page", "title: Νερού\nkind: entry\ntopic: 400010\n---\n");
+    content_.write("pages/uses/400010.page", "title: Το νερό\nkind: topic\n---\n<P>αέρια, νερό</P>\n");
+    content_.write("pages/uses/40001.page", "title: Νερού\nkind: entry\ntopic: 400010\n---\n");
     Words words;
     for (const char* word : {"h2o", "αέρια", "νερού", "νερό", "υδρογόνο"}) words.push_back(greek(word));
-    EXPECT_EQ(formats::decodeWordIndex(content.compiled("words.ndx")), words);
+    EXPECT_EQ(formats::decodeWordIndex(content_.compiled("words.ndx")), words);
 
-    const std::string dat = content.compiled("words.dat");
+    const std::string dat = content_.compiled("words.dat");
     std::vector<formats::OccurrenceRecord> found;
     for (std::size_t at = 0; at < dat.size(); at += formats::occurrenceRecordSize)
         found.push_back(*formats::decodeOccurrence(std::string_view(dat).substr(at)));
@@ -105,26 +105,26 @@ TEST_F(WordFiles, HoldEachWordWithItsPlaces) {
     EXPECT_EQ(found, expected);
 
     const std::vector<formats::AlternativeRecord> forms{{1, greek("νερού")}, {1, greek("νερό")}};
-    EXPECT_EQ(content.compiled("words.alt"), formats::encodeAlternatives(forms));
+    EXPECT_EQ(content_.compiled("words.alt"), formats::encodeAlternatives(forms));
     const std::vector<formats::FirstLetterRecord> letters{
         {'h', 0}, {greek("α")[0], 1}, {greek("ν")[0], 2}, {greek("υ")[0], 4}};
-    EXPECT_EQ(formats::decodeFirstLetters(content.compiled("words.pr1")), letters);
+    EXPECT_EQ(formats::decodeFirstLetters(content_.compiled("words.pr1")), letters);
 }
 
 TEST_F(WordFiles, WordsThatDoNotFitAreLeftOut) {
     const std::string fits(formats::maxIndexedWord, 'x');
-    content.write("pages/uses/400010.page", "title: T\nkind: topic\n---\n" + fits + ' ' + fits + "x\n");
-    content.write("words/forms.txt", fits + " h2o υδρογόνο\n");
-    const Words words = formats::decodeWordIndex(content.compiled("words.ndx"));
+    content_.write("pages/uses/400010.page", "title: T\nkind: topic\n---\n" + fits + ' ' + fits + "x\n");
+    content_.write("words/forms.txt", fits + " h2o υδρογόνο\n");
+    const Words words = formats::decodeWordIndex(content_.compiled("words.ndx"));
     EXPECT_EQ(std::ranges::count(words, fits), 1);
     EXPECT_EQ(std::ranges::count(words, fits + 'x'), 0);
-    EXPECT_EQ(content.compiled("words.alt").size(), 2 * formats::alternativeRecordSize);
+    EXPECT_EQ(content_.compiled("words.alt").size(), 2 * formats::alternativeRecordSize);
 }
 
 TEST_F(WordFiles, WordInTwoGroupsIsReported) {
-    content.write("words/forms.txt", "# forms\nνερό νερού\n\nάλας Νερό\n");
-    EXPECT_FALSE(content.compile());
-    EXPECT_EQ(content.messages, Words{"words/forms.txt:4: 'νερό' stands twice"});
+    content_.write("words/forms.txt", "# forms\nνερό νερού\n\nάλας Νερό\n");
+    EXPECT_FALSE(content_.compile());
+    EXPECT_EQ(content_.messages, Words{"words/forms.txt:4: 'νερό' stands twice"});
 }
 
 }  // namespace
