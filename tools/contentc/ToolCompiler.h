@@ -17,20 +17,20 @@ struct ToolLine {
     std::vector<std::pair<std::string, std::string>> settings;
 };
 
-/// Reads a line that is nothing but a tool's mark. Nothing for any other line, and for one that is malformed.
+/// Reads a line that consists of a tool's mark only. Empty for every other line and for a malformed mark.
 std::optional<ToolLine> readToolLine(std::string_view line);
 
-/// What a finished page has before and behind a tool's own content: the box that its script fills.
+/// The HTML before and after a tool's content: the element that the tool's script fills.
 std::string openTool(const ToolLine& tool);
 std::string closeTool(const ToolLine& tool);
 
-/// The tool whose questions stand below its line, as far as a line `{{end}}`.
+/// The tool whose questions follow its line, up to a line `{{end}}`.
 inline constexpr std::string_view quizTool = "quiz";
 inline constexpr std::string_view endLine = "{{end}}";
 
-/// Turns the lines of a quiz into HTML that its script makes questions of. A question begins with `?`, an
-/// answer with `-`, the right one with `+`; `>` tells why the answer above it is right or wrong, and `!`
-/// explains the question. Faults are reported, one for each question at most.
+/// Turns the lines of a quiz into HTML from which its script makes the questions. A question begins with `?`,
+/// a wrong answer with `-` and the right one with `+`; `>` explains the answer above it, `!` the question.
+/// Reports at most one error for each question.
 std::vector<TextLine> compileQuiz(const std::vector<TextLine>& lines, const SourcePlace& place,
                                   MarkupCompiler& markup, Diagnostics& diagnostics);
 

@@ -14,17 +14,17 @@ namespace drive {
 
 namespace {
 
-/// Only a page that draws no more at all takes as long.
+/// Reached only by a page that draws nothing any more.
 constexpr std::chrono::milliseconds pictureLimit{5000};
 constexpr std::chrono::milliseconds lookAgain{2};
 
-/// Asks for a note when the engine draws the page anew: the first call back comes with the frame that was in
-/// the works already, the second with one that shows all that is there now.
+/// Sets a variable in the page when it has drawn a new frame. The first callback comes with a frame that was
+/// begun before, the second with one that shows the page as it is now.
 constexpr const char* askForFrame =
     "window.frameDrawn = false;"
     "requestAnimationFrame(() => requestAnimationFrame(() => { window.frameDrawn = true; }));";
 
-/// Not the page's own world, in which its scripts would see the note.
+/// Separate from the page's own scripts, which must not see the variable.
 constexpr auto scriptWorld = QWebEngineScript::ApplicationWorld;
 
 /// Waits for one frame; its view owns it.
@@ -65,7 +65,7 @@ bool isSeen(const QWebEngineView& view, const QWidget& widget, const QRect& part
     return view.isVisible() && part.intersects(QRect(view.mapTo(&widget, QPoint(0, 0)), view.size()));
 }
 
-/// Gives the page a small square of a colour, in a style sheet that is no part of the document.
+/// Draws a small square of a colour in the page's corner, without changing the document.
 QString scriptToMark(const QColor& colour) {
     return QStringLiteral(
                "window.frameMark = new CSSStyleSheet();"
@@ -84,7 +84,7 @@ constexpr const char* unmark =
 
 QColor cornerOf(QWebEngineView& view) { return view.grab(QRect(0, 0, 1, 1)).toImage().pixelColor(0, 0); }
 
-/// Runs the event loop until that is so, the page goes on to another, or the time is over.
+/// Runs the event loop until `reached` holds, the page loads another one, or the time limit is over.
 void runUntil(QWebEngineView& view, const std::function<bool()>& reached) {
     QEventLoop loop;
     QTimer look;
@@ -97,8 +97,8 @@ void runUntil(QWebEngineView& view, const std::function<bool()>& reached) {
     loop.exec();
 }
 
-/// Nothing tells when a frame has come all the way to the widget, and under load that takes any time. So the
-/// page gets a mark and loses it again: the frame in which it is gone shows all that came before, too.
+/// Nothing reports when a frame has arrived in the widget, and on a busy machine that can take long. So a
+/// mark is drawn in the page and removed again: the frame without it also shows everything sent before.
 void awaitFrame(QWebEngineView& view) {
     const QPointer<QWebEngineView> shown = &view;
     const QColor mark = cornerOf(view) == firstMark ? otherMark : firstMark;
