@@ -115,6 +115,16 @@ constexpr std::array kStrings = {
                    "\r\n\r\nΔιορθώστε ή διαγράψτε το αρχείο, και ξεκινήστε το πάλι."_gr},
 };
 
+constexpr bool idsDiffer() {
+    for (std::size_t i = 0; i < kStrings.size(); ++i) {
+        for (std::size_t other = 0; other < i; ++other) {
+            if (kStrings[i].id == kStrings[other].id) return false;
+        }
+    }
+    return true;
+}
+static_assert(idsDiffer(), "two texts have the same id, and only the first would be found");
+
 }  // namespace
 
 std::span<const StringResource> StringTable() { return kStrings; }
