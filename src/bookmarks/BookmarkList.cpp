@@ -37,11 +37,6 @@ void BookmarkList::Rearrange(std::span<const CBookmark* const> order, BookmarkAr
     if (!CurrentFolderIndex()) m_pCurrentFolder = nullptr;
 }
 
-void BookmarkList::Clear() {
-    m_arrBookmarks.clear();
-    m_pCurrentFolder = nullptr;
-}
-
 void BookmarkList::Add(std::unique_ptr<CBookmark> bookmark) {
     const auto folder = static_cast<std::ptrdiff_t>(CurrentFolderIndex().value_or(0));
     const auto next = std::find_if(m_arrBookmarks.begin() + folder + 1, m_arrBookmarks.end(),

@@ -34,8 +34,6 @@ class BookmarkList {
     /// Makes it these records, each of them one of its own or of `added`, and none of them twice. All others
     /// of both are freed, and when the current folder is among them there is none.
     void Rearrange(std::span<const CBookmark* const> order, BookmarkArray added);
-    /// Frees the records.
-    void Clear();
 
     /// Adds a bookmark at the end of the current folder, of the first when there is no current one.
     void Add(std::unique_ptr<CBookmark> bookmark);

@@ -7,7 +7,6 @@
 #include "src/bookmarks/BookmarkFile.h"
 #include "src/bookmarks/BookmarkList.h"
 #include "src/components/HostedComponents.h"
-#include "src/view/ContentMode.h"
 #include "src/view/Navigator.h"
 
 namespace kalyxo {

@@ -6,6 +6,9 @@ namespace kalyxo {
 
 class CBMDataAn;
 
+/// What the view shows below the section bar.
+enum class ContentMode { MainMenu = 0, PeriodicTable = 1, Page = 2, DataAnalyser = 8 };
+
 /// What navigation and bookmarks ask of the window: to show the place that they have decided on.
 class ContentHost {
   public:

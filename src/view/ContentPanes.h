@@ -3,7 +3,7 @@
 #include "src/components/HostedComponents.h"
 #include "src/display/SplitterBar.h"
 #include "src/pages/PagePresenter.h"
-#include "src/view/ContentMode.h"
+#include "src/view/ContentHost.h"
 
 namespace kalyxo {
 
