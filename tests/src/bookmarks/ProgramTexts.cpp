@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <memory>
+
 #include "platform/base/Resources.h"
 #include "src/resources/ResourceTable.h"
 
@@ -10,6 +12,7 @@ class ProgramTexts : public testing::Environment {
     void SetUp() override { platform::SetResources(kalyxo::ProgramResources()); }
 };
 
-const auto* const kProgramTexts = testing::AddGlobalTestEnvironment(new ProgramTexts);
+const auto* const kProgramTexts =
+    testing::AddGlobalTestEnvironment(std::make_unique<ProgramTexts>().release());
 
 }  // namespace
