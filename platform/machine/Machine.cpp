@@ -42,7 +42,7 @@ std::string withoutLastSlash(std::string path) {
 
 Result<std::unique_ptr<Machine>> Machine::open(const fs::path& folder, const MachineConfig& defaults) {
     std::error_code error;
-    if (!fs::is_directory(folder, error)) return Failure{folder.string() + ": no such folder"};
+    if (!fs::is_directory(folder, error)) return Failure{folder.string() + ": δεν υπάρχει τέτοιος φάκελος"};
     const fs::path configFile = folder / configName;
     Result<MachineConfig> config = defaults;
     if (isThere(configFile)) config = loadMachineConfig(configFile, defaults);

@@ -40,7 +40,7 @@ class FieldReader {
     }
 
     bool isObject(const Json& value, const std::string& name) {
-        if (!value.is_object()) fail(name + " must be an object");
+        if (!value.is_object()) fail(name + " πρέπει να είναι αντικείμενο");
         return value.is_object();
     }
 
@@ -55,7 +55,8 @@ class FieldReader {
         if (fits) {
             target = value.get<int>();
         } else {
-            fail(name + " must be a whole number from " + std::to_string(min) + " to " + std::to_string(max));
+            fail(name + " πρέπει να είναι ακέραιος από " + std::to_string(min) + " έως " +
+                 std::to_string(max));
         }
     }
 
@@ -70,16 +71,16 @@ class FieldReader {
     void readText(const Json& object, const char* key, std::string& target) {
         const Json* value = field(object, key);
         if (!value) return;
-        if (!value->is_string()) return fail(std::string(key) + " must be a text");
+        if (!value->is_string()) return fail(std::string(key) + " πρέπει να είναι κείμενο");
         auto text = fromUtf8Strict(value->get_ref<const std::string&>());
-        if (!text) return fail(std::string(key) + " has a character outside code page 1253");
+        if (!text) return fail(std::string(key) + " έχει χαρακτήρα εκτός της κωδικοσελίδας 1253");
         target = std::move(*text);
     }
 
     void readTruth(const Json& object, const char* key, bool& target) {
         const Json* value = field(object, key);
         if (!value) return;
-        if (!value->is_boolean()) return fail(std::string(key) + " must be true or false");
+        if (!value->is_boolean()) return fail(std::string(key) + " πρέπει να είναι true ή false");
         target = value->get<bool>();
     }
 
@@ -124,12 +125,12 @@ void readDrive(FieldReader& reader, const Json& object, const std::string& name,
         const auto known =
             type->is_string() ? driveTypeByName(type->get_ref<const std::string&>()) : std::nullopt;
         if (!known)
-            return reader.fail(name +
-                               ".type must be one of removable, fixed, remote, cdrom, ramdisk, unknown");
+            return reader.fail(
+                name + ".type πρέπει να είναι ένα από τα removable, fixed, remote, cdrom, ramdisk, unknown");
         drive.type = *known;
     }
     if (const Json* folder = FieldReader::field(object, "folder")) {
-        if (!folder->is_string()) return reader.fail(name + ".folder must be a text");
+        if (!folder->is_string()) return reader.fail(name + ".folder πρέπει να είναι κείμενο");
         drive.folder = folder->get_ref<const std::string&>();
     }
 }
@@ -139,7 +140,7 @@ void readDrives(FieldReader& reader, const Json& root, MachineConfig& config) {
     if (!object || !reader.isObject(*object, "drives")) return;
     for (const auto& [name, value] : object->items()) {
         if (name.size() != 1 || name[0] < 'A' || name[0] > 'Z') {
-            return reader.fail("drives: \"" + name + "\" is not a drive letter from A to Z");
+            return reader.fail("drives: το \"" + name + "\" δεν είναι γράμμα μονάδας από A έως Z");
         }
         if (value.is_null()) {
             config.drives.erase(name[0]);
@@ -169,7 +170,9 @@ void readHost(FieldReader& reader, const Json& sites, const char* name, std::str
     const bool isName = std::all_of(text.begin(), text.end(), [](char c) {
         return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '-' || c == '.';
     });
-    if (!isName) return reader.fail("sites." + std::string(name) + " must be a host name in small letters");
+    if (!isName)
+        return reader.fail("sites." + std::string(name) +
+                           " πρέπει να είναι όνομα τοποθεσίας με πεζά γράμματα");
     host = text;
 }
 
@@ -182,7 +185,7 @@ void readSites(FieldReader& reader, const Json& root, SitesConfig& sites) {
 
 MachineConfig readConfig(FieldReader& reader, const Json& root, const MachineConfig& defaults) {
     MachineConfig config = defaults;
-    if (!reader.isObject(root, "the whole")) return config;
+    if (!reader.isObject(root, "το περιεχόμενο")) return config;
     readScreen(reader, root, config.screen);
     readMetrics(reader, root, config);
     readDrives(reader, root, config);
@@ -244,7 +247,7 @@ Result<MachineConfig> parseMachineConfig(std::string_view json, std::string_view
     try {
         root = Json::parse(json);
     } catch (const Json::parse_error& error) {
-        return Failure{prefix + "not JSON: " + error.what()};
+        return Failure{prefix + "δεν είναι JSON: " + error.what()};
     }
     FieldReader reader;
     MachineConfig config = readConfig(reader, root, defaults);
@@ -255,8 +258,8 @@ Result<MachineConfig> parseMachineConfig(std::string_view json, std::string_view
 Result<MachineConfig> loadMachineConfig(const std::filesystem::path& path, const MachineConfig& defaults) {
     FileHandle file = FileHandle::openForReading(path);
     const auto text = file ? file.readAll(maxFileSize + 1) : std::nullopt;
-    if (!text) return Failure{path.string() + ": cannot be read"};
-    if (text->size() > maxFileSize) return Failure{path.string() + ": too long"};
+    if (!text) return Failure{path.string() + ": δεν διαβάζεται"};
+    if (text->size() > maxFileSize) return Failure{path.string() + ": είναι πολύ μεγάλο"};
     return parseMachineConfig(*text, path.string(), defaults);
 }
 

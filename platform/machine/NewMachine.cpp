@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 
 std::string parentFolder(const std::string& dosPath) { return dosPath.substr(0, dosPath.find_last_of('\\')); }
 
-Failure cannotMake(const std::string& what) { return {what + ": cannot be made"}; }
+Failure cannotMake(const std::string& what) { return {what + ": δεν δημιουργείται"}; }
 
 MachineConfig completeConfig(const NewMachineOptions& options) {
     MachineConfig config = options.config;
@@ -63,12 +63,12 @@ Result<void> copyModules(const FileSystem& files, const NewMachineOptions& optio
     const auto target = files.nativePath(options.modulesTo);
     const auto modules = modulesIn(options.modulesFrom);
     if (!modules || modules->empty())
-        return Failure{options.modulesFrom.string() + ": no component modules there"};
+        return Failure{options.modulesFrom.string() + ": δεν περιέχει τα μέρη του προγράμματος"};
     std::uint64_t copied = 0;
     for (const fs::path& module : *modules) {
-        if (!GoesOn(step, copied++, modules->size())) return Failure{module.string() + ": cancelled"};
+        if (!GoesOn(step, copied++, modules->size())) return Failure{module.string() + ": ακυρώθηκε"};
         if (!target || !copyFileOver(module, *target / module.filename())) {
-            return Failure{module.string() + ": cannot be copied to " + toUtf8(options.modulesTo)};
+            return Failure{module.string() + ": δεν αντιγράφεται στον φάκελο " + toUtf8(options.modulesTo)};
         }
     }
     return {};
@@ -123,7 +123,7 @@ std::optional<std::vector<fs::path>> modulesIn(const fs::path& folder) {
 Result<void> makeMachine(const fs::path& folder, const NewMachineOptions& options, const ProgressStep& step) {
     std::error_code error;
     if (!options.discFolder.empty() && !fs::is_directory(options.discFolder, error)) {
-        return Failure{options.discFolder.string() + ": no such folder"};
+        return Failure{options.discFolder.string() + ": δεν υπάρχει τέτοιος φάκελος"};
     }
     const MachineConfig config = completeConfig(options);
     if (auto done = makeDriveFolders(folder, config); !done) return done;

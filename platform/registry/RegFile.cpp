@@ -101,7 +101,7 @@ Result<Registry> parseRegText(std::string_view bytes, std::string_view name) {
 
 Result<Registry> loadRegFile(const std::filesystem::path& path) {
     const auto bytes = readBytes(path);
-    if (!bytes) return Failure{path.string() + ": cannot be read"};
+    if (!bytes) return Failure{path.string() + ": δεν διαβάζεται"};
     return parseRegText(*bytes, path.string());
 }
 

@@ -20,7 +20,7 @@ std::string_view trimmedEnd(std::string_view text) {
 }  // namespace
 
 Result<RegistryNode> RegFileReader::read() {
-    if (!readAll()) return Failure{"line " + std::to_string(line()) + ": " + problem_};
+    if (!readAll()) return Failure{"γραμμή " + std::to_string(line()) + ": " + problem_};
     return std::move(tree_);
 }
 
@@ -42,7 +42,7 @@ bool RegFileReader::checkEncoding() {
         const auto character = codepage::decodeUtf8(text_, at);
         if (character.value == codepage::Utf8Character::malformed) {
             at_ = at;
-            return fail("bytes that are no UTF-8");
+            return fail("δεν είναι UTF-8");
         }
         at += character.length;
     }
@@ -51,7 +51,7 @@ bool RegFileReader::checkEncoding() {
 
 bool RegFileReader::readHeader() {
     if (trimmedEnd(restOfLine()) != regFileHeader) {
-        return fail("the line is not \"" + std::string(regFileHeader) + "\"");
+        return fail("η γραμμή δεν είναι \"" + std::string(regFileHeader) + "\"");
     }
     at_ += restOfLine().size();
     return true;
@@ -69,27 +69,27 @@ bool RegFileReader::readLine() {
         case '"':
             return readValue();
         default:
-            return fail("neither a key nor a value");
+            return fail("δεν είναι ούτε κλειδί ούτε τιμή");
     }
 }
 
 bool RegFileReader::readKey() {
     const std::string_view line = trimmedEnd(restOfLine());
-    if (!line.ends_with(']')) return fail("a key without its closing bracket");
+    if (!line.ends_with(']')) return fail("από το κλειδί λείπει η αγκύλη στο τέλος");
     const std::string_view path = line.substr(1, line.size() - 2);
     if (path.starts_with('-')) {
         tree_.remove(path.substr(1));
         key_ = nullptr;
     } else {
         key_ = tree_.make(path);
-        if (!key_ || key_ == &tree_) return fail("a key whose path is empty or too deep");
+        if (!key_ || key_ == &tree_) return fail("η διαδρομή του κλειδιού είναι κενή ή έχει πάρα πολλά μέρη");
     }
     at_ += line.size();
     return endLine();
 }
 
 bool RegFileReader::readValue() {
-    if (!key_) return fail("a value outside a key");
+    if (!key_) return fail("η τιμή δεν ανήκει σε κλειδί");
     std::optional<std::string> name;
     if (take("@")) {
         name.emplace();
@@ -98,7 +98,7 @@ bool RegFileReader::readValue() {
     }
     if (!name) return false;
     skipBlanks();
-    if (!take("=")) return fail("a value without an equals sign");
+    if (!take("=")) return fail("από την τιμή λείπει το ίσον");
     skipBlanks();
     return readData(*name) && endLine();
 }
@@ -116,14 +116,14 @@ bool RegFileReader::readData(const std::string& name) {
         key_->values.erase(registryLookupName(name));
         return true;
     }
-    return fail("a value of unknown kind");
+    return fail("η τιμή είναι άγνωστου είδους");
 }
 
 bool RegFileReader::readDword(const std::string& name) {
     const std::string_view rest = restOfLine();
     std::uint32_t number = 0;
     const auto [end, error] = std::from_chars(rest.data(), rest.data() + rest.size(), number, 16);
-    if (error != std::errc()) return fail("a number that is not of one to eight hexadecimal digits");
+    if (error != std::errc()) return fail("ο αριθμός δεν έχει ένα έως οκτώ δεκαεξαδικά ψηφία");
     at_ += static_cast<std::size_t>(end - rest.data());
     key_->setValue(name, number);
     return true;
@@ -131,7 +131,7 @@ bool RegFileReader::readDword(const std::string& name) {
 
 bool RegFileReader::readOther(const std::string& name) {
     const std::string_view kind = restOfLine().substr(0, restOfLine().find(':') + 1);
-    if (kind.empty()) return fail("a value of unknown kind");
+    if (kind.empty()) return fail("η τιμή είναι άγνωστου είδους");
     std::string text(kind);
     at_ += kind.size();
     for (;;) {
@@ -142,7 +142,7 @@ bool RegFileReader::readOther(const std::string& name) {
         at_ = end;
         if (!take("\\")) break;
         skipBlanks();
-        if (!take("\n")) return fail("a backslash that does not end its line");
+        if (!take("\n")) return fail("μετά την ανάποδη κάθετο δεν τελειώνει η γραμμή");
     }
     key_->setValue(name, RegistryOther{std::move(text)});
     return true;
@@ -151,7 +151,7 @@ bool RegFileReader::readOther(const std::string& name) {
 bool RegFileReader::endLine() {
     skipBlanks();
     if (at_ < text_.size() && text_[at_] == ';') at_ += restOfLine().size();
-    return take("\n") || at_ == text_.size() || fail("something after the end of the key or value");
+    return take("\n") || at_ == text_.size() || fail("υπάρχει κάτι μετά το τέλος του κλειδιού ή της τιμής");
 }
 
 std::optional<std::string> RegFileReader::readQuoted() {
@@ -166,7 +166,7 @@ std::optional<std::string> RegFileReader::readQuoted() {
         if (escape) ++i;
         result += text_[i];
     }
-    fail("a text without its closing quote");
+    fail("από το κείμενο λείπουν τα εισαγωγικά στο τέλος");
     return std::nullopt;
 }
 

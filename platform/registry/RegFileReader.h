@@ -19,7 +19,7 @@ class RegFileReader {
     /// `text` is UTF-8 without a byte order mark and outlives the reader.
     explicit RegFileReader(std::string_view text) : text_(text) {}
 
-    /// The tree. For a damaged text the failure says "line N: " and what is wrong there. Called once.
+    /// The tree. For a damaged text the failure says "γραμμή N: " and what is wrong there. Called once.
     Result<RegistryNode> read();
 
   private:

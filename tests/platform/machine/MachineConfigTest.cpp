@@ -54,31 +54,31 @@ TEST(MachineConfig, WhatIsSavedIsLoaded) {
 
 TEST(MachineConfig, WhatIsWrongIsToldByName) {
     const std::pair<std::string, std::string> cases[] = {
-        {"", "m.json: not JSON"},
-        {"{\"screen\": ", "m.json: not JSON"},
-        {std::string(200000, '['), "m.json: not JSON"},
-        {"[]", "m.json: the whole must be an object"},
-        {R"({"screen": 3})", "m.json: screen must be an object"},
-        {R"({"screen": {"width": "1024"}})", "m.json: screen.width must be a whole number"},
-        {R"({"screen": {"height": 0}})", "m.json: screen.height must be a whole number from 1"},
-        {R"({"screen": {"bitsPerPixel": 1.5}})", "m.json: screen.bitsPerPixel must be"},
-        {R"({"screen": {"width": 99999999999999999999}})", "m.json: screen.width must be"},
-        {R"({"screen": {"width": 18446744073709551615}})", "m.json: screen.width must be"},
-        {R"({"metrics": {"SM_CYMENU": null}})", "m.json: metrics.SM_CYMENU must be"},
-        {R"({"metrics": []})", "m.json: metrics must be an object"},
-        {R"({"drives": {"CD": {}}})", "m.json: drives: \"CD\" is not a drive letter"},
-        {R"({"drives": {"c": {}}})", "m.json: drives: \"c\" is not a drive letter"},
-        {R"({"drives": {"": {}}})", "m.json: drives: \"\" is not a drive letter"},
-        {R"({"drives": {"D": {"type": "tape"}}})", "m.json: drives.D.type must be one of"},
-        {R"({"drives": {"D": {"type": 5}}})", "m.json: drives.D.type must be one of"},
-        {R"({"drives": {"D": {"folder": 5}}})", "m.json: drives.D.folder must be a text"},
-        {R"({"drives": {"D": "x"}})", "m.json: drives.D must be an object"},
-        {R"({"program": 1})", "m.json: program must be a text"},
-        {R"({"temp": "日"})", "m.json: temp has a character outside"},
-        {R"({"system": null})", "m.json: system must be a text"},
-        {R"({"printer": {"horzres": -1}})", "m.json: printer.horzres must be"},
-        {R"({"automation": "no"})", "m.json: automation must be true or false"},
-        {R"({"printer": true})", "m.json: printer must be an object"},
+        {"", "m.json: δεν είναι JSON"},
+        {"{\"screen\": ", "m.json: δεν είναι JSON"},
+        {std::string(200000, '['), "m.json: δεν είναι JSON"},
+        {"[]", "m.json: το περιεχόμενο πρέπει να είναι αντικείμενο"},
+        {R"({"screen": 3})", "m.json: screen πρέπει να είναι αντικείμενο"},
+        {R"({"screen": {"width": "1024"}})", "m.json: screen.width πρέπει να είναι ακέραιος"},
+        {R"({"screen": {"height": 0}})", "m.json: screen.height πρέπει να είναι ακέραιος από 1"},
+        {R"({"screen": {"bitsPerPixel": 1.5}})", "m.json: screen.bitsPerPixel πρέπει να είναι"},
+        {R"({"screen": {"width": 99999999999999999999}})", "m.json: screen.width πρέπει να είναι"},
+        {R"({"screen": {"width": 18446744073709551615}})", "m.json: screen.width πρέπει να είναι"},
+        {R"({"metrics": {"SM_CYMENU": null}})", "m.json: metrics.SM_CYMENU πρέπει να είναι"},
+        {R"({"metrics": []})", "m.json: metrics πρέπει να είναι αντικείμενο"},
+        {R"({"drives": {"CD": {}}})", "m.json: drives: το \"CD\" δεν είναι γράμμα"},
+        {R"({"drives": {"c": {}}})", "m.json: drives: το \"c\" δεν είναι γράμμα"},
+        {R"({"drives": {"": {}}})", "m.json: drives: το \"\" δεν είναι γράμμα"},
+        {R"({"drives": {"D": {"type": "tape"}}})", "m.json: drives.D.type πρέπει να είναι ένα από"},
+        {R"({"drives": {"D": {"type": 5}}})", "m.json: drives.D.type πρέπει να είναι ένα από"},
+        {R"({"drives": {"D": {"folder": 5}}})", "m.json: drives.D.folder πρέπει να είναι κείμενο"},
+        {R"({"drives": {"D": "x"}})", "m.json: drives.D πρέπει να είναι αντικείμενο"},
+        {R"({"program": 1})", "m.json: program πρέπει να είναι κείμενο"},
+        {R"({"temp": "日"})", "m.json: temp έχει χαρακτήρα εκτός"},
+        {R"({"system": null})", "m.json: system πρέπει να είναι κείμενο"},
+        {R"({"printer": {"horzres": -1}})", "m.json: printer.horzres πρέπει να είναι"},
+        {R"({"automation": "no"})", "m.json: automation πρέπει να είναι true ή false"},
+        {R"({"printer": true})", "m.json: printer πρέπει να είναι αντικείμενο"},
     };
     for (const auto& [json, expected] : cases) {
         const auto loaded = parseMachineConfig(json, "m.json");
@@ -86,7 +86,7 @@ TEST(MachineConfig, WhatIsWrongIsToldByName) {
         EXPECT_EQ(loaded.message().substr(0, expected.size()), expected);
     }
     const TestFolder folder;
-    EXPECT_EQ(loadMachineConfig(folder / "none").message(), (folder / "none").string() + ": cannot be read");
+    EXPECT_EQ(loadMachineConfig(folder / "none").message(), (folder / "none").string() + ": δεν διαβάζεται");
     EXPECT_FALSE(loadMachineConfig(folder.path()));
     EXPECT_FALSE(loadMachineConfig(folder.write("huge", std::string(2 << 20, ' ') + "{}")));
 }

@@ -104,28 +104,27 @@ TEST(RegFile, DamageIsToldWithFileAndLine) {
     for (int i = 0; i < 100000; ++i) deep += "\\a";
     const std::string key = header + "[HKEY_LOCAL_MACHINE\\A]\r\n";
     const std::pair<std::string, std::string> cases[] = {
-        {"", "r.reg, line 1"},
-        {"REGEDIT4\r\n", "r.reg, line 1"},
-        {std::string(100, '\0'), "r.reg, line 1"},
-        {header + "\"x\"=dword:1\r\n", "r.reg, line 3: a value outside a key"},
-        {header + "[HKEY_LOCAL_MACHINE\\A\r\n", "r.reg, line 3: a key without"},
-        {header + "[]\r\n", "r.reg, line 3: a key whose path"},
-        {header + deep + "]\r\n", "r.reg, line 3: a key whose path"},
-        {key + "junk\r\n", "r.reg, line 4: neither"},
-        {key + "\"x\"\r\n", "r.reg, line 4: a value without an equals"},
-        {key + "\"x\"=\r\n", "r.reg, line 4: a value of unknown"},
-        {key + "\"x\"=word:1\r\n", "r.reg, line 4: a value of unknown"},
-        {key + "\"x\"=hex(2\r\n", "r.reg, line 4: a value of unknown"},
-        {key + "\"x\"=dword:\r\n", "r.reg, line 4: a number"},
-        {key + "\"x\"=dword:123456789\r\n", "r.reg, line 4: a number"},
-        {key + "\"x\"=dword:12z\r\n", "r.reg, line 4: something after"},
-        {key + "\"x\"=\"a\" b\r\n", "r.reg, line 4: something after"},
-        {key + "\"x\"=hex:4,\\ 5\r\n", "r.reg, line 4: a backslash"},
-        {key + "\"x\"=\"never ended\r\n\r\n", "r.reg, line 4: a text without"},
-        {key + "\"x", "r.reg, line 4: a text without"},
-        {key + "\"x\"=\"\xE1\"\r\n", "r.reg, line 4: bytes that are no UTF-8"},
-        {asUtf16(u"Windows Registry Editor Version 5.00\r\n\xD800"),
-         "r.reg, line 2: bytes that are no UTF-8"},
+        {"", "r.reg, γραμμή 1"},
+        {"REGEDIT4\r\n", "r.reg, γραμμή 1"},
+        {std::string(100, '\0'), "r.reg, γραμμή 1"},
+        {header + "\"x\"=dword:1\r\n", "r.reg, γραμμή 3: η τιμή δεν ανήκει"},
+        {header + "[HKEY_LOCAL_MACHINE\\A\r\n", "r.reg, γραμμή 3: από το κλειδί λείπει"},
+        {header + "[]\r\n", "r.reg, γραμμή 3: η διαδρομή"},
+        {header + deep + "]\r\n", "r.reg, γραμμή 3: η διαδρομή"},
+        {key + "junk\r\n", "r.reg, γραμμή 4: δεν είναι ούτε"},
+        {key + "\"x\"\r\n", "r.reg, γραμμή 4: από την τιμή λείπει"},
+        {key + "\"x\"=\r\n", "r.reg, γραμμή 4: η τιμή είναι άγνωστου"},
+        {key + "\"x\"=word:1\r\n", "r.reg, γραμμή 4: η τιμή είναι άγνωστου"},
+        {key + "\"x\"=hex(2\r\n", "r.reg, γραμμή 4: η τιμή είναι άγνωστου"},
+        {key + "\"x\"=dword:\r\n", "r.reg, γραμμή 4: ο αριθμός"},
+        {key + "\"x\"=dword:123456789\r\n", "r.reg, γραμμή 4: ο αριθμός"},
+        {key + "\"x\"=dword:12z\r\n", "r.reg, γραμμή 4: υπάρχει κάτι"},
+        {key + "\"x\"=\"a\" b\r\n", "r.reg, γραμμή 4: υπάρχει κάτι"},
+        {key + "\"x\"=hex:4,\\ 5\r\n", "r.reg, γραμμή 4: μετά την ανάποδη"},
+        {key + "\"x\"=\"never ended\r\n\r\n", "r.reg, γραμμή 4: από το κείμενο λείπουν"},
+        {key + "\"x", "r.reg, γραμμή 4: από το κείμενο λείπουν"},
+        {key + "\"x\"=\"\xE1\"\r\n", "r.reg, γραμμή 4: δεν είναι UTF-8"},
+        {asUtf16(u"Windows Registry Editor Version 5.00\r\n\xD800"), "r.reg, γραμμή 2: δεν είναι UTF-8"},
         {asUtf16(u"Windows Registry Editor Version 5.00\r\n") + "[", ""},
     };
     for (const auto& [bytes, expected] : cases) {
@@ -134,9 +133,9 @@ TEST(RegFile, DamageIsToldWithFileAndLine) {
     }
     const TestFolder folder;
     EXPECT_EQ(loadRegFile(folder / "none.reg").message(),
-              (folder / "none.reg").string() + ": cannot be read");
+              (folder / "none.reg").string() + ": δεν διαβάζεται");
     EXPECT_FALSE(loadRegFile(folder.path()));
-    EXPECT_NE(loadRegFile(folder.write("empty.reg", "")).message().find("empty.reg, line 1"),
+    EXPECT_NE(loadRegFile(folder.write("empty.reg", "")).message().find("empty.reg, γραμμή 1"),
               std::string::npos);
 }
 
