@@ -1,16 +1,5 @@
 import { raised } from '../shared/numbers.js';
-import {
-  dataTable,
-  field,
-  form,
-  formulaNodes,
-  liveRegion,
-  makeTools,
-  part,
-  select,
-  show,
-  textInput,
-} from '../shared/parts.js';
+import { calculator, dataTable, field, formulaNodes, makeTools, part, select, textInput } from '../shared/parts.js';
 import { balance } from './logic.js';
 
 const EXAMPLES = [
@@ -24,7 +13,7 @@ const EXAMPLES = [
 ];
 
 const VERDICTS = {
-  right: ['right', 'Σωστά! Οι συντελεστές σου ισοσταθμίζουν την εξίσωση.'],
+  right: ['right', 'Σωστά. Οι συντελεστές σου ισοσταθμίζουν την εξίσωση.'],
   multiple: [
     'right',
     'Οι συντελεστές σου ισοσταθμίζουν την εξίσωση. Συνήθως όμως τους γράφουμε με τους μικρότερους ακέραιους αριθμούς:',
@@ -134,42 +123,30 @@ function stepParts(found) {
   ];
 }
 
+function answer(typed) {
+  const found = balance(typed);
+  const equation = equationNodes(found, i => coefficientText(found.coefficients[i]));
+  return [...verdictParts(found), part('p', { class: 'equation' }, equation), ...stepParts(found)];
+}
+
+const HINT =
+  'Γράψε το βέλος ως «->» και τα φορτία μετά από «^»: Cu^2+. Αν βάλεις δικούς σου συντελεστές, θα ελεγχθούν.';
+
 function build(box, { equation = EXAMPLES[0] }) {
   const typed = textInput(equation, { class: 'formula' });
   const examples = select([['', 'Διάλεξε…'], ...EXAMPLES.map(example => [example, printed(example)])], '');
-  const result = liveRegion();
-  const calculate = () =>
-    show(result, typed, () => {
-      const found = balance(typed.value);
-      return [
-        ...verdictParts(found),
-        part(
-          'p',
-          { class: 'equation' },
-          equationNodes(found, i => coefficientText(found.coefficients[i])),
-        ),
-        ...stepParts(found),
-      ];
-    });
+  const fields = [field('Χημική εξίσωση', typed, HINT), field('Παραδείγματα', examples)];
+  const calculate = calculator(box, {
+    button: 'Ισοστάθμισε',
+    fields,
+    answer: () => answer(typed.value),
+    control: typed,
+  });
   examples.addEventListener('change', () => {
     if (examples.value === '') return;
     typed.value = examples.value;
     calculate();
   });
-  box.append(
-    form(
-      'Ισοστάθμισε',
-      calculate,
-      field(
-        'Χημική εξίσωση',
-        typed,
-        'Γράψε το βέλος ως «->» και τα φορτία μετά από «^»: Cu^2+. Αν βάλεις δικούς σου συντελεστές, θα ελεγχθούν.',
-      ),
-      field('Παραδείγματα', examples),
-    ),
-    result,
-  );
-  calculate();
 }
 
 makeTools('balance', 'Ισοστάθμισε μια εξίσωση', build);

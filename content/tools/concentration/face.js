@@ -1,63 +1,51 @@
 import { formatNumber } from '../shared/numbers.js';
-import { field, form, formulaNodes, liveRegion, makeTools, part, show, textInput } from '../shared/parts.js';
+import {
+  calculator,
+  field,
+  formulaNodes,
+  makeTools,
+  numberInputs,
+  part,
+  row,
+  textInput,
+  textsOf,
+} from '../shared/parts.js';
 import { makeSolution } from './logic.js';
 
 const UNITS = { m: 'g', V: 'mL', c: 'mol/L' };
 
+// What the reader does to make the solution.
+function recipe(found, written) {
+  return part(
+    'p',
+    {},
+    `Για το διάλυμα ζυγίζεις ${written('m')} `,
+    formulaNodes(found.substance.pieces),
+    `, τα διαλύεις σε λίγο νερό και συμπληρώνεις νερό ως τα ${written('V')}. `,
+    `Η συγκέντρωση είναι ${written('c')} και η περιεκτικότητα ${formatNumber(found.percent, found.digits)} % w/v.`,
+  );
+}
+
+function answer(formula, inputs) {
+  const found = makeSolution(formula, textsOf(inputs));
+  const written = name => `${formatNumber(found[name], found.digits)} ${UNITS[name]}`;
+  const amount = formatNumber(found.n, found.digits);
+  const working = `M = ${found.substance.massText} g/mol, n = m : M = ${amount} mol, c = n : V`;
+  return [
+    part('p', { class: 'equation' }, `${found.blank} = ${written(found.blank)}`, part('small', {}, working)),
+    recipe(found, written),
+  ];
+}
+
 function build(box, { formula = 'NaCl', m = '', v = '250', c = '0,1' }) {
   const typed = textInput(formula, { class: 'formula' });
-  const inputs = Object.fromEntries(
-    Object.entries({ m, V: v, c }).map(([name, value]) => [
-      name,
-      textInput(value, { class: 'number', inputmode: 'decimal' }),
-    ]),
-  );
-  const result = liveRegion();
-  const calculate = () =>
-    show(result, null, () => {
-      const found = makeSolution(
-        typed.value,
-        Object.fromEntries(Object.entries(inputs).map(([name, input]) => [name, input.value])),
-      );
-      const written = name => `${formatNumber(found[name], found.digits)} ${UNITS[name]}`;
-      const formulaText = formulaNodes(found.substance.pieces);
-      return [
-        part(
-          'p',
-          { class: 'equation' },
-          `${found.blank} = ${written(found.blank)}`,
-          part(
-            'small',
-            {},
-            `M = ${found.substance.massText} g/mol, n = m : M = ${formatNumber(found.n, found.digits)} mol, c = n : V`,
-          ),
-        ),
-        part(
-          'p',
-          {},
-          `Για το διάλυμα ζυγίζεις ${written('m')} `,
-          formulaText,
-          `, τα διαλύεις σε λίγο νερό και συμπληρώνεις νερό ως τα ${written('V')}. Έχει συγκέντρωση ${written('c')}, δηλαδή ${formatNumber(found.percent, found.digits)} % w/v.`,
-        ),
-      ];
-    });
-  box.append(
+  const inputs = numberInputs({ m, V: v, c });
+  const fields = [
     part('p', {}, 'Άφησε κενό το μέγεθος που ζητάς.'),
-    form(
-      'Υπολόγισε',
-      calculate,
-      field('Διαλυμένη ουσία', typed, 'Ο χημικός της τύπος, για παράδειγμα NaOH ή CuSO4·5H2O.'),
-      part(
-        'div',
-        { class: 'row' },
-        field('Μάζα m (g)', inputs.m),
-        field('Όγκος διαλύματος V (mL)', inputs.V),
-        field('Συγκέντρωση c (mol/L)', inputs.c),
-      ),
-    ),
-    result,
-  );
-  calculate();
+    field('Διαλυμένη ουσία', typed, 'Ο χημικός της τύπος, για παράδειγμα NaOH ή CuSO4·5H2O.'),
+    row(field('Μάζα m (g)', inputs.m), field('Όγκος V (mL)', inputs.V), field('Συγκέντρωση c (mol/L)', inputs.c)),
+  ];
+  calculator(box, { fields, answer: () => answer(typed.value, inputs) });
 }
 
 makeTools('concentration', 'Παρασκεύασε ένα διάλυμα', build);

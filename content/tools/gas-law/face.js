@@ -1,61 +1,34 @@
 import { formatNumber } from '../shared/numbers.js';
-import { field, form, liveRegion, makeTools, part, show, textInput } from '../shared/parts.js';
+import { calculator, field, makeTools, numberInputs, part, row, textsOf } from '../shared/parts.js';
 import { gasLaw, QUANTITIES, ZERO_CELSIUS } from './logic.js';
 
 const SOLVED = { p: 'p = n · R · T : V', V: 'V = n · R · T : p', n: 'n = p · V : (R · T)', T: 'T = p · V : (n · R)' };
 
-// The formula with the numbers that were typed.
-function withNumbers(found) {
-  const text = name => formatNumber(found[name], found.digits);
-  return SOLVED[found.blank]
-    .slice(SOLVED[found.blank].indexOf('='))
-    .replace('R', '0,082')
-    .replace(/[pVnT]/g, text);
+// "V = n · R · T : p = 2,00 · 0,082 · 300 : 1,00"
+function working(found) {
+  const formula = SOLVED[found.blank];
+  const numbers = formula.slice(formula.indexOf('=')).replace('R', '0,082');
+  return `${formula} ${numbers.replace(/[pVnT]/g, name => formatNumber(found[name], found.digits))}`;
+}
+
+function answer(inputs) {
+  const found = gasLaw(textsOf(inputs));
+  const value = `${formatNumber(found[found.blank], found.digits)} ${QUANTITIES[found.blank].unit}`;
+  const celsius = formatNumber(found.T - ZERO_CELSIUS, found.digits);
+  return [
+    part('p', { class: 'equation' }, `${found.blank} = ${value}`, part('small', {}, working(found))),
+    part('p', { class: 'note' }, `R = 0,082 L·atm/(mol·K). Η θερμοκρασία είναι ${celsius} °C.`),
+  ];
 }
 
 function build(box, { p = '1', v = '', n = '2', t = '300' }) {
-  const inputs = Object.fromEntries(
-    Object.entries({ p, V: v, n, T: t }).map(([name, value]) => [
-      name,
-      textInput(value, { class: 'number', inputmode: 'decimal' }),
-    ]),
-  );
-  const result = liveRegion();
-  const calculate = () =>
-    show(result, null, () => {
-      const found = gasLaw(Object.fromEntries(Object.entries(inputs).map(([name, input]) => [name, input.value])));
-      const { unit } = QUANTITIES[found.blank];
-      return [
-        part(
-          'p',
-          { class: 'equation' },
-          `${found.blank} = ${formatNumber(found[found.blank], found.digits)} ${unit}`,
-          part('small', {}, `${SOLVED[found.blank].split(' =')[0]} ${withNumbers(found)}`),
-        ),
-        part(
-          'p',
-          { class: 'note' },
-          `R = 0,082 L·atm/(mol·K). Η θερμοκρασία είναι ${formatNumber(found.T - ZERO_CELSIUS, found.digits)} °C.`,
-        ),
-      ];
-    });
-  box.append(
+  const inputs = numberInputs({ p, V: v, n, T: t });
+  const fields = [
     part('p', {}, 'Άφησε κενό το μέγεθος που ζητάς.'),
-    form(
-      'Υπολόγισε',
-      calculate,
-      part(
-        'div',
-        { class: 'row' },
-        field('Πίεση p (atm)', inputs.p),
-        field('Όγκος V (L)', inputs.V),
-        field('Ποσότητα n (mol)', inputs.n),
-        field('Θερμοκρασία T (K)', inputs.T, 'T = θ + 273'),
-      ),
-    ),
-    result,
-  );
-  calculate();
+    row(field('Πίεση p (atm)', inputs.p), field('Όγκος V (L)', inputs.V)),
+    row(field('Ποσότητα n (mol)', inputs.n), field('Θερμοκρασία T (K)', inputs.T, 'T = θ + 273')),
+  ];
+  calculator(box, { fields, answer: () => answer(inputs) });
 }
 
 makeTools('gas-law', 'Υπολόγισε με την καταστατική εξίσωση', build);

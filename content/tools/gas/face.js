@@ -1,5 +1,5 @@
 import { formatNumber } from '../shared/numbers.js';
-import { field, liveRegion, makeTools, part, select } from '../shared/parts.js';
+import { field, liveRegion, makeTools, part, row, select } from '../shared/parts.js';
 import { lawOf, particleCount, Particles, pressure, RANGES, volume } from './logic.js';
 
 const LABELS = { p: 'Πίεση p', V: 'Όγκος V', n: 'Ποσότητα n', T: 'Θερμοκρασία T' };
@@ -182,7 +182,7 @@ function build(box) {
     readout,
     law,
     field('Τι προσαρμόζεται;', adapted),
-    part('div', { class: 'row' }, Object.values(fields)),
+    row(...Object.values(fields)),
   );
   showState();
   new ResizeObserver(() => vessel.draw()).observe(box);

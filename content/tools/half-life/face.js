@@ -1,6 +1,6 @@
 import { graph } from '../shared/graph.js';
 import { formatNumber } from '../shared/numbers.js';
-import { dataTable, field, form, liveRegion, makeTools, part, select, show, textInput } from '../shared/parts.js';
+import { calculator, dataTable, field, makeTools, numberInputs, part, row, select, textsOf } from '../shared/parts.js';
 import { decay, ISOTOPES, remainingShare, UNITS } from './logic.js';
 
 const FEWEST_HALF_LIVES_SHOWN = 5;
@@ -57,57 +57,55 @@ const halvesTable = (found, unit) =>
     ]),
   );
 
-function build(box, { isotope = 'C-14', start = '100', time = '', rest = '25' }) {
-  const isotopes = select([...ISOTOPES.map(({ symbol, name }) => [symbol, `${name}`]), ['', 'άλλο ισότοπο']], isotope);
-  const unit = select(Object.entries(UNITS), 'y');
-  const inputs = { halfLife: '', start, time, rest };
-  for (const [name, value] of Object.entries(inputs))
-    inputs[name] = textInput(value, { class: 'number', inputmode: 'decimal' });
-  const result = liveRegion();
-  const takeIsotope = () => {
-    const chosen = ISOTOPES.find(({ symbol }) => symbol === isotopes.value);
-    if (chosen) [inputs.halfLife.value, unit.value] = [chosen.halfLife, chosen.unit];
-    else inputs.halfLife.focus();
-  };
-  const calculate = () =>
-    show(result, null, () => {
-      const found = decay(Object.fromEntries(Object.entries(inputs).map(([name, input]) => [name, input.value])));
-      const unitName = UNITS[unit.value];
-      return [
-        part('p', { class: 'equation' }, inWords(found, unitName)),
-        part(
-          'p',
-          {},
-          'N = N',
-          part('sub', {}, '0'),
-          ' · (1/2)',
-          part('sup', {}, 't : T'),
-          `, όπου t : T = ${formatNumber(found.halfLives, found.digits)}.`,
-        ),
-        decayGraph(found, unitName),
-        halvesTable(found, unitName),
-      ];
-    });
-  isotopes.addEventListener('change', takeIsotope);
-  const row = (...fields) => part('div', { class: 'row' }, fields);
-  box.append(
-    part('p', {}, 'Σε κάθε χρόνο υποδιπλασιασμού διασπώνται οι μισοί από τους πυρήνες που είχαν απομείνει.'),
-    form(
-      'Υπολόγισε',
-      calculate,
-      field('Ισότοπο', isotopes),
-      row(field('Χρόνος υποδιπλασιασμού T', inputs.halfLife), field('Μονάδα του χρόνου', unit)),
-      part(
-        'p',
-        { class: 'note' },
-        'Άφησε κενό εκείνο που ζητάς. Οι ποσότητες γράφονται στην ίδια μονάδα: g, mol, Bq ή %.',
-      ),
-      row(field('Αρχική ποσότητα N₀', inputs.start), field('Χρόνος t', inputs.time), field('Απομένει N', inputs.rest)),
-    ),
-    result,
+const law = found =>
+  part(
+    'p',
+    {},
+    'N = N',
+    part('sub', {}, '0'),
+    ' · (1/2)',
+    part('sup', {}, 't : T'),
+    `, όπου t : T = ${formatNumber(found.halfLives, found.digits)}.`,
   );
-  takeIsotope();
-  calculate();
+
+function answer(inputs, unit) {
+  const found = decay(textsOf(inputs));
+  return [
+    part('p', { class: 'equation' }, inWords(found, unit)),
+    law(found),
+    decayGraph(found, unit),
+    halvesTable(found, unit),
+  ];
+}
+
+// The choice of an isotope, which fills in its half-life.
+function isotopeSelect(chosen, halfLife, unit) {
+  const choice = select([...ISOTOPES.map(({ symbol, name }) => [symbol, name]), ['', 'άλλο ισότοπο']], chosen);
+  const take = () => {
+    const isotope = ISOTOPES.find(({ symbol }) => symbol === choice.value);
+    if (isotope) [halfLife.value, unit.value] = [isotope.halfLife, isotope.unit];
+    else halfLife.focus();
+  };
+  choice.addEventListener('change', take);
+  take();
+  return choice;
+}
+
+function build(box, { isotope = 'C-14', start = '100', time = '', rest = '25' }) {
+  const unit = select(Object.entries(UNITS), 'y');
+  const inputs = numberInputs({ halfLife: '', start, time, rest });
+  const fields = [
+    part('p', {}, 'Σε κάθε χρόνο υποδιπλασιασμού διασπώνται οι μισοί από τους πυρήνες που είχαν απομείνει.'),
+    field('Ισότοπο', isotopeSelect(isotope, inputs.halfLife, unit)),
+    row(field('Χρόνος υποδιπλασιασμού T', inputs.halfLife), field('Μονάδα του χρόνου', unit)),
+    part(
+      'p',
+      { class: 'note' },
+      'Άφησε κενό εκείνο που ζητάς. Οι ποσότητες γράφονται στην ίδια μονάδα: g, mol, Bq ή %.',
+    ),
+    row(field('Αρχική ποσότητα N₀', inputs.start), field('Χρόνος t', inputs.time), field('Απομένει N', inputs.rest)),
+  ];
+  calculator(box, { fields, answer: () => answer(inputs, UNITS[unit.value]) });
 }
 
 makeTools('half-life', 'Υπολόγισε μια ραδιενεργό διάσπαση', build);

@@ -1,14 +1,12 @@
 import { digitsOf, formatNumber, parsePositive } from '../shared/numbers.js';
 import {
-  checkbox,
+  calculator,
   dataTable,
   field,
-  form,
   formulaNodes,
-  liveRegion,
   makeTools,
+  numberInput,
   part,
-  show,
   textInput,
 } from '../shared/parts.js';
 import { molarMass } from './logic.js';
@@ -50,33 +48,27 @@ const isotopeNote = rows =>
       ),
     );
 
-function build(box, { formula = 'H2SO4', mass = '' }) {
-  const typed = textInput(formula, { class: 'formula' });
-  const sample = textInput(mass, { inputmode: 'decimal', class: 'number' });
-  const rounded = checkbox('Ar στρογγυλεμένες, όπως στα σχολικά βιβλία', { change: () => calculate() });
-  const result = liveRegion();
-  const calculate = () =>
-    show(result, typed, () => {
-      const found = molarMass(typed.value, rounded.querySelector('input').checked);
-      return [
-        part('p', { class: 'equation' }, 'M (', formulaNodes(found.pieces), `) = ${found.massText} g/mol`),
-        ...massTableWithNotes(found),
-        ...sampleLines(found, sample.value),
-      ];
-    });
-  box.append(
-    form(
-      'Υπολόγισε',
-      calculate,
-      field('Χημικός τύπος', typed, 'Γράψε τους δείκτες ως απλούς αριθμούς: Ca(OH)2, CuSO4·5H2O.'),
-      field('Μάζα δείγματος σε g (προαιρετικά)', sample),
-      rounded,
-    ),
-    result,
-  );
-  calculate();
+function answer(formula, mass, rounds) {
+  const found = molarMass(formula, rounds);
+  const result = part('p', { class: 'equation' }, 'M (', formulaNodes(found.pieces), `) = ${found.massText} g/mol`);
+  return [result, massTable(found), ...isotopeNote(found.rows), ...sampleLines(found, mass)];
 }
 
-const massTableWithNotes = found => [massTable(found), ...isotopeNote(found.rows)];
+function build(box, { formula = 'H2SO4', mass = '' }) {
+  const typed = textInput(formula, { class: 'formula' });
+  const sample = numberInput(mass);
+  const rounds = part('input', { type: 'checkbox' });
+  const fields = [
+    field('Χημικός τύπος', typed, 'Γράψε τους δείκτες ως απλούς αριθμούς: Ca(OH)2, CuSO4·5H2O.'),
+    field('Μάζα δείγματος σε g (προαιρετικά)', sample),
+    part('p', { class: 'choice' }, part('label', {}, rounds, ' Ar με ένα δεκαδικό, όπως στις ασκήσεις')),
+  ];
+  const calculate = calculator(box, {
+    fields,
+    answer: () => answer(typed.value, sample.value, rounds.checked),
+    control: typed,
+  });
+  rounds.addEventListener('change', calculate);
+}
 
 makeTools('molar-mass', 'Υπολόγισε τη μάζα ενός mol', build);

@@ -1,5 +1,5 @@
 import { parseFormula } from '../shared/formula.js';
-import { field, formulaNodes, liveRegion, makeTools, part, select, show, textInput } from '../shared/parts.js';
+import { field, formulaNodes, liveRegion, makeTools, part, row, select, show, textInput } from '../shared/parts.js';
 import { checkFormula, checkName, pick, reason } from './logic.js';
 
 const LEVELS = [
@@ -16,7 +16,7 @@ const VERDICTS = {
   right: '✓ Σωστά.',
   wrong: '✗ Όχι. Δοκίμασε ξανά.',
   empty: 'Γράψε πρώτα την απάντησή σου.',
-  number: 'Σχεδόν! Έλεγξε τον αριθμό οξείδωσης στην παρένθεση.',
+  number: 'Σχεδόν. Έλεγξε τον αριθμό οξείδωσης στην παρένθεση.',
   order:
     'Τα άτομα είναι σωστά, ο τύπος όμως δεν γράφεται έτσι. Πρώτο γράφεται το κατιόν, και τα ιόντα με πολλά άτομα μένουν ενωμένα.',
 };
@@ -51,7 +51,7 @@ class Practice {
       this.isOver ? this.goOn() : show(this.said, this.typed, () => this.judge());
     };
     box.append(
-      part('div', { class: 'row' }, field('Τι θα εξασκήσεις;', this.directions), field('Ενώσεις', this.levels)),
+      row(field('Τι θα εξασκήσεις;', this.directions), field('Ενώσεις', this.levels)),
       part(
         'form',
         { novalidate: true, submit },

@@ -1,5 +1,5 @@
 import { formatFixed, formatNumber } from '../shared/numbers.js';
-import { dataTable, field, form, liveRegion, makeTools, part, show, textInput } from '../shared/parts.js';
+import { calculator, dataTable, field, makeTools, numberInput, part, row } from '../shared/parts.js';
 import { substanceFields } from '../shared/substances.js';
 import { solution } from './logic.js';
 
@@ -70,41 +70,29 @@ function approximation(found) {
   ];
 }
 
+function ionTable(found) {
+  const ion = (name, value) => [part('span', {}, name), `${formatNumber(value)} mol/L`];
+  const rows = [ion(hydronium(), found.h), ion(hydroxide(), found.oh)];
+  return dataTable('Τα ιόντα του νερού στο διάλυμα (25 °C)', [['Ιόν'], ['Συγκέντρωση', 'num']], rows);
+}
+
+function answer(solute, concentration) {
+  const found = solution({ ...solute, concentration });
+  const more = `Το διάλυμα είναι ${character(found.pH)}. pOH = ${formatFixed(found.pOH, 2)}`;
+  return [
+    part('p', { class: 'equation' }, `pH = ${formatFixed(found.pH, 2)}`, part('small', {}, more)),
+    scale(found.pH),
+    part('p', {}, explanation(found)),
+    ...approximation(found),
+    ionTable(found),
+  ];
+}
+
 function build(box, { substance = 'CH3COOH', concentration = '0,1' }) {
   const solute = substanceFields(substance);
-  const typed = textInput(concentration, { class: 'number', inputmode: 'decimal' });
-  const result = liveRegion();
-  const calculate = () =>
-    show(result, null, () => {
-      const found = solution({ ...solute.read(), concentration: typed.value });
-      const row = (name, value) => [part('span', {}, name), `${formatNumber(value)} mol/L`];
-      return [
-        part(
-          'p',
-          { class: 'equation' },
-          `pH = ${formatFixed(found.pH, 2)}`,
-          part('small', {}, `Το διάλυμα είναι ${character(found.pH)}. pOH = ${formatFixed(found.pOH, 2)}`),
-        ),
-        scale(found.pH),
-        part('p', {}, explanation(found)),
-        ...approximation(found),
-        dataTable(
-          'Τα ιόντα του νερού στο διάλυμα (25 °C)',
-          [['Ιόν'], ['Συγκέντρωση', 'num']],
-          [row(hydronium(), found.h), row(hydroxide(), found.oh)],
-        ),
-      ];
-    });
-  box.append(
-    form(
-      'Υπολόγισε',
-      calculate,
-      solute.nodes[0],
-      part('div', { class: 'row' }, solute.nodes[1], field('Συγκέντρωση c (mol/L)', typed)),
-    ),
-    result,
-  );
-  calculate();
+  const typed = numberInput(concentration);
+  const fields = [solute.choice, row(solute.constant, field('Συγκέντρωση c (mol/L)', typed))];
+  calculator(box, { fields, answer: () => answer(solute.read(), typed.value) });
 }
 
 makeTools('ph', 'Υπολόγισε το pH', build);

@@ -97,7 +97,12 @@ class Graph {
   mark({ x, y, label = '', isChosen = false }) {
     const isRight = this.atX(x) > SIZE.width * 0.7;
     return [
-      shape('circle', { class: isChosen ? 'chosen' : 'mark', cx: this.atX(x), cy: this.atY(y), r: isChosen ? 6 : 4.5 }),
+      shape('circle', {
+        class: isChosen ? 'chosen' : 'mark',
+        cx: this.atX(x),
+        cy: this.atY(y),
+        r: isChosen ? 6 : 4.5,
+      }),
       shape(
         'text',
         { x: this.atX(x) + (isRight ? -10 : 10), y: this.atY(y) - 8, 'text-anchor': isRight ? 'end' : 'start' },

@@ -56,8 +56,11 @@ export const digitsOf = (...numbers) => Math.max(FEWEST_DIGITS, Math.min(...numb
 
 const withComma = text => text.replace('.', ',').replace('-', MINUS);
 
+// From five digits on, thousands stand apart.
+const withThousands = text => text.replace(/^-?\d{5,}/, digits => digits.replace(/\B(?=(\d{3})+$)/g, '\u00A0'));
+
 // With so many decimals.
-export const formatFixed = (value, decimals) => withComma(value.toFixed(decimals));
+export const formatFixed = (value, decimals) => withComma(withThousands(value.toFixed(decimals)));
 
 export const raised = exponent => [...String(exponent)].map(c => (c === '-' ? '⁻' : RAISED[c])).join('');
 
@@ -67,6 +70,6 @@ export function formatNumber(value, digits = FEWEST_DIGITS) {
   const [mantissa, power] = value.toExponential(digits - 1).split('e');
   const exponent = Number(power);
   const isPlain = exponent >= SMALLEST_PLAIN_EXPONENT && exponent <= LARGEST_PLAIN_EXPONENT && exponent < digits;
-  if (isPlain) return withComma(Number(value.toExponential(digits - 1)).toFixed(digits - 1 - exponent));
+  if (isPlain) return formatFixed(Number(value.toExponential(digits - 1)), digits - 1 - exponent);
   return `${withComma(mantissa)}${TIMES}10${raised(exponent)}`;
 }

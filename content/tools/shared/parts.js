@@ -43,6 +43,18 @@ export function field(label, control, hint) {
 export const textInput = (value = '', attributes = {}) =>
   part('input', { type: 'text', autocomplete: 'off', spellcheck: 'false', value, ...attributes });
 
+export const numberInput = (value = '') => textInput(value, { class: 'number', inputmode: 'decimal' });
+
+const mapped = (object, change) =>
+  Object.fromEntries(Object.entries(object).map(([name, value]) => [name, change(value)]));
+
+// Inputs for numbers, by the names of what they hold at first; and what they hold.
+export const numberInputs = values => mapped(values, numberInput);
+export const textsOf = inputs => mapped(inputs, input => input.value);
+
+// Fields side by side, as far as there is room.
+export const row = (...fields) => part('div', { class: 'row' }, fields);
+
 // `options`: [value, text] each.
 export const select = (options, chosen) =>
   part(
@@ -50,9 +62,6 @@ export const select = (options, chosen) =>
     {},
     options.map(([value, text]) => part('option', { value, selected: value === chosen }, text)),
   );
-
-export const checkbox = (label, attributes = {}) =>
-  part('p', { class: 'choice' }, part('label', {}, part('input', { type: 'checkbox', ...attributes }), ' ', label));
 
 // What changes by what the reader does; screen readers tell of it.
 export const liveRegion = (attributes = {}) => part('div', { class: 'result', role: 'status', ...attributes });
@@ -124,3 +133,13 @@ export const form = (button, act, ...children) =>
     ...children,
     part('p', { class: 'buttons' }, part('button', { type: 'submit' }, button)),
   );
+
+// Most tools: a form, and below it what `answer` makes of it, at first and whenever it is sent. `control` is the field
+// that is marked when there is a mistake. The result calculates once more.
+export function calculator(box, { button = 'Υπολόγισε', fields, answer, control = null }) {
+  const result = liveRegion();
+  const calculate = () => show(result, control, answer);
+  box.append(form(button, calculate, ...fields), result);
+  calculate();
+  return calculate;
+}

@@ -23,7 +23,7 @@ function substanceSelect(chosen) {
   return part('select', {}, [...labels].map(group), part('optgroup', { label: 'Άλλη ουσία' }, options(OTHERS)));
 }
 
-// { nodes: the two fields, read: a function that gives { isAcid, constant } with the constant as typed or null }.
+// The fields `choice` and `constant`, and `read`, which gives { isAcid, constant } with the constant as typed or null.
 export function substanceFields(chosen) {
   const substance = substanceSelect(chosen);
   const constant = textInput('', { class: 'number' });
@@ -38,7 +38,8 @@ export function substanceFields(chosen) {
   substance.addEventListener('change', take);
   take();
   return {
-    nodes: [field('Οξύ ή βάση', substance), constantField],
+    choice: field('Οξύ ή βάση', substance),
+    constant: constantField,
     read: () => ({ isAcid: isAcid(), constant: constantField.hidden ? null : constant.value }),
   };
 }

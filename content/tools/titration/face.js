@@ -1,6 +1,6 @@
 import { graph } from '../shared/graph.js';
 import { formatFixed, formatNumber } from '../shared/numbers.js';
-import { dataTable, field, form, liveRegion, makeTools, part, select, show, textInput } from '../shared/parts.js';
+import { calculator, dataTable, field, makeTools, numberInputs, part, row, select, textsOf } from '../shared/parts.js';
 import { substanceFields } from '../shared/substances.js';
 import {
   colourAt,
@@ -137,51 +137,37 @@ function makeBurette(indicator) {
   return { node, pour };
 }
 
+// The sample and where its equivalence point is.
+function equivalenceText(titration) {
+  const right = equivalenceVolume(titration);
+  const standard = titration.isAcid ? 'ισχυρής βάσης (NaOH)' : 'ισχυρού οξέος (HCl)';
+  const pH = formatFixed(phAt(titration, right), 2);
+  return `Ισοδύναμο σημείο (Ι.Σ.): ${millilitres(right)} πρότυπου διαλύματος ${standard}, με pH ${pH}.`;
+}
+
 function build(box, { substance = 'CH3COOH', concentration = '0,1', volume = '25', titrant = '0,1' }) {
   const solute = substanceFields(substance);
-  const [c, v, standard] = [concentration, volume, titrant].map(value =>
-    textInput(value, { class: 'number', inputmode: 'decimal' }),
-  );
+  const inputs = numberInputs({ concentration, volume, titrant });
   const indicator = select([['', 'χωρίς δείκτη'], ...INDICATORS.map(({ id, name }) => [id, name])], '');
   const burette = makeBurette(indicator);
-  const result = liveRegion();
-  const calculate = () => {
+  const answer = () => {
     burette.pour(null);
-    show(result, null, () => {
-      const titration = readTitration({
-        ...solute.read(),
-        concentration: c.value,
-        volume: v.value,
-        titrant: standard.value,
-      });
-      burette.pour(titration);
-      const right = equivalenceVolume(titration);
-      return part(
-        'p',
-        {},
-        `Ισοδύναμο σημείο (Ι.Σ.): ${millilitres(right)} πρότυπου διαλύματος ${titration.isAcid ? 'ισχυρής βάσης (NaOH)' : 'ισχυρού οξέος (HCl)'}, με pH ${formatFixed(phAt(titration, right), 2)}.`,
-      );
-    });
+    const titration = readTitration({ ...solute.read(), ...textsOf(inputs) });
+    burette.pour(titration);
+    return part('p', {}, equivalenceText(titration));
   };
-  box.append(
-    form(
-      'Σχεδίασε την καμπύλη',
-      calculate,
-      solute.nodes[0],
-      part(
-        'div',
-        { class: 'row' },
-        solute.nodes[1],
-        field('Συγκέντρωση (mol/L)', c),
-        field('Όγκος (mL)', v),
-        field('Πρότυπο διάλυμα (mol/L)', standard),
-      ),
-      field('Δείκτης', indicator),
+  const fields = [
+    solute.choice,
+    row(
+      solute.constant,
+      field('Συγκέντρωση (mol/L)', inputs.concentration),
+      field('Όγκος (mL)', inputs.volume),
+      field('Πρότυπο διάλυμα (mol/L)', inputs.titrant),
     ),
-    result,
-    burette.node,
-  );
-  calculate();
+    field('Δείκτης', indicator),
+  ];
+  calculator(box, { button: 'Σχεδίασε την καμπύλη', fields, answer });
+  box.append(burette.node);
 }
 
 makeTools('titration', 'Παρακολούθησε μια ογκομέτρηση', build);
