@@ -4,12 +4,16 @@ import { Mistake } from './mistake.js';
 
 let ids = 0;
 
+// A number and its unit stay on one line.
+const unbroken = text => text.replace(/(\d) (?=(?:%|°C|g|mol|mL|L|atm|K)(?![\wά-ώ]))/g, '$1\u00A0');
+
 // An element with attributes (a function is a listener, `false` and `undefined` leave one out) and children, texts
 // or nodes.
 export function part(tag, attributes = {}, ...children) {
   const node = document.createElement(tag);
   for (const [name, value] of Object.entries(attributes)) setAttribute(node, name, value);
-  node.append(...children.flat(Infinity).filter(child => child !== undefined && child !== null));
+  const given = children.flat(Infinity).filter(child => child !== undefined && child !== null);
+  node.append(...given.map(child => (typeof child === 'string' ? unbroken(child) : child)));
   return node;
 }
 
