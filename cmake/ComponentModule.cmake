@@ -5,6 +5,7 @@ function(add_component_module NAME)
     add_library(${NAME} MODULE Module.cpp ${CMAKE_SOURCE_DIR}/controls/common/Module.cpp ${ARGN})
     use_rooms(${NAME} PRIVATE)
     target_link_libraries(${NAME} PRIVATE ${PARTS} Qt6::Widgets)
+    use_precompiled_headers(${NAME})
     target_link_options(${NAME} PRIVATE -Wl,--exclude-libs,ALL)
     set_target_properties(${NAME} PROPERTIES
         PREFIX "" SUFFIX ".ocx" LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/ActiveX)
