@@ -26,7 +26,7 @@ DataLibrary largeLibrary() {
         text += "name" + std::to_string(random() % 100000) + "\tgroup" + std::to_string(i % 7) + '\t' +
                 std::to_string(values(random)) + '\t' + std::to_string(values(random)) + '\n';
     }
-    return DataLibrary(*formats::decodeDataSet(text).set);
+    return DataLibrary(formats::decodeDataSet(text).set.value());
 }
 
 /// The pane of an analyser that shows the large data set.
