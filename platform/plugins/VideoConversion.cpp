@@ -21,7 +21,7 @@ QStringList trustedInput() {
 
 /// Pictures of square pixels, as browsers take them, and stereo sound where there is any. Gaps between
 /// pictures are filled: the engine would leave out all that follows one, up to the next key frame. The sound
-/// is Vorbis: in films with Opus from FFmpeg 7.1 the engine finds times that run backwards, and stops.
+/// is Vorbis: FFmpeg 7.1 lets Opus begin some milliseconds before 0, and the engine stops there.
 QStringList webm() {
     return QStringLiteral(
                "-map 0:v:0 -map 0:a:0? -vf "
