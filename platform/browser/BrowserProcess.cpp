@@ -53,13 +53,18 @@ bool isHostName(std::string_view name) {
 }
 
 void setEngineFlags() {
-    // No name resolves at first, so that no request that the policy does not see can reach the network
-    // either. All pages come from the same hands: one process draws them, instead of a new one for each that
-    // is opened.
+    // Content has no use for these, and the policy does not see all that they ask for.
     QByteArray flags =
+        "--disable-blink-features=FileSystemAccess,FileSystemAccessLocal,Presentation,SharedWorker,"
+        "WebTransport "
+        // Packets of connections between browsers pass the policy by; without a proxy there are none now.
+        "--force-webrtc-ip-handling-policy=disable_non_proxied_udp "
         "--disable-background-networking --disable-component-update --disable-domain-reliability "
         "--disable-sync --no-pings --log-level=3 "
+        // One process draws all pages, instead of a new one for each that is opened.
         "--renderer-process-limit=1";
+    // No name resolves at first, so that no request that the policy does not see can reach the network
+    // either.
     flags += hostRules({});
     const QByteArray platformName = qgetenv("QT_QPA_PLATFORM");
     if (platformName.startsWith("offscreen") || platformName.startsWith("minimal")) flags += " --disable-gpu";

@@ -2,13 +2,10 @@
 
 #include <QByteArray>
 #include <QWebEngineProfile>
-#include <QWebEngineScriptCollection>
 #include <QWebEngineSettings>
 
 #include "platform/browser/DriveSchemeHandler.h"
 #include "platform/browser/RequestInterceptor.h"
-#include "platform/plugins/EmbedScript.h"
-#include "platform/plugins/PluginTypes.h"
 #include "platform/qt/QtChild.h"
 
 namespace platform {
@@ -44,9 +41,6 @@ void setUp(QWebEngineProfile& profile) {
         profile.installUrlSchemeHandler(QByteArray(1, letter), &handler);
     }
     profile.setUrlRequestInterceptor(&makeQtChild<RequestInterceptor>(&profile));
-    if (const auto extensions = PluginTypes::instance().extensions(); !extensions.empty()) {
-        profile.scripts()->insert(embedScript(extensions));
-    }
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include "platform/browser/BrowserPolicy.h"
 #include "platform/browser/DriveSchemeHandler.h"
+#include "platform/browser/RequestPolicy.h"
 
 namespace platform {
 

@@ -11,7 +11,8 @@ namespace platform {
 /// Who makes a request, and for what.
 enum class RequestKind {
     program,   ///< the program, for the page that it shows
-    mainPage,  ///< a page, for another page in its place
+    mainPage,  ///< a page, for another page in its place, when the user has pressed something in it
+    onward,    ///< the same without that, as a page that leads on to another
     part,      ///< a page, for anything that it shows or reads: frames, pictures, files, scripts
 };
 

@@ -11,6 +11,7 @@
 #include "platform/browser/PagePrinter.h"
 #include "platform/browser/PageQuestions.h"
 #include "platform/browser/PluginWindows.h"
+#include "platform/browser/RequestPolicy.h"
 #include "platform/browser/WebPage.h"
 #include "platform/browser/WebView.h"
 #include "platform/components/ComponentLibrary.h"
@@ -89,8 +90,8 @@ std::optional<Variant> WebBrowserComponent::invoke(std::int32_t dispid, InvokeKi
 
 WebPage& WebBrowserComponent::page() {
     if (page_) return *page_;
-    page_ =
-        std::make_unique<WebPage>([this](const PageRequest& request) { return passes(request); }, nullptr);
+    page_ = std::make_unique<WebPage>([this](const PageRequest& request) { return passes(request); },
+                                      [this] { return view_->press().take(); }, nullptr);
     page_->setCommandHandler(
         [this](const std::string& component, LPARAM command) { sendCommand(component, command); });
     plugins_ = std::make_unique<PluginWindows>(*view_, *page_);
@@ -111,6 +112,7 @@ void WebBrowserComponent::navigate(const std::string& address, const Variant& fl
     record(TraceNavigate{controlId(), address, number ? *number : 0});
     const QUrl url = normalisedUrl(urlOfAddress(address));
     if (!passes({RequestKind::program, {}, url})) return;
+    view_->press().forget();
     // Asked only now: the page may have been made while a handler showed a message.
     if (page_) {
         page_->open(url);
@@ -127,13 +129,19 @@ std::shared_ptr<Dispatch> WebBrowserComponent::document() {
 
 bool WebBrowserComponent::passes(const PageRequest& request) {
     const std::string address = addressOfUrl(request.address);
+    // What a page does by itself the program is not asked about: it might open dialogs.
+    const bool cancel = request.kind != RequestKind::onward && isCancelled(address);
+    if (!cancel && BrowserPolicy::instance().admit(request)) return true;
+    record(TraceRefused{address});
+    return false;
+}
+
+bool WebBrowserComponent::isCancelled(const std::string& address) {
     bool cancel = false;
     std::array arguments = {Variant(address), Variant(std::int32_t{0}), Variant(std::string()),
                             Variant(),        Variant(std::string()),   Variant(&cancel)};
     site_.raiseEvent(beforeNavigateEvent, arguments);
-    if (!cancel && BrowserPolicy::instance().admit(request)) return true;
-    record(TraceRefused{address});
-    return false;
+    return cancel;
 }
 
 void WebBrowserComponent::sendCommand(const std::string& component, LPARAM command) {

@@ -57,6 +57,7 @@ class WebBrowserComponent : public Component, public WebPageInspector {
   private:
     WebPage& page();
     bool passes(const PageRequest& request);
+    bool isCancelled(const std::string& address);
     void sendCommand(const std::string& component, LPARAM command);
     int controlId() const;
 

@@ -3,17 +3,23 @@
 #include <QClipboard>
 #include <QColor>
 #include <QGuiApplication>
+#include <QLoggingCategory>
 #include <QMetaObject>
 #include <QPointer>
 #include <QUrlQuery>
 #include <QWebEngineNewWindowRequest>
+#include <QWebEngineScript>
+#include <QWebEngineScriptCollection>
 #include <chrono>
 #include <utility>
 
 #include "platform/browser/BrowserPolicy.h"
 #include "platform/browser/BrowserProfile.h"
+#include "platform/browser/ContentLimits.h"
 #include "platform/browser/DosUrl.h"
 #include "platform/browser/UnreachablePage.h"
+#include "platform/plugins/EmbedScript.h"
+#include "platform/plugins/PluginTypes.h"
 
 namespace platform {
 
@@ -22,10 +28,16 @@ namespace {
 /// How long a copy may take to arrive.
 constexpr std::chrono::milliseconds copyTime{500};
 
+Q_LOGGING_CATEGORY(consoleLog, "platform.browser.console")
+
+constexpr int maxMessages = 20;
+constexpr qsizetype maxMessageLength = 200;
+
 }  // namespace
 
-WebPage::WebPage(Gate gate, QObject* parent)
-    : QWebEnginePage(&browserProfile(), parent), gate_(std::move(gate)) {
+WebPage::WebPage(Gate gate, PressTaker takePress, QObject* parent)
+    : QWebEnginePage(&browserProfile(), parent), gate_(std::move(gate)), takePress_(std::move(takePress)) {
+    addScripts();
     setBackgroundColor(Qt::white);
     copyLimit_.setSingleShot(true);
     copyLimit_.setInterval(copyTime);
@@ -36,14 +48,27 @@ WebPage::WebPage(Gate gate, QObject* parent)
         [this](const QWebEngineNewWindowRequest& request) { requestLater(url(), request.requestedUrl()); });
 }
 
-void WebPage::go(const QUrl& asking, const QUrl& url) {
-    const QUrl target = normalisedUrl(url);
+/// Not to the profile: a page's process that takes the place of one that has ended would not get them from
+/// there.
+void WebPage::addScripts() {
+    scripts().insert(contentLimits());
+    if (const auto extensions = PluginTypes::instance().extensions(); !extensions.empty()) {
+        scripts().insert(embedScript(extensions));
+    }
+}
+
+void WebPage::go(const PageRequest& request) {
     const QPointer<WebPage> alive(this);
-    const bool passed = gate_({RequestKind::mainPage, asking, target});
-    if (alive && passed) open(target);
+    const bool passed = gate_(request);
+    if (alive && passed) load(request.address);
 }
 
 void WebPage::open(const QUrl& url) {
+    messages_ = 0;
+    load(url);
+}
+
+void WebPage::load(const QUrl& url) {
     toldUnreachable_ = false;
     arrival_.load(url);
 }
@@ -71,7 +96,7 @@ bool WebPage::isCommand(const QUrl& url) {
     const int command = query.queryItemValue(QStringLiteral("command")).toInt(&isNumber);
     if (component.empty() || !isNumber) return false;
     const auto send = [this, component, command] {
-        if (commandHandler_) commandHandler_(component, command);
+        if (commandHandler_ && takePress_()) commandHandler_(component, command);
     };
     // Not inside the engine's work: the command may open a dialog.
     QMetaObject::invokeMethod(this, send, Qt::QueuedConnection);
@@ -80,12 +105,21 @@ bool WebPage::isCommand(const QUrl& url) {
 
 void WebPage::requestLater(const QUrl& asking, const QUrl& url) {
     ++waiting_;
-    const auto request = [this, asking, url] {
+    const auto kind = takePress_() ? RequestKind::mainPage : RequestKind::onward;
+    const auto request = [this, wish = PageRequest{kind, asking, normalisedUrl(url)}] {
         --waiting_;
         arrival_.interrupt();
-        go(asking, url);
+        go(wish);
     };
     QMetaObject::invokeMethod(this, request, Qt::QueuedConnection);
+}
+
+void WebPage::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString& message, int line,
+                                       const QString& source) {
+    if (messages_ >= maxMessages) return;
+    qCInfo(consoleLog, "%s:%d: %s", qPrintable(source.left(maxMessageLength)), line,
+           qPrintable(message.left(maxMessageLength)));
+    if (++messages_ == maxMessages) qCInfo(consoleLog, "Further messages of this page are not shown.");
 }
 
 void WebPage::finished(bool arrived) {

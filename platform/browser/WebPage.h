@@ -25,14 +25,18 @@ class WebPage : public QWebEnginePage {
     /// Says whether a navigation may go on that a page wants. The gate may run an event loop.
     using Gate = std::function<bool(const PageRequest& request)>;
 
+    /// Says whether the user has just pressed a key or the mouse in the page, which counts for one thing that
+    /// the page does in answer (see UserPress).
+    using PressTaker = std::function<bool()>;
+
     /// Takes a command that a component's part of the page sends (see PagePart): class id and number.
     using CommandHandler = std::function<void(const std::string& classId, LPARAM command)>;
 
-    WebPage(Gate gate, QObject* parent);
+    WebPage(Gate gate, PressTaker takePress, QObject* parent);
 
     void setCommandHandler(CommandHandler handler) { commandHandler_ = std::move(handler); }
 
-    /// Goes to an address that the gate has let pass, in its normalised form.
+    /// Goes to an address that the program wants, in its normalised form.
     void open(const QUrl& url);
     /// Loads the page again, without asking the gate.
     void reload() { arrival_.reload(); }
@@ -46,18 +50,31 @@ class WebPage : public QWebEnginePage {
   protected:
     bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) override;
 
+    // A page shows no dialogs, holds nobody back who leaves it, and asks for no files of the machine.
+    void javaScriptAlert(const QUrl&, const QString&) override {}
+    bool javaScriptConfirm(const QUrl&, const QString&) override { return true; }
+    bool javaScriptPrompt(const QUrl&, const QString&, const QString&, QString*) override { return false; }
+    QStringList chooseFiles(FileSelectionMode, const QStringList&, const QStringList&) override { return {}; }
+    /// Logs the first messages of a page under the category `platform.browser.console`, cut short.
+    void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel level, const QString& message, int line,
+                                  const QString& source) override;
+
   private:
+    void addScripts();
     void requestLater(const QUrl& asking, const QUrl& url);
     bool isCommand(const QUrl& url);
-    void go(const QUrl& asking, const QUrl& url);
+    void go(const PageRequest& request);
+    void load(const QUrl& url);
     void finished(bool arrived);
 
     Gate gate_;
+    PressTaker takePress_;
     CommandHandler commandHandler_;
     PageArrival arrival_{*this};
     bool toldUnreachable_ = false;
     QTimer copyLimit_;  // runs while the engine copies
     int waiting_ = 0;   // navigations asked for by the page and not yet put to the gate
+    int messages_ = 0;  // of the page's scripts, since the program opened it
 };
 
 }  // namespace platform

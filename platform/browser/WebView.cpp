@@ -1,11 +1,14 @@
 #include "platform/browser/WebView.h"
 
 #include <QApplication>
+#include <QChildEvent>
 #include <QCoreApplication>
 #include <QCursor>
+#include <QDialog>
 #include <QMouseEvent>
 #include <QPalette>
 #include <QShortcut>
+#include <QTextDocument>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -19,6 +22,9 @@ namespace {
 
 /// The zoom factors that the keys go through.
 constexpr std::array<double, 11> zoomSteps = {0.5, 0.67, 0.75, 0.9, 1.0, 1.1, 1.25, 1.5, 1.75, 2.0, 2.5};
+
+/// Text in such a paragraph is shown as it stands.
+constexpr auto plainTipStart = QLatin1StringView("<p style=\"white-space:pre-wrap\">");
 
 }  // namespace
 
@@ -53,6 +59,29 @@ void WebView::hideEvent(QHideEvent* event) {
 }
 // NOLINTEND(bugprone-parent-virtual-call)
 
+/// The text that a page gives for a tip is not to be taken for rich text, which could show files of the
+/// machine.
+bool WebView::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTipChange && Qt::mightBeRichText(toolTip()) &&
+        !toolTip().startsWith(plainTipStart)) {
+        setToolTip(plainTipStart + toolTip().toHtmlEscaped() + QLatin1StringView("</p>"));
+        return true;
+    }
+    return QWebEngineView::event(event);
+}
+
+/// The engine's widget takes the page's input. A dialog below the view is one that a page asks for, as for a
+/// colour: it is closed before it is seen.
+void WebView::childEvent(QChildEvent* event) {
+    QWebEngineView::childEvent(event);
+    if (event->added() && event->child()->isWidgetType()) event->child()->installEventFilter(this);
+    auto* const dialog = event->polished() ? qobject_cast<QDialog*>(event->child()) : nullptr;
+    if (!dialog) return;
+    dialog->setAttribute(Qt::WA_DontShowOnScreen);
+    dialog->setModal(false);
+    QMetaObject::invokeMethod(dialog, &QDialog::reject, Qt::QueuedConnection);
+}
+
 void WebView::watchFocus(QWidget* winner) {
     if (!winner || !isAncestorOf(winner)) return;
     winner->installEventFilter(this);
@@ -62,6 +91,7 @@ void WebView::watchFocus(QWidget* winner) {
 /// Another page may come with another of the engine's widgets, which is to have the focus of the former. Qt
 /// would move it on as the tabulator does, into a link of the page.
 bool WebView::eventFilter(QObject* engineWidget, QEvent* event) {
+    press_.see(*event);
     QWidget* const focus = QApplication::focusWidget();
     if (event->type() == QEvent::Hide && focus == engineWidget && isVisible()) {
         focus->clearFocus();

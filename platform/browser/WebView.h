@@ -3,6 +3,7 @@
 #include <QWebEngineView>
 
 #include "platform/base/Geometry.h"
+#include "platform/browser/UserPress.h"
 
 namespace platform {
 
@@ -18,12 +19,17 @@ class WebView : public QWebEngineView {
     /// Gives it its page. Without one it is an empty white area, and the engine does not run for it.
     void open(QWebEnginePage& page);
 
+    /// The user's last press in the page.
+    UserPress& press() { return press_; }
+
     /// Presses and releases the left mouse button at a point of the view, as a person would.
     void click(CPoint point);
 
     bool eventFilter(QObject* engineWidget, QEvent* event) override;
 
   protected:
+    bool event(QEvent* event) override;
+    void childEvent(QChildEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
@@ -36,6 +42,7 @@ class WebView : public QWebEngineView {
     void zoomTo(double factor);
 
     bool open_ = false;
+    UserPress press_;
 };
 
 }  // namespace platform

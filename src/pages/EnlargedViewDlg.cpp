@@ -54,7 +54,13 @@ CEnlargedViewDlg::CEnlargedViewDlg(EnlargedViewMode mode, std::string address, s
     : CDialog(IDD_ENLARGED_VIEW),
       m_mode(mode),
       m_strAddress(std::move(address)),
-      m_strCaption(std::move(caption)) {}
+      m_strCaption(std::move(caption)) {
+    ++s_nOpen;
+}
+
+CEnlargedViewDlg::~CEnlargedViewDlg() { --s_nOpen; }
+
+bool CEnlargedViewDlg::IsOpen() { return s_nOpen > 0; }
 
 const MessageMap* CEnlargedViewDlg::GetMessageMap() const {
     static constexpr MessageMapEntry entries[] = {

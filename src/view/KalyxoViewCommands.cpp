@@ -134,6 +134,7 @@ void CKalyxoView::showPlainPage(const std::string& address) {
 }
 
 void CKalyxoView::ShowEnlargedView() {
+    if (CEnlargedViewDlg::IsOpen()) return;
     const PageAddress& place = m_navigator.Address();
     std::string title = place.itemCode != 0 ? m_components.select.GetItemTitle(place.itemCode)
                                             : m_components.select.GetPageTitle(place.pageId);

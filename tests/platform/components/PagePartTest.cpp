@@ -56,6 +56,16 @@ TEST_F(PagePart, SendsOnlyTheCommandsOfItsComponent) {
     EXPECT_EQ(asked.size(), 1U) << "a command is no navigation";
 }
 
+TEST_F(PagePart, SendsNothingWithoutAPress) {
+    openWithObject(classId);
+    write("C:\\cache\\2.htm", "<TITLE>2</TITLE><IFRAME SRC=\"2.htm?component=" + std::string(classId) +
+                                  "&command=4711\"></IFRAME>");
+    open("C:\\cache\\2.htm");
+    run(500);
+    EXPECT_EQ(title(), "2");
+    EXPECT_TRUE(commands_.empty());
+}
+
 TEST_F(PagePart, OfAnUnknownClassIsEmpty) {
     openWithObject("0A1B2C3D-0000-4000-8000-000000000000");
     EXPECT_EQ(text(), "");
