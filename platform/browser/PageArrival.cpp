@@ -1,5 +1,7 @@
 #include "platform/browser/PageArrival.h"
 
+#include <csignal>
+
 #include <QWebEnginePage>
 #include <QWebEngineScript>
 #include <chrono>
@@ -16,6 +18,12 @@ constexpr std::chrono::seconds redirectTime{2};
 /// again: the engine may lose a load that begins while it hands over the page of another.
 constexpr std::chrono::milliseconds missedTime{500};
 constexpr int missedTries = 3;
+/// How long a page may take to begin until it is asked whether the former one lets it, and how long the
+/// answer may take.
+constexpr std::chrono::milliseconds timeToBegin{1500};
+constexpr std::chrono::seconds timeToAnswer{3};
+/// What the engine tells before it has heard anything of the page, in percent.
+constexpr int progressBeforeBegin = 10;
 /// How long a page out of sight may take.
 constexpr std::chrono::seconds unseenTime{2};
 
@@ -27,9 +35,15 @@ constexpr auto leadsOnScript = QLatin1StringView(
 }  // namespace
 
 PageArrival::PageArrival(QWebEnginePage& page) : page_(page) {
-    limit_.setSingleShot(true);
+    for (QTimer* timer : {&limit_, &begin_, &life_}) timer->setSingleShot(true);
     connect(&limit_, &QTimer::timeout, this, &PageArrival::giveUp);
-    connect(&page, &QWebEnginePage::renderProcessTerminated, this, [this] { pending_ = false; });
+    connect(&begin_, &QTimer::timeout, this, &PageArrival::askForLife);
+    connect(&life_, &QTimer::timeout, this, &PageArrival::endFormerPage);
+    connect(&page, &QWebEnginePage::renderProcessTerminated, this, &PageArrival::pageEnded);
+    connect(&page, &QWebEnginePage::urlChanged, &begin_, &QTimer::stop);
+    connect(&page, &QWebEnginePage::loadProgress, this, [this](int percent) {
+        if (percent > progressBeforeBegin) begin_.stop();
+    });
 }
 
 void PageArrival::load(const QUrl& target) {
@@ -48,6 +62,10 @@ void PageArrival::begin() {
     limit_.stop();
     pending_ = true;
     begun_.start();
+    ended_ = false;
+    life_.stop();
+    // Before the first page there is none that could hold another back.
+    if (!page_.url().isEmpty()) begin_.start(timeToBegin);
     load_ = std::make_shared<int>();
 }
 
@@ -76,6 +94,35 @@ void PageArrival::settle(bool leadsOn) {
         limit_.start(redirectTime);
     } else {
         limit_.stop();
+        pending_ = false;
+    }
+}
+
+/// A page begins in the process that shows the former one. A slow medium is no reason to end that process,
+/// only that it has stopped answering.
+void PageArrival::askForLife() {
+    if (!pending_) return;
+    life_.start(timeToAnswer);
+    page_.runJavaScript(QStringLiteral("0"), QWebEngineScript::ApplicationWorld,
+                        [this, load = std::weak_ptr(load_)](const QVariant&) {
+                            if (load.expired()) return;
+                            life_.stop();
+                            if (pending_ && !ended_) begin_.start(timeToBegin);
+                        });
+}
+
+void PageArrival::endFormerPage() {
+    const auto process = static_cast<pid_t>(page_.renderProcessPid());
+    if (process <= 0) return;
+    ended_ = true;
+    qWarning("A page let no other begin; its process is ended.");
+    ::kill(process, SIGKILL);
+}
+
+void PageArrival::pageEnded() {
+    if (ended_ && pending_) {
+        page_.load(target_);
+    } else {
         pending_ = false;
     }
 }

@@ -11,7 +11,8 @@ class QWebEnginePage;
 namespace platform {
 
 /// Waits until the page that was asked for last is on show: a page that leads on to another at once is not
-/// the one waited for, and a load that the engine lost is asked for again.
+/// the one waited for, a load that the engine lost is asked for again, and a former page that lets no other
+/// begin is ended.
 class PageArrival : public QObject {
   public:
     explicit PageArrival(QWebEnginePage& page);
@@ -39,13 +40,19 @@ class PageArrival : public QObject {
     /// told after a later one was asked for.
     bool missed() const;
     void giveUp();
+    void askForLife();
+    void endFormerPage();
+    void pageEnded();
 
     QWebEnginePage& page_;
     QUrl target_;
     bool pending_ = false;
     QElapsedTimer begun_;
-    QTimer limit_;   // runs while another page than that on show is expected
-    int tries_ = 0;  // how often the load may still be asked for again
+    QTimer begin_;        // runs until the page asked for must have begun
+    QTimer life_;         // runs while the engine's page process is asked whether it still answers
+    bool ended_ = false;  // whether that process has been ended for this load
+    QTimer limit_;        // runs while another page than that on show is expected
+    int tries_ = 0;       // how often the load may still be asked for again
     // A new one for each load: the engine's answers about an earlier page, or to a page that has gone since,
     // are told from it.
     std::shared_ptr<int> load_ = std::make_shared<int>();
