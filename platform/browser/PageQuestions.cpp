@@ -23,6 +23,8 @@ namespace {
 constexpr std::chrono::seconds answerTime{5};
 constexpr std::chrono::seconds pictureTime{2};
 constexpr std::chrono::milliseconds paintInterval{5};
+/// Letters; enough for any picture of a screen.
+constexpr qsizetype maxPictureLength = qsizetype{64} << 20;
 
 /// Pages that the engine makes itself have no such script.
 const QString placesScript = QStringLiteral("globalThis.pagePlugins?.places() ?? []");
@@ -61,6 +63,14 @@ Answer await(Ask ask) {
 QVariant evaluate(QWebEnginePage& page, const QString& script) {
     return await<QVariant>(
         [&](auto answer) { page.runJavaScript(script, QWebEngineScript::ApplicationWorld, answer); });
+}
+
+/// The picture in the address, which any frame may have made up: only what begins as a PNG picture is one.
+QByteArray pngOfDataUrl(const QString& url) {
+    constexpr auto start = QLatin1StringView("data:image/png;base64,");
+    if (!url.startsWith(start) || url.size() > maxPictureLength) return {};
+    const QByteArray bytes = QByteArray::fromBase64(QStringView(url).sliced(start.size()).toLatin1());
+    return bytes.startsWith("\x89PNG\r\n\x1A\n") ? bytes : QByteArray();
 }
 
 /// A JavaScript string literal.
@@ -131,11 +141,9 @@ QByteArray pictureOfEmbedded(QWebEnginePage& page, int number) {
     const QDeadlineTimer limit(pictureTime);
     evaluate(page, QStringLiteral("globalThis.pagePlugins?.ask(%1)").arg(number));
     while (alive && !limit.hasExpired()) {
-        const QByteArray url =
-            evaluate(page, QStringLiteral("globalThis.pagePlugins?.picture(%1)").arg(number))
-                .toString()
-                .toLatin1();
-        if (!url.isEmpty()) return QByteArray::fromBase64(url.sliced(url.indexOf(',') + 1));
+        const QString url =
+            evaluate(page, QStringLiteral("globalThis.pagePlugins?.picture(%1)").arg(number)).toString();
+        if (!url.isEmpty()) return pngOfDataUrl(url);
         await<bool>([](auto answer) { QTimer::singleShot(paintInterval, [answer] { answer(true); }); });
     }
     return {};

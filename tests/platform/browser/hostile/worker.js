@@ -1,0 +1,2 @@
+fetch('http://@TCP@/w').catch(() => {});
+new WebSocket('ws://@TCP@/');
