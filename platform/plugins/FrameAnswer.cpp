@@ -6,6 +6,7 @@
 #include <QUrl>
 #include <QUrlQuery>
 #include <algorithm>
+#include <cmath>
 
 #include "platform/components/ComponentLibrary.h"
 #include "platform/plugins/FileType.h"
@@ -44,7 +45,7 @@ std::unique_ptr<QIODevice> openForReading(std::unique_ptr<QIODevice> device) {
     return device->open(QIODevice::ReadOnly) ? std::move(device) : nullptr;
 }
 
-std::unique_ptr<QIODevice> deviceOf(const FileHandle& file) {
+std::unique_ptr<QFile> deviceOf(const FileHandle& file) {
     const int descriptor = ::fcntl(file.descriptor(), F_DUPFD_CLOEXEC, 0);
     if (descriptor < 0) return nullptr;
     auto device = std::make_unique<QFile>();
@@ -56,7 +57,10 @@ std::optional<FrameAnswer> frameAnswer(const QUrl& url, const std::string& dosPa
                                        bool frame) {
     const QUrlQuery query(url);
     const auto value = [&](const char* name) { return query.queryItemValue(QLatin1StringView(name)); };
-    const auto number = [&](const char* name) { return std::max(value(name).toDouble(), 0.0); };
+    const auto number = [&](const char* name) {
+        const double given = value(name).toDouble();
+        return std::isfinite(given) ? std::max(given, 0.0) : 0.0;
+    };
     if (frame && query.hasQueryItem(QStringLiteral("component"))) return componentPart(value("component"));
     const std::string* viewer = PluginTypes::instance().pageFor(dosPath);
     if (viewer == nullptr) return std::nullopt;
@@ -64,10 +68,10 @@ std::optional<FrameAnswer> frameAnswer(const QUrl& url, const std::string& dosPa
     if (query.hasQueryItem(QStringLiteral("resource"))) return besideViewer(*viewer, value("resource"));
     if (!file) return std::nullopt;
     if (query.hasQueryItem(QStringLiteral("describe"))) {
-        return FrameAnswer{"application/json", videoDescription(file)};
+        return FrameAnswer{"application/json", videoDescription(deviceOf(file))};
     }
     if (query.hasQueryItem(QStringLiteral("from"))) {
-        return FrameAnswer{"video/webm", convertedVideo(file, number("from"), number("length"))};
+        return FrameAnswer{"video/webm", convertedVideo(deviceOf(file), number("from"), number("length"))};
     }
     return std::nullopt;
 }

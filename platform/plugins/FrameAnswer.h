@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QFile>
 #include <QIODevice>
 #include <QString>
 #include <memory>
@@ -39,6 +40,6 @@ std::optional<FrameAnswer> frameAnswer(const QUrl& url, const std::string& dosPa
 std::unique_ptr<QIODevice> openForReading(std::unique_ptr<QIODevice> device);
 
 /// An open file as a device, with a descriptor of its own; null when there is none.
-std::unique_ptr<QIODevice> deviceOf(const FileHandle& file);
+std::unique_ptr<QFile> deviceOf(const FileHandle& file);
 
 }  // namespace platform

@@ -77,6 +77,30 @@ TEST_F(ConvertedVideo, WaitsGoesOnFromAnyPlaceAndEnds) {
     EXPECT_TRUE(runUntil([&] { return text() == "0:06"; })) << "it plays to its end: " << text();
 }
 
+// Each request would otherwise have a program of its own at once.
+TEST_F(ConvertedVideo, RunsFewProgramsAtOnce) {
+    copyFile(MADE_FILMS "/cinepak.avi", "D:\\x.avi");
+    write("D:\\a.htm",
+          "<SCRIPT>let ended = 0; for (let n = 0; n < 60; ++n) { const one = new XMLHttpRequest(); "
+          "one.onloadend = "
+          "() => { document.title = ++ended; }; one.open('GET', 'd:/x.avi?describe&n=' + n); one.send(); "
+          "}</SCRIPT>");
+    navigate("D:\\a.htm");
+    int most = 0;
+    EXPECT_TRUE(runUntil([&] {
+        most = std::max(most, children("ffprobe"));
+        return title() == "60";
+    })) << "requests that wait and those that find too many waiting end too: "
+        << title();
+    EXPECT_GT(most, 1);
+    EXPECT_LE(most, 4);
+}
+
+TEST_F(ConvertedVideo, DoesNotDecodePicturesOfAnySize) {
+    openFilm("huge.avi", "AUTOPLAY=TRUE");
+    EXPECT_TRUE(runUntil([&] { return text() == "Το βίντεο δεν μπορεί να προβληθεί."; })) << text();
+}
+
 TEST_F(ConvertedVideo, LeavesNothingBehind) {
     const QStringList before = QDir::temp().entryList();
     openFilm("mpeg1.mpg", "AUTOPLAY=TRUE");
