@@ -6,7 +6,7 @@ const stickRadius = { sticks: 0.16, balls: 0.10 };
 const sideBySide = 0.19;    // distance of a multiple bond's sticks from the line between the atoms
 const light = [-0.42, -0.48];
 const aromatic = 4;
-const mostShaded = 700;     // atoms; more are drawn flat
+const maxShaded = 700;      // atoms; more are drawn flat
 
 const channels = colour => [1, 3, 5].map(i => parseInt(colour.slice(i, i + 2), 16));
 
@@ -20,7 +20,8 @@ function besideBond({ atoms }, bond, neighbours) {
   const along = unit(add(atoms[bond.b].at, atoms[bond.a].at, -1));
   if (!along) return [0, 0, 0];
   for (const shared of [bond.a, bond.b]) {
-    for (const end of neighbours[shared]) {
+    // The first few will do: others may lie in the bond's line.
+    for (const end of neighbours[shared].slice(0, 8)) {
       if (end === bond.a || end === bond.b) continue;
       const normal = unit(cross(along, add(atoms[end].at, atoms[shared].at, -1)));
       if (normal) return cross(normal, along);
@@ -43,7 +44,7 @@ class CanvasDrawing {
     this.context = this.element.getContext('2d');
     this.molecule = molecule;
     this.background = background;
-    this.isFlat = molecule.atoms.length > mostShaded;
+    this.isFlat = molecule.atoms.length > maxShaded;
     this.mixed = new Map();
     this.neighbours = molecule.atoms.map(() => []);
     for (const { a, b } of molecule.bonds) { this.neighbours[a].push(b); this.neighbours[b].push(a); }

@@ -4,7 +4,10 @@
 // `note` (where it belongs); a bond has `a`, `b` (indexes of atoms) and `order` (1, 2, 3; 4 is aromatic). Each reader
 // throws an Error when the file is not what it should be.
 
-const mostAtoms = 200000;
+// A file may come from anywhere: these limits are checked before anything is computed.
+const maxAtoms = 200000;
+const maxBondsPerAtom = 12;
+const maxFileLength = 32 << 20;   // letters
 
 const linesOf = text => text.split(/\r\n|\r|\n/);
 const field = (line, from, to) => line.slice(from, to).trim();
@@ -15,8 +18,12 @@ function number(text) {
   return value;
 }
 
+function checkCounts(atoms, bonds) {
+  if (atoms < 1 || atoms > maxAtoms || bonds < 0 || bonds > atoms * maxBondsPerAtom) throw new Error('no molecule');
+}
+
 function checked({ atoms, bonds }) {
-  if (atoms.length < 1 || atoms.length > mostAtoms) throw new Error('no molecule');
+  checkCounts(atoms.length, bonds.length);
   for (const { a, b } of bonds) if (!atoms[a] || !atoms[b] || a === b) throw new Error('no such atom');
   return { atoms, bonds };
 }
@@ -28,7 +35,8 @@ function readMol(text) {
   const counts = lines[3] ?? '';
   if (/V3000/.test(counts)) return readV3000(lines);
   const atomCount = number(field(counts, 0, 3)), bondCount = number(field(counts, 3, 6));
-  if (atomCount < 1 || bondCount < 0 || lines.length < 4 + atomCount + bondCount) throw new Error('cut short');
+  checkCounts(atomCount, bondCount);
+  if (lines.length < 4 + atomCount + bondCount) throw new Error('cut short');
   return {
     atoms: lines.slice(4, 4 + atomCount).map(line => ({
       at: [number(field(line, 0, 10)), number(field(line, 10, 20)), number(field(line, 20, 30))],
@@ -64,37 +72,59 @@ function readV3000(lines) {
 
 // ---- files that tell no bonds, or not all ----
 
-/// Bonds between atoms that are as near to each other as their radii say.
+/// A number for the box of space with these numbers along x, y and z; boxes side by side have different ones.
+function boxKey(x, y, z) {
+  if (!(Math.max(Math.abs(x), Math.abs(y), Math.abs(z)) < 65000)) throw new Error('too far');
+  return (x * 131072 + y) * 131072 + z;
+}
+
+/// Bonds between atoms that are as near to each other as their radii say. No substance has as many atoms in a box as
+/// are looked at, nor as many bonds of an atom; so the time grows with the number of atoms only.
 function bondsByDistance(atoms) {
-  const slack = 0.40, least = 0.4, size = 2.6;
+  checkCounts(atoms.length, 0);
+  const slack = 0.40, minLength = 0.4, size = 2.6, maxInBox = 24;
   const boxes = new Map();
-  const key = at => at.map(v => Math.floor(v / size));
+  const radii = Float64Array.from(atoms, ({ element }) => lookOf(element).covalent);
+  const counts = new Uint8Array(atoms.length);
   const bonds = [];
-  atoms.forEach(({ at, element }, i) => {
-    const [x, y, z] = key(at);
-    for (let dx = -1; dx <= 1; ++dx) for (let dy = -1; dy <= 1; ++dy) for (let dz = -1; dz <= 1; ++dz) {
-      for (const j of boxes.get([x + dx, y + dy, z + dz].join()) ?? []) {
-        const other = atoms[j];
-        if (element === 'H' && other.element === 'H' && atoms.length > 2) continue;
-        const far = Math.hypot(at[0] - other.at[0], at[1] - other.at[1], at[2] - other.at[2]);
-        const most = Math.min(lookOf(element).covalent + lookOf(other.element).covalent + slack, size);
-        if (far > least && far < most) bonds.push({ a: j, b: i, order: 1 });
-      }
+  const look = (i, box) => {
+    const { at, element } = atoms[i];
+    for (const j of box) {
+      const other = atoms[j];
+      if (element === 'H' && other.element === 'H' && atoms.length > 2) continue;
+      const [dx, dy, dz] = [at[0] - other.at[0], at[1] - other.at[1], at[2] - other.at[2]];
+      const square = dx * dx + dy * dy + dz * dz;
+      const maxLength = Math.min(radii[i] + radii[j] + slack, size);
+      if (square <= minLength * minLength || square >= maxLength * maxLength) continue;
+      if (Math.max(counts[i], counts[j]) >= maxBondsPerAtom) continue;
+      bonds.push({ a: j, b: i, order: 1 });
+      ++counts[i];
+      ++counts[j];
     }
-    const box = [x, y, z].join();
-    if (boxes.has(box)) boxes.get(box).push(i); else boxes.set(box, [i]);
+  };
+  atoms.forEach(({ at }, i) => {
+    const [x, y, z] = at.map(v => Math.floor(v / size));
+    for (let dx = -1; dx <= 1; ++dx) for (let dy = -1; dy <= 1; ++dy) for (let dz = -1; dz <= 1; ++dz) {
+      const box = boxes.get(boxKey(x + dx, y + dy, z + dz));
+      if (box) look(i, box);
+    }
+    const key = boxKey(x, y, z), box = boxes.get(key);
+    if (!box) boxes.set(key, [i]); else if (box.length < maxInBox) box.push(i);
   });
   return bonds;
 }
 
+const symbols = Object.keys(elementNames);
+
 function readXyz(text) {
   const lines = linesOf(text);
   const count = number((lines[0] ?? '').trim());
-  if (count < 1 || lines.length < 2 + count) throw new Error('cut short');
+  checkCounts(count, 0);
+  if (lines.length < 2 + count) throw new Error('cut short');
   const atoms = lines.slice(2, 2 + count).map(line => {
     const [element, x, y, z] = line.trim().split(/\s+/);
     const isNumber = /^\d+$/.test(element);
-    const symbol = isNumber ? Object.keys(elementNames)[Number(element) - 1] : symbolOf(element ?? '');
+    const symbol = isNumber ? symbols[Number(element) - 1] : symbolOf(element ?? '');
     if (!symbol) throw new Error('no element: ' + element);
     return { element: symbol, at: [x, y, z].map(number) };
   });
@@ -129,9 +159,8 @@ function readPdb(text) {
       for (const b of others) if (a !== undefined && b > a) bonds.push({ a, b, order: 1 });
     }
   }
-  const known = new Set(bonds.map(({ a, b }) => a + ' ' + b));
-  return { atoms, bonds: [...bonds.filter(({ a, b }, i) => bonds.findIndex(bond => bond.a === a && bond.b === b) === i),
-                          ...bondsByDistance(atoms).filter(({ a, b }) => !known.has(a + ' ' + b))] };
+  const told = new Map(bonds.map(bond => [bond.a + ' ' + bond.b, bond]));
+  return { atoms, bonds: [...told.values(), ...bondsByDistance(atoms).filter(({ a, b }) => !told.has(a + ' ' + b))] };
 }
 
 function readCml(text) {
@@ -161,6 +190,7 @@ const readers = { mol: readMol, sdf: readMol, sd: readMol, xyz: readXyz, pdb: re
 
 /// The molecule in a file of this name.
 function readMolecule(name, text) {
+  if (text.length > maxFileLength) throw new Error('too large');
   const extension = name.slice(name.lastIndexOf('.') + 1).toLowerCase();
   return checked((readers[extension] ?? readMol)(text));
 }

@@ -25,8 +25,8 @@ function quaternionOf(m) {
 /// Where the eye is: the molecule turned, and seen from a distance at which it fills the frame at zoom 1.
 class Camera {
   static fieldOfView = 20;  // degrees, from the frame's top to its bottom
-  static leastZoom = 0.3;
-  static mostZoom = 12;
+  static minZoom = 0.3;
+  static maxZoom = 12;
 
   constructor(reach) {
     this.reach = reach;
@@ -46,7 +46,7 @@ class Camera {
 
   turnBy(sideways, upwards) { this.turn = multiply(multiply(aboutX(upwards), aboutY(sideways)), this.turn); }
 
-  zoomBy(factor) { this.zoom = Math.min(Math.max(this.zoom * factor, Camera.leastZoom), Camera.mostZoom); }
+  zoomBy(factor) { this.zoom = Math.min(Math.max(this.zoom * factor, Camera.minZoom), Camera.maxZoom); }
 
   /// What a place is multiplied by, divided by its distance from the eye, for pixels.
   get lens() { return this.height / 2 / Math.tan(Camera.fieldOfView * Math.PI / 360); }
@@ -74,7 +74,7 @@ function centre(molecule) {
                                                [Infinity, -Infinity]));
   const middle = ends.map(([low, high]) => (low + high) / 2);
   for (const atom of atoms) atom.at = add(atom.at, middle, -1);
-  const reach = radius => atoms.reduce((most, { at, element }) => Math.max(most, length(at) + lookOf(element)[radius]), 0);
+  const reach = radius => atoms.reduce((far, { at, element }) => Math.max(far, length(at) + lookOf(element)[radius]), 0);
   molecule.reach = reach('ball');
   molecule.fullReach = reach('space');
   return molecule;

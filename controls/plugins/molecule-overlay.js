@@ -2,7 +2,7 @@
 
 // What is written over a molecule: labels, measures, and the legend of colours.
 
-const mostLabels = 150;
+const maxLabels = 150;
 const overlayFont = '"Liberation Sans", Arial, sans-serif';
 const measureColour = '#ffd84a';
 
@@ -61,7 +61,7 @@ class Overlay {
       .map(({ atom, i }) => ({ text: atom.element + (i + 1), ...project(atom.at) }));
     this.context.font = 'bold 11px ' + overlayFont;
     this.context.textAlign = 'center';
-    for (const { text, x, y } of places.sort((a, b) => a.z - b.z).slice(-mostLabels)) this.text(text, x, y, this.ink);
+    for (const { text, x, y } of places.sort((a, b) => a.z - b.z).slice(-maxLabels)) this.text(text, x, y, this.ink);
   }
 
   measures(camera, picked) {

@@ -3,7 +3,7 @@
 // Draws a molecule with 3Dmol.js, which is loaded only where there is WebGL.
 
 const cameraHeight = 150;   // the library's own distance of the camera from the origin
-const mostSmooth = 1500;    // atoms
+const maxSmooth = 1500;    // atoms
 
 const hasWebGl = () => {
   const canvas = document.createElement('canvas');
@@ -31,7 +31,7 @@ class WebGlDrawing {
     document.body.append(this.element);
     // Edges are smoothed by twice as many pixels; that would make large molecules slow.
     this.viewer = $3Dmol.createViewer(this.element, {
-      backgroundColor: background, nomouse: true, antialias: true, upscale: molecule.atoms.length < mostSmooth,
+      backgroundColor: background, nomouse: true, antialias: true, upscale: molecule.atoms.length < maxSmooth,
     });
     if (!this.viewer) { this.element.remove(); throw new Error('no viewer'); }
     this.viewer.setSlab(-molecule.fullReach - 1, 3 * molecule.fullReach);
@@ -73,7 +73,7 @@ class WebGlDrawing {
   }
 
   /// Lines are half a pixel wide where edges are smoothed by more pixels.
-  wire() { return this.molecule.atoms.length < mostSmooth ? { stick: { radius: 0.03 } } : { line: {} }; }
+  wire() { return this.molecule.atoms.length < maxSmooth ? { stick: { radius: 0.03 } } : { line: {} }; }
 
   hasBonds(element) {
     return this.molecule.bonds.some(({ a, b }) => [a, b].some(i => this.molecule.atoms[i].element === element));

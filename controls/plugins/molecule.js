@@ -274,5 +274,10 @@ request.onload = () => {
   try { molecule = centre(readMolecule(location.pathname, request.responseText)); } catch { return fail('Το αρχείο του μορίου δεν μπορεί να διαβαστεί.'); }
   show(molecule);
 };
+request.onprogress = ({ loaded }) => {
+  if (loaded <= maxFileLength) return;
+  request.abort();
+  fail('Το αρχείο του μορίου είναι πολύ μεγάλο.');
+};
 request.onerror = () => fail('Το αρχείο του μορίου δεν βρέθηκε.');
 request.send();

@@ -95,6 +95,8 @@ TEST_F(MoleculeFiles, OfEveryKindShowTheSameMolecule) {
 }
 
 TEST_F(MoleculeFiles, ThatAreBrokenSaySo) {
+    std::string atoms;
+    for (int i = 0; i < 300000; ++i) atoms += "N 0 0 0\n";
     const std::vector<Case> broken = {
         {"a.mol", cyanide[1].content.substr(0, 200)},
         {"b.mol",
@@ -103,6 +105,8 @@ TEST_F(MoleculeFiles, ThatAreBrokenSaySo) {
         {"d.xyz", "3\nHCN\nC 0 0 0\nH -1.07 0\nN 1.15 0 0\n"},
         {"e.xyz", "1\n\nQq 0 0 0\n"},
         {"f.xyz", "-1\n\n"},
+        {"crowd.xyz", "300000\n\n" + atoms},
+        {"far.xyz", "2\n\nN 0 0 0\nN 1e300 0 0\n"},
         {"g.pdb", "HEADER    nothing\nEND\n"},
         {"h.pdb", "HETATM    1  C   HCN A   1       0.000   0.0x0   0.000  1.00  0.00           C\n"},
         {"i.cml", cyanide[5].content.substr(0, 300)},
@@ -120,6 +124,14 @@ TEST_F(MoleculeFiles, ThatAreBrokenSaySo) {
         EXPECT_TRUE(runUntil([&] { return text() == message; })) << file.name << ": " << text();
     }
     EXPECT_EQ(page().pluginPicture(plugin()), "") << "a message is no picture";
+}
+
+// Bonds were looked for between all of them.
+TEST_F(MoleculeFiles, OfManyAtomsAtOnePlaceAreShownSoon) {
+    std::string atoms = "100000\n\n";
+    for (int i = 0; i < 100000; ++i) atoms += "N 0 0 0\n";
+    show({"a.xyz", atoms});
+    EXPECT_TRUE(runUntil([&] { return count(frame, isBlue) > 500; }));
 }
 
 TEST_F(MoleculeFiles, AreEnlargedWithTheWheel) {
