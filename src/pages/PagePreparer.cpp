@@ -1,6 +1,7 @@
 #include "src/pages/PagePreparer.h"
 
 #include <cstring>
+#include <algorithm>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -25,24 +26,35 @@ constexpr std::size_t kLineLimit = 26000;
 constexpr std::size_t kWorkingSize = 30000;
 /// Lines between two looks at the clock.
 constexpr std::uint64_t kLinesPerStep = 256;
-void rewriteLines(TextReader& source, TextWriter& target, const LineRewriter& rewriter, PageNotes& notes,
+/// No real page comes near: the largest have some hundred kilobytes.
+constexpr std::uint64_t kMaxPageBytes = std::uint64_t{64} << 20;
+
+/// Molecules are copied one over the other; pages show one.
+constexpr int kMaxCopies = 16;
+
+/// False when the page gets too large.
+bool rewriteLines(TextReader& source, TextWriter& target, const LineRewriter& rewriter, PageNotes& notes,
                   const platform::ProgressStep& step) {
     const auto buffer = std::make_unique_for_overwrite<char[]>(kLineLimit);
     std::string working;
     working.reserve(kWorkingSize);
     std::uint64_t lines = 0;
+    std::uint64_t passed = 0;
     while (const std::size_t length = source.readLine(buffer.get(), kLineLimit)) {
         if (++lines % kLinesPerStep == 0 && !platform::GoesOn(step, lines, 0)) break;
         // A NUL ends its line, the line's own end included.
         const std::string_view line(buffer.get(), ::strnlen(buffer.get(), length));
-        if (LineRewriter::Concerns(line)) {
+        const bool isRewritten = LineRewriter::Concerns(line);
+        if (isRewritten) {
             working = line;
             rewriter.Rewrite(working, notes);
-            target.write(working);
-        } else {
-            target.write(line);
         }
+        const std::string_view rewritten = isRewritten ? working : line;
+        passed += std::max(rewritten.size(), length);
+        if (passed > kMaxPageBytes) return false;
+        target.write(rewritten);
     }
+    return true;
 }
 
 }  // namespace
@@ -57,11 +69,18 @@ PrepareResult PagePreparer::PreparePage(const std::string& source, const std::st
     std::optional<TextWriter> writer = TextWriter::open(m_files, target);
     if (!writer) return PrepareResult::noTarget;
     PageNotes notes;
+    int copies = 0;
     const LineRewriter rewriter(m_strDataFolder, [&](const std::string& molecule) {
-        return CopyMolecule(m_files, m_strDataFolder, molecule, target) ? kMoleculeCopy : std::string_view();
+        const bool isCopied =
+            ++copies <= kMaxCopies && CopyMolecule(m_files, m_strDataFolder, molecule, target);
+        return isCopied ? kMoleculeCopy : std::string_view();
     });
-    rewriteLines(*reader, *writer, rewriter, notes, step);
+    const bool isWhole = rewriteLines(*reader, *writer, rewriter, notes, step);
     writer->close();
+    if (!isWhole) {
+        m_files.deleteFile(target);
+        return PrepareResult::noTarget;
+    }
     contents = {notes.video, notes.molecule};
     const std::string enlarged = m_strCacheFolder + std::string(kEnlargedPage);
     if (notes.video) WriteEnlargedVideoPage(m_files, enlarged, notes.videoText);

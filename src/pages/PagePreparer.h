@@ -27,8 +27,8 @@ class PagePreparer {
     /// Both folders end with a backslash.
     PagePreparer(const platform::FileSystem& files, std::string dataFolder, std::string cacheFolder);
 
-    /// Writes the page `source` as `target`, as far as `step` lets it. `contents` is set only when the page
-    /// was prepared.
+    /// Writes the page `source` as `target`, as far as `step` lets it; one that gets far larger than
+    /// any real page counts as one that cannot be written. `contents` is set only when the page was prepared.
     PrepareResult PreparePage(const std::string& source, const std::string& target, PageContents& contents,
                               const platform::ProgressStep& step = {}) const;
 

@@ -113,6 +113,22 @@ TEST_F(PagePreparation, TakesLinesOfAnyLength) {
     EXPECT_EQ(prepare(markers + "\n", "D:\\a long data folder\\"), paths + "\r\n");
 }
 
+// Rewriting makes this page larger than any may be, as it would one that fills the disk.
+TEST_F(PagePreparation, StopsAtAPageThatIsTooLarge) {
+    prepare("<EMBED SRC=\"\x04..v.webm\">\n");
+    const std::string folder = "D:\\" + std::string(200, 'x') + "\\";
+    std::string page;
+    for (int line = 0; line < 400; ++line) {
+        for (int i = 0; i < 1000; ++i) page += "\x05..";
+        page += '\n';
+    }
+    drives.put("D:\\page", page);
+    const PagePreparer preparer(drives.files, folder, "C:\\");
+    EXPECT_EQ(preparer.PreparePage("D:\\page", "C:\\2.htm", contents), PrepareResult::noTarget);
+    EXPECT_FALSE(drives.has("C:\\2.htm"));
+    EXPECT_TRUE(contents.video);
+}
+
 TEST_F(PagePreparation, FailuresLeaveTheFlagsAndWriteNothing) {
     prepare("<EMBED SRC=\"\x04..v.webm\">\n");
     const PagePreparer preparer(drives.files, "D:\\", "C:\\");
