@@ -5,7 +5,7 @@
 
 namespace platform {
 
-/// Prepares the process for the web browser control. To be called once, before the application object is
+/// Prepares the process for the web browser. To be called once, before the application object is
 /// made: it makes the browser known as a component, registers the drive letters as URL schemes and sets the
 /// engine's switches. When the process runs as root, where the engine's sandbox refuses to work, it is
 /// switched off with a line on standard error.

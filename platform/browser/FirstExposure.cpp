@@ -9,15 +9,15 @@ namespace platform {
 
 namespace {
 
-/// What a window system may take to show a window, and what a window that stays hidden costs.
-constexpr std::chrono::milliseconds longestWait{250};
+/// How long a window system may take to show a window; the call waits as long for one that stays hidden.
+constexpr std::chrono::milliseconds maxWait{250};
 
 }  // namespace
 
 FirstExposure::FirstExposure(QWidget& widget, std::function<void()> call) : call_(std::move(call)) {
     wait_.setSingleShot(true);
     connect(&wait_, &QTimer::timeout, this, [this] { std::exchange(call_, [] {})(); });
-    wait_.start(longestWait);
+    wait_.start(maxWait);
     widget.installEventFilter(this);
     watchWindow(widget);
 }

@@ -12,20 +12,20 @@ namespace platform {
 
 namespace {
 
-constexpr int mostTries = 5;
+constexpr int maxTries = 5;
 constexpr std::chrono::seconds clickTime{1};
 constexpr std::chrono::milliseconds linkInterval{5};
 
 constexpr auto armScript = QLatin1StringView(
     "window.awaitsClick = true;"
     "addEventListener('click', () => { window.awaitsClick = false; }, {capture: true, once: true});");
-/// A page that was left meanwhile has handled the click, too: the next one awaits none.
+/// True in the next page as well: a page that was left has handled its click.
 constexpr auto handledScript = QLatin1StringView("window.awaitsClick !== true");
 
 }  // namespace
 
 LinkClick::LinkClick(QWebEnginePage& page, std::function<void()> click)
-    : page_(page), click_(std::move(click)), tries_(mostTries) {
+    : page_(page), click_(std::move(click)), tries_(maxTries) {
     arm();
 }
 

@@ -8,9 +8,9 @@ class QWebEnginePage;
 
 namespace platform {
 
-/// A click in a page, from the moment it is asked for to that when the page has handled it: what the page
-/// asks for in answer has been asked for by then. A click that the engine loses, as before a page's first
-/// picture, is made again.
+/// A click in a page, watched until the page has handled it. By then the page has also asked for what it
+/// wants in answer. The engine may lose a click, as before a page's first picture; such a click is made
+/// again.
 class LinkClick : public QObject {
   public:
     /// `click` makes the click; it is called from the event loop. The page must outlive this.

@@ -12,10 +12,10 @@ namespace platform {
 
 namespace {
 
-/// How long a page that says it leads on to another may take to do so.
+/// How long a page may take to lead on to another, when it says that it does.
 constexpr std::chrono::seconds redirectTime{2};
-/// How long the last of several quick loads may stay away after an earlier one came, before it is asked for
-/// again: the engine may lose a load that begins while it hands over the page of another.
+/// The engine may lose a load that is asked for while it hands over the page of an earlier one. The load is
+/// asked for again when its page has not come this long after the earlier one.
 constexpr std::chrono::milliseconds missedTime{500};
 constexpr int missedTries = 3;
 /// How long a page may take to begin until it is asked whether the former one lets it, and how long the

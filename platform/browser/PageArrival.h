@@ -10,9 +10,9 @@ class QWebEnginePage;
 
 namespace platform {
 
-/// Waits until the page that was asked for last is on show: a page that leads on to another at once is not
-/// the one waited for, a load that the engine lost is asked for again, and a former page that lets no other
-/// begin is ended.
+/// Waits until the page that was asked for last is on show. A page that leads on to another at once is not
+/// the one waited for. A load that the engine lost is asked for again. A former page that lets no other begin
+/// is ended.
 class PageArrival : public QObject {
   public:
     explicit PageArrival(QWebEnginePage& page);
@@ -21,7 +21,7 @@ class PageArrival : public QObject {
     void load(const QUrl& target);
     /// Loads the page on show again.
     void reload();
-    /// The page has asked to go elsewhere: what may come of that is not known yet.
+    /// The page has asked to go elsewhere, which may be refused.
     void interrupt();
 
     /// Whether it still waits. A page out of sight is not waited for to its end: the engine keeps the parts
@@ -30,7 +30,7 @@ class PageArrival : public QObject {
     /// The address loaded last.
     const QUrl& target() const { return target_; }
 
-    /// The engine's load has ended: looks whether the page is the one.
+    /// To be called when the engine's load has ended: looks whether the page is the one waited for.
     void look();
 
   private:
@@ -53,8 +53,7 @@ class PageArrival : public QObject {
     bool ended_ = false;  // whether that process has been ended for this load
     QTimer limit_;        // runs while another page than that on show is expected
     int tries_ = 0;       // how often the load may still be asked for again
-    // A new one for each load: the engine's answers about an earlier page, or to a page that has gone since,
-    // are told from it.
+    // A new one for each load: it tells whether an answer of the engine is about the present page.
     std::shared_ptr<int> load_ = std::make_shared<int>();
 };
 

@@ -91,7 +91,7 @@ std::optional<Variant> WebBrowserComponent::invoke(std::int32_t dispid, InvokeKi
 WebPage& WebBrowserComponent::page() {
     if (page_) return *page_;
     page_ = std::make_unique<WebPage>([this](const PageRequest& request) { return passes(request); },
-                                      [this] { return view_->press().take(); }, nullptr);
+                                      [this] { return view_->presses().take(); }, nullptr);
     page_->setCommandHandler(
         [this](const std::string& component, LPARAM command) { sendCommand(component, command); });
     plugins_ = std::make_unique<PluginWindows>(*view_, *page_);
@@ -112,7 +112,7 @@ void WebBrowserComponent::navigate(const std::string& address, const Variant& fl
     record(TraceNavigate{controlId(), address, number ? *number : 0});
     const QUrl url = normalisedUrl(urlOfAddress(address));
     if (!passes({RequestKind::program, {}, url})) return;
-    view_->press().forget();
+    view_->presses().forget();
     // Asked only now: the page may have been made while a handler showed a message.
     if (page_) {
         page_->open(url);

@@ -18,12 +18,13 @@ class PluginWindows;
 class WebPage;
 class WebView;
 
-/// The web browser control. The engine costs as much time as the rest of the program's start: it is set going
-/// once the window can be seen, or when it is needed before. Addresses are code page 1253: DOS paths
+/// The web browser as a component. The engine costs as much time as the rest of the program's start: it is
+/// set going once the window can be seen, or when it is needed before. Addresses are code page 1253: DOS
+/// paths
 /// (`D:\a.htm`, `c:/cache/1.htm`) or URLs.
 class WebBrowserComponent : public Component, public WebPageInspector {
   public:
-    /// The control's published class id.
+    /// Its published class id.
     static constexpr std::string_view classId = "EAB22AC3-30C1-11CF-A7EB-0000C05BAE0B";
 
     WebBrowserComponent(ComponentSite& site, QWidget* parent);

@@ -13,11 +13,11 @@
 
 namespace platform {
 
-/// A page of the engine: wherever it wants to lead by itself first passes a gate.
+/// A page of the engine. When it wants to lead elsewhere, a gate is asked first.
 ///
-/// The engine asks whether a navigation may go on while it is inside its own work; a dialog shown at that
-/// moment could load nothing. So a page's request is refused there, put to the gate once the engine has
-/// returned, and carried out as a navigation of our own.
+/// The engine asks for leave in the middle of its own work; a dialog shown at that moment could load nothing.
+/// So the page's wish is refused there, put to the gate once the engine has returned, and carried out as a
+/// navigation of our own.
 class WebPage : public QWebEnginePage {
     Q_OBJECT
 

@@ -91,7 +91,7 @@ void WebView::watchFocus(QWidget* winner) {
 /// Another page may come with another of the engine's widgets, which is to have the focus of the former. Qt
 /// would move it on as the tabulator does, into a link of the page.
 bool WebView::eventFilter(QObject* engineWidget, QEvent* event) {
-    press_.see(*event);
+    presses_.see(*event);
     QWidget* const focus = QApplication::focusWidget();
     if (event->type() == QEvent::Hide && focus == engineWidget && isVisible()) {
         focus->clearFocus();

@@ -19,8 +19,8 @@ class WebView : public QWebEngineView {
     /// Gives it its page. Without one it is an empty white area, and the engine does not run for it.
     void open(QWebEnginePage& page);
 
-    /// The user's last press in the page.
-    UserPress& press() { return press_; }
+    /// The user's presses in the page.
+    UserPress& presses() { return presses_; }
 
     /// Presses and releases the left mouse button at a point of the view, as a person would.
     void click(CPoint point);
@@ -42,7 +42,7 @@ class WebView : public QWebEngineView {
     void zoomTo(double factor);
 
     bool open_ = false;
-    UserPress press_;
+    UserPress presses_;
 };
 
 }  // namespace platform

@@ -16,7 +16,7 @@ class PluginTypes {
     static PluginTypes& instance();
 
     /// Names the viewer page (resource path such as ":/plugins/video.html") for an extension without
-    /// its full stop. To be done before the first browser control is made.
+    /// its full stop. To be done before the first browser is made.
     void add(std::string_view extension, std::string_view page);
 
     /// The viewer page for a file, or null when its type is not embedded.

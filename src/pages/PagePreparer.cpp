@@ -1,7 +1,7 @@
 #include "src/pages/PagePreparer.h"
 
-#include <cstring>
 #include <algorithm>
+#include <cstring>
 #include <memory>
 #include <optional>
 #include <utility>
