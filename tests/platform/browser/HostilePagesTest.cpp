@@ -90,14 +90,14 @@ class Hostile : public BrowserMachine {
             EXPECT_TRUE(one == &window || !one->isVisible()) << one->metaObject()->className();
         }
         EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("before"));
-        EXPECT_FALSE(host().control().widget().toolTip().contains(QLatin1StringView("<img")));
+        EXPECT_FALSE(host().component().widget().toolTip().contains(QLatin1StringView("<img")));
         EXPECT_EQ(asked.size(), 1U) << "the program was asked about a page's own doing";
         asked.clear();
     }
 
     void expectTheNextPageComes() {
         navigate("C:\\Kalyxo\\cache\\next.htm");
-        EXPECT_TRUE(runUntil([&] { return title() == "next" && !host().control().busy(); })) << title();
+        EXPECT_TRUE(runUntil([&] { return title() == "next" && !host().component().busy(); })) << title();
         asked.clear();
     }
 
