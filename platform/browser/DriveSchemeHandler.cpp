@@ -30,7 +30,6 @@ void reply(QWebEngineUrlRequestJob* job, const QByteArray& type, std::unique_ptr
 /// The file that the policy allows; a closed handle when there is none.
 FileHandle openAllowed(const std::string& canonicalPath) {
     if (!hasMachine() || !BrowserPolicy::instance().allowsFile(canonicalPath)) return {};
-    if (machine().files().isFolder(canonicalPath)) return {};
     return machine().files().openForReading(canonicalPath);
 }
 

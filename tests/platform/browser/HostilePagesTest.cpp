@@ -1,3 +1,5 @@
+#include <sys/stat.h>
+
 #include <QApplication>
 #include <QClipboard>
 #include <QDir>
@@ -25,10 +27,11 @@ struct Attempt {
 constexpr Attempt attempts[] = {
     {"paths.htm",
      "%23%2F..%2F..%2Fcset.ini: refused %3F%2F..%2F..%2Fcset.ini: refused ..%5Ccset.ini: refused "
-     "%2E%2E/cset.ini: refused ../cset.ini: refused z:/planted.txt: refused "
+     "%2E%2E/cset.ini: refused ../cset.ini: refused z:/planted.txt: refused d:/link.txt: refused "
+     "d:/folder/planted.txt: refused d:/pipe: refused "
      "file:///etc/hostname: refused "
      "qrc:/plugins/video.html: refused own: own",
-     "RequestPolicy"},
+     "RequestPolicy, and FileHandle opens what lies in the data folder"},
     {"network.htm", nullptr, "RequestPolicy, and the engine finds no host"},
     {"peers.htm", "interface: undefined undefined frame: undefined",
      "ContentLimits and a switch of the engine"},
@@ -48,10 +51,16 @@ class Hostile : public BrowserMachine {
   protected:
     Hostile() {
         BrowserPolicy::instance().setAllowedFolders({"C:\\Kalyxo\\cache\\", "D:\\"});
+        setContentFolder("D:\\");
         EXPECT_TRUE(tcp_.listen(QHostAddress::LocalHost));
         EXPECT_TRUE(udp_.bind(QHostAddress::LocalHost));
         write("C:\\Kalyxo\\cset.ini", "PLANTED");
         write("C:\\Kalyxo\\cache\\own.txt", "own");
+        const auto planted = writeBytes("C:\\planted\\planted.txt", "PLANTED");
+        const auto data = writeBytes("D:\\own.txt", "own").parent_path();
+        std::filesystem::create_symlink(planted, data / "link.txt");
+        std::filesystem::create_symlink(planted.parent_path(), data / "folder");
+        EXPECT_EQ(::mkfifo((data / "pipe").c_str(), 0600), 0);
         write("C:\\Kalyxo\\cache\\own.mol", "\n\n\n  1  0\n    0.0000    0.0000    0.0000 N\n");
         write("C:\\Kalyxo\\cache\\next.htm", "<TITLE>next</TITLE>");
         for (const QFileInfo& file : QDir(QStringLiteral(HOSTILE)).entryInfoList(QDir::Files)) copyPage(file);

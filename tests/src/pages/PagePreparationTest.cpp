@@ -72,18 +72,13 @@ TEST_F(PagePreparation, CopiesNothingButMoleculesOfTheDataFolder) {
     drives.put("D:\\data\\huge.mol", "");
     std::filesystem::resize_file(drives.host("D:\\data\\huge.mol"), std::uintmax_t{5} << 30);
     std::filesystem::create_directory(drives.host("D:\\data\\folder.mol"));
+    std::filesystem::create_symlink(drives.host("C:\\secret.mol"), drives.host("D:\\data\\link.mol"));
+    drives.files.setContentFolder("D:\\data\\");
     const char* const refused[] = {
-        "C:\\secret.mol",
-        "D:\\data\\..\\data2\\other.mol",
-        "D:\\data2\\other.mol",
-        "D:\\data\\notes.txt",
-        "D:\\data\\huge.mol",
-        "D:\\data\\folder.mol",
-        "D:\\data\\mol\\none.mol",
-        "D:\\data\\mol\\Water.MOL.",
-        "mol\\water.mol",
-        "D:\\data\\molecule",
-        "",
+        "D:\\data\\link.mol",   "C:\\secret.mol",          "D:\\data\\..\\data2\\other.mol",
+        "D:\\data2\\other.mol", "D:\\data\\notes.txt",     "D:\\data\\huge.mol",
+        "D:\\data\\folder.mol", "D:\\data\\mol\\none.mol", "D:\\data\\mol\\Water.MOL.",
+        "mol\\water.mol",       "D:\\data\\molecule",      "",
     };
     for (const char* const file : refused) {
         const std::string line = "<!-- \"" + std::string(file) + "\" ";

@@ -62,6 +62,7 @@ class BrowserMachine : public testing::Test {
     QWidget* input() { return host_->component().widget().focusProxy(); }
     void doubleClick(QPoint point);
 
+    void setContentFolder(std::string_view dosPath) { machine_->files().setContentFolder(dosPath); }
     platform::Registry& registry() { return machine_->registry(); }
     std::vector<platform::TraceEntry> takeTrace() { return machine_->trace().take(); }
     /// The addresses of navigations that were cancelled since the last call.
