@@ -97,7 +97,7 @@ class MappedFile {
   public:
     explicit MappedFile(const fs::path& path) {
         const int file = ::open(path.c_str(), O_RDONLY);
-        struct stat status {};
+        struct stat status{};
         ::fstat(file, &status);
         size_ = static_cast<std::size_t>(status.st_size);
         void* const mapped = ::mmap(nullptr, size_, PROT_READ, MAP_SHARED | MAP_POPULATE, file, 0);

@@ -47,10 +47,9 @@ void AnalyserPane::build() {
     setFont(appearance::font(12));
     setStyleSheet(appearance::withColors(styleRules));
     dataStrip_ = new DataStrip(analyser_, this);
-    graphStrip_ = new GraphStrip(
-        analyser_, [this](double factor) { graph_ ? graph_->zoom(factor) : void(); }, this);
-    table_ = new TableView(
-        analyser_, [this] { copySelectedRows(analyser_); }, this);
+    graphStrip_ =
+        new GraphStrip(analyser_, [this](double factor) { graph_ ? graph_->zoom(factor) : void(); }, this);
+    table_ = new TableView(analyser_, [this] { copySelectedRows(analyser_); }, this);
     message_ = new MessageLine(this);
     views_ = new QStackedWidget(this);
     views_->addWidget(table_);
@@ -67,8 +66,7 @@ void AnalyserPane::build() {
 
 QWidget& AnalyserPane::shownGraph() {
     if (!graph_ && graphs()) {
-        graph_ = graphs()->makePane(
-            analyser_, [this] { copyGraph(); }, this);
+        graph_ = graphs()->makePane(analyser_, [this] { copyGraph(); }, this);
         views_->addWidget(&graph_->widget());
     }
     if (graph_) return graph_->widget();
@@ -92,8 +90,7 @@ void AnalyserPane::noteChange(Change change) {
     if (!views_) return;
     changes_.insert(change);
     if (std::exchange(scheduled_, true)) return;
-    QMetaObject::invokeMethod(
-        this, [this] { refreshNow(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, [this] { refreshNow(); }, Qt::QueuedConnection);
 }
 
 void AnalyserPane::refreshNow() {

@@ -42,8 +42,7 @@ constexpr std::array eventInfos{platform::EventInfo{pageChosenId, "PageChosen", 
 
 SelectComponent::SelectComponent(platform::ComponentSite& site, QWidget* parent)
     : site_(site),
-      pane_(new SelectPane(
-          selection_, [this](const ChoiceEvents& events) { raise(events); }, parent)) {
+      pane_(new SelectPane(selection_, [this](const ChoiceEvents& events) { raise(events); }, parent)) {
     FilterField& field = pane_->field();
     editWindow_ = site.registerWindow(field, "Edit",
                                       [&field](platform::UINT message, platform::WPARAM, platform::LPARAM) {

@@ -84,7 +84,7 @@ std::optional<Variant> call(typename Signature<decltype(Function)>::Class& objec
     using S = Signature<decltype(Function)>;
     constexpr std::size_t count = S::types.size();
     if (given.size() != count) return std::nullopt;
-    return [&]<std::size_t... I>(std::index_sequence<I...>)->std::optional<Variant> {
+    return [&]<std::size_t... I>(std::index_sequence<I...>) -> std::optional<Variant> {
         auto values = std::tuple{argument<std::tuple_element_t<I, typename S::Arguments>>(given[I])...};
         if (!(std::get<I>(values).has_value() && ...)) return std::nullopt;
         if constexpr (std::is_void_v<typename S::Result>) {
@@ -93,8 +93,7 @@ std::optional<Variant> call(typename Signature<decltype(Function)>::Class& objec
         } else {
             return Variant((object.*Function)(*std::get<I>(values)...));
         }
-    }
-    (std::make_index_sequence<count>());
+    }(std::make_index_sequence<count>());
 }
 
 }  // namespace detail

@@ -19,10 +19,9 @@ struct Variant {
 
     Variant() = default;
     template <class T>
-    requires(!std::is_same_v<std::remove_cvref_t<T>, Variant>)
-        // NOLINTNEXTLINE(bugprone-forwarding-reference-overload): the constraint keeps copies and moves out
-        explicit Variant(T&& v)
-        : value(std::forward<T>(v)) {}
+        requires(!std::is_same_v<std::remove_cvref_t<T>, Variant>)
+    // NOLINTNEXTLINE(bugprone-forwarding-reference-overload): the constraint keeps copies and moves out
+    explicit Variant(T&& v) : value(std::forward<T>(v)) {}
 
     bool empty() const { return std::holds_alternative<std::monostate>(value); }
     /// The value as T, or null when it is of another type.

@@ -29,12 +29,12 @@ std::string withSlash(std::string_view path) {
 }
 
 bool exists(const std::string& path) {
-    struct stat status {};
+    struct stat status{};
     return ::stat(path.c_str(), &status) == 0;
 }
 
 bool isFolder(const std::string& path) {
-    struct stat status {};
+    struct stat status{};
     return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 

@@ -22,8 +22,8 @@ bool heldByAnother(const FileHandle& folder, int operation) {
 }
 
 bool standsAt(const FileHandle& folder, const fs::path& path) {
-    struct stat opened {};
-    struct stat there {};
+    struct stat opened{};
+    struct stat there{};
     return ::fstat(folder.descriptor(), &opened) == 0 && ::stat(path.c_str(), &there) == 0 &&
            opened.st_ino == there.st_ino && opened.st_dev == there.st_dev;
 }

@@ -71,7 +71,7 @@ std::optional<std::string> findName(const std::string& folder, std::string_view 
 }
 
 std::optional<FolderNames::State> FolderNames::stateOf(const std::string& folder) {
-    struct stat status {};
+    struct stat status{};
     if (::stat(folder.c_str(), &status) != 0) return std::nullopt;
     return State{status.st_dev, status.st_ino, status.st_size, status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
 }

@@ -104,8 +104,7 @@ qint64 ProcessStream::readData(char* data, qint64 maxSize) {
 }
 
 void ProcessStream::watch() {
-    QMetaObject::invokeMethod(
-        this, [this] { notifier_->setEnabled(true); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, [this] { notifier_->setEnabled(true); }, Qt::QueuedConnection);
 }
 
 }  // namespace platform

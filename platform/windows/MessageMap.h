@@ -84,8 +84,7 @@ bool eventThunk(CCmdTarget& target, std::span<Variant> arguments) {
     return [&]<std::size_t... I>(std::index_sequence<I...>) {
         if (!(isArgument<std::tuple_element_t<I, Arguments>>(arguments[I]) && ...)) return false;
         return (self.*Handler)(eventArgument<std::tuple_element_t<I, Arguments>>(arguments[I])...);
-    }
-    (std::make_index_sequence<std::tuple_size_v<Arguments>>());
+    }(std::make_index_sequence<std::tuple_size_v<Arguments>>());
 }
 
 }  // namespace detail

@@ -38,7 +38,7 @@ struct Creation {
 CRect browserParkedIn(const CWnd& view) { return {-800, 0, -500, view.GetClientRect().Height()}; }
 
 struct RequiredVersion {
-    std::string ComponentVersions::*reported;
+    std::string ComponentVersions::* reported;
     std::string_view key;
     std::string_view minimum;
 };

@@ -45,7 +45,7 @@ double pixelRatio(const platform::ScreenConfig& screen) {
 
 void reportCrashes() {
     for (const int signal : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT}) {
-        struct sigaction present {};
+        struct sigaction present{};
         ::sigaction(signal, nullptr, &present);
         // A sanitizer's own handler stays.
         if (present.sa_handler == SIG_DFL) std::signal(signal, endAfterCrash);

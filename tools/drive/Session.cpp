@@ -30,8 +30,7 @@ void print(const Json& answer) {
 Session::Session(int script, kalyxo::CKalyxoApp& application)
     : program_(application),
       watch_([this] { return isBusy(); }, [this] { answer(); }, [this] { giveUp(); }, maxWait),
-      reader_(
-          script, [this](const std::string& line) { return takeLine(line); }, &Session::endOfScript) {
+      reader_(script, [this](const std::string& line) { return takeLine(line); }, &Session::endOfScript) {
     watchClipboard(*this);
 }
 

@@ -203,8 +203,7 @@ GraphPane* makePane(Analyser& analyser, std::function<void()> copy, QWidget* par
 }
 
 void paintGraph(Analyser& analyser, QPainter& painter, const QRectF& area, double unitsPerPixel) {
-    GraphView view(
-        analyser, [] {}, nullptr);
+    GraphView view(analyser, [] {}, nullptr);
     view.resize((area.size() / unitsPerPixel).toSize());
     GraphChart& chart = view.graphChart();
     chart.resize(view.size());

@@ -50,7 +50,7 @@ TEST(CodePage, CharactersOutsideAreReplacedOrReported) {
     };
     const Case cases[] = {
         {"α日β", "\xE1?\xE2", 2},         // not in the code page
-        {"😀", "?", 0},                    // beyond the basic plane
+        {"😀", "?", 0},                   // beyond the basic plane
         {"ab\x80", "ab?", 2},             // continuation without a lead
         {"\xCE", "?", 0},                 // cut
         {"\xE2\x82", "??", 0},            // cut later

@@ -35,8 +35,7 @@ TEST_F(MouseTest, ADoubleClickReplacesTheSecondPress) {
 }
 
 TEST_F(MouseTest, TheCursorIsAskedForBeforeEachMove) {
-    left_->on(
-        WM_SETCURSOR, [](WPARAM) { CCursor::FromResource(1).Set(); }, 1);
+    left_->on(WM_SETCURSOR, [](WPARAM) { CCursor::FromResource(1).Set(); }, 1);
     moveMouse(*left_, 15, 6);
     moveMouse(*left_, 7, 8);
     moveMouse(*right_, 7, 8);

@@ -59,7 +59,9 @@ TEST_F(PaintTest, InvalidationEndsWithOnePaint) {
     settle();
     EXPECT_EQ(paints(), (Lines{"view WM_ERASEBKGND", "view WM_PAINT"}));
     view().Invalidate();
-    { CPaintDC marksItAsPainted(view()); }
+    {
+        CPaintDC marksItAsPainted(view());
+    }
     settleFor(100);
     EXPECT_EQ(paints().size(), 2U);
     EXPECT_EQ(shownColour(view(), 3, 3), "ff0000");

@@ -96,8 +96,7 @@ void pickInCombo(Request& request, QComboBox& combo) {
     if (item < 0) return request.fail("there is no " + request.argument(1));
     combo.setFocus(Qt::MouseFocusReason);
     combo.setCurrentIndex(item);
-    QMetaObject::invokeMethod(
-        &combo, [&combo, item] { emit combo.activated(item); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(&combo, [&combo, item] { emit combo.activated(item); }, Qt::QueuedConnection);
 }
 
 /// Clicks the item that the second argument names; false when there is none.

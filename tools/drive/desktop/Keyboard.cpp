@@ -46,8 +46,7 @@ void sendToFocus(QEvent::Type type, const KeyStroke& stroke, const QString& text
 /// Press and release are events of their own. So a key that opens a dialog is released in that dialog.
 void strike(KeyStroke stroke, const QString& text) {
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-        QMetaObject::invokeMethod(
-            qApp, [=] { sendToFocus(type, stroke, text); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(qApp, [=] { sendToFocus(type, stroke, text); }, Qt::QueuedConnection);
     }
 }
 
