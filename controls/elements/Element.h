@@ -106,6 +106,6 @@ std::string_view familyName(Family family);
 
 /// The family with a code of 1 to 10, in the order of the legend; nothing for another code.
 std::optional<Family> familyOfCode(int code);
-inline constexpr int familyCode(Family family) { return static_cast<int>(family) + 1; }
+constexpr int familyCode(Family family) { return static_cast<int>(family) + 1; }
 
 }  // namespace controls

@@ -16,7 +16,7 @@ bool addRowsOf(const std::string& word, ResultRows& rows, SearchIndex& index, Hi
     if (!index.CollectHits(word, step)) return false;
     for (std::size_t hit = first; hit < index.HitCount(); ++hit) {
         rows.Add(titles.MakeHitTexts(index.HitAt(hit)), hit);
-        if (!platform::GoesOn(step, hit, SearchIndex::MaxHits)) return false;
+        if (!platform::GoesOn(step, hit, SearchIndex::kMaxHits)) return false;
     }
     return true;
 }

@@ -10,7 +10,7 @@ namespace kalyxo {
 
 SearchIndex::SearchIndex(const platform::FileSystem& files, std::string dataFolder)
     : m_files(files), m_dataFolder(std::move(dataFolder)), m_occurrences(files, m_dataFolder) {
-    m_hits.reserve(MaxHits);
+    m_hits.reserve(kMaxHits);
 }
 
 std::vector<std::string> SearchIndex::LoadWordIndex(const platform::ProgressStep& step) const {
@@ -26,10 +26,10 @@ bool SearchIndex::LoadFirstLetterTable() {
     m_firstLetters.clear();
     const auto file = platform::BinaryFile::open(m_files, pathOf(formats::firstLettersFile));
     if (!file) return true;
-    std::string records(MaxFirstLetterRecords * formats::firstLetterRecordSize, '\0');
+    std::string records(kMaxFirstLetterRecords * formats::firstLetterRecordSize, '\0');
     records.resize(file->readAt(0, std::as_writable_bytes(std::span(records))));
     m_firstLetters = formats::decodeFirstLetters(records);
-    return file->size() / formats::firstLetterRecordSize <= MaxFirstLetterRecords;
+    return file->size() / formats::firstLetterRecordSize <= kMaxFirstLetterRecords;
 }
 
 std::vector<std::string> SearchIndex::ExpandAlternatives(std::string_view word, bool wanted) const {

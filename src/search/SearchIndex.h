@@ -17,8 +17,8 @@ namespace kalyxo {
 class SearchIndex {
   public:
     /// Most hits of one search run, over all of its words.
-    static constexpr std::size_t MaxHits = 400;
-    static constexpr std::size_t MaxFirstLetterRecords = 200;
+    static constexpr std::size_t kMaxHits = 400;
+    static constexpr std::size_t kMaxFirstLetterRecords = 200;
 
     /// Opens the occurrences of the data folder (which ends with a backslash) and keeps them open. `files`
     /// must outlive the index.
@@ -36,10 +36,10 @@ class SearchIndex {
 
     /// Starts a search run without hits.
     void ResetHits() { m_hits.clear(); }
-    /// Appends the occurrences of a word in file order, up to `MaxHits` hits in all. False when `step` has
+    /// Appends the occurrences of a word in file order, up to `kMaxHits` hits in all. False when `step` has
     /// cancelled the search; then any occurrences may be missing.
     bool CollectHits(std::string_view word, const platform::ProgressStep& step = {}) {
-        return m_occurrences.Collect(word, m_hits, MaxHits, step);
+        return m_occurrences.Collect(word, m_hits, kMaxHits, step);
     }
     std::size_t HitCount() const { return m_hits.size(); }
     const SearchHit& HitAt(std::size_t i) const { return m_hits[i]; }
