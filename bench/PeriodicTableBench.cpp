@@ -28,11 +28,11 @@ void RedrawOfPeriodicTable(benchmark::State& state) {
 BENCHMARK(RedrawOfPeriodicTable)
     ->Unit(benchmark::kMillisecond)
     ->ArgNames({"view", "pixelRatio"})
-    ->Args({viewCode(TableView::families), 1})
-    ->Args({viewCode(TableView::matter), 1})
-    ->Args({viewCode(TableView::density), 1})
-    ->Args({viewCode(TableView::discovery), 1})
-    ->Args({viewCode(TableView::families), 2});
+    ->Args({viewCode(controls::periodic::TableView::families), 1})
+    ->Args({viewCode(controls::periodic::TableView::matter), 1})
+    ->Args({viewCode(controls::periodic::TableView::density), 1})
+    ->Args({viewCode(controls::periodic::TableView::discovery), 1})
+    ->Args({viewCode(controls::periodic::TableView::families), 2});
 
 void CreationOfPeriodicTable(benchmark::State& state) {
     for (auto _ : state) {

@@ -27,7 +27,7 @@ constexpr std::int32_t recordCount = 1'000'000;
 constexpr int formCount = 10;
 /// One record in so many is one of the forms, so that all of them together stay below the most hits.
 constexpr std::int32_t recordsPerHit = 2'600;
-constexpr std::int32_t pageCount = 400;
+constexpr std::int32_t indexedPages = 400;
 
 std::string formOf(std::int32_t number) { return "searched-form" + std::to_string(number); }
 
@@ -66,7 +66,7 @@ class IndexFolder {
             const bool isHit = i % recordsPerHit == 0;
             const std::int32_t hit = i / recordsPerHit;
             records.push_back({isHit ? formOf(hit % formCount) : "search" + std::to_string(i % 50'000),
-                               isHit ? hit % pageCount : i, isHit ? 10'001 + hit : 0, 2});
+                               isHit ? hit % indexedPages : i, isHit ? 10'001 + hit : 0, 2});
         }
         write("words.dat", *formats::encodeOccurrences(records));
     }
@@ -81,7 +81,7 @@ class IndexFolder {
     void writeTitles() const {
         std::vector<formats::SectionTitleRecord> pages;
         std::vector<std::string> entries;
-        for (std::int32_t i = 0; i < pageCount; ++i) {
+        for (std::int32_t i = 0; i < indexedPages; ++i) {
             pages.push_back({"The title of page " + std::to_string(i), i});
             entries.push_back("The title of entry " + std::to_string(i));
         }
@@ -198,11 +198,11 @@ void FourHundredHitsIntoRows(benchmark::State& state) {
     for (auto _ : state) {
         kalyxo::HitTitles titles(files, "D:\\");
         kalyxo::ResultRows folded;
-        for (std::int32_t i = 0; i < pageCount; ++i)
+        for (std::int32_t i = 0; i < indexedPages; ++i)
             folded.Add(titles.MakeHitTexts({i, 10'001 + i, 2}), static_cast<std::size_t>(i));
         rows = folded.Rows().size();
     }
-    check(state, rows, pageCount);
+    check(state, rows, indexedPages);
 }
 BENCHMARK(FourHundredHitsIntoRows)->Unit(benchmark::kMillisecond);
 
