@@ -26,7 +26,8 @@ as_root() {
 # install_packages PACKAGE…: asks for root and the network only when one is missing.
 install_packages() {
     local installed missing
-    installed=$(dpkg-query -W -f='${Package} ${db:Status-Status}\n' "$@" 2>/dev/null | sed -n 's/ installed$//p')
+    # It ends with an error when it does not know one of them, as on a new machine.
+    installed=$(dpkg-query -W -f='${Package} ${db:Status-Status}\n' "$@" 2>/dev/null | sed -n 's/ installed$//p') || true
     mapfile -t missing < <(printf '%s\n' "$@" | grep -vxF "$installed")
     if [ ${#missing[@]} = 0 ]; then return; fi
     say "Installing ${missing[*]}"
