@@ -56,7 +56,8 @@ class TreeReader {
     std::vector<SourceFile> readFilesStrictly(const fs::path& folder, std::string_view extension) {
         for (const fs::path& path : listFolder(folder)) {
             if (path.extension() == extension) continue;
-            diagnostics_.error({path.generic_string()}, "not a *" + std::string(extension) + " file");
+            diagnostics_.error({path.generic_string()},
+                               std::string("not a *").append(extension).append(" file"));
         }
         return readFiles(folder, {extension});
     }
