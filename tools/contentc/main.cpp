@@ -25,7 +25,7 @@ int run(const contentc::Options& options) {
     const contentc::SourceTree tree = contentc::readSourceTree(options.sources, diagnostics);
     const auto files = contentc::compileContent(tree, diagnostics);
     for (const contentc::Diagnostic& diagnostic : diagnostics.sorted()) {
-        std::cerr << contentc::toLine(diagnostic) << '\n';
+        std::cerr << contentc::toLine(diagnostic, contentc::localeLanguage()) << '\n';
     }
     if (!files) return failed;
     const auto written = contentc::writeDataFolder(*files, options.output);

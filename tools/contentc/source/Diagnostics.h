@@ -1,19 +1,27 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
+
+#include "tools/contentc/source/Message.h"
 
 namespace contentc {
 
-/// A line of a source file.
+/// A place in a source file.
 struct SourcePlace {
     /// The file as shown to the author.
     std::string file;
     /// Counted from 1.
     int line = 1;
+    /// In characters, counted from 1. 0 when it is not known or the whole line is meant.
+    int column = 0;
 
     bool operator==(const SourcePlace&) const = default;
 };
+
+/// The column of a place in a line of UTF-8; `offset` is in bytes.
+int columnAt(std::string_view utf8Line, std::size_t offset);
 
 enum class Severity { error, warning };
 
@@ -21,23 +29,38 @@ enum class Severity { error, warning };
 struct Diagnostic {
     SourcePlace place;
     Severity severity;
-    std::string message;
+    Phrase what;
+    std::vector<Phrase> suggestions;
 
-    bool operator==(const Diagnostic&) const = default;
+    /// Adds what to do about it.
+    Diagnostic& suggest(const Message& message, MessageValues values = {});
+    /// Suggests the one of the names that is most like `wanted`; nothing when none is like it. UTF-8.
+    Diagnostic& suggestNearest(std::string_view wanted, const std::vector<std::string>& names);
 };
 
-/// `file:line: message`, or `file:line: warning: message`.
-std::string toLine(const Diagnostic& diagnostic);
+/// `file:line:column: message; suggestion`, with `warning: ` before the message of a warning. The column is
+/// left out when it is not known.
+std::string toLine(const Diagnostic& diagnostic, Language language = Language::english);
 
 /// Collects what is wrong with the sources. Compiling goes on after an error, so that all errors are found.
+///
+///     diagnostics.error(place, say::unknownTerm, {word}).suggestNearest(word, termNames);
 class Diagnostics {
   public:
+    /// The result is good until something else is added.
+    Diagnostic& error(const SourcePlace& place, const Message& message, MessageValues values = {});
+    Diagnostic& warning(const SourcePlace& place, const Message& message, MessageValues values = {});
+
+    // Text that has no translation yet.
     void error(const SourcePlace& place, std::string message);
     void warning(const SourcePlace& place, std::string message);
 
+    /// Adds what another collection has found.
+    void add(Diagnostics more);
+
     bool hasErrors() const;
 
-    /// Sorted by file and line, without repetitions: a fault in a page scaffold is found with every page.
+    /// Sorted by place, without repetitions: a fault in a page scaffold is found with every page.
     std::vector<Diagnostic> sorted() const;
 
   private:
