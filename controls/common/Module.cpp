@@ -15,7 +15,7 @@ consteval auto fileVersion() {
     return text;
 }
 
-[[gnu::section(".kalyxo.version"), gnu::used]] constinit const auto versionText = fileVersion();
+[[gnu::section(".component.version"), gnu::used]] constinit const auto versionText = fileVersion();
 
 }  // namespace
 

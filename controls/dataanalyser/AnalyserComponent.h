@@ -5,7 +5,6 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "controls/dataanalyser/AnalyserPane.h"
@@ -14,9 +13,6 @@
 #include "platform/components/Component.h"
 
 namespace controls::dataanalyser {
-
-/// The class id of the data analyser.
-inline constexpr std::string_view classId = "5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E103";
 
 /// The data analyser with the operations that its host calls. README.md describes the values of its state.
 class AnalyserComponent : public platform::Component {

@@ -1,6 +1,7 @@
 #include "controls/common/Module.h"
 
+#include "controls/contract/ClassIds.h"
 #include "controls/dataanalyser/AnalyserComponent.h"
 
 const platform::ComponentModule controls::componentModule{
-    .classId = controls::dataanalyser::classId, .create = controls::dataanalyser::createAnalyserComponent};
+    .classId = controls::dataAnalyserClass, .create = controls::dataanalyser::createAnalyserComponent};

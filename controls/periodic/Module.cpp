@@ -1,6 +1,7 @@
 #include "controls/common/Module.h"
 
+#include "controls/contract/ClassIds.h"
 #include "controls/periodic/PeriodicComponent.h"
 
 const platform::ComponentModule controls::componentModule{
-    .classId = controls::periodic::classId, .create = controls::periodic::createPeriodicComponent};
+    .classId = controls::periodicTableClass, .create = controls::periodic::createPeriodicComponent};

@@ -4,15 +4,11 @@
 #include <cstdint>
 #include <memory>
 #include <string>
-#include <string_view>
 
 #include "controls/periodic/PeriodicWidget.h"
 #include "platform/components/Component.h"
 
 namespace controls::periodic {
-
-/// The class id of the periodic table.
-inline constexpr std::string_view classId = "5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E101";
 
 /// The periodic table with the operations that its host calls.
 class PeriodicComponent : public platform::Component {

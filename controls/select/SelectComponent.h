@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <string_view>
 
 #include "controls/select/model/BrowseFolder.h"
 #include "controls/select/model/BrowseSelection.h"
@@ -13,9 +12,6 @@
 namespace controls::select {
 
 class SelectPane;
-
-/// The class id of the browse selection.
-inline constexpr std::string_view classId = "5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E102";
 
 /// The browse selection with the operations that its host calls.
 class SelectComponent : public platform::Component {

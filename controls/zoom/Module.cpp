@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "controls/contract/ClassIds.h"
 #include "controls/contract/HostMessages.h"
 #include "controls/zoom/MoleculeZoom.h"
 
@@ -11,6 +12,6 @@ constexpr std::array commands = {controls::showEnlargedView};
 
 }  // namespace
 
-const platform::ComponentModule controls::componentModule{.classId = controls::zoom::classId,
+const platform::ComponentModule controls::componentModule{.classId = controls::moleculeZoomClass,
                                                           .create = controls::zoom::createMoleculeZoom,
                                                           .pagePart = {":/zoom/zoom.html", commands}};

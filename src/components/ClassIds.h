@@ -4,13 +4,7 @@
 
 namespace kalyxo {
 
-/// Class ids of the components, without braces. Each component's own source states the same id.
-inline constexpr std::string_view kPeriodTableClass = "5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E101";
-inline constexpr std::string_view kSelectClass = "5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E102";
-inline constexpr std::string_view kDataAnalClass = "5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E103";
-inline constexpr std::string_view kMolCtrlClass = "5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E104";
-inline constexpr std::string_view kKzZoomClass = "5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E105";
-/// The web browser's published class id.
+/// The web browser's published class id, without braces; those of the components are in the contract.
 inline constexpr std::string_view kWebBrowserClass = "EAB22AC3-30C1-11CF-A7EB-0000C05BAE0B";
 
 /// Class ids of molecule controller and molecule zoom in content pages. Page preparation replaces them by

@@ -3,6 +3,7 @@
 #include <array>
 #include <optional>
 
+#include "controls/contract/ClassIds.h"
 #include "platform/components/ComponentLibrary.h"
 #include "platform/machine/Machine.h"
 #include "src/components/ClassIds.h"
@@ -27,10 +28,10 @@ struct ComponentFile {
     std::string_view classId;
 };
 
-constexpr std::array<ComponentFile, 4> kOtherComponents = {{{kSelectFile, kSelectClass},
-                                                            {kMolCtrlFile, kMolCtrlClass},
-                                                            {kKzZoomFile, kKzZoomClass},
-                                                            {kDataAnalFile, kDataAnalClass}}};
+constexpr std::array<ComponentFile, 4> kOtherComponents = {{{kSelectFile, controls::browseSelectionClass},
+                                                            {kMolCtrlFile, controls::moleculeControllerClass},
+                                                            {kKzZoomFile, controls::moleculeZoomClass},
+                                                            {kDataAnalFile, controls::dataAnalyserClass}}};
 
 std::string suppliedFile(std::string_view programFolder, std::string_view name) {
     return std::string(programFolder).append("\\ActiveX\\").append(name);
@@ -50,7 +51,7 @@ void RegisterComponentFile(std::string_view programFolder, std::string_view file
 
 ComponentCheck::Result ComponentCheck::Run() {
     updateSystemLibraries();
-    CheckComponentFile(kPeriodTableFile, kPeriodTableClass);
+    CheckComponentFile(kPeriodTableFile, controls::periodicTableClass);
     if (m_nReplaceDecision == ReplaceDecision::no) return Result::refused;
     for (const ComponentFile& component : kOtherComponents) {
         CheckComponentFile(component.file, component.classId);

@@ -5,7 +5,7 @@
 #include <span>
 #include <string>
 
-#include "src/components/ClassIds.h"
+#include "controls/contract/ClassIds.h"
 #include "src/components/Component.h"
 
 namespace kalyxo {
@@ -14,7 +14,7 @@ namespace kalyxo {
 class CDataAnal : public Component<CDataAnal> {
   public:
     static constexpr std::string_view kName = "CDataAnal";
-    static constexpr std::string_view kClass = kDataAnalClass;
+    static constexpr std::string_view kClass = controls::dataAnalyserClass;
 
     std::string Version() { return Get<std::string>(1); }
     /// 0 when the table is shown, else a graph is.

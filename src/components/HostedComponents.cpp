@@ -3,6 +3,7 @@
 #include <array>
 
 #include "platform/base/Resources.h"
+#include "src/components/ClassIds.h"
 #include "src/components/ComponentCheck.h"
 #include "src/components/MoleculeComponents.h"
 #include "src/resources/CommandIds.h"

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "src/components/ClassIds.h"
+#include "controls/contract/ClassIds.h"
 #include "src/components/Component.h"
 
 namespace kalyxo {
@@ -11,7 +11,7 @@ namespace kalyxo {
 class CMolCtrl : public Component<CMolCtrl> {
   public:
     static constexpr std::string_view kName = "CMolCtrl";
-    static constexpr std::string_view kClass = kMolCtrlClass;
+    static constexpr std::string_view kClass = controls::moleculeControllerClass;
 
     std::string Version() { return Get<std::string>(1); }
 };
@@ -20,7 +20,7 @@ class CMolCtrl : public Component<CMolCtrl> {
 class CKzZoom : public Component<CKzZoom> {
   public:
     static constexpr std::string_view kName = "CKzZoom";
-    static constexpr std::string_view kClass = kKzZoomClass;
+    static constexpr std::string_view kClass = controls::moleculeZoomClass;
 
     std::string GetVersion() { return Method<std::string>(1); }
 };

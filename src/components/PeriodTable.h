@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "src/components/ClassIds.h"
+#include "controls/contract/ClassIds.h"
 #include "src/components/Component.h"
 
 namespace kalyxo {
@@ -11,7 +11,7 @@ namespace kalyxo {
 class CPeriodTable : public Component<CPeriodTable> {
   public:
     static constexpr std::string_view kName = "CPeriodTable";
-    static constexpr std::string_view kClass = kPeriodTableClass;
+    static constexpr std::string_view kClass = controls::periodicTableClass;
 
     std::string Version() { return Get<std::string>(1); }
     bool SetDataFolder(const std::string& dataFolder) { return Method<bool>(2, dataFolder); }

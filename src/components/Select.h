@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "src/components/ClassIds.h"
+#include "controls/contract/ClassIds.h"
 #include "src/components/Component.h"
 
 namespace kalyxo {
@@ -11,7 +11,7 @@ namespace kalyxo {
 class CSelect : public Component<CSelect> {
   public:
     static constexpr std::string_view kName = "CSelect";
-    static constexpr std::string_view kClass = kSelectClass;
+    static constexpr std::string_view kClass = controls::browseSelectionClass;
 
     std::string Version() { return Get<std::string>(1); }
     std::string GetPageTitle(std::int32_t pageId) { return Method<std::string>(2, pageId); }

@@ -1,5 +1,6 @@
 #include "src/host/MachineSetup.h"
 
+#include "controls/contract/ClassIds.h"
 #include "src/components/ClassIds.h"
 #include "src/state/Settings.h"
 
@@ -17,9 +18,11 @@ std::vector<platform::NewMachineComponent> allComponents() {
     const auto component = [](std::string_view file, std::string_view classId) {
         return platform::NewMachineComponent{std::string(file), std::string(classId)};
     };
-    return {component(kPeriodTableFile, kPeriodTableClass), component(kSelectFile, kSelectClass),
-            component(kDataAnalFile, kDataAnalClass), component(kMolCtrlFile, kMolCtrlClass),
-            component(kKzZoomFile, kKzZoomClass)};
+    return {component(kPeriodTableFile, controls::periodicTableClass),
+            component(kSelectFile, controls::browseSelectionClass),
+            component(kDataAnalFile, controls::dataAnalyserClass),
+            component(kMolCtrlFile, controls::moleculeControllerClass),
+            component(kKzZoomFile, controls::moleculeZoomClass)};
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 
+#include "controls/contract/ClassIds.h"
 #include "src/components/ClassIds.h"
 #include "src/pages/GlossaryMarkup.h"
 
@@ -93,8 +94,8 @@ void LineRewriter::Rewrite(std::string& line, PageNotes& notes) const {
     setLinkColours(line);
     replaceAll(line, std::string_view(&kCapitalAlphaTonos, 1), "&#x0386;");
     unwrapCredit(line);
-    overwriteFirst(line, kPageMolCtrlClass, kMolCtrlClass);
-    overwriteFirst(line, kPageKzZoomClass, kKzZoomClass);
+    overwriteFirst(line, kPageMolCtrlClass, controls::moleculeControllerClass);
+    overwriteFirst(line, kPageKzZoomClass, controls::moleculeZoomClass);
 }
 
 void LineRewriter::insertDataFolder(std::string& line, std::size_t marker) const {
