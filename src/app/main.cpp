@@ -26,16 +26,15 @@ int complain(const std::string& problem) {
     return kWrongArguments;
 }
 
-/// The user's machine; null, after the user has been told why, when it cannot be opened.
+/// The user's machine; null when the user cancels, or is told why it cannot be opened.
 std::unique_ptr<platform::Machine> openMachine(const platform::Desktop& desktop) {
     std::optional<platform::CProgress> progress(platform::LoadString(kalyxo::IDS_PREPARING_MACHINE));
     auto opened = kalyxo::OpenOwnMachine(
         kalyxo::OwnMachineFolder(), kalyxo::FindInstalledFiles(kalyxo::RunningProgramsFolder()),
         {desktop.screen(), desktop.metrics(), desktop.printer()}, kalyxo::PresentMedia(), progress->Step());
-    const bool cancelled = progress->Cancelled();
     progress.reset();
     if (opened) return *std::move(opened);
-    if (!cancelled) platform::AfxMessageBox(opened.failure().message);
+    platform::AfxMessageBox(opened.failure().message);
     return nullptr;
 }
 

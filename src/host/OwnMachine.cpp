@@ -128,13 +128,12 @@ void followPresent(MachineConfig& config, const InstalledFiles& installed, const
 
 /// Makes what is missing of the machine; true when its registry is to be written. A machine that was never
 /// finished gets its registry file last.
-Result<bool> complete(Machine& machine, const Options& options, const ProgressStep& step) {
+Result<bool> complete(Machine& machine, const Options& options) {
     const bool unfinished = !isThere(registryFile(machine.folder()));
     const auto repaired = RepairMachine(machine, options);
     if (!repaired) return notMade(repaired.failure().message);
     if (unfinished && !options.modulesFrom.empty() && !hasModules(options.modulesFrom))
         return notRead(options.modulesFrom);
-    if (!updateModules(machine, options, step)) return Failure{"cancelled"};
     return unfinished || *repaired;
 }
 
@@ -177,8 +176,9 @@ Result<std::unique_ptr<Machine>> OpenOwnMachine(const fs::path& folder, const In
     const LetterMemory remembered = RememberedLetters(*registry);
     const LetterMemory letters = AddMediaDrives(*config, remembered, media);
     auto machine = std::make_unique<Machine>(folder, *std::move(config), *std::move(registry));
-    const auto changed = complete(*machine, options, step);
+    const auto changed = complete(*machine, options);
     if (!changed) return changed.failure();
+    if (!updateModules(*machine, options, step)) return std::unique_ptr<Machine>();
     // Writing the registry takes the lock for itself.
     lock.reset();
     if (letters != remembered) RememberLetters(machine->registry(), letters);

@@ -31,8 +31,8 @@ std::filesystem::path OwnMachineFolder();
 /// replaced, a compact disc that is missing, or whose folder is, is the installed content, and the media are
 /// drives (see `AddMediaDrives`). Several programs may do so at once: one makes the machine, the others wait
 /// for it. The failure's message is for the user, in code page 1253; a file that is damaged is left as it is.
-/// `step` is told of the modules, which may lie on a slow medium; once it cancels, there is no machine, and
-/// the next start goes on where this one stopped.
+/// `step` is told of the modules, which may lie on a slow medium; once it cancels, the value is null, and the
+/// next start goes on where this one stopped.
 platform::Result<std::unique_ptr<platform::Machine>> OpenOwnMachine(const std::filesystem::path& folder,
                                                                     const InstalledFiles& installed,
                                                                     const PresentScreen& present,

@@ -10,7 +10,7 @@ namespace {
 using platform::DriveType;
 using Media = std::vector<MountedMedium>;
 
-const RemovableTexts kRemovable = {
+const RemovableTexts removable = {
     {"sda", "0\n"}, {"sdb", "1\n"}, {"sd", "1\n"}, {"nvme0n1", "0\n"}, {"loop0", "0\n"}};
 
 struct MountCase {
@@ -51,7 +51,7 @@ TEST(MountedMedia, EachKindHasItsType) {
         {"", {}},
     };
     for (const MountCase& each : cases) {
-        EXPECT_EQ(ReadMountedMedia(each.line, kRemovable), each.media) << each.line;
+        EXPECT_EQ(ReadMountedMedia(each.line, removable), each.media) << each.line;
     }
 }
 
@@ -76,7 +76,7 @@ class DriveLetters : public testing::Test {
         platform::MachineConfig config;
         config.drives['D'] = {DriveType::cdrom, "/usr/share/content"};
         config.drives['Z'] = {DriveType::fixed, "/"};
-        RememberLetters(m_registry, AddMediaDrives(config, RememberedLetters(m_registry), media));
+        RememberLetters(registry_, AddMediaDrives(config, RememberedLetters(registry_), media));
         std::string letters;
         for (const MountedMedium& medium : media) {
             char letter = '-';
@@ -88,7 +88,7 @@ class DriveLetters : public testing::Test {
         return letters;
     }
 
-    platform::Registry m_registry;
+    platform::Registry registry_;
 };
 
 TEST_F(DriveLetters, StayWhileOthersComeAndGo) {
