@@ -29,7 +29,7 @@ QUrl normalisedUrl(const QUrl& url);
 /// and for names that the code page cannot write.
 std::optional<std::string> dosPathOfUrl(const QUrl& url);
 
-/// The address as the program is told it: a drive URL in DOS form (`C:\Kalyxo\cache\1.htm#top`), any other
+/// The address as the program is told it: a drive URL in DOS form (`C:\Program\cache\1.htm#top`), any other
 /// as it is.
 std::string addressOfUrl(const QUrl& url);
 

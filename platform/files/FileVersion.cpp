@@ -14,7 +14,7 @@ namespace platform {
 
 namespace {
 
-constexpr std::string_view versionSection = ".kalyxo.version";
+constexpr std::string_view versionSection = ".component.version";
 constexpr std::size_t longestVersion = 255;
 constexpr std::uint64_t maxNameTableBytes = 1 << 20;
 

@@ -1,1 +1,1 @@
-[[gnu::section(".kalyxo.version"), gnu::used]] extern const char moduleVersion[] = "1.0.40.0";
+[[gnu::section(".component.version"), gnu::used]] extern const char moduleVersion[] = "1.0.40.0";
