@@ -6,6 +6,7 @@
 #include <string>
 
 #include "controls/dataanalyser/AnalyserComponent.h"
+#include "controls/dataanalyser/graph/LinkedGraphParts.h"
 #include "controls/dataanalyser/table/TableView.h"
 #include "formats/DataSetFile.h"
 

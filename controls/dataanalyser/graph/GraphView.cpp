@@ -10,6 +10,7 @@
 #include "controls/common/Version.h"
 #include "controls/dataanalyser/graph/GraphChart.h"
 #include "controls/dataanalyser/graph/GraphMarks.h"
+#include "controls/dataanalyser/graph/LinkedGraphParts.h"
 #include "controls/dataanalyser/model/Analyser.h"
 
 namespace controls::dataanalyser {

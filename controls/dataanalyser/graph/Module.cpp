@@ -1,4 +1,4 @@
-#include "controls/dataanalyser/look/GraphParts.h"
+#include "controls/dataanalyser/graph/LinkedGraphParts.h"
 
 extern "C" __attribute__((visibility("default"))) const controls::dataanalyser::GraphParts*
 KalyxoGraphParts() {

@@ -43,9 +43,6 @@ struct GraphParts {
 /// Gets the functions when the first graph is to be drawn. Null when they cannot be loaded.
 using GraphPartsSource = const GraphParts* (*)();
 
-/// The functions in the program or library that calls this. It must be linked with them.
-const GraphParts* linkedGraphParts();
-
 /// The functions in the library `kzdataangk-graphs.so`, which lies beside the component's module.
 const GraphParts* loadGraphParts();
 

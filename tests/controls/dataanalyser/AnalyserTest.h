@@ -12,6 +12,7 @@
 
 #include "controls/dataanalyser/AnalyserComponent.h"
 #include "controls/dataanalyser/graph/GraphView.h"
+#include "controls/dataanalyser/graph/LinkedGraphParts.h"
 #include "controls/dataanalyser/table/TableView.h"
 #include "platform/text/CodePage1253.h"
 #include "tests/controls/RecordingSite.h"
