@@ -17,6 +17,7 @@ namespace drive {
 
 using platform::CPoint;
 using platform::HWND;
+using platform::Result;
 
 namespace {
 
@@ -30,12 +31,12 @@ struct Spot {
 std::optional<Spot> spotOf(Request& request, std::size_t first) {
     const std::optional<int> x = number<int>(request.argument(first));
     const std::optional<int> y = number<int>(request.argument(first + 1));
-    const WindowChoice choice =
+    const Result<HWND> window =
         chooseWindow(request.argumentCount() > first + 2 ? &request.argument(first + 2) : nullptr);
     if (!x || !y) request.fail("X and Y are whole numbers");
-    if (!choice.error.empty()) request.fail(choice.error);
-    if (!x || !y || choice.window == 0) return std::nullopt;
-    return Spot{choice.window, {*x, *y}};
+    if (!window) request.fail(window.failure().message);
+    if (!x || !y || !window) return std::nullopt;
+    return Spot{*window, {*x, *y}};
 }
 
 QWidget* widgetAtPointer() { return QApplication::widgetAt(QCursor::pos()); }
@@ -79,10 +80,11 @@ void click(Request& request, Program&) {
 void key(Request& request, Program&) {
     const std::optional<KeyStroke> stroke = keyStrokeOf(request.argument(0));
     if (!stroke) return request.fail("no key is named " + request.argument(0));
-    const WindowChoice choice =
-        request.argumentCount() == 1 ? WindowChoice() : chooseWindow(&request.argument(1));
-    if (!choice.error.empty()) return request.fail(choice.error);
-    strikeKey(*stroke, choice.window);
+    // Without a name it goes to where the keyboard is.
+    const Result<HWND> window =
+        request.argumentCount() == 1 ? Result<HWND>(HWND{0}) : chooseWindow(&request.argument(1));
+    if (!window) return request.fail(window.failure().message);
+    strikeKey(*stroke, *window);
     awaitReaction(request, &QApplication::focusWidget);
 }
 
@@ -92,9 +94,9 @@ void type(Request& request, Program&) {
 }
 
 void focus(Request& request, Program&) {
-    const WindowChoice choice = chooseWindow(&request.argument(0));
-    if (choice.window == 0) return request.fail(choice.error);
-    QWidget& widget = widgetOf(choice.window);
+    const Result<HWND> window = chooseWindow(&request.argument(0));
+    if (!window) return request.fail(window.failure().message);
+    QWidget& widget = widgetOf(*window);
     widget.activateWindow();
     widget.setFocus(Qt::OtherFocusReason);
 }

@@ -43,10 +43,11 @@ QImage shown(HWND window, const CRect& onScreen) {
 
 /// The window that an argument names. The request fails when there is none.
 HWND windowFor(Request& request, std::size_t index) {
-    const WindowChoice choice =
+    const Result<HWND> window =
         chooseWindow(request.argumentCount() > index ? &request.argument(index) : nullptr);
-    if (choice.window == 0) request.fail(choice.error);
-    return choice.window;
+    if (window) return *window;
+    request.fail(window.failure().message);
+    return 0;
 }
 
 void pixel(Request& request, Program&) {

@@ -87,11 +87,12 @@ HWND findWindow(const WindowName& name) {
     return std::visit([](const auto& which) { return find(which); }, name);
 }
 
-WindowChoice chooseWindow(const std::string* word) {
+Result<HWND> chooseWindow(const std::string* word) {
     const std::optional<WindowName> name = word == nullptr ? NamedWindow::view : windowNameOf(*word);
-    if (!name) return {0, "no window is named " + *word};
+    if (!name) return Failure{"no window is named " + *word};
     const HWND window = findWindow(*name);
-    return {window, window == 0 ? "there is no such window now" : ""};
+    if (window == 0) return Failure{"there is no such window now"};
+    return window;
 }
 
 CDialog* activeDialog() {

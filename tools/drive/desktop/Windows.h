@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/base/Messages.h"
+#include "platform/base/Result.h"
 #include "tools/drive/script/Json.h"
 #include "tools/drive/script/WindowName.h"
 
@@ -19,13 +20,8 @@ namespace drive {
 /// The window of this name, 0 when it does not exist now.
 platform::HWND findWindow(const WindowName& name);
 
-/// A window, or why there is none.
-struct WindowChoice {
-    platform::HWND window = 0;
-    std::string error;
-};
-/// The window that a word of a script names; the view when `word` is null.
-WindowChoice chooseWindow(const std::string* word);
+/// The window that a word of a script names; the view when `word` is null. Fails when there is none.
+platform::Result<platform::HWND> chooseWindow(const std::string* word);
 
 /// The dialog that waits for the user, null when there is none.
 platform::CDialog* activeDialog();
