@@ -37,7 +37,7 @@ class LargeVocabulary {
   public:
     LargeVocabulary()
         : root_(fs::temp_directory_path() / ("kalyxo-bench-words" + std::to_string(::getpid()))) {
-        fs::copy(kContent, root_, fs::copy_options::recursive);
+        fs::copy(contentFolder, root_, fs::copy_options::recursive);
         std::ofstream(root_ / "words.ndx", std::ios::binary | std::ios::trunc)
             << *formats::encodeWordIndex(manyWords());
     }

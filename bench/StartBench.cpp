@@ -38,11 +38,11 @@ void measureStart(benchmark::State& state, const std::vector<std::string>& comma
     state.counters["MB"] = megabytes;
 }
 
-void StartOfBareBrowser(benchmark::State& state) { measureStart(state, {kBin + "/bare-browser"}); }
+void StartOfBareBrowser(benchmark::State& state) { measureStart(state, {binFolder + "/bare-browser"}); }
 BENCHMARK(StartOfBareBrowser)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(7);
 
 void StartOfKalyxo(benchmark::State& state) {
-    measureStart(state, {kBin + "/kalyxo-shown", machine().folder()});
+    measureStart(state, {binFolder + "/kalyxo-shown", machine().folder()});
 }
 BENCHMARK(StartOfKalyxo)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(7);
 

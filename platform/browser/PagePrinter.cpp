@@ -18,8 +18,8 @@ namespace platform {
 
 namespace {
 
-const QPageLayout kPaper(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(15, 15, 15, 15),
-                         QPageLayout::Millimeter);
+const QPageLayout paper(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(15, 15, 15, 15),
+                        QPageLayout::Millimeter);
 
 /// Pages of a PDF file as the engine writes it, where each page is an object of its own in plain text.
 int countPages(const QByteArray& pdf) {
@@ -46,7 +46,7 @@ PagePrinter::~PagePrinter() = default;
 
 void PagePrinter::print() {
     if (printing_ || printer_ || !machine().printer()) return;
-    if (!nextPrintFile().empty()) return printToFile({}, kPaper, {});
+    if (!nextPrintFile().empty()) return printToFile({}, paper, {});
     auto printer = choosePrinter(*view_.window());
     if (!printer) return;
     if (printer->outputFormat() == QPrinter::PdfFormat) {

@@ -11,7 +11,7 @@ namespace platform {
 
 namespace {
 
-constexpr const char* kGreekFace = "Liberation Sans";
+constexpr const char* greekFace = "Liberation Sans";
 
 }  // namespace
 
@@ -37,7 +37,7 @@ void CPrinterDC::StretchBitmap(const CRect& target, const CBitmap& bitmap) {
 }
 
 void CPrinterDC::DrawTitle(std::string_view text, const CRect& area, int letterHeight) {
-    QFont font(QString::fromLatin1(kGreekFace));
+    QFont font(QString::fromLatin1(greekFace));
     font.setPixelSize(letterHeight);
     font.setBold(true);
     QPainter& painter = job_->painter();

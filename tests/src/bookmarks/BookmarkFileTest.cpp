@@ -15,12 +15,12 @@ namespace {
 
 using namespace platform::literals;
 
-const std::string kFolderClass = "FF FF 01 00 09 00 'CBMFolder' ";
-const std::string kPageClass = "FF FF 01 00 09 00 'CBMBrowse' ";
-const std::string kTableClass = "FF FF 01 00 0B 00 'CBMPeriodic' ";
-const std::string kAnalyserClass = "FF FF 01 00 09 00 'CBMDataAn' ";
-const std::string kDefaultFile = hexBytes("01 00 00 00  01 00 00 00  01 00 " + kFolderClass +
-                                          "14 CF E9 20 F3 E5 EB E9 E4 EF E4 E5 DF EA F4 E5 F2 20 EC EF F5");
+const std::string folderClass = "FF FF 01 00 09 00 'CBMFolder' ";
+const std::string pageClass = "FF FF 01 00 09 00 'CBMBrowse' ";
+const std::string tableClass = "FF FF 01 00 0B 00 'CBMPeriodic' ";
+const std::string analyserClass = "FF FF 01 00 09 00 'CBMDataAn' ";
+const std::string defaultFile = hexBytes("01 00 00 00  01 00 00 00  01 00 " + folderClass +
+                                         "14 CF E9 20 F3 E5 EB E9 E4 EF E4 E5 DF EA F4 E5 F2 20 EC EF F5");
 
 template <class Record>
 Record& add(BookmarkArray& records, std::string_view name) {
@@ -59,22 +59,22 @@ BookmarkArray recordsOfAllClasses() {
     return records;
 }
 
-const std::string kFileOfAllClasses =
-    hexBytes("01 00 00 00  06 00 00 00  06 00 " +                                         //
-             kFolderClass + "01 C1 " +                                                    // class 1, record 2
-             kPageClass + "4B 6D 04 00  FE FF FF FF  03 00  01 'p' " +                    // 3, 4
-             kTableClass + "04 03 02 01  05 00 00 00  01 't' " +                          // 5, 6
-             kAnalyserClass + "01 'd'  01 00  02 00  01 00 00 00  03 00  00 00 00 00 " +  // 7, 8
-             "04 00 00 00  07 00  02 00 00 00  FF FF  AB CD " +                           //
-             "03 00 00 00  0A 00 00 00  14 00 00 00  64 00 00 00  9C FF FF FF " +         //
-             "01 80  00 " +                                                               // 9
-             "03 80  00 00 00 00  00 00 00 00  00 00  01 'q'");                           // 10
+const std::string fileOfAllClasses =
+    hexBytes("01 00 00 00  06 00 00 00  06 00 " +                                        //
+             folderClass + "01 C1 " +                                                    // class 1, record 2
+             pageClass + "4B 6D 04 00  FE FF FF FF  03 00  01 'p' " +                    // 3, 4
+             tableClass + "04 03 02 01  05 00 00 00  01 't' " +                          // 5, 6
+             analyserClass + "01 'd'  01 00  02 00  01 00 00 00  03 00  00 00 00 00 " +  // 7, 8
+             "04 00 00 00  07 00  02 00 00 00  FF FF  AB CD " +                          //
+             "03 00 00 00  0A 00 00 00  14 00 00 00  64 00 00 00  9C FF FF FF " +        //
+             "01 80  00 " +                                                              // 9
+             "03 80  00 00 00 00  00 00 00 00  00 00  01 'q'");                          // 10
 
 TEST(BookmarkFile, EachRecordClassHasItsBytes) {
-    EXPECT_EQ(WriteBookmarks(recordsOfAllClasses()), kFileOfAllClasses);
-    const auto read = ReadBookmarks(kFileOfAllClasses);
+    EXPECT_EQ(WriteBookmarks(recordsOfAllClasses()), fileOfAllClasses);
+    const auto read = ReadBookmarks(fileOfAllClasses);
     ASSERT_TRUE(read);
-    EXPECT_EQ(WriteBookmarks(*read), kFileOfAllClasses);
+    EXPECT_EQ(WriteBookmarks(*read), fileOfAllClasses);
     const auto* analyser = dynamic_cast<const CBMDataAn*>(read->at(3).get());
     ASSERT_TRUE(analyser);
     EXPECT_EQ(analyser->flag5, 1);
@@ -85,7 +85,7 @@ TEST(BookmarkFile, EachRecordClassHasItsBytes) {
 TEST(BookmarkFile, LongNamesHaveTheirLengthForms) {
     const std::vector<std::pair<std::size_t, std::string>> forms = {
         {254, "FE"}, {255, "FF FF 00"}, {0xFFFD, "FF FD FF"}, {0xFFFE, "FF FF FF FE FF 00 00"}};
-    const std::string begin = hexBytes("01 00 00 00  01 00 00 00  01 00 " + kFolderClass);
+    const std::string begin = hexBytes("01 00 00 00  01 00 00 00  01 00 " + folderClass);
     for (const auto& [length, prefix] : forms) {
         BookmarkArray records;
         add<CBMFolder>(records, std::string(length, '\xE1'));
@@ -115,20 +115,20 @@ TEST(BookmarkFile, ManyRecordsHaveTheLargeForms) {
 }
 
 TEST(BookmarkFile, RefusesDamagedFiles) {
-    const std::string head = "01 00 00 00  02 00 00 00  02 00 " + kFolderClass + "01 'f' ";
+    const std::string head = "01 00 00 00  02 00 00 00  02 00 " + folderClass + "01 'f' ";
     const std::string analyser =
-        kAnalyserClass + "00  00 00 00 00  00 00 00 00  00 00  00 00 00 00  00 00 00 00  00 00 ";
+        analyserClass + "00  00 00 00 00  00 00 00 00  00 00  00 00 00 00  00 00 00 00  00 00 ";
     const std::pair<const char*, std::string> cases[] = {
         {"empty", ""},
-        {"version 2", "02 00 00 00  01 00 00 00  01 00 " + kFolderClass + "00"},
-        {"count 0", "01 00 00 00  00 00 00 00  01 00 " + kFolderClass + "00"},
+        {"version 2", "02 00 00 00  01 00 00 00  01 00 " + folderClass + "00"},
+        {"count 0", "01 00 00 00  00 00 00 00  01 00 " + folderClass + "00"},
         {"both counts 0", "01 00 00 00  00 00 00 00  00 00"},
-        {"count -1", "01 00 00 00  FF FF FF FF  FF FF FF FF FF FF " + kFolderClass + "00"},
-        {"counts differ", "01 00 00 00  02 00 00 00  01 00 " + kFolderClass + "00"},
-        {"more records than bytes", "01 00 00 00  FF FF FF 7F  FF FF FF FF FF 7F " + kFolderClass + "00"},
-        {"name of 4 GB", "01 00 00 00  01 00 00 00  01 00 " + kFolderClass + "FF FF FF FF FF FF FF 'x'"},
-        {"Unicode name", "01 00 00 00  01 00 00 00  01 00 " + kFolderClass + "FF FE FF 01 'x' 00"},
-        {"no folder first", "01 00 00 00  01 00 00 00  01 00 " + kTableClass + "00 00 00 00 00 00 00 00 00"},
+        {"count -1", "01 00 00 00  FF FF FF FF  FF FF FF FF FF FF " + folderClass + "00"},
+        {"counts differ", "01 00 00 00  02 00 00 00  01 00 " + folderClass + "00"},
+        {"more records than bytes", "01 00 00 00  FF FF FF 7F  FF FF FF FF FF 7F " + folderClass + "00"},
+        {"name of 4 GB", "01 00 00 00  01 00 00 00  01 00 " + folderClass + "FF FF FF FF FF FF FF 'x'"},
+        {"Unicode name", "01 00 00 00  01 00 00 00  01 00 " + folderClass + "FF FE FF 01 'x' 00"},
+        {"no folder first", "01 00 00 00  01 00 00 00  01 00 " + tableClass + "00 00 00 00 00 00 00 00 00"},
         {"schema 2", "01 00 00 00  01 00 00 00  01 00 FF FF 02 00 09 00 'CBMFolder' 00"},
         {"unknown class", head + "FF FF 01 00 06 00 'CBMFoo' 00"},
         {"class name of 64 KB", head + "FF FF 01 00 FF FF 'CBMFolder' 00"},
@@ -152,10 +152,10 @@ TEST(BookmarkFile, RefusesDamagedFiles) {
 }
 
 TEST(BookmarkFile, RefusesEachBeginningOfAFile) {
-    for (std::size_t length = 0; length < kFileOfAllClasses.size(); ++length) {
-        EXPECT_FALSE(ReadBookmarks(kFileOfAllClasses.substr(0, length))) << length;
+    for (std::size_t length = 0; length < fileOfAllClasses.size(); ++length) {
+        EXPECT_FALSE(ReadBookmarks(fileOfAllClasses.substr(0, length))) << length;
     }
-    EXPECT_TRUE(ReadBookmarks(kFileOfAllClasses + "more"));
+    EXPECT_TRUE(ReadBookmarks(fileOfAllClasses + "more"));
 }
 
 class BookmarksOnDisk : public testing::Test {
@@ -185,11 +185,11 @@ class BookmarksOnDisk : public testing::Test {
 };
 
 TEST_F(BookmarksOnDisk, TooLargeFileIsDamaged) {
-    drives_.put("C:\\b.dat", kDefaultFile);
+    drives_.put("C:\\b.dat", defaultFile);
     std::filesystem::resize_file(drives_.host("C:\\b.dat"), kMaxBookmarkBytes + 1);
     EXPECT_EQ(Run(drives_).load(), BookmarkLoad::damaged);
     const std::string folder = hexBytes("01 80 00");
-    std::string folders = hexBytes("01 00 00 00  01 00 02 00  FF FF 01 00 02 00 " + kFolderClass + "00");
+    std::string folders = hexBytes("01 00 00 00  01 00 02 00  FF FF 01 00 02 00 " + folderClass + "00");
     for (std::size_t i = 0; i < kMaxBookmarks; ++i) folders += folder;
     EXPECT_FALSE(ReadBookmarks(folders));
     folders[4] = folders[10] = 0;
@@ -197,7 +197,7 @@ TEST_F(BookmarksOnDisk, TooLargeFileIsDamaged) {
 }
 
 TEST_F(BookmarksOnDisk, TwoProgramsKeepEachOthersBookmarks) {
-    drives_.put("C:\\b.dat", kFileOfAllClasses);
+    drives_.put("C:\\b.dat", fileOfAllClasses);
     Run first(drives_);
     Run second(drives_);
     Run third(drives_);
@@ -212,7 +212,7 @@ TEST_F(BookmarksOnDisk, FileThatAppearsDuringTheRunIsKept) {
     Run run(drives_);
     EXPECT_EQ(run.load(), BookmarkLoad::noFile);
     run.add("new");
-    drives_.put("C:\\b.dat", kFileOfAllClasses);
+    drives_.put("C:\\b.dat", fileOfAllClasses);
     EXPECT_EQ(run.save(), BookmarkSave::saved);
     EXPECT_EQ(names(), std::string("Οι σελιδοδείκτες μου new Α p t d  q "_gr));
 }
@@ -225,13 +225,13 @@ TEST_F(BookmarksOnDisk, OnlyWholeFilesBecomeTheCopy) {
         std::string damaged, moreDamaged;  ///< .damaged and .damaged2
     };
     const std::string none = drives_.get("C:\\none");
-    const std::string half = kFileOfAllClasses.substr(0, 100);
+    const std::string half = fileOfAllClasses.substr(0, 100);
     const Case cases[] = {
-        {"whole", kFileOfAllClasses, "", kFileOfAllClasses, none, none, none},
-        {"whole, over a former copy", kFileOfAllClasses, kDefaultFile, kFileOfAllClasses, none, none, none},
-        {"whole, beside a foreign file", kFileOfAllClasses, "mine", "mine", kFileOfAllClasses, none, none},
-        {"half", half, kFileOfAllClasses, kFileOfAllClasses, kFileOfAllClasses, half, none},
-        {"half once more", half, kFileOfAllClasses, kFileOfAllClasses, kFileOfAllClasses, half, half},
+        {"whole", fileOfAllClasses, "", fileOfAllClasses, none, none, none},
+        {"whole, over a former copy", fileOfAllClasses, defaultFile, fileOfAllClasses, none, none, none},
+        {"whole, beside a foreign file", fileOfAllClasses, "mine", "mine", fileOfAllClasses, none, none},
+        {"half", half, fileOfAllClasses, fileOfAllClasses, fileOfAllClasses, half, none},
+        {"half once more", half, fileOfAllClasses, fileOfAllClasses, fileOfAllClasses, half, half},
     };
     for (const Case& row : cases) {
         drives_.put("C:\\b.dat", row.file);
@@ -247,13 +247,13 @@ TEST_F(BookmarksOnDisk, OnlyWholeFilesBecomeTheCopy) {
 }
 
 TEST_F(BookmarksOnDisk, CopyThatCannotBeMadeDoesNotMatter) {
-    drives_.put("C:\\b.dat", kFileOfAllClasses);
+    drives_.put("C:\\b.dat", fileOfAllClasses);
     drives_.put("C:\\b.dat.bak\\in the way", "");
     Run run(drives_);
     EXPECT_EQ(run.load(), BookmarkLoad::loaded);
-    const FullDisk full(kFileOfAllClasses.size());
+    const FullDisk full(fileOfAllClasses.size());
     EXPECT_EQ(run.save(), BookmarkSave::saved);
-    EXPECT_EQ(drives_.get("C:\\b.dat"), kFileOfAllClasses);
+    EXPECT_EQ(drives_.get("C:\\b.dat"), fileOfAllClasses);
 }
 
 /// Bookmarks of a text such as "F a b | G c=2": folders and what is in them, with a page id behind "=".

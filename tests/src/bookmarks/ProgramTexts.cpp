@@ -12,7 +12,7 @@ class ProgramTexts : public testing::Environment {
     void SetUp() override { platform::SetResources(kalyxo::ProgramResources()); }
 };
 
-const auto* const kProgramTexts =
+const auto* const programTexts =
     testing::AddGlobalTestEnvironment(std::make_unique<ProgramTexts>().release());
 
 }  // namespace

@@ -24,7 +24,7 @@ namespace {
 
 using namespace platform;
 
-constexpr COLORREF kEmpty = RGB(255, 0, 255);
+constexpr COLORREF empty = RGB(255, 0, 255);
 
 /// For its lifetime the program has no bitmaps.
 struct WithoutArtwork {
@@ -44,7 +44,7 @@ CBitmap sheet(int width, int height) {
     bitmap.CreateDIBitmap(header, {}, std::vector<std::byte>(bytes));
     CDC dc = CDC::CreateCompatibleDC(CDC());
     dc.SelectObject(bitmap);
-    dc.FillSolidRect({0, 0, width, height}, kEmpty);
+    dc.FillSolidRect({0, 0, width, height}, empty);
     return bitmap;
 }
 
@@ -71,7 +71,7 @@ class ProgramPicturesTest : public ::testing::Test {
     /// The start picture's window in one colour, and then what its own drawing leaves there.
     static QImage afterErasing(CSplashDlg& splash) {
         CClientDC dc(splash);
-        dc.FillSolidRect({0, 0, 640, 480}, kEmpty);
+        dc.FillSolidRect({0, 0, 640, 480}, empty);
         EXPECT_EQ(splash.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(static_cast<CDC*>(&dc))), 1);
         return SurfaceWidget::of(splash)->picture();
     }

@@ -35,9 +35,9 @@ TEST(BookmarkCommandsTest, RecordWhatIsOnShowAndBringItBack) {
         {commands.MakeBookmark(ContentMode::DataAnalyser, "state"), {"analyser's state"}, {3, 290123, 0}},
     };
     for (const auto& c : cases) {
-        host.TakeCalls();
+        host.takeCalls();
         commands.Open(*c.bookmark);
-        EXPECT_EQ(host.TakeCalls(), c.calls) << c.bookmark->name;
+        EXPECT_EQ(host.takeCalls(), c.calls) << c.bookmark->name;
         EXPECT_EQ(host.navigator.Address(), c.address) << c.bookmark->name;
     }
 }

@@ -12,7 +12,7 @@ class ContentHostProbe final : public ContentHost {
   public:
     bool EnterPageMode(std::int16_t sectionCode) override {
         note("section " + std::to_string(sectionCode));
-        return !std::exchange(m_bPageMode, true);
+        return !std::exchange(pageMode_, true);
     }
     void LayOutPage() override { note("panes"); }
     void ShowPage(std::int32_t pageNumber) override { note("page " + std::to_string(pageNumber)); }
@@ -27,20 +27,20 @@ class ContentHostProbe final : public ContentHost {
     }
 
     /// What it was asked since the last call.
-    std::vector<std::string> TakeCalls() { return std::exchange(m_calls, {}); }
+    std::vector<std::string> takeCalls() { return std::exchange(calls_, {}); }
 
     Navigator navigator{*this};
 
   private:
-    void note(std::string call) { m_calls.push_back(std::move(call)); }
+    void note(std::string call) { calls_.push_back(std::move(call)); }
     void showComponent(std::string name, std::int16_t code) {
         note(std::move(name));
         navigator.RecordHistory({code, 0, 0});
-        m_bPageMode = false;
+        pageMode_ = false;
     }
 
-    std::vector<std::string> m_calls;
-    bool m_bPageMode = false;
+    std::vector<std::string> calls_;
+    bool pageMode_ = false;
 };
 
 }  // namespace kalyxo

@@ -19,12 +19,12 @@ class NavigatorTest : public testing::Test {
 
 TEST_F(NavigatorTest, OpensThePageBeforeThePanesAreLaidOut) {
     navigator.OpenStartPage(1);
-    EXPECT_EQ(host.TakeCalls(), (Calls{"section 1", "page 170070", "panes"}));
+    EXPECT_EQ(host.takeCalls(), (Calls{"section 1", "page 170070", "panes"}));
     EXPECT_EQ(navigator.Address(), (PageAddress{1, 170070, 0}));
     navigator.OpenStartPage(2);
-    EXPECT_EQ(host.TakeCalls(), (Calls{"section 2", "page 370001"})) << "the panes stand";
+    EXPECT_EQ(host.takeCalls(), (Calls{"section 2", "page 370001"})) << "the panes stand";
     navigator.OpenTopic({3, 290123, 290124});
-    EXPECT_EQ(host.TakeCalls(), (Calls{"section 3", "item 290123/290124", "page 290123", "page 290124"}));
+    EXPECT_EQ(host.takeCalls(), (Calls{"section 3", "item 290123/290124", "page 290123", "page 290124"}));
     EXPECT_EQ(navigator.Address(), (PageAddress{3, 290123, 290124}));
     EXPECT_EQ(places(), 4);
 }
@@ -50,10 +50,10 @@ TEST_F(NavigatorTest, GoesBackAndForwardWithoutRecording) {
         {&Navigator::GoForward, {"table"}},
         {&Navigator::GoForward, {"analyser"}},
     };
-    host.TakeCalls();
+    host.takeCalls();
     for (const auto& step : steps) {
         (navigator.*step.way)();
-        EXPECT_EQ(host.TakeCalls(), step.calls);
+        EXPECT_EQ(host.takeCalls(), step.calls);
         EXPECT_EQ(places(), 4);
     }
     EXPECT_EQ(navigator.Address(), (PageAddress{3, 290123, 0})) << "which page mode goes on from";
