@@ -47,7 +47,7 @@ QByteArray hostRules(const std::vector<std::string>& hosts) {
 }
 
 bool isHostName(std::string_view name) {
-    return !name.empty() && std::all_of(name.begin(), name.end(), [](char c) {
+    return !name.empty() && std::ranges::all_of(name, [](char c) {
         return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '-' || c == '.';
     });
 }
@@ -98,7 +98,7 @@ bool engineIsInstalled() {
 
 void letEngineFind(const std::vector<std::string>& hosts) {
     std::vector<std::string> names;
-    std::copy_if(hosts.begin(), hosts.end(), std::back_inserter(names), isHostName);
+    std::ranges::copy_if(hosts, std::back_inserter(names), isHostName);
     // Of two switches of one name the later one counts.
     qputenv(flagsVariable, qgetenv(flagsVariable) + hostRules(names));
 }

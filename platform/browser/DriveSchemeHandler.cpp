@@ -59,8 +59,8 @@ bool isFrame(QWebEngineUrlRequestJob& job) {
     return job.requestHeaders().value(DriveSchemeHandler::frameHeader) == "1";
 }
 
-void replyFile(QWebEngineUrlRequestJob* job, const std::string& dosPath, FileHandle handle) {
-    auto file = deviceOf(std::move(handle));
+void replyFile(QWebEngineUrlRequestJob* job, const std::string& dosPath, const FileHandle& handle) {
+    auto file = deviceOf(handle);
     const QByteArray type = contentType(dosPath, *file);
     reply(job, type, std::move(file));
 }
@@ -82,8 +82,8 @@ void DriveSchemeHandler::requestStarted(QWebEngineUrlRequestJob* job) {
         } else {
             job->fail(QWebEngineUrlRequestJob::UrlNotFound);
         }
-    } else if (file) {
-        replyFile(job, *path, std::move(file));
+    } else if (path && file) {
+        replyFile(job, *path, file);
     } else if (frame) {
         replyMissingPage(job, path.value_or(addressOfUrl(url)));
     } else {

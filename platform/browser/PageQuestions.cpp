@@ -62,7 +62,7 @@ Answer await(Ask ask) {
 
 QVariant evaluate(QWebEnginePage& page, const QString& script) {
     return await<QVariant>(
-        [&](auto answer) { page.runJavaScript(script, QWebEngineScript::ApplicationWorld, answer); });
+        [&](const auto& answer) { page.runJavaScript(script, QWebEngineScript::ApplicationWorld, answer); });
 }
 
 /// The picture in the address, which any frame may have made up: only what begins as a PNG picture is one.
@@ -94,7 +94,7 @@ std::vector<EmbeddedFrame> readFrames(const QVariant& value, double scale) {
         const QVariantList numbers = one.toList();
         const auto place = rectangle(numbers.mid(1), scale);
         const auto unscaled = rectangle(numbers.mid(1), 1.0);
-        if (place) {
+        if (place && unscaled) {
             frames.push_back({numbers.first().toInt(), *place, {unscaled->Width(), unscaled->Height()}});
         }
     }
@@ -106,11 +106,11 @@ std::vector<EmbeddedFrame> readFrames(const QVariant& value, double scale) {
 bool anyQuestionOpen() { return openQuestions > 0; }
 
 QString textOf(QWebEnginePage& page) {
-    return await<QString>([&](auto answer) { page.toPlainText(answer); });
+    return await<QString>([&](const auto& answer) { page.toPlainText(answer); });
 }
 
 QString htmlOf(QWebEnginePage& page) {
-    return await<QString>([&](auto answer) { page.toHtml(answer); });
+    return await<QString>([&](const auto& answer) { page.toHtml(answer); });
 }
 
 std::optional<CRect> findLinkOf(QWebEnginePage& page, std::string_view linkText) {
@@ -144,7 +144,8 @@ QByteArray pictureOfEmbedded(QWebEnginePage& page, int number) {
         const QString url =
             evaluate(page, QStringLiteral("globalThis.pagePlugins?.picture(%1)").arg(number)).toString();
         if (!url.isEmpty()) return pngOfDataUrl(url);
-        await<bool>([](auto answer) { QTimer::singleShot(paintInterval, [answer] { answer(true); }); });
+        await<bool>(
+            [](const auto& answer) { QTimer::singleShot(paintInterval, [answer] { answer(true); }); });
     }
     return {};
 }

@@ -63,8 +63,8 @@ void PluginWindows::update() {
 
 void PluginWindows::place(const std::vector<EmbeddedFrame>& frames) {
     std::erase_if(windows_, [&](const auto& window) {
-        return std::none_of(frames.begin(), frames.end(),
-                            [&](const EmbeddedFrame& frame) { return frame.number == window.first; });
+        return std::ranges::none_of(frames,
+                                    [&](const EmbeddedFrame& frame) { return frame.number == window.first; });
     });
     for (const EmbeddedFrame& frame : frames) {
         auto& window = windows_[frame.number];
@@ -76,8 +76,8 @@ void PluginWindows::place(const std::vector<EmbeddedFrame>& frames) {
 
 QByteArray PluginWindows::picture(HWND window) {
     QWidget* const widget = WindowTable::instance().widget(window);
-    const auto found = std::find_if(windows_.begin(), windows_.end(),
-                                    [&](const auto& one) { return one.second.get() == widget; });
+    const auto found =
+        std::ranges::find_if(windows_, [&](const auto& one) { return one.second.get() == widget; });
     if (!page_ || !widget || found == windows_.end()) return {};
     return pictureOfEmbedded(*page_, found->first);
 }

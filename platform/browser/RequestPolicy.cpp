@@ -21,8 +21,8 @@ bool isInlineData(const QUrl& url) {
 }  // namespace
 
 bool RequestPolicy::allowsFile(std::string_view canonicalPath) const {
-    return std::any_of(folders_.begin(), folders_.end(),
-                       [&](const auto& folder) { return liesBelow(canonicalPath, folder); });
+    return std::ranges::any_of(folders_,
+                               [&](const auto& folder) { return liesBelow(canonicalPath, folder); });
 }
 
 bool RequestPolicy::allowsFile(const QUrl& url) const {
@@ -32,7 +32,7 @@ bool RequestPolicy::allowsFile(const QUrl& url) const {
 
 bool RequestPolicy::allowsHost(const QUrl& url) const {
     const std::string host = isOnline(url) ? url.host().toLower().toStdString() : std::string();
-    return !host.empty() && std::find(hosts_.begin(), hosts_.end(), host) != hosts_.end();
+    return !host.empty() && std::ranges::find(hosts_, host) != hosts_.end();
 }
 
 bool RequestPolicy::allows(const PageRequest& request) const {

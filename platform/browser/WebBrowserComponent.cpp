@@ -148,7 +148,7 @@ void WebBrowserComponent::sendCommand(const std::string& component, LPARAM comma
     const ComponentModule* module = loadRegisteredClass(component);
     if (!module) return;
     const auto commands = module->pagePart.commands;
-    if (std::find(commands.begin(), commands.end(), command) == commands.end()) return;
+    if (std::ranges::find(commands, command) == commands.end()) return;
     const WindowTable& windows = WindowTable::instance();
     const QWidget* own = windows.widget(windows.nearestHandle(view_.get()));
     if (own) site_.sendMessage(windows.nearestHandle(own->parentWidget()), WM_COMMAND, 0, command);

@@ -142,7 +142,7 @@ void WebView::addZoomKeys() {
 }
 
 void WebView::zoomBy(int steps) {
-    const auto nearest = std::min_element(zoomSteps.begin(), zoomSteps.end(), [this](double a, double b) {
+    const auto nearest = std::ranges::min_element(zoomSteps, [this](double a, double b) {
         return std::abs(a - zoomFactor()) < std::abs(b - zoomFactor());
     });
     const auto wanted = nearest - zoomSteps.begin() + steps;

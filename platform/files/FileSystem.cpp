@@ -46,7 +46,7 @@ std::optional<std::string> dosName(std::string_view native) {
 std::optional<std::string> dosPathBelow(const std::string& root, std::string_view names) {
     auto below = dosName(names);
     if (!below) return std::nullopt;
-    std::replace(below->begin(), below->end(), '/', '\\');
+    std::ranges::replace(*below, '/', '\\');
     return root + *below;
 }
 
@@ -61,9 +61,8 @@ void FileSystem::setDrives(std::vector<Drive> drives) {
 }
 
 const Drive* FileSystem::findDrive(char letter) const {
-    const auto found =
-        std::find_if(drives_.begin(), drives_.end(),
-                     [wanted = upperLetter(letter)](const Drive& drive) { return drive.letter == wanted; });
+    const auto found = std::ranges::find_if(
+        drives_, [wanted = upperLetter(letter)](const Drive& drive) { return drive.letter == wanted; });
     return found == drives_.end() ? nullptr : &*found;
 }
 
@@ -247,7 +246,7 @@ std::optional<std::vector<FolderEntry>> FileSystem::listFolder(std::string_view 
         if (name) entries.push_back({std::move(*name), it->is_directory(ignored)});
     }
     if (error) return std::nullopt;
-    std::sort(entries.begin(), entries.end(), [](const FolderEntry& a, const FolderEntry& b) {
+    std::ranges::sort(entries, [](const FolderEntry& a, const FolderEntry& b) {
         const std::string left = toLower(a.name);
         const std::string right = toLower(b.name);
         return left != right ? left < right : a.name < b.name;

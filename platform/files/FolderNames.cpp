@@ -58,7 +58,7 @@ class NameChoice {
 
 bool isSameButForCase(std::string_view a, std::string_view b) {
     // Rules out nearly all names without converting them.
-    if (!std::equal(a.begin(), a.end(), b.begin(), b.end(), canCorrespond)) return false;
+    if (!std::ranges::equal(a, b, canCorrespond)) return false;
     const auto first = fromUtf8Strict(a);
     const auto second = fromUtf8Strict(b);
     return first && second && equalsNoCase(*first, *second);

@@ -42,7 +42,7 @@ UINT virtualKey(int qtKey) {
     if (qtKey >= Qt::Key_F1 && qtKey <= Qt::Key_F24) {
         return firstFunctionKey + static_cast<UINT>(qtKey - Qt::Key_F1);
     }
-    const auto key = std::find_if(named.begin(), named.end(), [=](const Key& k) { return k.qt == qtKey; });
+    const auto key = std::ranges::find_if(named, [=](const Key& k) { return k.qt == qtKey; });
     if (key != named.end()) return key->number;
     if (qtKey >= firstKeyWithoutCharacter) return 0;
     const bool isGreek = qtKey >= 0x0370 && qtKey <= 0x03FF;

@@ -7,7 +7,7 @@ namespace platform {
 namespace {
 
 bool has(std::span<const BoxAnswer> buttons, BoxAnswer answer) {
-    return std::find(buttons.begin(), buttons.end(), answer) != buttons.end();
+    return std::ranges::find(buttons, answer) != buttons.end();
 }
 
 }  // namespace

@@ -23,6 +23,7 @@ Machine* currentMachine = nullptr;
 
 std::vector<Drive> drivesOf(const fs::path& folder, const MachineConfig& config) {
     std::vector<Drive> drives;
+    drives.reserve(config.drives.size());
     for (const auto& [letter, drive] : config.drives)
         drives.push_back({letter, drive.type, folder / drive.folder});
     return drives;
@@ -64,8 +65,8 @@ Machine::Machine(const fs::path& folder, MachineConfig config, Registry registry
 int Machine::metric(SystemMetric metric) const {
     if (metric == SM_CXSCREEN) return config_.screen.width;
     if (metric == SM_CYSCREEN) return config_.screen.height;
-    const auto row = std::find_if(metricNames.begin(), metricNames.end(),
-                                  [metric](const MetricName& name) { return name.metric == metric; });
+    const auto row =
+        std::ranges::find_if(metricNames, [metric](const MetricName& name) { return name.metric == metric; });
     if (row == metricNames.end()) return 0;
     const auto given = config_.metrics.find(row->name);
     return given == config_.metrics.end() ? row->standard : given->second;

@@ -108,14 +108,14 @@ void readMetrics(FieldReader& reader, const Json& root, MachineConfig& config) {
 }
 
 std::optional<DriveType> driveTypeByName(std::string_view name) {
-    const auto found = std::find_if(driveTypeNames.begin(), driveTypeNames.end(),
-                                    [name](const auto& row) { return row.first == name; });
+    const auto found =
+        std::ranges::find_if(driveTypeNames, [name](const auto& row) { return row.first == name; });
     return found == driveTypeNames.end() ? std::nullopt : std::optional(found->second);
 }
 
 std::string_view driveTypeName(DriveType type) {
-    const auto found = std::find_if(driveTypeNames.begin(), driveTypeNames.end(),
-                                    [type](const auto& row) { return row.second == type; });
+    const auto found =
+        std::ranges::find_if(driveTypeNames, [type](const auto& row) { return row.second == type; });
     return found == driveTypeNames.end() ? "unknown" : found->first;
 }
 
@@ -167,7 +167,7 @@ void readHost(FieldReader& reader, const Json& sites, const char* name, std::str
     const Json* value = FieldReader::field(sites, name);
     if (!value) return;
     const std::string text = value->is_string() ? value->get<std::string>() : "?";
-    const bool isName = std::all_of(text.begin(), text.end(), [](char c) {
+    const bool isName = std::ranges::all_of(text, [](char c) {
         return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '-' || c == '.';
     });
     if (!isName)

@@ -33,8 +33,8 @@ std::string extensionOf(std::string_view path) {
 
 std::string_view mediaTypeOf(std::string_view path) {
     const std::string extension = extensionOf(path);
-    const auto found = std::find_if(mediaTypes.begin(), mediaTypes.end(),
-                                    [&](const Entry& entry) { return entry.first == extension; });
+    const auto found =
+        std::ranges::find_if(mediaTypes, [&](const Entry& entry) { return entry.first == extension; });
     return found == mediaTypes.end() ? "application/octet-stream" : found->second;
 }
 

@@ -25,8 +25,8 @@ FrameAnswer resource(const QString& path) {
 
 /// A file of the folder in which the viewer page lies.
 FrameAnswer besideViewer(const std::string& viewer, const QString& name) {
-    const bool isPlain = std::all_of(name.begin(), name.end(),
-                                     [](QChar c) { return c.isLetterOrNumber() || c == u'.' || c == u'-'; });
+    const bool isPlain =
+        std::ranges::all_of(name, [](QChar c) { return c.isLetterOrNumber() || c == u'.' || c == u'-'; });
     if (!isPlain) return {};
     const QString page = QString::fromStdString(viewer);
     return resource(page.first(page.lastIndexOf(u'/') + 1) + name);

@@ -21,6 +21,7 @@ const std::string* PluginTypes::pageFor(std::string_view path) const {
 
 std::vector<std::string> PluginTypes::extensions() const {
     std::vector<std::string> names;
+    names.reserve(pages_.size());
     for (const auto& [extension, page] : pages_) names.push_back(extension);
     return names;
 }

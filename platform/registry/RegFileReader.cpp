@@ -34,7 +34,7 @@ bool RegFileReader::readAll() {
 
 std::size_t RegFileReader::line() const {
     const std::string_view before = text_.substr(0, at_);
-    return 1 + static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n'));
+    return 1 + static_cast<std::size_t>(std::ranges::count(before, '\n'));
 }
 
 bool RegFileReader::checkEncoding() {

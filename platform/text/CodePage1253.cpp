@@ -63,13 +63,13 @@ char lower(char c) { return codepage::lowerByte(c); }
 
 std::string toLower(std::string_view cp1253) {
     std::string result(cp1253);
-    std::transform(result.begin(), result.end(), result.begin(), codepage::lowerByte);
+    std::ranges::transform(result, result.begin(), codepage::lowerByte);
     return result;
 }
 
 bool equalsNoCase(std::string_view a, std::string_view b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](char x, char y) { return codepage::lowerByte(x) == codepage::lowerByte(y); });
+    return std::ranges::equal(
+        a, b, [](char x, char y) { return codepage::lowerByte(x) == codepage::lowerByte(y); });
 }
 
 }  // namespace platform

@@ -50,8 +50,8 @@ constexpr auto foldTable = [] {
 
 std::string fold(std::string_view cp1253) {
     std::string result(cp1253);
-    std::transform(result.begin(), result.end(), result.begin(),
-                   [](char c) { return foldTable[static_cast<unsigned char>(c)]; });
+    std::ranges::transform(result, result.begin(),
+                           [](char c) { return foldTable[static_cast<unsigned char>(c)]; });
     return result;
 }
 

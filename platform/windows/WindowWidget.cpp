@@ -70,9 +70,8 @@ LRESULT WindowWidget::send(UINT message, WPARAM wParam, LPARAM lParam) {
 void WindowWidget::setTimer(UINT id, int milliseconds) { timers_[id].start(milliseconds, this); }
 
 void WindowWidget::timerEvent(QTimerEvent* event) {
-    const auto timer = std::find_if(timers_.begin(), timers_.end(), [event](const auto& entry) {
-        return entry.second.timerId() == event->timerId();
-    });
+    const auto timer = std::ranges::find_if(
+        timers_, [event](const auto& entry) { return entry.second.timerId() == event->timerId(); });
     if (timer != timers_.end()) send(WM_TIMER, timer->first);
 }
 

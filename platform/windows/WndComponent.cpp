@@ -27,9 +27,9 @@ TraceCallKind traceKind(InvokeKind kind) {
 
 std::string operationName(const Component& component, std::int32_t dispid, InvokeKind kind) {
     const auto operations = component.operations();
-    const auto found = std::find_if(
-        operations.begin(), operations.end(),
-        [=](const OperationInfo& operation) { return operation.dispid == dispid && operation.kind == kind; });
+    const auto found = std::ranges::find_if(operations, [=](const OperationInfo& operation) {
+        return operation.dispid == dispid && operation.kind == kind;
+    });
     return found == operations.end() ? std::string() : std::string(found->name);
 }
 

@@ -33,7 +33,7 @@ std::uint32_t partNumber(std::string_view text) {
 
 FileVersionNumbers ParseFileVersion(std::string_view text) {
     std::string stopped(text);
-    std::replace(stopped.begin(), stopped.end(), ',', '.');
+    std::ranges::replace(stopped, ',', '.');
     std::array<std::uint32_t, kParts> numbers{};
     std::size_t count = 0;
     for (std::size_t begin = 0; count < kParts; ++count) {

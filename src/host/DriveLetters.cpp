@@ -38,8 +38,8 @@ std::string inAscii(std::string_view folder) {
 }
 
 bool isDrive(const MachineConfig& config, const std::filesystem::path& folder) {
-    return std::any_of(config.drives.begin(), config.drives.end(),
-                       [&folder](const auto& drive) { return drive.second.folder == folder; });
+    return std::ranges::any_of(config.drives,
+                               [&folder](const auto& drive) { return drive.second.folder == folder; });
 }
 
 /// The first letter from D: on that is no drive and for which `allowed` holds.
@@ -66,8 +66,7 @@ std::optional<char> letterFor(const std::string& folder, const MachineConfig& co
 std::vector<MountedMedium> inOrder(std::vector<MountedMedium> media, const LetterMemory& remembered) {
     std::stable_partition(media.begin(), media.end(), [&](const MountedMedium& medium) {
         const std::string folder = inAscii(medium.folder.string());
-        return std::any_of(remembered.begin(), remembered.end(),
-                           [&](const auto& letter) { return letter.second == folder; });
+        return std::ranges::any_of(remembered, [&](const auto& letter) { return letter.second == folder; });
     });
     return media;
 }

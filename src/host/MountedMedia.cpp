@@ -53,7 +53,7 @@ std::string withoutEscapes(std::string_view text) {
     std::string result;
     for (std::size_t i = 0; i < text.size(); ++i) {
         const std::string_view digits = text.substr(i + 1, 3);
-        if (text[i] == '\\' && digits.size() == 3 && std::all_of(digits.begin(), digits.end(), isOctal)) {
+        if (text[i] == '\\' && digits.size() == 3 && std::ranges::all_of(digits, isOctal)) {
             result += static_cast<char>((digits[0] - '0') * 64 + (digits[1] - '0') * 8 + (digits[2] - '0'));
             i += 3;
         } else {
@@ -74,12 +74,12 @@ std::optional<MountLine> readLine(const std::string& line) {
 
 template <std::size_t N>
 bool isOneOf(std::string_view name, const std::array<std::string_view, N>& names) {
-    return std::find(names.begin(), names.end(), name) != names.end();
+    return std::ranges::find(names, name) != names.end();
 }
 
 template <std::size_t N>
 bool liesBelowOneOf(std::string_view folder, const std::array<std::string_view, N>& places) {
-    return std::any_of(places.begin(), places.end(), [folder](std::string_view place) {
+    return std::ranges::any_of(places, [folder](std::string_view place) {
         return folder.starts_with(place) && (folder.size() == place.size() || folder[place.size()] == '/');
     });
 }
@@ -97,7 +97,7 @@ std::optional<DriveType> diskType(std::string_view device, bool inUserPlace, con
     if (isPartOf(part, "sr")) return DriveType::cdrom;
     // Of a card the host tells that its reader stays, not that the card goes.
     const bool isCard = part.starts_with("mmcblk") && inUserPlace;
-    const bool goesOut = std::any_of(texts.begin(), texts.end(), [part](const auto& disk) {
+    const bool goesOut = std::ranges::any_of(texts, [part](const auto& disk) {
         return disk.second.starts_with('1') && isPartOf(part, disk.first);
     });
     if (isCard || goesOut) return DriveType::removable;

@@ -19,7 +19,7 @@ bool isMoleculeName(std::string_view path) {
     const std::size_t stop = path.find_last_of(".\\");
     if (stop == std::string_view::npos || path[stop] != '.') return false;
     const std::string ending = platform::toLower(path.substr(stop + 1));
-    return std::find(kMoleculeEndings.begin(), kMoleculeEndings.end(), ending) != kMoleculeEndings.end();
+    return std::ranges::find(kMoleculeEndings, ending) != kMoleculeEndings.end();
 }
 
 }  // namespace

@@ -33,7 +33,7 @@ std::string damaged(std::size_t offset, T value) {
     std::string image = *encodeBrowseIndex(sampleIndex());
     std::string bytes;
     formats::appendInteger(bytes, value);
-    std::copy(bytes.begin(), bytes.end(), image.begin() + static_cast<std::ptrdiff_t>(offset));
+    std::ranges::copy(bytes, image.begin() + static_cast<std::ptrdiff_t>(offset));
     return image;
 }
 

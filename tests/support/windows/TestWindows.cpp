@@ -24,9 +24,8 @@ Log& Log::instance() {
 Lines Log::lines(std::initializer_list<std::string_view> messages) const {
     Lines found;
     for (const std::string& line : lines_) {
-        const bool asked = std::any_of(messages.begin(), messages.end(), [&](std::string_view message) {
-            return line.find(message) != line.npos;
-        });
+        const bool asked = std::ranges::any_of(
+            messages, [&](std::string_view message) { return line.find(message) != line.npos; });
         if (asked || messages.size() == 0) found.push_back(line);
     }
     return found;
