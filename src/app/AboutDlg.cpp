@@ -21,8 +21,8 @@ const CRuntimeClass CAboutDlg::runtimeClass{"CAboutDlg"};
 CAboutDlg::CAboutDlg() : CDialog(IDD_ABOUT) {}
 
 const MessageMap* CAboutDlg::GetMessageMap() const {
-    static constexpr MessageMapEntry entries[] = {OnMessage<WM_LBUTTONDOWN, &CAboutDlg::OnLButtonDown>()};
-    static const MessageMap map{CDialog::GetMessageMap(), entries};
+    static constexpr MessageMapEntry kEntries[] = {OnMessage<WM_LBUTTONDOWN, &CAboutDlg::OnLButtonDown>()};
+    static const MessageMap map{CDialog::GetMessageMap(), kEntries};
     return &map;
 }
 

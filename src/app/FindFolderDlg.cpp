@@ -20,11 +20,11 @@ const CRuntimeClass CFindFolderDlg::runtimeClass{"CFindFolderDlg"};
 CFindFolderDlg::CFindFolderDlg(FolderPurpose mode) : CDialog(IDD_FIND_FOLDER), m_nMode(mode) {}
 
 const MessageMap* CFindFolderDlg::GetMessageMap() const {
-    static constexpr MessageMapEntry entries[] = {
+    static constexpr MessageMapEntry kEntries[] = {
         OnControl<&CFindFolderDlg::OnDriveSelected>(IDC_FOLDER_DRIVES, CBN_SELCHANGE),
         OnNotify<&CFindFolderDlg::OnItemExpanding>(IDC_FOLDER_TREE, TVN_ITEMEXPANDING),
     };
-    static const MessageMap map{CDialog::GetMessageMap(), entries};
+    static const MessageMap map{CDialog::GetMessageMap(), kEntries};
     return &map;
 }
 

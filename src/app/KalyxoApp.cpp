@@ -43,8 +43,8 @@ CRect screenArea() {
 const CRuntimeClass CKalyxoApp::runtimeClass{"CKalyxoApp"};
 
 const MessageMap* CKalyxoApp::GetMessageMap() const {
-    static constexpr MessageMapEntry entries[] = {OnCommandId<&CKalyxoApp::OnAppAbout>(ID_APP_ABOUT)};
-    static const MessageMap map{CWinApp::GetMessageMap(), entries};
+    static constexpr MessageMapEntry kEntries[] = {OnCommandId<&CKalyxoApp::OnAppAbout>(ID_APP_ABOUT)};
+    static const MessageMap map{CWinApp::GetMessageMap(), kEntries};
     return &map;
 }
 
@@ -121,8 +121,8 @@ bool CKalyxoApp::PreTranslateMessage(const MSG& message) {
 }
 
 std::string ColourDepthWarning(int bitsPerPixel) {
-    constexpr int enough = 16;
-    if (bitsPerPixel >= enough) return {};
+    constexpr int kEnough = 16;
+    if (bitsPerPixel >= kEnough) return {};
     return std::string(LoadString(IDS_SCREEN_SHOWS_ONLY))
         .append(bitsPerPixel == 8 ? "256" : "16")
         .append(LoadString(IDS_SO_MANY_COLOURS));

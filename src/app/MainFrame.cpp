@@ -27,12 +27,12 @@ int between(int from, int to) {
 const CRuntimeClass CMainFrame::runtimeClass = MakeRuntimeClass<CMainFrame>("CMainFrame");
 
 const MessageMap* CMainFrame::GetMessageMap() const {
-    static constexpr MessageMapEntry entries[] = {
+    static constexpr MessageMapEntry kEntries[] = {
         OnMessage<WM_CREATE, &CMainFrame::OnCreate>(),
         OnMessage<WM_SIZE, &CMainFrame::OnSize>(),
         OnMessage<WM_DESTROY, &CMainFrame::OnDestroy>(),
     };
-    static const MessageMap map{CFrameWnd::GetMessageMap(), entries};
+    static const MessageMap map{CFrameWnd::GetMessageMap(), kEntries};
     return &map;
 }
 

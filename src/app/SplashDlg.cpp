@@ -55,9 +55,9 @@ CSplashDlg::CSplashDlg() : CDialog(IDD_SPLASH), m_nBitmapId(IDB_SPLASH) {
 }
 
 const MessageMap* CSplashDlg::GetMessageMap() const {
-    static constexpr MessageMapEntry entries[] = {OnMessage<WM_PAINT, &CSplashDlg::OnPaint>(),
-                                                  OnMessage<WM_ERASEBKGND, &CSplashDlg::OnEraseBkgnd>()};
-    static const MessageMap map{CDialog::GetMessageMap(), entries};
+    static constexpr MessageMapEntry kEntries[] = {OnMessage<WM_PAINT, &CSplashDlg::OnPaint>(),
+                                                   OnMessage<WM_ERASEBKGND, &CSplashDlg::OnEraseBkgnd>()};
+    static const MessageMap map{CDialog::GetMessageMap(), kEntries};
     return &map;
 }
 

@@ -43,7 +43,7 @@ CBookmarkDlg::CBookmarkDlg(BookmarkList& list)
     : CDialog(IDD_BOOKMARK), m_list(list), m_pInitialFolder(list.CurrentFolder()) {}
 
 const MessageMap* CBookmarkDlg::GetMessageMap() const {
-    static constexpr MessageMapEntry entries[] = {
+    static constexpr MessageMapEntry kEntries[] = {
         OnCommandId<&CBookmarkDlg::OnAdvanced>(IDC_BOOKMARK_ADVANCED),
         OnCommandId<&CBookmarkDlg::OnNewFolder>(IDC_BOOKMARK_NEW_FOLDER),
         OnCommandId<&CBookmarkDlg::OnRename>(IDC_BOOKMARK_RENAME),
@@ -54,7 +54,7 @@ const MessageMap* CBookmarkDlg::GetMessageMap() const {
         OnNotify<&CBookmarkDlg::OnTreeBeginDrag>(IDC_BOOKMARK_TREE, TVN_BEGINDRAG),
         OnMessage<WM_KEYDOWN, &CBookmarkDlg::OnKeyDown>(),
     };
-    static const MessageMap map{CDialog::GetMessageMap(), entries};
+    static const MessageMap map{CDialog::GetMessageMap(), kEntries};
     return &map;
 }
 

@@ -10,12 +10,12 @@ using namespace platform;
 CBookmarkTree::CBookmarkTree() : m_dragCursor(CCursor::FromResource(IDC_DRAG_CURSOR)) {}
 
 const MessageMap* CBookmarkTree::GetMessageMap() const {
-    static constexpr MessageMapEntry entries[] = {
+    static constexpr MessageMapEntry kEntries[] = {
         OnMessage<WM_MOUSEMOVE, &CBookmarkTree::OnMouseMove>(),
         OnMessage<WM_LBUTTONUP, &CBookmarkTree::OnLButtonUp>(),
         OnMessage<WM_SETCURSOR, &CBookmarkTree::OnSetCursor>(),
     };
-    static const MessageMap map{CTreeCtrl::GetMessageMap(), entries};
+    static const MessageMap map{CTreeCtrl::GetMessageMap(), kEntries};
     return &map;
 }
 

@@ -27,10 +27,10 @@ CFolderNameDlg::CFolderNameDlg(NameFor mode, std::string text)
     : CDialog(IDD_FOLDER_NAME), m_mode(mode), m_text(std::move(text)) {}
 
 std::string CFolderNameDlg::Text() const {
-    constexpr std::string_view white = " \t\r\n\v\f";
-    const std::size_t first = m_text.find_first_not_of(white);
+    constexpr std::string_view kWhite = " \t\r\n\v\f";
+    const std::size_t first = m_text.find_first_not_of(kWhite);
     if (first == m_text.npos) return {};
-    return m_text.substr(first, m_text.find_last_not_of(white) - first + 1);
+    return m_text.substr(first, m_text.find_last_not_of(kWhite) - first + 1);
 }
 
 void CFolderNameDlg::DoDataExchange(CDataExchange& exchange) {

@@ -11,8 +11,8 @@ template <class Wrapper>
 class Component : public platform::CWnd {
   public:
     const platform::CRuntimeClass& GetRuntimeClass() const override {
-        static constexpr platform::CRuntimeClass runtimeClass{Wrapper::kName};
-        return runtimeClass;
+        static constexpr platform::CRuntimeClass kRuntimeClass{Wrapper::kName};
+        return kRuntimeClass;
     }
 
     /// Creates the component in a window of its own in `parent`; false when the class cannot be created.

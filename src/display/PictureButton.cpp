@@ -48,8 +48,8 @@ void drawPressed(CDC& dc, int w, int h) {
 HWND CPictureButton::FocusReturn() { return focusReturn; }
 
 const MessageMap* CPictureButton::GetMessageMap() const {
-    static constexpr MessageMapEntry entries[] = {OnMessage<WM_SETFOCUS, &CPictureButton::OnSetFocus>()};
-    static const MessageMap map{CButton::GetMessageMap(), entries};
+    static constexpr MessageMapEntry kEntries[] = {OnMessage<WM_SETFOCUS, &CPictureButton::OnSetFocus>()};
+    static const MessageMap map{CButton::GetMessageMap(), kEntries};
     return &map;
 }
 

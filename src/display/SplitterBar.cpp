@@ -33,12 +33,12 @@ int clampTo(int value, int min, int max) { return std::max(min, std::min(value, 
 CSplitterBar::CSplitterBar() { m_pattern.LoadBitmap(IDB_SPLITTER_PATTERN); }
 
 const CRuntimeClass& CSplitterBar::GetRuntimeClass() const {
-    static constexpr CRuntimeClass runtimeClass{"CSplitterBar"};
-    return runtimeClass;
+    static constexpr CRuntimeClass kRuntimeClass{"CSplitterBar"};
+    return kRuntimeClass;
 }
 
 const MessageMap* CSplitterBar::GetMessageMap() const {
-    static constexpr MessageMapEntry entries[] = {
+    static constexpr MessageMapEntry kEntries[] = {
         OnMessage<WM_PAINT, &CSplitterBar::OnPaint>(),
         OnMessage<WM_SETCURSOR, &CSplitterBar::OnSetCursor>(),
         OnMessage<WM_LBUTTONDOWN, &CSplitterBar::OnLButtonDown>(),
@@ -48,7 +48,7 @@ const MessageMap* CSplitterBar::GetMessageMap() const {
         OnMessage<WM_SETFOCUS, &CSplitterBar::OnFocus>(),
         OnMessage<WM_KILLFOCUS, &CSplitterBar::OnFocus>(),
     };
-    static const MessageMap map{CWnd::GetMessageMap(), entries};
+    static const MessageMap map{CWnd::GetMessageMap(), kEntries};
     return &map;
 }
 

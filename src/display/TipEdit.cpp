@@ -17,14 +17,14 @@ constexpr LOGFONT kFont{"Arial Greek", -11};
 const CRuntimeClass CTipEdit::runtimeClass{"CTipEdit"};
 
 const MessageMap* CTipEdit::GetMessageMap() const {
-    static constexpr MessageMapEntry entries[] = {
+    static constexpr MessageMapEntry kEntries[] = {
         OnMessage<WM_SETFOCUS, &CTipEdit::OnSetFocus>(),
         OnMessage<WM_KILLFOCUS, &CTipEdit::OnKillFocus>(),
         OnMessage<WM_LBUTTONDOWN, &CTipEdit::OnLButtonDown>(),
         OnMessage<WM_KEYDOWN, &CTipEdit::OnKeyDown>(),
         OnMessage<WM_SETCURSOR, &CTipEdit::OnSetCursor>(),
     };
-    static const MessageMap map{CEdit::GetMessageMap(), entries};
+    static const MessageMap map{CEdit::GetMessageMap(), kEntries};
     return &map;
 }
 

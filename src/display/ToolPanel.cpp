@@ -52,7 +52,7 @@ const CRuntimeClass CToolPanel::runtimeClass{"CToolPanel"};
 CToolPanel::CToolPanel() : CDialog(IDD_TOOL_PANEL) {}
 
 const MessageMap* CToolPanel::GetMessageMap() const {
-    static constexpr MessageMapEntry entries[] = {
+    static constexpr MessageMapEntry kEntries[] = {
         OnMessage<WM_CREATE, &CToolPanel::OnCreate>(),
         OnMessage<WM_CLOSE, &CToolPanel::AnimateHide>(),
         OnCommandId<&CToolPanel::OnCopy>(kFirstButton),
@@ -62,7 +62,7 @@ const MessageMap* CToolPanel::GetMessageMap() const {
         OnCommandId<&CToolPanel::OnButton<ID_FORWARD>>(kFirstButton + 4),
         OnCommandId<&CToolPanel::OnButton<ID_SEARCH>>(kFirstButton + 5),
     };
-    static const MessageMap map{CDialog::GetMessageMap(), entries};
+    static const MessageMap map{CDialog::GetMessageMap(), kEntries};
     return &map;
 }
 

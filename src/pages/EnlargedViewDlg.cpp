@@ -63,9 +63,9 @@ CEnlargedViewDlg::~CEnlargedViewDlg() { --s_nOpen; }
 bool CEnlargedViewDlg::IsOpen() { return s_nOpen > 0; }
 
 const MessageMap* CEnlargedViewDlg::GetMessageMap() const {
-    static constexpr MessageMapEntry entries[] = {
+    static constexpr MessageMapEntry kEntries[] = {
         OnMessage<WM_ERASEBKGND, &CEnlargedViewDlg::OnEraseBkgnd>()};
-    static const MessageMap map{CDialog::GetMessageMap(), entries};
+    static const MessageMap map{CDialog::GetMessageMap(), kEntries};
     return &map;
 }
 

@@ -26,8 +26,8 @@ std::string_view untilLineEnd(std::string_view line) {
 }  // namespace
 
 bool IsEnlargedViewLink(std::string_view url) {
-    constexpr std::size_t length = 8;
-    return url.size() == length && platform::equalsNoCase(url.substr(3), "a.htm");
+    constexpr std::size_t kLength = 8;
+    return url.size() == kLength && platform::equalsNoCase(url.substr(3), "a.htm");
 }
 
 std::optional<std::string> GlossaryFile(std::string_view url) {

@@ -78,9 +78,9 @@ void unwrapCredit(std::string& line) {
 bool LineRewriter::Concerns(std::string_view line) {
     unsigned traits = 0;
     for (const char c : line) traits |= kTraits[static_cast<unsigned char>(c)];
-    constexpr unsigned classId = kHyphen | kFive;
-    constexpr unsigned credit = kLetterP | kLetterO;
-    return (traits & kAlways) != 0 || (traits & classId) == classId || (traits & credit) == credit;
+    constexpr unsigned kClassId = kHyphen | kFive;
+    constexpr unsigned kCredit = kLetterP | kLetterO;
+    return (traits & kAlways) != 0 || (traits & kClassId) == kClassId || (traits & kCredit) == kCredit;
 }
 
 void LineRewriter::Rewrite(std::string& line, PageNotes& notes) const {

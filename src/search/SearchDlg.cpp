@@ -37,7 +37,7 @@ CSearchDlg::CSearchDlg(const FileSystem& files, const std::string& dataFolder, S
       m_state(std::move(state)) {}
 
 const MessageMap* CSearchDlg::GetMessageMap() const {
-    static constexpr MessageMapEntry entries[] = {
+    static constexpr MessageMapEntry kEntries[] = {
         OnControl<&CSearchDlg::OnWordEdited>(IDC_SEARCH_WORD, EN_UPDATE),
         OnControl<&CSearchDlg::OnWordPicked>(IDC_WORD_LIST, LBN_SELCHANGE),
         OnControl<&CSearchDlg::RunSearch>(IDC_WORD_LIST, LBN_DBLCLK),
@@ -48,7 +48,7 @@ const MessageMap* CSearchDlg::GetMessageMap() const {
         OnNotify<&CSearchDlg::OnResultsLeft>(IDC_RESULTS, NM_KILLFOCUS),
         OnNotify<&CSearchDlg::OnHeaderClicked>(IDC_RESULTS, LVN_COLUMNCLICK),
     };
-    static const MessageMap map{CDialog::GetMessageMap(), entries};
+    static const MessageMap map{CDialog::GetMessageMap(), kEntries};
     return &map;
 }
 

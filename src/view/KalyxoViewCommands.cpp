@@ -39,7 +39,7 @@ void CKalyxoView::OnEdit() {
 }
 
 const MessageMap* CKalyxoView::GetMessageMap() const {
-    static constexpr MessageMapEntry entries[] = {
+    static constexpr MessageMapEntry kEntries[] = {
         OnMessage<WM_SIZE, &CKalyxoView::OnSize>(),
         OnMessage<WM_SETCURSOR, &CKalyxoView::OnSetCursor>(),
         OnMessage<WM_LBUTTONDOWN, &CKalyxoView::OnLButtonDown>(),
@@ -106,18 +106,18 @@ const MessageMap* CKalyxoView::GetMessageMap() const {
         OnCommandId<&CKalyxoView::OnEdit<&EditCommands::CopyGraph>>(ID_COPY_GRAPH),
         OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::CopyGraph>>(ID_COPY_GRAPH),
     };
-    static const MessageMap map{CView::GetMessageMap(), entries};
+    static const MessageMap map{CView::GetMessageMap(), kEntries};
     return &map;
 }
 
 const EventSinkMap* CKalyxoView::GetEventSinkMap() const {
-    static constexpr EventSinkEntry entries[] = {
+    static constexpr EventSinkEntry kEntries[] = {
         OnComponentEvent<&CKalyxoView::OnBeforeNavigate>(IDC_WEB, 100),
         OnComponentEvent<&CKalyxoView::OnPageChosen>(IDC_SELECT, 1),
         OnComponentEvent<&CKalyxoView::OnItemChosen>(IDC_SELECT, 2),
         OnComponentEvent<&CKalyxoView::OnElementChosen>(IDC_PERIODIC_TABLE, 1),
     };
-    static const EventSinkMap map{nullptr, entries};
+    static const EventSinkMap map{nullptr, kEntries};
     return &map;
 }
 
@@ -173,10 +173,10 @@ bool CKalyxoView::OnItemChosen(std::int32_t itemCode) {
 }
 
 bool CKalyxoView::OnElementChosen(std::int16_t elementKey) {
-    constexpr std::int16_t elementsAndCompounds = 6;
+    constexpr std::int16_t kElementsAndCompounds = 6;
     const std::optional<std::int32_t> page = m_elements.PageOf(elementKey);
     if (m_panes.Mode() != ContentMode::PeriodicTable || !page) return true;
-    m_navigator.OpenSection(elementsAndCompounds, 0);
+    m_navigator.OpenSection(kElementsAndCompounds, 0);
     ShowItem(*page, 0);
     return true;
 }
