@@ -11,7 +11,9 @@
 #include "controls/elements/Element.h"
 #include "controls/elements/ElementQuantity.h"
 #include "controls/elements/ElementSearch.h"
+#include "controls/elements/Isotope.h"
 #include "controls/elements/TypeAhead.h"
+#include "platform/text/CodePage1253.h"
 #include "platform/text/GreekLiteral.h"
 
 namespace controls {
@@ -151,6 +153,38 @@ TEST(ElementData, ANonsensicalConfigurationHasNoShells) {
          {"", "Fe 3d6", "Kr 5s1", "Ar 3g2", "Ar 3d", "Ar 3dx", "Ar 9s2", "Ar  4s2"}) {
         element.configuration = text;
         EXPECT_TRUE(shellsOf(element).empty()) << text;
+    }
+}
+
+TEST(ElementIsotopes, TheirMassesMakeTheElementsMass) {
+    for (const Element& element : elements()) {
+        double sum = 0;
+        for (const Isotope& isotope : isotopesOf(element))
+            sum += isotope.massNumber * isotope.abundance.value().value_or(0) / 100;
+        // An atom weighs up to 0.1 u less or more than its mass number tells.
+        if (element.hasStandardMass()) {
+            EXPECT_NEAR(sum, *element.mass.value(), 0.11) << element.symbol;
+        } else {
+            EXPECT_EQ(sum, 0) << element.symbol;
+        }
+    }
+}
+
+TEST(ElementIsotopes, HalfLivesHaveThreeDigitsAndTheUnitThatSuits) {
+    const std::pair<std::pair<int, int>, const char*> cases[] = {{{6, 14}, "5730 χρόνια"},
+                                                                 {{1, 3}, "12,3 χρόνια"},
+                                                                 {{92, 238}, "4,47 δισεκατομμύρια χρόνια"},
+                                                                 {{53, 131}, "8,02 ημέρες"},
+                                                                 {{94, 239}, "24\u00A0100 χρόνια"},
+                                                                 {{83, 209}, "2,01·10^19^ χρόνια"},
+                                                                 {{11, 24}, "15 ώρες"},
+                                                                 {{118, 294}, "0,7 ms"},
+                                                                 {{8, 16}, "σταθερό"}};
+    for (const auto& [key, text] : cases) {
+        const auto all = isotopesOf(*findElement(key.first));
+        const auto isotope = std::ranges::find(all, key.second, &Isotope::massNumber);
+        ASSERT_NE(isotope, all.end()) << text;
+        EXPECT_EQ(platform::toUtf8(halfLifeText(*isotope)), text);
     }
 }
 
