@@ -1,0 +1,113 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "formats/DataSetFile.h"
+#include "platform/text/CodePage1253.h"
+#include "tools/contentc/cards/CompoundCard.h"
+#include "tools/contentc/cards/ElementCard.h"
+#include "tools/contentc/cards/Formula.h"
+
+namespace contentc {
+namespace {
+
+/// Rows as `name: value` in UTF-8.
+std::vector<std::string> shown(const std::vector<CardRow>& rows) {
+    std::vector<std::string> texts;
+    for (const CardRow& row : rows) texts.push_back(platform::toUtf8(row.name + ": " + row.value));
+    return texts;
+}
+
+formats::DataSet compounds() {
+    const auto decoded =
+        formats::decodeDataSet(platform::fromUtf8("number: 1\n"
+                                                  "title: Ενώσεις\n"
+                                                  "column: text | Όνομα\n"
+                                                  "column: formula | Τύπος\n"
+                                                  "column: number | Σημείο τήξης | °C\n"
+                                                  "column: number | Σημείο βρασμού | °C\n"
+                                                  "graph: 3 4\n"
+                                                  "---\n"
+                                                  "νερό\tH2O\t0\t100\n"
+                                                  "αιθίνιο (ακετυλένιο)\tC2H2\t\t-84\n"
+                                                  "αιθανόλη\tC2H6O\t-114\t78\n"
+                                                  "διμεθυλαιθέρας\tC2H6O\t-141\t-25\n"));
+    return decoded.set.value_or(formats::DataSet{});
+}
+
+TEST(ElementCard, TellsUnitsConditionsAndWhatMakesAnElementSpecial) {
+    const std::pair<int, std::vector<std::string>> elements[] = {
+        {11,
+         {"Κατηγορία: αλκάλιο, ομάδα 1, περίοδος 3, τομέας s",
+          "Κατανομή ηλεκτρονίων: 2, 8, 1<BR>[Ne]&nbsp;3s<SUP>1</SUP>",
+          "Σημείο τήξης (1 atm): 97,8&nbsp;&deg;C", "Σημείο βρασμού (1 atm): 883&nbsp;&deg;C",
+          "Πυκνότητα (20&nbsp;&deg;C): 0,971&nbsp;g/cm<SUP>3</SUP>", "Ηλεκτραρνητικότητα: 0,93",
+          "Ανακάλυψη: 1807"}},
+        {2,
+         {"Κατηγορία: ευγενές αέριο, ομάδα 18, περίοδος 1, τομέας s",
+          "Κατανομή ηλεκτρονίων: 2<BR>1s<SUP>2</SUP>", "Τήξη υπό πίεση: &minus;272,2&nbsp;&deg;C",
+          "Σημείο βρασμού (1 atm): &minus;268,9&nbsp;&deg;C",
+          "Πυκνότητα (0&nbsp;&deg;C, 1 atm): 0,1785&nbsp;g/L", "Ανακάλυψη: 1895"}},
+        {118,
+         {"Κατηγορία: ευγενές αέριο, ομάδα 18, περίοδος 7, τομέας p",
+          "Κατανομή ηλεκτρονίων: 2, 8, 18, 32, 32, 18, 8<BR>[Rn]&nbsp;5f<SUP>14</SUP>&nbsp;6d<SUP>10</SUP>"
+          "&nbsp;7s<SUP>2</SUP>&nbsp;7p<SUP>6</SUP> (υπολογισμένη)",
+          "Ανακάλυψη: 2002"}}};
+    for (const auto& [number, rows] : elements)
+        EXPECT_EQ(shown(elementRows(*controls::findElement(number))), rows) << number;
+    const std::string carbon = elementCard(*controls::findElement(6), {});
+    EXPECT_NE(carbon.find(platform::fromUtf8("<TH>Εξάχνωση (1 atm)</TH><TD>3825&nbsp;&deg;C</TD>")),
+              std::string::npos);
+    EXPECT_NE(carbon.find("<SPAN CLASS=\"mass\">12,011</SPAN>"), std::string::npos);
+}
+
+TEST(ElementCard, ARowOfTheAuthorTakesThePlaceOfTheDatasRow) {
+    const auto row = [](const char* name, const char* value) {
+        return CardRow{platform::fromUtf8(name), value};
+    };
+    const auto rows = withRowsOfAuthor({row("Τήξη (1 atm)", "1"), row("Ανακάλυψη", "1807")},
+                                       {row("Ανακάλυψη", "Davy"), row("ΤΗΞΗ", "2"), row("Χρώμα", "3")});
+    EXPECT_EQ(shown(rows), (std::vector<std::string>{"ΤΗΞΗ: 2", "Ανακάλυψη: Davy", "Χρώμα: 3"}));
+}
+
+TEST(CompoundCard, IsFoundByNameOrFormula) {
+    using Rows = std::vector<std::string>;
+    const Rows water{"Τύπος: H<SUB>2</SUB>O", "Μάζα του ενός mol: 18,02&nbsp;g/mol",
+                     "Σημείο τήξης (1 atm): 0&nbsp;&deg;C", "Σημείο βρασμού (1 atm): 100&nbsp;&deg;C"};
+    const Rows ethyne{"Τύπος: C<SUB>2</SUB>H<SUB>2</SUB>", "Μάζα του ενός mol: 26,04&nbsp;g/mol",
+                      "Σημείο βρασμού (1 atm): &minus;84&nbsp;&deg;C"};
+    const Rows eitherEther{"Τύπος: C<SUB>2</SUB>H<SUB>6</SUB>O", "Μάζα του ενός mol: 46,07&nbsp;g/mol"};
+    const std::pair<const char*, Rows> cases[] = {
+        {"Νερό", water}, {"H2O", water}, {"αιθινιο", ethyne}, {"ακετυλένιο", ethyne}, {"C2H6O", eitherEther}};
+    for (const auto& [name, rows] : cases) {
+        const auto found = compoundRows(compounds(), platform::fromUtf8(name));
+        EXPECT_EQ(shown(found.value_or(std::vector<CardRow>{})), rows) << name;
+    }
+    EXPECT_FALSE(compoundRows(compounds(), platform::fromUtf8("σαπούνι")));
+}
+
+TEST(Formula, MassAndHtml) {
+    struct Case {
+        const char *formula, *mass, *html;
+    };
+    const Case cases[] = {
+        {"NaCl", "58,44", "NaCl"},
+        {"Ca(OH)2", "74,09", "Ca(OH)<SUB>2</SUB>"},
+        {"CuSO4*5H2O", "249,68", "CuSO<SUB>4</SUB>&nbsp;&middot;&nbsp;5&nbsp;H<SUB>2</SUB>O"},
+        {"PbO2", "239,2", "PbO<SUB>2</SUB>"},
+        {"(NH4)2Cr2O7", "252,06", "(NH<SUB>4</SUB>)<SUB>2</SUB>Cr<SUB>2</SUB>O<SUB>7</SUB>"}};
+    for (const auto& [formula, mass, html] : cases) {
+        const auto atoms = atomsOf(formula);
+        ASSERT_TRUE(atoms) << formula;
+        EXPECT_EQ(molarMassText(*atoms), mass) << formula;
+        EXPECT_EQ(formulaHtml(formula), html);
+    }
+    for (const char* wrong : {"", "H2O)", "(H2O", "()2", "Xx", "h2o", "NaCl*", "H99999", "2", "H2 O"})
+        EXPECT_FALSE(atomsOf(wrong)) << wrong;
+}
+
+}  // namespace
+}  // namespace contentc

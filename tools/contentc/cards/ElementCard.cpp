@@ -1,0 +1,129 @@
+#include "tools/contentc/cards/ElementCard.h"
+
+#include <algorithm>
+#include <array>
+
+#include "controls/elements/ElectronShells.h"
+#include "controls/elements/ElementQuantity.h"
+#include "controls/elements/NumberText.h"
+#include "platform/text/GreekLiteral.h"
+
+namespace contentc {
+namespace {
+
+using namespace platform::literals;
+using controls::Element;
+using controls::Figure;
+
+constexpr std::array<std::string_view, controls::familyCount> members{
+    "αλκάλιο"_gr,  "αλκαλική γαία"_gr, "στοιχείο μετάπτωσης"_gr, "λανθανίδα"_gr,
+    "ακτινίδα"_gr, "μέταλλο"_gr,       "μεταλλοειδές"_gr,        "αμέταλλο"_gr,
+    "αλογόνο"_gr,  "ευγενές αέριο"_gr};
+
+constexpr std::string_view blockLetters = "spdf";
+constexpr int densityDigits = 4;
+constexpr double cubicCentimetresPerLitre = 1000;
+
+std::string text(std::string_view greek) { return std::string(greek); }
+
+std::string place(const Element& element) {
+    std::string words = text(memberOfFamily(element.family));
+    if (element.group() > 0) words += text(", ομάδα "_gr) + std::to_string(element.group());
+    return words + text(", περίοδος "_gr) + std::to_string(element.period()) + text(", τομέας "_gr) +
+           blockLetters[static_cast<std::size_t>(element.block())];
+}
+
+/// A configuration such as "Ar 3d6 4s2" with the noble gas in brackets and raised numbers of electrons.
+std::string subshells(std::string_view configuration) {
+    std::string html;
+    for (std::size_t at = 0; at < configuration.size();) {
+        const std::size_t end = std::min(configuration.find(' ', at), configuration.size());
+        const std::string word(configuration.substr(at, end - at));
+        if (!html.empty()) html += "&nbsp;";
+        html += word.front() >= '0' && word.front() <= '9'
+                    ? word.substr(0, 2) + "<SUP>" + word.substr(2) + "</SUP>"
+                    : '[' + word + ']';
+        at = end + 1;
+    }
+    return html;
+}
+
+std::string electrons(const Element& element) {
+    std::string shells;
+    for (const int count : controls::shellsOf(element))
+        shells += (shells.empty() ? "" : ", ") + std::to_string(count);
+    if (shells.empty()) return {};
+    const std::string note = element.hasCalculatedConfiguration() ? text(" (υπολογισμένη)"_gr) : "";
+    return shells + "<BR>" + subshells(element.configuration) + note;
+}
+
+/// A temperature in °C, with as many decimals as are known of it in K, but at most one.
+std::string celsius(const Figure& kelvin) {
+    const auto value = kelvin.value();
+    if (!value) return {};
+    const std::string number =
+        controls::fixedNumber(*value - controls::zeroCelsius, std::min(kelvin.decimals(), 1));
+    return numberHtml(number) + "&nbsp;&deg;C";
+}
+
+CardRow melting(const Element& element) {
+    const auto name =
+        element.meltsUnderPressureOnly() ? "Τήξη υπό πίεση"_gr : std::string_view("Σημείο τήξης (1 atm)"_gr);
+    return {text(name), celsius(element.meltingPoint)};
+}
+
+CardRow boiling(const Element& element) {
+    const auto name =
+        element.sublimes() ? "Εξάχνωση (1 atm)"_gr : std::string_view("Σημείο βρασμού (1 atm)"_gr);
+    return {text(name), celsius(element.boilingPoint)};
+}
+
+/// The density with at most four digits: of a gas in g/L, of others in g/cm³.
+CardRow density(const Element& element) {
+    const auto value = element.density.value();
+    if (element.matter() == controls::Matter::gas) {
+        const std::string digits =
+            value ? controls::shortNumber(*value * cubicCentimetresPerLitre, densityDigits) : "";
+        return {text("Πυκνότητα (0&nbsp;&deg;C, 1 atm)"_gr), digits.empty() ? "" : digits + "&nbsp;g/L"};
+    }
+    const bool isShort = element.density.digits.size() <= densityDigits + 1;
+    const std::string digits = !value    ? ""
+                               : isShort ? element.density.withComma()
+                                         : controls::shortNumber(*value, densityDigits);
+    return {text("Πυκνότητα (20&nbsp;&deg;C)"_gr), digits.empty() ? "" : digits + "&nbsp;g/cm<SUP>3</SUP>"};
+}
+
+CardRow discovery(const Element& element) {
+    return {text("Ανακάλυψη"_gr), controls::quantityText(element, controls::Quantity::discovery)};
+}
+
+std::string tile(const Element& element) {
+    return "<DIV CLASS=\"tile\"><SPAN CLASS=\"number\">" + std::to_string(element.number) +
+           "</SPAN><SPAN CLASS=\"symbol\">" + std::string(element.symbol) + "</SPAN><SPAN CLASS=\"mass\">" +
+           element.massText() + "</SPAN></DIV>";
+}
+
+}  // namespace
+
+std::string_view memberOfFamily(controls::Family family) { return members[static_cast<std::size_t>(family)]; }
+
+std::vector<CardRow> elementRows(const Element& element) {
+    std::vector<CardRow> rows{
+        {text("Κατηγορία"_gr), place(element)},
+        {text("Κατανομή ηλεκτρονίων"_gr), electrons(element)},
+        melting(element),
+        boiling(element),
+        density(element),
+        {text("Ηλεκτραρνητικότητα"_gr), element.electronegativity.withComma()},
+        discovery(element),
+    };
+    std::erase_if(rows, [](const CardRow& row) { return row.value.empty(); });
+    return rows;
+}
+
+std::string elementCard(const Element& element, const std::vector<CardRow>& rowsOfAuthor) {
+    return "<TABLE CLASS=\"element\"><TR><TD CLASS=\"tile\">" + tile(element) + "</TD><TD>\n" +
+           cardTable(withRowsOfAuthor(elementRows(element), rowsOfAuthor)) + "\n</TD></TR></TABLE>";
+}
+
+}  // namespace contentc
