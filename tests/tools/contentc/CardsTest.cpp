@@ -14,10 +14,10 @@
 namespace contentc {
 namespace {
 
-/// Rows as `name: value` in UTF-8.
+/// Rows as `name: value`.
 std::vector<std::string> shown(const std::vector<CardRow>& rows) {
     std::vector<std::string> texts;
-    for (const CardRow& row : rows) texts.push_back(platform::toUtf8(row.name + ": " + row.value));
+    for (const CardRow& row : rows) texts.push_back(row.name + ": " + row.value);
     return texts;
 }
 
@@ -59,17 +59,13 @@ TEST(ElementCard, TellsUnitsConditionsAndWhatMakesAnElementSpecial) {
     for (const auto& [number, rows] : elements)
         EXPECT_EQ(shown(elementRows(*controls::findElement(number))), rows) << number;
     const std::string carbon = elementCard(*controls::findElement(6), {});
-    EXPECT_NE(carbon.find(platform::fromUtf8("<TH>Εξάχνωση (1 atm)</TH><TD>3825&nbsp;&deg;C</TD>")),
-              std::string::npos);
+    EXPECT_NE(carbon.find("<TH>Εξάχνωση (1 atm)</TH><TD>3825&nbsp;&deg;C</TD>"), std::string::npos);
     EXPECT_NE(carbon.find("<SPAN CLASS=\"mass\">12,011</SPAN>"), std::string::npos);
 }
 
 TEST(ElementCard, ARowOfTheAuthorTakesThePlaceOfTheDatasRow) {
-    const auto row = [](const char* name, const char* value) {
-        return CardRow{platform::fromUtf8(name), value};
-    };
-    const auto rows = withRowsOfAuthor({row("Τήξη (1 atm)", "1"), row("Ανακάλυψη", "1807")},
-                                       {row("Ανακάλυψη", "Davy"), row("ΤΗΞΗ", "2"), row("Χρώμα", "3")});
+    const auto rows = withRowsOfAuthor({{"Τήξη (1 atm)", "1"}, {"Ανακάλυψη", "1807"}},
+                                       {{"Ανακάλυψη", "Davy"}, {"ΤΗΞΗ", "2"}, {"Χρώμα", "3"}});
     EXPECT_EQ(shown(rows), (std::vector<std::string>{"ΤΗΞΗ: 2", "Ανακάλυψη: Davy", "Χρώμα: 3"}));
 }
 
@@ -83,10 +79,10 @@ TEST(CompoundCard, IsFoundByNameOrFormula) {
     const std::pair<const char*, Rows> cases[] = {
         {"Νερό", water}, {"H2O", water}, {"αιθινιο", ethyne}, {"ακετυλένιο", ethyne}, {"C2H6O", eitherEther}};
     for (const auto& [name, rows] : cases) {
-        const auto found = compoundRows(compounds(), platform::fromUtf8(name));
+        const auto found = compoundRows(compounds(), name);
         EXPECT_EQ(shown(found.value_or(std::vector<CardRow>{})), rows) << name;
     }
-    EXPECT_FALSE(compoundRows(compounds(), platform::fromUtf8("σαπούνι")));
+    EXPECT_FALSE(compoundRows(compounds(), "σαπούνι"));
 }
 
 TEST(Formula, MassAndHtml) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/text/CodePage1253.h"
 #include "platform/text/Fold.h"
 
 namespace contentc {
@@ -9,7 +10,7 @@ namespace {
 
 /// The name without what stands in brackets behind it, in the form in which names are compared.
 std::string comparedName(const std::string& name) {
-    std::string text = platform::fold(name.substr(0, name.find('(')));
+    std::string text = platform::fold(platform::fromUtf8(name.substr(0, name.find('('))));
     text.erase(text.find_last_not_of(' ') + 1);
     return text;
 }

@@ -6,7 +6,7 @@
 
 namespace contentc {
 
-/// A row of a card: a name and its value, HTML in code page 1253.
+/// A row of a card: a name and its value, HTML in UTF-8.
 struct CardRow {
     std::string name;
     std::string value;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "platform/text/CodePage1253.h"
 #include "platform/text/Fold.h"
 #include "platform/text/GreekLiteral.h"
 #include "tools/contentc/cards/Formula.h"
@@ -37,8 +38,9 @@ bool isNameOf(std::string_view folded, const std::string& cell) {
 std::optional<std::size_t> rowNamed(const DataSet& set, std::string_view name) {
     const DataColumn* names = columnOf(set, DataColumnKind::text);
     if (!names) return std::nullopt;
-    const auto found = std::ranges::find_if(
-        names->cells, [folded = platform::fold(name)](const auto& cell) { return isNameOf(folded, cell); });
+    const auto found =
+        std::ranges::find_if(names->cells, [folded = platform::fold(platform::fromUtf8(name))](
+                                               const auto& cell) { return isNameOf(folded, cell); });
     if (found == names->cells.end()) return std::nullopt;
     return static_cast<std::size_t>(found - names->cells.begin());
 }
@@ -53,13 +55,13 @@ std::optional<std::size_t> rowWithFormula(const DataSet& set, std::string_view f
 void addPoint(const DataSet& set, std::string_view title, std::size_t row, std::vector<CardRow>& rows) {
     const DataColumn* column = columnNamed(set, title);
     if (!column || column->cells[row].empty()) return;
-    rows.push_back({std::string(title) + " (1 atm)", numberHtml(column->cells[row]) + "&nbsp;&deg;C"});
+    rows.push_back({platform::toUtf8(title) + " (1 atm)", numberHtml(column->cells[row]) + "&nbsp;&deg;C"});
 }
 
 void addFormula(const std::string& formula, std::vector<CardRow>& rows) {
-    rows.push_back({std::string("Τύπος"_gr), formulaHtml(formula)});
+    rows.push_back({"Τύπος", formulaHtml(formula)});
     if (const auto atoms = atomsOf(formula))
-        rows.push_back({std::string("Μάζα του ενός mol"_gr), molarMassText(*atoms) + "&nbsp;g/mol"});
+        rows.push_back({"Μάζα του ενός mol", molarMassText(*atoms) + "&nbsp;g/mol"});
 }
 
 }  // namespace

@@ -6,30 +6,26 @@
 #include "controls/elements/ElectronShells.h"
 #include "controls/elements/ElementQuantity.h"
 #include "controls/elements/NumberText.h"
-#include "platform/text/GreekLiteral.h"
+#include "platform/text/CodePage1253.h"
 
 namespace contentc {
 namespace {
 
-using namespace platform::literals;
 using controls::Element;
 using controls::Figure;
 
 constexpr std::array<std::string_view, controls::familyCount> members{
-    "αλκάλιο"_gr,  "αλκαλική γαία"_gr, "στοιχείο μετάπτωσης"_gr, "λανθανίδα"_gr,
-    "ακτινίδα"_gr, "μέταλλο"_gr,       "μεταλλοειδές"_gr,        "αμέταλλο"_gr,
-    "αλογόνο"_gr,  "ευγενές αέριο"_gr};
+    "αλκάλιο",  "αλκαλική γαία", "στοιχείο μετάπτωσης", "λανθανίδα", "ακτινίδα", "μέταλλο", "μεταλλοειδές",
+    "αμέταλλο", "αλογόνο",       "ευγενές αέριο"};
 
 constexpr std::string_view blockLetters = "spdf";
 constexpr int densityDigits = 4;
 constexpr double cubicCentimetresPerLitre = 1000;
 
-std::string text(std::string_view greek) { return std::string(greek); }
-
 std::string place(const Element& element) {
-    std::string words = text(memberOfFamily(element.family));
-    if (element.group() > 0) words += text(", ομάδα "_gr) + std::to_string(element.group());
-    return words + text(", περίοδος "_gr) + std::to_string(element.period()) + text(", τομέας "_gr) +
+    std::string words = std::string(memberOfFamily(element.family));
+    if (element.group() > 0) words += ", ομάδα " + std::to_string(element.group());
+    return words + ", περίοδος " + std::to_string(element.period()) + ", τομέας " +
            blockLetters[static_cast<std::size_t>(element.block())];
 }
 
@@ -53,7 +49,7 @@ std::string electrons(const Element& element) {
     for (const int count : controls::shellsOf(element))
         shells += (shells.empty() ? "" : ", ") + std::to_string(count);
     if (shells.empty()) return {};
-    const std::string note = element.hasCalculatedConfiguration() ? text(" (υπολογισμένη)"_gr) : "";
+    const std::string note = element.hasCalculatedConfiguration() ? " (υπολογισμένη)" : "";
     return shells + "<BR>" + subshells(element.configuration) + note;
 }
 
@@ -67,15 +63,13 @@ std::string celsius(const Figure& kelvin) {
 }
 
 CardRow melting(const Element& element) {
-    const auto name =
-        element.meltsUnderPressureOnly() ? "Τήξη υπό πίεση"_gr : std::string_view("Σημείο τήξης (1 atm)"_gr);
-    return {text(name), celsius(element.meltingPoint)};
+    return {element.meltsUnderPressureOnly() ? "Τήξη υπό πίεση" : "Σημείο τήξης (1 atm)",
+            celsius(element.meltingPoint)};
 }
 
 CardRow boiling(const Element& element) {
-    const auto name =
-        element.sublimes() ? "Εξάχνωση (1 atm)"_gr : std::string_view("Σημείο βρασμού (1 atm)"_gr);
-    return {text(name), celsius(element.boilingPoint)};
+    return {element.sublimes() ? "Εξάχνωση (1 atm)" : "Σημείο βρασμού (1 atm)",
+            celsius(element.boilingPoint)};
 }
 
 /// The density with at most four digits: of a gas in g/L, of others in g/cm³.
@@ -84,17 +78,17 @@ CardRow density(const Element& element) {
     if (element.matter() == controls::Matter::gas) {
         const std::string digits =
             value ? controls::shortNumber(*value * cubicCentimetresPerLitre, densityDigits) : "";
-        return {text("Πυκνότητα (0&nbsp;&deg;C, 1 atm)"_gr), digits.empty() ? "" : digits + "&nbsp;g/L"};
+        return {"Πυκνότητα (0&nbsp;&deg;C, 1 atm)", digits.empty() ? "" : digits + "&nbsp;g/L"};
     }
     const bool isShort = element.density.digits.size() <= densityDigits + 1;
     const std::string digits = !value    ? ""
                                : isShort ? element.density.withComma()
                                          : controls::shortNumber(*value, densityDigits);
-    return {text("Πυκνότητα (20&nbsp;&deg;C)"_gr), digits.empty() ? "" : digits + "&nbsp;g/cm<SUP>3</SUP>"};
+    return {"Πυκνότητα (20&nbsp;&deg;C)", digits.empty() ? "" : digits + "&nbsp;g/cm<SUP>3</SUP>"};
 }
 
 CardRow discovery(const Element& element) {
-    return {text("Ανακάλυψη"_gr), controls::quantityText(element, controls::Quantity::discovery)};
+    return {"Ανακάλυψη", platform::toUtf8(controls::quantityText(element, controls::Quantity::discovery))};
 }
 
 std::string tile(const Element& element) {
@@ -109,12 +103,12 @@ std::string_view memberOfFamily(controls::Family family) { return members[static
 
 std::vector<CardRow> elementRows(const Element& element) {
     std::vector<CardRow> rows{
-        {text("Κατηγορία"_gr), place(element)},
-        {text("Κατανομή ηλεκτρονίων"_gr), electrons(element)},
+        {"Κατηγορία", place(element)},
+        {"Κατανομή ηλεκτρονίων", electrons(element)},
         melting(element),
         boiling(element),
         density(element),
-        {text("Ηλεκτραρνητικότητα"_gr), element.electronegativity.withComma()},
+        {"Ηλεκτραρνητικότητα", element.electronegativity.withComma()},
         discovery(element),
     };
     std::erase_if(rows, [](const CardRow& row) { return row.value.empty(); });

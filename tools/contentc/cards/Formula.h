@@ -15,7 +15,7 @@ using AtomCounts = std::map<int, int>;
 std::optional<AtomCounts> atomsOf(std::string_view formula);
 
 /// The mass of one mol in g/mol with decimal comma: two decimals, or fewer when an element's mass is known to
-/// fewer. Code page 1253.
+/// fewer.
 std::string molarMassText(const AtomCounts& atoms);
 
 /// The formula in HTML: digits behind symbols and brackets lowered, `*` as a raised point.
