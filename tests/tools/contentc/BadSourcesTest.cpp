@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "tests/tools/contentc/ContentFolder.h"
 
 namespace {
@@ -40,7 +42,6 @@ const struct {
      {"1: no field with a right value",
       "5: the head needs 'number', 'title', a first column of words, a column of numbers, and a 'graph' of "
       "such"}},
-    {"datasets/gases.txt", "", {"1: not a *.data file"}},
     // Headers of pages.
     {pageFile, "title: T\nkind: topic\n<P>", {"3: no line '---' between header and body"}},
     {pageFile, "", {"1: no line '---' between header and body"}},
@@ -170,8 +171,6 @@ const struct {
      {"1: glossary key 'Water' is not 8 characters of a-z and 0-9", "1: warning: no page uses this term"}},
     // Files.
     {"pages/iron/1.page", "", {"pages/iron:1: no section is named 'iron'"}},
-    {"pages/uses/400010.pag", "", {"1: not a *.page file"}},
-    {"glossary/water.txt", "", {"1: not a *.term file"}},
     {"pictures/atom.svg", "<svg/>", {"1: no image folder has the rendered picture 'atom.png'"}},
     {"pictures/my atom.png",
      "",
@@ -211,6 +210,67 @@ TEST(BadSources, AreReportedByLine) {
         }
         EXPECT_EQ(content.messages, expected) << file << ":\n" << text.substr(0, 200);
     }
+}
+
+TEST(IgnoredFiles, AreNamedWithTheirPlace) {
+    const std::pair<const char*, std::string> cases[] = {
+        {"datasets/gases.xlsx", "a *.xlsx file is of no use in the folder 'datasets'; save it as *.data"},
+        {"glossary/water.txt", "a *.txt file is of no use in the folder 'glossary'; save it as *.md"},
+        {"pictures/water.GIF",
+         "a *.GIF file is of no use in the folder 'pictures'; save it as *.png, *.jpg, *.svg"},
+        {"pages/uses/water.JPG",
+         "a *.JPG file is of no use in the folder 'pages'; its place is the folder 'pictures'"},
+        {"pages/400010.md",
+         "a *.md file is of no use in the folder 'pages'; pages lie in the folder of a section, such as "
+         "pages/uses"},
+        {"water.sdf", "a *.sdf file is of no use in the folder '.'; its place is the folder 'molecules'"},
+        {"molecules/water", "the file's name has no extension"},
+        {"molecules/old/water.mol", "folders are not looked into here"},
+        {"picture/water.png", "content has no folder of this name; did you mean 'pictures'?"},
+    };
+    ContentFolder content;
+    Messages expected;
+    for (const auto& [file, message] : cases) {
+        content.write(file, "");
+        const bool isFolder = message.find("folders") == 0 || message.find("content") == 0;
+        const std::string place = isFolder ? std::filesystem::path(file).parent_path().string() : file;
+        expected.push_back(place + ":1: warning: ignored: " + message);
+    }
+    content.write("README.md", "");
+    content.write("pages/uses/400010.page~", "");
+    EXPECT_TRUE(content.compile());
+    std::ranges::sort(expected);
+    EXPECT_EQ(content.messages, expected);
+}
+
+/// What a content folder is made of, and what it says of them.
+TEST(Layers, GiveWhatIsNotInTheLayerAbove) {
+    ContentFolder content;
+    content.write("../base/pages/uses/400010.page", "title: Soap\nkind: topic\n---\nbase\n");
+    content.write("../base/pages/uses/400020.page", "title: Glass\nkind: topic\n---\nbase\n");
+    content.write("../base/molecules/ethanol.mol", "base");
+    content.write("../base/molecules/water.mol", "base");
+    content.write("../base/pictures/Notes.txt", "ignored in silence");
+    content.write("pages/uses/400010.page", "title: Soap\nkind: topic\n---\nown\n");
+    content.write("kalyxo.content", "# a note\n\xCE\xB2\xCE\xAC\xCF\x83\xCE\xB7: ../base\n");
+    EXPECT_NE(content.compiled("40\\0010").find("own"), std::string::npos);
+    EXPECT_NE(content.compiled("40\\0020").find("base"), std::string::npos);
+    EXPECT_EQ(content.compiled("mol\\ethanol.mol"), "base");
+    EXPECT_EQ(content.compiled("mol\\water.mol"), "water\n");
+    EXPECT_EQ(content.messages, Messages{});
+
+    content.write("../base/kalyxo.content", "base: ../content\n");
+    content.write("kalyxo.content", "base: ../base\nbse: ../base\nbase: ../none\nbase: kalyxo\nbase\n");
+    EXPECT_FALSE(content.compile());
+    const std::string base = content.beside("base").generic_string();
+    const std::string none = content.beside("none").generic_string();
+    EXPECT_EQ(content.messages,
+              (Messages{base + "/kalyxo.content:1: '../content' is built on this folder already, so neither "
+                               "could be read first",
+                        "kalyxo.content:2: unknown name 'bse'; did you mean 'base'?",
+                        "kalyxo.content:3: there is no folder '" + none + '\'',
+                        "kalyxo.content:4: the content of the program is not installed",
+                        "kalyxo.content:5: not a line 'base: folder'"}));
 }
 
 TEST(DataSets, OfOneNumberAreReported) {

@@ -54,8 +54,8 @@ TEST(CompiledFiles, HoldTheirSourceInCodePage1253) {
 
 TEST(CompiledFiles, MarksBecomeMarkers) {
     ContentFolder content;
-    content.write("built/fire.webm", "video");
-    content.write("built/atom.png", "picture");
+    content.write("../built/fire.webm", "video");
+    content.write("../built/atom.png", "picture");
     content.write("templates/page.html", "{{title}}{{section}}\n{{body}}\n");
     const struct {
         const char* source;
@@ -152,14 +152,14 @@ TEST(CompiledFiles, PlainPagesHaveATitleAndRelativeAddresses) {
 TEST(CompiledFiles, PicturesAreCopiedAndTwoOfOneNameRefused) {
     ContentFolder content;
     content.write("pictures/atom.png", "\x89PNG\r\n\0"s);
-    content.write("built/mainmenu.bmp", "BM");
-    content.write("built/notes.txt", "not a picture");
+    content.write("../built/mainmenu.bmp", "BM");
+    content.write("../built/notes.txt", "not a picture");
     EXPECT_EQ(content.compiled("images\\atom.png"), "\x89PNG\r\n\0"s);
     EXPECT_EQ(content.compiled("images\\mainmenu.bmp"), "BM");
-    content.write("built/Atom.png", "");
+    content.write("pictures/Atom.PNG", "");
     EXPECT_FALSE(content.compile());
     EXPECT_EQ(content.messages,
-              std::vector{"built/Atom.png:1: 'images\\Atom.png' is already made from pictures/atom.png"s});
+              std::vector{"pictures/atom.png:1: 'images\\atom.png' is already made from pictures/Atom.PNG"s});
 }
 
 TEST(CompiledFiles, IndexesListThePagesInDisplayOrder) {

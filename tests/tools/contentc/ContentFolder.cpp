@@ -44,7 +44,7 @@ ContentFolder::ContentFolder() {
 
 std::optional<contentc::OutputFiles> ContentFolder::compile() {
     contentc::Diagnostics diagnostics;
-    const auto folders = contentc::SourceFolders{sources(), {sources() / "built"}, {sources() / "built"}};
+    const auto folders = contentc::SourceFolders{sources(), {beside("built")}, {beside("built")}};
     auto files = contentc::compileContent(contentc::readSourceTree(folders, diagnostics), diagnostics);
     const std::string prefix = sources().generic_string() + '/';
     messages.clear();

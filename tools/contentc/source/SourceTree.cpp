@@ -1,113 +1,217 @@
 #include "tools/contentc/source/SourceTree.h"
 
 #include <algorithm>
-#include <fstream>
+#include <cctype>
 #include <iterator>
+#include <map>
+#include <set>
 #include <string_view>
+
+#include "platform/text/CodePage1253.h"
+#include "tools/contentc/source/IgnoredFiles.h"
 
 namespace contentc {
 namespace {
 
 namespace fs = std::filesystem;
+using Extensions = std::initializer_list<std::string_view>;
 
-/// The entries of a folder sorted by path, without hidden ones; none when there is no such folder.
-std::vector<fs::path> listFolder(const fs::path& folder) {
-    std::vector<fs::path> entries;
-    std::error_code failed;
-    for (fs::directory_iterator it(folder, failed), end; !failed && it != end; it.increment(failed)) {
-        if (!it->path().filename().string().starts_with('.')) entries.push_back(it->path());
-    }
-    std::ranges::sort(entries);
-    return entries;
+/// Pages are the same by their number, whatever words follow it.
+std::string pageKey(const fs::path& path) {
+    const std::string stem = path.stem().string();
+    const auto end = std::ranges::find_if_not(stem, [](unsigned char c) { return std::isdigit(c) != 0; });
+    return end == stem.begin() ? stem : std::string(stem.begin(), end);
 }
 
-void append(std::vector<SourceFile>& files, std::vector<SourceFile> more) {
-    std::ranges::move(more, std::back_inserter(files));
-}
+/// The other files are the same by their name.
+std::string nameKeyOf(const fs::path& path) { return platform::toLower(path.stem().string()); }
+
+/// Takes files of one kind from layer after layer, from the top down.
+class Overlay {
+  public:
+    using KeyOf = std::string (*)(const fs::path&);
+
+    explicit Overlay(KeyOf keyOf) : keyOf_(keyOf) {}
+
+    bool isTaken(const fs::path& path) const { return above_.contains(keyOf_(path)); }
+    bool isTakenOfThisLayer(const fs::path& path) const { return ofLayer_.contains(keyOf_(path)); }
+    void take(const fs::path& path) { ofLayer_.insert(keyOf_(path)); }
+    void endLayer() { above_.merge(ofLayer_); }
+
+  private:
+    KeyOf keyOf_;
+    std::set<std::string> above_;
+    std::set<std::string> ofLayer_;
+};
 
 class TreeReader {
   public:
-    explicit TreeReader(Diagnostics& diagnostics) : diagnostics_(diagnostics) {}
-
-    std::optional<SourceFile> readFile(const fs::path& path) {
-        std::ifstream stream(path, std::ios::binary);
-        SourceFile file{path, {std::istreambuf_iterator<char>(stream), {}}};
-        if (stream.is_open() && !stream.bad()) return file;
-        diagnostics_.error(file.place(), "cannot be read");
-        return std::nullopt;
+    TreeReader(const fs::path& root, Diagnostics& diagnostics) : diagnostics_(diagnostics) {
+        tree_.root = root;
     }
 
-    std::optional<SourceFile> readFileIfPresent(const fs::path& path) {
-        return fs::exists(path) ? readFile(path) : std::nullopt;
+    void readLayer(const Layer& layer, std::size_t index) {
+        layer_ = index;
+        root_ = layer.folder;
+        readEquipment();
+        if (!layer.onlyEquipment) readContent(layer);
+        // Those of the main menu are drawn by the program's own build.
+        takeMade(pictures_, tree_.pictures, layer.images, ".bmp");
+        for (Overlay* overlay : {&pages_, &pictures_, &molecules_, &videos_, &dataSets_, &tools_})
+            overlay->endLayer();
     }
 
-    /// The files of a folder that have one of the extensions.
-    std::vector<SourceFile> readFiles(const fs::path& folder,
-                                      std::initializer_list<std::string_view> extensions) {
-        std::vector<SourceFile> files;
-        for (const fs::path& path : listFolder(folder)) {
-            if (std::ranges::find(extensions, path.extension().string()) == extensions.end()) continue;
-            if (auto file = readFile(path)) files.push_back(std::move(*file));
+    SourceTree result() {
+        for (auto& [name, section] : sections_) {
+            std::ranges::sort(section.pages, {}, [](const SourceFile& file) { return file.path.filename(); });
+            tree_.sections.push_back(std::move(section));
         }
-        return files;
-    }
-
-    /// Like `readFiles`, but a file with another extension is reported, because its content would be lost.
-    std::vector<SourceFile> readFilesStrictly(const fs::path& folder, std::string_view extension) {
-        for (const fs::path& path : listFolder(folder)) {
-            if (path.extension() == extension) continue;
-            diagnostics_.error({path.generic_string()},
-                               std::string("not a *").append(extension).append(" file"));
+        for (auto* files : {&tree_.dataSets, &tree_.molecules, &tree_.drawings, &tree_.pictures, &tree_.films,
+                            &tree_.foreignVideos, &tree_.videos}) {
+            std::ranges::stable_sort(*files, {}, [](const SourceFile& file) { return file.path.filename(); });
         }
-        return readFiles(folder, {extension});
-    }
-
-    std::vector<SectionFolder> readSections(const fs::path& folder) {
-        std::vector<SectionFolder> sections;
-        for (const fs::path& path : listFolder(folder)) {
-            sections.push_back({{path, {}}, readFilesStrictly(path, ".page")});
-        }
-        return sections;
-    }
-
-    /// The files with one of the extensions in the folders below a folder.
-    std::vector<SourceFile> readFilesBelow(const fs::path& folder,
-                                           std::initializer_list<std::string_view> extensions) {
-        std::vector<SourceFile> files;
-        for (const fs::path& path : listFolder(folder)) append(files, readFiles(path, extensions));
-        return files;
+        return std::move(tree_);
     }
 
   private:
+    std::optional<SourceFile> readFile(const fs::path& path) {
+        auto file = readSourceFile(path, diagnostics_);
+        if (file) file->layer = layer_;
+        return file;
+    }
+
+    /// Reads the first of the files that is there, unless a higher layer had one.
+    void readOne(std::optional<SourceFile>& file, std::initializer_list<const char*> names) {
+        if (file) return;
+        const auto found =
+            std::ranges::find_if(names, [&](const char* name) { return fs::exists(root_ / name); });
+        if (found != names.end()) file = readFile(root_ / *found);
+    }
+
+    void readEquipment() {
+        readOne(tree_.startPage, {"start.md", "start.page"});
+        readOne(tree_.helpPage, {"help.md", "help.page"});
+        readOne(tree_.pageTemplate, {"templates/page.html"});
+        readOne(tree_.moleculeTemplate, {"templates/molecule.html"});
+        readOne(tree_.style, {"style.css"});
+        readOne(tree_.stopWords, {"words/stop.txt"});
+        readOne(tree_.wordForms, {"words/forms.txt"});
+        for (const fs::path& folder : listFolder(root_ / "tools")) {
+            if (tools_.isTaken(folder)) continue;
+            tools_.take(folder);
+            for (const fs::path& path : pathsOf(folder, {".js", ".css", ".txt"})) append(tree_.tools, path);
+        }
+    }
+
+    void readContent(const Layer& layer) {
+        readOne(tree_.elements, {"elements.txt"});
+        for (const fs::path& folder : listFolder(root_ / "pages")) {
+            if (fs::is_directory(folder)) readSection(folder);
+        }
+        for (const fs::path& path : pathsOf(root_ / "glossary", {".md", ".term"})) append(tree_.terms, path);
+        take(dataSets_, tree_.dataSets, pathsOf(root_ / "datasets", {".data"}));
+        take(molecules_, tree_.molecules, pathsOf(root_ / "molecules", {".mol"}));
+        take(pictures_, tree_.pictures, pathsOf(root_ / "pictures", {".png", ".jpg", ".bmp"}));
+        takeSources(pictures_, tree_.drawings, tree_.pictures, pathsOf(root_ / "pictures", {".svg"}),
+                    {layer.images, ".png"});
+        take(videos_, tree_.videos, pathsOf(root_ / "videos", {".webm"}));
+        takeSources(videos_, tree_.films, tree_.videos, pathsOf(root_ / "videos", {".json"}),
+                    {layer.media, ".webm"});
+        takeForeignVideos();
+        takeMade(videos_, tree_.videos, layer.media, ".webm");
+        takeMade(pictures_, tree_.pictures, layer.images, ".png");
+    }
+
+    void readSection(const fs::path& folder) {
+        SectionFolder& section =
+            sections_.try_emplace(folder.filename().string(), SectionFolder{{folder, {}}, {}}).first->second;
+        take(pages_, section.pages, pathsOf(folder, {".md", ".page"}));
+    }
+
+    static std::vector<fs::path> pathsOf(const fs::path& folder, Extensions extensions) {
+        std::vector<fs::path> paths = listFolder(folder);
+        std::erase_if(paths, [&](const fs::path& path) {
+            return std::ranges::find(extensions, takenExtension(path)) == extensions.end();
+        });
+        return paths;
+    }
+
+    void append(std::vector<SourceFile>& files, const fs::path& path) {
+        if (auto file = readFile(path)) files.push_back(std::move(*file));
+    }
+
+    void take(Overlay& overlay, std::vector<SourceFile>& files, const std::vector<fs::path>& paths) {
+        for (const fs::path& path : paths) {
+            if (overlay.isTaken(path)) continue;
+            overlay.take(path);
+            append(files, path);
+        }
+    }
+
+    struct Made {
+        const std::vector<fs::path>& folders;
+        const char* extension;
+    };
+
+    /// Takes sources of which something is made: what has been made, or else the source.
+    void takeSources(Overlay& overlay, std::vector<SourceFile>& sources, std::vector<SourceFile>& results,
+                     const std::vector<fs::path>& paths, const Made& made) {
+        for (const fs::path& path : paths) {
+            if (overlay.isTaken(path)) continue;
+            overlay.take(path);
+            const std::string name = path.stem().string() + made.extension;
+            const auto folder = std::ranges::find_if(
+                made.folders, [&name](const fs::path& candidate) { return fs::exists(candidate / name); });
+            if (folder == made.folders.end()) {
+                append(sources, path);
+            } else {
+                append(results, *folder / name);
+            }
+        }
+    }
+
+    /// Takes what was made without a source here.
+    void takeMade(Overlay& overlay, std::vector<SourceFile>& files, const std::vector<fs::path>& folders,
+                  std::string_view extension) {
+        for (const fs::path& folder : folders) {
+            std::vector<fs::path> paths = pathsOf(folder, {extension});
+            std::erase_if(paths, [&](const fs::path& path) { return overlay.isTakenOfThisLayer(path); });
+            take(overlay, files, paths);
+        }
+    }
+
+    void takeForeignVideos() {
+        for (const fs::path& path :
+             pathsOf(root_ / "videos", {".mp4", ".mov", ".avi", ".mkv", ".ogv", ".mpg", ".mpeg"})) {
+            if (videos_.isTaken(path)) continue;
+            videos_.take(path);
+            tree_.foreignVideos.push_back({path, {}, layer_});
+        }
+    }
+
     Diagnostics& diagnostics_;
+    SourceTree tree_;
+    std::map<std::string, SectionFolder> sections_;
+    Overlay pages_{&pageKey};
+    Overlay pictures_{&nameKeyOf};
+    Overlay molecules_{&nameKeyOf};
+    Overlay videos_{&nameKeyOf};
+    Overlay dataSets_{&nameKeyOf};
+    Overlay tools_{&nameKeyOf};
+
+    // The layer being read.
+    std::size_t layer_ = 0;
+    fs::path root_;
 };
 
 }  // namespace
 
 SourceTree readSourceTree(const SourceFolders& folders, Diagnostics& diagnostics) {
-    const fs::path& root = folders.content;
-    TreeReader reader(diagnostics);
-    SourceTree tree;
-    tree.root = root;
-    tree.startPage = reader.readFileIfPresent(root / "start.page");
-    tree.helpPage = reader.readFileIfPresent(root / "help.page");
-    tree.pageTemplate = reader.readFileIfPresent(root / "templates/page.html");
-    tree.moleculeTemplate = reader.readFileIfPresent(root / "templates/molecule.html");
-    tree.style = reader.readFileIfPresent(root / "style.css");
-    tree.elements = reader.readFileIfPresent(root / "elements.txt");
-    tree.stopWords = reader.readFileIfPresent(root / "words/stop.txt");
-    tree.wordForms = reader.readFileIfPresent(root / "words/forms.txt");
-    tree.sections = reader.readSections(root / "pages");
-    tree.terms = reader.readFilesStrictly(root / "glossary", ".term");
-    tree.dataSets = reader.readFilesStrictly(root / "datasets", ".data");
-    tree.molecules = reader.readFiles(root / "molecules", {".mol"});
-    tree.tools = reader.readFilesBelow(root / "tools", {".js", ".css", ".txt"});
-    tree.drawings = reader.readFiles(root / "pictures", {".svg"});
-    tree.pictures = reader.readFiles(root / "pictures", {".png"});
-    for (const fs::path& images : folders.images)
-        append(tree.pictures, reader.readFiles(images, {".bmp", ".png"}));
-    for (const fs::path& media : folders.media) append(tree.videos, reader.readFiles(media, {".webm"}));
-    return tree;
+    const std::vector<Layer> layers = findLayers(folders, diagnostics);
+    TreeReader reader(folders.content, diagnostics);
+    for (std::size_t i = 0; i < layers.size(); ++i) reader.readLayer(layers[i], i);
+    reportIgnoredFiles(folders.content, diagnostics);
+    return reader.result();
 }
 
 }  // namespace contentc

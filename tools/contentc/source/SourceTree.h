@@ -6,21 +6,10 @@
 #include <vector>
 
 #include "tools/contentc/source/Diagnostics.h"
+#include "tools/contentc/source/Layers.h"
+#include "tools/contentc/source/SourceFile.h"
 
 namespace contentc {
-
-/// A file as it was read.
-struct SourceFile {
-    std::filesystem::path path;
-    std::string bytes;
-
-    /// The file's name without folder.
-    std::string name() const { return path.filename().string(); }
-    /// The file's name without folder and extension.
-    std::string stem() const { return path.stem().string(); }
-    /// A line of the file, for messages.
-    SourcePlace place(int line = 1) const { return {path.generic_string(), line}; }
-};
 
 /// The pages of one section.
 struct SectionFolder {
@@ -29,8 +18,9 @@ struct SectionFolder {
     std::vector<SourceFile> pages;
 };
 
-/// The source files of a data folder. Each list is sorted by path.
+/// The source files of a data folder, those of all layers together. Each list is sorted by name.
 struct SourceTree {
+    /// The author's own folder.
     std::filesystem::path root;
     std::optional<SourceFile> startPage;
     std::optional<SourceFile> helpPage;
@@ -43,29 +33,26 @@ struct SourceTree {
     std::vector<SectionFolder> sections;
     /// The data analyser's data sets.
     std::vector<SourceFile> dataSets;
+    /// Of all layers: a term of a higher one takes the place of one with its name, not of a whole file.
     std::vector<SourceFile> terms;
     std::vector<SourceFile> molecules;
     /// Scripts, style sheets and lists of settings of the tools in pages, which lie in a folder for each
     /// tool.
     std::vector<SourceFile> tools;
-    /// Drawings that have to be rendered beforehand; only their names count.
+    /// Drawings of which no picture has been made yet.
     std::vector<SourceFile> drawings;
-    /// Pictures that are copied: those of the sources and those made by the build.
+    /// Pictures that are copied.
     std::vector<SourceFile> pictures;
-    /// Videos that are copied; made by the build.
+    /// Descriptions of films that have not been made yet.
+    std::vector<SourceFile> films;
+    /// Videos of other kinds than those that are copied; without their bytes.
+    std::vector<SourceFile> foreignVideos;
+    /// Videos that are copied.
     std::vector<SourceFile> videos;
 };
 
-/// Where the sources lie.
-struct SourceFolders {
-    std::filesystem::path content;
-    /// Folders with pictures made by the build: the main menu's and rendered drawings.
-    std::vector<std::filesystem::path> images;
-    /// Folders with rendered videos.
-    std::vector<std::filesystem::path> media;
-};
-
-/// Reads all files. Reports those that cannot be read, and those in folders where they are of no use.
+/// Reads the files of all layers. Reports those that cannot be read, and those in the author's own folder
+/// that are of no use there.
 SourceTree readSourceTree(const SourceFolders& folders, Diagnostics& diagnostics);
 
 }  // namespace contentc

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <filesystem>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "tools/contentc/source/Diagnostics.h"
+
+namespace contentc {
+
+/// A folder of the sources and the extensions of the files that are taken from it.
+struct SourceFolderUse {
+    std::string_view name;
+    std::vector<std::string_view> extensions;
+    /// Whether the files lie in folders below it.
+    bool hasFolders = false;
+};
+
+/// The folders of the sources.
+std::span<const SourceFolderUse> sourceFolderUses();
+
+/// The visible entries of a folder, sorted by name; none when there is no such folder. Backups of editors are
+/// left out.
+std::vector<std::filesystem::path> listFolder(const std::filesystem::path& folder);
+
+/// Warns of the files and folders of an author's folder that are not taken, and says where they belong.
+void reportIgnoredFiles(const std::filesystem::path& root, Diagnostics& diagnostics);
+
+}  // namespace contentc
