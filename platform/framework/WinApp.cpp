@@ -1,5 +1,6 @@
 #include "platform/framework/WinApp.h"
 
+#include <QApplication>
 #include <cstdlib>
 
 #include "platform/dialogs/Dialog.h"
@@ -12,7 +13,6 @@
 #include "platform/text/GreekLiteral.h"
 #include "platform/windows/ComponentContainer.h"
 #include "platform/windows/MessageFilter.h"
-#include "platform/windows/WindowWidget.h"
 
 namespace platform {
 
@@ -22,10 +22,11 @@ namespace {
 
 CWinApp* application = nullptr;
 
-/// The command of a key; dialogs have no accelerators.
+/// The command of a key in the frame or a modeless window; while a modal one is open there is none.
 std::optional<UINT> acceleratorCommand(const CFrameWnd* frame, HWND window, UINT key) {
-    const QWidget* const widget = WindowTable::instance().widget(window);
-    if (!frame || !widget || widget->window() != WindowWidget::of(*frame)) return std::nullopt;
+    if (!frame || !WindowTable::instance().find(window) || QApplication::activeModalWidget()) {
+        return std::nullopt;
+    }
     return AcceleratorTable(Resources().accelerators).find(key, inputModifiers());
 }
 

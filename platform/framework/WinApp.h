@@ -22,8 +22,9 @@ class CWinApp : public CCmdTarget {
     virtual bool InitInstance() = 0;
     virtual int ExitInstance() { return 0; }
     /// Called for each input message before it is delivered; true swallows it. The default carries out
-    /// accelerators, and has Escape end a dialog when a component in it has the focus. A key whose command is
-    /// disabled or has no handler goes to its window.
+    /// accelerators, in the frame and in modeless windows as long as no dialog waits, and has Escape end a
+    /// dialog when a component in it has the focus. A key whose command is disabled or has no handler goes to
+    /// its window.
     virtual bool PreTranslateMessage(const MSG& message);
 
     void AddDocTemplate(std::unique_ptr<CSingleDocTemplate> documentTemplate);
