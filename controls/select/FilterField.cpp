@@ -1,6 +1,7 @@
 #include "controls/select/FilterField.h"
 
 #include <QAction>
+#include <QFocusEvent>
 #include <QIconEngine>
 #include <QKeyEvent>
 #include <QPainter>
@@ -95,6 +96,14 @@ void FilterField::keyPressEvent(QKeyEvent* event) {
     } else {
         QLineEdit::keyPressEvent(event);
     }
+}
+
+/// A menu bar is left again for the field, which its commands are about. So the selection stays, as for a
+/// menu that pops up.
+void FilterField::focusOutEvent(QFocusEvent* event) {
+    const bool toMenu = event->reason() == Qt::MenuBarFocusReason;
+    QFocusEvent leaving(QEvent::FocusOut, toMenu ? Qt::PopupFocusReason : event->reason());
+    QLineEdit::focusOutEvent(&leaving);
 }
 
 void FilterField::resizeEvent(QResizeEvent* event) {

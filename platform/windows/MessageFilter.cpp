@@ -152,13 +152,13 @@ class MessageFilter : public QObject {
         const UINT key = virtualKey(event.key());
         currentModifiers = event.modifiers();
         const HWND window = WindowTable::instance().nearestHandle(&widget);
-        if (key == 0 || !currentHooks.claimsKey || !currentHooks.claimsKey(window, key)) return false;
+        if (!currentHooks.claimsKey || !currentHooks.claimsKey(window, key)) return false;
         event.accept();
         return true;
     }
 
-    static void focusMoved(const QWidget* from, const QWidget* to) {
-        focusHasMoved();
+    static void focusMoved(const QWidget* from, QWidget* to) {
+        focusHasMoved(to);
         const WindowTable& table = WindowTable::instance();
         const HWND left = table.nearestHandle(from);
         const HWND entered = table.nearestHandle(to);
