@@ -50,10 +50,8 @@ std::optional<MSG> mouseMessage(const QMouseEvent& event, HWND window) {
     return MSG{window, message, keyStates(event), packPoint(fromQt(position))};
 }
 
-std::optional<MSG> keyMessage(const QKeyEvent& event, HWND window) {
-    const UINT key = virtualKey(event.key());
-    if (key == 0) return std::nullopt;
-    return MSG{window, event.type() == QEvent::KeyPress ? WM_KEYDOWN : WM_KEYUP, key, 0};
+MSG keyMessage(const QKeyEvent& event, HWND window) {
+    return {window, event.type() == QEvent::KeyPress ? WM_KEYDOWN : WM_KEYUP, virtualKey(event.key()), 0};
 }
 
 }  // namespace

@@ -32,6 +32,8 @@ constexpr UINT firstFunctionKey = 0x70;
 /// The number for characters that are on none of these keys.
 constexpr UINT anyCharacter = 0xE7;
 constexpr int firstKeyWithoutCharacter = 0x01000000;
+/// The number for keys that have none here.
+constexpr UINT anyOtherKey = 0xFF;
 
 }  // namespace
 
@@ -44,7 +46,7 @@ UINT virtualKey(int qtKey) {
     }
     const auto key = std::ranges::find_if(named, [=](const Key& k) { return k.qt == qtKey; });
     if (key != named.end()) return key->number;
-    if (qtKey >= firstKeyWithoutCharacter) return 0;
+    if (qtKey >= firstKeyWithoutCharacter) return anyOtherKey;
     const bool isGreek = qtKey >= 0x0370 && qtKey <= 0x03FF;
     const std::size_t letter = isGreek ? greekLetters.find(static_cast<char16_t>(qtKey)) : greekLetters.npos;
     return letter == greekLetters.npos ? anyCharacter : 'A' + static_cast<UINT>(letter);

@@ -36,7 +36,11 @@ QString MultiLineEdit::content() const {
 }
 
 void MultiLineEdit::setContent(const QString& text) {
-    setPlainText(QString(text).remove(u'\r'));
+    QString lines = text;
+    lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    // One that ends no line still stands between two words.
+    lines.replace(u'\r', u' ');
+    setPlainText(lines);
     setLineHeights();
 }
 

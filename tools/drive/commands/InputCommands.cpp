@@ -9,6 +9,7 @@
 #include "tools/drive/desktop/Pointer.h"
 #include "tools/drive/desktop/Reaction.h"
 #include "tools/drive/desktop/Windows.h"
+#include "tools/drive/script/KeyName.h"
 #include "tools/drive/script/Numbers.h"
 #include "tools/drive/script/Request.h"
 
@@ -21,22 +22,37 @@ using platform::Result;
 
 namespace {
 
-/// A point of a window's client area.
+/// A point of a window's client area, and the modifier keys held while the mouse is used there.
 struct Spot {
     HWND window = 0;
     CPoint point;
+    Qt::KeyboardModifiers modifiers;
 };
 
-/// Reads `X Y [WINDOW]`, beginning with the argument `first`. The request fails when these name no point.
+/// Reads `X Y [WINDOW] [MODIFIERS]`, beginning with the argument `first`. The request fails when these name
+/// no point. No window has the name of a modifier.
 std::optional<Spot> spotOf(Request& request, std::size_t first) {
     const std::optional<int> x = number<int>(request.argument(first));
     const std::optional<int> y = number<int>(request.argument(first + 1));
-    const Result<HWND> window =
-        chooseWindow(request.argumentCount() > first + 2 ? &request.argument(first + 2) : nullptr);
+    std::size_t count = request.argumentCount();
+    const auto modifiers = count > first + 2 ? modifiersOf(request.argument(count - 1)) : std::nullopt;
+    if (modifiers) --count;
+    const bool isOver = count > first + 3;
+    const Result<HWND> window = chooseWindow(count > first + 2 ? &request.argument(first + 2) : nullptr);
     if (!x || !y) request.fail("X and Y are whole numbers");
+    if (isOver) request.fail(request.argument(first + 3) + " is no modifier");
     if (!window) request.fail(window.failure().message);
-    if (!x || !y || !window) return std::nullopt;
-    return Spot{*window, {*x, *y}};
+    if (!x || !y || isOver || !window) return std::nullopt;
+    return Spot{*window, {*x, *y}, modifiers.value_or(Qt::NoModifier)};
+}
+
+/// Moves to the spot and acts there with its modifiers held.
+void useMouse(const Spot& spot, void (*perform)(Pointer&)) {
+    Pointer& pointer = Pointer::instance();
+    pointer.hold(spot.modifiers);
+    pointer.moveTo(spot.window, spot.point);
+    perform(pointer);
+    pointer.hold(Qt::NoModifier);
 }
 
 QWidget* widgetAtPointer() { return QApplication::widgetAt(QCursor::pos()); }
@@ -62,18 +78,17 @@ void mouse(Request& request, Program&) {
     if (action == mouseActions.end()) return request.fail("the mouse cannot " + request.argument(0));
     const std::optional<Spot> spot = spotOf(request, 1);
     if (!spot) return;
-    Pointer::instance().moveTo(spot->window, spot->point);
-    action->perform(Pointer::instance());
+    useMouse(*spot, action->perform);
     awaitReaction(request, &widgetAtPointer);
 }
 
 void click(Request& request, Program&) {
     const std::optional<Spot> spot = spotOf(request, 0);
     if (!spot) return;
-    Pointer& pointer = Pointer::instance();
-    pointer.moveTo(spot->window, spot->point);
-    pointer.press(Qt::LeftButton);
-    pointer.release(Qt::LeftButton);
+    useMouse(*spot, [](Pointer& pointer) {
+        pointer.press(Qt::LeftButton);
+        pointer.release(Qt::LeftButton);
+    });
     awaitReaction(request, &widgetAtPointer);
 }
 
@@ -114,7 +129,7 @@ void cursor(Request& request, Program&) {
 }
 
 constexpr Command inputTable[] = {
-    {"mouse", 3, 4, mouse}, {"click", 2, 3, click}, {"key", 1, 2, key},
+    {"mouse", 3, 5, mouse}, {"click", 2, 4, click}, {"key", 1, 2, key},
     {"type", 1, 1, type},   {"focus", 1, 1, focus}, {"cursor", 0, 0, cursor},
 };
 

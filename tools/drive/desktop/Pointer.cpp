@@ -24,6 +24,7 @@ constexpr int timeStep = 1000;
 struct MouseState {
     QPoint position;
     Qt::MouseButtons buttons;
+    Qt::KeyboardModifiers modifiers;
     QPointer<QWindow> grabbing;  // the window of a press, until the last button is up
     int time = 0;
 };
@@ -61,7 +62,7 @@ void send(QEvent::Type type, Qt::MouseButton button) {
     }
     if (window == nullptr) return;
     const QPointF local = window->mapFromGlobal(QPointF(mouse().position));
-    qt_handleMouseEvent(window, local, mouse().position, mouse().buttons, button, type, Qt::NoModifier,
+    qt_handleMouseEvent(window, local, mouse().position, mouse().buttons, button, type, mouse().modifiers,
                         mouse().time);
 }
 
@@ -72,7 +73,7 @@ void sendSecondPress() {
     mouse().grabbing = window;
     const QPointF local = window->mapFromGlobal(QPointF(mouse().position));
     QMouseEvent event(QEvent::MouseButtonDblClick, local, local, mouse().position, Qt::LeftButton,
-                      Qt::LeftButton, Qt::NoModifier);
+                      Qt::LeftButton, mouse().modifiers);
     mouse().time += timeStep;
     event.setTimestamp(static_cast<quint64>(mouse().time));
     QSpontaneKeyEvent::setSpontaneous(&event);
@@ -84,7 +85,7 @@ void sendWheel(int notches) {
     QWindow* window = windowAtPointer();
     if (window == nullptr) return;
     const QPointF local = window->mapFromGlobal(QPointF(mouse().position));
-    QWheelEvent event(local, mouse().position, {}, {0, notch * notches}, mouse().buttons, Qt::NoModifier,
+    QWheelEvent event(local, mouse().position, {}, {0, notch * notches}, mouse().buttons, mouse().modifiers,
                       Qt::NoScrollPhase, false);
     QSpontaneKeyEvent::setSpontaneous(&event);
     QCoreApplication::instance()->notify(window, &event);
@@ -107,6 +108,10 @@ void moveCursor(QPoint position) {
 Pointer& Pointer::instance() {
     static Pointer pointer;
     return pointer;
+}
+
+void Pointer::hold(Qt::KeyboardModifiers modifiers) {
+    later([modifiers] { mouse().modifiers = modifiers; });
 }
 
 void Pointer::moveTo(HWND window, CPoint p) { moveTo(clientToScreen(window, p)); }

@@ -12,6 +12,8 @@ class Pointer {
   public:
     static Pointer& instance();
 
+    /// The modifier keys that are held from now on.
+    void hold(Qt::KeyboardModifiers modifiers);
     /// Moves to a point of the window's client area.
     void moveTo(platform::HWND window, platform::CPoint p);
     /// Moves to a point of the screen.

@@ -18,7 +18,7 @@ constexpr std::array<std::pair<std::string_view, Qt::KeyboardModifier>, 3> modif
     {"alt", Qt::AltModifier},
 }};
 
-constexpr std::array<std::pair<std::string_view, Qt::Key>, 23> keyNames = {{
+constexpr std::array<std::pair<std::string_view, Qt::Key>, 29> keyNames = {{
     {"enter", Qt::Key_Return},
     {"return", Qt::Key_Return},
     {"esc", Qt::Key_Escape},
@@ -42,6 +42,12 @@ constexpr std::array<std::pair<std::string_view, Qt::Key>, 23> keyNames = {{
     {"pgdn", Qt::Key_PageDown},
     {"plus", Qt::Key_Plus},
     {"minus", Qt::Key_Minus},
+    {"alt", Qt::Key_Alt},
+    {"altgr", Qt::Key_AltGr},
+    {"capslock", Qt::Key_CapsLock},
+    {"menu", Qt::Key_Menu},
+    {"meta", Qt::Key_Meta},
+    {"tonos", Qt::Key_Dead_Acute},
 }};
 
 template <class Table>
@@ -88,6 +94,19 @@ std::optional<KeyStroke> keyStrokeOf(std::string_view name) {
     if (!key) return std::nullopt;
     stroke.key = *key;
     return stroke;
+}
+
+std::optional<Qt::KeyboardModifiers> modifiersOf(std::string_view names) {
+    const std::string lowered = platform::toLower(names);
+    Qt::KeyboardModifiers modifiers;
+    for (std::string_view rest = lowered;;) {
+        const std::size_t plus = rest.find('+');
+        const auto modifier = lookUp(modifierNames, rest.substr(0, plus));
+        if (!modifier) return std::nullopt;
+        modifiers |= *modifier;
+        if (plus == std::string_view::npos) return modifiers;
+        rest.remove_prefix(plus + 1);
+    }
 }
 
 }  // namespace drive

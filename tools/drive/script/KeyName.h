@@ -16,4 +16,8 @@ struct KeyStroke {
 /// when no key has that name.
 std::optional<KeyStroke> keyStrokeOf(std::string_view name);
 
+/// Reads modifiers that are held while the mouse is used, such as `Ctrl` or `Ctrl+Shift`, in any letter case.
+/// Nothing when a name is no modifier's.
+std::optional<Qt::KeyboardModifiers> modifiersOf(std::string_view names);
+
 }  // namespace drive
