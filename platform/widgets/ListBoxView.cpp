@@ -7,6 +7,7 @@
 
 #include "platform/qt/QtConvert.h"
 #include "platform/widgets/Collation.h"
+#include "platform/widgets/KeptSelection.h"
 #include "platform/windows/ControlLink.h"
 
 namespace platform {
@@ -104,6 +105,11 @@ void ListBoxView::select(int index) {
 
 void ListBoxView::settleLater() {
     if (!settling_.isActive()) settling_.start(0, this);
+}
+
+QItemSelectionModel::SelectionFlags ListBoxView::selectionCommand(const QModelIndex& index,
+                                                                  const QEvent* event) const {
+    return keepingSelection(QListView::selectionCommand(index, event), index);
 }
 
 void ListBoxView::timerEvent(QTimerEvent* event) {

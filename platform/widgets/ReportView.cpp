@@ -2,9 +2,11 @@
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QMouseEvent>
 
 #include "platform/widgets/Collation.h"
+#include "platform/widgets/KeptSelection.h"
 #include "platform/windows/ControlLink.h"
 
 namespace platform {
@@ -38,6 +40,17 @@ int ReportView::addRow(const QString& text) {
 int ReportView::selectedRow() const {
     const QList<QTreeWidgetItem*> chosen = selectedItems();
     return chosen.isEmpty() ? -1 : indexOfTopLevelItem(chosen.front());
+}
+
+/// A row chosen by a key counts as one that was clicked.
+void ReportView::keyPressEvent(QKeyEvent* event) {
+    QTreeWidget::keyPressEvent(event);
+    if (event->isAccepted()) tell(NM_CLICK);
+}
+
+QItemSelectionModel::SelectionFlags ReportView::selectionCommand(const QModelIndex& index,
+                                                                 const QEvent* event) const {
+    return keepingSelection(QTreeWidget::selectionCommand(index, event), index);
 }
 
 void ReportView::mousePressEvent(QMouseEvent* event) {

@@ -10,6 +10,7 @@
 #include "platform/input/VirtualKeys.h"
 #include "platform/qt/QtChild.h"
 #include "platform/widgets/Collation.h"
+#include "platform/widgets/KeptSelection.h"
 #include "platform/windows/ControlLink.h"
 
 namespace platform {
@@ -59,6 +60,11 @@ QTreeWidgetItem* TreeWidget::insert(const QString& text, QTreeWidgetItem* parent
     auto item = std::make_unique<QTreeWidgetItem>(QStringList(text));
     above.insertChild(inOrder ? placeFor(text, above) : above.childCount(), item.get());
     return item.release();
+}
+
+QItemSelectionModel::SelectionFlags TreeWidget::selectionCommand(const QModelIndex& index,
+                                                                 const QEvent* event) const {
+    return keepingSelection(QTreeWidget::selectionCommand(index, event), index);
 }
 
 void TreeWidget::keyPressEvent(QKeyEvent* event) {

@@ -16,6 +16,8 @@ class TreeWidget : public QTreeWidget {
     QTreeWidgetItem* insert(const QString& text, QTreeWidgetItem* parent, bool inOrder);
 
   protected:
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override;
     void keyPressEvent(QKeyEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void startDrag(Qt::DropActions actions) override;

@@ -89,9 +89,10 @@ constexpr std::array kSearchDialog = {
     DialogControl{Kind::listView, IDC_RESULTS, CRect::at(100, 16, 240, 184), "Αποτελέσματα"_gr, 0,
                   kUsual | platform::LVS_SORTASCENDING},
     DialogControl{Kind::listBox, IDC_SEARCH_WORDS, CRect::at(87, 202, 89, 11), {}, 0, 0},
-    DialogControl{Kind::defaultPushButton, IDC_SEARCH_RUN, CRect::at(180, 205, 50, 15), "Αναζήτηση"_gr, 0,
-                  kUsual | platform::WS_DISABLED},
+    // Right behind the results: it is disabled when the focus goes elsewhere.
     DialogControl{Kind::pushButton, IDOK, CRect::at(235, 205, 50, 15), "Μετάβαση"_gr, 0,
+                  kUsual | platform::WS_DISABLED},
+    DialogControl{Kind::defaultPushButton, IDC_SEARCH_RUN, CRect::at(180, 205, 50, 15), "Αναζήτηση"_gr, 0,
                   kUsual | platform::WS_DISABLED},
     DialogControl{Kind::pushButton, IDCANCEL, CRect::at(290, 205, 50, 15), "Ακύρωση"_gr},
 };
