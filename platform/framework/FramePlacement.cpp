@@ -33,7 +33,7 @@ void FramePlacement::place(const QRect& outer) {
     const bool settled = isNormal() && widget_.windowHandle()->isExposed();
     if (!isNormal()) widget_.setWindowState(Qt::WindowNoState);
     wanted_ = outer;
-    applyWanted();
+    apply(outer);
     // The user may move a settled window from now on.
     if (settled) wanted_.reset();
 }
@@ -51,7 +51,7 @@ bool FramePlacement::eventFilter(QObject* watched, QEvent* event) {
     }
     const bool mayKnowFrame = event->type() == QEvent::Expose || event->type() == QEvent::WindowStateChange;
     if (!mayKnowFrame || !wanted_ || !isNormal() || !widget_.windowHandle()->isExposed()) return false;
-    applyWanted();
+    apply(*wanted_);
     settling_.start(settleMs, this);
     return false;
 }
@@ -59,7 +59,7 @@ bool FramePlacement::eventFilter(QObject* watched, QEvent* event) {
 void FramePlacement::timerEvent(QTimerEvent*) {
     settling_.stop();
     if (!wanted_ || !isNormal()) return;
-    applyWanted();
+    apply(*wanted_);
     wanted_.reset();
 }
 
@@ -73,11 +73,11 @@ QRect FramePlacement::current() const {
     return window.geometry().marginsAdded(window.frameMargins());
 }
 
-void FramePlacement::applyWanted() {
-    if (current() == *wanted_) return;
-    widget_.setGeometry(wanted_->marginsRemoved(widget_.windowHandle()->frameMargins()));
+void FramePlacement::apply(QRect outer) {
+    if (current() == outer) return;
+    widget_.setGeometry(outer.marginsRemoved(widget_.windowHandle()->frameMargins()));
     // Some window systems keep the area inside the frame on the screen, unless the frame itself is placed.
-    if (current() != *wanted_) widget_.windowHandle()->setFramePosition(wanted_->topLeft());
+    if (current() != outer) widget_.windowHandle()->setFramePosition(outer.topLeft());
 }
 
 }  // namespace platform

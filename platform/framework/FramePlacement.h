@@ -37,7 +37,7 @@ class FramePlacement : public QObject {
   private:
     bool isNormal() const;
     QRect current() const;
-    void applyWanted();
+    void apply(QRect outer);
     void followNativeWindow();
 
     QWidget& widget_;

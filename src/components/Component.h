@@ -34,6 +34,10 @@ class Component : public platform::CWnd {
     void Put(std::int32_t dispid, T value) {
         Invoke<void>(dispid, platform::InvokeKind::propertyPut, value);
     }
+
+  private:
+    Component() = default;
+    friend Wrapper;
 };
 
 }  // namespace kalyxo

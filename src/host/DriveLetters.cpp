@@ -64,7 +64,7 @@ std::optional<char> letterFor(const std::string& folder, const MachineConfig& co
 
 /// Those with a letter of their own first, so that no new medium can take it.
 std::vector<MountedMedium> inOrder(std::vector<MountedMedium> media, const LetterMemory& remembered) {
-    std::stable_partition(media.begin(), media.end(), [&](const MountedMedium& medium) {
+    std::ranges::stable_partition(media, [&](const MountedMedium& medium) {
         const std::string folder = inAscii(medium.folder.string());
         return std::ranges::any_of(remembered, [&](const auto& letter) { return letter.second == folder; });
     });

@@ -8,7 +8,7 @@ void History::Record(const PageAddress& place) {
     if (m_bReplaying) return;
     ++m_nCurrent;
     if (m_nCurrent == kCapacity) {
-        std::shift_left(m_entries.begin(), m_entries.end(), 1);
+        std::ranges::rotate(m_entries, m_entries.begin() + 1);
         m_nCurrent = kCapacity - 1;
     }
     m_nLast = m_nCurrent;

@@ -78,9 +78,10 @@ void unwrapCredit(std::string& line) {
 bool LineRewriter::Concerns(std::string_view line) {
     unsigned traits = 0;
     for (const char c : line) traits |= kTraits[static_cast<unsigned char>(c)];
-    constexpr unsigned kClassId = kHyphen | kFive;
-    constexpr unsigned kCredit = kLetterP | kLetterO;
-    return (traits & kAlways) != 0 || (traits & kClassId) == kClassId || (traits & kCredit) == kCredit;
+    constexpr unsigned kClassIdTraits = kHyphen | kFive;
+    constexpr unsigned kCreditTraits = kLetterP | kLetterO;
+    return (traits & kAlways) != 0 || (traits & kClassIdTraits) == kClassIdTraits ||
+           (traits & kCreditTraits) == kCreditTraits;
 }
 
 void LineRewriter::Rewrite(std::string& line, PageNotes& notes) const {

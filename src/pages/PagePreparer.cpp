@@ -41,7 +41,8 @@ bool rewriteLines(TextReader& source, TextWriter& target, const LineRewriter& re
     std::uint64_t lines = 0;
     std::uint64_t passed = 0;
     while (const std::size_t length = source.readLine(buffer.get(), kLineLimit)) {
-        if (++lines % kLinesPerStep == 0 && !platform::GoesOn(step, lines, 0)) break;
+        ++lines;
+        if (lines % kLinesPerStep == 0 && !platform::GoesOn(step, lines, 0)) break;
         // A NUL ends its line, the line's own end included.
         const std::string_view line(buffer.get(), ::strnlen(buffer.get(), length));
         const bool isRewritten = LineRewriter::Concerns(line);

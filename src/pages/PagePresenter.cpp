@@ -45,7 +45,7 @@ void PagePresenter::ShowPage(std::int32_t pageNumber) {
     const std::string file = formats::pagePath(pageNumber).value_or(std::to_string(pageNumber));
     const std::string source = TheApp().m_strDataFolder + file;
     const std::string target = m_cache.NextTarget();
-    tellFailure(PreparePage(source, target), source);
+    tellFailure(PreparePage(*m_preparer, source, target), source);
     ShowPreparedPage(target);
 }
 
@@ -54,9 +54,10 @@ void PagePresenter::LeavePage() {
     m_contents = {};
 }
 
-PrepareResult PagePresenter::PreparePage(const std::string& source, const std::string& target) {
+PrepareResult PagePresenter::PreparePage(const PagePreparer& preparer, const std::string& source,
+                                         const std::string& target) {
     CProgress progress(LoadString(IDS_PREPARING_PAGE));
-    const PrepareResult result = m_preparer->PreparePage(source, target, m_contents, progress.Step());
+    const PrepareResult result = preparer.PreparePage(source, target, m_contents, progress.Step());
     if (result == PrepareResult::prepared) TheApp().m_strLastPreparedPage = target;
     return result;
 }

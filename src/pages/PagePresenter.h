@@ -32,7 +32,8 @@ class PagePresenter {
     void CleanCache() { m_cache.CleanCache(true); }
 
   private:
-    PrepareResult PreparePage(const std::string& source, const std::string& target);
+    PrepareResult PreparePage(const PagePreparer& preparer, const std::string& source,
+                              const std::string& target);
     static void tellFailure(PrepareResult result, const std::string& source);
     void ShowPreparedPage(const std::string& target);
 

@@ -80,7 +80,8 @@ bool CSearchDlg::loadIndex() {
     const std::vector<std::string> words = m_index.LoadWordIndex(step);
     std::size_t added = 0;
     for (const std::string& word : words) {
-        if (++added % kWordsPerStep == 0 && !step(added, words.size())) break;
+        ++added;
+        if (added % kWordsPerStep == 0 && !step(added, words.size())) break;
         m_words.AddString(word);
     }
     m_index.LoadAlternatives(step);
