@@ -12,8 +12,12 @@
 #include "controls/dataanalyser/DataStrip.h"
 #include "controls/dataanalyser/GraphStrip.h"
 #include "controls/dataanalyser/look/MessageLine.h"
+#include "controls/dataanalyser/look/ShownText.h"
 #include "controls/dataanalyser/look/StyleRules.h"
+#include "controls/dataanalyser/model/Extremes.h"
+#include "controls/dataanalyser/model/RowNames.h"
 #include "controls/dataanalyser/table/TableView.h"
+#include "controls/elements/NumberText.h"
 
 namespace controls::dataanalyser {
 
@@ -131,11 +135,31 @@ QString AnalyserPane::leftOutNote() const {
                      : QStringLiteral("%1 γραμμές δεν έχουν τιμή που να φαίνεται εδώ").arg(rows);
 }
 
+QString AnalyserPane::extremesNote() const {
+    const std::optional<std::size_t> column =
+        analyser_.graphShown() ? analyser_.plan().y : analyser_.order().column;
+    const formats::DataSet& set = analyser_.dataSet();
+    if (!column || *column >= set.columns.size()) return {};
+    const formats::DataColumn& values = set.columns[*column];
+    const auto found = extremesOf(values, analyser_.rows(), analyser_.unit());
+    if (!found) return {};
+    const auto valueOf = [&](int row) {
+        const auto place = static_cast<std::size_t>(row);
+        return QStringLiteral("%1 (%2)").arg(shownCell(values, place, analyser_.unit()),
+                                             toQt(shortRowName(set, place)));
+    };
+    return QStringLiteral("%1: από %2 ως %3, μέση τιμή %4")
+        .arg(toQt(heading(values, analyser_.unit())), valueOf(found->smallest), valueOf(found->largest),
+             shownFigures(toQt(shortNumber(found->mean))));
+}
+
 void AnalyserPane::refreshMessage() {
     const std::string& source = analyser_.dataSet().source;
     // The source comes last, because a narrow window cuts off the end.
     QStringList notes;
-    if (const QString leftOut = leftOutNote(); !leftOut.isEmpty()) notes += leftOut;
+    for (const QString& note : {leftOutNote(), extremesNote()}) {
+        if (!note.isEmpty()) notes += note;
+    }
     if (!source.empty()) notes += QStringLiteral("Πηγή: %1").arg(toQt(source));
     QStringList warnings;
     for (const std::string& remark : analyser_.library().remarks()) warnings += toQt(remark);

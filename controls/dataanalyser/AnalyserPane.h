@@ -44,6 +44,7 @@ class AnalyserPane : public QWidget {
     void noteChange(Change change);
     void refreshTable();
     void refreshView();
+    QString extremesNote() const;
     QString leftOutNote() const;
     void refreshMessage();
     QSize graphSize() const;

@@ -3,11 +3,12 @@
 #include <QButtonGroup>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QMenu>
 #include <QPushButton>
 #include <algorithm>
 
 #include "controls/common/QtText.h"
+#include "controls/dataanalyser/ColumnMenu.h"
+#include "controls/dataanalyser/RangeMenu.h"
 #include "controls/dataanalyser/look/Buttons.h"
 #include "controls/dataanalyser/look/ChoiceBox.h"
 #include "controls/dataanalyser/model/Analyser.h"
@@ -41,7 +42,8 @@ DataStrip::DataStrip(Analyser& analyser, QWidget* parent)
       categories_(new ChoiceBox(QStringLiteral("Κατηγορία"), this)),
       count_(new QLabel(this)),
       columns_(makeButton(QStringLiteral("Στήλες"), QStringLiteral("Ποιες στήλες φαίνονται"), this)),
-      columnMenu_(new QMenu(columns_)),
+      range_(makeButton({}, QStringLiteral("Από ποια ως ποια γραμμή"), this)),
+      rangeMenu_(new RangeMenu(analyser, range_)),
       units_(new QButtonGroup(this)),
       views_(new QButtonGroup(this)) {
     setObjectName(QStringLiteral("strip"));
@@ -60,7 +62,8 @@ void DataStrip::makeChoices() {
               QStringLiteral("Θερμοκρασίες σε βαθμούς Κελσίου"), this);
     addChoice(*views_, 0, QStringLiteral("Πίνακας"), QStringLiteral("Εμφάνιση του πίνακα (F8)"), this);
     addChoice(*views_, 1, QStringLiteral("Γράφημα"), QStringLiteral("Εμφάνιση του γραφήματος (F8)"), this);
-    columns_->setMenu(columnMenu_);
+    columns_->setMenu(new ColumnMenu(analyser_, columns_));
+    range_->setMenu(rangeMenu_);
     sets_->setMinimumContentsLength(14);
     categories_->setMinimumContentsLength(13);
 }
@@ -72,6 +75,7 @@ void DataStrip::layOut() {
     row->addWidget(title_);
     row->addWidget(sets_, 3);
     row->addWidget(categories_, 2);
+    row->addWidget(range_);
     row->addWidget(count_);
     row->addStretch(1);
     row->addWidget(columns_);
@@ -96,26 +100,6 @@ void DataStrip::connectChoices() {
     connect(units_, &QButtonGroup::idClicked, this,
             [this](int id) { analyser_.setUnit(static_cast<TemperatureUnit>(id)); });
     connect(views_, &QButtonGroup::idClicked, this, [this](int id) { analyser_.setGraphShown(id != 0); });
-    connect(columnMenu_, &QMenu::aboutToShow, this, [this] { fillColumnMenu(); });
-}
-
-void DataStrip::fillColumnMenu() {
-    columnMenu_->clear();
-    const ColumnLayout layout = analyser_.layout();
-    const auto& columns = analyser_.dataSet().columns;
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-        QAction* action = columnMenu_->addAction(toQt(heading(columns[i], analyser_.unit())));
-        action->setCheckable(true);
-        action->setChecked(layout.shown(i));
-        connect(action, &QAction::triggered, this, [this, i](bool shown) {
-            ColumnLayout next = analyser_.layout();
-            next.setShown(i, shown);
-            analyser_.setLayout(next);
-        });
-    }
-    columnMenu_->addSeparator();
-    connect(columnMenu_->addAction(QStringLiteral("Όλες οι στήλες")), &QAction::triggered, this,
-            [this] { analyser_.setLayout(ColumnLayout(analyser_.dataSet().columns.size())); });
 }
 
 void DataStrip::refresh() {
@@ -135,6 +119,7 @@ void DataStrip::refresh() {
     choose(*units_, static_cast<int>(analyser_.unit()));
     choose(*views_, analyser_.graphShown() ? 1 : 0);
     columns_->setVisible(!analyser_.graphShown());
+    range_->setText(rangeMenu_->caption());
     refreshCount();
 }
 

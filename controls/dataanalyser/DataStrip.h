@@ -4,13 +4,13 @@
 
 class QButtonGroup;
 class QLabel;
-class QMenu;
 class QPushButton;
 
 namespace controls::dataanalyser {
 
 class Analyser;
 class ChoiceBox;
+class RangeMenu;
 
 /// The upper strip. It chooses the data set, its rows and columns, the unit, and table or graph.
 class DataStrip : public QWidget {
@@ -27,7 +27,6 @@ class DataStrip : public QWidget {
     void makeChoices();
     void layOut();
     void connectChoices();
-    void fillColumnMenu();
     void refreshCount();
 
     Analyser& analyser_;
@@ -36,7 +35,8 @@ class DataStrip : public QWidget {
     ChoiceBox* categories_;
     QLabel* count_;
     QPushButton* columns_;
-    QMenu* columnMenu_;
+    QPushButton* range_;
+    RangeMenu* rangeMenu_;
     QButtonGroup* units_;
     QButtonGroup* views_;
 };

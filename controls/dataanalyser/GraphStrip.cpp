@@ -30,11 +30,12 @@ GraphStrip::GraphStrip(Analyser& analyser, std::function<void(double)> zoom, QWi
       kinds_(new QButtonGroup(this)),
       xName_(new QLabel(QStringLiteral("x:"), this)),
       xs_(new ChoiceBox(QStringLiteral("Στήλη του οριζόντιου άξονα"), this)),
-      logX_(makeToggle(QStringLiteral("log"), QStringLiteral("Λογαριθμικός οριζόντιος άξονας"), this)),
+      logX_(makeToggle(QStringLiteral("λογ"), QStringLiteral("Λογαριθμικός οριζόντιος άξονας"), this)),
       yName_(new QLabel(QStringLiteral("y:"), this)),
       ys_(new ChoiceBox(QStringLiteral("Στήλη του κατακόρυφου άξονα"), this)),
-      logY_(makeToggle(QStringLiteral("log"), QStringLiteral("Λογαριθμικός κατακόρυφος άξονας"), this)),
+      logY_(makeToggle(QStringLiteral("λογ"), QStringLiteral("Λογαριθμικός κατακόρυφος άξονας"), this)),
       fit_(makeToggle(QStringLiteral("Ευθεία"), QStringLiteral("Ευθεία βέλτιστης προσαρμογής"), this)),
+      names_(makeToggle(QStringLiteral("Ονόματα"), QStringLiteral("Ονόματα δίπλα στα σημεία"), this)),
       closer_(makeButton(QStringLiteral("+"), QStringLiteral("Μεγέθυνση (+)"), this)),
       farther_(makeButton(QStringLiteral("−"), QStringLiteral("Σμίκρυνση (−)"), this)),
       whole_(makeButton(QStringLiteral("Όλο"), QStringLiteral("Ολόκληρο το γράφημα (Home)"), this)) {
@@ -72,6 +73,7 @@ void GraphStrip::layOut() {
     actions->setSpacing(5);
     actions->addWidget(joinedButtons(*kinds_, this));
     actions->addWidget(fit_);
+    actions->addWidget(names_);
     for (QPushButton* button : {closer_, farther_, whole_}) actions->addWidget(button);
     actions->addStretch(1);
     halves_->addLayout(actions);
@@ -81,7 +83,7 @@ void GraphStrip::layOut() {
     // The Tab key follows the order in which the strip is read.
     QList<QWidget*> order;
     for (QAbstractButton* kind : kinds_->buttons()) order.append(kind);
-    order << fit_ << closer_ << farther_ << whole_ << xs_ << logX_ << ys_ << logY_;
+    order << fit_ << names_ << closer_ << farther_ << whole_ << xs_ << logX_ << ys_ << logY_;
     for (qsizetype i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
 }
 
@@ -101,6 +103,8 @@ void GraphStrip::connectChoices() {
             [this](bool on) { change([on](GraphPlan& plan) { plan.logY = on; }); });
     connect(fit_, &QPushButton::clicked, this,
             [this](bool on) { change([on](GraphPlan& plan) { plan.bestFit = on; }); });
+    connect(names_, &QPushButton::clicked, this,
+            [this](bool on) { change([on](GraphPlan& plan) { plan.names = on; }); });
     connect(closer_, &QPushButton::clicked, this, [this] { zoom_(closerFactor); });
     connect(farther_, &QPushButton::clicked, this, [this] { zoom_(fartherFactor); });
     connect(whole_, &QPushButton::clicked, this, [this] { zoom_(0); });
@@ -125,15 +129,9 @@ void GraphStrip::refresh() {
     logX_->setChecked(plan.logX);
     logY_->setChecked(plan.logY);
     fit_->setChecked(plan.bestFit);
-    const bool hasX = plan.kind != GraphKind::bar;
-    const bool hasY = plan.kind != GraphKind::histogram;
-    for (QWidget* widget :
-         {static_cast<QWidget*>(xs_), static_cast<QWidget*>(xName_), static_cast<QWidget*>(logX_)}) {
-        widget->setEnabled(hasX);
-    }
-    for (QWidget* widget : {static_cast<QWidget*>(ys_), static_cast<QWidget*>(yName_)})
-        widget->setEnabled(hasY);
-    fit_->setEnabled(plan.hasPoints());
+    names_->setChecked(plan.names);
+    for (QWidget* widget : std::initializer_list<QWidget*>{xs_, xName_, logX_, fit_, names_})
+        widget->setEnabled(plan.hasPoints());
 }
 
 void GraphStrip::resizeEvent(QResizeEvent* event) {

@@ -43,6 +43,7 @@ class GraphStrip : public QWidget {
     ChoiceBox* ys_;
     QPushButton* logY_;
     QPushButton* fit_;
+    QPushButton* names_;
     QPushButton* closer_;
     QPushButton* farther_;
     QPushButton* whole_;

@@ -40,11 +40,10 @@ constexpr double legendSurroundings = 50;
 
 QString figure(double value) { return shownFigures(toQt(shortNumber(value, 6))); }
 
-std::string_view nameOf(const Analyser& analyser) { return analyser.dataSet().title; }
-
-std::vector<QString> barNames(const Analyser& analyser, const Graph& graph) {
+std::vector<QString> markNames(const Analyser& analyser, const Graph& graph) {
     std::vector<QString> names;
-    if (graph.plan.kind != GraphKind::bar) return names;
+    const bool named = graph.plan.hasPoints() ? graph.plan.names : graph.plan.kind == GraphKind::bar;
+    if (!named) return names;
     for (const GraphMark& mark : graph.marks) {
         names.push_back(toQt(shortRowName(analyser.dataSet(), static_cast<std::size_t>(mark.row))));
     }
@@ -158,13 +157,16 @@ void GraphChart::showGraph(const Analyser& analyser) {
     Graph graph = analyser.graph();
     const GraphWindow window = analyser.window(graph);
     const Categories& categories = analyser.categories();
-    setTitle(toQt(nameOf(analyser)));
-    GraphContent content{{}, window, {}, {}, barNames(analyser, graph), 0};
+    setTitle(toQt(analyser.dataSet().title));
+    if (graph.plan.kind == GraphKind::bar && !graph.xTitle.empty()) addToTitle(toQt(graph.xTitle));
+    GraphContent content{{}, window, {}, {}, markNames(analyser, graph), 0};
     for (int i = 0; i < static_cast<int>(categories.names.size()); ++i) {
         content.categories.push_back(categoryLook(categories, i));
     }
     for (const std::int16_t id : analyser.selected()) content.selected.insert(analyser.placeOf(id));
-    content.nameSpace = content.names.empty() ? 8 : GraphMarks::spaceFor(content.names, size().height());
+    content.nameSpace = graph.plan.kind == GraphKind::bar && !content.names.empty()
+                            ? GraphMarks::spaceFor(content.names, size().height())
+                            : 8;
     setMargins(QMargins(12, 8, 12, content.nameSpace));
     setAxes(graph, window.x, window.y);
     addLines(graph, window);
@@ -231,6 +233,10 @@ void GraphChart::addLines(const Graph& graph, const GraphWindow& window) {
     for (QLegendMarker* marker : legend()->markers(line)) marker->setVisible(false);
     const QString words = shownFigures(toQt(equation(*graph.fit, graph.plan.logX, graph.plan.logY))) +
                           QStringLiteral(",   r² = ") + toQt(fixedNumber(graph.fit->rSquared, 4));
+    addToTitle(words);
+}
+
+void GraphChart::addToTitle(const QString& words) {
     setTitle(title() + QStringLiteral(":&nbsp; <span style=\"font-weight:normal\">%1</span>").arg(words));
 }
 

@@ -37,6 +37,7 @@ class GraphChart : public QChart {
     void addLegendEntries(const Analyser& analyser, const Graph& graph);
     void addLines(const Graph& graph, const GraphWindow& window);
     void addSeries(QXYSeries& series);
+    void addToTitle(const QString& words);
     void placeMarks();
     QStringList linesOf(int index) const;
 

@@ -4,6 +4,7 @@
 #include <QStyleOptionGraphicsItem>
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 #include "controls/dataanalyser/graph/PointShapes.h"
 
@@ -17,6 +18,9 @@ constexpr std::size_t manyPoints = 1000;
 constexpr double reach = 12;
 constexpr double minNameWidth = 11;
 constexpr int namePixels = 11;
+constexpr int pointNamePixels = 10;
+// With more points on show there is no room for names before the reader zooms in.
+constexpr std::size_t maxNamedPoints = 400;
 constexpr int minNameSpace = 120;
 constexpr int maxNameSpace = 180;
 constexpr int nameGap = 8;
@@ -24,6 +28,25 @@ constexpr int nameGap = 8;
 QColor halfway(const QColor& one, const QColor& other) {
     return {(one.red() + other.red()) / 2, (one.green() + other.green()) / 2,
             (one.blue() + other.blue()) / 2};
+}
+
+/// Where beside a point a name covers nothing; nothing when there is no room for it.
+std::optional<QRectF> freePlace(const QPointF& point, const QSizeF& size, const QRectF& bounds,
+                                const std::vector<QRectF>& taken) {
+    const double away = pointRadius + 1;
+    const double right = point.x() + away;
+    const double left = point.x() - away - size.width();
+    const double above = point.y() - size.height();
+    for (const QPointF& corner :
+         {QPointF(right, above), QPointF(left, above), QPointF(right, point.y()), QPointF(left, point.y()),
+          QPointF(point.x() - size.width() / 2, point.y() - away - size.height()),
+          QPointF(point.x() - size.width() / 2, point.y() + away)}) {
+        const QRectF area(corner, size);
+        if (!bounds.contains(area)) continue;
+        if (std::ranges::none_of(taken, [&](const QRectF& other) { return other.intersects(area); }))
+            return area;
+    }
+    return std::nullopt;
 }
 
 }  // namespace
@@ -105,7 +128,10 @@ void GraphMarks::paint(QPainter* painter, const QStyleOptionGraphicsItem* option
     if (content_.graph.plan.kind == GraphKind::bar) paintNames(*painter);
     painter->setClipRect(plotArea_.adjusted(-pointRadius, -pointRadius, pointRadius, pointRadius));
     if (content_.graph.plan.hasPoints()) {
-        paintPoints(*painter, option->exposedRect.adjusted(-reach, -reach, reach, reach));
+        const QRectF exposed = option->exposedRect.adjusted(-reach, -reach, reach, reach);
+        paintPoints(*painter, exposed);
+        painter->setClipRect(plotArea_);
+        paintPointNames(*painter, exposed);
     } else {
         painter->setClipRect(plotArea_);
         paintBars(*painter);
@@ -134,6 +160,28 @@ void GraphMarks::paintPoints(QPainter& painter, const QRectF& exposed) const {
     painter.setPen(QPen(appearance::text, 2));
     for (const GraphMark& mark : marks) {
         if (content_.selected.contains(mark.row)) painter.drawEllipse(place(mark), size + 3, size + 3);
+    }
+}
+
+void GraphMarks::paintPointNames(QPainter& painter, const QRectF& exposed) const {
+    const auto& marks = content_.graph.marks;
+    std::vector<QRectF> taken;
+    for (const GraphMark& mark : marks) {
+        const QRectF point(place(mark) - QPointF(pointRadius, pointRadius),
+                           2 * QSizeF(pointRadius, pointRadius));
+        if (plotArea_.intersects(point)) taken.push_back(point);
+    }
+    if (taken.size() > maxNamedPoints) return;
+    painter.setFont(appearance::font(pointNamePixels));
+    painter.setPen(appearance::text);
+    const QFontMetrics metrics(painter.font());
+    for (std::size_t i = 0; i < content_.names.size(); ++i) {
+        const QString& name = content_.names[i];
+        const QSizeF size(metrics.horizontalAdvance(name) + 1, pointNamePixels);
+        const auto area = freePlace(place(marks[i]), size, plotArea_, taken);
+        if (!area) continue;
+        taken.push_back(*area);
+        if (exposed.intersects(*area)) painter.drawText(*area, Qt::AlignCenter | Qt::TextDontClip, name);
     }
 }
 

@@ -15,7 +15,7 @@ struct GraphContent {
     GraphWindow window;                    ///< the part of the graph that is shown
     std::vector<CategoryLook> categories;  ///< the look of each category
     std::set<int> selected;                ///< the selected rows, by their places in the data set
-    std::vector<QString> names;            ///< the names under the bars, one for each mark
+    std::vector<QString> names;            ///< of each mark, under the bars or beside the points; or none
     int nameSpace = 0;                     ///< the height of the names below the axis, in pixels
 };
 
@@ -49,6 +49,7 @@ class GraphMarks : public QGraphicsItem {
     void paintPoints(QPainter& painter, const QRectF& exposed) const;
     void paintBars(QPainter& painter) const;
     void paintNames(QPainter& painter) const;
+    void paintPointNames(QPainter& painter, const QRectF& exposed) const;
 
     GraphContent content_;
     QRectF plotArea_;

@@ -26,7 +26,7 @@ QPushButton:checked { background: @deep; color: @paper; border-color: @deep; }
 QPushButton:focus { border: 2px solid @deep; padding: 1px 7px; }
 QPushButton:checked:focus { border-color: @warm; }
 QPushButton:disabled { color: @disabled; border-color: @line; }
-QPushButton:checked:disabled { background: @line; color: @paper; border-color: @line; }
+QPushButton:checked:disabled { background: @line; color: @muted; border-color: @line; }
 QPushButton::menu-indicator { width: 0; }
 QMenu { background: @paper; color: @text; border: 1px solid @frame; padding: 4px 0; }
 QMenu::item { padding: 3px 24px 3px 26px; }

@@ -64,6 +64,8 @@ RowOrder Analyser::order() const {
     if (state_.set.category > 0 && state_.set.category <= static_cast<int>(categories().names.size())) {
         order.category = state_.set.category;
     }
+    if (const int first = placeOf(state_.set.firstRow); first >= 0) order.first = first;
+    if (const int last = placeOf(state_.set.lastRow); last >= 0) order.last = last;
     return order;
 }
 
@@ -81,6 +83,14 @@ void Analyser::setDescending(bool descending) {
 
 void Analyser::setCategory(std::int32_t category) {
     state_.set.category = category;
+    state_.set.window = {};
+    forgetRows();
+    changed(Change::rows);
+}
+
+void Analyser::setRange(std::int32_t first, std::int32_t last) {
+    state_.set.firstRow = first;
+    state_.set.lastRow = last;
     state_.set.window = {};
     forgetRows();
     changed(Change::rows);
@@ -144,14 +154,19 @@ std::size_t Analyser::graphColumn(std::int32_t put, bool second) const {
 
 GraphPlan Analyser::plan() const {
     const DataSetState& set = state_.set;
-    return {
-        state_.graphKind, graphColumn(set.graphX, false), graphColumn(set.graphY, true), set.logX, set.logY,
-        set.bestFit};
+    return {state_.graphKind,
+            graphColumn(set.graphX, false),
+            graphColumn(set.graphY, true),
+            set.logX,
+            set.logY,
+            set.bestFit,
+            set.names};
 }
 
 void Analyser::setPlan(const GraphPlan& plan) {
     GraphPlan fitted = this->plan();
     fitted.bestFit = plan.bestFit;
+    fitted.names = plan.names;
     if (plan != fitted) state_.set.window = {};
     state_.graphKind = plan.kind;
     state_.set.graphX = static_cast<std::int32_t>(plan.x);
@@ -159,6 +174,7 @@ void Analyser::setPlan(const GraphPlan& plan) {
     state_.set.logX = plan.logX;
     state_.set.logY = plan.logY;
     state_.set.bestFit = plan.bestFit;
+    state_.set.names = plan.names;
     changed(Change::graph);
 }
 
@@ -169,7 +185,7 @@ void Analyser::setGraphKind(int code) {
     changed(Change::graph);
 }
 
-Graph Analyser::graph() const { return makeGraph(dataSet(), categories(), rows(), plan(), unit()); }
+Graph Analyser::graph() const { return makeGraph(dataSet(), categories(), rows(), order(), plan(), unit()); }
 
 GraphWindow Analyser::window(const Graph& graph) const {
     const auto& [left, right, bottom, top] = state_.set.window;

@@ -42,6 +42,9 @@ class Analyser {
     void setSortColumn(std::int16_t column);
     void setDescending(bool descending);
     void setCategory(std::int32_t category);
+    /// Lists only the rows from one id to another, in the order of the data set; 0 for no bound. When the
+    /// first lies behind the last, no row is listed.
+    void setRange(std::int32_t first, std::int32_t last);
 
     TemperatureUnit unit() const { return state_.unit; }
     void setUnit(TemperatureUnit unit);

@@ -10,6 +10,7 @@ namespace {
 constexpr std::int32_t logXBit = 1;
 constexpr std::int32_t logYBit = 2;
 constexpr std::int32_t bestFitBit = 4;
+constexpr std::int32_t namesBit = 8;
 constexpr std::int32_t hiddenBit = 0x10000;
 
 std::int32_t columnEntry(const ColumnLayout& layout, std::size_t column) {
@@ -28,7 +29,7 @@ std::vector<std::int32_t> Analyser::entryWords() const {
     for (std::size_t column = 0; column < words.size(); ++column)
         words[column] = static_cast<std::int32_t>(column);
     words.insert(words.end(), {categoryWord, graphXWord, graphYWord, graphOptionsWord, windowLeftWord,
-                               windowRightWord, windowBottomWord, windowTopWord});
+                               windowRightWord, windowBottomWord, windowTopWord, firstRowWord, lastRowWord});
     return words;
 }
 
@@ -48,7 +49,12 @@ std::int32_t Analyser::entry(std::int32_t word) const {
         case graphYWord:
             return static_cast<std::int32_t>(plan().y);
         case graphOptionsWord:
-            return (set.logX ? logXBit : 0) | (set.logY ? logYBit : 0) | (set.bestFit ? bestFitBit : 0);
+            return (set.logX ? logXBit : 0) | (set.logY ? logYBit : 0) | (set.bestFit ? bestFitBit : 0) |
+                   (set.names ? namesBit : 0);
+        case firstRowWord:
+            return placeOf(set.firstRow) < 0 ? 0 : set.firstRow;
+        case lastRowWord:
+            return placeOf(set.lastRow) < 0 ? 0 : set.lastRow;
         default:
             return 0;
     }
@@ -79,7 +85,12 @@ void Analyser::setEntry(std::int32_t word, std::int32_t value) {
             set.logX = (value & logXBit) != 0;
             set.logY = (value & logYBit) != 0;
             set.bestFit = (value & bestFitBit) != 0;
+            set.names = (value & namesBit) != 0;
             break;
+        case firstRowWord:
+            return setRange(value, set.lastRow);
+        case lastRowWord:
+            return setRange(set.firstRow, value);
         default:
             return;
     }

@@ -20,6 +20,8 @@ inline constexpr std::int32_t windowLeftWord = 1004;
 inline constexpr std::int32_t windowRightWord = 1005;
 inline constexpr std::int32_t windowBottomWord = 1006;
 inline constexpr std::int32_t windowTopWord = 1007;
+inline constexpr std::int32_t firstRowWord = 1008;
+inline constexpr std::int32_t lastRowWord = 1009;
 
 /// What the reader has chosen in one data set. A host may set any numbers, also columns and categories that
 /// the data set does not have; `Analyser` gives them a meaning.
@@ -28,11 +30,14 @@ struct DataSetState {
     static constexpr std::int32_t proposed = -1;
 
     std::int32_t category = 0;
+    std::int32_t firstRow = 0;  ///< id of the first row listed, 0 for no bound; the same for the last
+    std::int32_t lastRow = 0;
     std::int32_t graphX = proposed;
     std::int32_t graphY = proposed;
     bool logX = false;
     bool logY = false;
     bool bestFit = false;
+    bool names = false;
     std::array<float, 4> window{};  ///< left, right, bottom, top; all 0 for the whole graph
     ColumnLayout layout;
     std::vector<std::int16_t> selected;  ///< ids of rows

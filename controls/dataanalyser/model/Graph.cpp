@@ -17,8 +17,8 @@ constexpr double halfBarWidth = 0.4;
 class GraphMaker {
   public:
     GraphMaker(const formats::DataSet& set, const Categories& categories, std::span<const int> rows,
-               const GraphPlan& plan, TemperatureUnit unit)
-        : set_(set), categories_(categories), rows_(rows), unit_(unit) {
+               const RowOrder& order, const GraphPlan& plan, TemperatureUnit unit)
+        : set_(set), categories_(categories), rows_(rows), order_(order), unit_(unit) {
         graph_.plan = plan;
     }
 
@@ -51,7 +51,7 @@ class GraphMaker {
             const double y = cellValue(yColumn(), place, unit_);
             const double x =
                 bar ? static_cast<double>(graph_.marks.size()) : cellValue(xColumn(), place, unit_);
-            if (!canShow(x, plan().xIsLogarithmic()) || !canShow(y, plan().logY)) {
+            if (!canShow(x, plan().acrossIsLogarithmic()) || !canShow(y, plan().upIsLogarithmic())) {
                 ++graph_.leftOut;
                 continue;
             }
@@ -62,12 +62,11 @@ class GraphMaker {
     void addBins() {
         std::vector<double> values;
         for (const int row : rows_) {
-            const double value = cellValue(xColumn(), static_cast<std::size_t>(row), unit_);
-            if (canShow(value, plan().logX)) values.push_back(value);
+            const double value = cellValue(yColumn(), static_cast<std::size_t>(row), unit_);
+            if (canShow(value, plan().logY)) values.push_back(value);
         }
         graph_.leftOut = static_cast<int>(rows_.size() - values.size());
-        for (const HistogramBin& bin : histogram(values, plan().logX)) {
-            if (plan().logY && bin.count == 0) continue;
+        for (const HistogramBin& bin : histogram(values, plan().logY)) {
             graph_.marks.push_back({bin.from, static_cast<double>(bin.count), bin.from, bin.to, -1, -1});
         }
     }
@@ -83,22 +82,18 @@ class GraphMaker {
         // Bars begin at zero. On a logarithmic axis half the shortest bar is added, so that a decade lies
         // below it.
         if (!plan().hasPoints()) {
-            ys.push_back(plan().logY ? 0.5 * (ys.empty() ? 1 : *std::ranges::min_element(ys)) : 0);
+            const bool log = plan().upIsLogarithmic();
+            ys.push_back(log ? 0.5 * (ys.empty() ? 1 : *std::ranges::min_element(ys)) : 0);
         }
-        graph_.whole = {rangeOf(xs, plan().xIsLogarithmic()), rangeOf(ys, plan().logY)};
+        graph_.whole = {rangeOf(xs, plan().acrossIsLogarithmic()), rangeOf(ys, plan().upIsLogarithmic())};
     }
 
     void setTitles() {
-        graph_.xTitle =
-            plan().kind == GraphKind::bar ? set_.columns[nameColumn()].title : heading(xColumn(), unit_);
-        graph_.yTitle =
-            plan().kind == GraphKind::histogram ? std::string("Πλήθος"_gr) : heading(yColumn(), unit_);
-    }
-
-    std::size_t nameColumn() const {
-        const auto words =
-            std::ranges::find_if(set_.columns, [](const auto& column) { return !column.isNumber(); });
-        return static_cast<std::size_t>(words - set_.columns.begin());
+        const bool counts = plan().kind == GraphKind::histogram;
+        if (plan().hasPoints()) graph_.xTitle = heading(xColumn(), unit_);
+        if (plan().kind == GraphKind::bar) graph_.xTitle = orderWords(set_, order_);
+        if (counts) graph_.xTitle = heading(yColumn(), unit_);
+        graph_.yTitle = counts ? std::string("Πλήθος"_gr) : heading(yColumn(), unit_);
     }
 
     void fitLine() {
@@ -113,6 +108,7 @@ class GraphMaker {
     const formats::DataSet& set_;
     const Categories& categories_;
     std::span<const int> rows_;
+    const RowOrder& order_;
     TemperatureUnit unit_;
     Graph graph_;
 };
@@ -133,8 +129,8 @@ std::set<int> Graph::categories() const {
 }
 
 Graph makeGraph(const formats::DataSet& set, const Categories& categories, std::span<const int> rows,
-                const GraphPlan& plan, TemperatureUnit unit) {
-    return GraphMaker(set, categories, rows, plan, unit).run();
+                const RowOrder& order, const GraphPlan& plan, TemperatureUnit unit) {
+    return GraphMaker(set, categories, rows, order, plan, unit).run();
 }
 
 }  // namespace controls::dataanalyser

@@ -22,14 +22,18 @@ inline constexpr int graphKindCount = 4;
 /// Which graph to make of a data set.
 struct GraphPlan {
     GraphKind kind = GraphKind::scatter;
-    std::size_t x = 0;  ///< a column of numbers; a bar graph shows the rows instead
-    std::size_t y = 0;  ///< a column of numbers; a histogram shows counts instead
-    bool logX = false;  ///< without meaning for a bar graph
-    bool logY = false;
+    std::size_t x = 0;  ///< a column of numbers; only for a scatter or line graph
+    std::size_t y = 0;  ///< a column of numbers; that of a histogram lies on its horizontal axis
+    bool logX = false;
+    bool logY = false;     ///< goes with the column `y`, in a histogram too
     bool bestFit = false;  ///< only for a scatter or line graph
+    bool names = false;    ///< points have their names beside them
 
     bool hasPoints() const { return kind == GraphKind::scatter || kind == GraphKind::line; }
-    bool xIsLogarithmic() const { return logX && kind != GraphKind::bar; }
+    bool acrossIsLogarithmic() const {
+        return kind == GraphKind::histogram ? logY : logX && kind != GraphKind::bar;
+    }
+    bool upIsLogarithmic() const { return logY && kind != GraphKind::histogram; }
     friend bool operator==(const GraphPlan&, const GraphPlan&) = default;
 };
 
@@ -49,7 +53,7 @@ struct Graph {
     std::vector<GraphMark> marks;  ///< in a line graph sorted by x
     int leftOut = 0;               ///< the number of rows without a value that the axes can show
     GraphWindow whole;             ///< the window that shows all marks
-    std::string xTitle;            ///< code page 1253, with unit
+    std::string xTitle;            ///< code page 1253, with unit; of bars, how they are ordered
     std::string yTitle;
     std::optional<BestFit> fit;  ///< computed from the logarithms of a logarithmic axis
 
@@ -59,8 +63,8 @@ struct Graph {
     std::set<int> categories() const;
 };
 
-/// Makes the graph of some rows.
+/// Makes the graph of some rows, which stand in the given order.
 Graph makeGraph(const formats::DataSet& set, const Categories& categories, std::span<const int> rows,
-                const GraphPlan& plan, TemperatureUnit unit);
+                const RowOrder& order, const GraphPlan& plan, TemperatureUnit unit);
 
 }  // namespace controls::dataanalyser

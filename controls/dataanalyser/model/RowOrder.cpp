@@ -5,6 +5,7 @@
 #include <numeric>
 
 #include "platform/text/Fold.h"
+#include "platform/text/GreekLiteral.h"
 
 namespace controls::dataanalyser {
 
@@ -43,6 +44,7 @@ std::vector<int> orderedRows(const formats::DataSet& set, const Categories& cate
                              const RowOrder& order) {
     std::vector<int> rows(set.rowCount());
     std::iota(rows.begin(), rows.end(), 0);
+    std::erase_if(rows, [&](int row) { return row < order.first || row > order.last; });
     if (order.category > 0) {
         std::erase_if(rows, [&](int row) {
             return categories.ofRow[static_cast<std::size_t>(row)] != order.category - 1;
@@ -61,6 +63,13 @@ std::vector<int> orderedRows(const formats::DataSet& set, const Categories& cate
     std::ranges::transform(column.cells, words.begin(), platform::fold);
     sortByKeys(rows, words, order.descending, [](const std::string& word) { return !word.empty(); });
     return rows;
+}
+
+std::string orderWords(const formats::DataSet& set, const RowOrder& order) {
+    using namespace platform::literals;
+    if (!order.column) return std::string(order.descending ? "αντίστροφη σειρά"_gr : ""_gr);
+    return std::string("ταξινόμηση: "_gr) + set.columns[*order.column].title +
+           std::string(order.descending ? ", φθίνουσα"_gr : ", αύξουσα"_gr);
 }
 
 }  // namespace controls::dataanalyser

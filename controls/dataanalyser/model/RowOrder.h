@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <limits>
 #include <optional>
 #include <string>
 #include <vector>
@@ -21,6 +22,8 @@ struct RowOrder {
     std::optional<std::size_t> column;  ///< nothing for the order of the data set
     bool descending = false;
     int category = 0;  ///< from 1, 0 for all rows
+    int first = 0;     ///< places in the data set; rows before the first and behind the last are left out
+    int last = std::numeric_limits<int>::max();
     friend bool operator==(const RowOrder&, const RowOrder&) = default;
 };
 
@@ -29,5 +32,9 @@ struct RowOrder {
 /// accents.
 std::vector<int> orderedRows(const formats::DataSet& set, const Categories& categories,
                              const RowOrder& order);
+
+/// What the rows are sorted by, in words for the reader (code page 1253); empty for the order of the data
+/// set.
+std::string orderWords(const formats::DataSet& set, const RowOrder& order);
 
 }  // namespace controls::dataanalyser

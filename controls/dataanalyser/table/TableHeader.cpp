@@ -65,6 +65,7 @@ QString TableHeader::text(int section) const {
 int TableHeader::commonPixels() const {
     int pixels = tableFontPixels;
     for (int section = 0; section < count(); ++section) {
+        if (isSectionHidden(section)) continue;
         const QSize area = textArea(QRect(0, 0, sectionSize(section), height())).size();
         while (pixels > minTableFontPixels && !fits(text(section), area, pixels)) --pixels;
     }

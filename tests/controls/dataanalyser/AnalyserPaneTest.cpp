@@ -2,6 +2,7 @@
 #include <QLabel>
 #include <QMimeData>
 
+#include "controls/dataanalyser/ColumnMenu.h"
 #include "controls/dataanalyser/graph/GraphChart.h"
 #include "controls/dataanalyser/graph/GraphMarks.h"
 #include "controls/dataanalyser/model/AnalyserState.h"
@@ -62,6 +63,33 @@ TEST_F(AnalyserTest, DataSetAndCategoryAreChosenInTheStrip) {
     EXPECT_EQ(ask<std::int16_t>(component_, 13, InvokeKind::method), gases);
     EXPECT_EQ(table().model()->rowCount(), 4);
     EXPECT_EQ(boxes[1]->currentIndex(), 0);
+}
+
+TEST_F(AnalyserTest, RowsFromOneToAnotherAreListedAndSummedUp) {
+    setEntry(firstRowWord, 3);
+    setEntry(lastRowWord, 10);
+    EXPECT_EQ(table().model()->rowCount(), 8);
+    EXPECT_EQ(cell(0, 1), "Li");
+    clickHeading(4);
+    table();
+    const QString told =
+        component_.widget().findChild<QWidget*>(QStringLiteral("message"))->accessibleDescription();
+    EXPECT_TRUE(told.startsWith(QStringLiteral("Ομάδα: από 1 (Li) ως 18 (Ne), μέση τιμή 12")))
+        << told.toStdString();
+    setEntry(firstRowWord, 900);
+    EXPECT_EQ(table().model()->rowCount(), 10) << "an element that does not exist is no bound";
+}
+
+TEST_F(AnalyserTest, ColumnMenuStaysOpenWhileColumnsAreTicked) {
+    table();
+    auto& menu = dynamic_cast<ColumnMenu&>(*component_.widget().findChild<QMenu*>(QStringLiteral("columns")));
+    menu.popup({});
+    for (const int column : {3, 4}) {
+        QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(menu.actions()[column]).center());
+        EXPECT_TRUE(table().isColumnHidden(column));
+    }
+    EXPECT_TRUE(menu.isVisible());
+    menu.close();
 }
 
 TEST_F(AnalyserTest, CopySelectionPutsTextAndATableOnTheClipboard) {

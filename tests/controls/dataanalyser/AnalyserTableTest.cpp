@@ -48,7 +48,7 @@ TEST(AnalyserRows, AntiquityIsOlderThanAnyYear) {
     const auto set = elementSet();
     const auto rows = ordered(set, {10, false, 0});
     EXPECT_EQ(set.columns[10].cells[static_cast<std::size_t>(rows[0])], platform::fromUtf8("αρχαιότητα"));
-    const Graph graph = makeGraph(set, categoriesOf(set), rows, {GraphKind::histogram, 10, 0}, {});
+    const Graph graph = makeGraph(set, categoriesOf(set), rows, {}, {GraphKind::histogram, 0, 10}, {});
     EXPECT_GT(graph.whole.x.from, 1000) << "but no year that a graph could show";
 }
 
@@ -111,16 +111,16 @@ TEST(AnalyserGraph, RowsWithoutANumberForTheAxesAreCounted) {
     const auto set = sample();
     const auto rows = ordered(set, {});
     Graph graph =
-        makeGraph(set, categoriesOf(set), rows, {GraphKind::scatter, 2, 3}, TemperatureUnit::kelvin);
+        makeGraph(set, categoriesOf(set), rows, {}, {GraphKind::scatter, 2, 3}, TemperatureUnit::kelvin);
     EXPECT_EQ(graph.marks.size(), 2U);
     EXPECT_EQ(graph.leftOut, 2);
     EXPECT_EQ(graph.xTitle, platform::fromUtf8("Α (K)"));
-    graph = makeGraph(set, categoriesOf(set), rows, {GraphKind::scatter, 2, 3, false, true}, {});
+    graph = makeGraph(set, categoriesOf(set), rows, {}, {GraphKind::scatter, 2, 3, false, true}, {});
     EXPECT_EQ(graph.leftOut, 3) << "a negative number has no logarithm";
     EXPECT_EQ(graph.whole.y, (AxisRange{10, 100, true}));
-    graph = makeGraph(set, categoriesOf(set), rows, {GraphKind::line, 2, 3}, TemperatureUnit::kelvin);
+    graph = makeGraph(set, categoriesOf(set), rows, {}, {GraphKind::line, 2, 3}, TemperatureUnit::kelvin);
     EXPECT_LT(graph.marks[0].x, graph.marks[1].x);
-    graph = makeGraph(set, categoriesOf(set), {}, {GraphKind::bar, 2, 3}, {});
+    graph = makeGraph(set, categoriesOf(set), {}, {}, {GraphKind::bar, 2, 3}, {});
     EXPECT_TRUE(graph.whole.valid());
 }
 
