@@ -5,7 +5,7 @@
 PACKAGES=(
     g++ cmake ninja-build ccache
     qt6-base-dev qt6-webengine-dev qt6-svg-dev qt6-charts-dev
-    nlohmann-json3-dev libpng-dev libstemmer-dev
+    nlohmann-json3-dev libpng-dev libstemmer-dev libcmark-gfm-dev libcmark-gfm-extensions-dev
     fonts-liberation librsvg2-bin ffmpeg bodr
 )
 # npm fetches a library of the molecule viewer; one that is there already will do, from wherever it came.

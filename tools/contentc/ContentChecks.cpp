@@ -25,15 +25,6 @@ void checkStartPages(const Content& content, const std::filesystem::path& root, 
     }
 }
 
-void checkTopics(const Content& content, Diagnostics& diagnostics) {
-    for (const PageSource& page : content.pages) {
-        if (page.kind != PageKind::entry || page.topic == 0) continue;
-        if (hasTopic(content, *page.section, page.topic)) continue;
-        diagnostics.error(page.topicPlace, "section '" + std::string(page.section->key) + "' has no topic " +
-                                               std::to_string(page.topic));
-    }
-}
-
 // Several list numbers may share one title list; there the entry number alone selects the title.
 void checkSharedEntries(const Content& content, Diagnostics& diagnostics) {
     std::map<std::pair<std::string_view, std::int32_t>, const PageSource*> entries;
@@ -94,7 +85,7 @@ void checkTool(const ToolUse& use, const Tools& tools, Diagnostics& diagnostics)
 
 void checkContent(const Content& content, const std::filesystem::path& root, Diagnostics& diagnostics) {
     checkStartPages(content, root, diagnostics);
-    checkTopics(content, diagnostics);
+    TermIndex::check(content.terms, diagnostics);
     checkSharedEntries(content, diagnostics);
     checkElements(content, diagnostics);
 }

@@ -8,6 +8,7 @@
 #include "tools/contentc/IndexFiles.h"
 #include "tools/contentc/PageCompiler.h"
 #include "tools/contentc/PageScaffold.h"
+#include "tools/contentc/markdown/BodyCompiler.h"
 #include "tools/contentc/source/Content.h"
 #include "tools/contentc/source/DataSetSource.h"
 
@@ -17,7 +18,9 @@ namespace {
 class ContentCompilation {
   public:
     ContentCompilation(const SourceTree& tree, Diagnostics& diagnostics)
-        : tree_(tree), diagnostics_(diagnostics), content_(readContent(tree, diagnostics)) {}
+        : tree_(tree), diagnostics_(diagnostics), content_(readContent(tree, diagnostics)) {
+        compileBodies();
+    }
 
     OutputFiles run() {
         addPages();
@@ -36,6 +39,20 @@ class ContentCompilation {
     }
 
   private:
+    /// Turns the bodies in Markdown into HTML with marks.
+    void compileBodies() {
+        const TermIndex terms(content_.terms);
+        const PageIndex pages(content_.pages);
+        const PictureSizes pictures = readPictureSizes(tree_);
+        const BodyContext context{terms, pages, pictures, {}, {}};
+        const auto compile = [&](PageSource& page) {
+            if (page.isMarkdown) compileBody(page, context, diagnostics_);
+        };
+        if (content_.startPage) compile(*content_.startPage);
+        if (content_.helpPage) compile(*content_.helpPage);
+        std::ranges::for_each(content_.pages, compile);
+    }
+
     void addPages() {
         if (content_.startPage) addPage(*content_.startPage, "a.htm", plainScaffold());
         if (content_.helpPage) addPage(*content_.helpPage, "help.htm", plainScaffold());

@@ -3,14 +3,17 @@
 #include <algorithm>
 #include <optional>
 
-#include "tools/contentc/EscapeHtml.h"
 #include "tools/contentc/MarkupCompiler.h"
 #include "tools/contentc/ToolCompiler.h"
+#include "tools/contentc/source/EscapeHtml.h"
 #include "tools/contentc/source/MoleculeLayout.h"
 
 namespace contentc {
 namespace {
 
+// The program takes an address of eight characters that ends in "a.htm" for a link to the enlarged view, and
+// looks at nothing else of it. So this one works wherever the data folder lies.
+constexpr const char* enlargedViewAddress = "a:\\a.htm";
 constexpr std::string_view videoMarker = "\x04..";
 // A small video of 320 × 240 pixels with its control strip of 18.
 constexpr std::string_view videoAttributes = "WIDTH=320 HEIGHT=258 AUTOPLAY=FALSE";
@@ -35,7 +38,9 @@ class PageCompilation {
 
     MarkValues bodyMarks() const {
         // A plain page lies in the data folder itself, so its relative addresses start there.
-        return {{"data", isPrepared() ? std::string(dataFolderMarker) : ""}};
+        MarkValues marks{{"data", isPrepared() ? std::string(dataFolderMarker) : ""}};
+        if (isPrepared()) marks["enlarge"] = enlargedViewAddress;
+        return marks;
     }
 
     MarkValues scaffoldMarks() const {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "tools/contentc/EscapeHtml.h"
+#include "tools/contentc/source/EscapeHtml.h"
 
 namespace contentc {
 namespace {

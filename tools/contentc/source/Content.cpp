@@ -1,7 +1,10 @@
 #include "tools/contentc/source/Content.h"
 
 #include <algorithm>
+#include <iterator>
 #include <tuple>
+
+#include "tools/contentc/source/PageIndex.h"
 
 namespace contentc {
 namespace {
@@ -49,9 +52,11 @@ Content readContent(const SourceTree& tree, Diagnostics& diagnostics) {
     content.startPage = readRequiredPage(tree.startPage, tree.root / "start.page", diagnostics);
     if (tree.helpPage) content.helpPage = readPlainPage(*tree.helpPage, diagnostics);
     for (const SectionFolder& folder : tree.sections) readSection(folder, content, diagnostics);
+    resolveTopics(content.pages, diagnostics);
     for (const SourceFile& file : tree.terms) {
-        if (auto term = readTerm(file, diagnostics)) content.terms.push_back(std::move(*term));
+        std::ranges::move(readTerms(file, diagnostics), std::back_inserter(content.terms));
     }
+    giveKeys(content.terms);
     if (tree.elements) {
         content.elements = readElements(*tree.elements, diagnostics);
     } else {

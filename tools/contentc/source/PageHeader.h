@@ -11,9 +11,13 @@
 
 namespace contentc {
 
-/// The `name: value` lines at the head of a page source.
+/// The `name: value` lines at the head of a page source. Each field has an English and a Greek name; here the
+/// English one counts.
 class PageHeader {
   public:
+    /// The line between header and body.
+    static constexpr std::string_view lastLine = "---";
+
     /// Removes the header from `lines`, which then hold the body. Lines that are no fields and fields named
     /// twice are reported. A missing `---` is reported too; then there is no header.
     static std::optional<PageHeader> take(const SourceFile& file, std::vector<TextLine>& lines,

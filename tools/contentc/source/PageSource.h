@@ -2,7 +2,9 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "formats/SectionTable.h"
@@ -22,6 +24,17 @@ enum class PageKind {
 
 enum class PageTemplate { page, molecule };
 
+/// A school year, and what of its book a page belongs to.
+struct ClassChapter {
+    /// The position in `schoolYears()`.
+    std::size_t year;
+    /// The number of the chapter, as written; may be empty.
+    std::string chapter;
+};
+
+/// The names of the school years in their order.
+std::span<const std::string_view> schoolYears();
+
 /// A page as its author wrote it: `name: value` lines, a line `---`, the body.
 struct PageSource {
     SourcePlace place;
@@ -31,14 +44,31 @@ struct PageSource {
     std::int32_t number = 0;
     PageKind kind = PageKind::plain;
     TextLine title;
-    /// The page id of the owning topic, for entries.
+    /// The page id of the owning topic, for entries; 0 until `resolveTopics` has found it.
     std::int32_t topic = 0;
-    SourcePlace topicPlace;
+    /// Its number or title, as written.
+    TextLine topicName;
     /// The position among the pages of its kind. Pages with the same order are sorted by number.
     std::int32_t order = 0;
     PageTemplate scaffold = PageTemplate::page;
+    /// One sentence, shown beside links to the page; may be empty.
+    TextLine summary;
+    std::vector<ClassChapter> classes;
+    /// Titles or numbers of pages: what this one builds on, what builds on it, and what else is related.
+    std::vector<TextLine> before, after, see;
+    /// Words by which the search finds the page besides those on it.
+    std::string searchWords;
+    /// When it was, for the time line; before our era negative.
+    std::optional<std::int32_t> year;
+    /// HTML with marks. Of a page in Markdown it is made later.
     std::vector<TextLine> body;
+    /// The body of a page in Markdown, in UTF-8.
+    std::vector<TextLine> markdown;
+    bool isMarkdown = false;
 };
+
+/// The kind of a page that does not tell it: by its number.
+PageKind kindByNumber(std::int32_t number, const formats::Section& section);
 
 /// Reads a page of a section. Errors are reported. Nothing when the page is too faulty to be used.
 std::optional<PageSource> readSectionPage(const SourceFile& file, const formats::Section& section,

@@ -31,6 +31,41 @@ std::string faultOf(const Utf8Character& character, std::string_view bytes) {
     return "not in code page 1253: '" + std::string(bytes) + "' (" + codePoint(character.value) + ')';
 }
 
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
+/// Calls `take(line, place)` for each line of the file.
+template <typename Take>
+void forEachLine(const SourceFile& file, Take take) {
+    std::string_view rest = file.bytes;
+    if (rest.starts_with(byteOrderMark)) rest.remove_prefix(byteOrderMark.size());
+    for (int number = 1; !rest.empty(); ++number) {
+        std::string_view line = rest.substr(0, rest.find('\n'));
+        rest.remove_prefix(std::min(rest.size(), line.size() + 1));
+        if (line.ends_with('\r')) line.remove_suffix(1);
+        take(line, file.place(number));
+    }
+}
+
+/// Whether a character has no business in a text that is to be written with entities.
+bool isForbidden(char32_t value) {
+    return value == Utf8Character::malformed || isControl(value) || isPrivate(value) || value >= 0xF0000;
+}
+
+std::string withoutForbidden(std::string_view utf8, const SourcePlace& place, Diagnostics& diagnostics) {
+    std::string kept;
+    bool reported = false;
+    for (std::size_t at = 0; at < utf8.size();) {
+        const Utf8Character character = platform::codepage::decodeUtf8(utf8, at);
+        const std::string_view bytes = utf8.substr(at, character.length);
+        const bool bad = isForbidden(character.value);
+        if (bad && !reported) diagnostics.error(place, faultOf(character, bytes));
+        reported |= bad;
+        kept.append(bad ? "?" : bytes);
+        at += character.length;
+    }
+    return kept;
+}
+
 std::string encodeLine(std::string_view utf8, const SourcePlace& place, Diagnostics& diagnostics) {
     std::string encoded;
     std::string firstFault;
@@ -50,15 +85,22 @@ std::string encodeLine(std::string_view utf8, const SourcePlace& place, Diagnost
 
 std::vector<TextLine> readLines(const SourceFile& file, Diagnostics& diagnostics) {
     std::vector<TextLine> lines;
-    std::string_view rest = file.bytes;
-    while (!rest.empty()) {
-        std::string_view line = rest.substr(0, rest.find('\n'));
-        rest.remove_prefix(std::min(rest.size(), line.size() + 1));
-        if (line.ends_with('\r')) line.remove_suffix(1);
-        const SourcePlace place = file.place(static_cast<int>(lines.size()) + 1);
+    forEachLine(file, [&](std::string_view line, const SourcePlace& place) {
         lines.push_back({encodeLine(line, place, diagnostics), place});
-    }
+    });
     return lines;
+}
+
+std::vector<TextLine> readUtf8Lines(const SourceFile& file, Diagnostics& diagnostics) {
+    std::vector<TextLine> lines;
+    forEachLine(file, [&](std::string_view line, const SourcePlace& place) {
+        lines.push_back({withoutForbidden(line, place, diagnostics), place});
+    });
+    return lines;
+}
+
+TextLine inCodePage(const TextLine& utf8, Diagnostics& diagnostics) {
+    return {encodeLine(utf8.text, utf8.place, diagnostics), utf8.place};
 }
 
 std::string_view trimmed(std::string_view text) {

@@ -22,6 +22,14 @@ struct TextLine {
 /// first on each line is reported.
 std::vector<TextLine> readLines(const SourceFile& file, Diagnostics& diagnostics);
 
+/// The lines of a UTF-8 source file as they are, without line ends and byte-order mark. Bytes that are not
+/// UTF-8, control characters and characters for private use become '?', and the first on each line is
+/// reported.
+std::vector<TextLine> readUtf8Lines(const SourceFile& file, Diagnostics& diagnostics);
+
+/// A line that `readUtf8Lines` gave, in code page 1253. A character outside of it is reported.
+TextLine inCodePage(const TextLine& utf8, Diagnostics& diagnostics);
+
 /// The text without blanks and tabs at its ends.
 std::string_view trimmed(std::string_view text);
 

@@ -166,6 +166,7 @@ class TreeReader {
                 append(sources, path);
             } else {
                 append(results, *folder / name);
+                if (&sources == &tree_.drawings) append(tree_.drawnDrawings, path);
             }
         }
     }

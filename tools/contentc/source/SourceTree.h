@@ -41,6 +41,8 @@ struct SourceTree {
     std::vector<SourceFile> tools;
     /// Drawings of which no picture has been made yet.
     std::vector<SourceFile> drawings;
+    /// Drawings whose pictures have been made. They tell how large these are shown.
+    std::vector<SourceFile> drawnDrawings;
     /// Pictures that are copied.
     std::vector<SourceFile> pictures;
     /// Descriptions of films that have not been made yet.

@@ -1,9 +1,16 @@
 #include "tools/contentc/source/TermSource.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <set>
+
+#include "platform/text/GreekLiteral.h"
+#include "tools/contentc/source/NameKey.h"
 
 namespace contentc {
 namespace {
+
+using namespace platform::literals;
 
 constexpr std::size_t keyLength = 8;
 // The program's buffers: the rest of a longer first line would become part of the definition, and a longer
@@ -29,14 +36,13 @@ void checkDefinition(const TermSource& term, Diagnostics& diagnostics) {
         diagnostics.error(term.place, "definition is missing or too short to be shown");
 }
 
-}  // namespace
-
-bool isGlossaryKey(std::string_view text) {
-    return text.size() == keyLength &&
-           std::ranges::all_of(text, [](char c) { return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9'); });
+void checkTerm(const TermSource& term, Diagnostics& diagnostics) {
+    if (term.term.size() > maxTerm)
+        diagnostics.error(term.place, "term is longer than " + std::to_string(maxTerm) + " bytes");
+    checkDefinition(term, diagnostics);
 }
 
-std::optional<TermSource> readTerm(const SourceFile& file, Diagnostics& diagnostics) {
+std::vector<TermSource> readOldTerm(const SourceFile& file, Diagnostics& diagnostics) {
     std::vector<TextLine> lines = readLines(file, diagnostics);
     if (!isGlossaryKey(file.stem())) {
         diagnostics.error(file.place(),
@@ -44,17 +50,158 @@ std::optional<TermSource> readTerm(const SourceFile& file, Diagnostics& diagnost
     }
     if (lines.empty() || trimmed(lines.front().text).empty()) {
         diagnostics.error(file.place(), "the first line must be the term");
-        return std::nullopt;
+        return {};
     }
     while (trimmed(lines.back().text).empty()) lines.pop_back();
 
-    TermSource term{file.place(), file.stem(), lines.front().text, {}};
+    TermSource term{file.place(), file.stem(), lines.front().text, {}, {}};
     for (std::size_t i = 1; i < lines.size(); ++i) term.definition.push_back(std::move(lines[i].text));
-    if (term.term.size() > maxTerm) {
-        diagnostics.error(term.place, "term is longer than " + std::to_string(maxTerm) + " bytes");
+    checkTerm(term, diagnostics);
+    return {std::move(term)};
+}
+
+/// The terms of a Markdown file. Lines of one paragraph are joined.
+class MarkdownTerms {
+  public:
+    MarkdownTerms(const SourceFile& file, Diagnostics& diagnostics)
+        : lines_(readLines(file, diagnostics)), diagnostics_(diagnostics) {}
+
+    std::vector<TermSource> read() {
+        for (const TextLine& line : lines_) {
+            const std::string_view text = trimmed(line.text);
+            if (text.starts_with("# ")) {
+                beginTerm(text.substr(2), line.place);
+            } else if (text.empty()) {
+                inParagraph_ = false;
+            } else if (terms_.empty()) {
+                diagnostics_.error(line.place, "a term begins with a line '# NAME | FORM | FORM'");
+            } else {
+                addText(text);
+            }
+        }
+        for (const TermSource& term : terms_) checkTerm(term, diagnostics_);
+        return std::move(terms_);
     }
-    checkDefinition(term, diagnostics);
-    return term;
+
+  private:
+    void beginTerm(std::string_view names, const SourcePlace& place) {
+        TermSource term{place, {}, {}, {}, {}};
+        while (!names.empty()) {
+            const std::size_t end = std::min(names.find('|'), names.size());
+            const std::string name(trimmed(names.substr(0, end)));
+            names.remove_prefix(std::min(end + 1, names.size()));
+            if (name.empty()) continue;
+            if (term.term.empty()) {
+                term.term = name;
+            } else {
+                term.forms.push_back(name);
+            }
+        }
+        if (term.term.empty()) diagnostics_.error(place, "a term without a name");
+        terms_.push_back(std::move(term));
+        inParagraph_ = false;
+    }
+
+    void addText(std::string_view text) {
+        std::vector<std::string>& lines = terms_.back().definition;
+        if (inParagraph_) {
+            lines.back().append(" ").append(text);
+        } else {
+            lines.emplace_back(text);
+        }
+        inParagraph_ = true;
+    }
+
+    std::vector<TextLine> lines_;
+    Diagnostics& diagnostics_;
+    std::vector<TermSource> terms_;
+    bool inParagraph_ = false;
+};
+
+/// A letter in Latin, or what comes closest in one letter; 0 for other characters.
+char latinLetter(char c) {
+    constexpr std::string_view greek = "αβγδεζηθικλμνξοπρστυφχψω"_gr;
+    constexpr std::string_view latin = "abgdezhuiklmnjoprstyfxcw";
+    if (const std::size_t at = greek.find(c); at != std::string_view::npos) return latin[at];
+    return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') ? c : '\0';
+}
+
+/// The first four letters of the name, so that a key can be recognised, and four signs of its hash.
+std::string keyOf(const std::string& name, std::uint32_t attempt) {
+    constexpr std::string_view signs = "0123456789abcdefghijklmnopqrstuvwxyz";
+    constexpr std::size_t half = keyLength / 2;
+    const std::string folded = nameKey(name);
+    std::string key;
+    for (const char c : folded) {
+        const char letter = latinLetter(c);
+        if (letter != '\0' && key.size() < half) key.push_back(letter);
+    }
+    key.resize(half, '0');
+    std::uint32_t hash = 2166136261U + attempt;
+    for (const char c : folded) hash = (hash ^ static_cast<unsigned char>(c)) * 16777619U;
+    constexpr auto base = static_cast<std::uint32_t>(signs.size());
+    for (; key.size() < keyLength; hash /= base) key.push_back(signs[hash % base]);
+    return key;
+}
+
+}  // namespace
+
+bool isGlossaryKey(std::string_view text) {
+    return text.size() == keyLength &&
+           std::ranges::all_of(text, [](char c) { return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9'); });
+}
+
+std::vector<TermSource> readTerms(const SourceFile& file, Diagnostics& diagnostics) {
+    if (takenExtension(file.path) == ".md") return MarkdownTerms(file, diagnostics).read();
+    return readOldTerm(file, diagnostics);
+}
+
+void giveKeys(std::vector<TermSource>& terms) {
+    std::set<std::string> taken;
+    std::vector<TermSource*> unnamed;
+    for (TermSource& term : terms) {
+        if (term.key.empty()) {
+            unnamed.push_back(&term);
+        } else {
+            taken.insert(term.key);
+        }
+    }
+    // In an order that does not depend on the files in which the terms lie.
+    std::ranges::stable_sort(unnamed, {}, [](const TermSource* term) { return nameKey(term->term); });
+    for (TermSource* term : unnamed) {
+        for (std::uint32_t attempt = 0; term->key.empty(); ++attempt) {
+            std::string key = keyOf(term->term, attempt);
+            if (taken.insert(key).second) term->key = std::move(key);
+        }
+    }
+}
+
+TermIndex::TermIndex(const std::vector<TermSource>& terms) {
+    for (const TermSource& term : terms) {
+        byName_.try_emplace(nameKey(term.term), &term);
+    }
+    for (const TermSource& term : terms) {
+        for (const std::string& form : term.forms) byName_.try_emplace(nameKey(form), &term);
+    }
+}
+
+const TermSource* TermIndex::find(std::string_view name) const {
+    const auto found = byName_.find(nameKey(name));
+    return found == byName_.end() ? nullptr : found->second;
+}
+
+void TermIndex::check(const std::vector<TermSource>& terms, Diagnostics& diagnostics) {
+    std::map<std::string, const TermSource*> named;
+    for (const TermSource& term : terms) {
+        std::vector<std::string> names = term.forms;
+        names.push_back(term.term);
+        for (const std::string& name : names) {
+            const auto [first, isNew] = named.try_emplace(nameKey(name), &term);
+            if (isNew || first->second == &term) continue;
+            diagnostics.error(term.place, "another term is called " + inQuotes(name) + " too, in " +
+                                              first->second->place.file);
+        }
+    }
 }
 
 std::string glossaryFile(const TermSource& term) {

@@ -1,4 +1,4 @@
-#include "tools/contentc/EscapeHtml.h"
+#include "tools/contentc/source/EscapeHtml.h"
 
 namespace contentc {
 

@@ -1,0 +1,129 @@
+#include <gtest/gtest.h>
+
+#include "platform/text/CodePage1253.h"
+#include "tests/tools/contentc/ContentFolder.h"
+
+namespace {
+
+/// A folder with a page in Markdown, whose lines begin at line 5.
+class MarkdownPage {
+  public:
+    MarkdownPage() {
+        content_.write("pictures/air.svg", "<svg width=\"460\" height=\"230\">");
+        content_.write("../built/air.png", "");
+        content_.write("../built/melting.webm", "");
+        content_.write("tools/quiz/face.js", "");
+        content_.write("glossary/terms.md", "# Άτομο | άτομα\nΤο πιο μικρό κομμάτι\nενός στοιχείου.\n");
+    }
+
+    bool compile(const std::string& body) {
+        content_.write("pages/uses/400010-try.md", "τίτλος: Δοκιμή\nπερίληψη: Μία.\n\n---\n" + body);
+        page_ = platform::toUtf8(content_.compiled("40\\0010"));
+        return !page_.empty();
+    }
+
+    /// The HTML of the body, in UTF-8, with LF.
+    std::string html() const {
+        const std::string begin = "πράξη</P>\r\n";
+        std::string text = page_.substr(page_.find(begin) + begin.size());
+        text.resize(text.find("</BODY>"));
+        std::erase(text, '\r');
+        return text;
+    }
+
+    const std::vector<std::string>& messages() const { return content_.messages; }
+
+  private:
+    ContentFolder content_;
+    std::string page_;
+};
+
+TEST(MarkdownBody, BecomesTheHtmlOfThePage) {
+    const struct {
+        const char* body;
+        const char* html;
+    } cases[] = {
+        {"Ένα *δύο* **τρία**\nτέσσερα\n\nπέντε  \nέξι",
+         "<P CLASS=\"lead\">Ένα <I>δύο</I> <B>τρία</B>\nτέσσερα</P>\n<P>πέντε<BR>\nέξι</P>\n"},
+        {"## Ένα $H2$\n### Δύο\n", "<H2>Ένα H<SUB>2</SUB></H2>\n<H3>Δύο</H3>\n"},
+        {"1. ένα\n2. δύο\n\n- α\n- β",
+         "<OL>\n<LI>ένα</LI>\n<LI>δύο</LI>\n</OL>\n<UL>\n<LI>α</LI>\n<LI>β</LI>\n</UL>\n"},
+        // Characters that the code page lacks, and those that would be taken for marks.
+        {"H₂O → ~ \\$ [[άτομα|Άτομο]] `$a [[b`",
+         "<P CLASS=\"lead\">H&#8322;O &#8594; &#126; $ ~Gatom4y00άτομα~G <CODE>$a &#91;[b</CODE></P>\n"},
+        {"[τα αέρια](Αέρια), [](10001), [ιστός](https://a.b/c_d_e)",
+         "<P CLASS=\"lead\"><A HREF=\"kzpage-6-410010-0.htm\">τα αέρια</A>, "
+         "<A HREF=\"kzpage-6-410010-10001.htm\">Υδρογόνο</A>, <A HREF=\"https://a.b/c_d_e\">ιστός</A></P>\n"},
+        {"$$\n2 H2 + O2 -> 2 H2O\n// καύση *αερίου*\n$$",
+         "<P CLASS=\"equation\">\n2&nbsp;H<SUB>2</SUB> + O<SUB>2</SUB> &#8594; 2&nbsp;H<SUB>2</SUB>O\n"
+         "<SMALL>καύση <I>αερίου</I></SMALL></P>\n"},
+        {"![Ο αέρας](air.svg \"Λεζάντα $N2$\"){230}{πλάι}",
+         "<DIV CLASS=\"figure side\"><IMG SRC=\"\x05..images\\air.png\" WIDTH=230 HEIGHT=115 ALT=\"Ο "
+         "αέρας\">\n"
+         "<P CLASS=\"caption\">Λεζάντα N<SUB>2</SUB></P></DIV>\n"},
+        {"Πίνακας: Οι τιμές\n\n| α | β |\n|---|---:|\n| $H2$ | -5 |",
+         "<TABLE CLASS=\"data\"><CAPTION>Οι τιμές</CAPTION>\n<THEAD><TR><TH>α</TH><TH "
+         "CLASS=\"num\">β</TH></TR></THEAD>\n"
+         "<TR><TD>H<SUB>2</SUB></TD><TD CLASS=\"num\">&#8722;5</TD></TR>\n</TABLE>\n"},
+        {"| | |\n|---|---|\n| όνομα | [[άτομα|άτομο]] |",
+         "<TABLE CLASS=\"data\">\n<TR><TH>όνομα</TH><TD>~Gatom4y00άτομα~G</TD></TR>\n</TABLE>\n"},
+        {"::: Το ήξερες\nΝαι.\n:::", "<DIV CLASS=\"fact\">\n<H3>Το ήξερες;</H3>\n<P>Ναι.</P>\n</DIV>\n"},
+        {"::: experiment Σκουριά\nΒάλε.\n\n::: caution\nΓυαλιά.\n:::\n:::",
+         "<DIV CLASS=\"experiment\">\n<H3>Πείραμα: Σκουριά</H3>\n<P>Βάλε.</P>\n<DIV CLASS=\"care\">\n"
+         "<P>Γυαλιά.</P>\n</DIV>\n</DIV>\n"},
+        {"::: ερώτηση\nΤι;\n\n---\nΑυτό.\n:::",
+         "<DETAILS CLASS=\"ask\"><SUMMARY>\n<P>Τι;</P>\n</SUMMARY>\n<DIV CLASS=\"answer\">\n<P>Αυτό.</P>\n"
+         "</DIV></DETAILS>\n"},
+        {"{{βίντεο melting \"Ο πάγος\"}}",
+         "<DIV CLASS=\"film\">\n<EMBED SRC=\"\x04..video\\melting.webm\" WIDTH=320 HEIGHT=258 "
+         "AUTOPLAY=FALSE>\n"
+         "<P CLASS=\"caption\">Ο πάγος <A HREF=\"a:\\a.htm\">Μεγέθυνση</A></P>\n</DIV>\n"},
+        {"<DIV CLASS=\"fact\"><P>&egrave; [[Άτομο]] $H2$</P></DIV>",
+         "<DIV CLASS=\"fact\"><P>&egrave; ~Gatom4y00Άτομο~G H<SUB>2</SUB></P></DIV>\n"},
+    };
+    for (const auto& [body, html] : cases) {
+        MarkdownPage page;
+        EXPECT_TRUE(page.compile(body)) << body << testing::PrintToString(page.messages());
+        EXPECT_EQ(page.html(), html) << body;
+    }
+}
+
+TEST(MarkdownBody, MistakesAreReportedByLine) {
+    const struct {
+        const char* body;
+        std::vector<std::string> messages;
+    } cases[] = {
+        {"# Ένα", {"5: headings begin with '##'; the page's title stands in its head"}},
+        {"α\n[[ηλεκτρόνιο]] [[ |άτομο]] [[α\n$a",
+         {"6: '[[' is not closed on its line", "6: a glossary link without words",
+          "6: no glossary term is called 'ηλεκτρόνιο'",
+          "7: '$' is not closed on its line; a dollar sign is written '\\$'"}},
+        {"α [β](Γάμμα) [](Νερό) $K_$",
+         {"5: formula 'K_': nothing to lower behind '_'", "5: no page is called 'Γάμμα'"}},
+        {"::: κουτί\n:::\n:::\n::: fact\nα",
+         {"5: no box is called 'κουτί'", "7: ':::' closes no box",
+          "8: the box is not closed by a line ':::'"}},
+        {"$$\nH2", {"5: the equation is not closed by a line '$$'"}},
+        {"![](none.svg)\n\n![α](air.svg){μεγάλο}",
+         {"5: no picture is named 'none.svg'",
+          "5: the picture needs words for those who do not see it: '![words](file)'",
+          "7: '{μεγάλο}' is neither the width of the picture nor '{πλάι}' or '{side}'"}},
+        {"α ![β](air.svg)", {"5: a picture stands on a line of its own"}},
+        {"::: ερώτηση\nα\n:::", {"5: the question needs a line '---' and the answer below it"}},
+        {"::: quiz\n? α\n+ β\n:::", {"6: a question needs two answers or more"}},
+        {"{{video none}}\n\n{{molecule none}}",
+         {"5: no video is named 'none'", "7: no molecule is named 'none'"}},
+    };
+    for (const auto& [body, messages] : cases) {
+        MarkdownPage page;
+        EXPECT_FALSE(page.compile(body)) << body;
+        std::vector<std::string> expected;
+        for (const std::string& message : messages) expected.push_back("pages/uses/400010-try.md:" + message);
+        std::vector<std::string> found = page.messages();
+        std::erase_if(
+            found, [](const std::string& message) { return message.find("warning") != std::string::npos; });
+        EXPECT_EQ(found, expected) << body;
+    }
+}
+
+}  // namespace

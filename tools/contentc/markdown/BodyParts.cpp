@@ -1,0 +1,277 @@
+#include "tools/contentc/markdown/BodyParts.h"
+
+#include <algorithm>
+#include <array>
+
+#include "tools/contentc/markdown/Figure.h"
+#include "tools/contentc/markdown/Formula.h"
+#include "tools/contentc/markdown/InlineWriter.h"
+#include "tools/contentc/markdown/Keyword.h"
+#include "tools/contentc/source/EscapeHtml.h"
+
+namespace contentc {
+namespace {
+
+constexpr std::string_view equationSign = "$$";
+constexpr std::string_view boxSign = ":::";
+constexpr std::string_view answerSign = "---";
+
+constexpr std::array<Keyword, 9> boxes{{{"το ήξερες", "fact"},
+                                        {"πείραμα", "experiment"},
+                                        {"προσοχή", "caution"},
+                                        {"παράδειγμα", "example"},
+                                        {"ερώτηση", "question"},
+                                        {"ερωτήσεις", "quiz"},
+                                        {"στοιχείο", "element"},
+                                        {"ένωση", "compound"},
+                                        {"υπόδειξη", "hint"}}};
+enum Box : std::size_t { fact, experiment, caution, example, question, quiz, element, compound, hint };
+
+constexpr std::array<Keyword, 3> marks{{{"βίντεο", "video"}, {"μόριο", "molecule"}, {"εργαλείο", "tool"}}};
+enum Mark : std::size_t { video, molecule, tool };
+
+bool isBlank(const TextLine& line) { return trimmed(line.text).empty(); }
+
+bool isFenceLine(const TextLine& line) {
+    const std::string_view text = trimmed(line.text);
+    return text.starts_with("```") || text.starts_with("~~~");
+}
+
+bool isBoxEnd(const TextLine& line) { return trimmed(line.text) == boxSign; }
+
+/// The index of the line that closes the box that the first line opens; the number of lines when none does.
+std::size_t boxEnd(BodyParts::Lines lines) {
+    int depth = 0;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (isBoxEnd(lines[i])) {
+            if (--depth == 0) return i;
+        } else if (lines[i].text.starts_with(boxSign)) {
+            ++depth;
+        }
+    }
+    return lines.size();
+}
+
+/// What stands between `{{` and `}}` on a line that holds nothing else; empty for other lines.
+std::string_view markInside(std::string_view text) {
+    if (!text.starts_with("{{") || !text.ends_with("}}")) return {};
+    return trimmed(text.substr(2, text.size() - 4));
+}
+
+std::string titleOf(std::string_view kind, std::string_view title) {
+    return std::string(kind).append(title.empty() ? "" : ": ").append(title);
+}
+
+bool beginsPart(std::string_view line) {
+    const std::string_view text = trimmed(line);
+    return text == equationSign || text.starts_with(boxSign) || readFigure(text) ||
+           findKeyword(marks, markInside(text)).index < marks.size();
+}
+
+}  // namespace
+
+void BodyParts::write(Lines lines, FirstParagraph first) {
+    std::vector<TextLine> markdown;
+    bool isCode = false;
+    while (!lines.empty()) {
+        if (isFenceLine(lines.front())) isCode = !isCode;
+        if (isCode || !beginsPart(lines.front().text)) {
+            markdown.push_back(lines.front());
+            lines = lines.subspan(1);
+            continue;
+        }
+        first = writeMarkdown(markdown, first);
+        lines = lines.subspan(std::min(writePart(lines), lines.size()));
+    }
+    writeMarkdown(markdown, first);
+}
+
+FirstParagraph BodyParts::writeMarkdown(std::vector<TextLine>& markdown, FirstParagraph first) {
+    const bool hasText = !std::ranges::all_of(markdown, isBlank);
+    if (hasText) writeBlocks(markdown, first, context_, page_, lines_, diagnostics_);
+    markdown.clear();
+    return hasText ? FirstParagraph::plain : first;
+}
+
+std::size_t BodyParts::writePart(Lines lines) {
+    const TextLine& line = lines.front();
+    const std::string_view text = trimmed(line.text);
+    if (text == equationSign) return writeEquation(lines);
+    if (text.starts_with(boxSign)) return writeBox(lines);
+    if (const auto figure = readFigure(text)) {
+        writeFigure(*figure, line.place);
+    } else {
+        writeMark(markInside(text), line.place);
+    }
+    return 1;
+}
+
+std::size_t BodyParts::writeEquation(Lines lines) {
+    std::size_t end = 1;
+    while (end < lines.size() && trimmed(lines[end].text) != equationSign) ++end;
+    if (end == lines.size()) fail(lines.front().place, "the equation is not closed by a line '$$'");
+    lines_.beginLine(lines.front().place);
+    lines_.add("<P CLASS=\"equation\">");
+    bool needsBreak = false;
+    for (const TextLine& line : lines.subspan(1, end - 1)) {
+        const std::string_view text = trimmed(line.text);
+        if (text.empty()) continue;
+        const bool isNote = text.starts_with("//");
+        if (needsBreak && !isNote) lines_.add("<BR>");
+        lines_.beginLine(line.place);
+        lines_.add(isNote ? "<SMALL>" + inlineOf(trimmed(text.substr(2)), line.place) + "</SMALL>"
+                          : formulaOf(text, line.place));
+        needsBreak = !isNote;
+    }
+    lines_.add("</P>");
+    lines_.endLine();
+    return end + 1;
+}
+
+std::string BodyParts::formulaOf(std::string_view text, const SourcePlace& place) {
+    Formula formula = compileFormula(text);
+    if (!formula.fault.empty()) fail(place, "formula '" + std::string(text) + "': " + formula.fault);
+    return std::move(formula.html);
+}
+
+std::size_t BodyParts::writeBox(Lines lines) {
+    const SourcePlace& place = lines.front().place;
+    const std::size_t end = boxEnd(lines);
+    if (isBoxEnd(lines.front())) {
+        fail(place, "':::' closes no box");
+        return 1;
+    }
+    if (end == lines.size()) fail(place, "the box is not closed by a line ':::'");
+    const std::string_view words = trimmed(trimmed(lines.front().text).substr(boxSign.size()));
+    writeBoxOf(words, lines.subspan(1, end - 1), place);
+    return end + 1;
+}
+
+void BodyParts::writeBoxOf(std::string_view words, Lines inner, const SourcePlace& place) {
+    const auto [box, rest] = findKeyword(boxes, words);
+    switch (box) {
+        case fact:
+            return writeTitledBox("fact", rest.empty() ? "Το ήξερες;" : std::string(rest), inner, place);
+        case experiment:
+            return writeTitledBox("experiment", titleOf("Πείραμα", rest), inner, place);
+        case example:
+            return writeTitledBox("example", titleOf("Παράδειγμα", rest), inner, place);
+        case caution:
+            return writeTitledBox("care", std::string(rest), inner, place);
+        case hint:
+            return writeTitledBox("hint", std::string(rest), inner, place);
+        case question:
+            return writeQuestion(inner, place);
+        case quiz:
+            return writeQuiz(inner, place);
+        case element:
+            return writeCard(context_.elementCard, std::string(rest), inner, place);
+        case compound:
+            return writeCard(context_.compoundCard, std::string(rest), inner, place);
+        default:
+            fail(place, "no box is called '" + std::string(words) + '\'');
+            write(inner, FirstParagraph::plain);
+    }
+}
+
+void BodyParts::writeTitledBox(std::string_view style, const std::string& title, Lines inner,
+                               const SourcePlace& place) {
+    lines_.addLine("<DIV CLASS=\"" + std::string(style) + "\">", place);
+    if (!title.empty()) lines_.addLine("<H3>" + inlineOf(title, place) + "</H3>", place);
+    write(inner, FirstParagraph::plain);
+    lines_.addLine("</DIV>", place);
+}
+
+void BodyParts::writeQuestion(Lines inner, const SourcePlace& place) {
+    const auto isDivider = [](const TextLine& line) { return trimmed(line.text) == answerSign; };
+    const auto divider = std::ranges::find_if(inner, isDivider);
+    const auto asked = static_cast<std::size_t>(divider - inner.begin());
+    if (divider == inner.end()) fail(place, "the question needs a line '---' and the answer below it");
+    lines_.addLine("<DETAILS CLASS=\"ask\"><SUMMARY>", place);
+    write(inner.first(asked), FirstParagraph::plain);
+    lines_.addLine("</SUMMARY>", place);
+    lines_.addLine("<DIV CLASS=\"answer\">", place);
+    if (divider != inner.end()) write(inner.subspan(asked + 1), FirstParagraph::plain);
+    lines_.addLine("</DIV></DETAILS>", place);
+}
+
+void BodyParts::writeQuiz(Lines inner, const SourcePlace& place) {
+    lines_.addLine("{{tool quiz}}", place);
+    for (const TextLine& line : inner) {
+        const std::string_view text = trimmed(line.text);
+        if (text.empty()) continue;
+        lines_.addLine(std::string(text.substr(0, 1)) + ' ' + inlineOf(trimmed(text.substr(1)), line.place),
+                       line.place);
+    }
+    lines_.addLine("{{end}}", place);
+}
+
+void BodyParts::writeCard(const CardMaker& maker, const std::string& name, Lines inner,
+                          const SourcePlace& place) {
+    std::vector<CardRow> rows;
+    for (const TextLine& line : inner) {
+        if (isBlank(line)) continue;
+        const std::size_t colon = line.text.find(':');
+        if (colon == std::string::npos) {
+            fail(line.place, "not a row 'name: value' of the card");
+            continue;
+        }
+        rows.push_back({inlineOf(trimmed(line.text.substr(0, colon)), line.place),
+                        inlineOf(trimmed(line.text.substr(colon + 1)), line.place)});
+    }
+    if (maker) lines_.addLine(maker(name, rows, place, diagnostics_), place);
+}
+
+void BodyParts::writeFigure(const FigureLine& figure, const SourcePlace& place) {
+    if (!figure.unknown.empty())
+        fail(place,
+             "'{" + figure.unknown + "}' is neither the width of the picture nor '{πλάι}' or '{side}'");
+    if (figure.alternative.empty())
+        fail(place, "the picture needs words for those who do not see it: '![words](file)'");
+    const auto size = sizeOf(figure, context_.pictures);
+    if (!size) return fail(place, "no picture is named '" + figure.file + '\'');
+    std::string html = figure.isBeside ? "<DIV CLASS=\"figure side\">" : "<DIV CLASS=\"figure\">";
+    html += "<IMG SRC=\"{{data}}images\\" + shownPicture(figure.file) + '"';
+    if (size->width > 0 && size->height > 0)
+        html += " WIDTH=" + std::to_string(size->width) + " HEIGHT=" + std::to_string(size->height);
+    html += " ALT=\"" + escapeHtml(figure.alternative) + "\">";
+    lines_.addLine(html, place);
+    const std::string caption = inlineOf(figure.caption, place);
+    lines_.addLine((caption.empty() ? "" : "<P CLASS=\"caption\">" + caption + "</P>") + "</DIV>", place);
+}
+
+void BodyParts::writeMark(std::string_view words, const SourcePlace& place) {
+    const auto [mark, rest] = findKeyword(marks, words);
+    switch (mark) {
+        case video:
+            return writeVideo(rest, place);
+        case molecule:
+            hasMolecule_ = true;
+            return lines_.addLine("{{molecule " + std::string(rest) + "}}", place);
+        default:
+            lines_.addLine("{{tool " + std::string(rest) + "}}", place);
+    }
+}
+
+void BodyParts::writeVideo(std::string_view words, const SourcePlace& place) {
+    const std::size_t quote = std::min(words.find('"'), words.size());
+    std::string_view caption = words.substr(quote);
+    if (caption.size() > 1 && caption.ends_with('"')) {
+        caption = caption.substr(1, caption.size() - 2);
+    } else if (!caption.empty()) {
+        fail(place, "the caption of the film has no '\"' at its end");
+    }
+    lines_.addLine("<DIV CLASS=\"film\">", place);
+    lines_.addLine("{{video " + std::string(trimmed(words.substr(0, quote))) + "}}", place);
+    const std::string text = inlineOf(caption, place);
+    lines_.addLine("<P CLASS=\"caption\">" + text + (text.empty() ? "" : " ") +
+                       "<A HREF=\"{{enlarge}}\">Μεγέθυνση</A></P>",
+                   place);
+    lines_.addLine("</DIV>", place);
+}
+
+std::string BodyParts::inlineOf(std::string_view text, const SourcePlace& place) {
+    return inlineHtml({std::string(text), place}, context_, page_, diagnostics_);
+}
+
+}  // namespace contentc

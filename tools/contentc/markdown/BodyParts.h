@@ -1,0 +1,53 @@
+#pragma once
+
+#include <span>
+
+#include "tools/contentc/markdown/BlockWriter.h"
+#include "tools/contentc/markdown/Figure.h"
+
+namespace contentc {
+
+/// Goes through the lines of a body, writes what stands on lines of its own (boxes, equations, pictures,
+/// `{{…}}`), and leaves the rest to Markdown.
+class BodyParts {
+  public:
+    BodyParts(const BodyContext& context, const PageSource& page, HtmlLines& lines, Diagnostics& diagnostics)
+        : context_(context), page_(page), lines_(lines), diagnostics_(diagnostics) {}
+
+    using Lines = std::span<const TextLine>;
+
+    void write(Lines lines, FirstParagraph first);
+
+    /// Whether a molecule has been written, for which the page needs a scaffold of its own.
+    bool hasMolecule() const { return hasMolecule_; }
+
+  private:
+    /// The result says how the next paragraph is to be written.
+    FirstParagraph writeMarkdown(std::vector<TextLine>& markdown, FirstParagraph first);
+    /// Writes the part that begins with the first line; the result is the number of its lines.
+    std::size_t writePart(Lines lines);
+    std::size_t writeEquation(Lines lines);
+    std::size_t writeBox(Lines lines);
+    void writeBoxOf(std::string_view words, Lines inner, const SourcePlace& place);
+    void writeTitledBox(std::string_view style, const std::string& title, Lines inner,
+                        const SourcePlace& place);
+    void writeQuestion(Lines inner, const SourcePlace& place);
+    void writeQuiz(Lines inner, const SourcePlace& place);
+    void writeCard(const CardMaker& maker, const std::string& name, Lines inner, const SourcePlace& place);
+    void writeFigure(const FigureLine& figure, const SourcePlace& place);
+    void writeMark(std::string_view words, const SourcePlace& place);
+    void writeVideo(std::string_view words, const SourcePlace& place);
+    std::string inlineOf(std::string_view text, const SourcePlace& place);
+    std::string formulaOf(std::string_view text, const SourcePlace& place);
+    void fail(const SourcePlace& place, std::string message) {
+        diagnostics_.error(place, std::move(message));
+    }
+
+    const BodyContext& context_;
+    const PageSource& page_;
+    HtmlLines& lines_;
+    Diagnostics& diagnostics_;
+    bool hasMolecule_ = false;
+};
+
+}  // namespace contentc

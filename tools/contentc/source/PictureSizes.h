@@ -1,0 +1,31 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "tools/contentc/source/SourceTree.h"
+
+namespace contentc {
+
+/// The size of a picture as it is shown, in pixels.
+struct PictureSize {
+    int width = 0;
+    int height = 0;
+
+    bool operator==(const PictureSize&) const = default;
+};
+
+/// The pictures of the sources by file name, such as `ph-scale.svg`. The size of one that cannot be read is 0
+/// × 0.
+using PictureSizes = std::map<std::string, PictureSize, std::less<>>;
+
+/// The size that a drawing (SVG) names, or that a PNG or JPEG file has, by the file's bytes. Nothing when
+/// they tell none.
+std::optional<PictureSize> pictureSize(std::string_view bytes);
+
+PictureSizes readPictureSizes(const SourceTree& tree);
+
+}  // namespace contentc
