@@ -35,6 +35,8 @@ void BrowserPolicy::setAllowedFolders(const std::vector<std::string>& folders) {
     policy_->setAllowedFolders(folders);
 }
 
+const std::vector<std::string>& BrowserPolicy::allowedFolders() const { return policy_->allowedFolders(); }
+
 void BrowserPolicy::setAllowedHosts(const std::vector<std::string>& hosts) {
     policy_->setAllowedHosts(hosts);
     letEngineFind(hosts);

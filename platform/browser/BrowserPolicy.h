@@ -19,6 +19,8 @@ class BrowserPolicy {
     /// See RequestPolicy::setAllowedFolders.
     void setAllowedFolders(const std::vector<std::string>& folders);
 
+    const std::vector<std::string>& allowedFolders() const;
+
     /// See RequestPolicy::setAllowedHosts. To be called before the first browser is made, since the engine
     /// finds no other host from then on.
     void setAllowedHosts(const std::vector<std::string>& hosts);

@@ -55,10 +55,10 @@ bool isOnline(const QUrl& url) {
     return url.scheme() == QLatin1StringView("http") || url.scheme() == QLatin1StringView("https");
 }
 
-QUrl urlOfAddress(std::string_view address) {
+QUrl urlOfAddress(std::string_view address, std::size_t folderLength) {
     if (!isDosPath(address))
         return QUrl::fromEncoded(QByteArray::fromStdString(toUtf8(address)), QUrl::TolerantMode);
-    const std::size_t hash = std::min(address.find('#'), address.size());
+    const std::size_t hash = std::min(address.find('#', folderLength), address.size());
     QUrl url = driveUrl(address[0], escaped(address.substr(2, hash - 2)));
     if (hash < address.size()) {
         url.setFragment(QString::fromStdString(toUtf8(address.substr(hash + 1))), QUrl::TolerantMode);

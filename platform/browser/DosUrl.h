@@ -18,8 +18,9 @@ bool isDriveUrl(const QUrl& url);
 bool isOnline(const QUrl& url);
 
 /// The URL of an address in code page 1253: a DOS path, whose part from `#` on is the fragment, or any
-/// other URL text. Forward slashes, everything escaped that would not be part of the path.
-QUrl urlOfAddress(std::string_view address);
+/// other URL text. Forward slashes, everything escaped that would not be part of the path. A `#` within the
+/// first `folderLength` bytes belongs to the name of a folder.
+QUrl urlOfAddress(std::string_view address, std::size_t folderLength = 0);
 
 /// A drive URL with forward slashes, which are its path's only form here; others stay as they are.
 QUrl normalisedUrl(const QUrl& url);

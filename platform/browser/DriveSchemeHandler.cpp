@@ -9,6 +9,7 @@
 
 #include "platform/browser/BrowserPolicy.h"
 #include "platform/browser/DosUrl.h"
+#include "platform/browser/FolderAddresses.h"
 #include "platform/machine/Machine.h"
 #include "platform/plugins/FileType.h"
 #include "platform/plugins/FrameAnswer.h"
@@ -19,6 +20,8 @@ namespace platform {
 namespace {
 
 constexpr qint64 headLength = 1024;
+/// The program prepares none that is longer.
+constexpr qint64 maxPageLength = qint64{64} << 20;
 
 /// Hands the opened device over to the request, which reads from it until it ends.
 void reply(QWebEngineUrlRequestJob* job, const QByteArray& type, std::unique_ptr<QIODevice> device) {
@@ -59,9 +62,20 @@ bool isFrame(QWebEngineUrlRequestJob& job) {
     return job.requestHeaders().value(DriveSchemeHandler::frameHeader) == "1";
 }
 
+/// The page as the engine is to read it, see FolderAddresses.h.
+std::unique_ptr<QIODevice> withEscapedFolders(std::unique_ptr<QIODevice> page) {
+    const auto& folders = BrowserPolicy::instance().allowedFolders();
+    if (!needEscapes(folders)) return page;
+    auto escaped = std::make_unique<QBuffer>();
+    escaped->setData(
+        QByteArray::fromStdString(escapeFolders(page->read(maxPageLength).toStdString(), folders)));
+    return openForReading(std::move(escaped));
+}
+
 void replyFile(QWebEngineUrlRequestJob* job, const std::string& dosPath, const FileHandle& handle) {
-    auto file = deviceOf(handle);
+    std::unique_ptr<QIODevice> file = deviceOf(handle);
     const QByteArray type = contentType(dosPath, *file);
+    if (type.startsWith("text/html")) file = withEscapedFolders(std::move(file));
     reply(job, type, std::move(file));
 }
 

@@ -32,6 +32,8 @@ class RequestPolicy {
     /// The folders (DOS paths, code page 1253) that files may come from. None at first.
     void setAllowedFolders(std::vector<std::string> folders) { folders_ = std::move(folders); }
 
+    const std::vector<std::string>& allowedFolders() const { return folders_; }
+
     /// The hosts (names in small letters) that http and https may reach. None at first.
     void setAllowedHosts(std::vector<std::string> hosts) { hosts_ = std::move(hosts); }
 

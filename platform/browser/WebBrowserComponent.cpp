@@ -7,6 +7,7 @@
 
 #include "platform/browser/BrowserPolicy.h"
 #include "platform/browser/DosUrl.h"
+#include "platform/browser/FolderAddresses.h"
 #include "platform/browser/LinkClick.h"
 #include "platform/browser/PagePrinter.h"
 #include "platform/browser/PageQuestions.h"
@@ -110,7 +111,8 @@ void WebBrowserComponent::navigate(const std::string& address, const Variant& fl
                                    const Variant&, const Variant&) {
     const auto* number = flags.get<std::int32_t>();
     record(TraceNavigate{controlId(), address, number ? *number : 0});
-    const QUrl url = normalisedUrl(urlOfAddress(address));
+    const QUrl url = normalisedUrl(
+        urlOfAddress(address, folderLength(address, BrowserPolicy::instance().allowedFolders())));
     if (!passes({RequestKind::program, {}, url})) return;
     view_->presses().forget();
     // Asked only now: the page may have been made while a handler showed a message.

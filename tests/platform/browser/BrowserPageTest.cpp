@@ -1,5 +1,6 @@
 #include <QTest>
 
+#include "platform/browser/BrowserPolicy.h"
 #include "platform/browser/WebBrowserComponent.h"
 #include "platform/printing/PrintJob.h"
 #include "tests/support/TestFolder.h"
@@ -39,6 +40,31 @@ TEST_F(BrowserMachine, ShowsAPreparedPageWithItsPicturesAndStyle) {
     ASSERT_TRUE(click("αρχείο"));
     EXPECT_EQ(url(), "D:\\Αρχείο 1.htm");
     EXPECT_EQ(title() + ' ' + text(), "Αρχείο ώς");
+}
+
+// The redirect page, the page, its style sheet, picture and link, all by the paths of the two folders.
+TEST_F(BrowserMachine, ShowsPagesWhoseFoldersHaveNamesWithAMeaningInAddresses) {
+    for (const std::string folder : {"Α#1 %20", "a?b", "R&amp;D ' 100%41"}) {
+        SCOPED_TRACE(folder);
+        const std::string data = "D:\\" + folder + "\\";
+        const std::string cache = data + "cache#\\";
+        BrowserPolicy::instance().setAllowedFolders({cp1253(data), cp1253(cache)});
+        write(data + "style\\a.css", "H1 { color: #0000ff; }");
+        writePicture(data + "x.gif", 60, 40, Qt::red);
+        write(data + "a.htm", "<TITLE>a</TITLE>α");
+        write(cache + "redirect.htm", "<META HTTP-EQUIV=\"Refresh\" CONTENT=\"0; URL=" + cache + "1.htm\">");
+        write(cache + "1.htm", page1253 + "<TITLE>1</TITLE><LINK REL=\"stylesheet\" HREF=\"" + data +
+                                   "style\\a.css\"></HEAD><BODY><H1>Δεσμοί</H1><IMG SRC=\"" + data +
+                                   "X.GIF\"><A HREF=\"" + data + "a.htm\">αρχή</A></BODY>");
+        open(cache + "redirect.htm", 14);
+        ASSERT_TRUE(runUntil([this] { return title() == "1"; }));
+        waitForPage();
+        EXPECT_EQ(url(), cache + "1.htm");
+        EXPECT_GT(count({0, 0, 640, 80}, Qt::blue), 100);
+        EXPECT_EQ(count({0, 0, 640, 480}, Qt::red), 60 * 40);
+        ASSERT_TRUE(click("αρχή"));
+        EXPECT_EQ(url() + ' ' + text(), data + "a.htm α");
+    }
 }
 
 TEST_F(BrowserMachine, StartsItsEngineOnceTheWindowIsSeenOrAfterAWhile) {

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// Addresses that begin with the path of an allowed folder. Its name is text in them: a `#`, `?` or `%` there
+/// means nothing else, as it would in a URL.
+namespace platform {
+
+/// The length of the longest of the folders (DOS paths that end with a backslash) that the address begins
+/// with, in any letter case; 0 for none.
+std::size_t folderLength(std::string_view address, const std::vector<std::string>& folders);
+
+/// Whether any folder has a character in its name that addresses in pages must escape.
+bool needEscapes(const std::vector<std::string>& folders);
+
+/// The text of a page in which the folders at the beginning of addresses are escaped. Each is found as it
+/// stands, behind a quote, an equals sign or a parenthesis.
+std::string escapeFolders(std::string page, std::vector<std::string> folders);
+
+}  // namespace platform
