@@ -71,10 +71,10 @@ std::optional<QFont> fittingFont(const QString& words, int width, int pixels, in
         return QFontMetrics(tried).horizontalAdvance(words) <= width;
     };
     for (int size = pixels; size >= minPixels; --size) {
-        if (const QFont usual = font(size, weight); fits(usual)) return usual;
+        if (QFont usual = font(size, weight); fits(usual)) return usual;
         // One pixel smaller is better than narrowed.
         if (size > minPixels && fits(font(size - 1, weight))) return font(size - 1, weight);
-        if (const QFont narrow = narrowed(font(size, weight)); fits(narrow)) return narrow;
+        if (QFont narrow = narrowed(font(size, weight)); fits(narrow)) return narrow;
     }
     return std::nullopt;
 }

@@ -54,7 +54,7 @@ ViewStrip::ViewStrip(TextFitter& fitter, const std::function<void(TableView)>& c
     : QWidget(parent) {
     setAccessibleName(QStringLiteral("Προβολές"));
     for (int code = 0; code < viewCount; ++code) {
-        const TableView view = *viewOfCode(code);
+        const auto view = static_cast<TableView>(code);
         auto* button = &platform::makeQtChild<ViewButton>(view, fitter, this);
         connect(button, &QAbstractButton::clicked, this, [chosen, view] { chosen(view); });
         buttons_[static_cast<std::size_t>(code)] = button;
@@ -76,11 +76,11 @@ void ViewStrip::place(const QRect& area, int rows) {
 
 void ViewStrip::placeRow(const QRect& area, int first, int end) {
     int wanted = 0;
-    for (int code = first; code < end; ++code) wanted += wantedWidth(*viewOfCode(code));
+    for (int code = first; code < end; ++code) wanted += wantedWidth(static_cast<TableView>(code));
     int before = 0;
     for (int code = first; code < end; ++code) {
         const int left = area.width() * before / wanted;
-        before += wantedWidth(*viewOfCode(code));
+        before += wantedWidth(static_cast<TableView>(code));
         const int right = area.width() * before / wanted;
         buttons_[static_cast<std::size_t>(code)]->setGeometry(area.left() + left, area.top(), right - left,
                                                               area.height());

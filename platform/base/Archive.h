@@ -61,9 +61,7 @@ class CArchive {
     template <class T>
     void exchange(T& value) {
         static_assert(std::is_integral_v<T> || std::is_same_v<T, std::byte>);
-        using Bits =
-            std::make_unsigned_t<typename std::conditional_t<std::is_integral_v<T>, std::type_identity<T>,
-                                                             std::type_identity<unsigned char>>::type>;
+        using Bits = std::make_unsigned_t<std::conditional_t<std::is_integral_v<T>, T, unsigned char>>;
         if (storing_) {
             store(static_cast<Bits>(value), sizeof(T));
         } else {

@@ -43,7 +43,8 @@ void CBMBrowse::Serialize(CArchive& archive) { archive.Exchange(pageId, itemCode
 
 std::unique_ptr<CBookmark> CBMBrowse::Renamed(std::string newName) const {
     auto record = named<CBMBrowse>(std::move(newName));
-    static_cast<PageAddress&>(*record) = *this;
+    const PageAddress& place = *this;
+    static_cast<PageAddress&>(*record) = place;
     return record;
 }
 
@@ -73,7 +74,8 @@ void CBMDataAn::exchangeBlocks(CArchive& archive) {
 
 std::unique_ptr<CBookmark> CBMDataAn::Renamed(std::string newName) const {
     auto record = named<CBMDataAn>(std::move(newName));
-    static_cast<AnalyserState&>(*record) = *this;
+    const AnalyserState& state = *this;
+    static_cast<AnalyserState&>(*record) = state;
     return record;
 }
 

@@ -34,6 +34,7 @@ formats::BrowseIndex BrowseFolder::readIndex() const {
 
 formats::BrowseIndex BrowseFolder::readTitleFiles() const {
     std::vector<std::string> images;
+    images.reserve(formats::sectionTable().size());
     for (const formats::Section& section : formats::sectionTable())
         images.push_back(readTitleFile(section.key));
     std::vector<formats::SectionTitleFile> titleFiles;

@@ -109,7 +109,7 @@ std::string BrowseSelection::itemTitle(std::int32_t itemCode) const {
 
 const BrowseEntry* BrowseSelection::entryOf(std::int32_t itemCode) const {
     if (const BrowseSection* section = currentSection()) {
-        if (const auto row = rowOfEntry(*section, itemCode))
+        if (const auto row = rowOfEntry(*section, itemCode); row && row->entry)
             return &section->topics[row->topic].entries[*row->entry];
     }
     const auto place = formats::findEntry(index_, itemCode);
