@@ -43,8 +43,9 @@ class ContentCompilation {
     void compileBodies() {
         const TermIndex terms(content_.terms);
         const PageIndex pages(content_.pages);
+        const PageRelations relations(content_, pages, diagnostics_);
         const PictureSizes pictures = readPictureSizes(tree_);
-        const BodyContext context{terms, pages, pictures, {}, {}};
+        const BodyContext context{terms, pages, pictures, {}, {}, content_, relations};
         const auto compile = [&](PageSource& page) {
             if (page.isMarkdown) compileBody(page, context, diagnostics_);
         };

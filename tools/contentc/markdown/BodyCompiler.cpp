@@ -4,6 +4,21 @@
 #include "tools/contentc/markdown/Utf8.h"
 
 namespace contentc {
+namespace {
+
+/// Adds the lists that the author has not put into the text, and the foot.
+void addLists(const PageSource& page, const BodyContext& context, const BodyParts& parts, HtmlLines& lines) {
+    const auto add = [&](const HtmlList& list) {
+        for (const std::string& line : list) lines.addLine(line, page.place);
+    };
+    if (page.kind == PageKind::start && !parts.hasTopicList())
+        add(topicList(context.content, page, ListHeading::own));
+    if (page.kind != PageKind::entry && !parts.hasEntryList())
+        add(entryList(context.content, page, ListHeading::own));
+    add(pageFoot(page, context.relations.of(page)));
+}
+
+}  // namespace
 
 void compileBody(PageSource& page, const BodyContext& context, Diagnostics& diagnostics) {
     const std::vector<TextLine> markdown = page.markdown;
@@ -11,6 +26,7 @@ void compileBody(PageSource& page, const BodyContext& context, Diagnostics& diag
     BodyParts parts(context, page, lines, diagnostics);
     const bool hasLead = page.kind != PageKind::plain;
     parts.write(markdown, hasLead ? FirstParagraph::lead : FirstParagraph::plain);
+    if (page.section) addLists(page, context, parts, lines);
     for (const TextLine& line : lines.take()) page.body.push_back(htmlInCodePage(line));
     if (parts.hasMolecule()) page.scaffold = PageTemplate::molecule;
 }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "tools/contentc/cards/CardTable.h"
+#include "tools/contentc/markdown/PageRelations.h"
 #include "tools/contentc/source/PageIndex.h"
 #include "tools/contentc/source/PictureSizes.h"
 #include "tools/contentc/source/TermSource.h"
@@ -23,6 +24,8 @@ struct BodyContext {
     const PictureSizes& pictures;
     CardMaker elementCard;
     CardMaker compoundCard;
+    const Content& content;
+    const PageRelations& relations;
 };
 
 }  // namespace contentc

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/text/CodePage1253.h"
 #include "tools/contentc/markdown/Figure.h"
 #include "tools/contentc/markdown/Formula.h"
 #include "tools/contentc/markdown/InlineWriter.h"
@@ -27,8 +28,14 @@ constexpr std::array<Keyword, 9> boxes{{{"το ήξερες", "fact"},
                                         {"υπόδειξη", "hint"}}};
 enum Box : std::size_t { fact, experiment, caution, example, question, quiz, element, compound, hint };
 
-constexpr std::array<Keyword, 3> marks{{{"βίντεο", "video"}, {"μόριο", "molecule"}, {"εργαλείο", "tool"}}};
-enum Mark : std::size_t { video, molecule, tool };
+constexpr std::array<Keyword, 7> marks{{{"βίντεο", "video"},
+                                        {"μόριο", "molecule"},
+                                        {"εργαλείο", "tool"},
+                                        {"περιεχόμενα", "contents"},
+                                        {"λήμματα", "entries"},
+                                        {"τάξη", "class"},
+                                        {"χρονολόγιο", "timeline"}}};
+enum Mark : std::size_t { video, molecule, tool, contents, entries, schoolClass, timeline };
 
 bool isBlank(const TextLine& line) { return trimmed(line.text).empty(); }
 
@@ -242,15 +249,37 @@ void BodyParts::writeFigure(const FigureLine& figure, const SourcePlace& place) 
 
 void BodyParts::writeMark(std::string_view words, const SourcePlace& place) {
     const auto [mark, rest] = findKeyword(marks, words);
+    if (mark >= contents && !page_.section)
+        return fail(place, "a list of pages works only on a page of a section");
     switch (mark) {
         case video:
             return writeVideo(rest, place);
         case molecule:
             hasMolecule_ = true;
             return lines_.addLine("{{molecule " + std::string(rest) + "}}", place);
+        case contents:
+            hasTopicList_ = true;
+            return writeList(topicList(context_.content, page_, ListHeading::none), place);
+        case entries:
+            hasEntryList_ = true;
+            return writeList(entryList(context_.content, page_, ListHeading::none), place);
+        case schoolClass:
+            return writeSchoolYear(rest, place);
+        case timeline:
+            return writeList(timeLine(context_.content), place);
         default:
             lines_.addLine("{{tool " + std::string(rest) + "}}", place);
     }
+}
+
+void BodyParts::writeList(const HtmlList& list, const SourcePlace& place) {
+    for (const std::string& line : list) lines_.addLine(line, place);
+}
+
+void BodyParts::writeSchoolYear(std::string_view year, const SourcePlace& place) {
+    if (const auto found = schoolYearNamed(platform::fromUtf8(year)))
+        return writeList(schoolYearList(context_.content, found->year), place);
+    fail(place, "no school year: '" + std::string(year) + '\'');
 }
 
 void BodyParts::writeVideo(std::string_view words, const SourcePlace& place) {

@@ -4,6 +4,7 @@
 
 #include "tools/contentc/markdown/BlockWriter.h"
 #include "tools/contentc/markdown/Figure.h"
+#include "tools/contentc/markdown/PageLists.h"
 
 namespace contentc {
 
@@ -17,6 +18,10 @@ class BodyParts {
     using Lines = std::span<const TextLine>;
 
     void write(Lines lines, FirstParagraph first);
+
+    /// Whether the author has put the list of topics or of entries into the text.
+    bool hasTopicList() const { return hasTopicList_; }
+    bool hasEntryList() const { return hasEntryList_; }
 
     /// Whether a molecule has been written, for which the page needs a scaffold of its own.
     bool hasMolecule() const { return hasMolecule_; }
@@ -36,6 +41,8 @@ class BodyParts {
     void writeCard(const CardMaker& maker, const std::string& name, Lines inner, const SourcePlace& place);
     void writeFigure(const FigureLine& figure, const SourcePlace& place);
     void writeMark(std::string_view words, const SourcePlace& place);
+    void writeList(const HtmlList& list, const SourcePlace& place);
+    void writeSchoolYear(std::string_view year, const SourcePlace& place);
     void writeVideo(std::string_view words, const SourcePlace& place);
     std::string inlineOf(std::string_view text, const SourcePlace& place);
     std::string formulaOf(std::string_view text, const SourcePlace& place);
@@ -48,6 +55,8 @@ class BodyParts {
     HtmlLines& lines_;
     Diagnostics& diagnostics_;
     bool hasMolecule_ = false;
+    bool hasTopicList_ = false;
+    bool hasEntryList_ = false;
 };
 
 }  // namespace contentc

@@ -20,17 +20,21 @@ std::string addressOf(const PageSource& page) {
         {page.section->code, isEntry ? page.topic : page.number, isEntry ? page.number : 0});
 }
 
+const PageSource* findPage(const TextLine& name, const PageIndex& pages, const PageSource& from,
+                           Diagnostics& diagnostics) {
+    const PageIndex::Found found = pages.find(platform::fromUtf8(name.text), from);
+    if (!found.page) diagnostics.error(name.place, "no page is called '" + name.text + '\'');
+    if (found.isAmbiguous)
+        diagnostics.error(name.place, "several pages are called '" + name.text + "'; write the number");
+    return found.page;
+}
+
 LinkTarget linkTarget(const TextLine& name, const PageIndex& pages, const PageSource& from,
                       Diagnostics& diagnostics) {
     if (isOtherAddress(name.text)) return {escapeHtml(name.text), {}};
-    const PageIndex::Found found = pages.find(platform::fromUtf8(name.text), from);
-    if (!found.page) {
-        diagnostics.error(name.place, "no page is called '" + name.text + '\'');
-        return {};
-    }
-    if (found.isAmbiguous)
-        diagnostics.error(name.place, "several pages are called '" + name.text + "'; write the number");
-    return {addressOf(*found.page), platform::toUtf8(found.page->title.text)};
+    const PageSource* page = findPage(name, pages, from, diagnostics);
+    if (!page) return {};
+    return {addressOf(*page), platform::toUtf8(page->title.text)};
 }
 
 }  // namespace contentc

@@ -38,17 +38,6 @@ std::vector<TextLine> partsOf(const TextLine* field) {
     return parts;
 }
 
-/// A class and chapter; the sign behind the letter of the year may be any of those that look alike.
-std::optional<ClassChapter> classChapter(std::string_view text) {
-    for (std::size_t i = 0; i < years.size(); ++i) {
-        const std::string_view name = years[i];
-        if (text.size() < name.size() || text[0] != name[0]) continue;
-        if (platform::fold(text.substr(2, name.size() - 2)) != platform::fold(name.substr(2))) continue;
-        return ClassChapter{i, std::string(trimmed(text.substr(name.size())))};
-    }
-    return std::nullopt;
-}
-
 /// Reads header fields one by one. A wrong one is reported and leaves the page as it was.
 class HeadReader {
   public:
@@ -112,7 +101,7 @@ class HeadReader {
 
     void readClasses() {
         for (const TextLine& part : partsOf(header_.find("class"))) {
-            if (const auto chapter = classChapter(part.text)) {
+            if (const auto chapter = schoolYearNamed(part.text)) {
                 page_.classes.push_back(*chapter);
             } else {
                 diagnostics_.error(part.place, "no school year: " + inQuotes(part.text));
@@ -147,6 +136,19 @@ class HeadReader {
 };
 
 }  // namespace
+
+std::optional<ClassChapter> schoolYearNamed(std::string_view text) {
+    for (std::size_t i = 0; i < years.size(); ++i) {
+        const std::string_view name = years[i];
+        if (text.size() < name.size() ||
+            platform::fold(text.substr(0, 1)) != platform::fold(name.substr(0, 1)))
+            continue;
+        // The sign behind the letter may be any of those that look alike.
+        if (platform::fold(text.substr(2, name.size() - 2)) != platform::fold(name.substr(2))) continue;
+        return ClassChapter{i, std::string(trimmed(text.substr(name.size())))};
+    }
+    return std::nullopt;
+}
 
 std::span<const std::string_view> schoolYears() { return years; }
 

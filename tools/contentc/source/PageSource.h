@@ -35,6 +35,9 @@ struct ClassChapter {
 /// The names of the school years in their order.
 std::span<const std::string_view> schoolYears();
 
+/// A school year and what stands behind its name, in code page 1253. Nothing when it is none.
+std::optional<ClassChapter> schoolYearNamed(std::string_view text);
+
 /// A page as its author wrote it: `name: value` lines, a line `---`, the body.
 struct PageSource {
     SourcePlace place;

@@ -43,6 +43,8 @@ char characterOf(std::string_view digits) {
     return byte < 0x20 ? ' ' : static_cast<char>(byte);
 }
 
+constexpr std::string_view navigation = "<nav";
+
 /// Goes through a body and keeps what is not markup.
 class TextExtraction {
   public:
@@ -77,7 +79,9 @@ class TextExtraction {
         rest_.remove_prefix(at == std::string_view::npos ? rest_.size() : at + end.size());
     }
 
+    /// Links to other pages are no words of this one.
     void takeTag() {
+        if (platform::toLower(rest_.substr(0, navigation.size())) == navigation) return skipThrough("</NAV>");
         std::string_view name = rest_.substr(1, rest_.find_first_of("> \t\n", 1) - 1);
         if (name.starts_with('/')) name.remove_prefix(1);
         constexpr std::array<std::string_view, 6> inlineTags{"sub", "sup", "b", "i", "em", "strong"};
@@ -141,7 +145,7 @@ std::set<std::string> wordsOf(std::string_view text) {
 }
 
 std::set<std::string> wordsOf(const PageSource& page) {
-    return wordsOf(page.title.text + '\n' + visibleText(page.body));
+    return wordsOf(page.title.text + '\n' + page.searchWords + '\n' + visibleText(page.body));
 }
 
 }  // namespace contentc
