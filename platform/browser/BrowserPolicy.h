@@ -1,9 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace platform {
@@ -31,6 +33,14 @@ class BrowserPolicy {
     /// See RequestPolicy::allowsFile.
     bool allowsFile(std::string_view canonicalPath) const;
 
+    /// Whether the program takes over an address that the user has followed in the browser with this control
+    /// id. Then no page is loaded.
+    using Follower = std::function<bool(int controlId, const std::string& address)>;
+    void setFollower(Follower follower) { follower_ = std::move(follower); }
+    bool isTakenOver(int controlId, const std::string& address) const {
+        return follower_ && follower_(controlId, address);
+    }
+
   private:
     BrowserPolicy();
     ~BrowserPolicy();
@@ -39,6 +49,7 @@ class BrowserPolicy {
 
     std::unique_ptr<RequestPolicy> policy_;
     std::set<std::string> logged_;
+    Follower follower_;
 };
 
 }  // namespace platform

@@ -133,7 +133,9 @@ bool WebBrowserComponent::passes(const PageRequest& request) {
     const std::string address = addressOfUrl(request.address);
     // What a page does by itself the program is not asked about: it might open dialogs.
     const bool cancel = request.kind != RequestKind::onward && isCancelled(address);
-    if (!cancel && BrowserPolicy::instance().admit(request)) return true;
+    const bool isTakenOver = !cancel && request.kind == RequestKind::mainPage &&
+                             BrowserPolicy::instance().isTakenOver(controlId(), address);
+    if (!cancel && !isTakenOver && BrowserPolicy::instance().admit(request)) return true;
     record(TraceRefused{address});
     return false;
 }

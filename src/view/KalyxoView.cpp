@@ -1,7 +1,12 @@
 #include "src/view/KalyxoView.h"
 
+#include <utility>
+
 #include "controls/contract/HostMessages.h"
+#include "formats/PageNumber.h"
+#include "formats/SectionTable.h"
 #include "platform/base/Resources.h"
+#include "platform/browser/BrowserPolicy.h"
 #include "platform/dialogs/MessageBox.h"
 #include "platform/framework/FrameWnd.h"
 #include "platform/machine/Machine.h"
@@ -27,6 +32,7 @@ constexpr COLORREF kBlack = RGB(0, 0, 0);
 /// What components and the splitter put into the second parameter of WM_COMMAND.
 constexpr LPARAM kRefreshBrowser = 9822;
 constexpr LPARAM kSplitterMoved = IDC_SPLITTER;
+constexpr LPARAM kFollowPageLink = 9823;
 
 }  // namespace
 
@@ -67,6 +73,9 @@ void CKalyxoView::OnInitialUpdate() {
     m_components.browser.Navigate(TheApp().m_strDataFolder + "a.htm");
     m_panel.Create(this);
     openCache();
+    BrowserPolicy::instance().setFollower([this](int browser, const std::string& address) {
+        return browser == IDC_WEB && takePageLink(address);
+    });
     m_bookmarks.LoadBookmarks();
     LoadElementIndex();
     loadPictures();
@@ -95,10 +104,28 @@ void CKalyxoView::loadPictures() {
 
 void CKalyxoView::OnDestroy() {
     if (m_bStartupFailed) return;
+    BrowserPolicy::instance().setFollower({});
     m_components.browser.DestroyWindow();
     m_bookmarks.SaveBookmarks();
     KillTimer(kTimerId);
     m_pages.CleanCache();
+}
+
+bool CKalyxoView::takePageLink(const std::string& address) {
+    const auto link = formats::decodePageLink(address);
+    if (!link) return false;
+    m_pageLink = *link;
+    // Not from within the browser's question, during which no page can be loaded.
+    PostMessage(WM_COMMAND, 0, kFollowPageLink);
+    return true;
+}
+
+void CKalyxoView::followPageLink() {
+    const formats::PageLink link = std::exchange(m_pageLink, {});
+    const auto path = formats::pagePath(link.itemCode > 0 ? link.itemCode : link.pageId);
+    const bool exists = path && machine().files().exists(TheApp().m_strDataFolder + *path);
+    if (!exists || !formats::sectionByCode(link.sectionCode)) return;
+    m_navigator.OpenTopic({link.sectionCode, link.pageId, link.itemCode});
 }
 
 void CKalyxoView::OnDraw(CDC& dc) {
@@ -136,6 +163,9 @@ bool CKalyxoView::OnCommand(WPARAM wParam, LPARAM lParam) {
     switch (lParam) {
         case controls::showEnlargedView:
             ShowEnlargedView();
+            return true;
+        case kFollowPageLink:
+            followPageLink();
             return true;
         case kRefreshBrowser:
             m_components.browser.Refresh2();

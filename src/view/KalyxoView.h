@@ -1,5 +1,6 @@
 #pragma once
 
+#include "formats/PageLink.h"
 #include "platform/framework/View.h"
 #include "src/components/ElementIndex.h"
 #include "src/display/ToolPanel.h"
@@ -83,6 +84,12 @@ class CKalyxoView : public platform::CView, private ContentHost {
                           const platform::Variant& postData, const std::string& headers, bool* cancel);
     void showDefinition(const std::string& file);
 
+    // Links between pages
+    /// Takes over the address of a link to a page, and follows it soon. False for other addresses.
+    bool takePageLink(const std::string& address);
+    /// Opens the page of the link, unless the data folder does not have it.
+    void followPageLink();
+
     // Showing what navigation and bookmarks decide on
     void ShowMainMenu();
     bool EnterPageMode(std::int16_t sectionCode) override;
@@ -114,6 +121,8 @@ class CKalyxoView : public platform::CView, private ContentHost {
     SearchState m_search;
     GlossaryPopup m_glossary;
     CToolPanel m_panel;
+    /// The link to follow; all zeros when there is none.
+    formats::PageLink m_pageLink{};
     bool m_bPanelNeverShown = true;
     /// Before the first paint, navigations and the mouse are ignored.
     bool m_bInterceptionSuppressed = true;
