@@ -265,6 +265,9 @@ function fail(text) {
   const message = document.createElement('p');
   message.textContent = text;
   document.body.replaceChildren(message);
+  addEventListener('message', ({ data, source }) => {
+    if (data?.pluginPicture === Number(query.get('plugin'))) source.postMessage({ ...data, picture: 'none' }, '*');
+  });
 }
 
 const request = new XMLHttpRequest();

@@ -15,6 +15,7 @@ const query = new URLSearchParams(location.search);
 const isOn = name => /^(true|yes|1)$/i.test(query.get(name) ?? '');
 // As the reader wants it; the engine stops a film that it cannot go on with.
 let isToPlay = isOn('autoplay');
+let hasFailed = false;
 
 // ---- the strip ----
 
@@ -76,6 +77,7 @@ function fail(text = 'Το βίντεο δεν μπορεί να προβληθ�
   const message = document.createElement('p');
   message.textContent = text;
   document.body.replaceChildren(message);
+  hasFailed = true;
 }
 
 /// What is seen of the video, without the strip.
@@ -94,8 +96,9 @@ function picture() {
 }
 
 addEventListener('message', ({ data, source }) => {
-  if (data?.pluginPicture !== Number(query.get('plugin')) || video.readyState < HTMLMediaElement.HAVE_CURRENT_DATA) return;
-  source.postMessage({ pluginPicture: data.pluginPicture, picture: picture() }, '*');
+  if (data?.pluginPicture !== Number(query.get('plugin'))) return;
+  if (!hasFailed && video.readyState < HTMLMediaElement.HAVE_CURRENT_DATA) return;
+  source.postMessage({ pluginPicture: data.pluginPicture, picture: hasFailed ? 'none' : picture() }, '*');
 });
 
 play.addEventListener('click', toggle);

@@ -21,7 +21,10 @@ namespace platform {
 namespace {
 
 constexpr std::chrono::seconds answerTime{5};
-constexpr std::chrono::seconds pictureTime{2};
+/// How long a viewer may take to have a picture, and when it is asked again: before it is ready it hears
+/// nothing.
+constexpr std::chrono::seconds pictureTime{5};
+constexpr std::chrono::milliseconds askInterval{100};
 constexpr std::chrono::milliseconds paintInterval{5};
 /// Letters; enough for any picture of a screen.
 constexpr qsizetype maxPictureLength = qsizetype{64} << 20;
@@ -139,8 +142,13 @@ void askEmbeddedFramesOf(QWebEnginePage& page,
 QByteArray pictureOfEmbedded(QWebEnginePage& page, int number) {
     const QPointer<QWebEnginePage> alive(&page);
     const QDeadlineTimer limit(pictureTime);
-    evaluate(page, QStringLiteral("globalThis.pagePlugins?.ask(%1)").arg(number));
+    QDeadlineTimer asked;
     while (alive && !limit.hasExpired()) {
+        if (asked.hasExpired()) {
+            evaluate(page, QStringLiteral("globalThis.pagePlugins?.ask(%1)").arg(number));
+            asked.setRemainingTime(askInterval);
+            if (!alive) break;
+        }
         const QString url =
             evaluate(page, QStringLiteral("globalThis.pagePlugins?.picture(%1)").arg(number)).toString();
         if (!url.isEmpty()) return pngOfDataUrl(url);

@@ -40,8 +40,8 @@ std::vector<EmbeddedFrame> embeddedFramesOf(QWebEnginePage& page);
 void askEmbeddedFramesOf(QWebEnginePage& page,
                          const std::function<void(const std::vector<EmbeddedFrame>&)>& answer);
 
-/// The picture that the viewer of an embedded file gives of itself, as PNG; empty when it gives none within
-/// two seconds.
+/// The picture that the viewer of an embedded file gives of itself, as PNG. It is asked until it has one;
+/// empty when it says that it will have none, or has none within five seconds.
 QByteArray pictureOfEmbedded(QWebEnginePage& page, int number);
 
 }  // namespace platform

@@ -28,7 +28,7 @@ bool isWhole(const BITMAPINFOHEADER& header, std::size_t bytes) {
 bool CBitmap::LoadBitmap(UINT id) {
     const QImage image = artworkImage(QStringLiteral(":/bitmap/%1").arg(id));
     if (image.isNull()) return false;
-    image_ = std::make_shared<QImage>(image.convertToFormat(QImage::Format_RGB32));
+    *this = FromImage(image);
     return true;
 }
 
@@ -54,8 +54,14 @@ bool CBitmap::LoadFile(std::string_view bytes) {
     const QImage image =
         QImage::fromData(reinterpret_cast<const uchar*>(bytes.data()), static_cast<int>(bytes.size()));
     if (image.isNull()) return false;
-    image_ = std::make_shared<QImage>(image.convertToFormat(QImage::Format_RGB32));
+    *this = FromImage(image);
     return true;
+}
+
+CBitmap CBitmap::FromImage(const QImage& image) {
+    CBitmap bitmap;
+    bitmap.image_ = std::make_shared<QImage>(image.convertToFormat(QImage::Format_RGB32));
+    return bitmap;
 }
 
 CBitmap CBitmap::ResizedTo(int width, int height) const {

@@ -51,6 +51,8 @@ class CBitmap {
                         std::span<const std::byte> pixels, int scale = 1);
     /// Loads the bytes of an image file; false when they cannot be read.
     bool LoadFile(std::string_view bytes);
+    /// For use inside the platform.
+    static CBitmap FromImage(const QImage& image);
     /// A copy of the bitmap scaled to a size; not loaded if this bitmap is not.
     CBitmap ResizedTo(int width, int height) const;
     /// The pixels of a loaded bitmap; for use inside the platform.

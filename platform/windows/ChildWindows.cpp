@@ -1,8 +1,10 @@
 #include "platform/windows/ChildWindows.h"
 
+#include <QPixmap>
 #include <QWidget>
 
 #include "platform/components/WebPageInspector.h"
+#include "platform/qt/ClientArea.h"
 #include "platform/qt/QtConvert.h"
 #include "platform/qt/WindowTable.h"
 #include "platform/windows/ComponentContainer.h"
@@ -60,6 +62,14 @@ CBitmap PluginPicture(HWND window) {
     CBitmap picture;
     if (browser != nullptr) picture.LoadFile(browser->pluginPicture(window));
     return picture;
+}
+
+CBitmap WindowPicture(HWND window, CSize size) {
+    const QWidget* const widget = WindowTable::instance().widget(window);
+    if (widget == nullptr) return {};
+    const QPoint corner = widget->mapTo(widget->window(), clientAreaOf(*widget).topLeft());
+    const QPixmap seen = widget->window()->grab({corner, QSize(size.cx, size.cy)});
+    return CBitmap::FromImage(seen.toImage()).ResizedTo(size.cx, size.cy);
 }
 
 }  // namespace platform

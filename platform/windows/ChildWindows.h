@@ -19,6 +19,10 @@ void EnumChildWindows(HWND parent, const std::function<bool(HWND)>& callback);
 /// control strip. Not loaded when the window is no plug-in or has no picture.
 CBitmap PluginPicture(HWND window);
 
+/// What is seen of a window, with whatever lies before it in the top-level window: a picture of this size
+/// from the corner of its client area. Not loaded when there is no such window.
+CBitmap WindowPicture(HWND window, CSize size);
+
 /// The client area with its corner at (0, 0); empty for an invalid handle.
 CRect GetClientRect(HWND window);
 /// A point of the client area in screen coordinates.

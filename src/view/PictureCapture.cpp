@@ -9,6 +9,7 @@
 #include "platform/printing/PrinterDC.h"
 #include "platform/windows/ChildWindows.h"
 #include "platform/windows/Clipboard.h"
+#include "platform/windows/Cursor.h"
 #include "src/resources/ResourceIds.h"
 
 namespace kalyxo {
@@ -39,12 +40,15 @@ std::optional<HWND> findPlugin(HWND browser, PluginKind kind) {
     return found;
 }
 
-/// The picture in its nominal size, even on a screen with more pixels; nothing when there is no picture.
+/// The picture that the viewer gives of itself, or else what is seen of it; in its nominal size, even on a
+/// screen with more pixels. Nothing when the page has gone meanwhile.
 std::optional<CBitmap> takePicture(HWND plugin, PluginKind kind) {
-    const CBitmap taken = PluginPicture(plugin);
-    if (!taken.Loaded()) return std::nullopt;
+    // The viewer may not be ready yet.
+    const CWaitCursor wait;
     const CSize size = sizesOf(kind).picture;
-    return taken.ResizedTo(size.cx, size.cy);
+    const CBitmap own = PluginPicture(plugin);
+    const CBitmap picture = own.Loaded() ? own.ResizedTo(size.cx, size.cy) : WindowPicture(plugin, size);
+    return picture.Loaded() ? std::optional(picture) : std::nullopt;
 }
 
 void print(HWND plugin, PluginKind kind, std::string_view title) {

@@ -128,13 +128,24 @@ TEST_F(PluginWindows, GiveTheirPictures) {
     ASSERT_TRUE(molecule.Loaded());
     EXPECT_EQ(molecule.Width(), 340);
     EXPECT_EQ(molecule.Height(), 290);
-    CBitmap film;
-    ASSERT_TRUE(runUntil([&] { return (film = PluginPicture(windows[1])).Loaded(); }))
-        << "once it has a first picture";
+    const CBitmap film = PluginPicture(windows[1]);
+    ASSERT_TRUE(film.Loaded()) << "once it has a first picture";
     EXPECT_EQ(film.Width(), 320);
     EXPECT_EQ(film.Height(), 240) << "without the strip";
     EXPECT_FALSE(PluginPicture(browser_.GetSafeHwnd()).Loaded());
     EXPECT_FALSE(PluginPicture(0).Loaded());
+}
+
+TEST_F(PluginWindows, AreAskedForTheirPictureUntilTheyAreReady) {
+    for (const char* file : {"x.mol", "x.webm"}) {
+        SCOPED_TRACE(file);
+        write("late.htm",
+              std::string("<BODY><SCRIPT>setTimeout(() => document.body.innerHTML = '<EMBED SRC=") + file +
+                  " WIDTH=320 HEIGHT=258>', 300)</SCRIPT>");
+        show("late.htm");
+        ASSERT_TRUE(runUntil([&] { return below(browser_).size() == 1; }));
+        EXPECT_TRUE(PluginPicture(below(browser_)[0]).Loaded());
+    }
 }
 
 // A film of 320 × 240 pixels, blue on the left and red on the right, in a frame that is wider.
@@ -150,8 +161,8 @@ TEST_F(PluginWindows, FitAFilmAsTheScaleSays) {
         SCOPED_TRACE(scale);
         write("film.htm", std::string("<EMBED SRC=x.webm WIDTH=320 HEIGHT=138 ") + scale + ">");
         show("film.htm");
-        CBitmap film;
-        ASSERT_TRUE(runUntil([&] { return (film = PluginPicture(below(browser_).at(0))).Loaded(); }));
+        const CBitmap film = PluginPicture(below(browser_).at(0));
+        ASSERT_TRUE(film.Loaded());
         const QImage picture = film.Image();
         const auto blueness = [&](int x, int y) { return picture.pixelColor(x, y).blue(); };
         const int left = 160 - shown.width() / 2;
