@@ -3,6 +3,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <cstdio>
 #include <memory>
 #include <vector>
 
@@ -12,10 +13,14 @@
 #include "platform/drawing/LightPalette.h"
 #include "platform/machine/Machine.h"
 #include "platform/qt/QtConvert.h"
+#include "platform/text/CodePage1253.h"
 
 namespace platform {
 
 namespace {
+
+/// How many objects say so.
+int unattended = 0;
 
 std::vector<BoxAnswer> buttonsOf(BoxButtons buttons) {
     if (buttons == BoxButtons::yesNo) return {BoxAnswer::yes, BoxAnswer::no};
@@ -66,7 +71,16 @@ BoxAnswer show(std::string_view text, std::string_view caption, const std::vecto
     return answer;
 }
 
+BoxAnswer tellOnStandardError(std::string_view text, const std::vector<BoxAnswer>& buttons) {
+    std::fprintf(stderr, "%s\n", toUtf8(text).c_str());
+    return buttons.back();
+}
+
 }  // namespace
+
+UnattendedBoxes::UnattendedBoxes() { ++unattended; }
+
+UnattendedBoxes::~UnattendedBoxes() { --unattended; }
 
 BoxAnswer AfxMessageBox(std::string_view text, BoxButtons kind) {
     return MessageBox(text, LoadString(AFX_IDS_APP_TITLE), kind);
@@ -75,7 +89,9 @@ BoxAnswer AfxMessageBox(std::string_view text, BoxButtons kind) {
 BoxAnswer MessageBox(std::string_view text, std::string_view caption, BoxButtons kind, BoxIcon icon) {
     const std::vector<BoxAnswer> buttons = buttonsOf(kind);
     const auto ready = hasMachine() ? machine().nextAnswer(buttons) : std::nullopt;
-    const BoxAnswer answer = ready ? *ready : show(text, caption, buttons, icon);
+    const BoxAnswer answer = ready            ? *ready
+                             : unattended > 0 ? tellOnStandardError(text, buttons)
+                                              : show(text, caption, buttons, icon);
     if (hasMachine())
         machine().trace().record(TraceBox{std::string(text), std::string(caption), buttons, answer});
     return answer;

@@ -18,4 +18,14 @@ BoxAnswer AfxMessageBox(std::string_view text, BoxButtons buttons = BoxButtons::
 BoxAnswer MessageBox(std::string_view text, std::string_view caption, BoxButtons buttons = BoxButtons::ok,
                      BoxIcon icon = BoxIcon::none);
 
+/// While such an object exists no box is shown, since nobody may be there to answer it: the text is written
+/// to standard error, and the box is answered as if it had been closed.
+class UnattendedBoxes {
+  public:
+    UnattendedBoxes();
+    ~UnattendedBoxes();
+    UnattendedBoxes(const UnattendedBoxes&) = delete;
+    UnattendedBoxes& operator=(const UnattendedBoxes&) = delete;
+};
+
 }  // namespace platform

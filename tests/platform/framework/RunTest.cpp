@@ -1,3 +1,4 @@
+#include "platform/dialogs/MessageBox.h"
 #include "platform/framework/Run.h"
 
 #include <QApplication>
@@ -37,6 +38,24 @@ TEST_F(RunTest, ClosesTheFrameWhenTheSessionEnds) {
     EXPECT_EQ(RunProgram(app()), 7);
     EXPECT_EQ(log().lines({"WM_CLOSE", "WM_DESTROY"}),
               (Lines{"frame WM_CLOSE", "frame WM_DESTROY", "view WM_DESTROY"}));
+}
+
+TEST_F(RunTest, WaitsForNoAnswerWhenTheSessionEnds) {
+    Machine silent(::testing::TempDir(), MachineConfig(), Registry());
+    setMachine(&silent);
+    QTimer::singleShot(30, [&] {
+        view().on(WM_DESTROY,
+                  [](WPARAM) { EXPECT_EQ(AfxMessageBox("Σώθηκε;"_gr, BoxButtons::yesNo), BoxAnswer::no); });
+        std::raise(SIGTERM);
+    });
+    // Ends a box that is shown after all.
+    QTimer::singleShot(2000, [] {
+        if (QWidget* const box = QApplication::activeModalWidget()) box->close();
+    });
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(RunProgram(app()), 7);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "Σώθηκε;\n");
+    setMachine(&machine_);
 }
 
 TEST_F(RunTest, TellsThatTheDocumentCannotBeOpened) {
