@@ -1,5 +1,6 @@
 #include "platform/dialogs/MessageBox.h"
 
+#include <QApplication>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
@@ -78,7 +79,12 @@ BoxAnswer tellOnStandardError(std::string_view text, const std::vector<BoxAnswer
 
 }  // namespace
 
-UnattendedBoxes::UnattendedBoxes() { ++unattended; }
+UnattendedBoxes::UnattendedBoxes() {
+    ++unattended;
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+        if (auto* const box = qobject_cast<QMessageBox*>(window)) box->reject();
+    }
+}
 
 UnattendedBoxes::~UnattendedBoxes() { --unattended; }
 

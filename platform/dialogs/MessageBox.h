@@ -19,7 +19,7 @@ BoxAnswer MessageBox(std::string_view text, std::string_view caption, BoxButtons
                      BoxIcon icon = BoxIcon::none);
 
 /// While such an object exists no box is shown, since nobody may be there to answer it: the text is written
-/// to standard error, and the box is answered as if it had been closed.
+/// to standard error, and the box is answered as if it had been closed. One that is shown already is closed.
 class UnattendedBoxes {
   public:
     UnattendedBoxes();

@@ -40,22 +40,48 @@ TEST_F(RunTest, ClosesTheFrameWhenTheSessionEnds) {
               (Lines{"frame WM_CLOSE", "frame WM_DESTROY", "view WM_DESTROY"}));
 }
 
-TEST_F(RunTest, WaitsForNoAnswerWhenTheSessionEnds) {
-    Machine silent(::testing::TempDir(), MachineConfig(), Registry());
-    setMachine(&silent);
-    QTimer::singleShot(30, [&] {
-        view().on(WM_DESTROY,
-                  [](WPARAM) { EXPECT_EQ(AfxMessageBox("Σώθηκε;"_gr, BoxButtons::yesNo), BoxAnswer::no); });
-        std::raise(SIGTERM);
-    });
-    // Ends a box that is shown after all.
-    QTimer::singleShot(2000, [] {
-        if (QWidget* const box = QApplication::activeModalWidget()) box->close();
-    });
-    testing::internal::CaptureStderr();
-    EXPECT_EQ(RunProgram(app()), 7);
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "Σώθηκε;\n");
-    setMachine(&machine_);
+/// The view asks something when it is destroyed, on a machine that shows its boxes.
+class UnattendedRunTest : public ProgramTest {
+  protected:
+    UnattendedRunTest() : shows_(::testing::TempDir(), MachineConfig(), Registry()) {
+        setMachine(&shows_);
+        limit_.callOnTimeout([this] {
+            QWidget* const box = QApplication::activeModalWidget();
+            waits_ = waits_ || box;
+            if (box) box->close();
+        });
+        limit_.start(1000);
+    }
+    ~UnattendedRunTest() override { setMachine(&machine_); }
+
+    /// What is written to standard error until the program has ended.
+    std::string run() {
+        QTimer::singleShot(20, [this] {
+            view().on(WM_DESTROY, [](WPARAM) {
+                EXPECT_EQ(AfxMessageBox("Σώθηκε;"_gr, BoxButtons::yesNo), BoxAnswer::no);
+            });
+        });
+        testing::internal::CaptureStderr();
+        EXPECT_EQ(RunProgram(app()), 7);
+        EXPECT_FALSE(waits_);
+        return testing::internal::GetCapturedStderr();
+    }
+
+  private:
+    Machine shows_;
+    QTimer limit_;  ///< ends a box that is shown after all
+    bool waits_ = false;
+};
+
+TEST_F(UnattendedRunTest, WaitsForNoAnswerWhenTheSessionEnds) {
+    QTimer::singleShot(40, [] { std::raise(SIGTERM); });
+    EXPECT_TRUE(run().ends_with("Σώθηκε;\n"));
+}
+
+TEST_F(UnattendedRunTest, WaitsNoLongerWhenTheSessionEndsMeanwhile) {
+    QTimer::singleShot(40, [this] { frame().PostMessage(WM_CLOSE); });
+    QTimer::singleShot(200, [] { std::raise(SIGTERM); });
+    EXPECT_EQ(run().find("Σώθηκε;"), std::string::npos);
 }
 
 TEST_F(RunTest, TellsThatTheDocumentCannotBeOpened) {
