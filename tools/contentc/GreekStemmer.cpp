@@ -13,7 +13,7 @@ void GreekStemmer::Delete::operator()(sb_stemmer* stemmer) const { sb_stemmer_de
 GreekStemmer::GreekStemmer() : stemmer_(sb_stemmer_new("greek", "UTF_8")) {}
 
 std::string GreekStemmer::stemOf(std::string_view word) const {
-    const std::string utf8 = platform::toUtf8(word);
+    std::string utf8 = platform::toUtf8(word);
     const auto isAscii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
     if (!stemmer_ || std::ranges::any_of(word, isAscii)) return utf8;
     const auto* const letters = reinterpret_cast<const sb_symbol*>(utf8.data());

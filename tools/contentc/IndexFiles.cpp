@@ -45,6 +45,7 @@ class IndexFileMaker {
 
     void addElementIndex() {
         std::vector<formats::ElementPageRecord> records;
+        records.reserve(content_.elements.size());
         for (const ElementLine& element : content_.elements) records.push_back(element.record);
         add(std::string(formats::elementIndexFile), formats::encodeElementIndex(records));
     }

@@ -45,7 +45,7 @@ TextLine MarkupCompiler::compile(const TextLine& line) {
         } else if (rest_.starts_with(linkStart)) {
             openLink();
         } else if (linkWords_ && rest_.starts_with(linkEnd)) {
-            closeLink();
+            closeLink(*linkWords_);
         } else {
             take(1);
         }
@@ -101,9 +101,8 @@ void MarkupCompiler::openLink() {
     ++linkDelimiters_;
 }
 
-void MarkupCompiler::closeLink() {
-    if (trimmed(std::string_view(result_).substr(*linkWords_)).empty())
-        error("a glossary link without words");
+void MarkupCompiler::closeLink(std::size_t words) {
+    if (trimmed(std::string_view(result_).substr(words)).empty()) error("a glossary link without words");
     result_.append(linkDelimiter);
     ++linkDelimiters_;
     rest_.remove_prefix(linkEnd.size());

@@ -30,7 +30,7 @@ class MarkupCompiler {
   private:
     void compileMark();
     void openLink();
-    void closeLink();
+    void closeLink(std::size_t words);
     void take(std::size_t length);
     void noteDataPath();
     void finish();

@@ -27,6 +27,7 @@ class PageCompilation {
         const std::vector<TextLine> body = compileBody();
         MarkupCompiler markup(scaffoldMarks(), isPrepared(), references_, diagnostics_);
         std::vector<TextLine> lines;
+        lines.reserve(scaffold.head.size() + body.size() + scaffold.foot.size());
         for (const TextLine& line : scaffold.head) lines.push_back(markup.compile(line));
         lines.insert(lines.end(), body.begin(), body.end());
         for (const TextLine& line : scaffold.foot) lines.push_back(markup.compile(line));
@@ -105,7 +106,7 @@ class PageCompilation {
 
     Line addQuiz(Line line, MarkupCompiler& markup, std::vector<TextLine>& lines) {
         const auto isEnd = [](const TextLine& next) { return trimmed(next.text) == endLine; };
-        const Line end = std::find_if(line + 1, page_.body.end(), isEnd);
+        const auto end = std::find_if(line + 1, page_.body.end(), isEnd);
         if (end == page_.body.end()) {
             diagnostics_.error(line->place, "the quiz has no line '{{end}}'");
             return end - 1;

@@ -71,7 +71,7 @@ class QuizCompilation {
         ++questions_;
         place_ = place;
         answers_ = rightAnswers_ = 0;
-        add("<DIV CLASS=\"question\"><P CLASS=\"asked\">" + text + "</P><UL>", place);
+        add(R"(<DIV CLASS="question"><P CLASS="asked">)" + text + "</P><UL>", place);
     }
 
     void addAnswer(const std::string& text, bool right, const SourcePlace& place) {
@@ -124,15 +124,15 @@ std::optional<ToolLine> readToolLine(std::string_view line) {
 }
 
 std::string openTool(const ToolLine& tool) {
-    std::string html = "<DIV CLASS=\"tool\" DATA-TOOL=\"" + tool.name + '"';
+    std::string html = R"(<DIV CLASS="tool" DATA-TOOL=")" + tool.name + '"';
     for (const auto& [name, value] : tool.settings) html += " DATA-" + name + "=\"" + escapeHtml(value) + '"';
     return html + '>';
 }
 
 std::string closeTool(const ToolLine& tool) {
     const std::string folder(dataFolderMarker);
-    return "</DIV><LINK REL=\"stylesheet\" HREF=\"" + folder + "tools\\shared\\style.css\">" +
-           "<SCRIPT TYPE=\"module\" SRC=\"" + folder + "tools\\" + tool.name + "\\face.js\"></SCRIPT>";
+    return R"(</DIV><LINK REL="stylesheet" HREF=")" + folder + R"(tools\shared\style.css">)" +
+           R"(<SCRIPT TYPE="module" SRC=")" + folder + "tools\\" + tool.name + "\\face.js\"></SCRIPT>";
 }
 
 std::vector<TextLine> compileQuiz(const std::vector<TextLine>& lines, const SourcePlace& place,

@@ -77,6 +77,7 @@ std::vector<std::vector<std::string>> groupForms(const std::set<std::string>& wo
         byKey[key == keys.end() ? stemmer.stemOf(word) : key->second].push_back(word);
     }
     std::vector<std::vector<std::string>> groups;
+    groups.reserve(byKey.size());
     for (auto& [key, forms] : byKey) groups.push_back(std::move(forms));
     std::ranges::sort(groups);
     return groups;

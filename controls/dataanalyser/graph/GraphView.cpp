@@ -128,8 +128,8 @@ void GraphView::mouseMoveEvent(QMouseEvent* event) {
 
 void GraphView::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton || !pressed_) return;
-    const QRect frame =
-        QRect(*std::exchange(pressed_, std::nullopt), event->position().toPoint()).normalized();
+    const QRect frame = QRect(*pressed_, event->position().toPoint()).normalized();
+    pressed_.reset();
     frame_->hide();
     if (frame.width() > minFrame && frame.height() > minFrame) return zoomInto(frame);
     chart_->setHovered(chart_->marks().markAt(chart_->mapFromScene(mapToScene(frame.center()))));
