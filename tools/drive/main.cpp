@@ -64,7 +64,8 @@ int runSession(int script) {
 
 int carryOut(const RunScript& task) {
     const int script = task.script ? ::open(task.script->c_str(), O_RDONLY | O_CLOEXEC) : STDIN_FILENO;
-    if (script < 0) return complain(task.script->string() + ": cannot be read");
+    if (script < 0)
+        return complain((task.script ? task.script->string() : "standard input") + ": cannot be read");
     auto machine = platform::Machine::open(task.machine, kalyxo::DefaultMachineConfig());
     if (!machine) return complain(machine.failure().message);
     platform::Machine& opened = **machine;

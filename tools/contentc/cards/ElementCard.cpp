@@ -92,7 +92,7 @@ CardRow discovery(const Element& element) {
 }
 
 std::string tile(const Element& element) {
-    return "<DIV CLASS=\"tile\"><SPAN CLASS=\"number\">" + std::to_string(element.number) +
+    return R"(<DIV CLASS="tile"><SPAN CLASS="number">)" + std::to_string(element.number) +
            "</SPAN><SPAN CLASS=\"symbol\">" + std::string(element.symbol) + "</SPAN><SPAN CLASS=\"mass\">" +
            element.massText() + "</SPAN></DIV>";
 }
@@ -116,7 +116,7 @@ std::vector<CardRow> elementRows(const Element& element) {
 }
 
 std::string elementCard(const Element& element, const std::vector<CardRow>& rowsOfAuthor) {
-    return "<TABLE CLASS=\"element\"><TR><TD CLASS=\"tile\">" + tile(element) + "</TD><TD>\n" +
+    return R"(<TABLE CLASS="element"><TR><TD CLASS="tile">)" + tile(element) + "</TD><TD>\n" +
            cardTable(withRowsOfAuthor(elementRows(element), rowsOfAuthor)) + "\n</TD></TR></TABLE>";
 }
 

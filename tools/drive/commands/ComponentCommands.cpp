@@ -61,7 +61,7 @@ void event(Request& request, Program&) {
     if (described == events.end()) return request.fail("it has no event " + request.argument(1));
     auto arguments = componentArguments(described->arguments, request.argumentsFrom(2));
     if (!arguments) return request.fail("these are not its arguments");
-    host->raiseEvent(*dispid, arguments->values);
+    host->raiseEvent(described->dispid, arguments->values);
 }
 
 constexpr Command componentTable[] = {{"control", 2, anyNumber, control}, {"event", 2, anyNumber, event}};

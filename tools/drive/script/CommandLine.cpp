@@ -52,11 +52,11 @@ Result<void> sortOut(std::span<const char* const> arguments, Given& given) {
     return {};
 }
 
-Result<Task> newMachine(const Given& given) {
+Result<Task> newMachine(const std::string& folder, const Given& given) {
     if (!given.data) return Failure{"--new-machine needs --data"};
     if (given.machine || !given.rest.empty())
         return Failure{"--new-machine takes no machine and no script to run"};
-    return Task(NewMachine{*given.newMachine, *given.data, given.outside, given.bare});
+    return Task(NewMachine{folder, *given.data, given.outside, given.bare});
 }
 
 Result<Task> runScript(const Given& given) {
@@ -74,7 +74,7 @@ Result<Task> runScript(const Given& given) {
 Result<Task> taskOf(std::span<const char* const> arguments) {
     Given given;
     if (const auto sorted = sortOut(arguments, given); !sorted) return sorted.failure();
-    return given.newMachine ? newMachine(given) : runScript(given);
+    return given.newMachine ? newMachine(*given.newMachine, given) : runScript(given);
 }
 
 std::string_view usage() {
