@@ -14,6 +14,7 @@ class WordIndexMaker {
     explicit WordIndexMaker(const Content& content) : content_(content) {}
 
     WordIndex run() {
+        for (const PageSource& page : content_.pages) wordsOfPages_.merge(wordsOf(page));
         for (const formats::Section& section : formats::sectionTable()) {
             for (const PageSource* topic : topicsOf(content_, section)) {
                 addPage(*topic, topic->number, 0);
@@ -29,11 +30,40 @@ class WordIndexMaker {
 
   private:
     void addPage(const PageSource& page, std::int32_t pageId, std::int32_t itemCode) {
-        for (const std::string& word : wordsOf(page)) {
+        std::set<std::string> words = wordsOf(page);
+        for (const TermSource* term : termsOf(page)) words.merge(wordsOfTerm(*term));
+        for (const std::string& word : words) {
             if (content_.words.stopWords.contains(word) || word.size() > formats::maxIndexedWord) continue;
             words_.insert(word);
             index_.occurrences.push_back({word, pageId, itemCode, page.section->code});
         }
+    }
+
+    /// The terms that the page links.
+    std::vector<const TermSource*> termsOf(const PageSource& page) const {
+        std::set<std::string_view> keys;
+        for (const TextLine& line : page.body) {
+            for (std::size_t at = 0; (at = line.text.find("[[", at)) != std::string::npos;) {
+                at += 2;
+                keys.insert(std::string_view(line.text).substr(at, line.text.find('|', at) - at));
+            }
+        }
+        std::vector<const TermSource*> terms;
+        for (const TermSource& term : content_.terms) {
+            if (keys.contains(term.key)) terms.push_back(&term);
+        }
+        return terms;
+    }
+
+    /// Its names, and those words of its text by which no page would be found.
+    std::set<std::string> wordsOfTerm(const TermSource& term) const {
+        std::string text;
+        for (const std::string& line : term.definition) text += line + '\n';
+        std::set<std::string> words = wordsOf(text);
+        std::erase_if(words, [this](const std::string& word) { return wordsOfPages_.contains(word); });
+        words.merge(wordsOf(term.term));
+        for (const std::string& form : term.forms) words.merge(wordsOf(form));
+        return words;
     }
 
     void addAlternatives() {
@@ -55,6 +85,7 @@ class WordIndexMaker {
     }
 
     const Content& content_;
+    std::set<std::string> wordsOfPages_;
     std::set<std::string> words_;
     WordIndex index_;
 };

@@ -20,7 +20,8 @@ struct WordIndex {
     std::vector<formats::OccurrenceRecord> occurrences;
 };
 
-/// Indexes the words of all section pages. Stop words and words too long for a record are left out.
+/// Indexes the words of all section pages. The pages that link a term are found by its names too, and by the
+/// words of its text that no page has. Stop words and words too long for a record are left out.
 WordIndex makeWordIndex(const Content& content);
 
 /// Groups the forms of one word: those that the author has grouped, and of the others those with the same

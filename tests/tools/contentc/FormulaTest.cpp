@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tools/contentc/markdown/BodyMessages.h"
 #include "tools/contentc/markdown/Typography.h"
 
 namespace {
@@ -50,18 +51,20 @@ TEST(Formula, IsSetAsWritten) {
     for (const auto& [source, html] : cases) {
         const contentc::Formula formula = contentc::compileFormula(source);
         EXPECT_EQ(withVisibleBlanks(formula.html), html) << source;
-        EXPECT_EQ(formula.fault, "") << source;
+        EXPECT_EQ(formula.fault, nullptr) << source;
     }
 }
 
 TEST(Formula, TellsWhatIsWrong) {
-    const std::pair<const char*, const char*> cases[] = {{" ", "an empty formula"},
-                                                         {"K_{sp", "'{' is not closed"},
-                                                         {"a^", "nothing to lift behind '^'"},
-                                                         {"K_ ", "nothing to lower behind '_'"},
-                                                         {"{a}", "a brace without '^' or '_' before it"}};
-    for (const auto& [source, fault] : cases)
-        EXPECT_EQ(contentc::compileFormula(source).fault, fault) << source;
+    const std::pair<const char*, const contentc::Message*> cases[] = {
+        {" ", &contentc::say::emptyFormula},   {"K_{sp", &contentc::say::braceIsNotClosed},
+        {"a^", &contentc::say::nothingToLift}, {"K_ ", &contentc::say::nothingToLower},
+        {"{a}", &contentc::say::strayBrace},   {"x^{a_}", &contentc::say::nothingToLower}};
+    for (const auto& [source, fault] : cases) {
+        const contentc::Message* found = contentc::compileFormula(source).fault;
+        ASSERT_TRUE(found) << source;
+        EXPECT_EQ(found->english, fault->english) << source;
+    }
 }
 
 TEST(Typography, KeepsNumbersTogetherAndSetsSigns) {

@@ -87,7 +87,7 @@ TEST_F(PageLists, UnknownPagesAreReported) {
                    "τίτλος: Βαφές\nπερίληψη: Μ.\nπριν: Γάλα\nδες: 999\nτάξη: Δ΄\n---\n");
     EXPECT_FALSE(content_.compile());
     const std::vector<std::string> expected{"pages/uses/400020-b.md:3: no page is called 'Γάλα'",
-                                            "pages/uses/400020-b.md:4: no page is called '999'",
+                                            "pages/uses/400020-b.md:4: no page has the number 999",
                                             "pages/uses/400020-b.md:5: no school year: 'Δ΄'"};
     EXPECT_EQ(content_.messages, expected);
 }

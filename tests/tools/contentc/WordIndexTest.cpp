@@ -37,6 +37,8 @@ TEST(PageText, WordsAreWhatTheReaderSees) {
         {"<IMG ALT=\"κείμενο\" SRC=\"{{data}}x.png\">", ""},
         {"2NaCl (NH<SUB>4</SUB>)<SUB>2</SUB>SO<SUB>4</SUB> 18ος", "nacl nh4 so4 ος"},
         {"2 a 1,008 20 &#913;&#946; &#xffffffff;&#99999999999;", "αβ"},
+        {"oxyg&egrave;ne &Aring;ngstr&#246;m Dvo&#345;&aacute;k", "angstrom dvorak oxygene"},
+        {"<NAV><A HREF=\"x\">άλλη</A></NAV>αυτή", "αυτή"},
         {"<unclosed", ""},
         {"{{unclosed", ""},
         {"[[unclosed]] ab", "ab unclosed"},
@@ -74,9 +76,9 @@ class WordFiles : public testing::Test {
   protected:
     WordFiles() {
         // A small vocabulary: what the sample's other pages say is left out.
-        content_.write(
-            "words/stop.txt",
-            "# not worth finding\nStart of ΤΟ\n\nreact struct source uses history elemcomp concept\n");
+        content_.write("words/stop.txt",
+                       "# not worth finding\nStart of ΤΟ\n\nreact struct source uses history elemcomp "
+                       "concept\nπρώτο στοιχείο\n");
         content_.write("words/forms.txt", "νερό νερού\n");
     }
 
@@ -109,6 +111,26 @@ TEST_F(WordFiles, HoldEachWordWithItsPlaces) {
     const std::vector<formats::FirstLetterRecord> letters{
         {'h', 0}, {greek("α")[0], 1}, {greek("ν")[0], 2}, {greek("υ")[0], 4}};
     EXPECT_EQ(formats::decodeFirstLetters(content_.compiled("words.pr1")), letters);
+}
+
+TEST_F(WordFiles, PagesAreFoundByTheTermsTheyLinkAndByWordsThatAreNotShown) {
+    content_.remove("pages/elemcomp/410010.page");
+    content_.write("pages/elemcomp/410010.md",
+                   "title: Αέρια\nsummary: Μ.\nsearch: Boyle\n---\n[[υδρογόνο|οξύ]]\n");
+    content_.write("glossary/acid.md", "# Οξύ | οξέος\nΔίνει πρωτόνια σε νερό.\n");
+    Words words;
+    for (const char* word :
+         {"boyle", "h2o", "αέρια", "δίνει", "νερό", "οξέος", "οξύ", "πρωτόνια", "σε", "υδρογόνο"})
+        words.push_back(greek(word));
+    EXPECT_EQ(formats::decodeWordIndex(content_.compiled("words.ndx")), words);
+    const std::string dat = content_.compiled("words.dat");
+    std::vector<std::int32_t> pages;
+    for (std::size_t at = 0; at < dat.size(); at += formats::occurrenceRecordSize) {
+        const auto record = *formats::decodeOccurrence(std::string_view(dat).substr(at));
+        if (record.word == greek("νερό")) pages.push_back(record.pageId);
+    }
+    EXPECT_EQ(pages, std::vector<std::int32_t>{370010})
+        << "the page about water, and not all that link 'acid'";
 }
 
 TEST_F(WordFiles, WordsThatDoNotFitAreLeftOut) {

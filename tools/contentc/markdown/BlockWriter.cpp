@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "tools/contentc/markdown/BodyMessages.h"
 #include "tools/contentc/markdown/InlineWriter.h"
 #include "tools/contentc/markdown/TableWriter.h"
 
@@ -67,9 +68,7 @@ class BlockWriter {
 
     void writeHeading(cmark_node* node) {
         int level = cmark_node_get_heading_level(node);
-        if (level == 1)
-            diagnostics_.error(placeOf(node),
-                               "headings begin with '##'; the page's title stands in its head");
+        if (level == 1) diagnostics_.error(placeOf(node), say::headingOfTitle);
         level = std::clamp(level, 2, 4);
         writeElement(node, "H" + std::to_string(level));
         isLead_ = false;

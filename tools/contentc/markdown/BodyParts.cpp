@@ -4,11 +4,13 @@
 #include <array>
 
 #include "platform/text/CodePage1253.h"
+#include "tools/contentc/markdown/BodyMessages.h"
 #include "tools/contentc/markdown/Figure.h"
 #include "tools/contentc/markdown/Formula.h"
 #include "tools/contentc/markdown/InlineWriter.h"
 #include "tools/contentc/markdown/Keyword.h"
 #include "tools/contentc/source/EscapeHtml.h"
+#include "tools/contentc/source/HeadMessages.h"
 
 namespace contentc {
 namespace {
@@ -57,6 +59,15 @@ std::size_t boxEnd(BodyParts::Lines lines) {
         }
     }
     return lines.size();
+}
+
+std::vector<std::string> boxNames() {
+    std::vector<std::string> names;
+    for (const Keyword& box : boxes) {
+        names.emplace_back(box.greek);
+        names.emplace_back(box.english);
+    }
+    return names;
 }
 
 /// What stands between `{{` and `}}` on a line that holds nothing else; empty for other lines.
@@ -116,7 +127,7 @@ std::size_t BodyParts::writePart(Lines lines) {
 std::size_t BodyParts::writeEquation(Lines lines) {
     std::size_t end = 1;
     while (end < lines.size() && trimmed(lines[end].text) != equationSign) ++end;
-    if (end == lines.size()) fail(lines.front().place, "the equation is not closed by a line '$$'");
+    if (end == lines.size()) diagnostics_.error(lines.front().place, say::equationIsNotClosed);
     lines_.beginLine(lines.front().place);
     lines_.add("<P CLASS=\"equation\">");
     bool needsBreak = false;
@@ -137,7 +148,7 @@ std::size_t BodyParts::writeEquation(Lines lines) {
 
 std::string BodyParts::formulaOf(std::string_view text, const SourcePlace& place) {
     Formula formula = compileFormula(text);
-    if (!formula.fault.empty()) fail(place, "formula '" + std::string(text) + "': " + formula.fault);
+    if (formula.fault) diagnostics_.error(place, *formula.fault, {text});
     return std::move(formula.html);
 }
 
@@ -145,10 +156,10 @@ std::size_t BodyParts::writeBox(Lines lines) {
     const SourcePlace& place = lines.front().place;
     const std::size_t end = boxEnd(lines);
     if (isBoxEnd(lines.front())) {
-        fail(place, "':::' closes no box");
+        diagnostics_.error(place, say::closesNoBox);
         return 1;
     }
-    if (end == lines.size()) fail(place, "the box is not closed by a line ':::'");
+    if (end == lines.size()) diagnostics_.error(place, say::boxIsNotClosed);
     const std::string_view words = trimmed(trimmed(lines.front().text).substr(boxSign.size()));
     writeBoxOf(words, lines.subspan(1, end - 1), place);
     return end + 1;
@@ -176,7 +187,7 @@ void BodyParts::writeBoxOf(std::string_view words, Lines inner, const SourcePlac
         case compound:
             return writeCard(context_.compoundCard, std::string(rest), inner, place);
         default:
-            fail(place, "no box is called '" + std::string(words) + '\'');
+            diagnostics_.error(place, say::unknownBox, {words}).suggestNearest(words, boxNames());
             write(inner, FirstParagraph::plain);
     }
 }
@@ -193,7 +204,7 @@ void BodyParts::writeQuestion(Lines inner, const SourcePlace& place) {
     const auto isDivider = [](const TextLine& line) { return trimmed(line.text) == answerSign; };
     const auto divider = std::ranges::find_if(inner, isDivider);
     const auto asked = static_cast<std::size_t>(divider - inner.begin());
-    if (divider == inner.end()) fail(place, "the question needs a line '---' and the answer below it");
+    if (divider == inner.end()) diagnostics_.error(place, say::questionWithoutAnswer);
     lines_.addLine("<DETAILS CLASS=\"ask\"><SUMMARY>", place);
     write(inner.first(asked), FirstParagraph::plain);
     lines_.addLine("</SUMMARY>", place);
@@ -220,23 +231,25 @@ void BodyParts::writeCard(const CardMaker& maker, const std::string& name, Lines
         if (isBlank(line)) continue;
         const std::size_t colon = line.text.find(':');
         if (colon == std::string::npos) {
-            fail(line.place, "not a row 'name: value' of the card");
+            diagnostics_.error(line.place, say::notACardRow);
             continue;
         }
         rows.push_back({inlineOf(trimmed(line.text.substr(0, colon)), line.place),
                         inlineOf(trimmed(line.text.substr(colon + 1)), line.place)});
     }
-    if (maker) lines_.addLine(maker(name, rows, place, diagnostics_), place);
+    const std::string card = maker ? maker(name, rows, place, diagnostics_) : std::string();
+    for (std::size_t at = 0; at < card.size();) {
+        const std::size_t end = std::min(card.find('\n', at), card.size());
+        lines_.addLine(std::string_view(card).substr(at, end - at), place);
+        at = end + 1;
+    }
 }
 
 void BodyParts::writeFigure(const FigureLine& figure, const SourcePlace& place) {
-    if (!figure.unknown.empty())
-        fail(place,
-             "'{" + figure.unknown + "}' is neither the width of the picture nor '{πλάι}' or '{side}'");
-    if (figure.alternative.empty())
-        fail(place, "the picture needs words for those who do not see it: '![words](file)'");
+    if (!figure.unknown.empty()) diagnostics_.error(place, say::unknownPictureSetting, {figure.unknown});
+    if (figure.alternative.empty()) diagnostics_.error(place, say::pictureWithoutWords);
     const auto size = sizeOf(figure, context_.pictures);
-    if (!size) return fail(place, "no picture is named '" + figure.file + '\'');
+    if (!size) return reportPicture(figure.file, place);
     std::string html = figure.isBeside ? "<DIV CLASS=\"figure side\">" : "<DIV CLASS=\"figure\">";
     html += "<IMG SRC=\"{{data}}images\\" + shownPicture(figure.file) + '"';
     if (size->width > 0 && size->height > 0)
@@ -247,10 +260,18 @@ void BodyParts::writeFigure(const FigureLine& figure, const SourcePlace& place) 
     lines_.addLine((caption.empty() ? "" : "<P CLASS=\"caption\">" + caption + "</P>") + "</DIV>", place);
 }
 
+void BodyParts::reportPicture(const std::string& file, const SourcePlace& place) {
+    std::vector<std::string> names;
+    for (const auto& [name, size] : context_.pictures) names.push_back(name);
+    diagnostics_.error(place, say::unknownPicture, {file}).suggestNearest(file, names);
+}
+
 void BodyParts::writeMark(std::string_view words, const SourcePlace& place) {
     const auto [mark, rest] = findKeyword(marks, words);
-    if (mark >= contents && !page_.section)
-        return fail(place, "a list of pages works only on a page of a section");
+    if (mark >= contents && !page_.section) {
+        diagnostics_.error(place, say::listOutsideSections);
+        return;
+    }
     switch (mark) {
         case video:
             return writeVideo(rest, place);
@@ -279,7 +300,7 @@ void BodyParts::writeList(const HtmlList& list, const SourcePlace& place) {
 void BodyParts::writeSchoolYear(std::string_view year, const SourcePlace& place) {
     if (const auto found = schoolYearNamed(platform::fromUtf8(year)))
         return writeList(schoolYearList(context_.content, found->year), place);
-    fail(place, "no school year: '" + std::string(year) + '\'');
+    diagnostics_.error(place, say::unknownSchoolYear, {year});
 }
 
 void BodyParts::writeVideo(std::string_view words, const SourcePlace& place) {
@@ -288,7 +309,7 @@ void BodyParts::writeVideo(std::string_view words, const SourcePlace& place) {
     if (caption.size() > 1 && caption.ends_with('"')) {
         caption = caption.substr(1, caption.size() - 2);
     } else if (!caption.empty()) {
-        fail(place, "the caption of the film has no '\"' at its end");
+        diagnostics_.error(place, say::captionIsNotClosed);
     }
     lines_.addLine("<DIV CLASS=\"film\">", place);
     lines_.addLine("{{video " + std::string(trimmed(words.substr(0, quote))) + "}}", place);
@@ -300,7 +321,9 @@ void BodyParts::writeVideo(std::string_view words, const SourcePlace& place) {
 }
 
 std::string BodyParts::inlineOf(std::string_view text, const SourcePlace& place) {
-    return inlineHtml({std::string(text), place}, context_, page_, diagnostics_);
+    SourcePlace unknown = place;
+    unknown.column = -1;
+    return inlineHtml({std::string(text), unknown}, context_, page_, diagnostics_);
 }
 
 }  // namespace contentc

@@ -40,15 +40,13 @@ class BodyParts {
     void writeQuiz(Lines inner, const SourcePlace& place);
     void writeCard(const CardMaker& maker, const std::string& name, Lines inner, const SourcePlace& place);
     void writeFigure(const FigureLine& figure, const SourcePlace& place);
+    void reportPicture(const std::string& file, const SourcePlace& place);
     void writeMark(std::string_view words, const SourcePlace& place);
     void writeList(const HtmlList& list, const SourcePlace& place);
     void writeSchoolYear(std::string_view year, const SourcePlace& place);
     void writeVideo(std::string_view words, const SourcePlace& place);
     std::string inlineOf(std::string_view text, const SourcePlace& place);
     std::string formulaOf(std::string_view text, const SourcePlace& place);
-    void fail(const SourcePlace& place, std::string message) {
-        diagnostics_.error(place, std::move(message));
-    }
 
     const BodyContext& context_;
     const PageSource& page_;

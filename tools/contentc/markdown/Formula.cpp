@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/text/CodePageTable.h"
+#include "tools/contentc/markdown/BodyMessages.h"
 #include "tools/contentc/source/EscapeHtml.h"
 
 namespace contentc {
@@ -35,7 +36,7 @@ class FormulaCompilation {
 
     Formula run() {
         while (at_ < source_.size()) step();
-        return {std::move(html_), std::move(fault_)};
+        return {std::move(html_), fault_};
     }
 
   private:
@@ -86,7 +87,7 @@ class FormulaCompilation {
             inner = takeRun();
             if (inner.empty()) inner = takeLetter();
         }
-        if (inner.empty()) fail(lowers ? "nothing to lower behind '_'" : "nothing to lift behind '^'");
+        if (inner.empty()) fail(lowers ? say::nothingToLower : say::nothingToLift);
         html_.append("<").append(tag).append(">").append(inner).append("</").append(tag).append(">");
         before_ = Before::script;
     }
@@ -126,11 +127,11 @@ class FormulaCompilation {
             if (source_[end] == '{') ++depth;
             if (source_[end] == '}' && --depth == 0) break;
         }
-        if (depth != 0) fail("'{' is not closed");
+        if (depth != 0) fail(say::braceIsNotClosed);
         const std::string_view inner = source_.substr(at_ + 1, end - at_ - 1);
         at_ = std::min(end + 1, source_.size());
         Formula formula = compileFormula(inner);
-        if (!formula.fault.empty()) fail(formula.fault);
+        if (formula.fault) fail(*formula.fault);
         return std::move(formula.html);
     }
 
@@ -182,7 +183,7 @@ class FormulaCompilation {
     void takeCharacter(std::string_view rest) {
         const auto character = platform::codepage::decodeUtf8(rest, 0);
         const bool isClosing = character.value == U')' || character.value == U']';
-        if (character.value == U'{' || character.value == U'}') fail("a brace without '^' or '_' before it");
+        if (character.value == U'{' || character.value == U'}') fail(say::strayBrace);
         const Before kind = isLetter(character.value) ? Before::letter
                             : isClosing               ? Before::closing
                                                       : Before::sign;
@@ -195,21 +196,21 @@ class FormulaCompilation {
         before_ = kind;
     }
 
-    void fail(std::string fault) {
-        if (fault_.empty()) fault_ = std::move(fault);
+    void fail(const Message& fault) {
+        if (!fault_) fault_ = &fault;
     }
 
     std::string_view source_;
     std::size_t at_ = 0;
     Before before_ = Before::start;
     std::string html_;
-    std::string fault_;
+    const Message* fault_ = nullptr;
 };
 
 }  // namespace
 
 Formula compileFormula(std::string_view source) {
-    if (source.find_first_not_of(' ') == std::string_view::npos) return {{}, "an empty formula"};
+    if (source.find_first_not_of(' ') == std::string_view::npos) return {{}, &say::emptyFormula};
     return FormulaCompilation(source).run();
 }
 

@@ -3,14 +3,16 @@
 #include <string>
 #include <string_view>
 
+#include "tools/contentc/source/Message.h"
+
 namespace contentc {
 
 /// A formula in HTML.
 struct Formula {
     /// In UTF-8.
     std::string html;
-    /// What is wrong with the source; empty when nothing is.
-    std::string fault;
+    /// What is wrong with the source, which is the message's value. Null when nothing is.
+    const Message* fault = nullptr;
 };
 
 /// Sets what stands between `$` signs: chemical formulas and equations, quantities, units. Digits behind a

@@ -1,10 +1,20 @@
 #include "tools/contentc/markdown/InlineMarks.h"
 
+#include <algorithm>
+
+#include "tools/contentc/markdown/BodyMessages.h"
 #include "tools/contentc/markdown/Typography.h"
 #include "tools/contentc/markdown/Utf8.h"
 
 namespace contentc {
 namespace {
+
+/// The place of a byte of a line, which may be a part of a line of the source.
+SourcePlace placeAt(const TextLine& line, std::size_t offset) {
+    SourcePlace place = line.place;
+    place.column = place.column < 0 ? 0 : std::max(place.column, 1) - 1 + columnAt(line.text, offset);
+    return place;
+}
 
 class MarkFinder {
   public:
@@ -49,7 +59,7 @@ class MarkFinder {
         std::size_t end = 1;
         while (end < rest_.size() && rest_[end] != '$') end += rest_[end] == '\\' ? 2 : 1;
         if (end >= rest_.size()) {
-            fail("'$' is not closed on its line; a dollar sign is written '\\$'");
+            fail(say::formulaIsNotClosed);
             return keep(1);
         }
         add({InlineMark::Kind::formula, std::string(rest_.substr(1, end - 1)), {}, here()}, end + 1);
@@ -59,7 +69,7 @@ class MarkFinder {
         constexpr std::size_t bracketSize = 2;
         const std::size_t end = rest_.find("]]");
         if (end == std::string_view::npos) {
-            fail("'[[' is not closed on its line");
+            fail(say::termIsNotClosed);
             return keep(bracketSize);
         }
         const std::string_view inner = rest_.substr(bracketSize, end - bracketSize);
@@ -69,7 +79,7 @@ class MarkFinder {
         if (bar != std::string_view::npos && shown.ends_with('\\')) shown.remove_suffix(1);
         const std::string words(trimmed(shown));
         const std::string term(bar == std::string_view::npos ? words : trimmed(inner.substr(bar + 1)));
-        if (words.empty()) fail("a glossary link without words");
+        if (words.empty()) fail(say::termWithoutWords);
         add({InlineMark::Kind::term, words, term, here()}, end + bracketSize);
     }
 
@@ -78,13 +88,14 @@ class MarkFinder {
         const std::size_t begin = hasBrackets ? 3 : 2;
         const std::size_t end = rest_.find(hasBrackets ? ">)" : ")", begin);
         if (end == std::string_view::npos) {
-            fail("the address of the link is not closed on its line");
+            fail(say::addressIsNotClosed);
             return keep(begin);
         }
+        const SourcePlace place = placeAt(*line_, line_->text.size() - rest_.size() + begin);
         const std::string address(trimmed(rest_.substr(begin, end - begin)));
-        if (address.empty()) fail("a link without an address");
+        if (address.empty()) fail(say::linkWithoutAddress);
         marked_.text.append("](");
-        add({InlineMark::Kind::target, address, {}, here()}, end + (hasBrackets ? 2 : 1));
+        add({InlineMark::Kind::target, address, {}, place}, end + (hasBrackets ? 2 : 1));
         marked_.text.append(")");
     }
 
@@ -94,9 +105,9 @@ class MarkFinder {
         rest_.remove_prefix(length);
     }
 
-    SourcePlace here() const { return line_->place; }
+    SourcePlace here() const { return placeAt(*line_, line_->text.size() - rest_.size()); }
 
-    void fail(std::string message) { diagnostics_.error(here(), std::move(message)); }
+    void fail(const Message& message) { diagnostics_.error(here(), message); }
 
     MarkedText& marked_;
     Diagnostics& diagnostics_;

@@ -34,8 +34,9 @@ struct MarkedText {
     std::vector<InlineMark> marks;
 };
 
-/// Finds the conventions in lines in UTF-8. Those that are not closed on their line are reported. Code is
-/// left alone.
+/// Finds the conventions in lines in UTF-8. The place of a line that is a part of a line of the source has
+/// the column in which it begins, or −1 when that is not known. Those that are not closed on their line are
+/// reported. Code is left alone.
 MarkedText markInlines(const std::vector<TextLine>& lines, Diagnostics& diagnostics);
 
 }  // namespace contentc

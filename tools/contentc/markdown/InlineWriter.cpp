@@ -2,6 +2,7 @@
 
 #include "platform/text/CodePage1253.h"
 #include "platform/text/CodePageTable.h"
+#include "tools/contentc/markdown/BodyMessages.h"
 #include "tools/contentc/markdown/Formula.h"
 #include "tools/contentc/markdown/PageAddresses.h"
 #include "tools/contentc/markdown/Typography.h"
@@ -52,7 +53,8 @@ void InlineWriter::write(cmark_node* node) {
         case CMARK_NODE_LINK:
             return writeLink(node);
         case CMARK_NODE_IMAGE:
-            return diagnostics_.error(lines_->place(), "a picture stands on a line of its own");
+            diagnostics_.error(lines_->place(), say::pictureInText);
+            return;
         default:
             for (cmark_node* child : childrenOf(node)) write(child);
     }
@@ -86,16 +88,20 @@ void InlineWriter::writeMark(const InlineMark& mark) {
     // The address of what Markdown does not take for a link is text.
     if (mark.kind == InlineMark::Kind::target) return lines_->add(escapedText(mark.text));
     const Formula formula = compileFormula(mark.text);
-    if (!formula.fault.empty())
-        diagnostics_.error(mark.place, "formula '" + mark.text + "': " + formula.fault);
+    if (formula.fault) diagnostics_.error(mark.place, *formula.fault, {mark.text});
     lines_->add(formula.html);
 }
 
 void InlineWriter::writeTerm(const InlineMark& mark) {
     const TermSource* term = context_.terms.find(platform::fromUtf8(mark.term));
-    if (!term) diagnostics_.error(mark.place, "no glossary term is called '" + mark.term + '\'');
-    const std::string words = inlineHtml({mark.text, mark.place}, context_, page_, diagnostics_);
-    lines_->add(term ? "[[" + term->key + '|' + words + "]]" : words);
+    if (!term) {
+        diagnostics_.error(mark.place, say::unknownTermName, {mark.term})
+            .suggestNearest(mark.term, context_.terms.names());
+    }
+    SourcePlace place = mark.place;
+    place.column = -1;
+    const std::string words = inlineHtml({mark.text, place}, context_, page_, diagnostics_);
+    lines_->add(term && !words.empty() ? "[[" + term->key + '|' + words + "]]" : words);
 }
 
 const InlineMark* InlineWriter::targetOf(cmark_node* link) const {

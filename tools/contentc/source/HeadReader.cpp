@@ -5,8 +5,10 @@
 
 #include "formats/SectionTitles.h"
 #include "formats/TitleLists.h"
+#include "platform/text/CodePage1253.h"
 #include "platform/text/Fold.h"
 #include "platform/text/GreekLiteral.h"
+#include "tools/contentc/source/HeadMessages.h"
 
 namespace contentc {
 namespace {
@@ -52,7 +54,7 @@ class HeadReader {
         if (!field) return;
         const auto kind = kindNamed(field->text);
         if (kind) page_.kind = *kind;
-        if (!kind) diagnostics_.error(field->place, "unknown kind " + inQuotes(field->text));
+        if (!kind) diagnostics_.error(field->place, say::unknownKind, {platform::toUtf8(field->text)});
     }
 
     void readTitle(std::size_t longest) {
@@ -67,7 +69,7 @@ class HeadReader {
         const TextLine* field = isEntry ? header_.require("topic", diagnostics_) : header_.find("topic");
         if (!field) return;
         page_.topicName = *field;
-        if (!isEntry) diagnostics_.error(field->place, "only an entry has a topic");
+        if (!isEntry) diagnostics_.error(field->place, say::onlyEntriesHaveTopics);
     }
 
     void readOrder() {
@@ -89,7 +91,7 @@ class HeadReader {
             page_.summary = *field;
             checkLength("summary", *field, maxSummary);
         } else if (page_.isMarkdown && page_.kind == PageKind::topic) {
-            diagnostics_.warning(page_.title.place, "a topic needs a summary, for the list of topics");
+            diagnostics_.warning(page_.title.place, say::topicWithoutSummary);
         }
     }
 
@@ -104,7 +106,7 @@ class HeadReader {
             if (const auto chapter = schoolYearNamed(part.text)) {
                 page_.classes.push_back(*chapter);
             } else {
-                diagnostics_.error(part.place, "no school year: " + inQuotes(part.text));
+                diagnostics_.error(part.place, say::unknownSchoolYear, {platform::toUtf8(part.text)});
             }
         }
     }
@@ -118,15 +120,15 @@ class HeadReader {
   private:
     void checkLength(const std::string& name, const TextLine& field, std::size_t longest) {
         if (field.text.size() <= longest) return;
-        diagnostics_.error(field.place, name + " has " + std::to_string(field.text.size()) +
-                                            " bytes, at most " + std::to_string(longest) + " fit");
+        diagnostics_.error(field.place, say::fieldIsTooLong,
+                           {header_.shownName(name), field.text.size(), longest});
     }
 
     std::optional<std::int32_t> number(std::string_view name) {
         const TextLine* field = header_.find(name);
         if (!field) return std::nullopt;
         const auto value = parseNumber(field->text);
-        if (!value) diagnostics_.error(field->place, "not a number: " + inQuotes(field->text));
+        if (!value) diagnostics_.error(field->place, say::notANumber, {platform::toUtf8(field->text)});
         return value;
     }
 

@@ -32,12 +32,16 @@ class PageHeader {
     /// Like `find`, but a missing or empty field is reported.
     const TextLine* require(std::string_view name, Diagnostics& diagnostics) const;
 
+    /// A field's name in UTF-8, in Greek when the header has Greek names.
+    std::string shownName(std::string_view name) const;
+
   private:
     explicit PageHeader(SourcePlace end) : end_(std::move(end)) {}
 
     void add(const TextLine& line, Diagnostics& diagnostics);
 
     std::map<std::string, TextLine, std::less<>> fields_;
+    bool isGreek_ = false;
     /// The line `---`, where a missing field is reported.
     SourcePlace end_;
 };

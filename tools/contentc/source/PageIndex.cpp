@@ -2,9 +2,23 @@
 
 #include <algorithm>
 
+#include "platform/text/CodePage1253.h"
+#include "tools/contentc/source/HeadMessages.h"
 #include "tools/contentc/source/NameKey.h"
 
 namespace contentc {
+namespace {
+
+std::vector<std::string> topicTitles(const std::vector<PageSource>& pages, const formats::Section& section) {
+    std::vector<std::string> titles;
+    for (const PageSource& page : pages) {
+        if (page.section == &section && page.kind != PageKind::entry)
+            titles.push_back(platform::toUtf8(page.title.text));
+    }
+    return titles;
+}
+
+}  // namespace
 
 PageIndex::PageIndex(const std::vector<PageSource>& pages) {
     for (const PageSource& page : pages) {
@@ -30,6 +44,12 @@ PageIndex::Found PageIndex::find(std::string_view name, const PageSource& from) 
     return {pages.front(), isAmbiguous};
 }
 
+std::vector<std::string> PageIndex::titles() const {
+    std::vector<std::string> titles;
+    for (const auto& [number, page] : byNumber_) titles.push_back(platform::toUtf8(page->title.text));
+    return titles;
+}
+
 void resolveTopics(std::vector<PageSource>& pages, Diagnostics& diagnostics) {
     const auto isTopic = [](const PageSource& page, const PageSource& entry) {
         return page.section == entry.section && page.kind != PageKind::entry;
@@ -46,9 +66,10 @@ void resolveTopics(std::vector<PageSource>& pages, Diagnostics& diagnostics) {
             entry.topic = topic->number;
             continue;
         }
-        const std::string name = number ? entry.topicName.text : inQuotes(entry.topicName.text);
-        diagnostics.error(entry.topicName.place,
-                          "section '" + std::string(entry.section->key) + "' has no topic " + name);
+        const std::string name = platform::toUtf8(entry.topicName.text);
+        Diagnostic& error = diagnostics.error(entry.topicName.place, say::unknownTopic,
+                                              {entry.section->key, number ? name : '\'' + name + '\''});
+        if (!number) error.suggestNearest(name, topicTitles(pages, *entry.section));
     }
 }
 

@@ -25,6 +25,9 @@ class PageIndex {
     /// `from` belongs to are preferred, and of these the topic.
     Found find(std::string_view name, const PageSource& from) const;
 
+    /// The titles of all pages, in UTF-8.
+    std::vector<std::string> titles() const;
+
   private:
     std::map<std::int32_t, const PageSource*> byNumber_;
     std::map<std::string, std::vector<const PageSource*>, std::less<>> byTitle_;

@@ -4,6 +4,7 @@
 
 #include "formats/PageNumber.h"
 #include "formats/TitleLists.h"
+#include "tools/contentc/source/HeadMessages.h"
 #include "tools/contentc/source/HeadReader.h"
 
 namespace contentc {
@@ -35,22 +36,20 @@ std::optional<std::int32_t> numberOf(const SourceFile& file, Diagnostics& diagno
     const std::string digits = isMarkdown(file) ? stem.substr(0, stem.find('-')) : stem;
     const auto number = parseNumber(digits);
     if (number && formats::pagePath(*number) && std::to_string(*number) == digits) return number;
-    diagnostics.error(file.place(), "file name is not a page number: '" + stem + '\'');
+    diagnostics.error(file.place(), say::notAPageNumber, {stem});
     return std::nullopt;
 }
 
 /// Reports a number that does not suit the kind: start pages have fixed numbers, entries item codes.
 void checkNumber(const PageSource& page, Diagnostics& diagnostics) {
     const bool isStart = page.number == page.section->startPage;
-    const std::string number = std::to_string(page.number);
     if (page.kind == PageKind::start && !isStart) {
-        diagnostics.error(page.place, "the start page of this section is " +
-                                          std::to_string(page.section->startPage) + ", not " + number);
+        diagnostics.error(page.place, say::otherStartPage, {page.section->startPage, page.number});
     } else if (page.kind != PageKind::start && isStart) {
-        diagnostics.error(page.place, "page " + number + " must be of kind 'start'");
+        diagnostics.error(page.place, say::mustBeStartPage, {page.number});
     } else if (page.kind == PageKind::entry && (!formats::titleListFile(formats::listNumberOf(page.number)) ||
                                                 formats::entryNumberOf(page.number) < 1)) {
-        diagnostics.error(page.place, "entry " + number + " belongs to no title list");
+        diagnostics.error(page.place, say::entryOfNoList, {page.number});
     }
 }
 

@@ -30,8 +30,16 @@ bool isLetter(char c) {
 constexpr char32_t loweredZero = U'\u2080';
 constexpr char32_t loweredNine = U'\u2089';
 
-/// The character with a number, a blank when the code page does not have it. A lowered digit becomes a plain
-/// one.
+/// Latin letters with an accent, which the code page does not have, by their plain letters.
+constexpr char32_t firstAccented = 0xC0;
+constexpr std::string_view plainLetters =
+    "AAAAAAACEEEEIIIIDNOOOOO OUUUUYTsaaaaaaaceeeeiiiidnooooo ouuuuyty"
+    "AaAaAaCcCcCcCcDdDdEeEeEeEeEeGgGgGgGgHhHhIiIiIiIiIiIiJjKkkLlLlLlLlLlNnNnNnnNnOoOoOoOoRrRrRrSsSsSsSsTtTtTt"
+    "UuUuUuUuUuUuWwYyYZzZzZzs";
+static_assert(plainLetters.size() == 0x180 - firstAccented);
+
+/// The character with a number, a blank when the code page has nothing like it. A lowered digit becomes a
+/// plain one, and a letter with an accent the letter without it.
 char characterOf(std::string_view digits) {
     const bool isHexadecimal = digits.starts_with('x') || digits.starts_with('X');
     if (isHexadecimal) digits.remove_prefix(1);
@@ -40,7 +48,17 @@ char characterOf(std::string_view digits) {
     if (number >= loweredZero && number <= loweredNine)
         return static_cast<char>('0' + (number - loweredZero));
     const int byte = number < 0x10000 ? platform::codepage::fromUnicode(number) : -1;
+    if (byte < 0 && number >= firstAccented && number < firstAccented + plainLetters.size())
+        return plainLetters[number - firstAccented];
     return byte < 0x20 ? ' ' : static_cast<char>(byte);
+}
+
+/// The letter of an entity such as `egrave`; a blank for all others.
+char letterNamed(std::string_view name) {
+    constexpr std::array<std::string_view, 8> accents{"grave", "acute", "circ",  "tilde",
+                                                      "uml",   "ring",  "cedil", "slash"};
+    const bool isLetter = std::ranges::find(accents, name.substr(1)) != accents.end();
+    return isLetter ? name.front() : ' ';
 }
 
 constexpr std::string_view navigation = "<nav";
@@ -99,7 +117,7 @@ class TextExtraction {
             return;
         }
         const std::string_view name = rest_.substr(1, end - 1);
-        text_.push_back(name.starts_with('#') ? characterOf(name.substr(1)) : ' ');
+        text_.push_back(name.starts_with('#') ? characterOf(name.substr(1)) : letterNamed(name));
         rest_.remove_prefix(end + 1);
     }
 

@@ -4,7 +4,9 @@
 #include <cstdint>
 #include <set>
 
+#include "platform/text/CodePage1253.h"
 #include "platform/text/GreekLiteral.h"
+#include "tools/contentc/source/HeadMessages.h"
 #include "tools/contentc/source/NameKey.h"
 
 namespace contentc {
@@ -29,16 +31,13 @@ void checkDefinition(const TermSource& term, Diagnostics& diagnostics) {
         ++line;
         shown += text.size() + (shown > 0 ? lineEndSize : 0);
         if (text.size() <= maxLine) continue;
-        diagnostics.error({term.place.file, line},
-                          "line is longer than " + std::to_string(maxLine) + " bytes");
+        diagnostics.error({term.place.file, line}, say::lineIsTooLong, {maxLine});
     }
-    if (shown < minDefinition)
-        diagnostics.error(term.place, "definition is missing or too short to be shown");
+    if (shown < minDefinition) diagnostics.error(term.place, say::definitionIsTooShort);
 }
 
 void checkTerm(const TermSource& term, Diagnostics& diagnostics) {
-    if (term.term.size() > maxTerm)
-        diagnostics.error(term.place, "term is longer than " + std::to_string(maxTerm) + " bytes");
+    if (term.term.size() > maxTerm) diagnostics.error(term.place, say::termIsTooLong, {maxTerm});
     checkDefinition(term, diagnostics);
 }
 
@@ -74,7 +73,7 @@ class MarkdownTerms {
             } else if (text.empty()) {
                 inParagraph_ = false;
             } else if (terms_.empty()) {
-                diagnostics_.error(line.place, "a term begins with a line '# NAME | FORM | FORM'");
+                diagnostics_.error(line.place, say::termBegins);
             } else {
                 addText(text);
             }
@@ -97,7 +96,7 @@ class MarkdownTerms {
                 term.forms.push_back(name);
             }
         }
-        if (term.term.empty()) diagnostics_.error(place, "a term without a name");
+        if (term.term.empty()) diagnostics_.error(place, say::termWithoutName);
         terms_.push_back(std::move(term));
         inParagraph_ = false;
     }
@@ -190,6 +189,15 @@ const TermSource* TermIndex::find(std::string_view name) const {
     return found == byName_.end() ? nullptr : found->second;
 }
 
+std::vector<std::string> TermIndex::names() const {
+    std::vector<std::string> names;
+    for (const auto& [key, term] : byName_) {
+        names.push_back(platform::toUtf8(term->term));
+        for (const std::string& form : term->forms) names.push_back(platform::toUtf8(form));
+    }
+    return names;
+}
+
 void TermIndex::check(const std::vector<TermSource>& terms, Diagnostics& diagnostics) {
     std::map<std::string, const TermSource*> named;
     for (const TermSource& term : terms) {
@@ -198,8 +206,8 @@ void TermIndex::check(const std::vector<TermSource>& terms, Diagnostics& diagnos
         for (const std::string& name : names) {
             const auto [first, isNew] = named.try_emplace(nameKey(name), &term);
             if (isNew || first->second == &term) continue;
-            diagnostics.error(term.place, "another term is called " + inQuotes(name) + " too, in " +
-                                              first->second->place.file);
+            diagnostics.error(term.place, say::termIsCalledSoToo,
+                              {platform::toUtf8(name), first->second->place.file});
         }
     }
 }

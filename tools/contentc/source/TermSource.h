@@ -43,6 +43,9 @@ class TermIndex {
     /// The term with this name or form in code page 1253. Null when there is none.
     const TermSource* find(std::string_view name) const;
 
+    /// All names and forms, in UTF-8.
+    std::vector<std::string> names() const;
+
     /// Reports names and forms that two terms have.
     static void check(const std::vector<TermSource>& terms, Diagnostics& diagnostics);
 
