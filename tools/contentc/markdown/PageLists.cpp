@@ -38,7 +38,7 @@ HtmlList contentsOf(const Pages& pages, const std::string& heading, ListHeading 
         tagWithHeading(isShort ? "contents short" : "contents", heading, shown == ListHeading::own), "<UL>"};
     for (const PageSource* page : pages)
         lines.push_back("<LI>" + pageLink(*page) + summaryOf(*page) + "</LI>");
-    lines.push_back("</UL></NAV>");
+    lines.emplace_back("</UL></NAV>");
     return lines;
 }
 
@@ -129,6 +129,7 @@ HtmlList timeLine(const Content& content) {
     std::ranges::stable_sort(pages, {}, [](const PageSource* page) { return *page->year; });
     HtmlList lines{tagWithHeading("timeline", "Χρονολόγιο", false), "<OL>"};
     for (const PageSource* page : pages) {
+        // NOLINTNEXTLINE(bugprone-unchecked-optional-access): pages without a year were taken out
         lines.push_back("<LI><SPAN CLASS=\"year\">" + yearText(*page->year) + "</SPAN> " + pageLink(*page) +
                         summaryOf(*page) + "</LI>");
     }

@@ -34,7 +34,7 @@ const Message& reasonOf(const std::error_code& failed) {
 std::string takenExtension(const fs::path& path) {
     using Pair = std::pair<std::string_view, std::string_view>;
     constexpr std::array<Pair, 3> same{Pair{".jpeg", ".jpg"}, Pair{".sdf", ".mol"}, Pair{".markdown", ".md"}};
-    const std::string extension = platform::toLower(path.extension().string());
+    std::string extension = platform::toLower(path.extension().string());
     for (const auto& [other, taken] : same) {
         if (extension == other) return std::string(taken);
     }
