@@ -4,7 +4,7 @@
 // `covalent` and `space` are common table values (Cordero et al. 2008; Bondi 1964, Mantina et al. 2009).
 // The Greek names come as `elementNames` (element-names.js), made from the table of elements.
 
-const elementLooks = Object.fromEntries([
+const elementLooks = new Map([
   ['H', '#f4f4f4', 0.26, 0.31, 1.10], ['He', '#c9f5f5', 0.30, 0.28, 1.40], ['Li', '#c886f5', 0.50, 1.28, 1.81],
   ['B', '#ffb5a8', 0.40, 0.84, 1.92], ['C', '#8c8f94', 0.38, 0.76, 1.70], ['N', '#3f5ff5', 0.37, 0.71, 1.55],
   ['O', '#ee2a1c', 0.36, 0.66, 1.52], ['F', '#8fdd55', 0.34, 0.57, 1.47], ['Ne', '#9fe0ee', 0.34, 0.58, 1.54],
@@ -18,13 +18,13 @@ const elementLooks = Object.fromEntries([
   ['Hg', '#b8b8d0', 0.56, 1.32, 1.55], ['Pb', '#6f7480', 0.58, 1.46, 2.02],
 ].map(([symbol, colour, ball, covalent, space]) => [symbol, { colour, ball, covalent, space }]));
 const otherLook = { colour: '#d977d9', ball: 0.50, covalent: 1.50, space: 2.00 };
-const lookOf = element => elementLooks[element] ?? otherLook;
+const lookOf = element => elementLooks.get(element) ?? otherLook;
 
 /// "FE" or "fe" as the symbol is written; deuterium counts as hydrogen. Empty for what is no symbol.
 function symbolOf(text) {
   const symbol = text.charAt(0).toUpperCase() + text.slice(1).toLowerCase();
   if (symbol === 'D' || symbol === 'T') return 'H';
-  return symbol in elementNames ? symbol : '';
+  return Object.hasOwn(elementNames, symbol) ? symbol : '';
 }
 
-const nameOf = element => elementNames[element] ?? element;
+const nameOf = element => Object.hasOwn(elementNames, element) ? elementNames[element] : element;

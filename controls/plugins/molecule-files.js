@@ -59,9 +59,9 @@ function readV3000(lines) {
     if (words[0] === 'BEGIN') block = words[1];
     else if (words[0] === 'END') block = '';
     else if (block === 'ATOM') {
+      if (words.length < 5) throw new Error('cut short');
       indexes.set(words[0], atoms.length);
       atoms.push({ element: symbolOf(words[1]) || words[1], at: words.slice(2, 5).map(number) });
-      if (words.length < 5) throw new Error('cut short');
     } else if (block === 'BOND') {
       bonds.push({ a: indexes.get(words[2]), b: indexes.get(words[3]), order: number(words[1]) });
     }

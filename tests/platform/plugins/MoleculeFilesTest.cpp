@@ -126,6 +126,16 @@ TEST_F(MoleculeFiles, ThatAreBrokenSaySo) {
     EXPECT_EQ(page().pluginPicture(plugin()), "") << "a message is no picture";
 }
 
+// Drawing ended at an atom whose element has the name of something that every JavaScript object has.
+TEST_F(MoleculeFiles, OfElementsThatAreNoneAreDrawn) {
+    for (const char* element : {"constructor", "__proto__"}) {
+        show({"a.mol", "\n\n\n  0  0  0     0  0            999 V3000\nM  V30 BEGIN ATOM\nM  V30 1 " +
+                           std::string(element) +
+                           " 0 0 -3 0\nM  V30 2 N 0 0 0 0\nM  V30 END ATOM\nM  END\n"});
+        EXPECT_TRUE(runUntil([&] { return count(frame, isBlue) > 500; })) << element;
+    }
+}
+
 // Bonds were looked for between all of them, which took minutes.
 TEST_F(MoleculeFiles, OfManyAtomsAtOnePlaceAreShownSoon) {
     std::string atoms = "80000\n\n";
