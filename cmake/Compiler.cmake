@@ -10,8 +10,8 @@ if(KALYXO_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
     # The browser engine is built without run-time type information, which the check of virtual tables needs.
     add_compile_options(-fno-sanitize=vptr)
-    # The checks that the sanitizers add make the compiler see variants read before they are set.
-    add_compile_options(-Wno-maybe-uninitialized)
+    # The checks that the sanitizers add make GCC see variants read before they are set.
+    add_compile_options($<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
     add_link_options(-fsanitize=address,undefined)
 endif()
 
