@@ -32,11 +32,6 @@ bool swallows(const std::optional<MSG>& message) {
 
 bool isKey(QEvent::Type type) { return type == QEvent::KeyPress || type == QEvent::KeyRelease; }
 
-bool isBlockedByDialog(const QWidget& window) {
-    const QWidget* const modal = QApplication::activeModalWidget();
-    return modal && modal != &window && !modal->isAncestorOf(&window);
-}
-
 /// Delivers the event to the window that has captured the mouse; false when none has.
 bool deliverCaptured(const QEvent& event) {
     const HWND window = capturingWindow();
@@ -174,6 +169,11 @@ class MessageFilter : public QObject {
 };
 
 }  // namespace
+
+bool isBlockedByDialog(const QWidget& widget) {
+    const QWidget* const modal = QApplication::activeModalWidget();
+    return modal && modal != &widget && !modal->isAncestorOf(&widget);
+}
 
 void setInputHooks(InputHooks hooks) { currentHooks = std::move(hooks); }
 

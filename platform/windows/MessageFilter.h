@@ -5,6 +5,8 @@
 
 #include "platform/base/Messages.h"
 
+class QWidget;
+
 /// All input of the program passes through here, whichever widget it is for, even widgets of hosted
 /// components and of the web engine.
 namespace platform {
@@ -23,6 +25,9 @@ void setInputHooks(InputHooks hooks);
 
 /// Starts to watch the events of the current QApplication. Later calls do nothing.
 void installMessageFilter();
+
+/// Whether a modal dialog keeps input from a widget.
+bool isBlockedByDialog(const QWidget& widget);
 
 /// The modifier keys of the input message that is being handled.
 Qt::KeyboardModifiers inputModifiers();

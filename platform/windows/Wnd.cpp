@@ -91,6 +91,11 @@ void CWnd::EnableWindow(bool enable) {
     if (QWidget* const widget = widgetOf(*this)) widget->setEnabled(enable);
 }
 
+bool CWnd::IsWindowEnabled() const {
+    const QWidget* const widget = widgetOf(*this);
+    return widget && widget->isEnabled() && !isBlockedByDialog(*widget);
+}
+
 void CWnd::MoveWindow(const CRect& rect) {
     if (WindowWidget* const widget = WindowWidget::of(*this)) return widget->place(toQt(rect));
     QWidget* const control = widgetOf(*this);

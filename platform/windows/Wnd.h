@@ -59,6 +59,9 @@ class CWnd : public CCmdTarget {
     bool IsWindowVisible() const;
     /// A disabled window takes no input.
     void EnableWindow(bool enable = true);
+    /// Whether it takes input: not while it is disabled, or a modal dialog of the program keeps input from
+    /// it.
+    bool IsWindowEnabled() const;
     /// Moves and sizes the window: in the parent's client area, or for a top-level window its outer rectangle
     /// on the screen.
     void MoveWindow(const CRect& rect);

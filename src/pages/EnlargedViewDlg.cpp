@@ -54,13 +54,7 @@ CEnlargedViewDlg::CEnlargedViewDlg(EnlargedViewMode mode, std::string address, s
     : CDialog(IDD_ENLARGED_VIEW),
       m_mode(mode),
       m_strAddress(std::move(address)),
-      m_strCaption(std::move(caption)) {
-    ++s_nOpen;
-}
-
-CEnlargedViewDlg::~CEnlargedViewDlg() { --s_nOpen; }
-
-bool CEnlargedViewDlg::IsOpen() { return s_nOpen > 0; }
+      m_strCaption(std::move(caption)) {}
 
 const MessageMap* CEnlargedViewDlg::GetMessageMap() const {
     static constexpr MessageMapEntry kEntries[] = {

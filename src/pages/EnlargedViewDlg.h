@@ -27,10 +27,6 @@ class CEnlargedViewDlg : public platform::CDialog {
   public:
     /// `address` is the cache folder, or the address of the page.
     CEnlargedViewDlg(EnlargedViewMode mode, std::string address, std::string caption);
-    ~CEnlargedViewDlg() override;
-
-    /// Whether such a window is open: a page in it may ask for another, which is not to lie over it.
-    static bool IsOpen();
 
     static const platform::CRuntimeClass runtimeClass;
     const platform::CRuntimeClass& GetRuntimeClass() const override { return runtimeClass; }
@@ -43,8 +39,6 @@ class CEnlargedViewDlg : public platform::CDialog {
 
   private:
     bool OnEraseBkgnd(platform::CDC& dc);
-
-    inline static int s_nOpen = 0;
 
     EnlargedViewMode m_mode;
     std::string m_strAddress;

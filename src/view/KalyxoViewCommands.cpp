@@ -134,7 +134,8 @@ void CKalyxoView::showPlainPage(const std::string& address) {
 }
 
 void CKalyxoView::ShowEnlargedView() {
-    if (CEnlargedViewDlg::IsOpen()) return;
+    // A page asks for it with a press that may have come before another dialog opened.
+    if (!IsWindowEnabled()) return;
     const PageAddress& place = m_navigator.Address();
     std::string title = place.itemCode != 0 ? m_components.select.GetItemTitle(place.itemCode)
                                             : m_components.select.GetPageTitle(place.pageId);
