@@ -71,15 +71,20 @@ FileHandle FileHandle::openForReading(const std::string& path) {
     return FileHandle(openRetrying(path, O_RDONLY)).onlyIfRegular();
 }
 
-FileHandle FileHandle::openBeneath(const std::string& folder, const std::string& relativePath) {
+FileHandle FileHandle::openByRealPath(const FileHandle& root, const std::string& path) {
+    FileHandle file = openForReading(path);
+    if (file && !file.liesBelow(root)) file.close();
+    return file;
+}
+
+FileHandle FileHandle::openBeneath(const std::string& folder, const std::string& relativePath, BeneathBy by) {
     const FileHandle root(openRetrying(folder, O_RDONLY | O_DIRECTORY));
     if (!root) return {};
+    const std::string path = folder + '/' + relativePath;
+    if (by == BeneathBy::realPath) return openByRealPath(root, path);
     FileHandle file(openInside(root.descriptor_, relativePath));
-    if (!file && (errno == ENOSYS || errno == EPERM)) {
-        file = openForReading(folder + '/' + relativePath);
-        if (file && !file.liesBelow(root)) file.close();
-    }
-    return std::move(file).onlyIfRegular();
+    const bool isUnknown = !file && (errno == ENOSYS || errno == EPERM);
+    return isUnknown ? openByRealPath(root, path) : std::move(file).onlyIfRegular();
 }
 
 FileHandle FileHandle::openForWriting(const std::string& path, bool create) {

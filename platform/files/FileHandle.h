@@ -27,9 +27,14 @@ class FileHandle {
     /// has that name (a folder, a pipe, a device); never waits for one.
     static FileHandle openForReading(const std::string& path);
 
+    /// What finds out whether a file really lies below a folder: the host while it opens the file or, where
+    /// the host cannot, the real paths of both once it is open.
+    enum class BeneathBy { host, realPath };
+
     /// The same for a path below a folder: the file must really lie there, so a symbolic link or `..` that
     /// leads out of the folder gives a closed handle. The folder itself may be a link.
-    static FileHandle openBeneath(const std::string& folder, const std::string& relativePath);
+    static FileHandle openBeneath(const std::string& folder, const std::string& relativePath,
+                                  BeneathBy by = BeneathBy::host);
 
     /// Opens a file for writing and empties it; creates a missing one only when `create` says so. A closed
     /// handle when that fails; never waits for the other end of a pipe.
@@ -70,6 +75,7 @@ class FileHandle {
   private:
     explicit FileHandle(int descriptor) : descriptor_(descriptor) {}
 
+    static FileHandle openByRealPath(const FileHandle& root, const std::string& path);
     FileHandle onlyIfRegular() &&;
     bool liesBelow(const FileHandle& folder) const;
 

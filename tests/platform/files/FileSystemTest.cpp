@@ -183,6 +183,30 @@ TEST_F(FileSystemTest, NoLinkLeadsOutOfTheContentFolder) {
     EXPECT_TRUE(files.openForReading("C:\\datas\\secret"));
 }
 
+TEST_F(FileSystemTest, OnlyRegularFilesBelowAFolderOpenWhicheverWayTheHostKnows) {
+    folder.write("data/sub/a.htm", "page");
+    folder.write("datas/secret", "outside");
+    ASSERT_EQ(::mkfifo((folder / "data/pipe").c_str(), 0600), 0);
+    fs::create_symlink("sub/a.htm", folder / "data/inside");
+    fs::create_symlink("../datas/secret", folder / "data/up");
+    fs::create_symlink("../datas", folder / "data/outside");
+    fs::create_symlink("/dev/zero", folder / "data/device");
+    fs::create_symlink("data", folder / "named");
+    const std::pair<const char*, bool> cases[] = {
+        {"sub/a.htm", true}, {"sub/../sub/a.htm", true}, {"inside", true}, {"none", false},
+        {"sub", false},      {"../datas/secret", false}, {"up", false},    {"outside/secret", false},
+        {"pipe", false},     {"device", false},          {"loop", false}};
+    fs::create_symlink("loop", folder / "data/loop");
+    for (const auto by : {FileHandle::BeneathBy::host, FileHandle::BeneathBy::realPath}) {
+        for (const char* const root : {"data", "named"}) {
+            for (const auto& [name, opens] : cases) {
+                EXPECT_EQ(static_cast<bool>(FileHandle::openBeneath(folder / root, name, by)), opens)
+                    << root << '/' << name << (by == FileHandle::BeneathBy::host ? "" : ", by real path");
+            }
+        }
+    }
+}
+
 TEST_F(FileSystemTest, MountedFolderTakesThePlaceOfWhatIsThere) {
     folder.write("c/Kalyxo/cache", "in the way");
     folder.write("elsewhere/1.htm", "page");
