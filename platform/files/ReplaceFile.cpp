@@ -42,8 +42,8 @@ class Replacement {
     static fs::path temporaryName(const fs::path& target) {
         static std::atomic<unsigned> counter{0};
         fs::path name = target;
-        name += std::filesystem::path('.' + std::to_string(::getpid()) + '-' + std::to_string(counter++) +
-                                      ".tmp");
+        name += fs::path(
+            ('.' + std::to_string(::getpid()) + '-' + std::to_string(counter++)).append(temporaryEnding));
         return name;
     }
 

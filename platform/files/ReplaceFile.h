@@ -7,6 +7,9 @@
 
 namespace platform {
 
+/// What the names of the temporary files below end in. One stays when the process is ended by force.
+inline constexpr std::string_view temporaryEnding = ".tmp";
+
 /// Gives a file the new content all at once: a temporary file beside it is written, forced to the medium and
 /// renamed over it, so that a crash or a full disk leaves the old file or the new one, never a part. Creates
 /// a missing file. Returns false, with the old file as it was, when any of that fails or the file is

@@ -28,7 +28,8 @@ class PageCache {
   public:
     explicit PageCache(const platform::FileSystem& files) : m_files(files) {}
 
-    /// Creates the folder; a failure shows with the first page. While another program uses the folder, this
+    /// Creates the folder; a failure shows with the first page. What a former program left half written there
+    /// goes. While another program uses the folder, this
     /// one uses a folder with a number behind the name, which is removed at the end.
     void Open(CacheLocation location);
 
@@ -47,6 +48,7 @@ class PageCache {
   private:
     /// Makes it the cache folder unless another program has it.
     bool take(const CacheLocation& location);
+    void deleteHalves() const;
     std::string numbered(int number) const;
     std::string redirectPath() const;
     void deletePagesBelow(int limit);

@@ -42,5 +42,16 @@ TEST(PageCacheTest, OutsideTheInstalledFolderTheLastProgramOutRemovesNothingOfOt
     EXPECT_EQ(drives.get("C:\\klyx2\\1.htm"), "of the second");
 }
 
+TEST(PageCacheTest, WhatAKilledProgramLeftHalfWrittenGoesAtTheNextStart) {
+    TestDrives drives;
+    for (const char* name : {"chime.mol.4711-0.tmp", "chime.mol", "1.htm"}) {
+        drives.put("C:\\Kalyxo\\cache\\" + std::string(name), "x");
+    }
+    PageCache cache(drives.files);
+    cache.Open(LocateCache("C:\\Kalyxo", "C:\\", false));
+    EXPECT_FALSE(drives.has("C:\\Kalyxo\\cache\\chime.mol.4711-0.tmp"));
+    EXPECT_TRUE(drives.has("C:\\Kalyxo\\cache\\1.htm"));
+}
+
 }  // namespace
 }  // namespace kalyxo
