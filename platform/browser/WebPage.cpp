@@ -15,6 +15,7 @@
 
 #include "platform/browser/BrowserPolicy.h"
 #include "platform/browser/BrowserProfile.h"
+#include "platform/browser/ClipboardGuard.h"
 #include "platform/browser/ContentLimits.h"
 #include "platform/browser/DosUrl.h"
 #include "platform/browser/UnreachablePage.h"
@@ -74,6 +75,7 @@ void WebPage::load(const QUrl& url) {
 }
 
 void WebPage::copySelection() {
+    ClipboardGuard::instance().expectCopy();
     triggerAction(Copy);
     // The engine copies in a process of its own; the clipboard tells when that is done.
     if (hasSelection()) copyLimit_.start();

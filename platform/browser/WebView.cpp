@@ -13,6 +13,7 @@
 #include <array>
 #include <cmath>
 
+#include "platform/browser/ClipboardGuard.h"
 #include "platform/input/TabOrder.h"
 #include "platform/qt/QtChild.h"
 
@@ -92,6 +93,7 @@ void WebView::watchFocus(QWidget* winner) {
 /// would move it on as the tabulator does, into a link of the page.
 bool WebView::eventFilter(QObject* engineWidget, QEvent* event) {
     presses_.see(*event);
+    ClipboardGuard::instance().see(*event);
     QWidget* const focus = QApplication::focusWidget();
     if (event->type() == QEvent::Hide && focus == engineWidget && isVisible()) {
         focus->clearFocus();
