@@ -6,7 +6,6 @@
 #include <QKeySequence>
 #include <QMimeData>
 #include <QWebEngineView>
-#include <array>
 #include <chrono>
 #include <utility>
 
@@ -19,9 +18,7 @@ constexpr std::chrono::seconds timeForAnswer{7};
 /// How long the engine may take to copy.
 constexpr std::chrono::seconds copyTime{1};
 
-/// What is kept of the clipboard. Each costs a question to the program that the content comes from.
-constexpr std::array<QLatin1StringView, 3> keptFormats = {
-    QLatin1StringView("text/plain"), QLatin1StringView("text/html"), QLatin1StringView("image/png")};
+constexpr auto pngType = QLatin1StringView("image/png");
 
 bool isPress(const QEvent& event) {
     switch (event.type()) {
@@ -84,10 +81,11 @@ void ClipboardGuard::keepContent() {
     kept_ = std::make_unique<QMimeData>();
     const QMimeData* const content = QApplication::clipboard()->mimeData();
     if (!content) return;
-    for (const auto format : keptFormats) {
-        const QString name(format);
-        if (content->hasFormat(name)) kept_->setData(name, content->data(name));
-    }
+    // Each costs a question to the program that the content comes from.
+    if (content->hasText()) kept_->setText(content->text());
+    if (content->hasHtml()) kept_->setHtml(content->html());
+    const QString png(pngType);
+    if (content->hasFormat(png)) kept_->setData(png, content->data(png));
     // Shared and not copied where it comes from this program.
     if (isOwnWrite() && content->hasImage()) kept_->setImageData(content->imageData());
 }

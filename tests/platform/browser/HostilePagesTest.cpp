@@ -7,45 +7,91 @@
 #include <QTcpServer>
 #include <QTest>
 #include <QUdpSocket>
+#include <algorithm>
+#include <string_view>
 
 #include "platform/browser/BrowserPolicy.h"
 #include "platform/qt/WindowTable.h"
 #include "tests/support/browser/BrowserMachine.h"
+#include "tests/support/browser/Footprint.h"
 
 using namespace platform;
 
 namespace {
 
-/// What each page of the folder `hostile` attempts, and what it says came of it. What may never come of any
-/// is checked for all: see Hostile.
+/// What a page of the folder `hostile` attempts, what it says came of it, and what holds it. What may never
+/// come of any is checked for all: see Hostile. Attempts by damaged files stand in the tests of their rooms.
 struct Attempt {
+    const char* what;
     const char* page;
-    const char* said;  // text of the page; null where it is of no account
+    const char* said;  // part of the page's text; null where it says nothing
     const char* heldBy;
 };
 
+constexpr const char* onePath = "DosUrl: the path that is judged is the path that is opened";
+constexpr const char* otherPlace = "RequestPolicy";
+constexpr const char* realPath = "FileHandle::openBeneath";
+constexpr const char* engineSwitch = "a switch of the engine";
+
+// Lines of one page stand together; it is opened once.
 constexpr Attempt attempts[] = {
-    {"paths.htm",
-     "%23%2F..%2F..%2Fcset.ini: refused %3F%2F..%2F..%2Fcset.ini: refused ..%5Ccset.ini: refused "
-     "%2E%2E/cset.ini: refused ../cset.ini: refused z:/planted.txt: refused d:/link.txt: refused "
-     "d:/folder/planted.txt: refused d:/pipe: refused "
-     "file:///etc/hostname: refused "
-     "qrc:/plugins/video.html: refused own: own",
-     "RequestPolicy, and FileHandle opens what lies in the data folder"},
-    {"network.htm", nullptr, "RequestPolicy, and the engine finds no host"},
-    {"peers.htm", "interface: undefined undefined frame: undefined",
-     "ContentLimits and a switch of the engine"},
-    {"dialogs.htm", "confirm: true prompt: null save file: undefined", "WebPage and WebView"},
-    {"stay.htm", "", "WebPage answers that the page may be left"},
-    {"endless.htm", nullptr, "PageArrival ends the process"},
-    {"endless-alerts.htm", nullptr, "PageArrival ends the process"},
-    {"console.htm", nullptr, "WebPage logs so many messages only"},
-    {"clipboard.htm", "PLANTED command: false false interface: undefined", "ContentLimits, ClipboardGuard"},
-    {"clipboard-frame.htm", nullptr, "ClipboardGuard"},
-    {"enlarge.htm", nullptr, "the program is told of what follows a press only"},
-    {"tip.htm", nullptr, "WebView shows tips as plain text"},
-    {"storage.htm", "storage: none cookie: none", "settings of the profile"},
+    // Files of other folders.
+    {"an escaped number sign", "paths.htm", "%23%2F..%2F..%2Fcset.ini: refused", onePath},
+    {"an escaped question mark", "paths.htm", "%3F%2F..%2F..%2Fcset.ini: refused", onePath},
+    {"an escaped backslash", "paths.htm", "..%5Ccset.ini: refused", onePath},
+    {"escaped dots", "paths.htm", "%2E%2E/cset.ini: refused", onePath},
+    {"dots", "paths.htm", " ../cset.ini: refused", onePath},
+    {"another drive", "paths.htm", "z:/planted.txt: refused", otherPlace},
+    {"a link to a file", "paths.htm", "d:/link.txt: refused", realPath},
+    {"a link to a folder", "paths.htm", "d:/folder/planted.txt: refused", realPath},
+    {"a pipe", "paths.htm", "d:/pipe: refused", "FileHandle opens regular files only"},
+    {"a file of the host", "paths.htm", "file:///etc/hostname: refused", otherPlace},
+    {"a resource of the program", "paths.htm", "qrc:/plugins/video.html: refused", otherPlace},
+    {"(its own file)", "paths.htm", "own: own", "nothing: pages may"},
+    // The network.
+    {"pictures, frames, films and forms", "network.htm", nullptr, otherPlace},
+    {"hints to connect", "network.htm", nullptr, "the engine finds no host"},
+    {"beacons, sockets, event streams", "network.htm", nullptr, otherPlace},
+    {"a request", "network.htm", "request: refused", otherPlace},
+    {"a worker", "network.htm", nullptr, otherPlace},
+    {"a worker of all pages", "network.htm", "shared worker: ReferenceError", engineSwitch},
+    {"other transports", "network.htm", "web transport: ReferenceError", engineSwitch},
+    {"connections between browsers", "peers.htm", "interface: undefined undefined", "ContentLimits"},
+    {"the same in a frame", "peers.htm", "frame: undefined", "ContentLimits"},
+    {"the same in a frame without a document", "peers.htm", nullptr, engineSwitch},
+    // Windows and commands of the program.
+    {"a question", "dialogs.htm", "confirm: true", "WebPage"},
+    {"a question for a text", "dialogs.htm", "prompt: null", "WebPage"},
+    {"the file system", "dialogs.htm", "save file: undefined", engineSwitch},
+    {"to choose a file, a colour, a printer", "dialogs.htm", nullptr, "WebPage, WebView"},
+    {"a download, the whole screen", "dialogs.htm", nullptr, "settings of the profile"},
+    {"to stay", "stay.htm", "", "WebPage answers that the page may be left"},
+    {"the enlarged view, by itself", "enlarge.htm", nullptr, "UserPress"},
+    {"a tip with a picture", "tip.htm", nullptr, "WebView shows tips as plain text"},
+    // Time and room.
+    {"a script without end", "endless.htm", nullptr, "PageArrival ends the process"},
+    {"alerts without end", "endless-alerts.htm", nullptr, "PageArrival ends the process"},
+    {"megabytes of messages", "console.htm", nullptr, "WebPage logs so many only"},
+    // What lasts.
+    {"to copy", "clipboard.htm", "command: false false", "ContentLimits"},
+    {"the interface to the clipboard", "clipboard.htm", "interface: undefined", "ContentLimits"},
+    {"to copy in frames, and with their command", "clipboard.htm", nullptr, "ClipboardGuard"},
+    {"to copy when a frame is clicked", "clipboard-frame.htm", nullptr, "ClipboardGuard"},
+    {"storage", "storage.htm", "storage: none", "settings of the profile"},
+    {"cookies", "storage.htm", "cookie: none", "settings of the profile"},
 };
+
+/// Megabytes that the engine's stores may take on the way through the table: some 40 in most runs.
+#ifdef __SANITIZE_ADDRESS__
+constexpr int roomToGrow = 400;  // what was freed is kept for a while
+#else
+constexpr int roomToGrow = 100;
+#endif
+
+/// Whether the page says anything; one that does not answer any more is not asked.
+bool saysAnything(std::string_view page) {
+    return std::ranges::any_of(attempts, [page](const Attempt& one) { return one.page == page && one.said; });
+}
 
 /// A machine with planted files, whose pages are prepared in C:\Kalyxo\cache from the data folder D:.
 class Hostile : public BrowserMachine {
@@ -111,20 +157,36 @@ class Hostile : public BrowserMachine {
         asked.clear();
     }
 
+    /// Opens a page, checks that nothing came of it and that the next page comes; what the page said.
+    std::string visit(const std::string& page) {
+        attempt(page);
+        const std::string said = saysAnything(page) ? text() : std::string();
+        expectNothingCameOfIt();
+        expectTheNextPageComes();
+        return said;
+    }
+
     QTcpServer tcp_;
     QUdpSocket udp_;
 };
 
 TEST_F(Hostile, PagesReadNothingSendNothingAndTakeNothingAway) {
-    for (const auto& [page, said, heldBy] : attempts) {
-        SCOPED_TRACE(std::string(page) + ", held by: " + heldBy);
-        attempt(page);
+    expectTheNextPageComes();
+    const Footprint before = footprintNow();
+    std::string_view shown;
+    std::string told;
+    for (const auto& [what, page, said, heldBy] : attempts) {
+        SCOPED_TRACE(std::string(page) + ": " + what + ", held by: " + heldBy);
+        if (page != shown) told = visit(page);
+        shown = page;
         if (said) {
-            EXPECT_EQ(text(), said);
+            EXPECT_NE(told.find(said), std::string::npos) << told;
         }
-        expectNothingCameOfIt();
-        expectTheNextPageComes();
     }
+    run(1000);
+    const Footprint after = footprintNow();
+    EXPECT_EQ(after.processes, before.processes);
+    EXPECT_LT(after.megabytes, before.megabytes + roomToGrow);
 }
 
 TEST_F(Hostile, PictureOfAPluginIsNoneThatAPageMakesUp) {
