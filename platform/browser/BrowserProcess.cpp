@@ -9,6 +9,7 @@
 #include <QLoggingCategory>
 #include <QWebEngineUrlScheme>
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <iterator>
 #include <string_view>
@@ -33,10 +34,13 @@ void registerDriveSchemes() {
     }
 }
 
-void switchSandboxOffForRoot() {
-    if (geteuid() != 0 || qEnvironmentVariableIsSet(sandboxVariable)) return;
-    qputenv(sandboxVariable, "1");
-    std::fputs("Started as root: the browser engine runs without its sandbox.\n", stderr);
+void setUpSandbox() {
+    const bool isRoot = ::geteuid() == 0;
+    const QByteArray flags = qgetenv(flagsVariable);
+    const auto missing = missingSandbox(isRoot, qEnvironmentVariableIsSet(sandboxVariable),
+                                        {flags.constData(), static_cast<std::size_t>(flags.size())});
+    std::fwrite(missing.data(), 1, missing.size(), stderr);
+    if (isRoot) qputenv(sandboxVariable, "1");
 }
 
 /// The engine's switch that lets it find these hosts only.
@@ -78,10 +82,20 @@ std::unique_ptr<Component> makeBrowser(ComponentSite& site, QWidget* container) 
 
 }  // namespace
 
+std::string_view missingSandbox(bool isRoot, bool isSwitchedOff, std::string_view flags) {
+    constexpr std::array switches = {"--no-sandbox", "--single-process", "--disable-namespace-sandbox",
+                                     "--disable-seccomp-filter-sandbox"};
+    if (isRoot) return "Started as root: the browser engine runs without its sandbox.\n";
+    if (isSwitchedOff) return "QTWEBENGINE_DISABLE_SANDBOX: the browser engine runs without its sandbox.\n";
+    const bool isGiven =
+        std::ranges::any_of(switches, [flags](const char* one) { return flags.find(one) != flags.npos; });
+    return isGiven ? "QTWEBENGINE_CHROMIUM_FLAGS: the browser engine runs without all of its sandbox.\n" : "";
+}
+
 void prepareProcess() {
     ComponentHost::addBuiltIn(std::string(WebBrowserComponent::classId), makeBrowser);
     registerDriveSchemes();
-    switchSandboxOffForRoot();
+    setUpSandbox();
     setEngineFlags();
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     // The engine lists its graphics set-up at every start without a screen.
