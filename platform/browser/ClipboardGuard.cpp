@@ -1,10 +1,9 @@
 #include "platform/browser/ClipboardGuard.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QKeyEvent>
 #include <QKeySequence>
-#include <QMimeData>
+#include <QMouseEvent>
 #include <QWebEngineView>
 #include <chrono>
 #include <utility>
@@ -17,6 +16,9 @@ namespace {
 constexpr std::chrono::seconds timeForAnswer{7};
 /// How long the engine may take to copy.
 constexpr std::chrono::seconds copyTime{1};
+
+/// Pixels; a letter is hardly wider.
+constexpr qreal dragDistance = 4;
 
 constexpr auto pngType = QLatin1StringView("image/png");
 
@@ -37,9 +39,10 @@ bool isPress(const QEvent& event) {
 
 /// Whether this program has written the clipboard. Qt's platforms without a screen do not tell, and know no
 /// other program.
-bool isOwnWrite() {
-    return QApplication::clipboard()->ownsClipboard() ||
-           QApplication::platformName() == QLatin1StringView("offscreen");
+bool isOwnWrite(QClipboard::Mode mode) {
+    const QClipboard& clipboard = *QApplication::clipboard();
+    const bool owns = mode == QClipboard::Clipboard ? clipboard.ownsClipboard() : clipboard.ownsSelection();
+    return owns || QApplication::platformName() == QLatin1StringView("offscreen");
 }
 
 /// Whether the widget is the engine's, below the view of a page.
@@ -63,59 +66,79 @@ ClipboardGuard& ClipboardGuard::instance() {
 }
 
 ClipboardGuard::ClipboardGuard() {
-    connect(QApplication::clipboard(), &QClipboard::dataChanged, this, &ClipboardGuard::changed);
+    const QClipboard* const clipboard = QApplication::clipboard();
+    connect(clipboard, &QClipboard::dataChanged, this, [this] { changed(copied_); });
+    connect(clipboard, &QClipboard::selectionChanged, this, [this] { changed(selected_); });
 }
 
 ClipboardGuard::~ClipboardGuard() = default;
 
 void ClipboardGuard::see(const QEvent& event) {
     if (!isPress(event)) return;
-    if (!kept_) keepContent();
+    if (!copied_.kept) copied_.keepContent();
+    if (!selected_.kept && QApplication::clipboard()->supportsSelection()) selected_.keepContent();
     pageMayWrite_.setRemainingTime(timeForAnswer);
-    if (copies(event)) expectCopy();
+    if (copies(event)) copied_.expectWrite();
+    if (selects(event)) selected_.expectWrite();
 }
 
-void ClipboardGuard::expectCopy() { userCopies_.setRemainingTime(copyTime); }
-
-void ClipboardGuard::keepContent() {
-    kept_ = std::make_unique<QMimeData>();
-    const QMimeData* const content = QApplication::clipboard()->mimeData();
-    if (!content) return;
-    // Each costs a question to the program that the content comes from.
-    if (content->hasText()) kept_->setText(content->text());
-    if (content->hasHtml()) kept_->setHtml(content->html());
-    const QString png(pngType);
-    if (content->hasFormat(png)) kept_->setData(png, content->data(png));
-    // Shared and not copied where it comes from this program.
-    if (isOwnWrite() && content->hasImage()) kept_->setImageData(content->imageData());
-}
-
-void ClipboardGuard::changed() {
-    if (isPagesWrite()) {
-        putBack();
-    } else {
-        kept_.reset();
+/// Text is selected by dragging, by clicking twice, and with the Shift key.
+bool ClipboardGuard::selects(const QEvent& event) {
+    if (event.type() == QEvent::KeyPress) {
+        const auto& key = static_cast<const QKeyEvent&>(event);
+        return key.matches(QKeySequence::SelectAll) || key.modifiers().testFlag(Qt::ShiftModifier);
     }
+    const auto* const mouse = dynamic_cast<const QMouseEvent*>(&event);
+    if (!mouse) return false;
+    if (event.type() == QEvent::MouseButtonPress) pressed_ = mouse->position();
+    const bool isDragged = event.type() == QEvent::MouseButtonRelease &&
+                           (mouse->position() - pressed_).manhattanLength() >= dragDistance;
+    return isDragged || event.type() == QEvent::MouseButtonDblClick ||
+           mouse->modifiers().testFlag(Qt::ShiftModifier);
 }
 
-bool ClipboardGuard::isPagesWrite() const {
-    if (!kept_ || pageMayWrite_.hasExpired() || !userCopies_.hasExpired() || !isOwnWrite()) return false;
+void ClipboardGuard::changed(Guarded& one) {
+    if (!isPagesWrite(one)) {
+        one.kept.reset();
+        return;
+    }
+    if (!std::exchange(told_, true)) qWarning("A page wrote the clipboard; it has its former content again.");
+    one.putBack();
+}
+
+bool ClipboardGuard::isPagesWrite(const Guarded& one) const {
+    if (!one.kept || pageMayWrite_.hasExpired() || !one.userWrites.hasExpired() || !isOwnWrite(one.mode))
+        return false;
     // Other parts of the program copy on their own, when the focus is there; and a page cannot copy a picture
     // alone.
     const QWidget* const focus = QApplication::focusWidget();
-    const QMimeData* const content = QApplication::clipboard()->mimeData();
+    const QMimeData* const content = QApplication::clipboard()->mimeData(one.mode);
     return (!focus || isInPage(*focus)) && content && (content->hasText() || !content->hasImage());
 }
 
-void ClipboardGuard::putBack() {
-    if (!std::exchange(told_, true)) qWarning("A page wrote the clipboard; it has its former content again.");
+void ClipboardGuard::Guarded::expectWrite() { userWrites.setRemainingTime(copyTime); }
+
+void ClipboardGuard::Guarded::keepContent() {
+    kept = std::make_unique<QMimeData>();
+    const QMimeData* const content = QApplication::clipboard()->mimeData(mode);
+    if (!content) return;
+    // Each costs a question to the program that the content comes from.
+    if (content->hasText()) kept->setText(content->text());
+    if (content->hasHtml()) kept->setHtml(content->html());
+    const QString png(pngType);
+    if (content->hasFormat(png)) kept->setData(png, content->data(png));
+    // Shared and not copied where it comes from this program.
+    if (isOwnWrite(mode) && content->hasImage()) kept->setImageData(content->imageData());
+}
+
+void ClipboardGuard::Guarded::putBack() {
     QClipboard& clipboard = *QApplication::clipboard();
     // Taken first: what is put back is a change too.
-    std::unique_ptr<QMimeData> former = std::move(kept_);
+    std::unique_ptr<QMimeData> former = std::move(kept);
     if (former->formats().isEmpty()) {
-        clipboard.clear();
+        clipboard.clear(mode);
     } else {
-        clipboard.setMimeData(former.release());
+        clipboard.setMimeData(former.release(), mode);
     }
     keepContent();
 }
