@@ -28,14 +28,19 @@ bool beginsAddress(std::string_view page, std::size_t at) {
     return at > 0 && std::string_view("\"'=(").find(page[at - 1]) != std::string_view::npos;
 }
 
+/// Put together anew: a page may hold the folder millions of times, and each change in place would move the
+/// rest.
 void escapeFolder(std::string& page, std::string_view folder) {
     const std::string with = escapedName(folder);
-    std::size_t at = page.find(folder);
-    while (at != std::string::npos) {
-        const bool isAddress = beginsAddress(page, at);
-        if (isAddress) page.replace(at, folder.size(), with);
-        at = page.find(folder, at + (isAddress ? with.size() : folder.size()));
+    std::string result;
+    std::size_t done = 0;
+    for (std::size_t at = page.find(folder); at != std::string::npos;
+         at = page.find(folder, at + folder.size())) {
+        if (!beginsAddress(page, at)) continue;
+        result.append(page, done, at - done).append(with);
+        done = at + folder.size();
     }
+    page = result.append(page, done);
 }
 
 }  // namespace

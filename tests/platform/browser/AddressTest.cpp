@@ -3,6 +3,7 @@
 #include <QUrl>
 
 #include "platform/browser/DosUrl.h"
+#include "platform/browser/FolderAddresses.h"
 #include "platform/plugins/FileType.h"
 #include "platform/text/CodePage1253.h"
 
@@ -74,6 +75,15 @@ TEST(FileType, SeesACharsetInTheFirstKilobyteOnly) {
     EXPECT_TRUE(declaresCharset("\xEF\xBB\xBF<HTML>"));
     EXPECT_FALSE(declaresCharset("<HTML>"));
     EXPECT_FALSE(declaresCharset(std::string(1020, ' ') + meta));
+}
+
+// Each change moved the rest of the page.
+TEST(FolderAddresses, AreEscapedSoonInAPageThatIsFullOfThem) {
+    std::string page;
+    for (int i = 0; i < 500000; ++i) page += "\"D:\\a #\\";
+    const std::string escaped = escapeFolders(page, {"D:\\a #\\", "C:\\"});
+    EXPECT_EQ(escaped.size(), page.size() + 4 * 500000U);
+    EXPECT_TRUE(escaped.starts_with("\"D:\\a%20%23\\\"D:"));
 }
 
 }  // namespace
