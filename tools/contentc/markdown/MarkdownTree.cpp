@@ -5,7 +5,9 @@
 namespace contentc {
 
 MarkdownTree parseMarkdown(std::string_view text) {
-    cmark_gfm_core_extensions_ensure_registered();
+    // Once, also when pages are compiled side by side.
+    static const bool isRegistered = (cmark_gfm_core_extensions_ensure_registered(), true);
+    static_cast<void>(isRegistered);
     const std::unique_ptr<cmark_parser, void (*)(cmark_parser*)> parser(cmark_parser_new(CMARK_OPT_DEFAULT),
                                                                         cmark_parser_free);
     cmark_parser_attach_syntax_extension(parser.get(), cmark_find_syntax_extension("table"));
