@@ -39,14 +39,6 @@ void checkSharedEntries(const Content& content, Diagnostics& diagnostics) {
     }
 }
 
-void checkElements(const Content& content, Diagnostics& diagnostics) {
-    for (const ElementLine& element : content.elements) {
-        if (elementPage(content, element)) continue;
-        diagnostics.error(element.place,
-                          "section 'elemcomp' has no page " + std::to_string(element.record.pageId));
-    }
-}
-
 void checkTerms(const References& references, const Content& content, Diagnostics& diagnostics) {
     std::set<std::string_view> known;
     std::set<std::string_view> used;
@@ -87,7 +79,6 @@ void checkContent(const Content& content, const std::filesystem::path& root, Dia
     checkStartPages(content, root, diagnostics);
     TermIndex::check(content.terms, diagnostics);
     checkSharedEntries(content, diagnostics);
-    checkElements(content, diagnostics);
 }
 
 void checkReferences(const References& references, const Content& content, const OutputFiles& outputs,

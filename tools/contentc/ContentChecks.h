@@ -8,8 +8,8 @@
 
 namespace contentc {
 
-/// Reports what is wrong between files: a section without its start page, an entry whose topic and an element
-/// whose page do not exist, and an entry of a title list with two titles.
+/// Reports what is wrong between files: a section without its start page, an entry whose topic does not
+/// exist, and an entry of a title list with two titles.
 void checkContent(const Content& content, const std::filesystem::path& root, Diagnostics& diagnostics);
 
 /// Reports references of pages to what does not exist, and warns of glossary terms that no page uses.

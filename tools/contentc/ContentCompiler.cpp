@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "formats/PageNumber.h"
+#include "tools/contentc/CardMakers.h"
 #include "tools/contentc/ContentChecks.h"
 #include "tools/contentc/ElementScript.h"
 #include "tools/contentc/IndexFiles.h"
@@ -45,7 +46,9 @@ class ContentCompilation {
         const PageIndex pages(content_.pages);
         const PageRelations relations(content_, pages, diagnostics_);
         const PictureSizes pictures = readPictureSizes(tree_);
-        const BodyContext context{terms, pages, pictures, {}, {}, content_, relations};
+        const BodyContext context{
+            terms,    pages,    pictures, elementCardMaker(), compoundCardMaker(tree_.dataSets, diagnostics_),
+            content_, relations};
         const auto compile = [&](PageSource& page) {
             if (page.isMarkdown) compileBody(page, context, diagnostics_);
         };

@@ -4,11 +4,13 @@
 #include <map>
 #include <optional>
 
+#include "controls/elements/Element.h"
 #include "formats/BrowseIndex.h"
 #include "formats/ElementIndex.h"
 #include "formats/SectionTitles.h"
 #include "formats/TitleLists.h"
 #include "tools/contentc/WordIndex.h"
+#include "tools/contentc/source/ElementPages.h"
 
 namespace contentc {
 namespace {
@@ -45,8 +47,10 @@ class IndexFileMaker {
 
     void addElementIndex() {
         std::vector<formats::ElementPageRecord> records;
-        records.reserve(content_.elements.size());
-        for (const ElementLine& element : content_.elements) records.push_back(element.record);
+        for (int number = 1; number <= controls::elementCount; ++number) {
+            if (elementPage(content_, number))
+                records.push_back({static_cast<std::uint8_t>(number), elementPageNumber(number)});
+        }
         add(std::string(formats::elementIndexFile), formats::encodeElementIndex(records));
     }
 
@@ -69,11 +73,9 @@ class IndexFileMaker {
   private:
     // The periodic table opens the page of an element by its page id, even where the page is an entry.
     void addElementTitles(std::vector<formats::SectionTitleRecord>& records) const {
-        for (const ElementLine& element : content_.elements) {
-            const PageSource* page = elementPage(content_, element);
-            if (!page || page->kind != PageKind::entry) continue;
-            const formats::SectionTitleRecord record{page->title.text, page->number};
-            if (std::ranges::find(records, record) == records.end()) records.push_back(record);
+        for (int number = 1; number <= controls::elementCount; ++number) {
+            if (const PageSource* page = elementPage(content_, number))
+                records.push_back({page->title.text, page->number});
         }
     }
 

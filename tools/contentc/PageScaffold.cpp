@@ -49,10 +49,11 @@ PageScaffold plainScaffold() {
     PageScaffold scaffold;
     for (const char* line :
          {"<HTML>", "<HEAD>", R"(<META HTTP-EQUIV="Content-Type" CONTENT="text/html; charset=windows-1253">)",
-          "<TITLE>{{title}}</TITLE>", "</HEAD>", "<BODY>"}) {
+          "<TITLE>{{title}}</TITLE>", R"(<LINK REL="stylesheet" TYPE="text/css" HREF="style/kalyxo.css">)",
+          "</HEAD>", "<BODY>", "<DIV CLASS=\"page plain\">", "<H1>{{title}}</H1>"}) {
         scaffold.head.push_back({line, none});
     }
-    for (const char* line : {"</BODY>", "</HTML>"}) scaffold.foot.push_back({line, none});
+    for (const char* line : {"</DIV>", "</BODY>", "</HTML>"}) scaffold.foot.push_back({line, none});
     return scaffold;
 }
 

@@ -85,11 +85,10 @@ const struct {
      "title: T\nkind: entry\ntopic: 10001\n---\n",
      {"3: section 'elemcomp' has no topic 10001"}},
     {"pages/elemcomp/10002.page", "title: T\nkind: entry\n---\n", {"3: header field 'topic' is missing"}},
-    {"elements.txt",
-     "# keys\n\n1 10001\n2 400000\n119 410010\n1 410010\n3\n4 410010 x\n",
-     {"4: section 'elemcomp' has no page 400000", "5: not a line 'atomic-number page-id'",
-      "6: element 1 stands twice", "7: not a line 'atomic-number page-id'",
-      "8: not a line 'atomic-number page-id'"}},
+    {"families.txt",
+     "# families\n\nΑλκάλια | Αέρια\nΑλκάλια | Αέρια |\nΑλάτια | Αέρια | Τίποτε.\n",
+     {"3: not a line 'family | topic | uses'", "4: not a line 'family | topic | uses'",
+      "5: no family of elements is named 'Αλάτια'"}},
     // Marks in the text.
     {pageFile,
      topicHeader + "ok\n[[hydrogen|H\n[[hydrogen]]\n[[hydroge|H]]\n[[Hydrogen|H]]\n",
@@ -285,7 +284,6 @@ TEST(DataSets, OfOneNumberAreReported) {
 TEST(MissingSources, AreReported) {
     const std::pair<const char*, std::string> cases[] = {
         {"start.page", "start.page:1: missing"},
-        {"elements.txt", "elements.txt:1: missing"},
         {"templates/page.html", "templates/page.html:1: missing"},
         {"templates/molecule.html", "templates/molecule.html:1: missing"},
         {"molecules", "pages/struct/370010.page:5: no molecule is named 'water'"},

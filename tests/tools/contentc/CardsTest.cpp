@@ -9,6 +9,7 @@
 #include "platform/text/CodePage1253.h"
 #include "tools/contentc/cards/CompoundCard.h"
 #include "tools/contentc/cards/ElementCard.h"
+#include "tools/contentc/cards/ElementPage.h"
 #include "tools/contentc/cards/Formula.h"
 
 namespace contentc {
@@ -67,6 +68,35 @@ TEST(ElementCard, ARowOfTheAuthorTakesThePlaceOfTheDatasRow) {
     const auto rows = withRowsOfAuthor({{"Τήξη (1 atm)", "1"}, {"Ανακάλυψη", "1807"}},
                                        {{"Ανακάλυψη", "Davy"}, {"ΤΗΞΗ", "2"}, {"Χρώμα", "3"}});
     EXPECT_EQ(shown(rows), (std::vector<std::string>{"ΤΗΞΗ: 2", "Ανακάλυψη: Davy", "Χρώμα: 3"}));
+}
+
+TEST(ElementPage, SpeaksRightGreekOfTheData) {
+    EXPECT_EQ(elementPageSource(*controls::findElement(29), {"Μέταλλα", "Χρήσιμα."}),
+              "τίτλος: Χαλκός\n"
+              "θέμα: Μέταλλα\n"
+              "αναζήτηση: Copper\n"
+              "---\n"
+              "Ο χαλκός (Cu) είναι στοιχείο μετάπτωσης με ατομικό αριθμό 29. Ανήκει στην ομάδα 11 και στην "
+              "περίοδο 4 και στους 25 °C βρίσκεται σε στερεή κατάσταση.\n\n"
+              "::: στοιχείο Cu\n:::\n\n"
+              "Είναι γνωστός από την αρχαιότητα. Χρήσιμα.\n\n"
+              "## Ισότοπα\n\n"
+              "Στη φύση είναι μείγμα δύο [[ισοτόπων]].\n\n"
+              "| Ισότοπο | % στη φύση | Χρόνος ημιζωής |\n|---|---:|---|\n"
+              "| χαλκός-63 | 69,15 | σταθερό |\n"
+              "| χαλκός-65 | 30,85 | σταθερό |\n"
+              "| χαλκός-67 | – | 2,58 ημέρες |\n");
+    const std::pair<int, std::vector<const char*>> cases[] = {
+        {43, {"Το τεχνήτιο", "Παρασκευάστηκε για πρώτη φορά το 1937. Χρήσιμα.", "Όλα τα ισότοπά του"}},
+        {58, {"Ανήκει στην περίοδο 6 και"}},
+        {83, {"$2,01·10^19$ χρόνια", "Στη φύση υπάρχει ένα μόνο"}},
+        {118,
+         {"Ανήκει στην ομάδα 18 και στην περίοδο 7.", "μόνο για την έρευνα", "Στη φύση δεν υπάρχει. Όλα"}}};
+    for (const auto& [number, texts] : cases) {
+        const std::string source = elementPageSource(*controls::findElement(number), {"Θέμα", "Χρήσιμα."});
+        for (const char* text : texts)
+            EXPECT_NE(source.find(text), std::string::npos) << text << '\n' << source;
+    }
 }
 
 TEST(CompoundCard, IsFoundByNameOrFormula) {

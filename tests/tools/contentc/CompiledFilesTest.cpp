@@ -139,13 +139,13 @@ TEST(CompiledFiles, MoleculePageNamesItsFileAndKeepsTheLayout) {
 
 TEST(CompiledFiles, PlainPagesHaveATitleAndRelativeAddresses) {
     ContentFolder content;
-    content.write("help.page", "title: Βοήθεια\n---\n<LINK HREF=\"{{data}}style/kalyxo.css\">\n");
+    content.write("help.page", "title: Βοήθεια\n---\n<IMG SRC=\"{{data}}images/x.png\">\n");
+    content.write("pictures/x.png", "x");
     const std::string page = content.compiled("help.htm");
     EXPECT_TRUE(page.starts_with("<HTML>\r\n<HEAD>\r\n"));
     EXPECT_NE(page.find("charset=windows-1253"), std::string::npos);
-    EXPECT_TRUE(page.ends_with("<TITLE>" + greek("Βοήθεια") +
-                               "</TITLE>\r\n</HEAD>\r\n<BODY>\r\n<LINK HREF=\"style/kalyxo.css\">\r\n"
-                               "</BODY>\r\n</HTML>\r\n"));
+    EXPECT_TRUE(page.ends_with("<H1>" + greek("Βοήθεια") +
+                               "</H1>\r\n<IMG SRC=\"images/x.png\">\r\n</DIV>\r\n</BODY>\r\n</HTML>\r\n"));
     EXPECT_NE(content.compiled("a.htm").find("<P>Welcome</P>"), std::string::npos);
 }
 
@@ -196,14 +196,24 @@ TEST(CompiledFiles, IndexesListThePagesInDisplayOrder) {
     EXPECT_EQ(index->sections.size(), 7U);
 }
 
-TEST(CompiledFiles, ElementMayLeadToATopicOrToAnEntryThatGetsAPageTitle) {
+TEST(CompiledFiles, EveryElementOfAFamilyHasAPage) {
     ContentFolder content;
-    content.write("elements.txt", "# hydrogen and its like\n2\t410010\n 1   10001\n3 10001\n");
-    const std::vector<formats::ElementPageRecord> elements{{2, 410010}, {1, 10001}, {3, 10001}};
-    EXPECT_EQ(formats::decodeElementIndex(content.compiled("ptable.ndx")), elements);
-    const std::vector<formats::SectionTitleRecord> titles{
-        {"Start of elemcomp", 410000}, {greek("Αέρια"), 410010}, {greek("Υδρογόνο"), 10001}};
-    EXPECT_EQ(formats::decodeSectionTitles(content.compiled("elemcomp.dat")), titles);
+    content.write("glossary/atoms.md", "# Ισότοπα | ισοτόπων | ισότοπά\nΆτομα ενός στοιχείου.\n");
+    content.write("pages/elemcomp/10003-lithium.md",
+                  "τίτλος: Λίθιο\nθέμα: 410010\n---\n[[Ισότοπα]]\n\n::: στοιχείο λίθιο\n:::\n");
+    content.write("families.txt", "# a family\nΑλκάλια | Αέρια | Χρήσιμα.\n");
+    const std::string index = content.compiled("ptable.ndx");
+    EXPECT_EQ(content.messages, Messages{});
+    EXPECT_EQ(formats::decodeElementIndex(index),
+              (std::vector<formats::ElementPageRecord>{
+                  {1, 10001}, {3, 10003}, {11, 10011}, {19, 10019}, {37, 10037}, {55, 10055}, {87, 10087}}));
+    const auto titles = formats::decodeSectionTitles(content.compiled("elemcomp.dat"));
+    ASSERT_EQ(titles.size(), 9U);
+    EXPECT_EQ(titles[3], (formats::SectionTitleRecord{greek("Λίθιο"), 10003}));
+    const std::string own = content.compiled(R"(01\3\000)");
+    EXPECT_NE(own.find("<SPAN CLASS=\"symbol\">Li</SPAN>"), std::string::npos);
+    const std::string made = content.compiled(R"(01\1\001)");
+    EXPECT_NE(made.find(greek("<P>Ανακαλύφθηκε το 1807. Χρήσιμα.</P>")), std::string::npos) << made;
 }
 
 }  // namespace

@@ -39,7 +39,6 @@ ContentFolder::ContentFolder() {
           "title: Νερό\nkind: topic\ntemplate: molecule\n---\n{{molecule water}}\n<P>H<SUB>2</SUB>O</P>\n");
     write("glossary/hydrogen.term", "υδρογόνο\nΤο πρώτο στοιχείο.\n");
     write("molecules/water.mol", "water\n");
-    write("elements.txt", "1 10001\n");
 }
 
 std::optional<contentc::OutputFiles> ContentFolder::compile() {

@@ -4,6 +4,7 @@
 #include <iterator>
 #include <tuple>
 
+#include "tools/contentc/source/ElementPages.h"
 #include "tools/contentc/source/PageIndex.h"
 
 namespace contentc {
@@ -52,16 +53,12 @@ Content readContent(const SourceTree& tree, Diagnostics& diagnostics) {
     content.startPage = readRequiredPage(tree.startPage, tree.root / "start.page", diagnostics);
     if (tree.helpPage) content.helpPage = readPlainPage(*tree.helpPage, diagnostics);
     for (const SectionFolder& folder : tree.sections) readSection(folder, content, diagnostics);
+    if (tree.families) addElementPages(*tree.families, content.pages, diagnostics);
     resolveTopics(content.pages, diagnostics);
     for (const SourceFile& file : tree.terms) {
         std::ranges::move(readTerms(file, diagnostics), std::back_inserter(content.terms));
     }
     giveKeys(content.terms);
-    if (tree.elements) {
-        content.elements = readElements(*tree.elements, diagnostics);
-    } else {
-        diagnostics.error({(tree.root / "elements.txt").generic_string()}, "missing");
-    }
     content.words = readWords(tree.stopWords, tree.wordForms, diagnostics);
     content.tools = readTools(tree.tools, diagnostics);
     return content;
@@ -79,9 +76,10 @@ std::vector<const PageSource*> entriesOf(const Content& content, const PageSourc
     });
 }
 
-const PageSource* elementPage(const Content& content, const ElementLine& element) {
-    const auto found = std::ranges::find_if(content.pages, [&element](const PageSource& page) {
-        return page.section->key == "elemcomp" && page.number == element.record.pageId;
+const PageSource* elementPage(const Content& content, int atomicNumber) {
+    const auto found = std::ranges::find_if(content.pages, [atomicNumber](const PageSource& page) {
+        return page.section->key == "elemcomp" && page.kind == PageKind::entry &&
+               page.number == elementPageNumber(atomicNumber);
     });
     return found == content.pages.end() ? nullptr : &*found;
 }

@@ -4,7 +4,6 @@
 #include <optional>
 #include <vector>
 
-#include "tools/contentc/source/ElementsSource.h"
 #include "tools/contentc/source/PageSource.h"
 #include "tools/contentc/source/SourceTree.h"
 #include "tools/contentc/source/TermSource.h"
@@ -20,7 +19,6 @@ struct Content {
     std::optional<PageSource> startPage;
     std::optional<PageSource> helpPage;
     std::vector<TermSource> terms;
-    std::vector<ElementLine> elements;
     WordsSource words;
     Tools tools;
 };
@@ -34,8 +32,7 @@ std::vector<const PageSource*> topicsOf(const Content& content, const formats::S
 /// The entries of a topic or start page in display order.
 std::vector<const PageSource*> entriesOf(const Content& content, const PageSource& topic);
 
-/// The page that a click on the element opens: a topic or an entry of the section `elemcomp`. Null when there
-/// is none.
-const PageSource* elementPage(const Content& content, const ElementLine& element);
+/// The page that a click on the element opens. Null when it has none.
+const PageSource* elementPage(const Content& content, int atomicNumber);
 
 }  // namespace contentc

@@ -104,7 +104,7 @@ class TreeReader {
     }
 
     void readContent(const Layer& layer) {
-        readOne(tree_.elements, {"elements.txt"});
+        readOne(tree_.families, {"families.txt"});
         for (const fs::path& folder : listFolder(root_ / "pages")) {
             if (fs::is_directory(folder)) readSection(folder);
         }

@@ -27,7 +27,8 @@ struct SourceTree {
     std::optional<SourceFile> pageTemplate;
     std::optional<SourceFile> moleculeTemplate;
     std::optional<SourceFile> style;
-    std::optional<SourceFile> elements;
+    /// What is told of the families of elements; pages of elements are made from it.
+    std::optional<SourceFile> families;
     std::optional<SourceFile> stopWords;
     std::optional<SourceFile> wordForms;
     std::vector<SectionFolder> sections;
