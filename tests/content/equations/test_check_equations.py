@@ -8,51 +8,53 @@ from check_equations import check
 
 
 class CheckEquations(unittest.TestCase):
-    def check(self, line, name="1.page"):
+    def check(self, text, name="1-page.md"):
         with tempfile.TemporaryDirectory() as folder:
-            (Path(folder) / name).write_text(line + "\n", encoding="utf-8")
+            (Path(folder) / name).write_text(text + "\n", encoding="utf-8")
             mistakes, found = check(Path(folder))
             return [mistake.split(":", 2)[2].strip() for mistake in mistakes], found
 
     def test_balanced(self):
         cases = [
-            "Ύστερα: 2 H<SUB>2</SUB>(g) + O<SUB>2</SUB>(g) &rarr; 2 H<SUB>2</SUB>O(l). Τέλος",
-            "<TD>Zn &rarr; Zn<SUP>2+</SUP> + 2 e<SUP>&minus;</SUP></TD>",
-            "<P>4 Fe + 3 O<SUB>2</SUB> + 2x H<SUB>2</SUB>O &rarr; 2 (Fe<SUB>2</SUB>O<SUB>3</SUB> &middot; x H<SUB>2</SUB>O)",
-            "n CH<SUB>2</SUB>=CH<SUB>2</SUB> &rarr; (&ndash;CH<SUB>2</SUB>&ndash;CH<SUB>2</SUB>&ndash;)<SUB>n</SUB>",
-            "NH<SUB>3</SUB> + H<SUB>2</SUB>O &#8652; NH<SUB>4</SUB><SUP>+</SUP> + OH<SUP>&minus;</SUP>",
-            "CuSO<SUB>4</SUB> &middot; 5 H<SUB>2</SUB>O &rarr; CuSO<SUB>4</SUB> + 5 H<SUB>2</SUB>O",
+            "Ύστερα: $2 H2(g) + O2(g) -> 2 H2O(l)$. Τέλος",
+            "| οξείδωση | $Zn -> Zn^2+ + 2 e^-$ |",
+            "$$\n4 Fe + 3 O2 + 2x H2O -> 2 (Fe2O3*x H2O)\n// σίδηρος + οξυγόνο → σκουριά\n$$",
+            "$n CH2=CH2 -> (–CH2–CH2–)_n$",
+            "$NH3 + H2O <=> NH4^+ + OH^-$",
+            "$CuSO4*5H2O -> CuSO4 + 5 H2O$",
+            "$2 MnO4^- + 16 H^+ + 10 Cl^- → 2 Mn^{2+} + 5 Cl2 + 8 H2O$",
         ]
-        for line in cases:
-            with self.subTest(line):
-                self.assertEqual(self.check(line), ([], 1))
+        for text in cases:
+            with self.subTest(text):
+                self.assertEqual(self.check(text), ([], 1))
 
     def test_unbalanced(self):
         cases = [
-            "H<SUB>2</SUB> + O<SUB>2</SUB> &rarr; H<SUB>2</SUB>O",
-            "Cu<SUP>2+</SUP> + e<SUP>&minus;</SUP> &rarr; Cu",
-            "Ca(OH)<SUB>2</SUB> + CO<SUB>2</SUB> &rarr; CaCO<SUB>3</SUB> + 2 H<SUB>2</SUB>O",
-            "CH<SUB>4</SUB> &rarr; C + 2 H<SUB>2</SUB> &rarr; C + H<SUB>2</SUB>",
+            "$H2 + O2 -> H2O$",
+            "$$\nCu^2+ + e^- -> Cu\n$$",
+            "$Ca(OH)2 + CO2 -> CaCO3 + 2 H2O$",
+            "$CH4 -> C + 2 H2 -> C + H2$",
         ]
-        for line in cases:
-            with self.subTest(line):
-                mistakes, found = self.check(line)
+        for text in cases:
+            with self.subTest(text):
+                mistakes, found = self.check(text)
                 self.assertEqual(found, 1)
                 self.assertTrue(mistakes[0].startswith("unbalanced: "), mistakes)
 
     def test_step_before_balancing(self):
-        step = "Τύποι: N<SUB>2</SUB> + H<SUB>2</SUB> &rarr; NH<SUB>3</SUB>."
-        self.assertEqual(self.check(step, "170090.page"), ([], 1))
-        self.assertEqual(len(self.check(step, "170080.page")[0]), 1)
+        step = "Τύποι: $N2 + H2 -> NH3$."
+        self.assertEqual(self.check(step, "170090-words.md"), ([], 1))
+        self.assertEqual(len(self.check(step, "170080.md")[0]), 1)
 
     def test_wrong_answer_of_a_quiz(self):
-        answer = "Mg + O<SUB>2</SUB> &rarr; MgO"
-        self.assertEqual(self.check("- " + answer), ([], 0))
-        self.assertEqual(len(self.check("+ " + answer)[0]), 1)
+        quiz = "::: ερωτήσεις\n? Ποια;\n{} $Mg + O2 -> MgO$\n:::"
+        self.assertEqual(self.check(quiz.format("-")), ([], 0))
+        self.assertEqual(len(self.check(quiz.format("+"))[0]), 1)
+        self.assertEqual(len(self.check("- $Mg + O2 -> MgO$")[0]), 1)
 
     def test_words_and_what_is_neither(self):
-        self.assertEqual(self.check("<SMALL>σίδηρος + θείο &rarr; θειούχος σίδηρος</SMALL>"), ([], 0))
-        mistakes, _ = self.check("2 H<SUB>2</SUB> + xx &rarr; H<SUB>2</SUB>")
+        self.assertEqual(self.check("$$\nσίδηρος + θείο -> θειούχος σίδηρος\n$$"), ([], 0))
+        mistakes, _ = self.check("$2 H2 + xx -> H2$")
         self.assertTrue(mistakes[0].startswith("an equation that cannot be read: "), mistakes)
 
 
