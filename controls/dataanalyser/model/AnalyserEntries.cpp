@@ -88,9 +88,11 @@ void Analyser::setEntry(std::int32_t word, std::int32_t value) {
             set.names = (value & namesBit) != 0;
             break;
         case firstRowWord:
-            return setRange(value, set.lastRow);
         case lastRowWord:
-            return setRange(set.firstRow, value);
+            // A host sets them behind the window, which stays.
+            (word == firstRowWord ? set.firstRow : set.lastRow) = value;
+            forgetRows();
+            return changed(Change::rows);
         default:
             return;
     }
