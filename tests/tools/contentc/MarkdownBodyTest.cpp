@@ -67,6 +67,14 @@ TEST(MarkdownBody, BecomesTheHtmlOfThePage) {
          "<TR><TD>H<SUB>2</SUB></TD><TD CLASS=\"num\">&#8722;5</TD></TR>\n</TABLE>\n"},
         {"| | |\n|---|---|\n| όνομα | [[άτομα|άτομο]] |",
          "<TABLE CLASS=\"data\">\n<TR><TH>όνομα</TH><TD>~Gatom4y00άτομα~G</TD></TR>\n</TABLE>\n"},
+        {"::: quiz\n? 1. Ποιο;\n- -5 °C **β**\n+ **γ** - α\n:::",
+         "<DIV CLASS=\"tool\" DATA-TOOL=\"quiz\">\n<DIV CLASS=\"question\"><P CLASS=\"asked\">1. "
+         "Ποιο;</P><UL>\n"
+         "<LI><SPAN CLASS=\"answer\">&#8722;5&nbsp;°C <B>β</B></SPAN>\n<LI CLASS=\"right\"><SPAN "
+         "CLASS=\"answer\"><B>γ</B> - "
+         "α</SPAN>\n</UL></DIV>\n</DIV><LINK REL=\"stylesheet\" "
+         "HREF=\"\x05..tools\\shared\\style.css\"><SCRIPT "
+         "TYPE=\"module\" SRC=\"\x05..tools\\quiz\\face.js\"></SCRIPT>\n"},
         {"::: Το ήξερες\nΝαι.\n:::", "<DIV CLASS=\"fact\">\n<H3>Το ήξερες;</H3>\n<P>Ναι.</P>\n</DIV>\n"},
         {"::: experiment Σκουριά\nΒάλε.\n\n::: caution\nΓυαλιά.\n:::\n:::",
          "<DIV CLASS=\"experiment\">\n<H3>Πείραμα: Σκουριά</H3>\n<P>Βάλε.</P>\n<DIV CLASS=\"care\">\n"

@@ -1,5 +1,7 @@
 #include "tools/contentc/markdown/InlineWriter.h"
 
+#include <algorithm>
+
 #include "platform/text/CodePage1253.h"
 #include "platform/text/CodePageTable.h"
 #include "tools/contentc/markdown/BodyMessages.h"
@@ -23,6 +25,18 @@ std::string escaped(std::string_view text, std::initializer_list<std::string_vie
 
 // A mark in running text stays one, so that it is told where it belongs.
 std::string escapedText(std::string_view text) { return escaped(text, {"[["}); }
+
+/// The line with a backslash before what Markdown would take for the beginning of a list, heading or
+/// quotation.
+std::string withoutBlockSigns(std::string_view line) {
+    const std::size_t digits = std::min(line.find_first_not_of("0123456789"), line.size());
+    const std::string_view sign = line.substr(digits, line.find(' ') - digits);
+    const bool isNumbering = digits > 0 && (sign == "." || sign == ")");
+    const bool isHeading = !sign.empty() && sign.find_first_not_of('#') == std::string_view::npos;
+    const bool isBullet = sign == "-" || sign == "+" || sign == "*" || isHeading || sign.starts_with('>');
+    if (!isNumbering && (digits > 0 || !isBullet)) return std::string(line);
+    return std::string(line.substr(0, digits)) + '\\' + std::string(line.substr(digits));
+}
 
 }  // namespace
 
@@ -134,7 +148,7 @@ void InlineWriter::writeInside(cmark_node* node, std::string_view tag) {
 
 std::string inlineHtml(const TextLine& line, const BodyContext& context, const PageSource& page,
                        Diagnostics& diagnostics) {
-    const MarkedText marked = markInlines({line}, diagnostics);
+    const MarkedText marked = markInlines({{withoutBlockSigns(line.text), line.place}}, diagnostics);
     const MarkdownTree tree = parseMarkdown(marked.text);
     HtmlLines lines;
     lines.beginLine(line.place);
