@@ -7,6 +7,7 @@
 #include "tools/contentc/markdown/BodyMessages.h"
 #include "tools/contentc/markdown/Figure.h"
 #include "tools/contentc/markdown/Formula.h"
+#include "tools/contentc/markdown/InlineMarks.h"
 #include "tools/contentc/markdown/InlineWriter.h"
 #include "tools/contentc/markdown/Keyword.h"
 #include "tools/contentc/source/EscapeHtml.h"
@@ -40,11 +41,6 @@ constexpr std::array<Keyword, 7> marks{{{"βίντεο", "video"},
 enum Mark : std::size_t { video, molecule, tool, contents, entries, schoolClass, timeline };
 
 bool isBlank(const TextLine& line) { return trimmed(line.text).empty(); }
-
-bool isFenceLine(const TextLine& line) {
-    const std::string_view text = trimmed(line.text);
-    return text.starts_with("```") || text.starts_with("~~~");
-}
 
 bool isBoxEnd(const TextLine& line) { return trimmed(line.text) == boxSign; }
 
@@ -92,7 +88,7 @@ void BodyParts::write(Lines lines, FirstParagraph first) {
     std::vector<TextLine> markdown;
     bool isCode = false;
     while (!lines.empty()) {
-        if (isFenceLine(lines.front())) isCode = !isCode;
+        if (isCodeFence(lines.front().text)) isCode = !isCode;
         if (isCode || !beginsPart(lines.front().text)) {
             markdown.push_back(lines.front());
             lines = lines.subspan(1);

@@ -115,19 +115,19 @@ class MarkFinder {
     std::string_view rest_;
 };
 
-bool isFence(std::string_view line) {
+}  // namespace
+
+bool isCodeFence(std::string_view line) {
     line = trimmed(line);
     return line.starts_with("```") || line.starts_with("~~~");
 }
-
-}  // namespace
 
 MarkedText markInlines(const std::vector<TextLine>& lines, Diagnostics& diagnostics) {
     MarkedText marked;
     MarkFinder finder(marked, diagnostics);
     bool isCode = false;
     for (const TextLine& line : lines) {
-        const bool fence = isFence(line.text);
+        const bool fence = isCodeFence(line.text);
         if (fence) isCode = !isCode;
         if (fence || isCode) {
             marked.text.append(line.text).push_back('\n');

@@ -34,6 +34,9 @@ struct MarkedText {
     std::vector<InlineMark> marks;
 };
 
+/// Whether a line begins or ends a block of code.
+bool isCodeFence(std::string_view line);
+
 /// Finds the conventions in lines in UTF-8. The place of a line that is a part of a line of the source has
 /// the column in which it begins, or −1 when that is not known. Those that are not closed on their line are
 /// reported. Code is left alone.
