@@ -40,6 +40,7 @@ TEST(Formula, IsSetAsWritten) {
         {"10^-7", "10<SUP>−7</SUP>"},
         {"6,02 x 10^23", "6,02_×_10<SUP>23</SUP>"},
         {"g/cm^3", "g/cm<SUP>3</SUP>"},
+        {"144 000 L : 80 °C", "144_000_L : 80_°C"},
         {"1s^2 2s^2 2p^6", "1s<SUP>2</SUP> 2s<SUP>2</SUP> 2p<SUP>6</SUP>"},
         {"-5 - 3", "−5 − 3"},
         {"CH3-CH=CH2", "CH<SUB>3</SUB>–CH=CH<SUB>2</SUB>"},

@@ -6,6 +6,7 @@
 
 #include "platform/text/CodePageTable.h"
 #include "tools/contentc/markdown/BodyMessages.h"
+#include "tools/contentc/markdown/Typography.h"
 #include "tools/contentc/source/EscapeHtml.h"
 
 namespace contentc {
@@ -155,9 +156,9 @@ class FormulaCompilation {
         } else if (rest.starts_with("- ")) {
             put(" \u2212 ", 3, Before::blank);
         } else {
-            const bool joins = before_ == Before::digit && !rest.empty() &&
-                               isLetter(platform::codepage::decodeUtf8(rest, 0).value);
-            put(joins ? unbreakable : " ", 1, Before::blank);
+            const bool isCoefficient = before_ == Before::digit && !rest.empty() &&
+                                       isLetter(platform::codepage::decodeUtf8(rest, 0).value);
+            put(isCoefficient || joinsNumber(source_, at_) ? unbreakable : " ", 1, Before::blank);
         }
     }
 

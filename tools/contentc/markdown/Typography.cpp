@@ -44,6 +44,12 @@ bool isGroupAt(std::string_view text, std::size_t at) {
     return !isDigitAt(text, at + groupSize);
 }
 
+std::size_t digitsBefore(std::string_view text, std::size_t at) {
+    std::size_t count = 0;
+    while (count < at && isDigitAt(text, at - 1 - count)) ++count;
+    return count;
+}
+
 class Typesetter {
   public:
     explicit Typesetter(std::string_view text) : text_(text) {}
@@ -62,7 +68,7 @@ class Typesetter {
             take(2, "\u2013");
         } else if (rest.front() == '-' && isDigitAt(text_, at_ + 1) && beginsWord()) {
             take(1, minus);
-        } else if (rest.front() == ' ' && joins()) {
+        } else if (rest.front() == ' ' && joinsNumber(text_, at_)) {
             take(1, joiningBlank);
         } else {
             take(1, rest.substr(0, 1));
@@ -81,25 +87,18 @@ class Typesetter {
                before.ends_with("«") || before.ends_with("≈") || before.ends_with(joiningBlank);
     }
 
-    /// Whether the blank here stands within a number or between it and its unit.
-    bool joins() const {
-        if (at_ == 0 || !isDigitAt(text_, at_ - 1)) return false;
-        return startsWithUnit(text_.substr(at_ + 1)) ||
-               (isGroupAt(text_, at_ + 1) && digitsBefore() <= groupSize);
-    }
-
-    std::size_t digitsBefore() const {
-        std::size_t count = 0;
-        while (count < at_ && isDigitAt(text_, at_ - 1 - count)) ++count;
-        return count;
-    }
-
     std::string_view text_;
     std::size_t at_ = 0;
     std::string result_;
 };
 
 }  // namespace
+
+bool joinsNumber(std::string_view text, std::size_t blank) {
+    if (blank == 0 || !isDigitAt(text, blank - 1)) return false;
+    return startsWithUnit(text.substr(blank + 1)) ||
+           (isGroupAt(text, blank + 1) && digitsBefore(text, blank) <= groupSize);
+}
 
 std::string typeset(std::string_view text) { return Typesetter(text).run(); }
 

@@ -12,4 +12,7 @@ inline constexpr char32_t firstMark = 0xF0000;
 /// number; `-5` becomes −5, `--` becomes –. A mark behind a number is taken for its unit.
 std::string typeset(std::string_view text);
 
+/// Whether the blank at this place of a text stands within a number or between it and its unit.
+bool joinsNumber(std::string_view text, std::size_t blank);
+
 }  // namespace contentc
