@@ -32,7 +32,6 @@ class ContentCompilation {
         addCopies("mol\\", tree_.molecules);
         addCopies("video\\", tree_.videos);
         addTools();
-        checkDrawings();
         checkContent(content_, tree_.root, diagnostics_);
         checkReferences(references_, content_, outputs_, diagnostics_);
         if (!diagnostics_.hasErrors()) addIndexFiles(content_, outputs_, diagnostics_);
@@ -116,15 +115,6 @@ class ContentCompilation {
         }
         outputs_.add("tools\\shared\\elements.js", elementScript(), {(tree_.root / "tools").generic_string()},
                      diagnostics_);
-    }
-
-    void checkDrawings() {
-        for (const SourceFile& drawing : tree_.drawings) {
-            const std::string picture = drawing.stem() + ".png";
-            if (outputs_.contains("images\\" + picture)) continue;
-            diagnostics_.error(drawing.place(),
-                               "no image folder has the rendered picture '" + picture + '\'');
-        }
     }
 
     const SourceTree& tree_;

@@ -1,28 +1,37 @@
 #include "tools/contentc/DataFolderWriter.h"
 
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
+#include <cstdio>
 #include <fstream>
+#include <optional>
 #include <system_error>
 #include <utility>
 
+#include "tools/contentc/DataFolderMessages.h"
+
 namespace contentc {
-
-using platform::Failure;
-using platform::Result;
-
 namespace {
 
 namespace fs = std::filesystem;
 
-Failure failureOf(const fs::path& path, const std::string& fault) {
-    return {path.generic_string() + ": " + fault};
+/// What went wrong with a file or folder; nothing when nothing did.
+struct WriteFault {
+    fs::path path;
+    std::error_code reason;
+};
+using Fault = std::optional<WriteFault>;
+
+Fault faultOf(const fs::path& path, const std::error_code& reason) {
+    return reason ? Fault(WriteFault{path, reason}) : std::nullopt;
 }
 
+/// A hidden folder beside the given one.
 fs::path siblingOf(const fs::path& folder, const std::string& suffix) {
-    fs::path sibling = folder;
-    return sibling += suffix + std::to_string(::getpid());
+    return folder.parent_path() / ('.' + folder.filename().string() + suffix + std::to_string(::getpid()));
 }
 
 /// A folder that is removed with its contents when the object is created and when it is destroyed.
@@ -49,23 +58,23 @@ fs::path nativePath(const fs::path& folder, std::string dosPath) {
     return folder / dosPath;
 }
 
-Result<void> writeFile(const fs::path& path, const std::string& bytes) {
+Fault writeFile(const fs::path& path, const std::string& bytes) {
     std::error_code failed;
     fs::create_directories(path.parent_path(), failed);
-    if (failed) return failureOf(path.parent_path(), failed.message());
+    if (failed) return faultOf(path.parent_path(), failed);
+    errno = 0;
     std::ofstream stream(path, std::ios::binary | std::ios::trunc);
     stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     stream.close();
-    if (!stream) return failureOf(path, "cannot be written");
-    return {};
+    if (stream) return std::nullopt;
+    return faultOf(path, std::error_code(errno != 0 ? errno : EIO, std::generic_category()));
 }
 
-Result<void> writeAll(const OutputFiles& files, const fs::path& folder) {
+Fault writeAll(const OutputFiles& files, const fs::path& folder) {
     for (const auto& [key, file] : files.files()) {
-        auto written = writeFile(nativePath(folder, file.path), file.bytes);
-        if (!written) return written;
+        if (auto fault = writeFile(nativePath(folder, file.path), file.bytes)) return fault;
     }
-    return {};
+    return std::nullopt;
 }
 
 /// Replacing a folder deletes its contents, so it must be empty or a data folder.
@@ -76,38 +85,68 @@ bool mayReplace(const fs::path& folder) {
     return fs::is_empty(folder, failed) || fs::is_regular_file(folder / "a.htm", failed);
 }
 
+/// Exchanges two folders in one step, so that whoever reads finds one or the other. Not every file system
+/// can.
+bool exchange(const fs::path& one, const fs::path& other) {
+    return ::renameat2(AT_FDCWD, one.c_str(), AT_FDCWD, other.c_str(), RENAME_EXCHANGE) == 0;
+}
+
 /// Puts the folder `made` in the place of `folder`. A former folder is removed last, or put back after a
 /// failure.
-Result<void> moveInto(const fs::path& made, const fs::path& folder) {
-    const fs::path former = siblingOf(folder, ".old-");
+Fault moveInto(const fs::path& made, const fs::path& folder) {
     std::error_code failed;
-    const bool hadFolder = fs::exists(folder, failed);
-    if (hadFolder) fs::rename(folder, former, failed);
-    if (failed) return failureOf(folder, failed.message());
-    fs::rename(made, folder, failed);
     std::error_code ignored;
-    if (!failed) {
-        fs::remove_all(former, ignored);
-        return {};
+    if (!fs::exists(folder, failed)) {
+        fs::rename(made, folder, failed);
+        return faultOf(folder, failed);
     }
-    if (hadFolder) fs::rename(former, folder, ignored);
-    return failureOf(folder, failed.message());
+    if (exchange(made, folder)) return std::nullopt;
+    const TemporaryFolder former(siblingOf(folder, ".old-"));
+    fs::rename(folder, former.path(), failed);
+    if (failed) return faultOf(folder, failed);
+    fs::rename(made, folder, failed);
+    if (failed) fs::rename(former.path(), folder, ignored);
+    return faultOf(folder, failed);
+}
+
+Fault replaceFolder(const OutputFiles& files, const fs::path& folder) {
+    std::error_code failed;
+    fs::create_directories(folder.parent_path(), failed);
+    if (failed) return faultOf(folder.parent_path(), failed);
+    const TemporaryFolder made(siblingOf(folder, ".new-"));
+    if (auto fault = writeAll(files, made.path())) {
+        // The author knows nothing of the temporary folder.
+        fault->path = folder / fault->path.lexically_relative(made.path());
+        return fault;
+    }
+    return moveInto(made.path(), folder);
+}
+
+void report(const WriteFault& fault, Diagnostics& diagnostics) {
+    const SourcePlace place{fault.path.generic_string()};
+    if (fault.reason == std::errc::no_space_on_device) {
+        diagnostics.error(place, say::diskIsFull);
+    } else if (fault.reason == std::errc::permission_denied ||
+               fault.reason == std::errc::read_only_file_system) {
+        diagnostics.error(place, say::mayNotBeWritten);
+    } else {
+        diagnostics.error(place, say::cannotBeWritten, {fault.reason.message()});
+    }
 }
 
 }  // namespace
 
-Result<void> writeDataFolder(const OutputFiles& files, const fs::path& folder) {
+bool writeDataFolder(const OutputFiles& files, const fs::path& folder, Diagnostics& diagnostics) {
     std::error_code failed;
     fs::path target = fs::weakly_canonical(fs::absolute(folder, failed), failed);
-    if (failed) return failureOf(folder, failed.message());
     if (!target.has_filename()) target = target.parent_path();
-    if (!mayReplace(target)) return failureOf(folder, "is in use by something other than a data folder");
-    fs::create_directories(target.parent_path(), failed);
-    if (failed) return failureOf(target.parent_path(), failed.message());
-
-    const TemporaryFolder made(siblingOf(target, ".new-"));
-    if (auto written = writeAll(files, made.path()); !written) return written;
-    return moveInto(made.path(), target);
+    if (!failed && !mayReplace(target)) {
+        diagnostics.error({folder.generic_string()}, say::isNoDataFolder);
+        return false;
+    }
+    const Fault fault = failed ? faultOf(folder, failed) : replaceFolder(files, target);
+    if (fault) report(*fault, diagnostics);
+    return !fault;
 }
 
 }  // namespace contentc

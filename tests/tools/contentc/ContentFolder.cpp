@@ -4,6 +4,8 @@
 #include <fstream>
 #include <iterator>
 
+#include "tools/contentc/render/MakeMedia.h"
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -44,7 +46,9 @@ ContentFolder::ContentFolder() {
 std::optional<contentc::OutputFiles> ContentFolder::compile() {
     contentc::Diagnostics diagnostics;
     const auto folders = contentc::SourceFolders{sources(), {beside("built")}, {beside("built")}};
-    auto files = contentc::compileContent(contentc::readSourceTree(folders, diagnostics), diagnostics);
+    contentc::SourceTree tree = contentc::readSourceTree(folders, diagnostics);
+    contentc::pretendMedia(tree);
+    auto files = contentc::compileContent(tree, diagnostics);
     const std::string prefix = sources().generic_string() + '/';
     messages.clear();
     for (const contentc::Diagnostic& diagnostic : diagnostics.sorted()) {

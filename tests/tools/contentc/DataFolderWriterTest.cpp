@@ -18,7 +18,13 @@ class DataFolderWriter : public testing::Test {
     void add(const std::string& path, const std::string& bytes) {
         files_.add(path, bytes, {"source"}, diagnostics_);
     }
-    std::string write() const { return contentc::writeDataFolder(files_, folder()).message(); }
+    /// What there is to say; empty when it was written.
+    std::string write() const { return writeTo(folder()); }
+    std::string writeTo(const fs::path& folder) const {
+        contentc::Diagnostics found;
+        if (contentc::writeDataFolder(files_, folder, found)) return {};
+        return contentc::toLine(found.sorted().at(0));
+    }
     fs::path folder() const { return content_.beside("out/data"); }
     /// What stands where the data folder goes.
     Files names() const {
@@ -40,7 +46,7 @@ TEST_F(DataFolderWriter, ReplacesAnEmptyFolderAndAFormerDataFolder) {
     EXPECT_EQ(write(), "");
     add("new.dat", "new");
     fs::create_directory(folder() / "40");
-    EXPECT_EQ(contentc::writeDataFolder(files_, folder() / "").message(), "");
+    EXPECT_EQ(writeTo(folder() / ""), "");
     EXPECT_EQ(listAll(folder()), (Files{"01/4/123: page", "a.htm: start", "new.dat: new"}));
     EXPECT_FALSE(fs::exists(folder() / "40"));
     EXPECT_EQ(names(), Files{"data"});
@@ -51,7 +57,7 @@ TEST_F(DataFolderWriter, LeavesAFolderOfOtherThingsAlone) {
     EXPECT_NE(write().find("is in use by something other than a data folder"), std::string::npos);
     EXPECT_EQ(listAll(folder()), Files{"letter.txt: mine"});
     content_.write("../out/file", "mine");
-    EXPECT_NE(contentc::writeDataFolder(files_, content_.beside("out/file")).message(), "");
+    EXPECT_NE(writeTo(content_.beside("out/file")), "");
     EXPECT_EQ(readAll(content_.beside("out/file")), "mine");
 }
 

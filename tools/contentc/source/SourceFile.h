@@ -16,12 +16,16 @@ std::string takenExtension(const std::filesystem::path& path);
 /// A file as it was read.
 struct SourceFile {
     std::filesystem::path path;
-    std::string bytes;
+    std::string bytes = {};
     /// 0 for the author's own folder, more for those below it.
     std::size_t layer = 0;
+    /// The extension of what was made of the file, whose bytes these are; empty for those of the file itself.
+    std::string madeExtension = {};
 
     /// The file's name without folder, with the extension under which it is taken.
-    std::string name() const { return stem() + takenExtension(path); }
+    std::string name() const {
+        return stem() + (madeExtension.empty() ? takenExtension(path) : madeExtension);
+    }
     /// The file's name without folder and extension.
     std::string stem() const { return path.stem().string(); }
     /// A line of the file, for messages.

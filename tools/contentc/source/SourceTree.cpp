@@ -186,7 +186,7 @@ class TreeReader {
              pathsOf(root_ / "videos", {".mp4", ".mov", ".avi", ".mkv", ".ogv", ".mpg", ".mpeg"})) {
             if (videos_.isTaken(path)) continue;
             videos_.take(path);
-            tree_.foreignVideos.push_back({path, {}, layer_});
+            tree_.foreignVideos.push_back({path, {}, layer_, {}});
         }
     }
 

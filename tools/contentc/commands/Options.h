@@ -1,0 +1,31 @@
+#pragma once
+
+#include <filesystem>
+#include <span>
+#include <string>
+#include <variant>
+
+#include "tools/contentc/source/Layers.h"
+
+namespace contentc {
+
+enum class Command { create, check, build, open, watch, help, version };
+
+/// What the command line asks for.
+struct Options {
+    Command command = Command::help;
+    SourceFolders sources;
+    /// Where the data folder goes.
+    std::filesystem::path output;
+    /// Where what other programs make is kept.
+    std::filesystem::path cache;
+    /// What a new folder is laid over; empty when it stands alone.
+    std::string base;
+    /// Whether warnings count as errors.
+    bool strict = false;
+};
+
+/// Reads the arguments without the program's name. The phrase says what is wrong with them.
+std::variant<Options, Phrase> parseOptions(std::span<const char* const> arguments);
+
+}  // namespace contentc
