@@ -56,5 +56,6 @@ int main(int argc, char** argv) {
     const kalyxo::SpareCache cache(*opened);
     kalyxo::CKalyxoApp program(dataFolder->empty() ? std::string()
                                                    : kalyxo::AddDrive(opened->files(), *dataFolder));
+    program.m_bFollowContent = kalyxo::FollowsContent(behindName(argc, argv));
     return platform::RunProgram(program);
 }

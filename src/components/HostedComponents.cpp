@@ -97,6 +97,10 @@ platform::Result<void> HostedComponents::Create(CWnd& view, const ComponentSurro
     return {};
 }
 
+void HostedComponents::ReadSelectionAnew(const CWnd& view, const std::string& dataFolder) {
+    select.Initialise(kSelectHostCode, dataFolder, view.GetSafeHwnd());
+}
+
 std::vector<std::string_view> OutdatedComponents(const ComponentVersions& versions) {
     std::vector<std::string_view> keys;
     for (const RequiredVersion& row : kRequired) {

@@ -33,6 +33,8 @@ class HostedComponents {
     /// the user in code page 1253.
     platform::Result<void> Create(platform::CWnd& view, const ComponentSurroundings& surroundings,
                                   ComponentVersions& versions, SelectWindows& selectWindows);
+    /// Has the browse selection read its index once more, from a data folder that has changed.
+    void ReadSelectionAnew(const platform::CWnd& view, const std::string& dataFolder);
 
     CPeriodTable periodicTable;
     CSelect select;

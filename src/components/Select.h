@@ -15,7 +15,7 @@ class CSelect : public Component<CSelect> {
 
     std::string Version() { return Get<std::string>(1); }
     std::string GetPageTitle(std::int32_t pageId) { return Method<std::string>(2, pageId); }
-    /// To be called once, right after creation.
+    /// To be called right after creation, and again when the data folder has changed.
     void Initialise(std::int16_t hostCode, const std::string& dataFolder, platform::HWND view) {
         Method<void>(3, hostCode, dataFolder, view);
     }

@@ -32,6 +32,7 @@ struct ProgramState : ComponentVersions {
     platform::HWND m_hwndSelectEdit = 0;
     std::string m_strProgramFolder;  ///< no trailing backslash
     std::string m_strDataFolder;     ///< ends with a backslash
+    bool m_bFollowContent = false;   ///< whether a page is shown anew when the data folder changes
     std::string m_strBookmarkFile;
     std::string m_strLastPreparedPage;  ///< DOS path of the page file written last; empty before the first
 };

@@ -81,6 +81,14 @@ void CKalyxoView::OnInitialUpdate() {
     loadPictures();
     m_glossary.Create(*this);
     ComponentStart::CheckComponentVersions();
+    const ProgramState& app = TheApp();
+    if (app.m_bFollowContent) m_changes.emplace(machine().files(), app.m_strDataFolder);
+}
+
+void CKalyxoView::showContentAnew() {
+    m_components.ReadSelectionAnew(*this, TheApp().m_strDataFolder);
+    LoadElementIndex();
+    if (m_panes.Mode() == ContentMode::Page) m_navigator.ShowAgain();
 }
 
 void CKalyxoView::openCache() {
@@ -183,7 +191,9 @@ void CKalyxoView::OnMouseMove(UINT, CPoint point) {
 }
 
 void CKalyxoView::OnTimer(UINT id) {
-    if (id == kTimerId) OnMouseMove(0, ScreenToClient(GetCursorPos()));
+    if (id != kTimerId) return;
+    OnMouseMove(0, ScreenToClient(GetCursorPos()));
+    if (m_changes && m_changes->HaveCome()) showContentAnew();
 }
 
 void CKalyxoView::OnLButtonDown(UINT, CPoint point) {

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <optional>
+
 #include "formats/PageLink.h"
 #include "platform/framework/View.h"
 #include "src/components/ElementIndex.h"
 #include "src/display/ToolPanel.h"
+#include "src/pages/ContentChanges.h"
 #include "src/pages/OnlinePages.h"
 #include "src/search/SearchState.h"
 #include "src/view/BookmarkCommands.h"
@@ -105,6 +108,8 @@ class CKalyxoView : public platform::CView, private ContentHost {
     // The first update
     void openCache();
     void LoadElementIndex();
+    /// Reads the indexes of the changed data folder and shows the page on show anew.
+    void showContentAnew();
     void loadPictures();
 
     platform::CRect areaBelowBar() const;
@@ -118,6 +123,8 @@ class CKalyxoView : public platform::CView, private ContentHost {
     EditCommands m_edit;
     CommandRules m_rules;
     ElementIndex m_elements;
+    /// Only when the program was started to follow changes.
+    std::optional<ContentChanges> m_changes;
     SearchState m_search;
     GlossaryPopup m_glossary;
     CToolPanel m_panel;

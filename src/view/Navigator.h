@@ -34,6 +34,8 @@ class Navigator {
     void RecordHistory(const PageAddress& place) { m_history.Record(place); }
     void GoBack();
     void GoForward();
+    /// Shows the place on show once more, without a new one in the history.
+    void ShowAgain() { ReplayHistory(); }
 
   private:
     void ReplayHistory();

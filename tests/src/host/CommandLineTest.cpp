@@ -31,12 +31,17 @@ TEST(CommandLine, DataFolderHoldsContentAndNothingElseHasAPlace) {
     const std::string odd = folder / "odd";
     EXPECT_EQ(*GivenDataFolder({}), "");
     EXPECT_EQ(*GivenDataFolder(std::vector{"--data", content.c_str()}), std::filesystem::canonical(content));
+    const std::vector<const char*> following{"--data", content.c_str(), "--follow"};
+    EXPECT_EQ(*GivenDataFolder(following), std::filesystem::canonical(content));
+    EXPECT_TRUE(FollowsContent(following));
     const std::vector<const char*> wrong[] = {
         {"--data"},
         {"--data", empty.c_str()},
         {"--data", odd.c_str()},
         {"--data", "/nowhere"},
         {"--data", content.c_str(), "more"},
+        {"--data", content.c_str(), "--follow", "more"},
+        {"--follow"},
         {content.c_str()},
         {"--bare"},
         {""},
