@@ -170,6 +170,7 @@ const struct {
      {"1: glossary key 'Water' is not 8 characters of a-z and 0-9", "1: warning: no page uses this term"}},
     // Files.
     {"pages/iron/1.page", "", {"pages/iron:1: no section is named 'iron'"}},
+    {"pages/struc/1.page", "", {"pages/struc:1: no section is named 'struc'; did you mean 'struct'?"}},
     {"pictures/my atom.png",
      "",
      {"1: 'images\\my atom.png' has characters other than a-z, 0-9, '.', '-' and '_'"}},

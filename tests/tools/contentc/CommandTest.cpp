@@ -64,6 +64,16 @@ TEST_F(Command, WriteErrorKeepsTheFormerFolder) {
     EXPECT_EQ(listAll(content_.beside("out")), former);
 }
 
+TEST_F(Command, NewFolderIsRightAloneAndOverTheProgramsContent) {
+    for (const std::string& base : {std::string(), std::string("--base kalyxo")}) {
+        const std::string made = '\'' + folder("made" + base.substr(0, 6)).string() + '\'';
+        EXPECT_EQ(run("new " + made + ' ' + base), 0) << errors_;
+        EXPECT_EQ(run("check --strict " + made), 0) << errors_;
+        EXPECT_EQ(run("new " + made + ' ' + base), 1);
+        EXPECT_NE(errors_.find("is not empty"), std::string::npos);
+    }
+}
+
 TEST_F(Command, WrongArgumentsAreRefused) {
     const std::string folder = '\'' + content_.sources().string() + "' ";
     for (const std::string& arguments :

@@ -83,6 +83,14 @@ Making makingOfVideo(const SourceFile& video) {
     return making;
 }
 
+/// Ends the making: nothing is missing any more. The drawings stay known, for their names and sizes.
+void closeSources(SourceTree& tree) {
+    std::ranges::move(tree.drawings, std::back_inserter(tree.drawnDrawings));
+    tree.drawings.clear();
+    tree.films.clear();
+    tree.foreignVideos.clear();
+}
+
 /// The last line of what a program said, without the paths of which the user knows nothing.
 std::string lastLine(const std::string& text) {
     const std::size_t end = text.find_last_not_of("\n ");
@@ -163,9 +171,7 @@ void makeMedia(SourceTree& tree, const MadeFiles& made, const ProgressReport& re
         std::string bytes = results[i].empty() ? std::string() : bytesOf(results[i]);
         files.push_back(resultOf(*makings[i].source, makings[i].extension, std::move(bytes)));
     }
-    tree.drawings.clear();
-    tree.films.clear();
-    tree.foreignVideos.clear();
+    closeSources(tree);
 }
 
 void pretendMedia(SourceTree& tree) {
@@ -173,9 +179,7 @@ void pretendMedia(SourceTree& tree) {
     for (const auto* films : {&tree.films, &tree.foreignVideos}) {
         for (const SourceFile& film : *films) tree.videos.push_back(resultOf(film, ".webm", {}));
     }
-    tree.drawings.clear();
-    tree.films.clear();
-    tree.foreignVideos.clear();
+    closeSources(tree);
 }
 
 }  // namespace contentc

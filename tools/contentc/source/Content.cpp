@@ -1,10 +1,12 @@
 #include "tools/contentc/source/Content.h"
 
 #include <algorithm>
-#include <iterator>
+#include <set>
 #include <tuple>
 
+#include "tools/contentc/source/ContentMessages.h"
 #include "tools/contentc/source/ElementPages.h"
+#include "tools/contentc/source/NameKey.h"
 #include "tools/contentc/source/PageIndex.h"
 
 namespace contentc {
@@ -34,10 +36,39 @@ std::optional<PageSource> readRequiredPage(const std::optional<SourceFile>& file
     return std::nullopt;
 }
 
+std::vector<std::string> sectionKeys() {
+    std::vector<std::string> keys;
+    for (const formats::Section& section : formats::sectionTable()) keys.emplace_back(section.key);
+    return keys;
+}
+
+/// Reads terms from the top layer down. What a term of a higher layer is called means that term, so a lower
+/// one of that name is left out and others lose the form.
+void readLayeredTerms(const std::vector<SourceFile>& files, std::vector<TermSource>& terms,
+                      Diagnostics& diagnostics) {
+    std::set<std::string> above;
+    std::set<std::string> ofLayer;
+    std::size_t layer = 0;
+    const auto isAbove = [&above](const std::string& name) { return above.contains(nameKey(name)); };
+    for (const SourceFile& file : files) {
+        if (file.layer != layer) above.merge(ofLayer);
+        layer = file.layer;
+        for (TermSource& term : readTerms(file, diagnostics)) {
+            if (isAbove(term.term)) continue;
+            std::erase_if(term.forms, isAbove);
+            ofLayer.insert(nameKey(term.term));
+            for (const std::string& form : term.forms) ofLayer.insert(nameKey(form));
+            terms.push_back(std::move(term));
+        }
+    }
+}
+
 void readSection(const SectionFolder& folder, Content& content, Diagnostics& diagnostics) {
     const formats::Section* section = formats::sectionByKey(folder.folder.name());
     if (!section) {
-        diagnostics.error(folder.folder.place(), "no section is named '" + folder.folder.name() + '\'');
+        const std::string name = folder.folder.path.filename().string();
+        diagnostics.error(folder.folder.place(), say::unknownSection, {name})
+            .suggestNearest(name, sectionKeys());
         return;
     }
     for (const SourceFile& file : folder.pages) {
@@ -55,9 +86,7 @@ Content readContent(const SourceTree& tree, Diagnostics& diagnostics) {
     for (const SectionFolder& folder : tree.sections) readSection(folder, content, diagnostics);
     if (tree.families) addElementPages(*tree.families, content.pages, diagnostics);
     resolveTopics(content.pages, diagnostics);
-    for (const SourceFile& file : tree.terms) {
-        std::ranges::move(readTerms(file, diagnostics), std::back_inserter(content.terms));
-    }
+    readLayeredTerms(tree.terms, content.terms, diagnostics);
     giveKeys(content.terms);
     content.words = readWords(tree.stopWords, tree.wordForms, diagnostics);
     content.tools = readTools(tree.tools, diagnostics);
