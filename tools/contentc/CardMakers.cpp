@@ -8,6 +8,7 @@
 #include "platform/text/Fold.h"
 #include "tools/contentc/cards/CompoundCard.h"
 #include "tools/contentc/cards/ElementCard.h"
+#include "tools/contentc/source/DataMessages.h"
 #include "tools/contentc/source/SourceText.h"
 
 namespace contentc {
@@ -36,7 +37,7 @@ CardMaker elementCardMaker() {
     return [](const std::string& name, const std::vector<CardRow>& rows, const SourcePlace& place,
               Diagnostics& diagnostics) {
         if (const controls::Element* element = elementNamed(name)) return elementCard(*element, rows);
-        diagnostics.error(place, "no element has the symbol or name '" + name + '\'');
+        diagnostics.error(place, say::noElement, {name});
         return std::string();
     };
 }
@@ -46,8 +47,7 @@ CardMaker compoundCardMaker(const std::vector<SourceFile>& dataSets, Diagnostics
                                                             const std::vector<CardRow>& rows,
                                                             const SourcePlace& place, Diagnostics& messages) {
         auto data = compoundRows(compounds, name);
-        if (!data && !name.empty())
-            messages.error(place, "'" + name + "' is neither a compound of the data set nor a formula");
+        if (!data && !name.empty()) messages.error(place, say::noCompound, {name});
         return cardTable(withRowsOfAuthor(data.value_or(std::vector<CardRow>{}), rows));
     };
 }

@@ -5,6 +5,7 @@
 #include "tools/contentc/source/Content.h"
 #include "tools/contentc/source/OutputFiles.h"
 #include "tools/contentc/source/References.h"
+#include "tools/contentc/source/SourceTree.h"
 
 namespace contentc {
 
@@ -15,5 +16,12 @@ void checkContent(const Content& content, const std::filesystem::path& root, Dia
 /// Reports references of pages to what does not exist, and warns of glossary terms that no page uses.
 void checkReferences(const References& references, const Content& content, const OutputFiles& outputs,
                      Diagnostics& diagnostics);
+
+/// Warns of pictures, molecules and videos of the author's own that no page uses.
+void checkUnused(const SourceTree& tree, const References& references, Diagnostics& diagnostics);
+
+/// Warns of classes in the HTML of pages for which there is no style. To be called before bodies are
+/// compiled.
+void checkClasses(const SourceTree& tree, const Content& content, Diagnostics& diagnostics);
 
 }  // namespace contentc

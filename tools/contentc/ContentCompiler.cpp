@@ -10,8 +10,10 @@
 #include "tools/contentc/PageCompiler.h"
 #include "tools/contentc/PageScaffold.h"
 #include "tools/contentc/markdown/BodyCompiler.h"
+#include "tools/contentc/source/CommonMessages.h"
 #include "tools/contentc/source/Content.h"
 #include "tools/contentc/source/DataSetSource.h"
+#include "tools/contentc/source/MediaChecks.h"
 
 namespace contentc {
 namespace {
@@ -20,6 +22,7 @@ class ContentCompilation {
   public:
     ContentCompilation(const SourceTree& tree, Diagnostics& diagnostics)
         : tree_(tree), diagnostics_(diagnostics), content_(readContent(tree, diagnostics)) {
+        checkClasses(tree_, content_, diagnostics_);
         compileBodies();
     }
 
@@ -34,6 +37,8 @@ class ContentCompilation {
         addTools();
         checkContent(content_, tree_.root, diagnostics_);
         checkReferences(references_, content_, outputs_, diagnostics_);
+        checkMedia(tree_, diagnostics_);
+        checkUnused(tree_, references_, diagnostics_);
         if (!diagnostics_.hasErrors()) addIndexFiles(content_, outputs_, diagnostics_);
         return std::move(outputs_);
     }
@@ -83,7 +88,7 @@ class ContentCompilation {
     std::optional<PageScaffold> scaffold(const std::optional<SourceFile>& file, const std::string& name,
                                          std::initializer_list<std::string_view> placeholders) {
         if (file) return readScaffold(*file, placeholders, diagnostics_);
-        diagnostics_.error({(tree_.root / "templates" / name).generic_string()}, "missing");
+        diagnostics_.error({(tree_.root / "templates" / name).generic_string()}, say::isMissing);
         return std::nullopt;
     }
 

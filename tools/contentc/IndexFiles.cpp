@@ -10,6 +10,7 @@
 #include "formats/SectionTitles.h"
 #include "formats/TitleLists.h"
 #include "tools/contentc/WordIndex.h"
+#include "tools/contentc/source/ContentMessages.h"
 #include "tools/contentc/source/ElementPages.h"
 
 namespace contentc {
@@ -94,7 +95,7 @@ class IndexFileMaker {
     void add(const std::string& name, std::optional<std::string> image) {
         const SourcePlace place{name};
         if (!image) {
-            diagnostics_.error(place, "the content does not fit into the file");
+            diagnostics_.error(place, say::indexIsTooLarge);
         } else {
             outputs_.add(name, std::move(*image), place, diagnostics_);
         }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cctype>
 
+#include "platform/text/CodePage1253.h"
+#include "tools/contentc/MarkMessages.h"
 #include "tools/contentc/source/TermSource.h"
 
 namespace contentc {
@@ -24,6 +26,9 @@ bool isMediaName(std::string_view text) {
 
 /// Whether a mark must stand on a line of its own.
 bool isLineMark(std::string_view name) { return name.starts_with("video") || name.starts_with("molecule"); }
+
+/// A mark as it is written, in UTF-8.
+std::string markNamed(std::string_view name) { return "{{" + platform::toUtf8(name) + "}}"; }
 
 bool isToolMark(std::string_view name) { return name.starts_with("tool") || name == "end"; }
 
@@ -57,7 +62,7 @@ TextLine MarkupCompiler::compile(const TextLine& line) {
 void MarkupCompiler::compileMark() {
     const std::size_t end = rest_.find(markEnd);
     if (end == std::string_view::npos) {
-        error("'{{' is not closed on its line");
+        error(say::markIsOpen);
         take(markStart.size());
         return;
     }
@@ -68,32 +73,28 @@ void MarkupCompiler::compileMark() {
         result_.append(value->second);
         if (name == "data") noteDataPath();
     } else if (isLineMark(name)) {
-        error(inQuotes("{{" + std::string(name) + "}}") +
-              " is not '{{video NAME}}' or '{{molecule NAME}}' on a line " + "of its own");
+        error(say::notALineMark, {markNamed(name)});
     } else if (isToolMark(name)) {
-        error(inQuotes("{{" + std::string(name) + "}}") +
-              " is not '{{tool NAME}}', with settings as 'name=\"value\"', or the '{{end}}' of a quiz, on a "
-              "line "
-              "of its own");
+        error(say::notAToolMark, {markNamed(name)});
     } else {
-        error("unknown mark " + inQuotes("{{" + std::string(name) + "}}"));
+        error(say::unknownMark, {markNamed(name)});
     }
 }
 
 void MarkupCompiler::openLink() {
     const std::string_view inner = rest_.substr(linkStart.size());
     const std::string_view key = inner.substr(0, inner.find_first_of("|]"));
-    if (linkWords_) error("'[[' inside a glossary link");
-    if (!glossary_) error("a glossary link works only on a page of a section");
+    if (linkWords_) error(say::linkInsideLink);
+    if (!glossary_) error(say::noLinkHere);
     if (!inner.substr(key.size()).starts_with('|')) {
-        error("'[[' without '|'");
+        error(say::linkWithoutBar);
         take(linkStart.size());
         return;
     }
     if (isGlossaryKey(key)) {
         references_.terms.push_back({place_, std::string(key)});
     } else {
-        error("glossary key " + inQuotes(key) + " is not 8 characters of a-z and 0-9");
+        error(say::wrongLinkKey, {platform::toUtf8(key)});
     }
     result_.append(linkDelimiter).append(key);
     rest_.remove_prefix(linkStart.size() + key.size() + 1);
@@ -102,7 +103,7 @@ void MarkupCompiler::openLink() {
 }
 
 void MarkupCompiler::closeLink(std::size_t words) {
-    if (trimmed(std::string_view(result_).substr(words)).empty()) error("a glossary link without words");
+    if (trimmed(std::string_view(result_).substr(words)).empty()) error(say::linkWithoutWords);
     result_.append(linkDelimiter);
     ++linkDelimiters_;
     rest_.remove_prefix(linkEnd.size());
@@ -120,14 +121,16 @@ void MarkupCompiler::noteDataPath() {
 }
 
 void MarkupCompiler::finish() {
-    if (linkWords_) error("'[[' is not closed on its line");
+    if (linkWords_) error(say::linkIsOpen);
     const bool hasOwnTilde = std::ranges::count(result_, '~') > linkDelimiters_;
     if (hasOwnTilde && result_.find(linkDelimiter) != std::string::npos) {
-        error("'~' would be taken for a glossary link");
+        error(say::tildeWouldLink);
     }
 }
 
-void MarkupCompiler::error(std::string message) { diagnostics_.error(place_, std::move(message)); }
+void MarkupCompiler::error(const Message& message, MessageValues values) {
+    diagnostics_.error(place_, message, std::move(values));
+}
 
 std::optional<std::string_view> nameInMarkLine(std::string_view line, std::string_view mark) {
     line = trimmed(line);

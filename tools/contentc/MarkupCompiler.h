@@ -34,7 +34,7 @@ class MarkupCompiler {
     void take(std::size_t length);
     void noteDataPath();
     void finish();
-    void error(std::string message);
+    void error(const Message& message, MessageValues values = {});
 
     MarkValues values_;
     bool glossary_;

@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <optional>
 
+#include "tools/contentc/MarkMessages.h"
 #include "tools/contentc/MarkupCompiler.h"
 #include "tools/contentc/ToolCompiler.h"
 #include "tools/contentc/source/EscapeHtml.h"
+#include "tools/contentc/source/HtmlCheck.h"
 #include "tools/contentc/source/MoleculeLayout.h"
 
 namespace contentc {
@@ -72,13 +74,13 @@ class PageCompilation {
             }
         }
         if (page_.scaffold == PageTemplate::molecule && !molecule_) {
-            diagnostics_.error(page_.place, "a page of template 'molecule' needs a line '{{molecule NAME}}'");
+            diagnostics_.error(page_.place, say::moleculeLineIsMissing);
         }
         return lines;
     }
 
     TextLine videoLine(std::string_view name, const SourcePlace& place) {
-        if (!isPrepared()) diagnostics_.error(place, "a video works only on a page of a section");
+        if (!isPrepared()) diagnostics_.error(place, say::noVideoHere);
         references_.videos.push_back({place, std::string(name)});
         std::string line = "<EMBED SRC=\"";
         line.append(videoMarker).append("video\\").append(name).append(".webm\" ");
@@ -90,7 +92,7 @@ class PageCompilation {
     /// Adds the tool of a line; the result is the last line that goes with it.
     Line addTool(const ToolLine& tool, Line line, MarkupCompiler& markup, std::vector<TextLine>& lines) {
         const SourcePlace place = line->place;
-        if (!isPrepared()) diagnostics_.error(place, "a tool works only on a page of a section");
+        if (!isPrepared()) diagnostics_.error(place, say::noToolHere);
         noteTool(tool, place);
         lines.push_back({openTool(tool), place});
         if (tool.name == quizTool) line = addQuiz(line, markup, lines);
@@ -108,7 +110,7 @@ class PageCompilation {
         const auto isEnd = [](const TextLine& next) { return trimmed(next.text) == endLine; };
         const auto end = std::find_if(line + 1, page_.body.end(), isEnd);
         if (end == page_.body.end()) {
-            diagnostics_.error(line->place, "the quiz has no line '{{end}}'");
+            diagnostics_.error(line->place, say::quizIsOpen);
             return end - 1;
         }
         const auto quiz = compileQuiz({line + 1, end}, line->place, markup, diagnostics_);
@@ -118,9 +120,9 @@ class PageCompilation {
 
     void setMolecule(std::string_view name, const SourcePlace& place) {
         if (page_.scaffold != PageTemplate::molecule) {
-            diagnostics_.error(place, "a molecule needs the header line 'template: molecule'");
+            diagnostics_.error(place, say::moleculeNeedsTemplate);
         } else if (molecule_) {
-            diagnostics_.error(place, "a second molecule on the page");
+            diagnostics_.error(place, say::secondMolecule);
         }
         references_.molecules.push_back({place, std::string(name)});
         molecule_ = name;
@@ -136,9 +138,7 @@ std::string joinLines(const std::vector<TextLine>& lines, Diagnostics& diagnosti
     std::string bytes;
     for (const TextLine& line : lines) {
         if (line.text.size() > maxPageLine) {
-            diagnostics.error(line.place, "line has " + std::to_string(line.text.size()) +
-                                              " bytes, at most " + std::to_string(maxPageLine) +
-                                              " are allowed");
+            diagnostics.error(line.place, say::pageLineIsTooLong, {line.text.size(), maxPageLine});
         }
         bytes.append(line.text).append("\r\n");
     }
@@ -153,6 +153,7 @@ std::string compilePage(const PageSource& page, const PageScaffold& scaffold, Re
     const bool hasScaffold = !scaffold.head.empty();
     if (page.scaffold == PageTemplate::molecule && hasScaffold)
         checkMoleculeLayout(lines, page.place, diagnostics);
+    checkHtml(lines, diagnostics);
     return joinLines(lines, diagnostics);
 }
 

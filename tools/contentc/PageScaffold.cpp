@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <string>
 
+#include "tools/contentc/MarkMessages.h"
+
 namespace contentc {
 namespace {
 
@@ -26,7 +28,7 @@ std::optional<PageScaffold> readScaffold(const SourceFile& file,
     bool complete = true;
     const auto require = [&](std::string_view name) {
         if (findLineWith(lines, mark(name)) != lines.end()) return;
-        diagnostics.error(file.place(), "placeholder " + inQuotes(mark(name)) + " is missing");
+        diagnostics.error(file.place(), say::placeholderIsMissing, {mark(name)});
         complete = false;
     };
     for (const std::string_view name : placeholders) require(name);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "tools/contentc/MarkMessages.h"
 #include "tools/contentc/source/EscapeHtml.h"
 
 namespace contentc {
@@ -42,7 +43,7 @@ class QuizCompilation {
             if (!trimmed(line.text).empty()) compileLine(line);
         }
         endQuestion();
-        if (questions_ == 0) diagnostics_.error(place, "a quiz without questions");
+        if (questions_ == 0) diagnostics_.error(place, say::quizWithoutQuestions);
         return std::move(html_);
     }
 
@@ -54,7 +55,7 @@ class QuizCompilation {
         if (kind == '?') {
             beginQuestion(inner, line.place);
         } else if (questions_ == 0) {
-            diagnostics_.error(line.place, "a quiz begins with a question: '? …'");
+            diagnostics_.error(line.place, say::quizBegins);
         } else if (kind == '-' || kind == '+') {
             addAnswer(inner, kind == '+', line.place);
         } else if (kind == '>' && answers_ > 0) {
@@ -62,7 +63,7 @@ class QuizCompilation {
         } else if (kind == '!') {
             explanation_ = "<P CLASS=\"explanation\">" + inner + "</P>";
         } else {
-            diagnostics_.error(line.place, "a line of a quiz begins with '?', '-', '+', '>' or '!'");
+            diagnostics_.error(line.place, say::notAQuizLine);
         }
     }
 
@@ -84,9 +85,9 @@ class QuizCompilation {
     void endQuestion() {
         if (questions_ == 0) return;
         if (answers_ < 2)
-            diagnostics_.error(place_, "a question needs two answers or more");
+            diagnostics_.error(place_, say::tooFewAnswers);
         else if (rightAnswers_ != 1)
-            diagnostics_.error(place_, "a question needs one right answer: '+ …'");
+            diagnostics_.error(place_, say::oneRightAnswer);
         add("</UL>" + explanation_ + "</DIV>", place_);
         explanation_.clear();
     }

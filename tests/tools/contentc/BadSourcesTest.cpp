@@ -15,8 +15,8 @@ constexpr const char* moleculeFile = "templates/molecule.html";
 
 // The molecule page's lines, from the one with the EMBED on; the twelve before them are blank.
 std::string moleculeTemplate(const std::string& fromLine13, int linesBefore = 12) {
-    return "{{title}}{{section}}" + std::string(static_cast<std::size_t>(linesBefore), '\n') + fromLine13 +
-           "{{body}}\n";
+    return "{{title}}{{section}}<TD>" + std::string(static_cast<std::size_t>(linesBefore), '\n') +
+           fromLine13 + "{{body}}\n";
 }
 
 const std::string embedLines = "<EMBED SRC=\"{{molfile}}\" WIDTH=340 HEIGHT=290\n";
@@ -67,7 +67,7 @@ const struct {
     {"pages/uses/intro.page", topicHeader, {"1: file name is not a page number: 'intro'"}},
     {"pages/uses/410010.page",
      topicHeader,
-     {"1: '41\\0010' is already made from pages/elemcomp/410010.page"}},
+     {"1: the number 410010 is taken already, by pages/elemcomp/410010.page; take 419000"}},
     {"pages/uses/400000.page", topicHeader, {"1: page 400000 must be of kind 'start'"}},
     {"pages/uses/400001.page",
      "title: T\nkind: start\n---\n",
@@ -117,7 +117,8 @@ const struct {
      {"5: no molecule is named 'none'", "6: a second molecule on the page"}},
     {"pages/struct/370010.page",
      "title: T\nkind: topic\ntemplate: molecule\n---\n",
-     {"1: a page of template 'molecule' needs a line '{{molecule NAME}}'"}},
+     {"molecules/water.mol:1: warning: no page uses this molecule",
+      "1: a page of template 'molecule' needs a line '{{molecule NAME}}'"}},
     // Tools.
     {pageFile,
      topicHeader + "{{tool clock at=\"3\" on=\"4\"}}\n{{tool quiz at=\"3\"}}\n? q\n+ a\n- "
@@ -147,16 +148,37 @@ const struct {
     {"start.page",
      "title: T\n---\n[[hydrogen|H]]\n{{tool clock}}\n",
      {"3: a glossary link works only on a page of a section", "4: a tool works only on a page of a section"}},
+    // Names that are nearly right.
+    {pageFile,
+     "titel: T\nkind: topic\n---\n{{tool clok}}\n",
+     {"1: unknown header field 'titel'; did you mean 'title'?", "3: header field 'title' is missing",
+      "4: no tool is named 'clok'; did you mean 'clock'?"}},
+    {"pages/uses/400010.md",
+     "title: T\nsummary: S\n---\n[[\xCF\x85\xCE\xB4\xCF\x81\xCE\xBF\xCE\xB3\xCE\xBF\xCE\xBD\xCE\xBF]] "
+     "[a](Nero)\n"
+     "\n[b](Start of use)\n\n![c](atom.png)\n\n::: quizz\n:::\n\n# H\n\n$K_{a$\n",
+     {"4:18: no page is called 'Nero'",
+      "6:5: no page is called 'Start of use'; did you mean 'Start of uses'?",
+      "8: no picture is named 'atom.png'", "10: no box is called 'quizz'; did you mean 'quiz'?",
+      "13: headings begin with '##'; the page's title stands in its head",
+      "15:1: formula 'K_{a': '{' is not closed"}},
+    {pageFile,
+     topicHeader + "{{video x}}\n{{molecule wter}}\n<IMG SRC={{data}}mol\\watr.mol>\n",
+     {"4: no video is named 'x'", "5: a molecule needs the header line 'template: molecule'",
+      "5: no molecule is named 'wter'; did you mean 'water'?",
+      "6: the data folder has no file 'mol\\watr.mol'; did you mean 'mol\\water.mol'?"}},
     // What text may hold.
     {pageFile,
      "title: H\xE2\x82\x82O\nkind: topic\n---\nok\n\xE2\x86\x92\xE2\x86\x92\n",
-     {"1: not in code page 1253: '\xE2\x82\x82' (U+2082)",
-      "5: not in code page 1253: '\xE2\x86\x92' (U+2192)"}},
+     {"1:9: not in code page 1253: '\xE2\x82\x82' (U+2082); write '2' instead",
+      "5:1: not in code page 1253: '\xE2\x86\x92' (U+2192); write '->' instead"}},
     {pageFile,
      topicHeader + "\xE1\n\x05..\n\xC2\x81\n" + std::string(20001, 'x') + "\n",
-     {"4: not UTF-8", "5: control character U+0005", "6: control character U+0081",
-      "7: line has 20001 bytes, at most 20000 are allowed"}},
-    {"style.css", "P { }\n/* \xE2\x82\x82 */\n", {"2: not in code page 1253: '\xE2\x82\x82' (U+2082)"}},
+     {"4:1: not UTF-8; save the file as UTF-8", "5:1: control character U+0005; leave it out",
+      "6:1: control character U+0081; leave it out", "7: line has 20001 bytes, at most 20000 are allowed"}},
+    {"style.css",
+     "P { }\n/* \xE2\x82\x82 */\n",
+     {"2:4: not in code page 1253: '\xE2\x82\x82' (U+2082); write '2' instead"}},
     {"glossary/hydrogen.term",
      "",
      {"1: the first line must be the term",
@@ -172,14 +194,39 @@ const struct {
     {"pages/iron/1.page", "", {"pages/iron:1: no section is named 'iron'"}},
     {"pages/struc/1.page", "", {"pages/struc:1: no section is named 'struc'; did you mean 'struct'?"}},
     {"pictures/my atom.png",
-     "",
-     {"1: 'images\\my atom.png' has characters other than a-z, 0-9, '.', '-' and '_'"}},
+     samplePng,
+     {"1: 'images\\my atom.png' has characters other than a-z, 0-9, '.', '-' and '_'",
+      "1: warning: no page uses this picture"}},
     {"templates/page.html",
      "<HTML>{{titel}}\n",
      {"1: placeholder '{{body}}' is missing", "1: placeholder '{{section}}' is missing",
       "1: placeholder '{{title}}' is missing"}},
     {"templates/page.html", "{{title}}{{section}}\n<TD>{{body}}\n{{foot}}\n", {"3: unknown mark '{{foot}}'"}},
     {moleculeFile, "{{title}}{{section}}\n\n{{body}}\n", {"1: placeholder '{{molfile}}' is missing"}},
+    // HTML.
+    {pageFile,
+     topicHeader + "<TABLE><TR><TD>\n<P>SO<SUB>4</SUP>\n<B>x</TD>\n<P CLASS=\"c>d\">y</I>\n",
+     {"4: <TABLE> is not closed", "5: </SUP> does not close <SUB>; write '</SUB>' instead",
+      "6: <B> is not closed", "7: </I> closes nothing"}},
+    {pageFile,
+     topicHeader +
+         "<!-- <B>\n</I> --><BR>\n<SCRIPT>if (a<b) c=\"</B>\";\n</script><UL><LI>a<LI>b</UL>\n<DIV\nID=x>\n",
+     {"8: <DIV> is not closed"}},
+    // Pictures and molecules.
+    {"pictures/atom.png",
+     "<svg/>",
+     {"1: this is no png file, whatever its name says; save it again as png",
+      "1: warning: no page uses this picture"}},
+    {"pictures/atom.svg",
+     "\x89PNG",
+     {"1: this is no svg file, whatever its name says; save it again as svg",
+      "1: warning: no page uses this picture"}},
+    {"molecules/water.mol",
+     "water\n\n\nx\n",
+     {"4: no molecule can be read here: the fourth line must tell how many atoms and bonds there are"}},
+    {"molecules/water.mol",
+     "water\r\n\r\n\r\n  3  2  0  0  0  0  0  0  0  0999 V2000\r\n",
+     {"4: the molecule is cut short: it should have 3 atoms and 2 bonds"}},
     // The layout of molecule pages.
     {moleculeFile, moleculeTemplate(embedLines + "\ntrue\n</TD>\n", 13), {noEmbed, noTrue}},
     {moleculeFile,
@@ -255,7 +302,7 @@ TEST(Layers, GiveWhatIsNotInTheLayerAbove) {
     EXPECT_NE(content.compiled("40\\0010").find("own"), std::string::npos);
     EXPECT_NE(content.compiled("40\\0020").find("base"), std::string::npos);
     EXPECT_EQ(content.compiled("mol\\ethanol.mol"), "base");
-    EXPECT_EQ(content.compiled("mol\\water.mol"), "water\n");
+    EXPECT_EQ(content.compiled("mol\\water.mol"), sampleMolecule);
     EXPECT_EQ(content.messages, Messages{});
 
     content.write("../base/kalyxo.content", "base: ../content\n");
@@ -283,13 +330,15 @@ TEST(DataSets, OfOneNumberAreReported) {
 
 TEST(MissingSources, AreReported) {
     const std::pair<const char*, std::string> cases[] = {
-        {"start.page", "start.page:1: missing"},
+        {"start.page", "start.md:1: missing"},
         {"templates/page.html", "templates/page.html:1: missing"},
         {"templates/molecule.html", "templates/molecule.html:1: missing"},
         {"molecules", "pages/struct/370010.page:5: no molecule is named 'water'"},
         {"style.css", "templates/page.html:3: the data folder has no file 'style\\kalyxo.css'"},
         {"glossary", "pages/elemcomp/410010.page:5: no glossary term has the key 'hydrogen'"},
-        {"pages/uses", "pages/uses/400000.page:1: start page of the section missing"},
+        {"pages/uses",
+         "pages/uses/400000.md:1: start page of the section missing; make this file, with the lines 'title: "
+         "Η χημεία στην πράξη', '---' and a text"},
     };
     for (const auto& [missing, message] : cases) {
         ContentFolder content;

@@ -57,7 +57,7 @@ TEST_F(Command, SourceErrorsAreAllToldAndLeaveNoFolder) {
 TEST_F(Command, WriteErrorKeepsTheFormerFolder) {
     EXPECT_EQ(compileTo("data"), 0);
     const Files former = listAll(content_.beside("out"));
-    content_.write("pictures/large.png", std::string(100'000, 'x'));
+    content_.write("pictures/large.png", samplePng + std::string(100'000, 'x'));
     limits_ = "trap '' XFSZ; ulimit -f 1; ";
     EXPECT_EQ(compileTo("data"), 1);
     EXPECT_NE(errors_.find("/out/data/"), std::string::npos) << errors_;

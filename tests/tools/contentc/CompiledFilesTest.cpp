@@ -54,8 +54,8 @@ TEST(CompiledFiles, HoldTheirSourceInCodePage1253) {
 
 TEST(CompiledFiles, MarksBecomeMarkers) {
     ContentFolder content;
-    content.write("../built/fire.webm", "video");
-    content.write("../built/atom.png", "picture");
+    content.write("../built/fire.webm", "\x1A\x45\xDF\xA3");
+    content.write("../built/atom.png", samplePng);
     content.write("templates/page.html", "{{title}}{{section}}\n{{body}}\n");
     const struct {
         const char* source;
@@ -134,7 +134,7 @@ TEST(CompiledFiles, MoleculePageNamesItsFileAndKeepsTheLayout) {
               std::string::npos);
     EXPECT_EQ(page.find("{{"), std::string::npos);
     EXPECT_NE(page.find("</TABLE>\r\n<P>H<SUB>2</SUB>O</P>\r\n"), std::string::npos);
-    EXPECT_EQ(content.compiled("mol\\water.mol"), "water\n");
+    EXPECT_EQ(content.compiled("mol\\water.mol"), sampleMolecule);
 }
 
 TEST(CompiledFiles, PlainPagesHaveATitleAndRelativeAddresses) {
@@ -151,15 +151,17 @@ TEST(CompiledFiles, PlainPagesHaveATitleAndRelativeAddresses) {
 
 TEST(CompiledFiles, PicturesAreCopiedAndTwoOfOneNameRefused) {
     ContentFolder content;
-    content.write("pictures/atom.png", "\x89PNG\r\n\0"s);
+    content.write("pictures/atom.png", samplePng);
     content.write("../built/mainmenu.bmp", "BM");
     content.write("../built/notes.txt", "not a picture");
-    EXPECT_EQ(content.compiled("images\\atom.png"), "\x89PNG\r\n\0"s);
+    EXPECT_EQ(content.compiled("images\\atom.png"), samplePng);
     EXPECT_EQ(content.compiled("images\\mainmenu.bmp"), "BM");
-    content.write("pictures/Atom.PNG", "");
+    content.write("pictures/Atom.PNG", samplePng);
     EXPECT_FALSE(content.compile());
     EXPECT_EQ(content.messages,
-              std::vector{"pictures/atom.png:1: 'images\\atom.png' is already made from pictures/Atom.PNG"s});
+              (std::vector{"pictures/Atom.PNG:1: warning: no page uses this picture"s,
+                           "pictures/atom.png:1: 'images\\atom.png' is already made from pictures/Atom.PNG"s,
+                           "pictures/atom.png:1: warning: no page uses this picture"s}));
 }
 
 TEST(CompiledFiles, IndexesListThePagesInDisplayOrder) {

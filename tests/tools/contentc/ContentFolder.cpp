@@ -40,7 +40,7 @@ ContentFolder::ContentFolder() {
     write("pages/struct/370010.page",
           "title: Νερό\nkind: topic\ntemplate: molecule\n---\n{{molecule water}}\n<P>H<SUB>2</SUB>O</P>\n");
     write("glossary/hydrogen.term", "υδρογόνο\nΤο πρώτο στοιχείο.\n");
-    write("molecules/water.mol", "water\n");
+    write("molecules/water.mol", sampleMolecule);
 }
 
 std::optional<contentc::OutputFiles> ContentFolder::compile() {

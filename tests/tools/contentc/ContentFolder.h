@@ -8,6 +8,12 @@
 #include "tests/support/TestFolder.h"
 #include "tools/contentc/ContentCompiler.h"
 
+/// A molecule of one atom, as a file.
+inline const std::string sampleMolecule =
+    "water\n\n\n  1  0  0  0  0  0  0  0  0  0999 V2000\n    0.0 0.0 0.0 O\nM  END\n";
+/// How a PNG file begins.
+inline const std::string samplePng = "\x89PNG\r\n\x1A\n";
+
 /// A temporary folder with content sources that compile without a message; tests change files and compile.
 class ContentFolder {
   public:

@@ -1,7 +1,9 @@
 #include "tools/contentc/source/Content.h"
 
 #include <algorithm>
+#include <map>
 #include <set>
+#include <string>
 #include <tuple>
 
 #include "tools/contentc/source/ContentMessages.h"
@@ -32,7 +34,7 @@ std::vector<const PageSource*> pagesInOrder(const Content& content, Condition is
 std::optional<PageSource> readRequiredPage(const std::optional<SourceFile>& file,
                                            const std::filesystem::path& path, Diagnostics& diagnostics) {
     if (file) return readPlainPage(*file, diagnostics);
-    diagnostics.error({path.generic_string()}, "missing");
+    diagnostics.error({path.generic_string()}, say::isMissing);
     return std::nullopt;
 }
 
@@ -40,6 +42,30 @@ std::vector<std::string> sectionKeys() {
     std::vector<std::string> keys;
     for (const formats::Section& section : formats::sectionTable()) keys.emplace_back(section.key);
     return keys;
+}
+
+/// The first free number of an author's own: topics from SS9000 on, entries from 5000 on in their list.
+std::int32_t freeNumber(const PageSource& page, const std::set<std::int32_t>& taken) {
+    constexpr std::int32_t firstOwnTopic = 9000;
+    constexpr std::int32_t firstOwnEntry = 5000;
+    const std::int32_t group = page.number / 10'000 * 10'000;
+    std::int32_t number = group + (page.kind == PageKind::entry ? firstOwnEntry : firstOwnTopic);
+    while (taken.contains(number)) ++number;
+    return number;
+}
+
+/// Of pages with one number the first stays, and the others are reported.
+void dropSecondPages(std::vector<PageSource>& pages, Diagnostics& diagnostics) {
+    std::map<std::int32_t, std::string> files;
+    std::set<std::int32_t> taken;
+    for (const PageSource& page : pages) taken.insert(page.number);
+    std::erase_if(pages, [&](const PageSource& page) {
+        const auto [first, isNew] = files.try_emplace(page.number, page.place.file);
+        if (isNew) return false;
+        diagnostics.error(page.place, say::numberIsTaken, {page.number, first->second})
+            .suggest(say::takeNumber, {freeNumber(page, taken)});
+        return true;
+    });
 }
 
 /// Reads terms from the top layer down. What a term of a higher layer is called means that term, so a lower
@@ -81,9 +107,10 @@ void readSection(const SectionFolder& folder, Content& content, Diagnostics& dia
 
 Content readContent(const SourceTree& tree, Diagnostics& diagnostics) {
     Content content;
-    content.startPage = readRequiredPage(tree.startPage, tree.root / "start.page", diagnostics);
+    content.startPage = readRequiredPage(tree.startPage, tree.root / "start.md", diagnostics);
     if (tree.helpPage) content.helpPage = readPlainPage(*tree.helpPage, diagnostics);
     for (const SectionFolder& folder : tree.sections) readSection(folder, content, diagnostics);
+    dropSecondPages(content.pages, diagnostics);
     if (tree.families) addElementPages(*tree.families, content.pages, diagnostics);
     resolveTopics(content.pages, diagnostics);
     readLayeredTerms(tree.terms, content.terms, diagnostics);

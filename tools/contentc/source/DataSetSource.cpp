@@ -4,29 +4,30 @@
 #include <string>
 
 #include "formats/DataSetFile.h"
+#include "platform/text/CodePage1253.h"
+#include "tools/contentc/source/DataMessages.h"
 #include "tools/contentc/source/SourceText.h"
 
 namespace contentc {
 namespace {
 
-std::string message(const formats::DataSetFaultLine& fault) {
+const Message& messageOf(formats::DataSetFault fault) {
     using enum formats::DataSetFault;
-    switch (fault.fault) {
-        case field:
-            return "no field with a right value";
+    switch (fault) {
         case incomplete:
-            return "the head needs 'number', 'title', a first column of words, a column of numbers, and a "
-                   "'graph' of such";
+            return say::dataHeadIsIncomplete;
         case cellCount:
-            return "the row of " + inQuotes(fault.name) + " has not as many cells as there are columns";
+            return say::wrongCellCount;
         case notANumber:
-            return "the row of " + inQuotes(fault.name) + " has words where a number belongs";
+            return say::wordsForNumber;
         case tooManyRows:
-            return "the row of " + inQuotes(fault.name) + " is one too many";
+            return say::rowTooMany;
         case cutShort:
-            return "the row of " + inQuotes(fault.name) + " is cut short";
+            return say::rowIsCutShort;
+        case field:
+            break;
     }
-    return {};
+    return say::wrongDataField;
 }
 
 std::string joined(const std::vector<TextLine>& lines, std::string_view lineEnd) {
@@ -42,10 +43,11 @@ void addDataSets(const std::vector<SourceFile>& files, OutputFiles& outputs, Dia
     for (const SourceFile& file : files) {
         const auto lines = readLines(file, diagnostics);
         const auto decoded = formats::decodeDataSet(joined(lines, "\n"));
-        for (const auto& fault : decoded.faults) diagnostics.error(file.place(fault.line), message(fault));
+        for (const auto& fault : decoded.faults) {
+            diagnostics.error(file.place(fault.line), messageOf(fault.fault), {platform::toUtf8(fault.name)});
+        }
         if (decoded.set && !numbers.insert(decoded.set->number).second) {
-            diagnostics.error(file.place(), "another data set has the number " +
-                                                std::to_string(decoded.set->number) + " too");
+            diagnostics.error(file.place(), say::dataNumberIsTaken, {decoded.set->number});
         }
         outputs.add("datasets\\" + file.stem() + ".dat", joined(lines, "\r\n"), file.place(), diagnostics);
     }

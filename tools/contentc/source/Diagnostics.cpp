@@ -10,8 +10,6 @@
 namespace contentc {
 namespace {
 
-constexpr Message untranslated{"{1}", "{1}"};
-
 std::string toText(const SourcePlace& place) {
     std::string text = place.file + ':' + std::to_string(place.line) + ':';
     if (place.column > 0) text += std::to_string(place.column) + ':';
@@ -57,14 +55,6 @@ Diagnostic& Diagnostics::error(const SourcePlace& place, const Message& message,
 
 Diagnostic& Diagnostics::warning(const SourcePlace& place, const Message& message, MessageValues values) {
     return found_.emplace_back(Diagnostic{place, Severity::warning, {message, std::move(values)}, {}});
-}
-
-void Diagnostics::error(const SourcePlace& place, std::string message) {
-    error(place, untranslated, {std::move(message)});
-}
-
-void Diagnostics::warning(const SourcePlace& place, std::string message) {
-    warning(place, untranslated, {std::move(message)});
 }
 
 void Diagnostics::add(Diagnostics more) { std::ranges::move(more.found_, std::back_inserter(found_)); }

@@ -51,10 +51,6 @@ class Diagnostics {
     Diagnostic& error(const SourcePlace& place, const Message& message, MessageValues values = {});
     Diagnostic& warning(const SourcePlace& place, const Message& message, MessageValues values = {});
 
-    // Text that has no translation yet.
-    void error(const SourcePlace& place, std::string message);
-    void warning(const SourcePlace& place, std::string message);
-
     /// Adds what another collection has found.
     void add(Diagnostics more);
 

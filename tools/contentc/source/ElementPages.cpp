@@ -8,6 +8,7 @@
 #include "platform/text/CodePage1253.h"
 #include "platform/text/Fold.h"
 #include "tools/contentc/cards/ElementPage.h"
+#include "tools/contentc/source/DataMessages.h"
 
 namespace contentc {
 namespace {
@@ -42,9 +43,9 @@ FamilyTexts readFamilies(const SourceFile& file, Diagnostics& diagnostics) {
         const auto words = parts(text);
         const auto family = familyNamed(platform::fromUtf8(words.front()));
         if (words.size() != 3 || words[1].empty() || words[2].empty()) {
-            diagnostics.error(line.place, "not a line 'family | topic | uses'");
+            diagnostics.error(line.place, say::notAFamilyLine);
         } else if (!family) {
-            diagnostics.error(line.place, "no family of elements is named '" + words.front() + '\'');
+            diagnostics.error(line.place, say::noFamily, {words.front()});
         } else {
             texts[*family] = FamilyText{words[1], words[2]};
         }

@@ -30,6 +30,12 @@ inline constexpr Message pagesLieInSections{"pages lie in the folder of a sectio
                                             "οι σελίδες μπαίνουν στον φάκελο μιας ενότητας, π.χ. pages/uses"};
 inline constexpr Message saveAs{"save it as {1}", "αποθήκευσέ το ως {1}"};
 
+// Files of the data folder
+inline constexpr Message nameIsNotPlain{"'{1}' has characters other than a-z, 0-9, '.', '-' and '_'",
+                                        "το «{1}» έχει και άλλους χαρακτήρες από a-z, 0-9, «.», «-» και «_»"};
+inline constexpr Message fileIsMadeAlready{"'{1}' is already made from {2}",
+                                           "το «{1}» γίνεται ήδη από το {2}"};
+
 // Layers
 inline constexpr Message unknownLayerField{"unknown name '{1}'", "άγνωστο όνομα «{1}»"};
 inline constexpr Message notALayerLine{"not a line 'base: folder'", "δεν είναι γραμμή «βάση: φάκελος»"};

@@ -82,7 +82,7 @@ class HeadReader {
         if (field->text == "molecule") {
             page_.scaffold = PageTemplate::molecule;
         } else {
-            diagnostics_.error(field->place, "unknown template " + inQuotes(field->text));
+            diagnostics_.error(field->place, say::unknownTemplate, {platform::toUtf8(field->text)});
         }
     }
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "tools/contentc/source/MoleculeMessages.h"
+
 namespace contentc {
 namespace {
 
@@ -28,28 +30,27 @@ class LayoutCheck {
         : lines_(lines), page_(page), diagnostics_(diagnostics) {}
 
     void run() {
-        require(embedLine, isEmbedLine, "must hold the '<EMBED ' of the molecule with the sizes 340 and 290");
-        require(settingLine, isSettingLine, "must end in its only 'true'");
+        require(embedLine, isEmbedLine, say::moleculeEmbedLine);
+        require(settingLine, isSettingLine, say::moleculeSettingLine);
         const auto afterSetting =
             lines_.begin() + static_cast<std::ptrdiff_t>(std::min(settingLine, lines_.size()));
         if (std::none_of(afterSetting, lines_.end(), endsView)) {
-            diagnostics_.error(page_, "no line after line 15 of the finished page begins with '</TD>'");
+            diagnostics_.error(page_, say::noEndOfMoleculeView);
         }
         for (const TextLine& line : lines_) checkQuotes(line);
     }
 
   private:
-    void require(std::size_t number, bool (*isRight)(const std::string&), const std::string& rule) {
+    void require(std::size_t number, bool (*isRight)(const std::string&), const Message& rule) {
         const TextLine line = number <= lines_.size() ? lines_[number - 1] : TextLine{"", page_};
         if (isRight(line.text)) return;
-        diagnostics_.error(line.place,
-                           "line " + std::to_string(number) + " of the finished molecule page " + rule);
+        diagnostics_.error(line.place, rule, {number});
     }
 
     void checkQuotes(const TextLine& line) {
         const std::size_t marker = line.text.find(moleculeMarker);
         if (marker == std::string::npos || line.text.find('"') + 1 == marker) return;
-        diagnostics_.error(line.place, "the molecule file must be the first text in quotes on its line");
+        diagnostics_.error(line.place, say::moleculeFileNotFirst);
     }
 
     const std::vector<TextLine>& lines_;

@@ -4,6 +4,7 @@
 #include <cctype>
 
 #include "platform/text/CodePage1253.h"
+#include "tools/contentc/source/FileMessages.h"
 
 namespace contentc {
 namespace {
@@ -28,12 +29,12 @@ bool isPortable(std::string_view path) {
 void OutputFiles::add(const std::string& path, std::string bytes, const SourcePlace& source,
                       Diagnostics& diagnostics) {
     if (!isPortable(path)) {
-        diagnostics.error(source, "'" + path + "' has characters other than a-z, 0-9, '.', '-' and '_'");
+        diagnostics.error(source, say::nameIsNotPlain, {path});
         return;
     }
     std::string key = normalised(path);
     const auto [place, isNew] = files_.try_emplace(std::move(key), File{path, std::move(bytes), source});
-    if (!isNew) diagnostics.error(source, "'" + path + "' is already made from " + place->second.source.file);
+    if (!isNew) diagnostics.error(source, say::fileIsMadeAlready, {path, place->second.source.file});
 }
 
 bool OutputFiles::contains(std::string_view path) const { return files_.contains(normalised(path)); }

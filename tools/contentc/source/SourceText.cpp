@@ -6,6 +6,8 @@
 
 #include "platform/text/CodePage1253.h"
 #include "platform/text/CodePageTable.h"
+#include "tools/contentc/source/Substitutes.h"
+#include "tools/contentc/source/TextMessages.h"
 
 namespace contentc {
 namespace {
@@ -22,13 +24,37 @@ bool isControl(char32_t value) { return (value < 0x20 && value != '\t') || (valu
 
 bool isPrivate(char32_t value) { return value >= 0xE000 && value < 0xF900; }
 
-/// What is wrong with a character; empty when nothing is. Control and private characters have bytes in the
-/// code page, but no meaning on a page.
-std::string faultOf(const Utf8Character& character, std::string_view bytes) {
-    if (character.value == Utf8Character::malformed) return "not UTF-8";
-    if (isControl(character.value)) return "control character " + codePoint(character.value);
-    if (platform::codepage::fromUnicode(character.value) >= 0 && !isPrivate(character.value)) return {};
-    return "not in code page 1253: '" + std::string(bytes) + "' (" + codePoint(character.value) + ')';
+/// Whether the code page has a character. Control and private characters have bytes in it, but no meaning on
+/// a page.
+bool isInCodePage(char32_t value) {
+    return value != Utf8Character::malformed && !isControl(value) && !isPrivate(value) &&
+           platform::codepage::fromUnicode(value) >= 0;
+}
+
+/// Reports a character that has no place on a page, and says what to write instead.
+void reportCharacter(const Utf8Character& character, std::string_view bytes, const SourcePlace& place,
+                     Diagnostics& diagnostics) {
+    const char32_t value = character.value;
+    if (value == Utf8Character::malformed) {
+        diagnostics.error(place, say::notUtf8).suggest(say::saveAsUtf8);
+        return;
+    }
+    if (isControl(value)) {
+        diagnostics.error(place, say::controlCharacter, {codePoint(value)}).suggest(say::leaveOut);
+        return;
+    }
+    Diagnostic& fault = diagnostics.error(place, say::notInCodePage, {bytes, codePoint(value)});
+    const auto substitute = substituteFor(value);
+    if (!substitute) return;
+    if (substitute->empty()) {
+        fault.suggest(say::leaveOut);
+    } else {
+        fault.suggest(say::writeInstead, {*substitute});
+    }
+}
+
+SourcePlace placeIn(const SourcePlace& line, std::string_view utf8, std::size_t offset) {
+    return {line.file, line.line, columnAt(utf8, offset)};
 }
 
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
@@ -58,7 +84,7 @@ std::string withoutForbidden(std::string_view utf8, const SourcePlace& place, Di
         const Utf8Character character = platform::codepage::decodeUtf8(utf8, at);
         const std::string_view bytes = utf8.substr(at, character.length);
         const bool bad = isForbidden(character.value);
-        if (bad && !reported) diagnostics.error(place, faultOf(character, bytes));
+        if (bad && !reported) reportCharacter(character, bytes, placeIn(place, utf8, at), diagnostics);
         reported |= bad;
         kept.append(bad ? "?" : bytes);
         at += character.length;
@@ -68,16 +94,19 @@ std::string withoutForbidden(std::string_view utf8, const SourcePlace& place, Di
 
 std::string encodeLine(std::string_view utf8, const SourcePlace& place, Diagnostics& diagnostics) {
     std::string encoded;
-    std::string firstFault;
+    bool reported = false;
     for (std::size_t at = 0; at < utf8.size();) {
         const Utf8Character character = platform::codepage::decodeUtf8(utf8, at);
-        const std::string fault = faultOf(character, utf8.substr(at, character.length));
-        if (!fault.empty() && firstFault.empty()) firstFault = fault;
-        encoded.push_back(fault.empty() ? static_cast<char>(platform::codepage::fromUnicode(character.value))
-                                        : '?');
+        const bool isRight = isInCodePage(character.value);
+        if (!isRight && !reported) {
+            reportCharacter(character, utf8.substr(at, character.length), placeIn(place, utf8, at),
+                            diagnostics);
+        }
+        reported |= !isRight;
+        encoded.push_back(isRight ? static_cast<char>(platform::codepage::fromUnicode(character.value))
+                                  : '?');
         at += character.length;
     }
-    if (!firstFault.empty()) diagnostics.error(place, firstFault);
     return encoded;
 }
 
@@ -116,7 +145,5 @@ std::optional<std::int32_t> parseNumber(std::string_view text) {
     if (fault != std::errc{} || end != text.data() + text.size()) return std::nullopt;
     return number;
 }
-
-std::string inQuotes(std::string_view text) { return '\'' + platform::toUtf8(text) + '\''; }
 
 }  // namespace contentc

@@ -36,7 +36,4 @@ std::string_view trimmed(std::string_view text);
 /// The text as a decimal number. Nothing when it is something else or does not fit into 32 bits.
 std::optional<std::int32_t> parseNumber(std::string_view text);
 
-/// `text` in quotes for a message; code page 1253 becomes UTF-8.
-std::string inQuotes(std::string_view text);
-
 }  // namespace contentc

@@ -165,10 +165,19 @@ class TreeReader {
             if (folder == made.folders.end()) {
                 append(sources, path);
             } else {
-                append(results, *folder / name);
+                appendMade(results, *folder / name, path);
                 if (&sources == &tree_.drawings) append(tree_.drawnDrawings, path);
             }
         }
+    }
+
+    /// What was made of a source goes by the source's name.
+    void appendMade(std::vector<SourceFile>& files, const fs::path& made, const fs::path& source) {
+        auto file = readFile(made);
+        if (!file) return;
+        file->path = source;
+        file->madeExtension = made.extension().string();
+        files.push_back(std::move(*file));
     }
 
     /// Takes what was made without a source here.
@@ -177,7 +186,11 @@ class TreeReader {
         for (const fs::path& folder : folders) {
             std::vector<fs::path> paths = pathsOf(folder, {extension});
             std::erase_if(paths, [&](const fs::path& path) { return overlay.isTakenOfThisLayer(path); });
-            take(overlay, files, paths);
+            for (const fs::path& path : paths) {
+                if (overlay.isTaken(path)) continue;
+                overlay.take(path);
+                appendMade(files, path, path);
+            }
         }
     }
 

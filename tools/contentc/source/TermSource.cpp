@@ -8,6 +8,7 @@
 #include "platform/text/GreekLiteral.h"
 #include "tools/contentc/source/HeadMessages.h"
 #include "tools/contentc/source/NameKey.h"
+#include "tools/contentc/source/TermMessages.h"
 
 namespace contentc {
 namespace {
@@ -44,11 +45,10 @@ void checkTerm(const TermSource& term, Diagnostics& diagnostics) {
 std::vector<TermSource> readOldTerm(const SourceFile& file, Diagnostics& diagnostics) {
     std::vector<TextLine> lines = readLines(file, diagnostics);
     if (!isGlossaryKey(file.stem())) {
-        diagnostics.error(file.place(),
-                          "glossary key '" + file.stem() + "' is not 8 characters of a-z and 0-9");
+        diagnostics.error(file.place(), say::wrongTermKey, {file.stem()});
     }
     if (lines.empty() || trimmed(lines.front().text).empty()) {
-        diagnostics.error(file.place(), "the first line must be the term");
+        diagnostics.error(file.place(), say::firstLineIsTerm);
         return {};
     }
     while (trimmed(lines.back().text).empty()) lines.pop_back();

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/text/CodePage1253.h"
+#include "tools/contentc/source/DataMessages.h"
 #include "tools/contentc/source/PageText.h"
 
 namespace contentc {
@@ -38,7 +40,8 @@ WordsSource readWords(const std::optional<SourceFile>& stopWords, const std::opt
     std::set<std::string> grouped;
     forEachLine(forms, diagnostics, [&](const SourcePlace& place, std::vector<std::string> words) {
         for (const std::string& word : words) {
-            if (!grouped.insert(word).second) diagnostics.error(place, inQuotes(word) + " stands twice");
+            if (!grouped.insert(word).second)
+                diagnostics.error(place, say::wordStandsTwice, {platform::toUtf8(word)});
         }
         source.formGroups.push_back(std::move(words));
     });
