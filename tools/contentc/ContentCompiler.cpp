@@ -14,6 +14,7 @@
 #include "tools/contentc/source/Content.h"
 #include "tools/contentc/source/DataSetSource.h"
 #include "tools/contentc/source/MediaChecks.h"
+#include "tools/contentc/source/Parallel.h"
 
 namespace contentc {
 namespace {
@@ -53,12 +54,16 @@ class ContentCompilation {
         const BodyContext context{
             terms,    pages,    pictures, elementCardMaker(), compoundCardMaker(tree_.dataSets, diagnostics_),
             content_, relations};
-        const auto compile = [&](PageSource& page) {
-            if (page.isMarkdown) compileBody(page, context, diagnostics_);
-        };
-        if (content_.startPage) compile(*content_.startPage);
-        if (content_.helpPage) compile(*content_.helpPage);
-        std::ranges::for_each(content_.pages, compile);
+        std::vector<PageSource*> bodies;
+        for (auto* plain : {&content_.startPage, &content_.helpPage}) {
+            if (*plain) bodies.push_back(&**plain);
+        }
+        for (PageSource& page : content_.pages) bodies.push_back(&page);
+        std::vector<Diagnostics> found(bodies.size());
+        inParallel(bodies.size(), [&](std::size_t i) {
+            if (bodies[i]->isMarkdown) compileBody(*bodies[i], context, found[i]);
+        });
+        for (Diagnostics& ofBody : found) diagnostics_.add(std::move(ofBody));
     }
 
     void addPages() {

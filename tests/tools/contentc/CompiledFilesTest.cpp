@@ -140,7 +140,7 @@ TEST(CompiledFiles, MoleculePageNamesItsFileAndKeepsTheLayout) {
 TEST(CompiledFiles, PlainPagesHaveATitleAndRelativeAddresses) {
     ContentFolder content;
     content.write("help.page", "title: Βοήθεια\n---\n<IMG SRC=\"{{data}}images/x.png\">\n");
-    content.write("pictures/x.png", "x");
+    content.write("pictures/x.png", samplePng);
     const std::string page = content.compiled("help.htm");
     EXPECT_TRUE(page.starts_with("<HTML>\r\n<HEAD>\r\n"));
     EXPECT_NE(page.find("charset=windows-1253"), std::string::npos);

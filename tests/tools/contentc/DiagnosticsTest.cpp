@@ -18,7 +18,7 @@ TEST(Diagnostics, AreToldInTwoLanguagesWithPlaceAndSuggestion) {
     ASSERT_EQ(sorted.size(), 2U);
     EXPECT_EQ(toLine(sorted[0], Language::greek), "a.md:1: προσοχή: άγνωστη λέξη «{1}»");
     EXPECT_EQ(toLine(sorted[1], Language::english), "a.md:2:3: unknown word 'νερο'; did you mean 'νερό'?");
-    EXPECT_EQ(toLine(sorted[1], Language::greek), "a.md:2:3: άγνωστη λέξη «νερο»; μήπως εννοείς «νερό»;");
+    EXPECT_EQ(toLine(sorted[1], Language::greek), "a.md:2:3: άγνωστη λέξη «νερο»· μήπως εννοείς «νερό»;");
 }
 
 TEST(NearestName, IsTheOneProbablyMeant) {

@@ -6,6 +6,7 @@
 namespace contentc::say {
 
 inline constexpr Message warning{"warning: ", "προσοχή: "};
+inline constexpr Message separator{"; ", "· "};
 inline constexpr Message didYouMean{"did you mean '{1}'?", "μήπως εννοείς «{1}»;"};
 inline constexpr Message writeInstead{"write '{1}' instead", "γράψε «{1}»"};
 inline constexpr Message isMissing{"missing", "λείπει"};

@@ -45,7 +45,8 @@ std::string toLine(const Diagnostic& diagnostic, Language language) {
     std::string line = toText(diagnostic.place) + ' ';
     if (diagnostic.severity == Severity::warning) line += Phrase{say::warning, {}}.in(language);
     line += diagnostic.what.in(language);
-    for (const Phrase& suggestion : diagnostic.suggestions) line += "; " + suggestion.in(language);
+    for (const Phrase& suggestion : diagnostic.suggestions)
+        line += Phrase{say::separator, {}}.in(language) + suggestion.in(language);
     return line;
 }
 

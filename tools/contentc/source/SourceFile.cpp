@@ -3,7 +3,6 @@
 #include <array>
 #include <cerrno>
 #include <fstream>
-#include <iterator>
 #include <utility>
 
 #include "platform/text/CodePage1253.h"
@@ -57,12 +56,14 @@ std::optional<SourceFile> readSourceFile(const fs::path& path, Diagnostics& diag
         errno = 0;
         std::ifstream stream(path, std::ios::binary);
         if (!stream.is_open()) failed = std::error_code(errno, std::generic_category());
-        file.bytes.assign(std::istreambuf_iterator<char>(stream), {});
+        file.bytes.resize(before.first);
+        stream.read(file.bytes.data(), static_cast<std::streamsize>(file.bytes.size()));
+        const bool isWhole = !stream.fail() && stream.peek() == std::ifstream::traits_type::eof();
         if (failed || stream.bad()) {
             diagnostics.error(file.place(), reasonOf(failed));
             return std::nullopt;
         }
-        if (before == stateOf(path, failed) && before.first == file.bytes.size()) return file;
+        if (isWhole && before == stateOf(path, failed)) return file;
     }
     diagnostics.error(file.place(), say::keepsChanging);
     return std::nullopt;
