@@ -55,10 +55,10 @@ inline constexpr Message argumentTooMuch{"'{1}' is one argument too many", "το
 inline constexpr Message noSuchFolder{"no such folder", "δεν υπάρχει τέτοιος φάκελος"};
 
 // Results
-inline constexpr Message allIsRight{"Nothing wrong: {1} pages, {2} terms.",
-                                    "Κανένα λάθος: {1} σελίδες, {2} όροι."};
-inline constexpr Message isBuilt{"Done: {1} pages, {2} terms, in {3}",
-                                 "Έτοιμο: {1} σελίδες, {2} όροι, στον φάκελο {3}"};
+inline constexpr Message allIsRight{"Nothing wrong. Pages: {1}, terms: {2}.",
+                                    "Κανένα λάθος. Σελίδες: {1}, όροι: {2}."};
+inline constexpr Message isBuilt{"Done. Pages: {1}, terms: {2}, folder: {3}",
+                                 "Έτοιμο. Σελίδες: {1}, όροι: {2}, φάκελος: {3}"};
 inline constexpr Message thereWereErrors{"Errors: {1}. Warnings: {2}. Nothing was written.",
                                          "Λάθη: {1}. Προειδοποιήσεις: {2}. Δεν γράφτηκε τίποτε."};
 inline constexpr Message warningsCount{

@@ -11,7 +11,9 @@ namespace contentc {
 namespace {
 
 std::string toText(const SourcePlace& place) {
-    std::string text = place.file + ':' + std::to_string(place.line) + ':';
+    // As the author would name it in the current folder.
+    const std::string_view file = std::string_view(place.file).substr(place.file.starts_with("./") ? 2 : 0);
+    std::string text = std::string(file) + ':' + std::to_string(place.line) + ':';
     if (place.column > 0) text += std::to_string(place.column) + ':';
     return text;
 }
