@@ -57,7 +57,8 @@ bool isHostName(std::string_view name) {
 }
 
 void setEngineFlags() {
-    // Content has no use for these, and the policy does not see all that they ask for.
+    // Content has no use for these, and the policy does not see all that they ask for. A newer engine may not
+    // know the name of one; `contentLimits` takes away what matters of them.
     QByteArray flags =
         "--disable-blink-features=FileSystemAccess,FileSystemAccessLocal,Presentation,SharedWorker,"
         "WebTransport "

@@ -8,7 +8,7 @@ namespace platform {
 namespace {
 
 constexpr auto limitsScript = QLatin1StringView(R"((() => {
-    for (const name of ['RTCPeerConnection', 'webkitRTCPeerConnection']) delete window[name];
+    for (const name of ['RTCPeerConnection', 'webkitRTCPeerConnection', 'WebTransport']) delete window[name];
     delete Navigator.prototype.clipboard;
     const {execCommand} = Document.prototype;
     Document.prototype.execCommand = function(command, ...rest) {

@@ -18,6 +18,7 @@ namespace {
 /// Rows as `name: value`.
 std::vector<std::string> shown(const std::vector<CardRow>& rows) {
     std::vector<std::string> texts;
+    texts.reserve(rows.size());
     for (const CardRow& row : rows) texts.push_back(row.name + ": " + row.value);
     return texts;
 }
