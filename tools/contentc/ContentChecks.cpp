@@ -49,7 +49,7 @@ void checkTerms(const References& references, const Content& content, Diagnostic
     for (const Reference& reference : references.terms) {
         used.insert(reference.name);
         if (!known.contains(reference.name))
-            diagnostics.error(reference.place, say::noTermWithKey, {reference.name});
+            diagnostics.error(reference.place, say::noTermWithKey, {platform::toUtf8(reference.name)});
     }
     for (const TermSource& term : content.terms) {
         if (!used.contains(term.key)) diagnostics.warning(term.place, say::termIsUnused);
@@ -171,7 +171,7 @@ void checkClasses(const SourceTree& tree, const Content& content, Diagnostics& d
     if (known.empty()) return;
     const std::vector<std::string> names(known.begin(), known.end());
     for (const PageSource& page : content.pages) {
-        for (const Reference& name : classesUsed(page.isMarkdown ? page.markdown : page.body)) {
+        for (const Reference& name : classesUsed(page.markdown)) {
             if (known.contains(name.name)) continue;
             diagnostics.warning(name.place, say::unknownClass, {name.name}).suggestNearest(name.name, names);
         }

@@ -10,33 +10,24 @@ inline constexpr Message notALineMark{
     "'{1}' is not '{{video NAME}}' or '{{molecule NAME}}' on a line of its own",
     "το «{1}» δεν είναι «{{βίντεο ΟΝΟΜΑ}}» ή «{{μόριο ΟΝΟΜΑ}}» μόνο του σε μια γραμμή"};
 inline constexpr Message notAToolMark{
-    "'{1}' is not '{{tool NAME}}', with settings as 'name=\"value\"', or the '{{end}}' of a quiz, on a line "
-    "of its own",
-    "το «{1}» δεν είναι «{{εργαλείο ΟΝΟΜΑ}}», με ρυθμίσεις «όνομα=\"τιμή\"», ή το «{{end}}» ενός κουίζ, μόνο "
-    "του σε μια γραμμή"};
+    "'{1}' is not '{{tool NAME}}', with settings as 'name=\"value\"', on a line of its own",
+    "το «{1}» δεν είναι «{{εργαλείο ΟΝΟΜΑ}}», με ρυθμίσεις «όνομα=\"τιμή\"», μόνο του σε μια γραμμή"};
 inline constexpr Message unknownMark{"unknown mark '{1}'", "άγνωστο σημάδι «{1}»"};
 inline constexpr Message linkInsideLink{"'[[' inside a glossary link", "«[[» μέσα σε παραπομπή στο γλωσσάρι"};
 inline constexpr Message noLinkHere{"a glossary link works only on a page of a section",
                                     "παραπομπές στο γλωσσάρι υπάρχουν μόνο στις σελίδες των ενοτήτων"};
 inline constexpr Message linkWithoutBar{"'[[' without '|'", "«[[» χωρίς «|»"};
-inline constexpr Message wrongLinkKey{"glossary key '{1}' is not 8 characters of a-z and 0-9",
-                                      "το κλειδί «{1}» δεν είναι 8 χαρακτήρες a-z και 0-9"};
 inline constexpr Message linkWithoutWords{"a glossary link without words",
                                           "παραπομπή στο γλωσσάρι χωρίς λέξεις"};
 inline constexpr Message linkIsOpen{"'[[' is not closed on its line", "το «[[» δεν κλείνει στη γραμμή του"};
 inline constexpr Message tildeWouldLink{"'~' would be taken for a glossary link",
                                         "το «~» θα έμοιαζε με παραπομπή στο γλωσσάρι"};
-inline constexpr Message moleculeLineIsMissing{
-    "a page of template 'molecule' needs a line '{{molecule NAME}}'",
-    "μια σελίδα με πρότυπο «molecule» χρειάζεται γραμμή «{{μόριο ΟΝΟΜΑ}}»"};
 inline constexpr Message noVideoHere{"a video works only on a page of a section",
                                      "βίντεο υπάρχουν μόνο στις σελίδες των ενοτήτων"};
 inline constexpr Message noToolHere{"a tool works only on a page of a section",
                                     "εργαλεία υπάρχουν μόνο στις σελίδες των ενοτήτων"};
-inline constexpr Message quizIsOpen{"the quiz has no line '{{end}}'", "το κουίζ δεν έχει γραμμή «{{end}}»"};
-inline constexpr Message moleculeNeedsTemplate{
-    "a molecule needs the header line 'template: molecule'",
-    "ένα μόριο χρειάζεται τη γραμμή κεφαλίδας «template: molecule»"};
+inline constexpr Message quizWithoutBox{"the questions of a quiz stand in a box '::: quiz'",
+                                        "οι ερωτήσεις ενός κουίζ γράφονται σε πλαίσιο «::: ερωτήσεις»"};
 inline constexpr Message secondMolecule{"a second molecule on the page", "δεύτερο μόριο στη σελίδα"};
 inline constexpr Message pageLineIsTooLong{"line has {1} bytes, at most {2} are allowed",
                                            "η γραμμή έχει {1} χαρακτήρες, επιτρέπονται το πολύ {2}"};

@@ -5,7 +5,6 @@
 
 #include "platform/text/CodePage1253.h"
 #include "tools/contentc/MarkMessages.h"
-#include "tools/contentc/source/TermSource.h"
 
 namespace contentc {
 namespace {
@@ -30,7 +29,7 @@ bool isLineMark(std::string_view name) { return name.starts_with("video") || nam
 /// A mark as it is written, in UTF-8.
 std::string markNamed(std::string_view name) { return "{{" + platform::toUtf8(name) + "}}"; }
 
-bool isToolMark(std::string_view name) { return name.starts_with("tool") || name == "end"; }
+bool isToolMark(std::string_view name) { return name.starts_with("tool"); }
 
 }  // namespace
 
@@ -91,11 +90,7 @@ void MarkupCompiler::openLink() {
         take(linkStart.size());
         return;
     }
-    if (isGlossaryKey(key)) {
-        references_.terms.push_back({place_, std::string(key)});
-    } else {
-        error(say::wrongLinkKey, {platform::toUtf8(key)});
-    }
+    references_.terms.push_back({place_, std::string(key)});
     result_.append(linkDelimiter).append(key);
     rest_.remove_prefix(linkStart.size() + key.size() + 1);
     linkWords_ = result_.size();

@@ -38,6 +38,7 @@ class PageCompilation {
 
   private:
     bool isPrepared() const { return page_.kind != PageKind::plain; }
+    bool hasMoleculeScaffold() const { return page_.scaffold == PageTemplate::molecule; }
 
     MarkValues bodyMarks() const {
         // A plain page lies in the data folder itself, so its relative addresses start there.
@@ -53,7 +54,7 @@ class PageCompilation {
             marks["section"] = page_.section->key;
             marks["sectionname"] = page_.section->displayName;
         }
-        if (page_.scaffold == PageTemplate::molecule) {
+        if (hasMoleculeScaffold()) {
             marks["molfile"] = std::string(moleculeMarker) + "mol\\" + molecule_.value_or("") + ".mol";
         }
         return marks;
@@ -65,16 +66,14 @@ class PageCompilation {
         for (auto line = page_.body.begin(); line != page_.body.end(); ++line) {
             if (const auto video = nameInMarkLine(line->text, "video")) {
                 lines.push_back(videoLine(*video, line->place));
-            } else if (const auto molecule = nameInMarkLine(line->text, "molecule")) {
+            } else if (const auto molecule = nameInMarkLine(line->text, "molecule");
+                       molecule && hasMoleculeScaffold()) {
                 setMolecule(*molecule, line->place);
             } else if (const auto tool = readToolLine(line->text)) {
                 line = addTool(*tool, line, markup, lines);
             } else {
                 lines.push_back(markup.compile(*line));
             }
-        }
-        if (page_.scaffold == PageTemplate::molecule && !molecule_) {
-            diagnostics_.error(page_.place, say::moleculeLineIsMissing);
         }
         return lines;
     }
@@ -110,7 +109,7 @@ class PageCompilation {
         const auto isEnd = [](const TextLine& next) { return trimmed(next.text) == endLine; };
         const auto end = std::find_if(line + 1, page_.body.end(), isEnd);
         if (end == page_.body.end()) {
-            diagnostics_.error(line->place, say::quizIsOpen);
+            diagnostics_.error(line->place, say::quizWithoutBox);
             return end - 1;
         }
         const auto quiz = compileQuiz({line + 1, end}, line->place, markup, diagnostics_);
@@ -119,11 +118,7 @@ class PageCompilation {
     }
 
     void setMolecule(std::string_view name, const SourcePlace& place) {
-        if (page_.scaffold != PageTemplate::molecule) {
-            diagnostics_.error(place, say::moleculeNeedsTemplate);
-        } else if (molecule_) {
-            diagnostics_.error(place, say::secondMolecule);
-        }
+        if (molecule_) diagnostics_.error(place, say::secondMolecule);
         references_.molecules.push_back({place, std::string(name)});
         molecule_ = name;
     }

@@ -8,9 +8,9 @@ namespace {
 
 using Messages = std::vector<std::string>;
 
-const std::string topicHeader = "title: T\nkind: topic\n---\n";
+const std::string topicHeader = "title: T\nsummary: S\n---\n";
 
-constexpr const char* pageFile = "pages/uses/400010.page";
+constexpr const char* pageFile = "pages/uses/400010.md";
 constexpr const char* moleculeFile = "templates/molecule.html";
 
 // The molecule page's lines, from the one with the EMBED on; the twelve before them are blank.
@@ -46,111 +46,106 @@ const struct {
     {pageFile, "title: T\nkind: topic\n<P>", {"3: no line '---' between header and body"}},
     {pageFile, "", {"1: no line '---' between header and body"}},
     {pageFile,
-     "title T\ncolour: red\nkind: topic\nkind: entry\n---\n",
+     "title T\ncolour: red\nkind: topic\nkind: entry\nsummary: S\n---\n",
      {"1: not a header line 'name: value'", "2: unknown header field 'colour'",
-      "4: header field 'kind' stands twice", "5: header field 'title' is missing"}},
+      "4: header field 'kind' stands twice", "6: header field 'title' is missing"}},
     {pageFile,
-     "title:\nkind: page\norder: first\ntemplate: film\n---\n",
+     "title:\nkind: page\norder: first\nyear: now\nsummary: S\n---\n",
      {"1: header field 'title' is empty", "2: unknown kind 'page'", "3: not a number: 'first'",
-      "4: unknown template 'film'"}},
-    {pageFile, "title: T\nkind: topic\ntopic: 400000\n---\n", {"3: only an entry has a topic"}},
+      "4: not a number: 'now'"}},
+    {pageFile, "title: T\nsummary: S\ntopic: 400000\n---\n", {"3: only an entry has a topic"}},
     {pageFile,
-     "title: " + std::string(108, 'x') + "\nkind: topic\n---\n",
+     "title: " + std::string(108, 'x') + "\nsummary: S\n---\n",
      {"1: title has 108 bytes, at most 107 fit"}},
-    {"pages/uses/40001.page",
+    {"pages/uses/40001.md",
      "title: " + std::string(60, 'x') + "\nkind: entry\ntopic: 400000\n---\n",
      {"1: title has 60 bytes, at most 59 fit"}},
-    {"start.page", "title: T\nkind: start\n---\n", {"2: unknown header field 'kind'"}},
+    {"start.md", "title: T\nkind: start\n---\n", {"2: unknown header field 'kind'"}},
     // Page numbers.
-    {"pages/uses/1000000.page", topicHeader, {"1: file name is not a page number: '1000000'"}},
-    {"pages/uses/0400010.page", topicHeader, {"1: file name is not a page number: '0400010'"}},
-    {"pages/uses/intro.page", topicHeader, {"1: file name is not a page number: 'intro'"}},
-    {"pages/uses/410010.page",
+    {"pages/uses/1000000.md", topicHeader, {"1: file name is not a page number: '1000000'"}},
+    {"pages/uses/0400010.md", topicHeader, {"1: file name is not a page number: '0400010'"}},
+    {"pages/uses/intro.md", topicHeader, {"1: file name is not a page number: 'intro'"}},
+    {"pages/uses/410010.md",
      topicHeader,
-     {"1: the number 410010 is taken already, by pages/elemcomp/410010.page; take 419000"}},
-    {"pages/uses/400000.page", topicHeader, {"1: page 400000 must be of kind 'start'"}},
-    {"pages/uses/400001.page",
+     {"1: the number 410010 is taken already, by pages/elemcomp/410010.md; take 419000"}},
+    {"pages/uses/400000.md",
+     "title: T\nkind: topic\nsummary: S\n---\n",
+     {"1: page 400000 must be of kind 'start'"}},
+    {"pages/uses/400001.md",
      "title: T\nkind: start\n---\n",
      {"1: the start page of this section is 400000, not 400001"}},
-    {"pages/uses/30001.page",
+    {"pages/uses/30001.md",
      "title: T\nkind: entry\ntopic: 400000\n---\n",
      {"1: entry 30001 belongs to no title list"}},
-    {"pages/uses/40000.page",
+    {"pages/uses/40000.md",
      "title: T\nkind: entry\ntopic: 400000\n---\n",
      {"1: entry 40000 belongs to no title list"}},
-    {"pages/uses/40001.page",
+    {"pages/uses/40001.md",
      "title: T\nkind: entry\ntopic: 410010\n---\n",
      {"3: section 'uses' has no topic 410010"}},
-    {"pages/elemcomp/10002.page",
+    {"pages/elemcomp/10002.md",
      "title: T\nkind: entry\ntopic: 10001\n---\n",
      {"3: section 'elemcomp' has no topic 10001"}},
-    {"pages/elemcomp/10002.page", "title: T\nkind: entry\n---\n", {"3: header field 'topic' is missing"}},
+    {"pages/elemcomp/10002.md", "title: T\nkind: entry\n---\n", {"3: header field 'topic' is missing"}},
     {"families.txt",
      "# families\n\nΑλκάλια | Αέρια\nΑλκάλια | Αέρια |\nΑλάτια | Αέρια | Τίποτε.\n",
      {"3: not a line 'family | topic | uses'", "4: not a line 'family | topic | uses'",
       "5: no family of elements is named 'Αλάτια'"}},
     // Marks in the text.
     {pageFile,
-     topicHeader + "ok\n[[hydrogen|H\n[[hydrogen]]\n[[hydroge|H]]\n[[Hydrogen|H]]\n",
-     {"5: '[[' is not closed on its line", "6: '[[' without '|'",
-      "7: glossary key 'hydroge' is not 8 characters of a-z and 0-9",
-      "8: glossary key 'Hydrogen' is not 8 characters of a-z and 0-9"}},
+     topicHeader + "[[ήλιο]]\n{{date}}\n{{title}}\n{{data\n",
+     {"4:1: no glossary term is called 'ήλιο'", "5: unknown mark '{{date}}'", "6: unknown mark '{{title}}'",
+      "7: '{{' is not closed on its line"}},
+    {"templates/page.html",
+     "{{title}}{{section}}\n{{body}}\n[[helium00|He\n[[helium00]]\n[[helium00| ]]\n"
+     "[[helium00|a [[helium00|b]]\n~ [[helium00|H]]\n[[ήλιο|a]]\n",
+     {"3: '[[' is not closed on its line", "3: no glossary term has the key 'helium00'",
+      "4: '[[' without '|'", "5: a glossary link without words", "5: no glossary term has the key 'helium00'",
+      "6: '[[' inside a glossary link", "6: no glossary term has the key 'helium00'",
+      "7: '~' would be taken for a glossary link", "7: no glossary term has the key 'helium00'",
+      "8: no glossary term has the key 'ήλιο'"}},
     {pageFile,
-     topicHeader + "[[helium00|He]]\n[[hydrogen| ]]\n[[hydrogen|a [[hydrogen|b]]\n~ [[hydrogen|H]]\n~Graph\n"
-                   "[[hydrogen|a~b]]\n{{date}}\n{{title}}\n{{data\n",
-     {"4: no glossary term has the key 'helium00'", "5: a glossary link without words",
-      "6: '[[' inside a glossary link", "7: '~' would be taken for a glossary link",
-      "8: '~' would be taken for a glossary link", "9: '~' would be taken for a glossary link",
-      "10: unknown mark '{{date}}'", "11: unknown mark '{{title}}'", "12: '{{' is not closed on its line"}},
-    {pageFile,
-     topicHeader + "{{video none}}\n<P>{{video none}}\n{{molecule water}}\n{{video a\\b}}\n",
+     topicHeader + "{{video none}}\n<P>{{video none}}\n{{video a\\b}}\n",
      {"4: no video is named 'none'",
       "5: '{{video none}}' is not '{{video NAME}}' or '{{molecule NAME}}' on a line of its own",
-      "6: a molecule needs the header line 'template: molecule'",
-      "7: '{{video a\\b}}' is not '{{video NAME}}' or '{{molecule NAME}}' on a line of its own"}},
+      "6: '{{video a\\b}}' is not '{{video NAME}}' or '{{molecule NAME}}' on a line of its own"}},
     {pageFile,
      topicHeader + "<IMG SRC=\"{{data}}images\\none.png\">\n<IMG SRC={{data}}images/none.gif>\n",
      {"4: the data folder has no file 'images\\none.png'",
       "5: the data folder has no file 'images/none.gif'"}},
-    {"pages/struct/370010.page",
-     "title: T\nkind: topic\ntemplate: molecule\n---\n{{molecule none}}\n{{molecule water}}\n",
-     {"5: no molecule is named 'none'", "6: a second molecule on the page"}},
-    {"pages/struct/370010.page",
-     "title: T\nkind: topic\ntemplate: molecule\n---\n",
+    {"pages/struct/370010.md",
+     topicHeader + "{{molecule none}}\n{{molecule water}}\n",
+     {"4: no molecule is named 'none'", "5: a second molecule on the page"}},
+    {"pages/struct/370010.md",
+     topicHeader + "{{molecule a\\b}}\n",
      {"molecules/water.mol:1: warning: no page uses this molecule",
-      "1: a page of template 'molecule' needs a line '{{molecule NAME}}'"}},
+      "4: '{{molecule a\\b}}' is not '{{video NAME}}' or '{{molecule NAME}}' on a line of its own"}},
     // Tools.
     {pageFile,
-     topicHeader + "{{tool clock at=\"3\" on=\"4\"}}\n{{tool quiz at=\"3\"}}\n? q\n+ a\n- "
-                   "b\n{{end}}\n{{tool shared}}\n",
-     {"4: tool 'clock' has no setting 'on'; its settings: at, of",
-      "5: tool 'quiz' has no setting 'at'; its settings: none", "10: no tool is named 'shared'"}},
+     topicHeader + "{{tool clock at=\"3\" on=\"4\"}}\n{{tool shared}}\n{{tool quiz at=\"3\"}}\n",
+     {"4: tool 'clock' has no setting 'on'; its settings: at, of", "5: no tool is named 'shared'",
+      "6: the questions of a quiz stand in a box '::: quiz'",
+      "6: tool 'quiz' has no setting 'at'; its settings: none"}},
     {pageFile,
-     topicHeader + "{{tool none}}\n<P>{{tool clock}}\n{{tool clock at=3}}\n{{end}}\n",
+     topicHeader + "{{tool none}}\n<P>{{tool clock}}\n{{tool clock at=3}}\n",
      {"4: no tool is named 'none'",
-      "5: '{{tool clock}}' is not '{{tool NAME}}', with settings as 'name=\"value\"', or the '{{end}}' of a "
-      "quiz, "
-      "on a line of its own",
-      "6: '{{tool clock at=3}}' is not '{{tool NAME}}', with settings as 'name=\"value\"', or the '{{end}}' "
-      "of a "
-      "quiz, on a line of its own",
-      "7: '{{end}}' is not '{{tool NAME}}', with settings as 'name=\"value\"', or the '{{end}}' of a quiz, "
-      "on a "
-      "line of its own"}},
+      "5: '{{tool clock}}' is not '{{tool NAME}}', with settings as 'name=\"value\"', on a line of its own",
+      "6: '{{tool clock at=3}}' is not '{{tool NAME}}', with settings as 'name=\"value\"', on a line of its "
+      "own"}},
     {pageFile,
-     topicHeader + "{{tool quiz}}\n+ a\n? q\n+ a\nb\n> c\n? q\n+ a\n+ b\n? q\n> c\n- a\n- b\n{{end}}\n"
-                   "{{tool quiz}}\n\n{{end}}\n{{tool quiz}}\n? q\n",
+     topicHeader + "::: quiz\n+ a\n? q\n+ a\nb\n> c\n? q\n+ a\n+ b\n? q\n> c\n- a\n- b\n:::\n"
+                   "::: quiz\n\n:::\n::: quiz\n? q\n",
      {"5: a quiz begins with a question: '? …'", "6: a question needs two answers or more",
       "8: a line of a quiz begins with '?', '-', '+', '>' or '!'",
       "10: a question needs one right answer: '+ …'", "13: a question needs one right answer: '+ …'",
       "14: a line of a quiz begins with '?', '-', '+', '>' or '!'", "18: a quiz without questions",
-      "21: the quiz has no line '{{end}}'"}},
-    {"start.page",
-     "title: T\n---\n[[hydrogen|H]]\n{{tool clock}}\n",
+      "21: the box is not closed by a line ':::'", "22: a question needs two answers or more"}},
+    {"start.md",
+     "title: T\n---\n[[H|υδρογόνο]]\n{{tool clock}}\n",
      {"3: a glossary link works only on a page of a section", "4: a tool works only on a page of a section"}},
     // Names that are nearly right.
     {pageFile,
-     "titel: T\nkind: topic\n---\n{{tool clok}}\n",
+     "titel: T\nsummary: S\n---\n{{tool clok}}\n",
      {"1: unknown header field 'titel'; did you mean 'title'?", "3: header field 'title' is missing",
       "4: no tool is named 'clok'; did you mean 'clock'?"}},
     {"pages/uses/400010.md",
@@ -164,35 +159,32 @@ const struct {
       "15:1: formula 'K_{a': '{' is not closed"}},
     {pageFile,
      topicHeader + "{{video x}}\n{{molecule wter}}\n<IMG SRC={{data}}mol\\watr.mol>\n",
-     {"4: no video is named 'x'", "5: a molecule needs the header line 'template: molecule'",
-      "5: no molecule is named 'wter'; did you mean 'water'?",
+     {"4: no video is named 'x'", "5: no molecule is named 'wter'; did you mean 'water'?",
       "6: the data folder has no file 'mol\\watr.mol'; did you mean 'mol\\water.mol'?"}},
     // What text may hold.
     {pageFile,
-     "title: H\xE2\x82\x82O\nkind: topic\n---\nok\n\xE2\x86\x92\xE2\x86\x92\n",
+     "title: H\xE2\x82\x82O\nsummary: \xE2\x86\x92\xE2\x86\x92\n---\n",
      {"1:9: not in code page 1253: '\xE2\x82\x82' (U+2082); write '2' instead",
-      "5:1: not in code page 1253: '\xE2\x86\x92' (U+2192); write '->' instead"}},
+      "2:10: not in code page 1253: '\xE2\x86\x92' (U+2192); write '->' instead"}},
     {pageFile,
-     topicHeader + "\xE1\n\x05..\n\xC2\x81\n" + std::string(20001, 'x') + "\n",
+     topicHeader + "\xE1\n\x05..\n\xC2\x81\n" + std::string(19997, 'x') + "\n",
      {"4:1: not UTF-8; save the file as UTF-8", "5:1: control character U+0005; leave it out",
       "6:1: control character U+0081; leave it out", "7: line has 20001 bytes, at most 20000 are allowed"}},
     {"style.css",
      "P { }\n/* \xE2\x82\x82 */\n",
      {"2:4: not in code page 1253: '\xE2\x82\x82' (U+2082); write '2' instead"}},
-    {"glossary/hydrogen.term",
-     "",
-     {"1: the first line must be the term",
-      "pages/elemcomp/410010.page:5: no glossary term has the key 'hydrogen'"}},
-    {"glossary/hydrogen.term", "H\nabcd\n\n", {"1: definition is missing or too short to be shown"}},
-    {"glossary/hydrogen.term",
-     std::string(49, 'H') + "\nok\n" + std::string(4998, 'x') + "\n",
-     {"1: term is longer than 48 bytes", "3: line is longer than 4997 bytes"}},
-    {"glossary/Water.term",
-     "water\nH2O, liquid\n",
-     {"1: glossary key 'Water' is not 8 characters of a-z and 0-9", "1: warning: no page uses this term"}},
+    {"glossary/hydrogen.md", "", {"pages/elemcomp/410010.md:5:4: no glossary term is called 'υδρογόνο'"}},
+    {"glossary/hydrogen.md",
+     "Αέριο\n# υδρογόνο\nabcd\n\n# |\nabcde\n",
+     {"1: a term begins with a line '# NAME | FORM | FORM'",
+      "2: definition is missing or too short to be shown", "5: a term without a name",
+      "5: warning: no page uses this term"}},
+    {"glossary/hydrogen.md",
+     "\n# " + std::string(49, 'H') + " | υδρογόνο\nok\n\n" + std::string(4998, 'x') + "\n",
+     {"2: line is longer than 4997 bytes", "2: term is longer than 48 bytes"}},
     // Files.
-    {"pages/iron/1.page", "", {"pages/iron:1: no section is named 'iron'"}},
-    {"pages/struc/1.page", "", {"pages/struc:1: no section is named 'struc'; did you mean 'struct'?"}},
+    {"pages/iron/1.md", "", {"pages/iron:1: no section is named 'iron'"}},
+    {"pages/struc/1.md", "", {"pages/struc:1: no section is named 'struc'; did you mean 'struct'?"}},
     {"pictures/my atom.png",
      samplePng,
      {"1: 'images\\my atom.png' has characters other than a-z, 0-9, '.', '-' and '_'",
@@ -235,7 +227,7 @@ const struct {
     {moleculeFile, moleculeTemplate(embedLines + "\na=true b=true\n</TD>\n"), {noTrue}},
     {moleculeFile,
      moleculeTemplate(embedLines + "</TD>\ntrue\n </TD>\n"),
-     {"pages/struct/370010.page:1: no line after line 15 of the finished page begins with '</TD>'"}},
+     {"pages/struct/370010.md:1: no line after line 15 of the finished page begins with '</TD>'"}},
     {moleculeFile,
      moleculeTemplate("<EMBED TYPE=\"mol\" SRC=\"{{molfile}}\" WIDTH=340 HEIGHT=290\n\ntrue\n</TD>\n"),
      {"13: the molecule file must be the first text in quotes on its line"}},
@@ -283,7 +275,7 @@ TEST(IgnoredFiles, AreNamedWithTheirPlace) {
         expected.push_back(place + ":1: warning: ignored: " + message);
     }
     content.write("README.md", "");
-    content.write("pages/uses/400010.page~", "");
+    content.write("pages/uses/400010.md~", "");
     EXPECT_TRUE(content.compile());
     std::ranges::sort(expected);
     EXPECT_EQ(content.messages, expected);
@@ -292,12 +284,12 @@ TEST(IgnoredFiles, AreNamedWithTheirPlace) {
 /// What a content folder is made of, and what it says of them.
 TEST(Layers, GiveWhatIsNotInTheLayerAbove) {
     ContentFolder content;
-    content.write("../base/pages/uses/400010.page", "title: Soap\nkind: topic\n---\nbase\n");
-    content.write("../base/pages/uses/400020.page", "title: Glass\nkind: topic\n---\nbase\n");
+    content.write("../base/pages/uses/400010.md", "title: Soap\nsummary: S\n---\nbase\n");
+    content.write("../base/pages/uses/400020.md", "title: Glass\nsummary: S\n---\nbase\n");
     content.write("../base/molecules/ethanol.mol", "base");
     content.write("../base/molecules/water.mol", "base");
     content.write("../base/pictures/Notes.txt", "ignored in silence");
-    content.write("pages/uses/400010.page", "title: Soap\nkind: topic\n---\nown\n");
+    content.write("pages/uses/400010.md", "title: Soap\nsummary: S\n---\nown\n");
     content.write("kalyxo.content", "# a note\n\xCE\xB2\xCE\xAC\xCF\x83\xCE\xB7: ../base\n");
     EXPECT_NE(content.compiled("40\\0010").find("own"), std::string::npos);
     EXPECT_NE(content.compiled("40\\0020").find("base"), std::string::npos);
@@ -330,12 +322,12 @@ TEST(DataSets, OfOneNumberAreReported) {
 
 TEST(MissingSources, AreReported) {
     const std::pair<const char*, std::string> cases[] = {
-        {"start.page", "start.md:1: missing"},
+        {"start.md", "start.md:1: missing"},
         {"templates/page.html", "templates/page.html:1: missing"},
         {"templates/molecule.html", "templates/molecule.html:1: missing"},
-        {"molecules", "pages/struct/370010.page:5: no molecule is named 'water'"},
+        {"molecules", "pages/struct/370010.md:4: no molecule is named 'water'"},
         {"style.css", "templates/page.html:3: the data folder has no file 'style\\kalyxo.css'"},
-        {"glossary", "pages/elemcomp/410010.page:5: no glossary term has the key 'hydrogen'"},
+        {"glossary", "pages/elemcomp/410010.md:5:4: no glossary term is called 'υδρογόνο'"},
         {"pages/uses",
          "pages/uses/400000.md:1: start page of the section missing; make this file, with the lines 'title: "
          "Η χημεία στην πράξη', '---' and a text"},
@@ -351,14 +343,14 @@ TEST(MissingSources, AreReported) {
 TEST(SharedTitleList, RefusesOneEntryWithTwoTitles) {
     ContentFolder content;
     const std::string header = "kind: entry\ntopic: 320000\n---\n";
-    content.write("pages/history/740005.page", "title: Lavoisier\n" + header);
-    content.write("pages/history/760005.page", "title: Lavoisier\n" + header);
+    content.write("pages/history/740005.md", "title: Lavoisier\n" + header);
+    content.write("pages/history/760005.md", "title: Lavoisier\n" + header);
     EXPECT_TRUE(content.compile());
-    content.write("pages/history/770005.page", "title: Curie\n" + header);
+    content.write("pages/history/770005.md", "title: Curie\n" + header);
     EXPECT_FALSE(content.compile());
     EXPECT_EQ(content.messages,
-              Messages{"pages/history/770005.page:1: entry 5 of 'history.ttl' has another title in "
-                       "pages/history/740005.page"});
+              Messages{"pages/history/770005.md:1: entry 5 of 'history.ttl' has another title in "
+                       "pages/history/740005.md"});
 }
 
 }  // namespace

@@ -42,14 +42,14 @@ TEST_F(Command, SameSourcesGiveTheSameBytes) {
 }
 
 TEST_F(Command, SourceErrorsAreAllToldAndLeaveNoFolder) {
-    content_.write("pages/uses/400010.page", "title: T\nkind: topic\n---\n{{x}}\n{{y}}\n");
-    content_.write("pages/concept/10.page", "");
+    content_.write("pages/uses/400010.md", "title: T\nsummary: S\n---\n{{x}}\n{{y}}\n");
+    content_.write("pages/concept/10.md", "");
     EXPECT_EQ(compileTo("data"), 1);
     const std::string pages = content_.sources().generic_string() + "/pages/";
     EXPECT_EQ(errors_,
-              pages + "concept/10.page:1: no line '---' between header and body\n" + pages +
-                  "uses/400010.page:4: unknown mark '{{x}}'\n" + pages +
-                  "uses/400010.page:5: unknown mark '{{y}}'\nErrors: 3. Warnings: 0. Nothing was written.\n");
+              pages + "concept/10.md:1: no line '---' between header and body\n" + pages +
+                  "uses/400010.md:4: unknown mark '{{x}}'\n" + pages +
+                  "uses/400010.md:5: unknown mark '{{y}}'\nErrors: 3. Warnings: 0. Nothing was written.\n");
     EXPECT_FALSE(fs::exists(content_.beside("out")));
 }
 

@@ -14,17 +14,18 @@ using namespace std::string_literals;
 std::string greek(const char* utf8) { return platform::fromUtf8(utf8); }
 
 std::string topic(const std::string& title, const std::string& more, const std::string& body) {
-    return "title: " + title + "\nkind: topic\n" + more + "---\n" + body;
+    return "title: " + title + "\nsummary: S\n" + more + "---\n" + body;
 }
 
 TEST(CompiledFiles, WarningsAndLinesOfTheGreatestLengthStopNothing) {
     ContentFolder content;
-    content.write("pages/uses/400010.page", topic("T", "", std::string(20000, 'x')));
+    const std::string paragraph = "<P CLASS=\"lead\"></P>";
+    content.write("pages/uses/400010.md", topic("T", "", std::string(20000 - paragraph.size(), 'x')));
     EXPECT_TRUE(content.compile());
     EXPECT_EQ(content.messages, std::vector<std::string>{});
-    content.write("glossary/helium00.term", "ήλιο\nΤο δεύτερο στοιχείο.\n");
+    content.write("glossary/helium.md", "# ήλιο\nΤο δεύτερο στοιχείο.\n");
     EXPECT_TRUE(content.compile());
-    EXPECT_EQ(content.messages, std::vector{"glossary/helium00.term:1: warning: no page uses this term"s});
+    EXPECT_EQ(content.messages, std::vector{"glossary/helium.md:1: warning: no page uses this term"s});
 }
 
 TEST(CompiledFiles, HoldTheirSourceInCodePage1253) {
@@ -34,16 +35,17 @@ TEST(CompiledFiles, HoldTheirSourceInCodePage1253) {
         const char* file;
         const char* compiled;  // UTF-8
     } cases[] = {
-        {"pages/uses/400010.page", topic("Άλας & <νερό>", "", "<P>Άλας\r\n\n[[hydrogen|υ]]"), "40\\0010",
+        {"pages/uses/400010.md", topic("Άλας & <νερό>", "", "Άλας\r\n\n[[υ|υδρογόνο]]\n"), "40\\0010",
          "<HTML>\r\n<TITLE>Άλας &amp; &lt;νερό&gt;</TITLE>\r\n<LINK HREF=\"\x05..style\\kalyxo.css\">\r\n"
-         "<BODY CLASS=\"uses\">\r\n<P>Η χημεία στην πράξη</P>\r\n<P>Άλας\r\n\r\n~Ghydrogenυ~G\r\n"
+         "<BODY CLASS=\"uses\">\r\n<P>Η χημεία στην πράξη</P>\r\n<P "
+         "CLASS=\"lead\">Άλας</P>\r\n<P>~Gydroyzcqυ~G</P>\r\n"
          "</BODY></HTML>\r\n"},
         {"datasets/gases.data",
          "number: 1\ntitle: Αέρια\ncolumn: text | N\ncolumn: number | V\n---\nήλιο\t4.003\n",
          "datasets\\gases.dat",
          "number: 1\r\ntitle: Αέρια\r\ncolumn: text | N\r\ncolumn: number | V\r\n---\r\nήλιο\t4.003\r\n"},
-        {"glossary/hydrogen.term", "υδρογόνο\nΠρώτη γραμμή.\n\nΤρίτη.\n\n\n", "glossary\\hydrogen.htm",
-         "υδρογόνο\r\nΠρώτη γραμμή.\r\n\r\nΤρίτη.\r\n"},
+        {"glossary/hydrogen.md", "# υδρογόνο\nΠρώτη\nγραμμή.\n\nΤρίτη.\n\n\n", "glossary\\ydroyzcq.htm",
+         "υδρογόνο\r\nΠρώτη γραμμή.\r\nΤρίτη.\r\n"},
     };
     for (const auto& [source, text, file, compiled] : cases) {
         ContentFolder content;
@@ -61,16 +63,18 @@ TEST(CompiledFiles, MarksBecomeMarkers) {
         const char* source;
         std::string line;
     } cases[] = {
-        {"{{data}}images\\atom.png {{data}}images/ATOM.png", "\x05..images\\atom.png \x05..images/ATOM.png"},
-        {"[[hydrogen|H]] and [[hydrogen|<I>H</I>]]!", "~GhydrogenH~G and ~Ghydrogen<I>H</I>~G!"},
-        {"[[hydrogen|<IMG SRC={{data}}images/atom.png>]]", "~Ghydrogen<IMG SRC=\x05..images/atom.png>~G"},
-        {"  {{video fire}} ", "<EMBED SRC=\"\x04..video\\fire.webm\" WIDTH=320 HEIGHT=258 AUTOPLAY=FALSE>"},
-        {"a[b] ]] } ~ g", "a[b] ]] } ~ g"},
-        {"\tx", "\tx"},
+        {"<DIV>{{data}}images\\atom.png {{data}}images/ATOM.png</DIV>",
+         "<DIV>\x05..images\\atom.png \x05..images/ATOM.png</DIV>"},
+        {"<DIV>[[H|υδρογόνο]] and [[*H*|υδρογόνο]]!</DIV>",
+         "<DIV>~GydroyzcqH~G and ~Gydroyzcq<I>H</I>~G!</DIV>"},
+        {"  {{video fire}} ",
+         "<DIV CLASS=\"film\">\r\n<EMBED SRC=\"\x04..video\\fire.webm\" WIDTH=320 HEIGHT=258 "
+         "AUTOPLAY=FALSE>\r\n<P CLASS=\"caption\"><A HREF=\"a:\\a.htm\">Μεγέθυνση</A></P>\r\n</DIV>"},
+        {"<DIV>a[b] ]] } ~ g</DIV>", "<DIV>a[b] ]] } &#126; g</DIV>"},
     };
     for (const auto& [source, line] : cases) {
-        content.write("pages/uses/400010.page", topic("T", "", source));
-        EXPECT_EQ(content.compiled("40\\0010"), "Tuses\r\n" + line + "\r\n") << source;
+        content.write("pages/uses/400010.md", topic("T", "", source));
+        EXPECT_EQ(content.compiled("40\\0010"), "Tuses\r\n" + greek(line.c_str()) + "\r\n") << source;
     }
 }
 
@@ -86,24 +90,23 @@ TEST(CompiledFiles, ToolsAreBoxesWithTheirScripts) {
                "SRC=\"\x05..tools\\" +
                name + "\\face.js\"></SCRIPT>";
     };
-    content.write(
-        "pages/uses/400010.page",
-        topic("T", "",
-              " {{tool clock at=\"<3 & ώρα\" of=\"\"}}\n{{tool quiz}}\n? [[hydrogen|H]]\n- a\n> no\n"
-              "\n+ b\n! so\n? q\n+ a\n- b\n{{end}}\nend"));
+    content.write("pages/uses/400010.md",
+                  topic("T", "",
+                        " {{tool clock at=\"<3 & ώρα\" of=\"\"}}\n::: quiz\n? [[H|υδρογόνο]]\n- a\n> no\n"
+                        "\n+ b\n! so\n? q\n+ a\n- b\n:::\nend"));
     EXPECT_EQ(
         content.compiled("40\\0010"),
         "Tuses\r\n<DIV CLASS=\"tool\" DATA-TOOL=\"clock\" DATA-at=\"&lt;3 &amp; " + greek("ώρα") +
             "\" DATA-of=\"\">\r\n" + scripts("clock") +
             "\r\n<DIV CLASS=\"tool\" DATA-TOOL=\"quiz\">\r\n"
-            "<DIV CLASS=\"question\"><P CLASS=\"asked\">~GhydrogenH~G</P><UL>\r\n"
+            "<DIV CLASS=\"question\"><P CLASS=\"asked\">~GydroyzcqH~G</P><UL>\r\n"
             "<LI><SPAN CLASS=\"answer\">a</SPAN>\r\n<P CLASS=\"why\">no</P>\r\n"
             "<LI CLASS=\"right\"><SPAN CLASS=\"answer\">b</SPAN>\r\n"
             "</UL><P CLASS=\"explanation\">so</P></DIV>\r\n"
             "<DIV CLASS=\"question\"><P CLASS=\"asked\">q</P><UL>\r\n"
             "<LI CLASS=\"right\"><SPAN CLASS=\"answer\">a</SPAN>\r\n<LI><SPAN CLASS=\"answer\">b</SPAN>\r\n"
             "</UL></DIV>\r\n" +
-            scripts("quiz") + "\r\nend\r\n");
+            scripts("quiz") + "\r\n<P CLASS=\"lead\">end</P>\r\n");
 }
 
 TEST(CompiledFiles, ScriptsOfToolsAreCopiedAndFindTheElements) {
@@ -123,8 +126,8 @@ TEST(CompiledFiles, ScriptsOfToolsAreCopiedAndFindTheElements) {
 TEST(CompiledFiles, BodyTakesItsPlaceInALineOfTheScaffold) {
     ContentFolder content;
     content.write("templates/page.html", "{{title}}{{section}}\n<TD>{{body}}</TD>\nend");
-    content.write("pages/uses/400010.page", topic("T", "", "1\n2\n"));
-    EXPECT_EQ(content.compiled("40\\0010"), "Tuses\r\n<TD>\r\n1\r\n2\r\n</TD>\r\nend\r\n");
+    content.write("pages/uses/400010.md", topic("T", "", "<P>1\n2</P>\n"));
+    EXPECT_EQ(content.compiled("40\\0010"), "Tuses\r\n<TD>\r\n<P>1\r\n2</P>\r\n</TD>\r\nend\r\n");
 }
 
 TEST(CompiledFiles, MoleculePageNamesItsFileAndKeepsTheLayout) {
@@ -139,7 +142,7 @@ TEST(CompiledFiles, MoleculePageNamesItsFileAndKeepsTheLayout) {
 
 TEST(CompiledFiles, PlainPagesHaveATitleAndRelativeAddresses) {
     ContentFolder content;
-    content.write("help.page", "title: Βοήθεια\n---\n<IMG SRC=\"{{data}}images/x.png\">\n");
+    content.write("help.md", "title: Βοήθεια\n---\n<IMG SRC=\"{{data}}images/x.png\">\n");
     content.write("pictures/x.png", samplePng);
     const std::string page = content.compiled("help.htm");
     EXPECT_TRUE(page.starts_with("<HTML>\r\n<HEAD>\r\n"));
@@ -166,14 +169,14 @@ TEST(CompiledFiles, PicturesAreCopiedAndTwoOfOneNameRefused) {
 
 TEST(CompiledFiles, IndexesListThePagesInDisplayOrder) {
     ContentFolder content;
-    content.write("pages/uses/400030.page", topic("Second", "order: 2\n", ""));
-    content.write("pages/uses/400050.page", topic("First", "order: -1\n", ""));
-    content.write("pages/uses/400040.page", topic("Third", "order: 2\n", ""));
+    content.write("pages/uses/400030.md", topic("Second", "order: 2\n", ""));
+    content.write("pages/uses/400050.md", topic("First", "order: -1\n", ""));
+    content.write("pages/uses/400040.md", topic("Third", "order: 2\n", ""));
     for (const char* entry : {"40003", "40001", "120002"}) {
-        content.write("pages/uses/"s + entry + ".page",
+        content.write("pages/uses/"s + entry + ".md",
                       "title: E"s + entry + "\nkind: entry\ntopic: 400030\n---\n");
     }
-    content.write("pages/uses/40002.page", "title: Athens\nkind: entry\ntopic: 400000\n---\n");
+    content.write("pages/uses/40002.md", "title: Athens\nkind: entry\ntopic: 400000\n---\n");
 
     const std::vector<formats::SectionTitleRecord> titles{
         {"Start of uses", 400000}, {"First", 400050}, {"Second", 400030}, {"Third", 400040}};

@@ -23,7 +23,7 @@ constexpr const char* sampleMoleculePage =
 }  // namespace
 
 ContentFolder::ContentFolder() {
-    write("start.page", "title: Kalyxo\n---\n<P>Welcome</P>\n");
+    write("start.md", "title: Kalyxo\n---\n<P>Welcome</P>\n");
     write("style.css", "P { }\n");
     write("templates/page.html", samplePage);
     write("templates/molecule.html", sampleMoleculePage);
@@ -31,15 +31,14 @@ ContentFolder::ContentFolder() {
         {"react", "170070"},   {"struct", "370001"},   {"source", "290000"}, {"uses", "400000"},
         {"history", "320000"}, {"elemcomp", "410000"}, {"concept", "450000"}};
     for (const auto& [section, number] : starts) {
-        write(std::string("pages/") + section + '/' + number + ".page",
+        write(std::string("pages/") + section + '/' + number + ".md",
               std::string("title: Start of ") + section + "\nkind: start\n---\n<P>...</P>\n");
     }
-    write("pages/elemcomp/410010.page",
-          "title: Αέρια\nkind: topic\norder: 1\n---\n<P>[[hydrogen|υδρογόνο]]</P>\n");
-    write("pages/elemcomp/10001.page", "title: Υδρογόνο\nkind: entry\ntopic: 410010\n---\n<P>H</P>\n");
-    write("pages/struct/370010.page",
-          "title: Νερό\nkind: topic\ntemplate: molecule\n---\n{{molecule water}}\n<P>H<SUB>2</SUB>O</P>\n");
-    write("glossary/hydrogen.term", "υδρογόνο\nΤο πρώτο στοιχείο.\n");
+    write("pages/elemcomp/410010.md", "title: Αέρια\nsummary: S\norder: 1\n---\n<P>[[υδρογόνο]]</P>\n");
+    write("pages/elemcomp/10001.md", "title: Υδρογόνο\nkind: entry\ntopic: 410010\n---\n<P>H</P>\n");
+    write("pages/struct/370010.md",
+          "title: Νερό\nsummary: S\n---\n{{molecule water}}\n<P>H<SUB>2</SUB>O</P>\n");
+    write("glossary/hydrogen.md", "# υδρογόνο\nΤο πρώτο στοιχείο.\n");
     write("molecules/water.mol", sampleMolecule);
 }
 

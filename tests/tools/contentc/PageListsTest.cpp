@@ -22,7 +22,6 @@ std::string navigationOf(ContentFolder& content, const std::string& path) {
 class PageLists : public testing::Test {
   protected:
     PageLists() {
-        content_.remove("pages/uses/400000.page");
         content_.write("pages/uses/400000.md", "τίτλος: Πράξη\n---\nΑρχή.\n");
         content_.write(
             "pages/uses/400020-b.md",
@@ -54,7 +53,9 @@ TEST_F(PageLists, TopicHasItsEntriesAndItsRelations) {
         "<NAV CLASS=\"contents short\" ARIA-LABEL=\"Σε αυτό το θέμα\"><H2>Σε αυτό το θέμα</H2><UL><LI><A "
         "HREF=\"kzpage-4-400010-40001.htm\">Αλάτι</A></LI></UL>"
         "<NAV CLASS=\"related\" ARIA-LABEL=\"Σχετικές σελίδες\"><DIV><H2>Προϋποθέτει</H2><UL><LI>" +
-            linkB + summaryB + "<LI><A HREF=\"kzpage-6-410010-0.htm\">Αέρια</A></LI></UL></DIV>" +
+            linkB + summaryB +
+            "<LI><A HREF=\"kzpage-6-410010-0.htm\">Αέρια</A> <SPAN "
+            "CLASS=\"summary\">S</SPAN></LI></UL></DIV>" +
             "<NAV CLASS=\"sequence\" ARIA-LABEL=\"Προηγούμενο και επόμενο\"><A CLASS=\"previous\" "
             "HREF=\"kzpage-4-400020-0.htm\"><SPAN>Προηγούμενο θέμα</SPAN> Βαφές</A>");
     EXPECT_EQ(navigationOf(content_, "40\\0020"),

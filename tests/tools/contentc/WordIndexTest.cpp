@@ -86,8 +86,8 @@ class WordFiles : public testing::Test {
 };
 
 TEST_F(WordFiles, HoldEachWordWithItsPlaces) {
-    content_.write("pages/uses/400010.page", "title: Το νερό\nkind: topic\n---\n<P>αέρια, νερό</P>\n");
-    content_.write("pages/uses/40001.page", "title: Νερού\nkind: entry\ntopic: 400010\n---\n");
+    content_.write("pages/uses/400010.md", "title: Το νερό\nsummary: S\n---\n<P>αέρια, νερό</P>\n");
+    content_.write("pages/uses/40001.md", "title: Νερού\nkind: entry\ntopic: 400010\n---\n");
     Words words;
     for (const char* word : {"h2o", "αέρια", "νερού", "νερό", "υδρογόνο"}) words.push_back(greek(word));
     EXPECT_EQ(formats::decodeWordIndex(content_.compiled("words.ndx")), words);
@@ -114,7 +114,6 @@ TEST_F(WordFiles, HoldEachWordWithItsPlaces) {
 }
 
 TEST_F(WordFiles, PagesAreFoundByTheTermsTheyLinkAndByWordsThatAreNotShown) {
-    content_.remove("pages/elemcomp/410010.page");
     content_.write("pages/elemcomp/410010.md",
                    "title: Αέρια\nsummary: Μ.\nsearch: Boyle\n---\n[[υδρογόνο|οξύ]]\n");
     content_.write("glossary/acid.md", "# Οξύ | οξέος\nΔίνει πρωτόνια σε νερό.\n");
@@ -135,7 +134,7 @@ TEST_F(WordFiles, PagesAreFoundByTheTermsTheyLinkAndByWordsThatAreNotShown) {
 
 TEST_F(WordFiles, WordsThatDoNotFitAreLeftOut) {
     const std::string fits(formats::maxIndexedWord, 'x');
-    content_.write("pages/uses/400010.page", "title: T\nkind: topic\n---\n" + fits + ' ' + fits + "x\n");
+    content_.write("pages/uses/400010.md", "title: T\nsummary: S\n---\n" + fits + ' ' + fits + "x\n");
     content_.write("words/forms.txt", fits + " h2o υδρογόνο\n");
     const Words words = formats::decodeWordIndex(content_.compiled("words.ndx"));
     EXPECT_EQ(std::ranges::count(words, fits), 1);

@@ -14,7 +14,6 @@ inline constexpr Message fieldIsMissing{"header field '{1}' is missing", "λεί
 inline constexpr Message fieldIsEmpty{"header field '{1}' is empty", "το «{1}» είναι κενό"};
 inline constexpr Message fieldIsTooLong{"{1} has {2} bytes, at most {3} fit",
                                         "το «{1}» έχει {2} χαρακτήρες, χωρούν ως {3}"};
-inline constexpr Message unknownTemplate{"unknown template '{1}'", "άγνωστο πρότυπο «{1}»"};
 inline constexpr Message unknownKind{"unknown kind '{1}'", "άγνωστο είδος «{1}»: γράψε αρχή, θέμα ή λήμμα"};
 inline constexpr Message onlyEntriesHaveTopics{"only an entry has a topic", "μόνο ένα λήμμα έχει θέμα"};
 inline constexpr Message topicWithoutSummary{"a topic needs a summary, for the list of topics",

@@ -48,9 +48,7 @@ class HeadReader {
 
     void readKind() {
         page_.kind = kindByNumber(page_.number, *page_.section);
-        // In the older form the kind must be given.
-        const TextLine* field =
-            page_.isMarkdown ? header_.find("kind") : header_.require("kind", diagnostics_);
+        const TextLine* field = header_.find("kind");
         if (!field) return;
         const auto kind = kindNamed(field->text);
         if (kind) page_.kind = *kind;
@@ -76,21 +74,11 @@ class HeadReader {
         if (const auto order = number("order")) page_.order = *order;
     }
 
-    void readTemplate() {
-        const TextLine* field = header_.find("template");
-        if (!field || field->text == "page") return;
-        if (field->text == "molecule") {
-            page_.scaffold = PageTemplate::molecule;
-        } else {
-            diagnostics_.error(field->place, say::unknownTemplate, {platform::toUtf8(field->text)});
-        }
-    }
-
     void readSummary() {
         if (const TextLine* field = header_.find("summary")) {
             page_.summary = *field;
             checkLength("summary", *field, maxSummary);
-        } else if (page_.isMarkdown && page_.kind == PageKind::topic) {
+        } else if (page_.kind == PageKind::topic) {
             diagnostics_.warning(page_.title.place, say::topicWithoutSummary);
         }
     }
@@ -161,19 +149,14 @@ PageKind kindByNumber(std::int32_t number, const formats::Section& section) {
 }
 
 void readSectionHead(const PageHeader& header, PageSource& page, Diagnostics& diagnostics) {
-    if (page.isMarkdown) {
-        header.allowOnly({"title", "kind", "topic", "order", "summary", "class", "before", "after", "see",
-                          "search", "year"},
-                         diagnostics);
-    } else {
-        header.allowOnly({"title", "kind", "topic", "order", "template"}, diagnostics);
-    }
+    header.allowOnly(
+        {"title", "kind", "topic", "order", "summary", "class", "before", "after", "see", "search", "year"},
+        diagnostics);
     HeadReader reader(header, page, diagnostics);
     reader.readKind();
     reader.readTitle(page.kind == PageKind::entry ? formats::maxEntryTitle : formats::maxSectionTitle);
     reader.readTopic();
     reader.readOrder();
-    reader.readTemplate();
     reader.readSummary();
     reader.readRelations();
     reader.readClasses();

@@ -126,8 +126,8 @@ class IgnoredFilesReport {
 
 std::span<const SourceFolderUse> sourceFolderUses() {
     static const std::vector<SourceFolderUse> uses{
-        {"pages", {".md", ".page"}, true},
-        {"glossary", {".md", ".term"}},
+        {"pages", {".md"}, true},
+        {"glossary", {".md"}},
         {"pictures", {".svg", ".png", ".jpg", ".bmp"}},
         {"molecules", {".mol"}},
         {"videos",

@@ -26,7 +26,7 @@ std::string_view englishName(std::string_view name) {
 
 }  // namespace
 
-std::optional<PageHeader> PageHeader::take(const SourceFile& file, std::vector<TextLine>& lines,
+std::optional<PageHeader> PageHeader::read(const SourceFile& file, const std::vector<TextLine>& lines,
                                            Diagnostics& diagnostics) {
     const auto end = std::ranges::find(lines, PageHeader::lastLine, &TextLine::text);
     if (end == lines.end()) {
@@ -35,7 +35,6 @@ std::optional<PageHeader> PageHeader::take(const SourceFile& file, std::vector<T
     }
     PageHeader header(end->place);
     for (auto line = lines.begin(); line != end; ++line) header.add(*line, diagnostics);
-    lines.erase(lines.begin(), end + 1);
     return header;
 }
 

@@ -18,9 +18,9 @@ class PageHeader {
     /// The line between header and body.
     static constexpr std::string_view lastLine = "---";
 
-    /// Removes the header from `lines`, which then hold the body. Lines that are no fields and fields named
+    /// Reads the lines up to the one between header and body. Lines that are no fields and fields named
     /// twice are reported. A missing `---` is reported too; then there is no header.
-    static std::optional<PageHeader> take(const SourceFile& file, std::vector<TextLine>& lines,
+    static std::optional<PageHeader> read(const SourceFile& file, const std::vector<TextLine>& lines,
                                           Diagnostics& diagnostics);
 
     /// Reports each field that is not one of `known`.

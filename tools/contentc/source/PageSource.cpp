@@ -10,15 +10,8 @@
 namespace contentc {
 namespace {
 
-bool isMarkdown(const SourceFile& file) { return takenExtension(file.path) == ".md"; }
-
 /// Reads the header, and puts the rest of the file's lines into the page as its body.
 std::optional<PageHeader> takeHeader(const SourceFile& file, PageSource& page, Diagnostics& diagnostics) {
-    page.isMarkdown = isMarkdown(file);
-    if (!page.isMarkdown) {
-        page.body = readLines(file, diagnostics);
-        return PageHeader::take(file, page.body, diagnostics);
-    }
     page.markdown = readUtf8Lines(file, diagnostics);
     const auto end = std::ranges::find(page.markdown, PageHeader::lastLine, &TextLine::text);
     const auto body = end == page.markdown.end() ? end : end + 1;
@@ -26,14 +19,14 @@ std::optional<PageHeader> takeHeader(const SourceFile& file, PageSource& page, D
     for (auto line = page.markdown.begin(); line != body; ++line)
         head.push_back(inCodePage(*line, diagnostics));
     page.markdown.erase(page.markdown.begin(), body);
-    return PageHeader::take(file, head, diagnostics);
+    return PageHeader::read(file, head, diagnostics);
 }
 
-/// The page number at the start of the file's name; words may follow it in the newer form. Reported when
-/// there is none, or when it has leading zeros.
+/// The page number at the start of the file's name; words may follow it. Reported when there is none, or when
+/// it has leading zeros.
 std::optional<std::int32_t> numberOf(const SourceFile& file, Diagnostics& diagnostics) {
     const std::string stem = file.stem();
-    const std::string digits = isMarkdown(file) ? stem.substr(0, stem.find('-')) : stem;
+    const std::string digits = stem.substr(0, stem.find('-'));
     const auto number = parseNumber(digits);
     if (number && formats::pagePath(*number) && std::to_string(*number) == digits) return number;
     diagnostics.error(file.place(), say::notAPageNumber, {stem});

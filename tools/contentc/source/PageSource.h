@@ -63,11 +63,10 @@ struct PageSource {
     std::string searchWords;
     /// When it was, for the time line; before our era negative.
     std::optional<std::int32_t> year;
-    /// HTML with marks. Of a page in Markdown it is made later.
-    std::vector<TextLine> body;
-    /// The body of a page in Markdown, in UTF-8.
+    /// The body in Markdown and UTF-8.
     std::vector<TextLine> markdown;
-    bool isMarkdown = false;
+    /// HTML with marks, which is made of it later.
+    std::vector<TextLine> body;
 };
 
 /// The kind of a page that does not tell it: by its number.

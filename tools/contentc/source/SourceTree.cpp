@@ -80,22 +80,19 @@ class TreeReader {
         return file;
     }
 
-    /// Reads the first of the files that is there, unless a higher layer had one.
-    void readOne(std::optional<SourceFile>& file, std::initializer_list<const char*> names) {
-        if (file) return;
-        const auto found =
-            std::ranges::find_if(names, [&](const char* name) { return fs::exists(root_ / name); });
-        if (found != names.end()) file = readFile(root_ / *found);
+    /// Reads a file, unless it is missing or a higher layer had it.
+    void readOne(std::optional<SourceFile>& file, const char* name) {
+        if (!file && fs::exists(root_ / name)) file = readFile(root_ / name);
     }
 
     void readEquipment() {
-        readOne(tree_.startPage, {"start.md", "start.page"});
-        readOne(tree_.helpPage, {"help.md", "help.page"});
-        readOne(tree_.pageTemplate, {"templates/page.html"});
-        readOne(tree_.moleculeTemplate, {"templates/molecule.html"});
-        readOne(tree_.style, {"style.css"});
-        readOne(tree_.stopWords, {"words/stop.txt"});
-        readOne(tree_.wordForms, {"words/forms.txt"});
+        readOne(tree_.startPage, "start.md");
+        readOne(tree_.helpPage, "help.md");
+        readOne(tree_.pageTemplate, "templates/page.html");
+        readOne(tree_.moleculeTemplate, "templates/molecule.html");
+        readOne(tree_.style, "style.css");
+        readOne(tree_.stopWords, "words/stop.txt");
+        readOne(tree_.wordForms, "words/forms.txt");
         for (const fs::path& folder : listFolder(root_ / "tools")) {
             if (tools_.isTaken(folder)) continue;
             tools_.take(folder);
@@ -104,11 +101,11 @@ class TreeReader {
     }
 
     void readContent(const Layer& layer) {
-        readOne(tree_.families, {"families.txt"});
+        readOne(tree_.families, "families.txt");
         for (const fs::path& folder : listFolder(root_ / "pages")) {
             if (fs::is_directory(folder)) readSection(folder);
         }
-        for (const fs::path& path : pathsOf(root_ / "glossary", {".md", ".term"})) append(tree_.terms, path);
+        for (const fs::path& path : pathsOf(root_ / "glossary", {".md"})) append(tree_.terms, path);
         take(dataSets_, tree_.dataSets, pathsOf(root_ / "datasets", {".data"}));
         take(molecules_, tree_.molecules, pathsOf(root_ / "molecules", {".mol"}));
         take(pictures_, tree_.pictures, pathsOf(root_ / "pictures", {".png", ".jpg", ".bmp"}));
@@ -125,7 +122,7 @@ class TreeReader {
     void readSection(const fs::path& folder) {
         SectionFolder& section =
             sections_.try_emplace(folder.filename().string(), SectionFolder{{folder, {}}, {}}).first->second;
-        take(pages_, section.pages, pathsOf(folder, {".md", ".page"}));
+        take(pages_, section.pages, pathsOf(folder, {".md"}));
     }
 
     static std::vector<fs::path> pathsOf(const fs::path& folder, Extensions extensions) {

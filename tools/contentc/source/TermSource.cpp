@@ -8,7 +8,6 @@
 #include "platform/text/GreekLiteral.h"
 #include "tools/contentc/source/HeadMessages.h"
 #include "tools/contentc/source/NameKey.h"
-#include "tools/contentc/source/TermMessages.h"
 
 namespace contentc {
 namespace {
@@ -27,12 +26,9 @@ constexpr std::size_t lineEndSize = 2;
 
 void checkDefinition(const TermSource& term, Diagnostics& diagnostics) {
     std::size_t shown = 0;
-    int line = 1;
     for (const std::string& text : term.definition) {
-        ++line;
         shown += text.size() + (shown > 0 ? lineEndSize : 0);
-        if (text.size() <= maxLine) continue;
-        diagnostics.error({term.place.file, line}, say::lineIsTooLong, {maxLine});
+        if (text.size() > maxLine) diagnostics.error(term.place, say::lineIsTooLong, {maxLine});
     }
     if (shown < minDefinition) diagnostics.error(term.place, say::definitionIsTooShort);
 }
@@ -42,27 +38,10 @@ void checkTerm(const TermSource& term, Diagnostics& diagnostics) {
     checkDefinition(term, diagnostics);
 }
 
-std::vector<TermSource> readOldTerm(const SourceFile& file, Diagnostics& diagnostics) {
-    std::vector<TextLine> lines = readLines(file, diagnostics);
-    if (!isGlossaryKey(file.stem())) {
-        diagnostics.error(file.place(), say::wrongTermKey, {file.stem()});
-    }
-    if (lines.empty() || trimmed(lines.front().text).empty()) {
-        diagnostics.error(file.place(), say::firstLineIsTerm);
-        return {};
-    }
-    while (trimmed(lines.back().text).empty()) lines.pop_back();
-
-    TermSource term{file.place(), file.stem(), lines.front().text, {}, {}};
-    for (std::size_t i = 1; i < lines.size(); ++i) term.definition.push_back(std::move(lines[i].text));
-    checkTerm(term, diagnostics);
-    return {std::move(term)};
-}
-
-/// The terms of a Markdown file. Lines of one paragraph are joined.
-class MarkdownTerms {
+/// The terms of a file. Lines of one paragraph are joined.
+class TermFile {
   public:
-    MarkdownTerms(const SourceFile& file, Diagnostics& diagnostics)
+    TermFile(const SourceFile& file, Diagnostics& diagnostics)
         : lines_(readLines(file, diagnostics)), diagnostics_(diagnostics) {}
 
     std::vector<TermSource> read() {
@@ -145,29 +124,17 @@ std::string keyOf(const std::string& name, std::uint32_t attempt) {
 
 }  // namespace
 
-bool isGlossaryKey(std::string_view text) {
-    return text.size() == keyLength &&
-           std::ranges::all_of(text, [](char c) { return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9'); });
-}
-
 std::vector<TermSource> readTerms(const SourceFile& file, Diagnostics& diagnostics) {
-    if (takenExtension(file.path) == ".md") return MarkdownTerms(file, diagnostics).read();
-    return readOldTerm(file, diagnostics);
+    return TermFile(file, diagnostics).read();
 }
 
 void giveKeys(std::vector<TermSource>& terms) {
-    std::set<std::string> taken;
-    std::vector<TermSource*> unnamed;
-    for (TermSource& term : terms) {
-        if (term.key.empty()) {
-            unnamed.push_back(&term);
-        } else {
-            taken.insert(term.key);
-        }
-    }
     // In an order that does not depend on the files in which the terms lie.
-    std::ranges::stable_sort(unnamed, {}, [](const TermSource* term) { return nameKey(term->term); });
-    for (TermSource* term : unnamed) {
+    std::vector<TermSource*> inOrder;
+    for (TermSource& term : terms) inOrder.push_back(&term);
+    std::ranges::stable_sort(inOrder, {}, [](const TermSource* term) { return nameKey(term->term); });
+    std::set<std::string> taken;
+    for (TermSource* term : inOrder) {
         for (std::uint32_t attempt = 0; term->key.empty(); ++attempt) {
             std::string key = keyOf(term->term, attempt);
             if (taken.insert(key).second) term->key = std::move(key);

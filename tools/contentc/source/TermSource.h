@@ -10,13 +10,10 @@
 
 namespace contentc {
 
-/// Whether a text can name a glossary file: exactly 8 characters a to z, 0 to 9.
-bool isGlossaryKey(std::string_view text);
-
 /// A term of the glossary with its text.
 struct TermSource {
     SourcePlace place;
-    /// The name of its file; made of the term's name unless the source's own name is the key.
+    /// The name of its file, made of the term's name: 8 characters of a to z and 0 to 9.
     std::string key;
     std::string term;
     /// Further names and forms by which pages may call it.
@@ -26,13 +23,10 @@ struct TermSource {
 };
 
 /// Reads the terms of a file. Errors are reported, and terms that are too faulty to be used are left out.
-///
-/// In Markdown (`*.md`), a line `# Name | form | form` begins a term, and the paragraphs below are its text.
-/// In the older form (`KEY.term`) the first line is the name and the others are the text.
+/// A line `# Name | form | form` begins a term, and the paragraphs below are its text.
 std::vector<TermSource> readTerms(const SourceFile& file, Diagnostics& diagnostics);
 
-/// Makes keys for the terms that have none. A key depends on the term's name only, unless two names would
-/// have the same.
+/// Makes the keys of the terms. A key depends on the term's name only, unless two names would have the same.
 void giveKeys(std::vector<TermSource>& terms);
 
 /// Finds terms by name and form. The terms must stay where they are.
