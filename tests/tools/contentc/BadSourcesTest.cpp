@@ -270,7 +270,7 @@ TEST(IgnoredFiles, AreNamedWithTheirPlace) {
     Messages expected;
     for (const auto& [file, message] : cases) {
         content.write(file, "");
-        const bool isFolder = message.find("folders") == 0 || message.find("content") == 0;
+        const bool isFolder = message.starts_with("folders") || message.starts_with("content");
         const std::string place = isFolder ? std::filesystem::path(file).parent_path().string() : file;
         expected.push_back(place + ":1: warning: ignored: " + message);
     }

@@ -131,6 +131,7 @@ std::vector<TermSource> readTerms(const SourceFile& file, Diagnostics& diagnosti
 void giveKeys(std::vector<TermSource>& terms) {
     // In an order that does not depend on the files in which the terms lie.
     std::vector<TermSource*> inOrder;
+    inOrder.reserve(terms.size());
     for (TermSource& term : terms) inOrder.push_back(&term);
     std::ranges::stable_sort(inOrder, {}, [](const TermSource* term) { return nameKey(term->term); });
     std::set<std::string> taken;
