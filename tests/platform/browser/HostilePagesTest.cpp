@@ -84,7 +84,7 @@ constexpr Attempt attempts[] = {
 
 /// Megabytes that the engine's stores may take on the way through the table: some 40 in most runs.
 #ifdef __SANITIZE_ADDRESS__
-constexpr int roomToGrow = 400;  // what was freed is kept for a while
+constexpr int roomToGrow = 1000;  // the sanitizer keeps what was freed for a while
 #else
 constexpr int roomToGrow = 100;
 #endif
