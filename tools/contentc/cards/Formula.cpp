@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 #include <charconv>
+#include <cstdint>
 
 #include "controls/elements/Element.h"
 #include "controls/elements/NumberText.h"
@@ -13,12 +14,17 @@ namespace {
 constexpr int maxCount = 9999;
 constexpr int maxDepth = 8;
 constexpr int maxDecimals = 2;
+// Nested brackets multiply; no molecule of a page has more atoms of an element.
+constexpr std::int64_t maxAtoms = 1'000'000;
 
 bool isDigit(char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; }
 bool isSmallLetter(char c) { return c >= 'a' && c <= 'z'; }
 
 void addTimes(AtomCounts& sum, const AtomCounts& atoms, int times) {
-    for (const auto& [element, count] : atoms) sum[element] += count * times;
+    for (const auto& [element, count] : atoms) {
+        const std::int64_t total = sum[element] + std::int64_t{count} * times;
+        sum[element] = static_cast<int>(std::min(total, maxAtoms));
+    }
 }
 
 /// Reads a formula from its start; each function takes what it reads from `rest_`.
