@@ -8,6 +8,7 @@
 const maxAtoms = 200000;
 const maxBondsPerAtom = 12;
 const maxFileLength = 32 << 20;   // letters
+const maxCoordinate = 100000;     // ångström; what is farther away would be lost in drawing, or overflow
 
 const linesOf = text => text.split(/\r\n|\r|\n/);
 const field = (line, from, to) => line.slice(from, to).trim();
@@ -15,6 +16,12 @@ const field = (line, from, to) => line.slice(from, to).trim();
 function number(text) {
   const value = (text ?? '') === '' ? NaN : Number(text);
   if (!Number.isFinite(value)) throw new Error('not a number: ' + text);
+  return value;
+}
+
+function coordinate(text) {
+  const value = number(text);
+  if (Math.abs(value) > maxCoordinate) throw new Error('too far');
   return value;
 }
 
@@ -39,7 +46,7 @@ function readMol(text) {
   if (lines.length < 4 + atomCount + bondCount) throw new Error('cut short');
   return {
     atoms: lines.slice(4, 4 + atomCount).map(line => ({
-      at: [number(field(line, 0, 10)), number(field(line, 10, 20)), number(field(line, 20, 30))],
+      at: [field(line, 0, 10), field(line, 10, 20), field(line, 20, 30)].map(coordinate),
       element: symbolOf(field(line, 31, 34)) || field(line, 31, 34),
     })),
     bonds: lines.slice(4 + atomCount, 4 + atomCount + bondCount).map(line => {
@@ -61,7 +68,7 @@ function readV3000(lines) {
     else if (block === 'ATOM') {
       if (words.length < 5) throw new Error('cut short');
       indexes.set(words[0], atoms.length);
-      atoms.push({ element: symbolOf(words[1]) || words[1], at: words.slice(2, 5).map(number) });
+      atoms.push({ element: symbolOf(words[1]) || words[1], at: words.slice(2, 5).map(coordinate) });
     } else if (block === 'BOND') {
       bonds.push({ a: indexes.get(words[2]), b: indexes.get(words[3]), order: number(words[1]) });
     }
@@ -73,10 +80,7 @@ function readV3000(lines) {
 // ---- files that tell no bonds, or not all ----
 
 /// A number for the box of space with these numbers along x, y and z; boxes side by side have different ones.
-function boxKey(x, y, z) {
-  if (!(Math.max(Math.abs(x), Math.abs(y), Math.abs(z)) < 65000)) throw new Error('too far');
-  return (x * 131072 + y) * 131072 + z;
-}
+const boxKey = (x, y, z) => (x * 131072 + y) * 131072 + z;
 
 /// Bonds between atoms that are as near to each other as their radii say. No substance has as many atoms in a box as
 /// are looked at, nor as many bonds of an atom; so the time grows with the number of atoms only.
@@ -126,7 +130,7 @@ function readXyz(text) {
     const isNumber = /^\d+$/.test(element);
     const symbol = isNumber ? symbols[Number(element) - 1] : symbolOf(element ?? '');
     if (!symbol) throw new Error('no element: ' + element);
-    return { element: symbol, at: [x, y, z].map(number) };
+    return { element: symbol, at: [x, y, z].map(coordinate) };
   });
   return { atoms, bonds: bondsByDistance(atoms) };
 }
@@ -150,7 +154,7 @@ function readPdb(text) {
       const element = elementOfPdb(line);
       if (!element) throw new Error('no element');
       atoms.push({
-        element, at: [field(line, 30, 38), field(line, 38, 46), field(line, 46, 54)].map(number),
+        element, at: [field(line, 30, 38), field(line, 38, 46), field(line, 46, 54)].map(coordinate),
         note: [field(line, 17, 20), field(line, 22, 26)].filter(word => word).join(' '),
       });
     }
@@ -174,8 +178,8 @@ function readCml(text) {
     const flat = !atom.hasAttribute('x3');
     return {
       element: symbolOf(atom.getAttribute('elementType') ?? ''),
-      at: flat ? [number(atom.getAttribute('x2')), number(atom.getAttribute('y2')), 0]
-               : ['x3', 'y3', 'z3'].map(name => number(atom.getAttribute(name))),
+      at: flat ? [coordinate(atom.getAttribute('x2')), coordinate(atom.getAttribute('y2')), 0]
+               : ['x3', 'y3', 'z3'].map(name => coordinate(atom.getAttribute(name))),
     };
   });
   const orders = { 1: 1, 2: 2, 3: 3, S: 1, D: 2, T: 3, A: 4 };

@@ -1,5 +1,6 @@
 #include <QTest>
 #include <algorithm>
+#include <regex>
 
 #include "platform/qt/WindowTable.h"
 #include "tests/support/browser/BrowserMachine.h"
@@ -107,6 +108,9 @@ TEST_F(MoleculeFiles, ThatAreBrokenSaySo) {
         {"f.xyz", "-1\n\n"},
         {"crowd.xyz", "300000\n\n" + atoms},
         {"far.xyz", "2\n\nN 0 0 0\nN 1e300 0 0\n"},
+        // Drawing got a number that is not finite from the sum of two such places.
+        {"far.cml", std::regex_replace(cyanide[5].content, std::regex("x3=\"[^\"]*"), "x3=\"1e308")},
+        {"far.mol", "\n\n\n  1  0\n    0.0000   -1e308     0.0000 N\n"},
         {"g.pdb", "HEADER    nothing\nEND\n"},
         {"h.pdb", "HETATM    1  C   HCN A   1       0.000   0.0x0   0.000  1.00  0.00           C\n"},
         {"i.cml", cyanide[5].content.substr(0, 300)},
