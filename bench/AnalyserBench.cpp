@@ -5,6 +5,7 @@
 #include <random>
 #include <string>
 
+#include "bench/Required.h"
 #include "controls/dataanalyser/AnalyserComponent.h"
 #include "controls/dataanalyser/graph/LinkedGraphParts.h"
 #include "controls/dataanalyser/table/TableView.h"
@@ -27,7 +28,7 @@ DataLibrary largeLibrary() {
         text += "name" + std::to_string(random() % 100000) + "\tgroup" + std::to_string(i % 7) + '\t' +
                 std::to_string(values(random)) + '\t' + std::to_string(values(random)) + '\n';
     }
-    return DataLibrary(formats::decodeDataSet(text).set.value());
+    return DataLibrary(bench::required(formats::decodeDataSet(text).set));
 }
 
 /// The pane of an analyser that shows the large data set.

@@ -4,6 +4,7 @@
 #include <fstream>
 #include <random>
 
+#include "bench/Required.h"
 #include "bench/TestMachine.h"
 #include "formats/WordRecords.h"
 #include "src/bookmarks/BookmarkFile.h"
@@ -39,7 +40,7 @@ class LargeVocabulary {
         : root_(fs::temp_directory_path() / ("kalyxo-bench-words" + std::to_string(::getpid()))) {
         fs::copy(contentFolder, root_, fs::copy_options::recursive);
         std::ofstream(root_ / "words.ndx", std::ios::binary | std::ios::trunc)
-            << *formats::encodeWordIndex(manyWords());
+            << required(formats::encodeWordIndex(manyWords()));
     }
     ~LargeVocabulary() { fs::remove_all(root_); }
     LargeVocabulary(const LargeVocabulary&) = delete;

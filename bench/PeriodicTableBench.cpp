@@ -3,6 +3,7 @@
 #include <QImage>
 #include <string>
 
+#include "bench/Required.h"
 #include "controls/common/QtText.h"
 #include "controls/periodic/PeriodicWidget.h"
 
@@ -14,7 +15,7 @@ using namespace controls::periodic;
 
 void RedrawOfPeriodicTable(benchmark::State& state) {
     TableState shown;
-    shown.view = *viewOfCode(static_cast<int>(state.range(0)));
+    shown.view = bench::required(viewOfCode(static_cast<int>(state.range(0))));
     shown.selected = 92;
     PeriodicWidget table([](int) {}, nullptr);
     table.resize(1920, 1080);

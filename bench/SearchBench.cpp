@@ -12,6 +12,7 @@
 #include <memory>
 #include <string>
 
+#include "bench/Required.h"
 #include "formats/SectionTitles.h"
 #include "formats/TitleLists.h"
 #include "formats/WordRecords.h"
@@ -68,14 +69,14 @@ class IndexFolder {
             records.push_back({isHit ? formOf(hit % formCount) : "search" + std::to_string(i % 50'000),
                                isHit ? hit % indexedPages : i, isHit ? 10'001 + hit : 0, 2});
         }
-        write("words.dat", *formats::encodeOccurrences(records));
+        write("words.dat", bench::required(formats::encodeOccurrences(records)));
     }
 
     void writeAlternatives() const {
         std::vector<formats::AlternativeRecord> records;
         records.reserve(formCount);
         for (std::int32_t i = 0; i < formCount; ++i) records.push_back({1, formOf(i)});
-        write("words.alt", *formats::encodeAlternatives(records));
+        write("words.alt", bench::required(formats::encodeAlternatives(records)));
     }
 
     void writeTitles() const {
@@ -85,8 +86,8 @@ class IndexFolder {
             pages.push_back({"The title of page " + std::to_string(i), i});
             entries.push_back("The title of entry " + std::to_string(i));
         }
-        write("struct.dat", *formats::encodeSectionTitles(pages));
-        write("elem.ttl", *formats::encodeTitleList(entries));
+        write("struct.dat", bench::required(formats::encodeSectionTitles(pages)));
+        write("elem.ttl", bench::required(formats::encodeTitleList(entries)));
     }
 
     fs::path root_;
@@ -130,7 +131,7 @@ int countPlainly(const char* bytes, std::size_t size, const char* word) {
 int countByFread(std::FILE* file, const char* word) {
     char record[formats::occurrenceRecordSize];
     int found = 0;
-    std::rewind(file);
+    if (std::fseek(file, 0, SEEK_SET) != 0) return 0;
     while (std::fread(record, sizeof record, 1, file) == 1) {
         if (std::strncmp(record, word, formats::occurrenceWordField) == 0) ++found;
     }
