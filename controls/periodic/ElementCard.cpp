@@ -156,8 +156,7 @@ std::vector<Fact> factsOf(const Element& element, const TableState& state) {
                                      ionisation, covalentRadius, discovery, crust};
     const auto first = quantityOf(state.view);
     if (first) {
-        std::stable_partition(quantities.begin(), quantities.end(),
-                              [&](Quantity each) { return each == *first; });
+        std::ranges::stable_partition(quantities, [&](Quantity each) { return each == *first; });
     }
     std::vector<Fact> facts;
     facts.reserve(quantities.size() + 1);

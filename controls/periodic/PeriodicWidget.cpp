@@ -238,7 +238,8 @@ bool PeriodicWidget::stepView(const QKeyEvent& event) {
     if (event.modifiers() != Qt::ControlModifier) return false;
     const bool forward = event.key() == Qt::Key_PageDown;
     if (!forward && event.key() != Qt::Key_PageUp) return false;
-    setView(*viewOfCode((viewCode(state_.view) + (forward ? 1 : viewCount - 1)) % viewCount));
+    const int code = (viewCode(state_.view) + (forward ? 1 : viewCount - 1)) % viewCount;
+    setView(viewOfCode(code).value_or(state_.view));
     return true;
 }
 

@@ -40,7 +40,8 @@ constexpr std::array<QColor, 18> colors{{
 
 std::optional<Family> familyNamed(std::string_view name) {
     for (int code = 1; code <= familyCount; ++code) {
-        if (name == familyName(*familyOfCode(code))) return familyOfCode(code);
+        const auto family = familyOfCode(code);
+        if (family && name == familyName(*family)) return family;
     }
     return std::nullopt;
 }
@@ -56,9 +57,9 @@ CategoryLook categoryLook(const Categories& categories, int category) {
     if (category < 0) return noGroup;
     const auto place = static_cast<std::size_t>(category);
     const auto isFamily = [](const std::string& name) { return familyNamed(name).has_value(); };
-    if (std::ranges::all_of(categories.names, isFamily)) {
-        const Family family = *familyNamed(categories.names[place]);
-        return {appearance::familyColors(family), familyShapes[static_cast<std::size_t>(family)]};
+    const bool areFamilies = std::ranges::all_of(categories.names, isFamily);
+    if (const auto family = areFamilies ? familyNamed(categories.names[place]) : std::nullopt) {
+        return {appearance::familyColors(*family), familyShapes[static_cast<std::size_t>(*family)]};
     }
     const QColor edge = colors[place % colors.size()];
     return {{lightened(edge), edge}, static_cast<PointShape>(category % pointShapeCount)};

@@ -98,6 +98,7 @@ class GraphMaker {
 
     void fitLine() {
         std::vector<PlanePoint> points;
+        points.reserve(graph_.marks.size());
         for (const GraphMark& mark : graph_.marks) {
             points.push_back(
                 {plan().logX ? std::log10(mark.x) : mark.x, plan().logY ? std::log10(mark.y) : mark.y});

@@ -124,7 +124,8 @@ std::vector<std::int16_t> TableView::selectedIds() const {
         }
     }
     std::ranges::sort(ids);
-    ids.erase(std::unique(ids.begin(), ids.end()), ids.end());
+    const auto repeated = std::ranges::unique(ids);
+    ids.erase(repeated.begin(), repeated.end());
     return ids;
 }
 

@@ -58,7 +58,10 @@ int kindOf(const Element& element, TableView view, double kelvin) {
 std::string_view kindName(TableView view, int kind) {
     if (kind < 1 || kind > kindCount(view)) return {};
     const auto index = static_cast<std::size_t>(kind) - 1;
-    if (view == TableView::families) return familyName(*familyOfCode(kind));
+    if (view == TableView::families) {
+        const auto family = familyOfCode(kind);
+        return family ? familyName(*family) : std::string_view();
+    }
     return view == TableView::metals ? characterNames[index] : matterNames[index];
 }
 

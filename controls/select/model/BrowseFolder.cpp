@@ -38,6 +38,7 @@ formats::BrowseIndex BrowseFolder::readTitleFiles() const {
     for (const formats::Section& section : formats::sectionTable())
         images.push_back(readTitleFile(section.key));
     std::vector<formats::SectionTitleFile> titleFiles;
+    titleFiles.reserve(images.size());
     for (std::size_t i = 0; i < images.size(); ++i) {
         titleFiles.push_back({formats::sectionTable()[i].code, images[i]});
     }
