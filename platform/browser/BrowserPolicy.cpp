@@ -2,8 +2,8 @@
 
 #include <QLoggingCategory>
 
-#include "platform/browser/BrowserProcess.h"
 #include "platform/browser/DosUrl.h"
+#include "platform/browser/EngineFlags.h"
 #include "platform/browser/RequestPolicy.h"
 #include "platform/text/CodePage1253.h"
 

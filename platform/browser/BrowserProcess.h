@@ -1,8 +1,6 @@
 #pragma once
 
-#include <string>
 #include <string_view>
-#include <vector>
 
 namespace platform {
 
@@ -19,9 +17,5 @@ std::string_view missingSandbox(bool isRoot, bool isSwitchedOff, std::string_vie
 /// Whether the engine's own program, without which it would end this one, is where it looks for it. To be
 /// asked once the application object is made.
 bool engineIsInstalled();
-
-/// Lets the engine find these hosts on the network, and no other. To be called before the first browser is
-/// made; names of other characters than letters, digits, hyphens and stops are left out.
-void letEngineFind(const std::vector<std::string>& hosts);
 
 }  // namespace platform
