@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "platform/machine/Machine.h"
+#include "platform/printing/PrintFile.h"
 #include "platform/printing/PrintJob.h"
 #include "platform/text/CodePage1253.h"
 

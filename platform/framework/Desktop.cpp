@@ -13,7 +13,7 @@
 #include "platform/drawing/ProgramStyle.h"
 #include "platform/framework/WinApp.h"
 #include "platform/printing/PrintDialogTexts.h"
-#include "platform/printing/PrintJob.h"
+#include "platform/printing/PrintFile.h"
 #include "platform/qt/QtConvert.h"
 #include "platform/text/CodePage1253.h"
 #include "platform/text/GreekLiteral.h"

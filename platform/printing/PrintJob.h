@@ -3,7 +3,6 @@
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QString>
-#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -44,20 +43,6 @@ class PrintJob {
     std::unique_ptr<QPagedPaintDevice> device_;
     QPainter painter_;
 };
-
-/// The path for the next PDF file, in UTF-8; empty when documents go to a printer. The folder is made if it
-/// is missing.
-std::string nextPrintFile();
-
-/// Records a document that other code has printed into a file of `nextPrintFile`.
-void recordPrint(std::string_view name, int pages, const std::string& file);
-/// Reports that a file of `nextPrintFile` could not be written.
-void printFailed(const std::string& file);
-
-/// Called for each file (its path in UTF-8) that was printed or could not be written, to tell the user. None
-/// at first.
-using PrintListener = std::function<void(const std::string& file, bool written)>;
-void setPrintListener(PrintListener listener);
 
 /// The printer that the user chooses in a dialog over `chooser`, at first the desktop's default printer. Null
 /// when the desktop has no printer or the user cancels.

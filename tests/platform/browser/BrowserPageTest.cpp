@@ -2,7 +2,7 @@
 
 #include "platform/browser/BrowserPolicy.h"
 #include "platform/browser/WebBrowserComponent.h"
-#include "platform/printing/PrintJob.h"
+#include "platform/printing/PrintFile.h"
 #include "tests/support/TestFolder.h"
 #include "tests/support/browser/BrowserMachine.h"
 

@@ -10,7 +10,7 @@
 #include <filesystem>
 
 #include "platform/printing/PrintDialogTexts.h"
-#include "platform/printing/PrintJob.h"
+#include "platform/printing/PrintFile.h"
 #include "platform/printing/PrinterDC.h"
 #include "tests/support/TestFolder.h"
 #include "tests/support/windows/TestProgram.h"
