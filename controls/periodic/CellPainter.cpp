@@ -43,6 +43,12 @@ void paintNoData(QPainter& painter, const QRect& area) {
     painter.restore();
 }
 
+void paintSwatch(QPainter& painter, const QRect& area, const appearance::GroupColors& colors, bool hatched) {
+    painter.fillRect(area, colors.edge);
+    const QRect inner = area.adjusted(1, 1, -1, -1);
+    hatched ? paintNoData(painter, inner) : painter.fillRect(inner, colors.fill);
+}
+
 CellPainter::CellPainter(QPainter& painter, TextFitter& fitter, QSize cell)
     : painter_(painter), fitter_(fitter) {
     const int side = std::min(cell.width() * 9 / 8, cell.height());

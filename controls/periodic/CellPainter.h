@@ -39,4 +39,9 @@ class CellPainter {
 /// Fills an area with the pattern that means that there is no data.
 void paintNoData(QPainter& painter, const QRect& area);
 
+/// Draws a small framed area as an example in a legend, with the pattern of missing data if it is hatched.
+void paintSwatch(QPainter& painter, const QRect& area, const appearance::GroupColors& colors, bool hatched);
+/// The room between a swatch and the text behind it, in pixels.
+inline constexpr int swatchGap = 6;
+
 }  // namespace controls::periodic

@@ -1,69 +1,20 @@
 #include "controls/periodic/Legend.h"
 
 #include <algorithm>
-#include <array>
 
 #include "controls/common/Appearance.h"
 #include "controls/common/QtText.h"
-#include "controls/periodic/CellLook.h"
 #include "controls/periodic/CellPainter.h"
 #include "controls/periodic/ColorScale.h"
+#include "controls/periodic/KindLegend.h"
 #include "controls/periodic/ValueText.h"
-#include "controls/periodic/model/ElementKinds.h"
 #include "controls/periodic/model/QuantityScale.h"
 
 namespace controls::periodic {
 
 namespace {
 
-constexpr int swatchGap = 6;
 constexpr int tickHeight = 4;
-
-QString kindText(const TableState& state, int kind) {
-    QString name = toQt(kindName(state.view, kind));
-    if (state.view == TableView::families) return name;
-    const auto count = std::ranges::count_if(elements(), [&](const Element& element) {
-        return kindOf(element, state.view, state.kelvin) == kind;
-    });
-    return QStringLiteral("%1 (%2)").arg(name).arg(count);
-}
-
-/// The largest font in which the texts of all kinds fit their items.
-QFont fontOfKinds(TextFitter& fitter, const TableLayout& layout, const TableState& state, int width) {
-    int pixels = layout.labelPixels() + 1;
-    QFont smallest = appearance::font(TextFitter::minPixels);
-    for (int kind = 1; kind <= kindCount(state.view); ++kind) {
-        const auto font = fitter.font(kindText(state, kind), width, pixels);
-        if (!font) return smallest;
-        // If one text needs narrowed letters, all get them.
-        if (kind == 1 || font->pixelSize() < pixels || font->stretch() != 0) {
-            pixels = font->pixelSize();
-            smallest = *font;
-        }
-    }
-    return smallest;
-}
-
-void paintSwatch(QPainter& painter, const QRect& area, const appearance::GroupColors& colors, bool hatched) {
-    painter.fillRect(area, colors.edge);
-    const QRect inner = area.adjusted(1, 1, -1, -1);
-    hatched ? paintNoData(painter, inner) : painter.fillRect(inner, colors.fill);
-}
-
-void paintKinds(QPainter& painter, TextFitter& fitter, const TableLayout& layout, const TableState& state,
-                int highlighted) {
-    const QRect swatch = layout.swatch();
-    const int start = swatch.right() + swatchGap;
-    const QFont font = fontOfKinds(fitter, layout, state, layout.kindItem(state.view, 1).width() - start - 2);
-    for (int kind = 1; kind <= kindCount(state.view); ++kind) {
-        const QRect item = layout.kindItem(state.view, kind);
-        if (highlighted == kind) painter.fillRect(item, appearance::selected);
-        const bool unknown = state.view == TableView::matter && kind == kindCount(state.view);
-        paintSwatch(painter, swatch.translated(item.topLeft()), kindColors(state.view, kind), unknown);
-        painter.setPen(appearance::text);
-        TextFitter::draw(painter, item.adjusted(start, 0, 0, 0), kindText(state, kind), font, Qt::AlignLeft);
-    }
-}
 
 void paintDescription(QPainter& painter, TextFitter& fitter, const TableLayout& layout, TableView view,
                       Quantity quantity) {
@@ -121,7 +72,7 @@ void paintTicks(QPainter& painter, const TableLayout& layout, TableView view, co
 void paintLegend(QPainter& painter, TextFitter& fitter, const TableLayout& layout, const TableState& state,
                  int highlighted) {
     const auto quantity = quantityOf(state.view);
-    if (!quantity) return paintKinds(painter, fitter, layout, state, highlighted);
+    if (!quantity) return paintKindLegend(painter, fitter, layout, state, highlighted);
     paintDescription(painter, fitter, layout, state.view, *quantity);
     paintBar(painter, layout.colorBar(state.view));
     paintTicks(painter, layout, state.view, QuantityScale(*quantity, state.otherScale), *quantity);
