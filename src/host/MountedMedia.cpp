@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <array>
-#include <initializer_list>
 #include <optional>
 #include <sstream>
 #include <system_error>
 
 #include "platform/files/FileHandle.h"
+#include "src/host/MountLine.h"
 
 namespace kalyxo {
 
@@ -38,39 +38,6 @@ constexpr std::array<std::string_view, 17> kRemoteTypes = {"9p",
 constexpr std::array<std::string_view, 3> kUserPlaces = {"/media", "/mnt", "/run/media"};
 constexpr std::array<std::string_view, 8> kSystemPlaces = {"/boot", "/dev", "/etc", "/proc",
                                                            "/run",  "/sys", "/usr", "/var"};
-
-/// The fields of a line that count here.
-struct MountLine {
-    std::string device;
-    std::string folder;
-    std::string type;
-};
-
-bool isOctal(char c) { return c >= '0' && c <= '7'; }
-
-/// Blanks, line ends and backslashes of names are written as a backslash with three octal digits.
-std::string withoutEscapes(std::string_view text) {
-    std::string result;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const std::string_view digits = text.substr(i + 1, 3);
-        if (text[i] == '\\' && digits.size() == 3 && std::ranges::all_of(digits, isOctal)) {
-            result += static_cast<char>((digits[0] - '0') * 64 + (digits[1] - '0') * 8 + (digits[2] - '0'));
-            i += 3;
-        } else {
-            result += text[i];
-        }
-    }
-    return result;
-}
-
-std::optional<MountLine> readLine(const std::string& line) {
-    MountLine fields;
-    std::istringstream in(line);
-    if (!(in >> fields.device >> fields.folder >> fields.type)) return std::nullopt;
-    fields.device = withoutEscapes(fields.device);
-    fields.folder = withoutEscapes(fields.folder);
-    return fields;
-}
 
 template <std::size_t N>
 bool isOneOf(std::string_view name, const std::array<std::string_view, N>& names) {
@@ -138,7 +105,7 @@ std::vector<MountedMedium> ReadMountedMedia(std::string_view mounts, const Remov
     std::map<std::string, std::optional<DriveType>> types;
     std::istringstream in{std::string(mounts)};
     for (std::string text; std::getline(in, text);) {
-        if (const auto line = readLine(text)) types[line->folder] = typeOf(*line, removable);
+        if (const auto line = ReadMountLine(text)) types[line->folder] = typeOf(*line, removable);
     }
     std::vector<MountedMedium> media;
     for (const auto& [folder, type] : types) {
