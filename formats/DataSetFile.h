@@ -27,6 +27,7 @@ struct DataSetFaultLine {
     bool operator==(const DataSetFaultLine&) const = default;
 };
 
+/// What the text of a data set's file holds.
 struct DecodedDataSet {
     std::optional<DataSet> set;  ///< nothing when the head is wrong
     std::vector<DataSetFaultLine> faults;

@@ -33,8 +33,10 @@ struct GroupColors {
     QColor fill;
     QColor edge;
 };
+/// The colours of a family of elements, the same in the periodic table and in graphs.
 GroupColors familyColors(Family family);
 
+/// The font of the components, with letters of this height in pixels.
 QFont font(int pixels, QFont::Weight weight = QFont::Normal);
 
 /// The largest font of at most `pixels` in which the words fit into `width`, if need be with narrowed

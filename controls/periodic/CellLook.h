@@ -9,6 +9,7 @@
 
 namespace controls::periodic {
 
+/// The colours of a kind of elements, numbered from 1, in a view of kinds.
 appearance::GroupColors kindColors(TableView view, int kind);
 
 /// The background of cells without data, and the strokes on it.

@@ -29,7 +29,9 @@ QColor sectionAccent(std::int16_t code);
 /// The font of the list and the field.
 QFont font(QFont::Weight weight = QFont::Normal);
 
+/// The colours for what Qt draws by itself in the pane.
 QPalette palette();
+/// The style rules for the widgets of the pane, by their object names.
 QString styleSheet();
 
 }  // namespace controls::select::appearance

@@ -46,14 +46,17 @@ struct NMHDR {
 /// An item of a tree; null is none.
 using HTREEITEM = struct TreeItem*;
 
+/// A notification that concerns an item of a tree.
 struct NMTREEVIEW : NMHDR {
     HTREEITEM item = nullptr;
 };
 
+/// A key was pressed in a tree.
 struct NMTVKEYDOWN : NMHDR {
     UINT wVKey = 0;
 };
 
+/// A notification that concerns a row of a list view.
 struct NMLISTVIEW : NMHDR {
     int iItem = -1;     ///< row, −1 for none
     int iSubItem = -1;  ///< column

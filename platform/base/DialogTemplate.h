@@ -15,6 +15,7 @@ inline constexpr int IDCANCEL = 2;
 /// The id of controls that nobody refers to.
 inline constexpr int IDC_STATIC = -1;
 
+/// The kinds of controls that a template can place.
 enum class DialogControlKind {
     pushButton,
     defaultPushButton,

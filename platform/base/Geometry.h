@@ -41,6 +41,7 @@ struct CRect {
 /// A colour: red in the lowest byte, then green, then blue.
 using COLORREF = unsigned;
 
+/// The colour with these parts, each from 0 to 255.
 constexpr COLORREF RGB(unsigned red, unsigned green, unsigned blue) {
     return red | (green << 8) | (blue << 16);
 }

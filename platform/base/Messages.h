@@ -82,6 +82,7 @@ constexpr LPARAM packPoint(CPoint p) {
     return static_cast<LPARAM>(low | high);
 }
 
+/// The point that `packPoint` has packed.
 constexpr CPoint unpackPoint(LPARAM lParam) {
     const auto bits = static_cast<std::uint64_t>(lParam);
     return {static_cast<std::int16_t>(bits & 0xFFFFU), static_cast<std::int16_t>((bits >> 16) & 0xFFFFU)};

@@ -15,6 +15,7 @@ struct MenuItem {
     UINT id = 0;
 };
 
+/// A menu of the menu bar.
 struct Menu {
     std::string_view text;
     std::span<const MenuItem> items;
@@ -26,6 +27,7 @@ struct Accelerator {
     UINT id = 0;
 };
 
+/// A text of the program.
 struct StringResource {
     UINT id = 0;
     std::string_view text;  ///< code page 1253
@@ -34,6 +36,7 @@ struct StringResource {
 /// String resource with the program's name: the title of the frame and of message boxes.
 inline constexpr UINT AFX_IDS_APP_TITLE = 57344;
 
+/// A cursor, and the pixel of its picture that points.
 struct CursorResource {
     UINT id = 0;
     CPoint hotSpot;

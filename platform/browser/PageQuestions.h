@@ -19,7 +19,9 @@ namespace platform {
 /// Whether one of them is not answered yet.
 bool anyQuestionOpen();
 
+/// The text of a page as it can be read, without marks.
 QString textOf(QWebEnginePage& page);
+/// The source of a page as it stands now.
 QString htmlOf(QWebEnginePage& page);
 
 /// Scrolls the first link with this text (code page 1253, blanks at its ends apart) into view and says

@@ -98,23 +98,27 @@ std::optional<Variant> call(typename Signature<decltype(Function)>::Class& objec
 
 }  // namespace detail
 
+/// A row of the table: what the operation is called and takes, and the function that runs it.
 template <class C>
 struct Operation {
     OperationInfo info;
     std::optional<Variant> (*call)(C& object, std::span<const Variant> arguments);
 };
 
+/// The row of a member function.
 template <std::int32_t Dispid, auto Function, InvokeKind Kind = InvokeKind::method>
 constexpr auto Method(std::string_view name) {
     using S = detail::Signature<decltype(Function)>;
     return Operation<typename S::Class>{{Dispid, Kind, name, S::types}, &detail::call<Function>};
 }
 
+/// The row of a member function that returns a property.
 template <std::int32_t Dispid, auto Function>
 constexpr auto PropertyGet(std::string_view name) {
     return Method<Dispid, Function, InvokeKind::propertyGet>(name);
 }
 
+/// The row of a member function that sets a property.
 template <std::int32_t Dispid, auto Function>
 constexpr auto PropertyPut(std::string_view name) {
     return Method<Dispid, Function, InvokeKind::propertyPut>(name);
@@ -128,6 +132,8 @@ constexpr std::array<OperationInfo, N> describe(const std::array<Operation<C>, N
     return infos;
 }
 
+/// Runs an operation of the table. Nothing when the table has no such operation, or the arguments do not fit
+/// it.
 template <class C, std::size_t N>
 std::optional<Variant> dispatch(C& object, const std::array<Operation<C>, N>& table, std::int32_t dispid,
                                 InvokeKind kind, std::span<const Variant> arguments) {

@@ -7,6 +7,7 @@
 /// that file has "-2x" before the suffix.
 namespace platform {
 
+/// A file with one version of a picture.
 struct ArtworkFile {
     QString name;
     int scale = 1;  ///< pixels of the file per logical pixel, across and down

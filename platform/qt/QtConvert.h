@@ -9,7 +9,7 @@
 #include "platform/base/Geometry.h"
 #include "platform/text/CodePage1253.h"
 
-/// Conversions between the program's types and Qt's.
+/// Conversions between the program's types and Qt's. Text on the program's side is in code page 1253.
 namespace platform {
 
 inline QPoint toQt(CPoint p) { return {p.x, p.y}; }

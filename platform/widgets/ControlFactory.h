@@ -6,7 +6,8 @@
 
 class QWidget;
 
-/// Makes standard controls: the widget inside `parent`, entered in the window table.
+/// Makes standard controls: each function makes the widget inside `parent`, enters it in the window table
+/// under its id, and returns its link there. Styles are those of the control's kind.
 namespace platform {
 
 class ControlLink;

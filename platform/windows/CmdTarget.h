@@ -47,6 +47,7 @@ struct EventSinkEntry {
     bool (*handler)(CCmdTarget&, std::span<Variant> arguments);
 };
 
+/// The handled events of a class, and the map of its base class.
 struct EventSinkMap {
     const EventSinkMap* base;
     std::span<const EventSinkEntry> entries;

@@ -89,11 +89,13 @@ bool eventThunk(CCmdTarget& target, std::span<Variant> arguments) {
 
 }  // namespace detail
 
+/// The row of a message, whose handler has the signature that stands above for it.
 template <UINT Message, auto Handler>
 constexpr MessageMapEntry OnMessage() {
     return {.id = Message, .message = &detail::messageThunk<Message, Handler>};
 }
 
+/// The row of a command that a menu, key or control sends.
 template <auto Handler>
 constexpr MessageMapEntry OnCommandId(UINT id) {
     return {.id = id, .command = [](CCmdTarget& target) {
@@ -101,6 +103,7 @@ constexpr MessageMapEntry OnCommandId(UINT id) {
             }};
 }
 
+/// The row of the question whether a command can be given now.
 template <auto Handler>
 constexpr MessageMapEntry OnUpdateId(UINT id) {
     return {.id = id, .update = [](CCmdTarget& target, CCmdUI& ui) {
@@ -124,6 +127,7 @@ constexpr MessageMapEntry OnNotify(int id, int code) {
             }};
 }
 
+/// The row of an event that a hosted component raises.
 template <auto Handler>
 constexpr EventSinkEntry OnComponentEvent(int componentId, std::int32_t dispid) {
     return {componentId, dispid, &detail::eventThunk<Handler>};

@@ -71,6 +71,7 @@ struct AnalyserState {
     std::vector<std::int32_t> entries;  ///< K − 1 of them
 };
 
+/// A bookmark of the data analyser, with what it shows.
 class CBMDataAn : public CBookmark, public AnalyserState {
   public:
     static const platform::CRuntimeClass runtimeClass;

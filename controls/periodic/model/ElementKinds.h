@@ -11,6 +11,7 @@ namespace controls::periodic {
 /// The kinds of elements in the view of metals.
 enum class Character : std::uint8_t { metal, metalloid, nonmetal };
 
+/// Whether the elements of a family are metals, metalloids or nonmetals.
 Character characterOf(Family family);
 
 /// The number of kinds of elements in a view, 0 in a view of a quantity. Kinds (families, characters or

@@ -26,6 +26,7 @@ enum class TableView : std::uint8_t {
 inline constexpr int viewCount = 11;
 inline constexpr int firstQuantityView = static_cast<int>(TableView::electronegativity);
 
+/// The code of a view, from 0.
 constexpr int viewCode(TableView view) { return static_cast<int>(view); }
 
 /// The view with a code, nothing for another code.

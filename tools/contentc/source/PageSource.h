@@ -12,6 +12,7 @@
 
 namespace contentc {
 
+/// The kinds of pages.
 enum class PageKind {
     /// The start page of a section.
     start,
@@ -22,6 +23,7 @@ enum class PageKind {
     plain,
 };
 
+/// The frame into which a page's text is put.
 enum class PageTemplate { page, molecule };
 
 /// A school year, and what of its book a page belongs to.

@@ -26,6 +26,7 @@ using PictureSizes = std::map<std::string, PictureSize, std::less<>>;
 /// they tell none.
 std::optional<PictureSize> pictureSize(std::string_view bytes);
 
+/// The sizes of all pictures of the sources.
 PictureSizes readPictureSizes(const SourceTree& tree);
 
 }  // namespace contentc
