@@ -15,7 +15,8 @@ int main(int argc, char** argv) {
     int count = static_cast<int>(arguments.size());
     benchmark::Initialize(&count, arguments.data());
     if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) return 1;
-    // Widgets need it, and it has to go before the libraries' own objects do, so it is no static one.
+    // Widgets need it. It is not static, since it must be destroyed before the static objects of the
+    // libraries.
     const QApplication application(argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();

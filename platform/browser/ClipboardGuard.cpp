@@ -12,7 +12,7 @@ namespace platform {
 
 namespace {
 
-/// Longer than the engine takes a page's script for the answer to a press.
+/// The engine lets a page's script write for a shorter time after a press.
 constexpr std::chrono::seconds timeForAnswer{7};
 /// How long the engine may take to copy.
 constexpr std::chrono::seconds copyTime{1};
@@ -109,7 +109,7 @@ void ClipboardGuard::changed(Guarded& one) {
 bool ClipboardGuard::isPagesWrite(const Guarded& one) const {
     if (!one.kept || pageMayWrite_.hasExpired() || !one.userWrites.hasExpired() || !isOwnWrite(one.mode))
         return false;
-    // Other parts of the program copy on their own, when the focus is there; and a page cannot copy a picture
+    // When the focus is in another part of the program, that part has copied. And a page cannot copy a picture
     // alone.
     const QWidget* const focus = QApplication::focusWidget();
     const QMimeData* const content = QApplication::clipboard()->mimeData(one.mode);
@@ -122,7 +122,7 @@ void ClipboardGuard::Guarded::keepContent() {
     kept = std::make_unique<QMimeData>();
     const QMimeData* const content = QApplication::clipboard()->mimeData(mode);
     if (!content) return;
-    // Each costs a question to the program that the content comes from.
+    // Only these forms: the program that the content comes from is asked for each of them.
     if (content->hasText()) kept->setText(content->text());
     if (content->hasHtml()) kept->setHtml(content->html());
     const QString png(pngType);
@@ -133,7 +133,7 @@ void ClipboardGuard::Guarded::keepContent() {
 
 void ClipboardGuard::Guarded::putBack() {
     QClipboard& clipboard = *QApplication::clipboard();
-    // Taken first: what is put back is a change too.
+    // Taken first, since putting it back is seen as another change.
     std::unique_ptr<QMimeData> former = std::move(kept);
     if (former->formats().isEmpty()) {
         clipboard.clear(mode);

@@ -25,19 +25,20 @@ bool isHostName(std::string_view name) {
 }  // namespace
 
 void setEngineFlags() {
-    // Content has no use for these, and the policy does not see all that they ask for. A newer engine may not
-    // know the name of one; `contentLimits` takes away what matters of them.
+    // Content needs none of these features, and the policy does not see all requests that they make. A newer
+    // engine may not know one of these names; `contentLimits` removes what matters of them in any case.
     QByteArray flags =
         "--disable-blink-features=FileSystemAccess,FileSystemAccessLocal,Presentation,SharedWorker,"
         "WebTransport "
-        // Packets of connections between browsers pass the policy by; without a proxy there are none now.
+        // Connections between browsers send packets that the policy does not see. Without a proxy, this
+        // allows none.
         "--force-webrtc-ip-handling-policy=disable_non_proxied_udp "
         "--disable-background-networking --disable-component-update --disable-domain-reliability "
         "--disable-sync --no-pings --log-level=3 "
         // One process draws all pages, instead of a new one for each that is opened.
         "--renderer-process-limit=1";
-    // No name resolves at first, so that no request that the policy does not see can reach the network
-    // either.
+    // At first no name resolves, so that even a request that the policy does not see cannot reach the
+    // network.
     flags += hostRules({});
     const QByteArray platformName = qgetenv("QT_QPA_PLATFORM");
     if (platformName.startsWith("offscreen") || platformName.startsWith("minimal")) flags += " --disable-gpu";
@@ -48,7 +49,7 @@ void setEngineFlags() {
 void letEngineFind(const std::vector<std::string>& hosts) {
     std::vector<std::string> names;
     std::ranges::copy_if(hosts, std::back_inserter(names), isHostName);
-    // Of two switches of one name the later one counts.
+    // If a switch is given twice, the second one counts.
     qputenv(engineFlagsVariable, qgetenv(engineFlagsVariable) + hostRules(names));
 }
 

@@ -31,7 +31,7 @@ bool FirstExposure::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Show && !window_ && watched->isWidgetType()) {
         watchWindow(*static_cast<QWidget*>(watched));
     } else if (event->type() == QEvent::Expose && watched == window_ && window_->isExposed()) {
-        // The window draws itself while it handles the event: the call comes after that.
+        // The window draws itself while it handles this event, and the call is to come after that.
         window_->removeEventFilter(this);
         wait_.start(0);
     }

@@ -64,7 +64,7 @@ void PageArrival::begin() {
     begun_.start();
     ended_ = false;
     life_.stop();
-    // Before the first page there is none that could hold another back.
+    // Only a page that is on show can hold another back, and before the first load there is none.
     if (!page_.url().isEmpty()) begin_.start(timeToBegin);
     load_ = std::make_shared<int>();
 }

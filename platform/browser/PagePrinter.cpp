@@ -38,7 +38,7 @@ int countPages(const QByteArray& pdf) {
 PagePrinter::PagePrinter(QWebEngineView& view) : QObject(&view), view_(view) {
     connect(&view, &QWebEngineView::printFinished, this, [this] {
         printing_ = false;
-        // The engine still has it in hand.
+        // The engine still uses the printer until this signal has been handled.
         QTimer::singleShot(0, this, [this] { printer_.reset(); });
     });
 }
@@ -51,7 +51,7 @@ void PagePrinter::print() {
     auto printer = choosePrinter(*view_.window());
     if (!printer) return;
     if (printer->outputFormat() == QPrinter::PdfFormat) {
-        // On a printer that is a file, the engine would put pictures of pages.
+        // If the engine printed into a file by itself, its pages would be pictures without text.
         printToFile(printer->outputFileName().toStdString(), printer->pageLayout(), printer->pageRanges());
     } else {
         printOnPaper(std::move(printer));

@@ -15,7 +15,7 @@ void UserPress::see(const QEvent& event) {
     const auto type = event.type();
     const bool isPress = type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick ||
                          type == QEvent::KeyPress || type == QEvent::TouchBegin;
-    // A click is told when the button is let go, however long it was held.
+    // A click is reported when the button is released, however long it was held.
     const bool isRelease =
         type == QEvent::MouseButtonRelease || type == QEvent::KeyRelease || type == QEvent::TouchEnd;
     if (limit_.hasExpired() && isPress) presses_ = 0;

@@ -115,7 +115,7 @@ void WebBrowserComponent::navigate(const std::string& address, const Variant& fl
         urlOfAddress(address, folderLength(address, BrowserPolicy::instance().allowedFolders())));
     if (!passes({RequestKind::program, {}, url})) return;
     view_->presses().forget();
-    // Asked only now: the page may have been made while a handler showed a message.
+    // Looked at only now, since the page may have been made while a handler showed a message.
     if (page_) {
         page_->open(url);
     } else {
@@ -131,7 +131,7 @@ std::shared_ptr<Dispatch> WebBrowserComponent::document() {
 
 bool WebBrowserComponent::passes(const PageRequest& request) {
     const std::string address = addressOfUrl(request.address);
-    // What a page does by itself the program is not asked about: it might open dialogs.
+    // The program is not asked about what a page does by itself, since it might open dialogs.
     const bool cancel = request.kind != RequestKind::onward && isCancelled(address);
     const bool isTakenOver = !cancel && request.kind == RequestKind::mainPage &&
                              BrowserPolicy::instance().isTakenOver(controlId(), address);

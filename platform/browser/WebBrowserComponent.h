@@ -19,8 +19,7 @@ class WebPage;
 class WebView;
 
 /// The web browser as a component. The engine costs as much time as the rest of the program's start: it is
-/// set going once the window can be seen, or when it is needed before. Addresses are code page 1253: DOS
-/// paths
+/// started once the window can be seen, or when it is needed before. Addresses are code page 1253: DOS paths
 /// (`D:\a.htm`, `c:/cache/1.htm`) or URLs.
 class WebBrowserComponent : public Component, public WebPageInspector {
   public:
@@ -66,7 +65,7 @@ class WebBrowserComponent : public Component, public WebPageInspector {
     std::unique_ptr<WebView> view_;
     PagePrinter* printer_;  // the view's
     QUrl awaited_;          // where to go once there is a page
-    // There is none before the engine is needed. It goes before its view, which does not own it.
+    // Null until the engine is needed. It is destroyed before its view, which does not own it.
     std::unique_ptr<WebPage> page_;
     std::unique_ptr<PluginWindows> plugins_;  // with the page
     FirstExposure exposure_;

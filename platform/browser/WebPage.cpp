@@ -49,8 +49,8 @@ WebPage::WebPage(Gate gate, PressTaker takePress, QObject* parent)
         [this](const QWebEngineNewWindowRequest& request) { requestLater(url(), request.requestedUrl()); });
 }
 
-/// Not to the profile: a page's process that takes the place of one that has ended would not get them from
-/// there.
+/// The scripts belong to the page, not to the profile: when the page's process ends, the next one would not
+/// get them from the profile.
 void WebPage::addScripts() {
     scripts().insert(contentLimits());
     if (const auto extensions = PluginTypes::instance().extensions(); !extensions.empty()) {

@@ -42,7 +42,7 @@ WebView::WebView(QWidget* parent) : QWebEngineView(parent) {
             [this](QWidget*, QWidget* winner) { watchFocus(winner); });
 }
 
-// The focus moves once more while the engine's widget goes.
+// The focus moves once more while the engine's widget is destroyed.
 WebView::~WebView() { disconnect(qApp, nullptr, this, nullptr); }
 
 void WebView::open(QWebEnginePage& page) {
@@ -153,7 +153,7 @@ void WebView::zoomBy(int steps) {
 }
 
 void WebView::zoomTo(double factor) {
-    // Out of sight it keeps its size.
+    // A view that is out of sight keeps its factor.
     if (isInSight(*this)) setZoomFactor(factor);
 }
 

@@ -58,7 +58,7 @@ bool registerModule(std::string_view dosPath) {
     machine().trace().record(TraceRegister{std::string(dosPath)});
     Registrar registrar(dosPath);
     call(registrar);
-    // At once: the program may end without coming to write its registry.
+    // Written at once, since the program may end without writing its registry.
     machine().flushRegistry();
     return true;
 }

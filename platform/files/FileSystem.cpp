@@ -148,7 +148,7 @@ FileHandle FileSystem::openForWriting(std::string_view dosPath) const {
 
     const std::string exact = joinNames(place->folder, place->names);
     if (!written_.find(name) && written_.areOf(exact)) return createIn(exact, name);
-    // Not created at once: a file whose name differs in case only is the one that is meant.
+    // Not created at once, since an existing file whose name differs in case only would be meant.
     if (auto file = FileHandle::openForWriting(joinName(exact, name), false)) return file;
     const auto folder = findFolder(place->folder, place->names);
     if (!folder || !written_.take(*folder)) return {};

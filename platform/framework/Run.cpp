@@ -15,7 +15,7 @@ namespace platform {
 
 int RunProgram(CWinApp& app) {
     QApplication::setQuitOnLastWindowClosed(false);
-    // When the system ends the program, no message of its end may keep it waiting.
+    // When the system ends the program, no message box may keep it waiting.
     std::optional<UnattendedBoxes> unattended;
     const bool started = app.InitInstance();
     // The user may have closed the frame already, while a message box was shown.

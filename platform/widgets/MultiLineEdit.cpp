@@ -38,7 +38,7 @@ QString MultiLineEdit::content() const {
 void MultiLineEdit::setContent(const QString& text) {
     QString lines = text;
     lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    // One that ends no line still stands between two words.
+    // A CR that ends no line becomes a blank, so that the words around it stay apart.
     lines.replace(u'\r', u' ');
     setPlainText(lines);
     setLineHeights();

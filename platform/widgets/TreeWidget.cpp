@@ -74,7 +74,7 @@ void TreeWidget::keyPressEvent(QKeyEvent* event) {
     sendNotification(*this, TVN_KEYDOWN, notification);
     if (!self) return;
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return enter(*event);
-    // One level: where levels are read when they are opened, there may be no end of them.
+    // Opens one level only: where levels are read when they are opened, there may be no end of them.
     if (event->key() == Qt::Key_Asterisk) {
         if (currentItem()) currentItem()->setExpanded(true);
         return;

@@ -62,7 +62,7 @@ bool isPartOf(std::string_view part, std::string_view disk) {
 std::optional<DriveType> diskType(std::string_view device, bool inUserPlace, const RemovableTexts& texts) {
     const std::string_view part = device.substr(device.rfind('/') + 1);
     if (isPartOf(part, "sr")) return DriveType::cdrom;
-    // Of a card the host tells that its reader stays, not that the card goes.
+    // The host says that the reader of a memory card is fixed, although the card can be taken out.
     const bool isCard = part.starts_with("mmcblk") && inUserPlace;
     const bool goesOut = std::ranges::any_of(texts, [part](const auto& disk) {
         return disk.second.starts_with('1') && isPartOf(part, disk.first);
@@ -71,8 +71,8 @@ std::optional<DriveType> diskType(std::string_view device, bool inUserPlace, con
     return inUserPlace ? std::optional(DriveType::fixed) : std::nullopt;
 }
 
-/// Nothing for a file system of the host itself: its root, and what lies in its own folders, among which
-/// there are places where users mount (`/run/media`).
+/// Nothing for a file system of the host itself: its root, and what lies in its system folders. A place where
+/// users mount is none of the host's own, even inside a system folder (`/run/media`).
 std::optional<DriveType> typeOf(const MountLine& line, const RemovableTexts& removable) {
     const bool inUserPlace = liesBelowOneOf(line.folder, kUserPlaces);
     if (line.folder == "/" || (liesBelowOneOf(line.folder, kSystemPlaces) && !inUserPlace)) return {};

@@ -179,11 +179,12 @@ Result<std::unique_ptr<Machine>> OpenOwnMachine(const fs::path& folder, const In
     const auto changed = complete(*machine, options);
     if (!changed) return changed.failure();
     if (!updateModules(*machine, options, step)) return std::unique_ptr<Machine>();
-    // Writing the registry takes the lock for itself.
+    // `flushRegistry` takes the same lock.
     lock.reset();
     if (letters != remembered) RememberLetters(machine->registry(), letters);
     if (*changed || letters != remembered) machine->flushRegistry();
-    // Without a file of before, that none can be written is told now; else the program runs as far as it can.
+    // If there is no earlier registry file and none can be written, the user is told now. With an earlier
+    // file the program runs as far as it can.
     if (!isThere(registryFile(folder))) return notMade(registryFile(folder));
     return machine;
 }

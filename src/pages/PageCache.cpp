@@ -31,7 +31,7 @@ void PageCache::Open(CacheLocation location) {
     for (int program = 2; program <= kMaxPrograms; ++program) {
         if (take({base + std::to_string(program) + '\\', true})) return;
     }
-    // No folder can be had for itself alone, most likely because none can be created.
+    // Every folder is in use, or none can be created, which is more likely.
     m_location = std::move(location);
 }
 

@@ -43,7 +43,7 @@ bool rewriteLines(TextReader& source, TextWriter& target, const LineRewriter& re
     while (const std::size_t length = source.readLine(buffer.get(), kLineLimit)) {
         ++lines;
         if (lines % kLinesPerStep == 0 && !platform::GoesOn(step, lines, 0)) break;
-        // A NUL ends its line, the line's own end included.
+        // A NUL ends its line: what follows is dropped, with the line end.
         const std::string_view line(buffer.get(), ::strnlen(buffer.get(), length));
         const bool isRewritten = LineRewriter::Concerns(line);
         if (isRewritten) {

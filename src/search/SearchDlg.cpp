@@ -112,7 +112,7 @@ void CSearchDlg::OnWordEdited() {
     std::string withoutSpaces = text;
     std::erase(withoutSpaces, ' ');
     if (withoutSpaces != text) {
-        // This calls the function again.
+        // The change of text calls this function again, with nothing left to remove.
         m_word.SetWindowText(withoutSpaces);
         const int end = static_cast<int>(withoutSpaces.size());
         m_word.SetSel(end, end);

@@ -123,7 +123,7 @@ bool CKalyxoView::takePageLink(const std::string& address) {
     const auto link = formats::decodePageLink(address);
     if (!link) return false;
     m_pageLink = *link;
-    // Not from within the browser's question, during which no page can be loaded.
+    // Posted, since no page can be loaded while the browser waits for the answer to its question.
     PostMessage(WM_COMMAND, 0, kFollowPageLink);
     return true;
 }

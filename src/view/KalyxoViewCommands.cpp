@@ -134,7 +134,7 @@ void CKalyxoView::showPlainPage(const std::string& address) {
 }
 
 void CKalyxoView::ShowEnlargedView() {
-    // A page asks for it with a press that may have come before another dialog opened.
+    // The press in a page that asks for the view may have come before another dialog opened.
     if (!IsWindowEnabled()) return;
     const PageAddress& place = m_navigator.Address();
     std::string title = place.itemCode != 0 ? m_components.select.GetItemTitle(place.itemCode)
@@ -187,7 +187,7 @@ bool CKalyxoView::OnBeforeNavigate(const std::string& url, std::int32_t, const s
     if (m_bInterceptionSuppressed) return true;
     if (IsEnlargedViewLink(url)) {
         *cancel = true;
-        // Not from within the browser's question, during which no page can be loaded.
+        // Posted, since no page can be loaded while the browser waits for the answer to its question.
         PostMessage(WM_COMMAND, 0, controls::showEnlargedView);
     } else if (const std::optional<std::string> file = GlossaryFile(url)) {
         *cancel = true;

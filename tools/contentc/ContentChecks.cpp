@@ -149,7 +149,8 @@ void checkUnused(const SourceTree& tree, const References& references, Diagnosti
     const auto report = [&](const std::vector<SourceFile>& files, const std::string& folder,
                             const Message& message) {
         for (const SourceFile& file : files) {
-            // What was made elsewhere is not the author's; the pictures of the main menu are for no page.
+            // Pictures that were made from other files are not the author's, and those of the main menu
+            // belong to no page.
             const std::string extension = takenExtension(file.path);
             const bool isOwn = file.layer == 0 && extension != file.madeExtension && extension != ".bmp";
             if (isOwn && !used.contains(pathKey(folder + file.name())))

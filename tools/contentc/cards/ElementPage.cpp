@@ -80,7 +80,7 @@ std::vector<Isotope> shownIsotopes(const Element& element) {
         (isotope.isNatural() ? natural : radioactive).push_back(isotope);
     std::ranges::sort(radioactive, std::ranges::greater(), &Isotope::halfLife);
     if (radioactive.size() > shownRadioactiveCount) radioactive.resize(shownRadioactiveCount);
-    // Beside stable ones, those that are gone within hours say little.
+    // Beside natural isotopes, those that decay within hours say little.
     if (!natural.empty())
         std::erase_if(radioactive, [](const Isotope& isotope) { return isotope.halfLife < oneDay; });
     natural.insert(natural.end(), radioactive.begin(), radioactive.end());

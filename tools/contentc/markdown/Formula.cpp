@@ -176,7 +176,7 @@ class FormulaCompilation {
         const char next = at_ + 1 < source_.size() ? source_[at_ + 1] : ' ';
         const bool isBehindSymbol =
             before_ == Before::letter || before_ == Before::closing || before_ == Before::script;
-        // In names such as C-14 it stays.
+        // Names such as C-14 keep their hyphen.
         const std::string_view behindSymbol = isDigit(next) ? "-" : "\u2013";
         put(isBehindSymbol && next != ' ' ? behindSymbol : "\u2212", 1, Before::sign);
     }

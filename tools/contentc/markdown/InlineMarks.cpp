@@ -75,7 +75,7 @@ class MarkFinder {
         const std::string_view inner = rest_.substr(bracketSize, end - bracketSize);
         const std::size_t bar = inner.find('|');
         std::string_view shown = inner.substr(0, bar);
-        // As Markdown wants it in tables.
+        // In tables Markdown wants a backslash before the bar.
         if (bar != std::string_view::npos && shown.ends_with('\\')) shown.remove_suffix(1);
         const std::string words(trimmed(shown));
         const std::string term(bar == std::string_view::npos ? words : trimmed(inner.substr(bar + 1)));

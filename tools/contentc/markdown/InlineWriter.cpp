@@ -99,7 +99,7 @@ void InlineWriter::writeBetweenMarks(std::string_view set, std::string (*form)(s
 
 void InlineWriter::writeMark(const InlineMark& mark) {
     if (mark.kind == InlineMark::Kind::term) return writeTerm(mark);
-    // The address of what Markdown does not take for a link is text.
+    // Where Markdown sees no link, the address is text.
     if (mark.kind == InlineMark::Kind::target) return lines_->add(escapedText(mark.text));
     const Formula formula = compileFormula(mark.text);
     if (formula.fault) diagnostics_.error(mark.place, *formula.fault, {mark.text});

@@ -12,7 +12,7 @@ constexpr std::string_view joiningBlank = "\u00A0";
 constexpr std::string_view minus = "\u2212";
 constexpr std::size_t groupSize = 3;
 
-// What stands behind a number. Letters may not follow.
+// Units that follow a number. No letter may follow the unit.
 constexpr std::array<std::string_view, 47> units{
     "%",   "‰",   "°C",  "°",   "K",  "g",  "kg",  "mg", "µg", "μg",  "t",   "m",  "cm", "mm",   "µm",  "μm",
     "nm",  "pm",  "km",  "L",   "mL", "dm", "mol", "M",  "s",  "min", "h",   "J",  "kJ", "kcal", "cal", "Pa",

@@ -23,7 +23,7 @@ void Fingerprint::add(std::string_view bytes) {
         first_ = mix(first_, static_cast<unsigned char>(c));
         second_ = mix(second_, static_cast<unsigned char>(~c));
     }
-    // Two texts in a row differ from one that is both.
+    // The end is mixed in too, so that two texts in a row give another value than one text of both.
     first_ = mix(first_, 0xFF) + bytes.size();
 }
 

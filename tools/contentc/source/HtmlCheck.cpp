@@ -120,7 +120,7 @@ class HtmlReader {
             rest_ = {};
             return;
         }
-        // The end of a script is a tag like others.
+        // If the skipped part ends in a tag, as a script does, that tag is read next.
         rest_.remove_prefix(skipUntil_.starts_with('<') ? at : at + skipUntil_.size());
         skipUntil_.clear();
     }

@@ -70,7 +70,7 @@ class IgnoredFilesReport {
             names.emplace_back(use.name);
             if (use.name == name) return checkFolder(folder, use);
         }
-        // What was built here before is no source.
+        // A data folder that was built here before is no source.
         if (fs::exists(folder / "a.htm")) return;
         diagnostics_.warning({folder.generic_string()}, say::unknownFolderIsIgnored)
             .suggestNearest(name, names);

@@ -55,7 +55,7 @@ class TreeReader {
         root_ = layer.folder;
         readEquipment();
         if (!layer.onlyEquipment) readContent(layer);
-        // Those of the main menu are drawn by the program's own build.
+        // Pictures in the form of the main menu are drawn by the program's own build.
         takeMade(pictures_, tree_.pictures, layer.images, ".bmp");
         for (Overlay* overlay : {&pages_, &pictures_, &molecules_, &videos_, &dataSets_, &tools_})
             overlay->endLayer();

@@ -46,7 +46,7 @@ void activate(const QWindow* window) {
     const QWidget* modal = QApplication::activeModalWidget();
     if (top == nullptr || top->isActiveWindow() || (modal != nullptr && modal != top)) return;
     top->activateWindow();
-    // The window system would answer later only.
+    // The window system would answer only later.
     QApplication::setActiveWindow(top);
 }
 

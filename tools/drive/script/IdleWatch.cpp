@@ -51,7 +51,7 @@ void IdleWatch::postRound() {
 
 bool IdleWatch::event(QEvent* event) {
     if (event->type() != roundEvent) return QObject::event(event);
-    // A round that was posted before the limit was over.
+    // This round was posted before the limit was over.
     if (!limit_.isActive()) return true;
     const bool busy = busy_();
     quietRounds_ = busy ? 0 : quietRounds_ + 1;
