@@ -109,8 +109,8 @@ void ClipboardGuard::changed(Guarded& one) {
 bool ClipboardGuard::isPagesWrite(const Guarded& one) const {
     if (!one.kept || pageMayWrite_.hasExpired() || !one.userWrites.hasExpired() || !isOwnWrite(one.mode))
         return false;
-    // When the focus is in another part of the program, that part has copied. And a page cannot copy a picture
-    // alone.
+    // When the focus is in another part of the program, that part has copied. And a page cannot copy a
+    // picture alone.
     const QWidget* const focus = QApplication::focusWidget();
     const QMimeData* const content = QApplication::clipboard()->mimeData(one.mode);
     return (!focus || isInPage(*focus)) && content && (content->hasText() || !content->hasImage());

@@ -17,7 +17,6 @@ using platform::Failure;
 using platform::FileSystem;
 using platform::Machine;
 using platform::Registry;
-using platform::RegistryKey;
 using platform::Result;
 
 namespace {
