@@ -15,6 +15,10 @@ function measureOf(atoms) {
   return atoms.length === 3 ? withComma(angleOf(atoms), 1) + '°' : undefined;
 }
 
+/// What to do next in order to measure, behind so many chosen atoms.
+const measureHints = ['Διάλεξε δύο άτομα για την απόστασή τους.', 'Διάλεξε ένα δεύτερο άτομο.',
+                      'Ένα τρίτο άτομο δίνει τη γωνία.', 'Ένα κλικ στο κενό αρχίζει νέα μέτρηση.'];
+
 class Overlay {
   constructor(molecule, background) {
     this.element = document.createElement('canvas');
@@ -34,14 +38,15 @@ class Overlay {
     this.ratio = ratio;
   }
 
-  /// `labels`: whether atoms are labelled; `picked`: the atoms that are measured.
-  draw(camera, { isShown, labels, picked }) {
+  /// `labels`: whether atoms are labelled; `measure`: whether they are measured; `picked`: the atoms chosen for that.
+  draw(camera, { isShown, labels, measure, picked }) {
     const c = this.context;
     c.setTransform(this.ratio, 0, 0, this.ratio, 0, 0);
     c.clearRect(0, 0, camera.width, camera.height);
     c.textBaseline = 'middle';
     if (labels) this.labels(camera, isShown);
     this.measures(camera, picked);
+    if (measure) this.hint(camera, measureHints[picked.length]);
     this.legend(camera, isShown);
   }
 
@@ -87,6 +92,12 @@ class Overlay {
     const [p, q] = places;
     const [x, y] = picked.length === 2 ? [(p.x + q.x) / 2, (p.y + q.y) / 2 - 9] : [q.x, q.y - 16];
     this.text(measure, x, y, measureColour);
+  }
+
+  hint(camera, text) {
+    this.context.font = '12px ' + overlayFont;
+    this.context.textAlign = 'center';
+    this.text(text, camera.width / 2, 14, this.ink);
   }
 
   /// In rows at the bottom.

@@ -5,9 +5,8 @@
 //   {moleculeSet: {style, spin, labels, measure, hydrogens}}  sets what is named
 //   {moleculeAsk: true}                                       asks for the state
 //   {moleculeState: {…}}                                      what the viewer answers, and tells all after a change
+// The browser tells whether the page's window is in front of the others: {pageInFront: true}.
 
-const spinSpeed = 0.35;      // radians a second
-const frameTime = 33;        // milliseconds between pictures of the plain canvas while it spins
 const styles = ['wire', 'sticks', 'balls', 'spaces'];
 const query = new URLSearchParams(location.search);
 
@@ -17,6 +16,8 @@ class Viewer {
     this.options = options;
     this.state = { style: 'balls', spin: options.spin, labels: false, measure: false, hydrogens: true };
     this.picked = [];
+    this.spin = new Spin();
+    this.isSeen = this.isInFront = true;
     this.camera = new Camera(molecule.reach);
     this.overlay = new Overlay(molecule, options.background);
     this.tip = document.querySelector('#tip');
@@ -27,6 +28,8 @@ class Viewer {
     this.look();
     this.resize();
     addEventListener('resize', () => this.resize());
+    this.watchSight();
+    this.joinOthers();
     // Only when the first picture is on the screen.
     requestAnimationFrame(() => setTimeout(() => loadWebGlDrawing(molecule, options.background, drawing => this.replace(drawing))));
   }
@@ -54,6 +57,7 @@ class Viewer {
     const known = Object.entries(wanted).filter(([name, value]) =>
       name === 'style' ? styles.includes(value) : typeof value === 'boolean' && name in this.state);
     Object.assign(this.state, Object.fromEntries(known));
+    if (wanted.spin) this.spin.begin();
     if (!this.state.measure) this.picked = [];
     this.picked = this.picked.filter(this.isShown);
     this.look();
@@ -62,6 +66,25 @@ class Viewer {
 
   tell() {
     for (let i = 0; i < parent.length; ++i) parent[i].postMessage({ moleculeState: this.state }, '*');
+  }
+
+  /// A viewer that opens takes over what another one of the same molecule shows, so that an enlarged view goes on where
+  /// the page's stands.
+  joinOthers() {
+    const elements = this.molecule.atoms.slice(0, 100).map(({ element }) => element).join(' ');
+    const others = new BroadcastChannel(`molecule ${this.molecule.atoms.length} ${elements}`);
+    others.onmessage = ({ data }) => {
+      if (data.ask) others.postMessage({ state: this.state, turn: this.camera.turn, zoom: this.camera.zoom });
+      else if (this.awaits) this.takeOver(data);
+    };
+    this.awaits = true;
+    others.postMessage({ ask: true });
+  }
+
+  takeOver({ state, turn, zoom }) {
+    this.awaits = false;
+    Object.assign(this.camera, { turn, zoom });
+    this.set(state);
   }
 
   // ---- input ----
@@ -159,6 +182,7 @@ class Viewer {
   }
 
   stopSpinning() {
+    this.awaits = false;
     if (!this.state.spin) return;
     this.state.spin = false;
     this.tell();
@@ -168,6 +192,7 @@ class Viewer {
     this.camera.reset();
     this.picked = [];
     this.state.spin = this.options.spin;
+    this.spin.begin();
     this.look();
     this.tell();
   }
@@ -207,22 +232,42 @@ class Viewer {
     this.request();
   }
 
+  /// Whether it turns now: nobody would see it turn in a page that is scrolled away or behind a window.
+  get isTurning() { return this.state.spin && this.isSeen && this.isInFront && !document.hidden; }
+
+  watchSight() {
+    new IntersectionObserver(([{ isIntersecting }]) => {
+      this.isSeen = isIntersecting;
+      this.request();
+    }).observe(document.documentElement);
+    document.addEventListener('visibilitychange', () => this.request());
+  }
+
+  setInFront(isInFront) {
+    this.isInFront = isInFront;
+    this.request();
+  }
+
   request() {
     this.pending ??= requestAnimationFrame(time => { this.pending = undefined; this.step(time); });
   }
 
   step(time) {
-    const passed = time - (this.lastTime ?? time);
-    if (this.state.spin && passed > 0 && passed < frameTime && this.drawing instanceof CanvasDrawing) return this.request();
-    this.lastTime = this.state.spin ? time : undefined;
-    if (this.state.spin) this.camera.turn = multiply(aboutY(Math.min(passed, 100) / 1000 * spinSpeed), this.camera.turn);
+    if (this.isTurning) this.turnOn(time);
+    else this.spin.pause();
     this.draw();
-    if (this.state.spin) this.request();
+  }
+
+  turnOn(time) {
+    this.camera.turn = multiply(aboutY(this.spin.advance(time)), this.camera.turn);
+    if (this.spin.isOver) return this.stopSpinning();
+    clearTimeout(this.next);
+    this.next = setTimeout(() => this.request(), Spin.frameTime - 10);
   }
 
   draw() {
     this.drawing.draw(this.camera);
-    this.overlay.draw(this.camera, { isShown: this.isShown, labels: this.state.labels, picked: this.picked });
+    this.overlay.draw(this.camera, { isShown: this.isShown, labels: this.state.labels, measure: this.state.measure, picked: this.picked });
   }
 
   picture() {
@@ -254,6 +299,7 @@ function show(molecule) {
   viewer.tell();
   addEventListener('message', ({ data, source }) => {
     if (data?.moleculeSet) viewer.set(data.moleculeSet);
+    if (typeof data?.pageInFront === 'boolean') viewer.setInFront(data.pageInFront);
     if (data?.moleculeAsk) source.postMessage({ moleculeState: viewer.state }, '*');
     if (data?.pluginPicture && data.pluginPicture === Number(query.get('plugin'))) {
       source.postMessage({ pluginPicture: data.pluginPicture, picture: viewer.picture() }, '*');

@@ -9,8 +9,8 @@ const shapes = {
   silent: 'M0 3 H2.2 L5 0.6 V9.4 L2.2 7 H0 Z M6 3.6 L6.6 3 L10 6.4 L9.4 7 Z M9.4 3 L10 3.6 L6.6 7 L6 6.4 Z',
 };
 const playable = /\.(webm|mp4|m4v|ogv)$/i;
-const [video, strip, play, position, time, sound] =
-  ['video', '#strip', '#play', '#position', 'time', '#sound'].map(name => document.querySelector(name));
+const [video, strip, play, position, time, whole, sound] =
+  ['video', '#strip', '#play', '#position', '#time', '#whole', '#sound'].map(name => document.querySelector(name));
 const query = new URLSearchParams(location.search);
 const isOn = name => /^(true|yes|1)$/i.test(query.get(name) ?? '');
 // As the reader wants it; the engine stops a film that it cannot go on with.
@@ -33,15 +33,16 @@ function showState() {
 const clock = seconds => Math.floor(seconds / 60) + ':' + String(Math.floor(seconds) % 60).padStart(2, '0');
 
 function showPosition() {
-  const whole = video.duration;
-  const known = whole > 0 && Number.isFinite(whole);
-  const share = known ? Math.min(video.currentTime / whole, 1) : 0;
+  const { duration } = video;
+  const known = duration > 0 && Number.isFinite(duration);
+  const share = known ? Math.min(video.currentTime / duration, 1) : 0;
   position.disabled = !known;
   position.value = share;
   position.style.setProperty('--done', share * 100 + '%');
-  position.title = known ? clock(video.currentTime) + ' από ' + clock(whole) : '';
+  position.title = known ? clock(video.currentTime) + ' από ' + clock(duration) : '';
   position.setAttribute('aria-valuetext', position.title);
   time.textContent = clock(video.currentTime);
+  whole.textContent = known ? ' / ' + clock(duration) : '';
 }
 
 function toggle() {

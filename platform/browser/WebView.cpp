@@ -9,6 +9,8 @@
 #include <QPalette>
 #include <QShortcut>
 #include <QTextDocument>
+#include <QWebEnginePage>
+#include <QWebEngineScript>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -68,7 +70,18 @@ bool WebView::event(QEvent* event) {
         setToolTip(plainTipStart + toolTip().toHtmlEscaped() + QLatin1StringView("</p>"));
         return true;
     }
+    if (event->type() == QEvent::WindowActivate) tellInFront(true);
+    if (event->type() == QEvent::WindowDeactivate) tellInFront(false);
     return QWebEngineView::event(event);
+}
+
+/// What moves by itself in a page rests behind other windows.
+void WebView::tellInFront(bool inFront) {
+    if (!open_) return;
+    page()->runJavaScript(
+        QStringLiteral("for (let i = 0; i < length; ++i) window[i].postMessage({pageInFront: %1}, '*')")
+            .arg(inFront ? QLatin1StringView("true") : QLatin1StringView("false")),
+        QWebEngineScript::ApplicationWorld);
 }
 
 /// The engine's widget takes the page's input. A dialog below the view is one that a page asks for, as for a

@@ -34,6 +34,7 @@ class WebView : public QWebEngineView {
     void hideEvent(QHideEvent* event) override;
 
   private:
+    void tellInFront(bool inFront);
     void watchFocus(QWidget* winner);
     void takeFocusBack();
     void passFocusOn();

@@ -33,6 +33,8 @@ class ConvertedVideo : public BrowserMachine {
                                attributes + ">");
         open("D:\\a.htm");
     }
+    /// The time that the strip tells, without that of the whole film.
+    std::string time() { return text().substr(0, 4); }
     bool showsFilm() {
         return count(CRect::at(0, 0, 160, 240), QColor(0x20, 0x50, 0xe0)) > 30000 &&
                count(CRect::at(160, 0, 160, 240), QColor(0xe0, 0x30, 0x20)) > 30000;
@@ -43,7 +45,7 @@ TEST_F(ConvertedVideo, PlaysOldKindsOfFile) {
     // Of the last the engine reads the sound, and gives no error.
     for (const char* film : {"cinepak.avi", "gaps.avi", "quiet.mov", "mpeg1.mpg", "part2.mp4"}) {
         openFilm(film, "AUTOPLAY=TRUE");
-        EXPECT_TRUE(runUntil([&] { return text() == "0:01"; })) << film << ": " << text();
+        EXPECT_TRUE(runUntil([&] { return time() == "0:01"; })) << film << ": " << text();
         EXPECT_TRUE(showsFilm()) << film;
     }
 }
@@ -59,22 +61,22 @@ TEST_F(ConvertedVideo, TakesOverWhereTheEngineStops) {
     bytes[third] = 0;
     writeBytes("D:\\spoilt.webm", bytes.toStdString());
     embed("D:\\spoilt.webm", "AUTOPLAY=TRUE");
-    EXPECT_TRUE(runUntil([&] { return text() == "0:01"; })) << text();
-    EXPECT_TRUE(runUntil([&] { return text() == "0:00" || text() == "0:05"; })) << text();
-    EXPECT_EQ(text(), "0:05");
+    EXPECT_TRUE(runUntil([&] { return time() == "0:01"; })) << text();
+    EXPECT_TRUE(runUntil([&] { return time() == "0:00" || time() == "0:05"; })) << text();
+    EXPECT_EQ(time(), "0:05");
     EXPECT_TRUE(runUntil([&] { return showsFilm(); }));
 }
 
 TEST_F(ConvertedVideo, WaitsGoesOnFromAnyPlaceAndEnds) {
     openFilm("cinepak.avi", "");
     EXPECT_TRUE(runUntil([&] { return showsFilm(); })) << "the first picture";
-    EXPECT_EQ(text(), "0:00");
+    EXPECT_EQ(time(), "0:00");
     // The slider, four fifths along.
-    QTest::mouseClick(input(), Qt::LeftButton, {}, {200, 249});
-    EXPECT_TRUE(runUntil([&] { return text() >= "0:03"; })) << text();
+    QTest::mouseClick(input(), Qt::LeftButton, {}, {185, 249});
+    EXPECT_TRUE(runUntil([&] { return time() >= "0:03"; })) << text();
     EXPECT_TRUE(showsFilm());
     QTest::mouseClick(input(), Qt::LeftButton, {}, {13, 249});
-    EXPECT_TRUE(runUntil([&] { return text() == "0:06"; })) << "it plays to its end: " << text();
+    EXPECT_TRUE(runUntil([&] { return time() == "0:06"; })) << "it plays to its end: " << text();
 }
 
 // Each request would otherwise have a program of its own at once.
@@ -104,7 +106,7 @@ TEST_F(ConvertedVideo, DoesNotDecodePicturesOfAnySize) {
 TEST_F(ConvertedVideo, LeavesNothingBehind) {
     const QStringList before = QDir::temp().entryList();
     openFilm("mpeg1.mpg", "AUTOPLAY=TRUE");
-    EXPECT_TRUE(runUntil([&] { return text() >= "0:01" && text() <= "0:06"; }));
+    EXPECT_TRUE(runUntil([&] { return time() >= "0:01" && text() <= "0:06"; }));
     open("about:blank");
     EXPECT_TRUE(runUntil([] { return children("ffmpeg") + children("ffprobe") == 0; }));
     for (const QString& name : QDir::temp().entryList()) {

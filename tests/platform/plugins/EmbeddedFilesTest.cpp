@@ -31,6 +31,12 @@ TEST_F(BrowserMachine, ShowsTheMoleculeThatIsInTheFileNow) {
     EXPECT_TRUE(runUntil([&] { return count(whole, isRed) > 3000; }));
     const QImage before = picture();
     EXPECT_NE(picture(), before) << "it spins";
+    QEvent behind(QEvent::WindowDeactivate);
+    QCoreApplication::sendEvent(input()->parentWidget(), &behind);
+    run(200);
+    const QImage rest = picture();
+    run(200);
+    EXPECT_EQ(picture(), rest) << "it rests while another window is in front";
     write("C:\\cache\\chime.mol", "\n\n\n  1  0\n    0.0000    0.0000    0.0000 N\n");
     open("C:\\cache\\2.htm");
     EXPECT_TRUE(runUntil([&] { return count(whole, isBlue) > 3000; }));
@@ -54,6 +60,25 @@ TEST_F(BrowserMachine, TurnsAMoleculeWithTheMouse) {
     EXPECT_TRUE(runUntil([&] { return picture() == before; })) << "a double click resets it";
 }
 
+TEST_F(BrowserMachine, TakesOverTheLookOfAnotherViewOfTheSameMolecule) {
+    write("D:\\x.mol", water);
+    write("D:\\a.htm",
+          embedding("x.mol WIDTH=300 HEIGHT=300") +
+              "<BUTTON STYLE=\"position:absolute;left:0;top:320px\" ONCLICK=\"const e="
+              "document.querySelector('embed').cloneNode();e.removeAttribute('data-plugin');"
+              "e.setAttribute('src','x.mol');e.removeAttribute('type');document.body.append(e)\">"
+              "Ακόμη ένα</BUTTON>");
+    open("D:\\a.htm");
+    const CRect left{0, 0, 300, 300};
+    EXPECT_TRUE(runUntil([&] { return count(left, isRed) > 3000; }));
+    QTest::mousePress(input(), Qt::LeftButton, {}, {150, 100});
+    QTest::mouseMove(input(), {220, 150}, 50);
+    QTest::mouseRelease(input(), Qt::LeftButton, {}, {220, 150}, 50);
+    QTest::mouseClick(input(), Qt::LeftButton, {}, {20, 330});
+    const auto half = [&](int x) { return picture().copy(x, 0, 300, 300); };
+    EXPECT_TRUE(runUntil([&] { return half(300) == half(0); }));
+}
+
 TEST_F(BrowserMachine, PlaysAVideoAboveItsStrip) {
     copyFile(FILM, "D:\\video\\x.webm");
     write("D:\\a.htm", embedding("\"D:\\video\\x.webm\" WIDTH=320 HEIGHT=258"));
@@ -67,13 +92,13 @@ TEST_F(BrowserMachine, PlaysAVideoAboveItsStrip) {
     EXPECT_GT(count(CRect::at(160, 0, 160, 240), red), 36000);
     EXPECT_GT(count(CRect::at(0, 240, 320, 18), strip), 2000);
     EXPECT_EQ(count(CRect::at(0, 0, 320, 240), strip), 0);
-    EXPECT_EQ(text(), "0:00");
+    EXPECT_EQ(text(), "0:00 / 0:01");
     run(1500);
-    EXPECT_EQ(text(), "0:00") << "it waits to be played";
+    EXPECT_EQ(text(), "0:00 / 0:01") << "it waits to be played";
     QTest::mouseClick(input(), Qt::LeftButton, {}, {13, 249});
-    EXPECT_TRUE(runUntil([&] { return text() == "0:01"; })) << "the strip's first button plays it";
+    EXPECT_TRUE(runUntil([&] { return text() == "0:01 / 0:01"; })) << "the strip's first button plays it";
     open("D:\\b.htm");
-    EXPECT_TRUE(runUntil([&] { return text() == "0:01"; })) << "it plays by itself";
+    EXPECT_TRUE(runUntil([&] { return text() == "0:01 / 0:01"; })) << "it plays by itself";
 }
 
 TEST_F(BrowserMachine, SaysThatAnEmbeddedFileIsMissingOrNoVideo) {
