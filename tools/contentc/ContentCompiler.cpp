@@ -64,23 +64,42 @@ class ContentCompilation {
         for (Diagnostics& ofBody : found) diagnostics_.add(std::move(ofBody));
     }
 
+    /// A page with where it goes and what stands round it.
+    struct PageToCompile {
+        const PageSource& page;
+        std::string path;
+        const PageScaffold& around;
+    };
+
     void addPages() {
-        if (content_.startPage) addPage(*content_.startPage, "a.htm", plainScaffold());
-        if (content_.helpPage) addPage(*content_.helpPage, "help.htm", plainScaffold());
+        const PageScaffold plain = plainScaffold();
         const auto pageScaffold = scaffold(tree_.pageTemplate, "page.html", {"title", "section"});
         const auto moleculeScaffold = usesMolecules() ? scaffold(tree_.moleculeTemplate, "molecule.html",
                                                                  {"title", "section", "molfile"})
-                                                      : std::nullopt;
+                                                      : PageScaffold{};
+        std::vector<PageToCompile> pages;
+        if (content_.startPage) pages.push_back({*content_.startPage, "a.htm", plain});
+        if (content_.helpPage) pages.push_back({*content_.helpPage, "help.htm", plain});
         for (const PageSource& page : content_.pages) {
-            const auto& around = page.scaffold == PageTemplate::molecule ? moleculeScaffold : pageScaffold;
-            // With a wrong scaffold the bodies are still compiled, to find the errors in them.
-            if (const auto path = formats::pagePath(page.number))
-                addPage(page, *path, around.value_or(PageScaffold{}));
+            const bool hasMolecule = page.scaffold == PageTemplate::molecule;
+            if (auto path = formats::pagePath(page.number))
+                pages.push_back({page, *std::move(path), hasMolecule ? moleculeScaffold : pageScaffold});
         }
+        compilePages(pages);
     }
 
-    void addPage(const PageSource& page, const std::string& path, const PageScaffold& around) {
-        outputs_.add(path, compilePage(page, around, references_, diagnostics_), page.place, diagnostics_);
+    void compilePages(const std::vector<PageToCompile>& pages) {
+        std::vector<std::string> bytes(pages.size());
+        std::vector<References> references(pages.size());
+        std::vector<Diagnostics> found(pages.size());
+        inParallel(pages.size(), [&](std::size_t i) {
+            bytes[i] = compilePage(pages[i].page, pages[i].around, references[i], found[i]);
+        });
+        for (std::size_t i = 0; i < pages.size(); ++i) {
+            references_.add(std::move(references[i]));
+            diagnostics_.add(std::move(found[i]));
+            outputs_.add(pages[i].path, std::move(bytes[i]), pages[i].page.place, diagnostics_);
+        }
     }
 
     bool usesMolecules() const {
@@ -88,11 +107,12 @@ class ContentCompilation {
             content_.pages, [](const PageSource& page) { return page.scaffold == PageTemplate::molecule; });
     }
 
-    std::optional<PageScaffold> scaffold(const std::optional<SourceFile>& file, const std::string& name,
-                                         std::initializer_list<std::string_view> placeholders) {
-        if (file) return readScaffold(*file, placeholders, diagnostics_);
+    /// A wrong scaffold is empty: the bodies are still compiled, to find the errors in them.
+    PageScaffold scaffold(const std::optional<SourceFile>& file, const std::string& name,
+                          std::initializer_list<std::string_view> placeholders) {
+        if (file) return readScaffold(*file, placeholders, diagnostics_).value_or(PageScaffold{});
         diagnostics_.error({(tree_.root / "templates" / name).generic_string()}, say::isMissing);
-        return std::nullopt;
+        return {};
     }
 
     void addTerms() {

@@ -18,6 +18,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr const char* startPage = "a.htm";
+
 /// What went wrong with a file or folder; nothing when nothing did.
 struct WriteFault {
     fs::path path;
@@ -70,9 +72,32 @@ Fault writeFile(const fs::path& path, const std::string& bytes) {
     return faultOf(path, std::error_code(errno != 0 ? errno : EIO, std::generic_category()));
 }
 
-Fault writeAll(const OutputFiles& files, const fs::path& folder) {
+bool holds(const fs::path& path, const std::string& bytes) {
+    std::error_code failed;
+    if (!fs::is_regular_file(fs::symlink_status(path, failed))) return false;
+    if (fs::file_size(path, failed) != bytes.size() || failed) return false;
+    std::string held(bytes.size(), '\0');
+    std::ifstream stream(path, std::ios::binary);
+    return stream.read(held.data(), static_cast<std::streamsize>(held.size())) && held == bytes;
+}
+
+/// Gives a file of the former folder a second name, since a new file costs far more time. Whether it has
+/// these bytes and the file system can do so.
+bool takeOver(const fs::path& former, const fs::path& path, const std::string& bytes) {
+    if (!holds(former, bytes)) return false;
+    std::error_code failed;
+    fs::create_directories(path.parent_path(), failed);
+    if (!failed) fs::create_hard_link(former, path, failed);
+    return !failed;
+}
+
+Fault writeAll(const OutputFiles& files, const fs::path& folder, const fs::path& former) {
     for (const auto& [key, file] : files.files()) {
-        if (auto fault = writeFile(nativePath(folder, file.path), file.bytes)) return fault;
+        const fs::path path = nativePath(folder, file.path);
+        // The program takes the time of the start page for that of the folder.
+        const bool isTaken = key != startPage && takeOver(nativePath(former, file.path), path, file.bytes);
+        if (isTaken) continue;
+        if (auto fault = writeFile(path, file.bytes)) return fault;
     }
     return std::nullopt;
 }
@@ -82,7 +107,7 @@ bool mayReplace(const fs::path& folder) {
     std::error_code failed;
     if (!fs::exists(fs::symlink_status(folder, failed))) return true;
     if (!fs::is_directory(folder, failed)) return false;
-    return fs::is_empty(folder, failed) || fs::is_regular_file(folder / "a.htm", failed);
+    return fs::is_empty(folder, failed) || fs::is_regular_file(folder / startPage, failed);
 }
 
 /// Exchanges two folders in one step, so that whoever reads finds one or the other. Not every file system
@@ -114,7 +139,7 @@ Fault replaceFolder(const OutputFiles& files, const fs::path& folder) {
     fs::create_directories(folder.parent_path(), failed);
     if (failed) return faultOf(folder.parent_path(), failed);
     const TemporaryFolder made(siblingOf(folder, ".new-"));
-    if (auto fault = writeAll(files, made.path())) {
+    if (auto fault = writeAll(files, made.path(), folder)) {
         // The author knows nothing of the temporary folder.
         fault->path = folder / fault->path.lexically_relative(made.path());
         return fault;

@@ -51,7 +51,7 @@ TextLine MarkupCompiler::compile(const TextLine& line) {
         } else if (linkWords_ && rest_.starts_with(linkEnd)) {
             closeLink(*linkWords_);
         } else {
-            take(1);
+            take(std::min(rest_.find_first_of("{[]", 1), rest_.size()));
         }
     }
     finish();

@@ -5,16 +5,23 @@
 
 #include "tools/contentc/GreekStemmer.h"
 #include "tools/contentc/source/PageText.h"
+#include "tools/contentc/source/Parallel.h"
 
 namespace contentc {
 namespace {
 
+using Words = std::set<std::string>;
+
 class WordIndexMaker {
   public:
-    explicit WordIndexMaker(const Content& content) : content_(content) {}
+    explicit WordIndexMaker(const Content& content) : content_(content), ofPages_(content.pages.size()) {
+        inParallel(content.pages.size(), [this](std::size_t i) { ofPages_[i] = wordsOf(content_.pages[i]); });
+        std::set<std::string_view> onPages;
+        for (const Words& words : ofPages_) onPages.insert(words.begin(), words.end());
+        for (const TermSource& term : content.terms) ofTerms_[term.key] = wordsOfTerm(term, onPages);
+    }
 
     WordIndex run() {
-        for (const PageSource& page : content_.pages) wordsOfPages_.merge(wordsOf(page));
         for (const formats::Section& section : formats::sectionTable()) {
             for (const PageSource* topic : topicsOf(content_, section)) {
                 addPage(*topic, topic->number, 0);
@@ -30,37 +37,35 @@ class WordIndexMaker {
 
   private:
     void addPage(const PageSource& page, std::int32_t pageId, std::int32_t itemCode) {
-        std::set<std::string> words = wordsOf(page);
-        for (const TermSource* term : termsOf(page)) words.merge(wordsOfTerm(*term));
-        for (const std::string& word : words) {
+        const Words& own = ofPages_[static_cast<std::size_t>(&page - content_.pages.data())];
+        std::set<std::string_view> words(own.begin(), own.end());
+        addTermsOf(page, words);
+        for (const std::string_view each : words) {
+            const std::string word(each);
             if (content_.words.stopWords.contains(word) || word.size() > formats::maxIndexedWord) continue;
             words_.insert(word);
             index_.occurrences.push_back({word, pageId, itemCode, page.section->code});
         }
     }
 
-    /// The terms that the page links.
-    std::vector<const TermSource*> termsOf(const PageSource& page) const {
-        std::set<std::string_view> keys;
+    /// Adds the words of the terms that the page links.
+    void addTermsOf(const PageSource& page, std::set<std::string_view>& words) const {
         for (const TextLine& line : page.body) {
             for (std::size_t at = 0; (at = line.text.find("[[", at)) != std::string::npos;) {
                 at += 2;
-                keys.insert(std::string_view(line.text).substr(at, line.text.find('|', at) - at));
+                const auto term =
+                    ofTerms_.find(std::string_view(line.text).substr(at, line.text.find('|', at) - at));
+                if (term != ofTerms_.end()) words.insert(term->second.begin(), term->second.end());
             }
         }
-        std::vector<const TermSource*> terms;
-        for (const TermSource& term : content_.terms) {
-            if (keys.contains(term.key)) terms.push_back(&term);
-        }
-        return terms;
     }
 
     /// Its names, and those words of its text by which no page would be found.
-    std::set<std::string> wordsOfTerm(const TermSource& term) const {
+    static Words wordsOfTerm(const TermSource& term, const std::set<std::string_view>& onPages) {
         std::string text;
         for (const std::string& line : term.definition) text += line + '\n';
-        std::set<std::string> words = wordsOf(text);
-        std::erase_if(words, [this](const std::string& word) { return wordsOfPages_.contains(word); });
+        Words words = wordsOf(text);
+        std::erase_if(words, [&onPages](const std::string& word) { return onPages.contains(word); });
         words.merge(wordsOf(term.term));
         for (const std::string& form : term.forms) words.merge(wordsOf(form));
         return words;
@@ -85,8 +90,11 @@ class WordIndexMaker {
     }
 
     const Content& content_;
-    std::set<std::string> wordsOfPages_;
-    std::set<std::string> words_;
+    /// In the order of the pages.
+    std::vector<Words> ofPages_;
+    /// By the keys of the terms.
+    std::map<std::string_view, Words> ofTerms_;
+    Words words_;
     WordIndex index_;
 };
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+
 #include "tests/tools/contentc/ContentFolder.h"
 
 namespace {
@@ -50,6 +52,22 @@ TEST_F(DataFolderWriter, ReplacesAnEmptyFolderAndAFormerDataFolder) {
     EXPECT_EQ(listAll(folder()), (Files{"01/4/123: page", "a.htm: start", "new.dat: new"}));
     EXPECT_FALSE(fs::exists(folder() / "40"));
     EXPECT_EQ(names(), Files{"data"});
+}
+
+// The program looks at the time of the start page to see that there is something new.
+TEST_F(DataFolderWriter, TakesOverWhatHasNotChangedButTheStartPage) {
+    EXPECT_EQ(write(), "");
+    const auto old = fs::file_time_type::clock::now() - std::chrono::hours(1);
+    for (const char* file : {"a.htm", "01/4/123"}) fs::last_write_time(folder() / file, old);
+    add("new.dat", "new");
+    EXPECT_EQ(write(), "");
+    EXPECT_EQ(fs::last_write_time(folder() / "01/4/123"), old);
+    EXPECT_GT(fs::last_write_time(folder() / "a.htm"), old);
+
+    content_.write("../out/data/01/4/123", "PAGE");
+    EXPECT_EQ(write(), "");
+    EXPECT_EQ(readAll(folder() / "01/4/123"), "page");
+    EXPECT_EQ(fs::hard_link_count(folder() / "01/4/123"), 1U);
 }
 
 TEST_F(DataFolderWriter, LeavesAFolderOfOtherThingsAlone) {

@@ -40,7 +40,7 @@ class MarkFinder {
         } else if (rest_.starts_with("](")) {
             takeTarget();
         } else {
-            keep(1);
+            keep(std::min(rest_.find_first_of("\\`$[]", 1), rest_.size()));
         }
     }
 

@@ -5,6 +5,7 @@
 #include <fstream>
 #include <iterator>
 #include <mutex>
+#include <sstream>
 
 #include "tools/contentc/render/RenderMessages.h"
 #include "tools/contentc/render/RunProgram.h"
@@ -34,7 +35,9 @@ struct Making {
 
 std::string bytesOf(const fs::path& path) {
     std::ifstream stream(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
+    std::ostringstream bytes;
+    bytes << stream.rdbuf();
+    return std::move(bytes).str();
 }
 
 Making makingOfDrawing(const SourceFile& drawing) {

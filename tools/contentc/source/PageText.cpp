@@ -84,14 +84,19 @@ class TextExtraction {
             } else if (rest_.starts_with('&')) {
                 takeEntity();
             } else {
-                text_.push_back(rest_.front());
-                rest_.remove_prefix(1);
+                takeText();
             }
         }
         return std::move(text_);
     }
 
   private:
+    void takeText() {
+        const std::string_view plain = rest_.substr(0, rest_.find_first_of("<{[]&", 1));
+        text_.append(plain);
+        rest_.remove_prefix(plain.size());
+    }
+
     void skipThrough(std::string_view end) {
         const std::size_t at = rest_.find(end);
         rest_.remove_prefix(at == std::string_view::npos ? rest_.size() : at + end.size());

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -30,6 +32,18 @@ struct References {
     std::vector<ToolUse> tools;
     /// Files of the data folder, as written behind `{{data}}`.
     std::vector<Reference> dataPaths;
+
+    /// Adds what another page refers to.
+    void add(References more) {
+        const auto append = [](auto& list, auto& added) {
+            std::ranges::move(added, std::back_inserter(list));
+        };
+        append(terms, more.terms);
+        append(videos, more.videos);
+        append(molecules, more.molecules);
+        append(tools, more.tools);
+        append(dataPaths, more.dataPaths);
+    }
 };
 
 }  // namespace contentc
