@@ -124,7 +124,15 @@ bool DialogWidget::event(QEvent* event) {
     if (event->type() == QEvent::WinIdChange && loop_ && windowHandle()) {
         windowHandle()->setModality(Qt::ApplicationModal);
     }
+    if (event->type() == QEvent::Show || event->type() == QEvent::WinIdChange) {
+        QMetaObject::invokeMethod(this, &DialogWidget::keepTitleEmpty, Qt::QueuedConnection);
+    }
     return frame_.handle(*event) || SurfaceWidget::event(event);
+}
+
+/// For an empty title Qt tells window managers the name of the program.
+void DialogWidget::keepTitleEmpty() {
+    if (windowTitle().isEmpty() && windowHandle()) windowHandle()->setTitle(QStringLiteral(" "));
 }
 
 void DialogWidget::paintEvent(QPaintEvent* event) {

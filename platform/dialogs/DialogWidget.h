@@ -39,6 +39,7 @@ class DialogWidget : public SurfaceWidget {
 
   private:
     void centre();
+    void keepTitleEmpty();
     /// The frame that the window system draws, according to the metrics.
     QMargins windowFrame() const;
 

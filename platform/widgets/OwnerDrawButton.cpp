@@ -1,6 +1,8 @@
 #include "platform/widgets/OwnerDrawButton.h"
 
+#include <QHelpEvent>
 #include <QPainter>
+#include <QToolTip>
 
 #include "platform/drawing/DrawingTarget.h"
 #include "platform/drawing/Surface.h"
@@ -31,6 +33,14 @@ class PictureDC : public CDC {
 
 OwnerDrawButton::OwnerDrawButton(QWidget& parent) : QAbstractButton(&parent) {
     connect(this, &QAbstractButton::clicked, this, [this] { sendCommand(*this, BN_CLICKED); });
+}
+
+bool OwnerDrawButton::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) {
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+        return true;
+    }
+    return QAbstractButton::event(event);
 }
 
 void OwnerDrawButton::paintEvent(QPaintEvent*) {

@@ -18,6 +18,7 @@
 #include "src/host/MachineRepair.h"
 #include "src/host/MachineSetup.h"
 #include "src/resources/ResourceIds.h"
+#include "src/state/Settings.h"
 
 namespace kalyxo {
 
@@ -126,6 +127,13 @@ void followPresent(MachineConfig& config, const InstalledFiles& installed, const
     if (!there && !installed.content.empty()) config.drives[kDiscLetter] = discDrive(installed.content);
 }
 
+void writeFirstLayout(Machine& machine) {
+    const platform::ScreenConfig& screen = machine.screen();
+    const auto layout =
+        FirstLayout(platform::CRect::at(screen.left, screen.top, screen.width, screen.height));
+    if (layout) WriteLayout(machine.registry(), *layout);
+}
+
 /// Makes what is missing of the machine; true when its registry is to be written. A machine that was never
 /// finished gets its registry file last.
 Result<bool> complete(Machine& machine, const Options& options) {
@@ -134,6 +142,7 @@ Result<bool> complete(Machine& machine, const Options& options) {
     if (!repaired) return notMade(repaired.failure().message);
     if (unfinished && !options.modulesFrom.empty() && !hasModules(options.modulesFrom))
         return notRead(options.modulesFrom);
+    if (unfinished) writeFirstLayout(machine);
     return unfinished || *repaired;
 }
 

@@ -44,6 +44,16 @@ ProgramLocation LocateProgram(std::string_view programFile, const std::optional<
     return {std::string(ownFolder), true};
 }
 
+std::optional<WindowLayout> FirstLayout(const CRect& screen) {
+    const int width = screen.Width() * 4 / 5;
+    const int height = screen.Height() * 4 / 5;
+    if (width < kDefaultWidth || height < kDefaultHeight) return std::nullopt;
+    WindowLayout layout;
+    layout.frame = CRect::at(screen.left + (screen.Width() - width) / 2,
+                             screen.top + (screen.Height() - height) / 2, width, height);
+    return layout;
+}
+
 WindowLayout ReadLayout(const RegistryKey& key, const CRect& screen) {
     WindowLayout layout;
     layout.splitterPos = numberOr(key, "Splitter", kDefaultSplitter);

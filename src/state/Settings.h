@@ -35,6 +35,10 @@ std::string SettingsKeyPath();
 /// is missing or another folder, the program runs outside its installed folder.
 ProgramLocation LocateProgram(std::string_view programFile, const std::optional<std::string>& directory);
 
+/// The layout of a first start: four fifths of the screen, in its middle; none where that is less than the
+/// frame that `ReadLayout` takes when nothing is saved.
+std::optional<WindowLayout> FirstLayout(const platform::CRect& screen);
+
 /// Reads the layout from the settings key. A value that is missing or of another type has its default.
 /// Without the frame's state, the frame is 640 × 480 in the middle of the screen, or maximised on a screen
 /// narrower than 700.

@@ -51,6 +51,9 @@ TEST_F(OwnMachine, FirstStartNeedsNoQuestion) {
     EXPECT_EQ(key->queryString("Directory", 256), "C:\\Kalyxo");
     EXPECT_TRUE(machine.registry().openKey(platform::HKEY_CLASSES_ROOT,
                                            "CLSID\\{5B0C1E52-6C1A-4B0E-9F57-2D7A51C3E101}\\InprocServer32"));
+    const WindowLayout layout = ReadLayout(*key, platform::CRect::at(0, 0, 1280, 800));
+    EXPECT_EQ(layout.frame, platform::CRect::at(128, 80, 1024, 640));
+    EXPECT_EQ(layout.frameState, kFrameNormal);
     const std::string ini = machine.files().readAll("C:\\Kalyxo\\cset.ini", 1000).value_or("");
     EXPECT_NE(ini.find("Bookmark=C:\\Kalyxo\\bookmark.dat\r\n"), std::string::npos);
 }
