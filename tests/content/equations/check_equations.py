@@ -1,5 +1,5 @@
 """Balances the chemical equations of content pages: check_equations.py PAGES-FOLDER. Exit status 0 when atoms and charges
-of each are the same on both sides, 1 with a line for each that does not, and when hardly any equation is found."""
+of each, in nuclear equations mass and atomic numbers, are the same on both sides, 1 with a line for each that does not, and when hardly any equation is found."""
 
 import re
 import sys
@@ -23,6 +23,8 @@ TERM = rf"(?:{COUNT} )?{FORMULA}(?: ?{STATE})?"
 SIDE = rf"{TERM}(?: \+ {TERM})*"
 EQUATION = re.compile(rf"{SIDE}(?: (?:->|<=>) {SIDE})+")
 ARROW = re.compile(r" (?:->|<=>) ")
+# A nucleus or particle with mass and atomic number: ^14_6C, ^0_{-1}e.
+NUCLEUS = r"(?:(\d+) )?\^(\d+)_\{?(-?\d+)\}?[A-Za-z]+"
 
 
 def number(text):
@@ -73,6 +75,18 @@ def side(text):
     return {name: count for name, count in total.items() if count}
 
 
+def nuclei(text):
+    """Mass and atomic numbers of a side of a nuclear equation; None when it is something else."""
+    total = Counter()
+    for term in text.split(" + "):
+        found = re.fullmatch(NUCLEUS, term)
+        if not found:
+            return None
+        times = int(found[1] or 1)
+        total.update({"mass": times * int(found[2]), "charge": times * int(found[3])})
+    return total
+
+
 def formulas(page):
     """What stands between the marks of formulas, with the numbers of the lines; not in wrong answers of a quiz."""
     is_equation = is_quiz = False
@@ -95,6 +109,12 @@ def check(pages):
         for at, formula in formulas(page):
             formula = formula.replace("−", "-").replace("→", "->").replace("⇌", "<=>").replace(" · ", "*").replace("·", "*")
             if not ARROW.search(formula):
+                continue
+            nuclear = [nuclei(text) for text in ARROW.split(formula)]
+            if all(nuclear):
+                found += 1
+                if any(each != nuclear[0] for each in nuclear):
+                    mistakes.append(f"{page}:{at}: unbalanced: {formula}")
                 continue
             if not EQUATION.fullmatch(formula):
                 if not re.search("[α-ωά-ώ]", formula):

@@ -22,6 +22,8 @@ class CheckEquations(unittest.TestCase):
             "$n CH2=CH2 -> (–CH2–CH2–)_n$",
             "$NH3 + H2O <=> NH4^+ + OH^-$",
             "$CuSO4*5H2O -> CuSO4 + 5 H2O$",
+            "$$\n^14_6C -> ^14_7N + ^0_-1e\n$$",
+            "$^1_0n + ^235_92U -> ^141_56Ba + ^92_36Kr + 3 ^1_0n$",
             "$2 MnO4^- + 16 H^+ + 10 Cl^- → 2 Mn^{2+} + 5 Cl2 + 8 H2O$",
         ]
         for text in cases:
@@ -34,6 +36,8 @@ class CheckEquations(unittest.TestCase):
             "$$\nCu^2+ + e^- -> Cu\n$$",
             "$Ca(OH)2 + CO2 -> CaCO3 + 2 H2O$",
             "$CH4 -> C + 2 H2 -> C + H2$",
+            "$^210_84Po -> ^205_82Pb + ^4_2He$",
+            "$^14_6C -> ^14_7N + ^0_1e$",
         ]
         for text in cases:
             with self.subTest(text):
