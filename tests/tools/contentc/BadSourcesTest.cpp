@@ -19,6 +19,12 @@ std::string moleculeTemplate(const std::string& fromLine13, int linesBefore = 12
            fromLine13 + "{{body}}\n";
 }
 
+std::string repeated(int times, const std::string& text) {
+    std::string all;
+    for (int i = 0; i < times; ++i) all += text;
+    return all;
+}
+
 const std::string embedLines = "<EMBED SRC=\"{{molfile}}\" WIDTH=340 HEIGHT=290\n";
 const std::string noEmbed =
     "13: line 13 of the finished molecule page must hold the '<EMBED ' of the molecule with the sizes 340 "
@@ -120,6 +126,12 @@ const struct {
      topicHeader + "{{molecule a\\b}}\n",
      {"molecules/water.mol:1: warning: no page uses this molecule",
       "4: '{{molecule a\\b}}' is not '{{video NAME}}' or '{{molecule NAME}}' on a line of its own"}},
+    // What would take all of the stack.
+    {pageFile,
+     topicHeader + std::string(300000, '>') + "\n\n" + repeated(20000, "::: fact\n") +
+         repeated(20000, ":::\n"),
+     {"4: boxes, lists, quotations or emphasis inside of too many others",
+      "22: boxes, lists, quotations or emphasis inside of too many others"}},
     // Tools.
     {pageFile,
      topicHeader + "{{tool clock at=\"3\" on=\"4\"}}\n{{tool shared}}\n{{tool quiz at=\"3\"}}\n",

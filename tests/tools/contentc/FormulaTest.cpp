@@ -57,14 +57,18 @@ TEST(Formula, IsSetAsWritten) {
 }
 
 TEST(Formula, TellsWhatIsWrong) {
-    const std::pair<const char*, const contentc::Message*> cases[] = {
-        {" ", &contentc::say::emptyFormula},   {"K_{sp", &contentc::say::braceIsNotClosed},
-        {"a^", &contentc::say::nothingToLift}, {"K_ ", &contentc::say::nothingToLower},
-        {"{a}", &contentc::say::strayBrace},   {"x^{a_}", &contentc::say::nothingToLower}};
+    std::string deep;
+    for (int i = 0; i < 30000; ++i) deep += "x_{";
+    deep += 'a' + std::string(30000, '}');
+    const std::pair<std::string, const contentc::Message*> cases[] = {
+        {deep, &contentc::say::bracesAreTooDeep},    {" ", &contentc::say::emptyFormula},
+        {"K_{sp", &contentc::say::braceIsNotClosed}, {"a^", &contentc::say::nothingToLift},
+        {"K_ ", &contentc::say::nothingToLower},     {"{a}", &contentc::say::strayBrace},
+        {"x^{a_}", &contentc::say::nothingToLower}};
     for (const auto& [source, fault] : cases) {
         const contentc::Message* found = contentc::compileFormula(source).fault;
-        ASSERT_TRUE(found) << source;
-        EXPECT_EQ(found->english, fault->english) << source;
+        ASSERT_TRUE(found) << source.substr(0, 20);
+        EXPECT_EQ(found->english, fault->english) << source.substr(0, 20);
     }
 }
 

@@ -51,6 +51,7 @@ TEST(MarkdownBody, BecomesTheHtmlOfThePage) {
         // Characters that the code page lacks, and those that would be taken for marks.
         {"H₂O → ~ \\$ [[άτομα|Άτομο]] `$a [[b`",
          "<P CLASS=\"lead\">H&#8322;O &#8594; &#126; $ ~Gatom4y00άτομα~G <CODE>$a &#91;[b</CODE></P>\n"},
+        {"&#5;..mol", "<P CLASS=\"lead\">&#5;..mol</P>\n"},
         {"[τα αέρια](Αέρια), [](10001), [ιστός](https://a.b/c_d_e)",
          "<P CLASS=\"lead\"><A HREF=\"kzpage-6-410010-0.htm\">τα αέρια</A>, "
          "<A HREF=\"kzpage-6-410010-10001.htm\">Υδρογόνο</A>, <A HREF=\"https://a.b/c_d_e\">ιστός</A></P>\n"},
@@ -115,10 +116,11 @@ TEST(MarkdownBody, MistakesAreReportedByLine) {
          {"5: no box is called 'κουτί'", "7: ':::' closes no box",
           "8: the box is not closed by a line ':::'"}},
         {"$$\nH2", {"5: the equation is not closed by a line '$$'"}},
-        {"![](none.svg)\n\n![α](air.svg){μεγάλο}",
+        {"![](none.svg)\n\n![α](air.svg){μεγάλο}\n\n![α](air.svg){2000000000}",
          {"5: no picture is named 'none.svg'",
           "5: the picture needs words for those who do not see it: '![words](file)'",
-          "7: '{μεγάλο}' is neither the width of the picture nor '{πλάι}' or '{side}'"}},
+          "7: '{μεγάλο}' is neither the width of the picture nor '{πλάι}' or '{side}'",
+          "9: '{2000000000}' is neither the width of the picture nor '{πλάι}' or '{side}'"}},
         {"α ![β](air.svg)", {"5: a picture stands on a line of its own"}},
         {"::: ερώτηση\nα\n:::", {"5: the question needs a line '---' and the answer below it"}},
         {"::: quiz\n? α\n+ β\n:::", {"6: a question needs two answers or more"}},

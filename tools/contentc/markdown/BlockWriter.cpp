@@ -159,7 +159,7 @@ void writeBlocks(const std::vector<TextLine>& markdown, FirstParagraph first, co
                  const PageSource& page, HtmlLines& lines, Diagnostics& diagnostics) {
     if (markdown.empty()) return;
     const MarkedText marked = markInlines(markdown, diagnostics);
-    const MarkdownTree tree = parseMarkdown(marked.text);
+    const MarkdownTree tree = parseMarkdown(marked.text, markdown.front().place, diagnostics);
     BlockWriter(markdown.front().place.line, first, marked, context, page, lines, diagnostics)
         .writeChildren(tree.get());
 }

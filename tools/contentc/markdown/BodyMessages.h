@@ -34,6 +34,8 @@ inline constexpr Message nothingToLift{"formula '{1}': nothing to lift behind '^
                                        "τύπος «{1}»: μετά το «^» δεν υπάρχει τίποτε να ανεβεί"};
 inline constexpr Message braceIsNotClosed{"formula '{1}': '{' is not closed",
                                           "τύπος «{1}»: το «{» δεν κλείνει"};
+inline constexpr Message bracesAreTooDeep{"formula '{1}': braces inside of too many others",
+                                          "τύπος «{1}»: άγκιστρα μέσα σε πάρα πολλά άλλα"};
 inline constexpr Message strayBrace{"formula '{1}': a brace without '^' or '_' before it",
                                     "τύπος «{1}»: άγκιστρο χωρίς «^» ή «_» πριν από αυτό"};
 
@@ -46,6 +48,8 @@ inline constexpr Message equationIsNotClosed{"the equation is not closed by a li
 inline constexpr Message closesNoBox{"':::' closes no box", "το «:::» δεν κλείνει κανένα πλαίσιο"};
 inline constexpr Message boxIsNotClosed{"the box is not closed by a line ':::'",
                                         "το πλαίσιο δεν κλείνει με μια γραμμή «:::»"};
+inline constexpr Message nestedTooDeep{"boxes, lists, quotations or emphasis inside of too many others",
+                                       "πλαίσια, λίστες, παραθέσεις ή έμφαση μέσα σε πάρα πολλά άλλα"};
 inline constexpr Message unknownBox{"no box is called '{1}'", "κανένα πλαίσιο δεν λέγεται «{1}»"};
 inline constexpr Message questionWithoutAnswer{
     "the question needs a line '---' and the answer below it",

@@ -20,6 +20,9 @@ constexpr std::string_view equationSign = "$$";
 constexpr std::string_view boxSign = ":::";
 constexpr std::string_view answerSign = "---";
 
+// Each box in another costs stack.
+constexpr int maxBoxes = 16;
+
 constexpr std::array<Keyword, 9> boxes{{{"το ήξερες", "fact"},
                                         {"πείραμα", "experiment"},
                                         {"προσοχή", "caution"},
@@ -157,7 +160,12 @@ std::size_t BodyParts::writeBox(Lines lines) {
     }
     if (end == lines.size()) diagnostics_.error(place, say::boxIsNotClosed);
     const std::string_view words = trimmed(trimmed(lines.front().text).substr(boxSign.size()));
-    writeBoxOf(words, lines.subspan(1, end - 1), place);
+    if (++depth_ > maxBoxes) {
+        diagnostics_.error(place, say::nestedTooDeep);
+    } else {
+        writeBoxOf(words, lines.subspan(1, end - 1), place);
+    }
+    --depth_;
     return end + 1;
 }
 

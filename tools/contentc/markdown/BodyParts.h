@@ -52,6 +52,8 @@ class BodyParts {
     const PageSource& page_;
     HtmlLines& lines_;
     Diagnostics& diagnostics_;
+    /// How many boxes the lines being written stand in.
+    int depth_ = 0;
     bool hasMolecule_ = false;
     bool hasTopicList_ = false;
     bool hasEntryList_ = false;

@@ -7,6 +7,8 @@
 namespace contentc {
 namespace {
 
+constexpr std::int32_t maxWidth = 10000;
+
 constexpr std::array<Keyword, 1> beside{{{"πλάι", "side"}}};
 
 /// Takes what stands up to `end` off the front, with `end`.
@@ -20,7 +22,7 @@ std::optional<std::string> takeUntil(std::string_view& text, std::string_view en
 
 void readSetting(FigureLine& figure, const std::string& setting) {
     const auto width = parseNumber(setting);
-    if (width && *width > 0) {
+    if (width && *width > 0 && *width <= maxWidth) {
         figure.width = *width;
     } else if (findKeyword(beside, setting).index == 0) {
         figure.isBeside = true;

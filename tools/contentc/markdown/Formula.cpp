@@ -25,6 +25,11 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 9> signs{{{"
                                                                               {"\\$", "$"},
                                                                               {"#", "\u2261"}}};
 
+// Each pair of braces in another costs stack.
+constexpr int maxBraces = 16;
+
+Formula compileBraces(std::string_view source, int depth);
+
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
 bool isLetter(char32_t c) {
@@ -33,7 +38,7 @@ bool isLetter(char32_t c) {
 
 class FormulaCompilation {
   public:
-    explicit FormulaCompilation(std::string_view source) : source_(source) {}
+    FormulaCompilation(std::string_view source, int depth) : source_(source), depth_(depth) {}
 
     Formula run() {
         while (at_ < source_.size()) step();
@@ -131,7 +136,7 @@ class FormulaCompilation {
         if (depth != 0) fail(say::braceIsNotClosed);
         const std::string_view inner = source_.substr(at_ + 1, end - at_ - 1);
         at_ = std::min(end + 1, source_.size());
-        Formula formula = compileFormula(inner);
+        Formula formula = compileBraces(inner, depth_ + 1);
         if (formula.fault) fail(*formula.fault);
         return std::move(formula.html);
     }
@@ -202,17 +207,22 @@ class FormulaCompilation {
     }
 
     std::string_view source_;
+    /// How many pairs of braces the source stands in.
+    int depth_;
     std::size_t at_ = 0;
     Before before_ = Before::start;
     std::string html_;
     const Message* fault_ = nullptr;
 };
 
+Formula compileBraces(std::string_view source, int depth) {
+    if (source.find_first_not_of(' ') == std::string_view::npos) return {{}, &say::emptyFormula};
+    if (depth > maxBraces) return {{}, &say::bracesAreTooDeep};
+    return FormulaCompilation(source, depth).run();
+}
+
 }  // namespace
 
-Formula compileFormula(std::string_view source) {
-    if (source.find_first_not_of(' ') == std::string_view::npos) return {{}, &say::emptyFormula};
-    return FormulaCompilation(source).run();
-}
+Formula compileFormula(std::string_view source) { return compileBraces(source, 0); }
 
 }  // namespace contentc

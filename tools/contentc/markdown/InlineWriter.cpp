@@ -149,7 +149,7 @@ void InlineWriter::writeInside(cmark_node* node, std::string_view tag) {
 std::string inlineHtml(const TextLine& line, const BodyContext& context, const PageSource& page,
                        Diagnostics& diagnostics) {
     const MarkedText marked = markInlines({{withoutBlockSigns(line.text), line.place}}, diagnostics);
-    const MarkdownTree tree = parseMarkdown(marked.text);
+    const MarkdownTree tree = parseMarkdown(marked.text, line.place, diagnostics);
     HtmlLines lines;
     lines.beginLine(line.place);
     InlineWriter writer(context, page, marked.marks, diagnostics);

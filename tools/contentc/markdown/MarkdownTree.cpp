@@ -2,9 +2,29 @@
 
 #include <cmark-gfm-core-extensions.h>
 
-namespace contentc {
+#include "tools/contentc/markdown/BodyMessages.h"
 
-MarkdownTree parseMarkdown(std::string_view text) {
+namespace contentc {
+namespace {
+
+// Each level costs stack where the tree is written.
+constexpr int maxDepth = 100;
+
+bool isTooDeep(cmark_node* root) {
+    int depth = 0;
+    for (cmark_node* node = root; node;) {
+        if (cmark_node* child = cmark_node_first_child(node)) {
+            if (++depth > maxDepth) return true;
+            node = child;
+            continue;
+        }
+        for (; node && !cmark_node_next(node); --depth) node = cmark_node_parent(node);
+        if (node) node = cmark_node_next(node);
+    }
+    return false;
+}
+
+MarkdownTree parse(std::string_view text) {
     // Once, also when pages are compiled side by side.
     static const bool isRegistered = (cmark_gfm_core_extensions_ensure_registered(), true);
     static_cast<void>(isRegistered);
@@ -15,6 +35,15 @@ MarkdownTree parseMarkdown(std::string_view text) {
     MarkdownTree tree(cmark_parser_finish(parser.get()), cmark_node_free);
     cmark_consolidate_text_nodes(tree.get());
     return tree;
+}
+
+}  // namespace
+
+MarkdownTree parseMarkdown(std::string_view text, const SourcePlace& place, Diagnostics& diagnostics) {
+    MarkdownTree tree = parse(text);
+    if (!isTooDeep(tree.get())) return tree;
+    diagnostics.error(place, say::nestedTooDeep);
+    return parse({});
 }
 
 std::vector<cmark_node*> childrenOf(cmark_node* node) {

@@ -6,13 +6,16 @@
 #include <string_view>
 #include <vector>
 
+#include "tools/contentc/source/Diagnostics.h"
+
 namespace contentc {
 
 /// A parsed Markdown text.
 using MarkdownTree = std::unique_ptr<cmark_node, void (*)(cmark_node*)>;
 
-/// Parses CommonMark with tables, in UTF-8.
-MarkdownTree parseMarkdown(std::string_view text);
+/// Parses CommonMark with tables, in UTF-8. An empty text when its parts stand in too many others; that is
+/// reported at `place`.
+MarkdownTree parseMarkdown(std::string_view text, const SourcePlace& place, Diagnostics& diagnostics);
 
 /// The children of a node, in order.
 std::vector<cmark_node*> childrenOf(cmark_node* node);

@@ -9,9 +9,10 @@ constexpr char32_t unbreakableBlank = 0xA0;
 
 void appendInCodePage(std::string& text, char32_t character) {
     const int byte = platform::codepage::fromUnicode(character);
+    const bool isControl = byte < 0x20 && character != U'\t';
     if (character == unbreakableBlank) {
         text.append("&nbsp;");
-    } else if (byte < 0 || character == U'~') {
+    } else if (isControl || character == U'~') {
         text.append("&#").append(std::to_string(static_cast<unsigned long>(character))).append(";");
     } else {
         text.push_back(static_cast<char>(byte));

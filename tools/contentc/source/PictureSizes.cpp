@@ -5,12 +5,15 @@
 namespace contentc {
 namespace {
 
+// Of sides up to it and a width for the page, products fit into 32 bits.
+constexpr int maxSide = 0xFFFF;
+
 /// A number of `size` bytes, the highest first. 0 beyond the end.
 int bigEndian(std::string_view bytes, std::size_t at, std::size_t size) {
     if (at + size > bytes.size()) return 0;
     unsigned value = 0;
     for (std::size_t i = 0; i < size; ++i) value = value << 8U | static_cast<unsigned char>(bytes[at + i]);
-    return value < 0x10000 ? static_cast<int>(value) : 0;
+    return value <= maxSide ? static_cast<int>(value) : 0;
 }
 
 PictureSize sizeOfPng(std::string_view bytes) { return {bigEndian(bytes, 16, 4), bigEndian(bytes, 20, 4)}; }
@@ -33,7 +36,7 @@ int attribute(std::string_view tag, std::string_view name) {
     const char* begin = tag.data() + at + name.size() + 3;
     int value = 0;
     std::from_chars(begin, tag.data() + tag.size(), value);
-    return value;
+    return value <= maxSide ? value : 0;
 }
 
 PictureSize sizeOfSvg(std::string_view bytes) {
