@@ -60,7 +60,7 @@ class ContentCompilation {
         }
         for (PageSource& page : content_.pages) bodies.push_back(&page);
         std::vector<Diagnostics> found(bodies.size());
-        inParallel(bodies.size(), [&](std::size_t i) { compileBody(*bodies[i], context, found[i]); });
+        inParallel(bodies.size(), 16, [&](std::size_t i) { compileBody(*bodies[i], context, found[i]); });
         for (Diagnostics& ofBody : found) diagnostics_.add(std::move(ofBody));
     }
 

@@ -116,7 +116,7 @@ class MediaMaker {
             if (!MadeFiles::has(results.back())) missing.push_back(i);
         }
         all_ = missing.size();
-        inParallel(missing.size(), [&](std::size_t i) {
+        inParallel(missing.size(), 1, [&](std::size_t i) {
             fs::path& result = results[missing[i]];
             if (!make(makings[missing[i]], result)) result.clear();
             const std::lock_guard lock(mutex_);
