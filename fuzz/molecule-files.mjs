@@ -1,14 +1,19 @@
 // Tries the molecule viewer's reader and its drawing with altered molecule files:
-// node molecule-files.mjs SECONDS FINDINGS SEEDS [FILE]. A finding is kept in the folder FINDINGS; FILE tries one again.
+// node molecule-files.mjs FINDINGS SEEDS, and then what to try:
+//   --inputs N    N files, the same ones each time, however long each takes
+//   --seconds N   files for so long, other ones each time
+//   FILE          one file, again
+// A finding is kept in the folder FINDINGS.
 
 import { Session } from 'node:inspector';
 import fs from 'node:fs';
 import path from 'node:path';
 import vm from 'node:vm';
 
-const [seconds, findings, seedFolder, oneFile] = process.argv.slice(2);
+const [findings, seedFolder, what, amount] = process.argv.slice(2);
+const isFixed = what === '--inputs', isLong = what === '--seconds';
 const root = path.join(import.meta.dirname ?? path.dirname(new URL(import.meta.url).pathname), '..');
-const slowest = 3000;   // milliseconds for one file
+const slowest = isLong ? 3000 : Infinity;   // milliseconds for one file
 
 // ---- the viewer's scripts, with as much of a browser as they use ----
 
@@ -86,7 +91,19 @@ function fault(name, text) {
 const words = ['999', '-1', '0', '1e308', '-1e308', '1e-320', 'NaN', 'Infinity', '', ' ', '0x1F', '1.5', '200001', '64999', '65001',
                '__proto__', 'constructor', 'toString', 'V3000', 'M  END', 'M  V30 ', 'END', 'BEGIN', 'ATOM', 'ENDMDL', 'CONECT', 'HETATM',
                '\0', '\u2028', '\r', 'Å', '\uD800'];
-const below = count => Math.floor(Math.random() * count);
+
+/// Numbers from 0 to 1 that look random (mulberry32): the same ones for the same seed.
+function randomFrom(seed) {
+  return () => {
+    seed = seed + 0x6D2B79F5 | 0;
+    let bits = Math.imul(seed ^ seed >>> 15, 1 | seed);
+    bits = bits + Math.imul(bits ^ bits >>> 7, 61 | bits) ^ bits;
+    return ((bits ^ bits >>> 14) >>> 0) / 4294967296;
+  };
+}
+
+const random = randomFrom(isFixed ? 1 : Date.now());
+const below = count => Math.floor(random() * count);
 const oneOf = list => list[below(list.length)];
 const splice = (text, at, count, put) => text.slice(0, at) + put + text.slice(at + count);
 const onLines = change => text => { const lines = text.split('\n'); change(lines, below(lines.length)); return lines.join('\n'); };
@@ -112,20 +129,25 @@ function altered(text, other) {
 
 // ---- the run ----
 
-const seeds = fs.readdirSync(seedFolder).map(name => ({ name, text: fs.readFileSync(path.join(seedFolder, name), 'latin1') }));
+const seeds = fs.readdirSync(seedFolder).sort().map(name => ({ name, text: fs.readFileSync(path.join(seedFolder, name), 'latin1') }));
 
-function keep(name, text, what) {
+function tryFile(name, text) {
+  const found = fault(name, text);
+  if (found) keep(name, text, found);
+}
+
+function keep(name, text, found) {
   fs.mkdirSync(findings, { recursive: true });
   const file = path.join(findings, `molecule-files-${Date.now()}-${name}`);
   fs.writeFileSync(file, text);
-  console.error(`${what}\nThe file is kept: ${file}`);
+  console.error(`${found}\nThe file is kept: ${file}`);
   process.exit(1);
 }
 
-if (oneFile) {
-  const what = fault(oneFile, fs.readFileSync(oneFile, 'utf8'));
-  console.log(what || 'nothing is wrong');
-  process.exit(what ? 1 : 0);
+if (!isFixed && !isLong) {
+  const found = fault(what, fs.readFileSync(what, 'utf8'));
+  console.log(found || 'nothing is wrong');
+  process.exit(found ? 1 : 0);
 }
 
 const session = new Session();
@@ -133,17 +155,12 @@ session.connect();
 session.post('Profiler.enable');
 session.post('Profiler.startPreciseCoverage', { callCount: false, detailed: true });
 
-const end = Date.now() + seconds * 1000;
+const end = Date.now() + amount * 1000;
 let tried = 0;
-for (const { name, text } of seeds) {
-  const what = fault(name, text);
-  if (what) keep(name, text, what);
-}
-for (; Date.now() < end; ++tried) {
+for (const { name, text } of seeds) tryFile(name, text);
+for (; isFixed ? tried < amount : Date.now() < end; ++tried) {
   const { name, text } = oneOf(seeds);
-  const file = altered(text, oneOf(seeds).text);
-  const what = fault(name, file);
-  if (what) keep(name, file, what);
+  tryFile(name, altered(text, oneOf(seeds).text));
 }
 
 session.post('Profiler.takePreciseCoverage', (_, { result }) => {

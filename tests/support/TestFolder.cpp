@@ -4,16 +4,16 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <cstdlib>
 #include <fstream>
 #include <iterator>
 
 namespace fs = std::filesystem;
 
 TestFolder::TestFolder() {
-    static int counter = 0;
-    path_ = fs::temp_directory_path() /
-            ("kalyxo-test-" + std::to_string(::getpid()) + "-" + std::to_string(counter++));
-    fs::create_directories(path_);
+    // Names of one length: what fuzzing tries must not depend on the number of the process.
+    std::string name = fs::temp_directory_path() / "kalyxo-test-XXXXXX";
+    if (::mkdtemp(name.data())) path_ = name;
 }
 
 TestFolder::~TestFolder() {
