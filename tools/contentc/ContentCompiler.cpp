@@ -60,7 +60,8 @@ class ContentCompilation {
         }
         for (PageSource& page : content_.pages) bodies.push_back(&page);
         std::vector<Diagnostics> found(bodies.size());
-        inParallel(bodies.size(), 16, [&](std::size_t i) { compileBody(*bodies[i], context, found[i]); });
+        inParallel(bodies.size(), pagesForThread,
+                   [&](std::size_t i) { compileBody(*bodies[i], context, found[i]); });
         for (Diagnostics& ofBody : found) diagnostics_.add(std::move(ofBody));
     }
 
@@ -92,7 +93,7 @@ class ContentCompilation {
         std::vector<std::string> bytes(pages.size());
         std::vector<References> references(pages.size());
         std::vector<Diagnostics> found(pages.size());
-        inParallel(pages.size(), [&](std::size_t i) {
+        inParallel(pages.size(), pagesForThread, [&](std::size_t i) {
             bytes[i] = compilePage(pages[i].page, pages[i].around, references[i], found[i]);
         });
         for (std::size_t i = 0; i < pages.size(); ++i) {

@@ -15,7 +15,8 @@ using Words = std::set<std::string>;
 class WordIndexMaker {
   public:
     explicit WordIndexMaker(const Content& content) : content_(content), ofPages_(content.pages.size()) {
-        inParallel(content.pages.size(), [this](std::size_t i) { ofPages_[i] = wordsOf(content_.pages[i]); });
+        inParallel(content.pages.size(), pagesForThread,
+                   [this](std::size_t i) { ofPages_[i] = wordsOf(content_.pages[i]); });
         std::set<std::string_view> onPages;
         for (const Words& words : ofPages_) onPages.insert(words.begin(), words.end());
         for (const TermSource& term : content.terms) ofTerms_[term.key] = wordsOfTerm(term, onPages);

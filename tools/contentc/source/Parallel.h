@@ -8,8 +8,11 @@
 
 namespace contentc {
 
+/// A thread is worth while for so many pages.
+inline constexpr std::size_t pagesForThread = 16;
+
 /// Calls `work(0)` to `work(count - 1)` on as many threads as the machine has processors, in any order;
-/// returns when all are done. A further thread is only worth while for `worth` calls.
+/// returns when all are done. A further thread is begun for each `worth` calls only.
 template <typename Work>
 void inParallel(std::size_t count, std::size_t worth, Work work) {
     std::atomic<std::size_t> next = 0;
