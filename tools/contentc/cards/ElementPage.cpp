@@ -123,7 +123,7 @@ std::string isotopeSentence(const Element& element, const std::vector<Isotope>& 
 }
 
 std::string isotopeTable(const Element& element, const std::vector<Isotope>& shown) {
-    std::string text = "| Ισότοπο | % στη φύση | Χρόνος ημιζωής |\n|---|---:|---|\n";
+    std::string text = "| Ισότοπο | % στη φύση | Χρόνος υποδιπλασιασμού |\n|---|---:|---|\n";
     for (const Isotope& isotope : shown) {
         text += "| " + lowerName(element) + '-' + std::to_string(isotope.massNumber) + " | " +
                 abundanceText(isotope) + " | " + halfLifeMarkdown(isotope) + " |\n";
