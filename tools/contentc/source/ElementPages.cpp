@@ -18,7 +18,8 @@ using FamilyTexts = std::array<std::optional<FamilyText>, controls::familyCount>
 /// The family with the name, in code page 1253.
 std::optional<std::size_t> familyNamed(std::string_view name) {
     for (int code = 1; code <= controls::familyCount; ++code) {
-        if (platform::fold(controls::familyName(*controls::familyOfCode(code))) == platform::fold(name))
+        const auto family = controls::familyOfCode(code);
+        if (family && platform::fold(controls::familyName(*family)) == platform::fold(name))
             return static_cast<std::size_t>(code - 1);
     }
     return std::nullopt;
