@@ -25,6 +25,7 @@ class SearchIndexTest : public testing::Test {
         searched.ResetHits();
         for (const std::string& word : words) searched.CollectHits(word);
         std::vector<std::int32_t> pages;
+        pages.reserve(searched.HitCount());
         for (std::size_t i = 0; i < searched.HitCount(); ++i) pages.push_back(searched.HitAt(i).pageId);
         return pages;
     }
