@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdlib>
 #include <sstream>
 #include <string>
 

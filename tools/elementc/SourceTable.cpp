@@ -1,5 +1,6 @@
 #include "tools/elementc/SourceTable.h"
 
+#include <algorithm>
 #include <charconv>
 
 namespace elementc {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
-#include <optional>
+#include <span>
 
 #include "platform/text/CodePage1253.h"
 #include "tools/contentc/source/HtmlMessages.h"
