@@ -8,6 +8,7 @@
 #include "platform/text/Fold.h"
 #include "tools/contentc/cards/CompoundCard.h"
 #include "tools/contentc/cards/ElementCard.h"
+#include "tools/contentc/markdown/Formula.h"
 #include "tools/contentc/source/DataMessages.h"
 #include "tools/contentc/source/SourceText.h"
 
@@ -22,6 +23,8 @@ const controls::Element* elementNamed(const std::string& name) {
         });
     return found == controls::elements().end() ? nullptr : &*found;
 }
+
+std::string setFormula(std::string_view formula) { return compileFormula(formula).html; }
 
 formats::DataSet compoundsIn(const std::vector<SourceFile>& dataSets, Diagnostics& diagnostics) {
     const auto file = std::ranges::find(dataSets, "compounds", &SourceFile::stem);
@@ -46,7 +49,7 @@ CardMaker compoundCardMaker(const std::vector<SourceFile>& dataSets, Diagnostics
     return [compounds = compoundsIn(dataSets, diagnostics)](const std::string& name,
                                                             const std::vector<CardRow>& rows,
                                                             const SourcePlace& place, Diagnostics& messages) {
-        auto data = compoundRows(compounds, name);
+        auto data = compoundRows(compounds, name, setFormula);
         if (!data && !name.empty()) messages.error(place, say::noCompound, {name});
         return cardTable(withRowsOfAuthor(data.value_or(std::vector<CardRow>{}), rows));
     };

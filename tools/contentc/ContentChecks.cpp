@@ -38,7 +38,7 @@ void checkSharedEntries(const Content& content, Diagnostics& diagnostics) {
         const auto [first, isNew] = entries.try_emplace({*file, entry}, &page);
         if (isNew || first->second->title.text == page.title.text) continue;
         diagnostics.error(page.title.place, say::entryHasOtherTitle,
-                          {entry, *file, first->second->place.file});
+                          {entry, *file, shownFile(first->second->place.file)});
     }
 }
 

@@ -4,17 +4,20 @@
 
 #include "formats/PageNumber.h"
 #include "tools/contentc/CardMakers.h"
+#include "tools/contentc/CompletenessCheck.h"
 #include "tools/contentc/ContentChecks.h"
 #include "tools/contentc/ElementScript.h"
 #include "tools/contentc/IndexFiles.h"
 #include "tools/contentc/PageCompiler.h"
 #include "tools/contentc/PageScaffold.h"
+#include "tools/contentc/SourceColumns.h"
 #include "tools/contentc/markdown/BodyCompiler.h"
 #include "tools/contentc/source/CommonMessages.h"
 #include "tools/contentc/source/Content.h"
 #include "tools/contentc/source/DataSetSource.h"
 #include "tools/contentc/source/MediaChecks.h"
 #include "tools/contentc/source/Parallel.h"
+#include "tools/contentc/source/Terminology.h"
 
 namespace contentc {
 namespace {
@@ -27,7 +30,7 @@ class ContentCompilation {
         compileBodies();
     }
 
-    OutputFiles run() {
+    OutputFiles run(Checks checks) {
         addPages();
         addTerms();
         addStyle();
@@ -40,6 +43,9 @@ class ContentCompilation {
         checkReferences(references_, content_, outputs_, diagnostics_);
         checkMedia(tree_, diagnostics_);
         checkUnused(tree_, references_, diagnostics_);
+        checkTerminology(tree_, content_, diagnostics_);
+        if (checks == Checks::complete) checkCompleteness(content_, diagnostics_);
+        addColumns(content_, diagnostics_);
         if (!diagnostics_.hasErrors()) addIndexFiles(content_, outputs_, diagnostics_);
         return std::move(outputs_);
     }
@@ -155,8 +161,8 @@ class ContentCompilation {
 
 }  // namespace
 
-std::optional<OutputFiles> compileContent(const SourceTree& tree, Diagnostics& diagnostics) {
-    OutputFiles outputs = ContentCompilation(tree, diagnostics).run();
+std::optional<OutputFiles> compileContent(const SourceTree& tree, Diagnostics& diagnostics, Checks checks) {
+    OutputFiles outputs = ContentCompilation(tree, diagnostics).run(checks);
     if (diagnostics.hasErrors()) return std::nullopt;
     return outputs;
 }

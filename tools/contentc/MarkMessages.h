@@ -10,8 +10,9 @@ inline constexpr Message notALineMark{
     "'{1}' is not '{{video NAME}}' or '{{molecule NAME}}' on a line of its own",
     "το «{1}» δεν είναι «{{βίντεο ΟΝΟΜΑ}}» ή «{{μόριο ΟΝΟΜΑ}}» μόνο του σε μια γραμμή"};
 inline constexpr Message notAToolMark{
-    "'{1}' is not '{{tool NAME}}', with settings as 'name=\"value\"', on a line of its own",
-    "το «{1}» δεν είναι «{{εργαλείο ΟΝΟΜΑ}}», με ρυθμίσεις «όνομα=\"τιμή\"», μόνο του σε μια γραμμή"};
+    "'{1}' is not '{{tool NAME}}' on a line of its own, with settings as 'name=\"value\"'",
+    "το «{1}» δεν είναι «{{εργαλείο ΟΝΟΜΑ}}» μόνο του σε μια γραμμή, με ρυθμίσεις «name=\"τιμή\"» "
+    "(λατινικά)"};
 inline constexpr Message unknownMark{"unknown mark '{1}'", "άγνωστο σημάδι «{1}»"};
 inline constexpr Message linkInsideLink{"'[[' inside a glossary link", "«[[» μέσα σε παραπομπή στο γλωσσάρι"};
 inline constexpr Message noLinkHere{"a glossary link works only on a page of a section",
@@ -24,6 +25,8 @@ inline constexpr Message tildeWouldLink{"'~' would be taken for a glossary link"
                                         "το «~» θα έμοιαζε με παραπομπή στο γλωσσάρι"};
 inline constexpr Message noVideoHere{"a video works only on a page of a section",
                                      "βίντεο υπάρχουν μόνο στις σελίδες των ενοτήτων"};
+inline constexpr Message noMoleculeHere{"a molecule works only on a page of a section",
+                                        "μόρια υπάρχουν μόνο στις σελίδες των ενοτήτων"};
 inline constexpr Message noToolHere{"a tool works only on a page of a section",
                                     "εργαλεία υπάρχουν μόνο στις σελίδες των ενοτήτων"};
 inline constexpr Message quizWithoutBox{"the questions of a quiz stand in a box '::: quiz'",

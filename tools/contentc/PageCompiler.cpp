@@ -66,8 +66,7 @@ class PageCompilation {
         for (auto line = page_.body.begin(); line != page_.body.end(); ++line) {
             if (const auto video = nameInMarkLine(line->text, "video")) {
                 lines.push_back(videoLine(*video, line->place));
-            } else if (const auto molecule = nameInMarkLine(line->text, "molecule");
-                       molecule && hasMoleculeScaffold()) {
+            } else if (const auto molecule = nameInMarkLine(line->text, "molecule")) {
                 setMolecule(*molecule, line->place);
             } else if (const auto tool = readToolLine(line->text)) {
                 line = addTool(*tool, line, markup, lines);
@@ -118,6 +117,7 @@ class PageCompilation {
     }
 
     void setMolecule(std::string_view name, const SourcePlace& place) {
+        if (!isPrepared()) diagnostics_.error(place, say::noMoleculeHere);
         if (molecule_) diagnostics_.error(place, say::secondMolecule);
         references_.molecules.push_back({place, std::string(name)});
         molecule_ = name;

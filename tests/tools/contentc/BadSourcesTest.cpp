@@ -53,27 +53,30 @@ const struct {
     {pageFile, "", {"1: no line '---' between header and body"}},
     {pageFile,
      "title T\ncolour: red\nkind: topic\nkind: entry\nsummary: S\n---\n",
-     {"1: not a header line 'name: value'", "2: unknown header field 'colour'",
-      "4: header field 'kind' stands twice", "6: header field 'title' is missing"}},
+     {"1:1: not a header line 'name: value'", "2:1: unknown header field 'colour'",
+      "4:1: header field 'kind' stands twice",
+      "6: header field 'title' is missing; write a line 'title: …'"}},
     {pageFile,
      "title:\nkind: page\norder: first\nyear: now\nsummary: S\n---\n",
-     {"1: header field 'title' is empty", "2: unknown kind 'page'", "3: not a number: 'first'",
-      "4: not a number: 'now'"}},
-    {pageFile, "title: T\nsummary: S\ntopic: 400000\n---\n", {"3: only an entry has a topic"}},
+     {"1: header field 'title' is empty", "2:7: unknown kind 'page'", "3:8: not a number: 'first'",
+      "4:7: not a number: 'now'"}},
+    {pageFile, "title: T\nsummary: S\ntopic: 400000\n---\n", {"3:8: only an entry has a topic"}},
     {pageFile,
      "title: " + std::string(108, 'x') + "\nsummary: S\n---\n",
-     {"1: title has 108 bytes, at most 107 fit"}},
+     {"1:8: title has 108 bytes, at most 107 fit"}},
     {"pages/uses/40001.md",
      "title: " + std::string(60, 'x') + "\nkind: entry\ntopic: 400000\n---\n",
-     {"1: title has 60 bytes, at most 59 fit"}},
-    {"start.md", "title: T\nkind: start\n---\n", {"2: unknown header field 'kind'"}},
+     {"1:8: title has 60 bytes, at most 59 fit"}},
+    {"start.md", "title: T\nkind: start\n---\n", {"2:1: unknown header field 'kind'"}},
     // Page numbers.
     {"pages/uses/1000000.md", topicHeader, {"1: file name is not a page number: '1000000'"}},
     {"pages/uses/0400010.md", topicHeader, {"1: file name is not a page number: '0400010'"}},
-    {"pages/uses/intro.md", topicHeader, {"1: file name is not a page number: 'intro'"}},
+    {"pages/uses/intro.md",
+     topicHeader,
+     {"1: file name is not a page number: 'intro'; name it 409000-intro.md"}},
     {"pages/uses/410010.md",
      topicHeader,
-     {"1: the number 410010 is taken already, by pages/elemcomp/410010.md; take 419000"}},
+     {"1: the number 410010 is taken already, by pages/elemcomp/410010.md; take 409000"}},
     {"pages/uses/400000.md",
      "title: T\nkind: topic\nsummary: S\n---\n",
      {"1: page 400000 must be of kind 'start'"}},
@@ -88,11 +91,13 @@ const struct {
      {"1: entry 40000 belongs to no title list"}},
     {"pages/uses/40001.md",
      "title: T\nkind: entry\ntopic: 410010\n---\n",
-     {"3: section 'uses' has no topic 410010"}},
+     {"3:8: section 'uses' has no topic 410010"}},
     {"pages/elemcomp/10002.md",
      "title: T\nkind: entry\ntopic: 10001\n---\n",
-     {"3: section 'elemcomp' has no topic 10001"}},
-    {"pages/elemcomp/10002.md", "title: T\nkind: entry\n---\n", {"3: header field 'topic' is missing"}},
+     {"3:8: section 'elemcomp' has no topic 10001"}},
+    {"pages/elemcomp/10002.md",
+     "title: T\nkind: entry\n---\n",
+     {"3: header field 'topic' is missing; write a line 'topic: …'"}},
     {"families.txt",
      "# families\n\nΑλκάλια | Αέρια\nΑλκάλια | Αέρια |\nΑλάτια | Αέρια | Τίποτε.\n",
      {"3: not a line 'family | topic | uses'", "4: not a line 'family | topic | uses'",
@@ -100,8 +105,8 @@ const struct {
     // Marks in the text.
     {pageFile,
      topicHeader + "[[ήλιο]]\n{{date}}\n{{title}}\n{{data\n",
-     {"4:1: no glossary term is called 'ήλιο'", "5: unknown mark '{{date}}'", "6: unknown mark '{{title}}'",
-      "7: '{{' is not closed on its line"}},
+     {"4:1: no glossary term is called 'ήλιο'", "5:1: unknown mark '{{date}}'",
+      "6:1: unknown mark '{{title}}'", "7: '{{' is not closed on its line"}},
     {"templates/page.html",
      "{{title}}{{section}}\n{{body}}\n[[helium00|He\n[[helium00]]\n[[helium00| ]]\n"
      "[[helium00|a [[helium00|b]]\n~ [[helium00|H]]\n[[ήλιο|a]]\n",
@@ -112,67 +117,93 @@ const struct {
       "8: no glossary term has the key 'ήλιο'"}},
     {pageFile,
      topicHeader + "{{video none}}\n<P>{{video none}}\n{{video a\\b}}\n",
-     {"4: no video is named 'none'",
-      "5: '{{video none}}' is not '{{video NAME}}' or '{{molecule NAME}}' on a line of its own",
-      "6: '{{video a\\b}}' is not '{{video NAME}}' or '{{molecule NAME}}' on a line of its own"}},
+     {"4:9: no video is named 'none'",
+      "5:4: '{{video none}}' is not '{{video NAME}}' or '{{molecule NAME}}' on a line of its own",
+      "6:9: '{{video a\\b}}' is not '{{video NAME}}' or '{{molecule NAME}}' on a line of its own"}},
     {pageFile,
      topicHeader + "<IMG SRC=\"{{data}}images\\none.png\">\n<IMG SRC={{data}}images/none.gif>\n",
-     {"4: the data folder has no file 'images\\none.png'",
-      "5: the data folder has no file 'images/none.gif'"}},
+     {"4:19: the data folder has no file 'images\\none.png'",
+      "5:18: the data folder has no file 'images/none.gif'"}},
     {"pages/struct/370010.md",
      topicHeader + "{{molecule none}}\n{{molecule water}}\n",
-     {"4: no molecule is named 'none'", "5: a second molecule on the page"}},
+     {"4:12: no molecule is named 'none'", "5:12: a second molecule on the page"}},
     {"pages/struct/370010.md",
      topicHeader + "{{molecule a\\b}}\n",
      {"molecules/water.mol:1: warning: no page uses this molecule",
-      "4: '{{molecule a\\b}}' is not '{{video NAME}}' or '{{molecule NAME}}' on a line of its own"}},
+      "4:12: '{{molecule a\\b}}' is not '{{video NAME}}' or '{{molecule NAME}}' on a line of its own"}},
     // What would take all of the stack.
     {pageFile,
      topicHeader + std::string(300000, '>') + "\n\n" + repeated(20000, "::: fact\n") +
          repeated(20000, ":::\n"),
      {"4: boxes, lists, quotations or emphasis inside of too many others",
-      "22: boxes, lists, quotations or emphasis inside of too many others"}},
+      "22:1: boxes, lists, quotations or emphasis inside of too many others"}},
     // Tools.
     {pageFile,
      topicHeader + "{{tool clock at=\"3\" on=\"4\"}}\n{{tool shared}}\n{{tool quiz at=\"3\"}}\n",
-     {"4: tool 'clock' has no setting 'on'; its settings: at, of", "5: no tool is named 'shared'",
-      "6: the questions of a quiz stand in a box '::: quiz'",
-      "6: tool 'quiz' has no setting 'at'; its settings: none"}},
+     {"4:1: tool 'clock' has no setting 'on'; its settings: at, of", "5:1: no tool is named 'shared'",
+      "6:1: the questions of a quiz stand in a box '::: quiz'",
+      "6:1: tool 'quiz' has no setting 'at'; its settings: none"}},
     {pageFile,
      topicHeader + "{{tool none}}\n<P>{{tool clock}}\n{{tool clock at=3}}\n",
-     {"4: no tool is named 'none'",
-      "5: '{{tool clock}}' is not '{{tool NAME}}', with settings as 'name=\"value\"', on a line of its own",
-      "6: '{{tool clock at=3}}' is not '{{tool NAME}}', with settings as 'name=\"value\"', on a line of its "
-      "own"}},
+     {"4:1: no tool is named 'none'",
+      "5:4: '{{tool clock}}' is not '{{tool NAME}}' on a line of its own, with settings as 'name=\"value\"'",
+      "6:1: '{{tool clock at=3}}' is not '{{tool NAME}}' on a line of its own, with settings as "
+      "'name=\"value\"'"}},
     {pageFile,
      topicHeader + "::: quiz\n+ a\n? q\n+ a\nb\n> c\n? q\n+ a\n+ b\n? q\n> c\n- a\n- b\n:::\n"
                    "::: quiz\n\n:::\n::: quiz\n? q\n",
-     {"5: a quiz begins with a question: '? …'", "6: a question needs two answers or more",
-      "8: a line of a quiz begins with '?', '-', '+', '>' or '!'",
-      "10: a question needs one right answer: '+ …'", "13: a question needs one right answer: '+ …'",
-      "14: a line of a quiz begins with '?', '-', '+', '>' or '!'", "18: a quiz without questions",
-      "21: the box is not closed by a line ':::'", "22: a question needs two answers or more"}},
+     {"5:1: a quiz begins with a question: '? …'", "6:1: a question needs two answers or more",
+      "8:1: a line of a quiz begins with '?', '-', '+', '>' or '!'",
+      "10:1: a question needs one right answer: '+ …'", "13:1: a question needs one right answer: '+ …'",
+      "14:1: a line of a quiz begins with '?', '-', '+', '>' or '!'", "18: a quiz without questions",
+      "21:1: the box is not closed by a line ':::'", "22:1: a question needs two answers or more"}},
     {"start.md",
      "title: T\n---\n[[H|υδρογόνο]]\n{{tool clock}}\n",
-     {"3: a glossary link works only on a page of a section", "4: a tool works only on a page of a section"}},
+     {"3: a glossary link works only on a page of a section",
+      "4:1: a tool works only on a page of a section"}},
+    {"help.md",
+     "title: T\n---\n{{video x}}\n{{molecule water}}\n\n[a](Νερό) {{contents}}\n{{contents}}\n",
+     {"3:9: a video works only on a page of a section", "3:9: no video is named 'x'",
+      "4:12: a molecule works only on a page of a section",
+      "6:5: a link to a page works only on a page of a section", "6:11: unknown mark '{{contents}}'",
+      "7:1: a list of pages works only on a page of a section"}},
+    // Cards.
+    {pageFile,
+     topicHeader + "::: element Xx\n:::\n::: compound soap\n  colour\n: [[x\n:::\n::: class\n:::\n",
+     {"4:13: no element has the symbol or name 'Xx'",
+      "6:14: 'soap' is neither a compound of the data set nor a formula",
+      "7:3: not a row 'name: value' of the card", "8:3: '[[' is not closed on its line",
+      "10:5: no box is called 'class'"}},
+    // Captions and titles.
+    {pageFile,
+     topicHeader + "![a](none.png \"$a\")\n{{video x \"b}}\n{{video y \"c [[d\"}}\n::: fact e [[f\n:::\n",
+     {"4:6: no picture is named 'none.png'", "5:9: no video is named 'x'",
+      "5:11: the caption of the film has no '\"' at its end", "6:9: no video is named 'y'",
+      "6:14: '[[' is not closed on its line", "7:12: '[[' is not closed on its line"}},
+    // Links.
+    {pageFile,
+     topicHeader + "[a]() [b](c\n\n[d](Start of react) [e](Διπλή)\n",
+     {"4:3: a link without an address", "4:9: the address of the link is not closed on its line",
+      "6:25: no page is called 'Διπλή'"}},
     // Names that are nearly right.
     {pageFile,
      "titel: T\nsummary: S\n---\n{{tool clok}}\n",
-     {"1: unknown header field 'titel'; did you mean 'title'?", "3: header field 'title' is missing",
-      "4: no tool is named 'clok'; did you mean 'clock'?"}},
+     {"1:1: unknown header field 'titel'; did you mean 'title'?",
+      "3: header field 'title' is missing; write a line 'title: …'",
+      "4:1: no tool is named 'clok'; did you mean 'clock'?"}},
     {"pages/uses/400010.md",
      "title: T\nsummary: S\n---\n[[\xCF\x85\xCE\xB4\xCF\x81\xCE\xBF\xCE\xB3\xCE\xBF\xCE\xBD\xCE\xBF]] "
      "[a](Nero)\n"
      "\n[b](Start of use)\n\n![c](atom.png)\n\n::: quizz\n:::\n\n# H\n\n$K_{a$\n",
      {"4:18: no page is called 'Nero'",
       "6:5: no page is called 'Start of use'; did you mean 'Start of uses'?",
-      "8: no picture is named 'atom.png'", "10: no box is called 'quizz'; did you mean 'quiz'?",
-      "13: headings begin with '##'; the page's title stands in its head",
+      "8:6: no picture is named 'atom.png'", "10:5: no box is called 'quizz'; did you mean 'quiz'?",
+      "13:1: headings begin with '##'; the page's title stands in its head",
       "15:1: formula 'K_{a': '{' is not closed"}},
     {pageFile,
      topicHeader + "{{video x}}\n{{molecule wter}}\n<IMG SRC={{data}}mol\\watr.mol>\n",
-     {"4: no video is named 'x'", "5: no molecule is named 'wter'; did you mean 'water'?",
-      "6: the data folder has no file 'mol\\watr.mol'; did you mean 'mol\\water.mol'?"}},
+     {"4:9: no video is named 'x'", "5:12: no molecule is named 'wter'; did you mean 'water'?",
+      "6:18: the data folder has no file 'mol\\watr.mol'; did you mean 'mol\\water.mol'?"}},
     // What text may hold.
     {pageFile,
      "title: H\xE2\x82\x82O\nsummary: \xE2\x86\x92\xE2\x86\x92\n---\n",
@@ -194,6 +225,13 @@ const struct {
     {"glossary/hydrogen.md",
      "\n# " + std::string(49, 'H') + " | υδρογόνο\nok\n\n" + std::string(4998, 'x') + "\n",
      {"2: line is longer than 4997 bytes", "2: term is longer than 48 bytes"}},
+    {"glossary/more.md",
+     "# ήλιο | Υδρογονο\nΤο δεύτερο στοιχείο.\n",
+     {"1: another term is called 'Υδρογονο' too, in glossary/hydrogen.md:1",
+      "1: warning: no page uses this term"}},
+    {"words/terminology.txt",
+     "# words\n\nμίγμα\nαέριο | ατμός\nστοιχείο | \n",
+     {"3: not a line 'wrong | right'", "5: not a line 'wrong | right'"}},
     // Files.
     {"pages/iron/1.md", "", {"pages/iron:1: no section is named 'iron'"}},
     {"pages/struc/1.md", "", {"pages/struc:1: no section is named 'struc'; did you mean 'struct'?"}},
@@ -210,8 +248,8 @@ const struct {
     // HTML.
     {pageFile,
      topicHeader + "<TABLE><TR><TD>\n<P>SO<SUB>4</SUP>\n<B>x</TD>\n<P CLASS=\"c>d\">y</I>\n",
-     {"4: <TABLE> is not closed", "5: </SUP> does not close <SUB>; write '</SUB>' instead",
-      "6: <B> is not closed", "7: </I> closes nothing"}},
+     {"4:1: <TABLE> is not closed", "5:12: </SUP> does not close <SUB>; write '</SUB>' instead",
+      "6:1: <B> is not closed", "7:17: </I> closes nothing"}},
     {pageFile,
      topicHeader +
          "<!-- <B>\n</I> --><BR>\n<SCRIPT>if (a<b) c=\"</B>\";\n</script><UL><LI>a<LI>b</UL>\n<DIV\nID=x>\n",
@@ -323,6 +361,52 @@ TEST(Layers, GiveWhatIsNotInTheLayerAbove) {
                         "kalyxo.content:5: not a line 'base: folder'"}));
 }
 
+TEST(Warnings, StopNothing) {
+    ContentFolder content;
+    content.write("words/terminology.txt", "μίγμα | μείγμα\nατομικό βάρος | ατομική μάζα\n");
+    content.write("glossary/hydrogen.md", "# υδρογόνο | μίγμα\nΔεν είναι μίγμα.\n");
+    content.write("pages/uses/400010.md",
+                  "title: Μίγματα, μίγμα\nsearch: μίγμα\n---\n**α «μίγμα», [[υδρογόνο]], Ατομικό βάρος\n\n"
+                  "| a | b |\n\n<P CLASS=\"wide\">x</P>\n\n{{video air}}\n");
+    content.write("style.css", ".narrow { }\n");
+    content.write("../built/air.webm", "\x1A\x45\xDF\xA3");
+    content.write("videos/fire.webm", "\x1A\x45\xDF\xA3");
+    EXPECT_TRUE(content.compile());
+    EXPECT_EQ(
+        content.messages,
+        (Messages{"glossary/hydrogen.md:2:11: warning: 'μίγμα' is not the word that is used here; write "
+                  "'μείγμα' instead",
+                  "pages/uses/400010.md:1:8: warning: a topic needs a summary, for the list of topics",
+                  "pages/uses/400010.md:1:17: warning: 'μίγμα' is not the word that is used here; write "
+                  "'μείγμα' instead",
+                  "pages/uses/400010.md:4:1: warning: '**' has no partner, so it is shown as it is",
+                  "pages/uses/400010.md:4:28: warning: 'Ατομικό βάρος' is not the word that is used "
+                  "here; write 'ατομική μάζα' instead",
+                  "pages/uses/400010.md:6: warning: a table needs a line '|---|---|' below its first "
+                  "line",
+                  "pages/uses/400010.md:8:11: warning: no style is called 'wide'",
+                  "videos/fire.webm:1: warning: no page uses this video"}));
+}
+
+TEST(CompleteCheck, TellsWhatTopicsLack) {
+    ContentFolder content;
+    std::string words;
+    for (int i = 0; i < 451; ++i) words += "μία λέξη ";
+    content.write("tools/quiz/face.js", "");
+    content.write("pages/uses/400010.md", topicHeader + words + '\n');
+    content.write("pages/uses/400020.md", "title: T\nsummary: S\nclass: Γ΄ Γυμνασίου 1\n---\n::: quiz\n? " +
+                                              words + "\n- a\n+ b\n:::\n<IMG SRC=x>\n");
+    EXPECT_TRUE(content.compile(contentc::Checks::complete));
+    std::erase_if(content.messages,
+                  [](const std::string& message) { return !message.starts_with("pages/uses"); });
+    EXPECT_EQ(
+        content.messages,
+        (Messages{"pages/uses/400010.md:1: warning: the topic has 902 words; at most 900 are read",
+                  "pages/uses/400010.md:1: warning: the topic has neither picture nor molecule, film or tool",
+                  "pages/uses/400010.md:1: warning: the topic has no quiz",
+                  "pages/uses/400010.md:1: warning: the topic names no school year ('class')"}));
+}
+
 TEST(DataSets, OfOneNumberAreReported) {
     ContentFolder content;
     const std::string text = "number: 1\ntitle: T\ncolumn: text | N\ncolumn: number | V\n---\n";
@@ -337,7 +421,7 @@ TEST(MissingSources, AreReported) {
         {"start.md", "start.md:1: missing"},
         {"templates/page.html", "templates/page.html:1: missing"},
         {"templates/molecule.html", "templates/molecule.html:1: missing"},
-        {"molecules", "pages/struct/370010.md:4: no molecule is named 'water'"},
+        {"molecules", "pages/struct/370010.md:4:12: no molecule is named 'water'"},
         {"style.css", "templates/page.html:3: the data folder has no file 'style\\kalyxo.css'"},
         {"glossary", "pages/elemcomp/410010.md:5:4: no glossary term is called 'υδρογόνο'"},
         {"pages/uses",
@@ -361,7 +445,7 @@ TEST(SharedTitleList, RefusesOneEntryWithTwoTitles) {
     content.write("pages/history/770005.md", "title: Curie\n" + header);
     EXPECT_FALSE(content.compile());
     EXPECT_EQ(content.messages,
-              Messages{"pages/history/770005.md:1: entry 5 of 'history.ttl' has another title in "
+              Messages{"pages/history/770005.md:1:8: entry 5 of 'history.ttl' has another title in "
                        "pages/history/740005.md"});
 }
 

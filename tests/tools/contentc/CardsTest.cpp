@@ -101,36 +101,32 @@ TEST(ElementPage, SpeaksRightGreekOfTheData) {
 }
 
 TEST(CompoundCard, IsFoundByNameOrFormula) {
+    const FormulaHtml asWritten = [](std::string_view formula) { return std::string(formula); };
     using Rows = std::vector<std::string>;
-    const Rows water{"Τύπος: H<SUB>2</SUB>O", "Μάζα του ενός mol: 18,02&nbsp;g/mol",
+    const Rows water{"Τύπος: H2O", "Μάζα του ενός mol: 18,02&nbsp;g/mol",
                      "Σημείο τήξης (1 atm): 0&nbsp;&deg;C", "Σημείο βρασμού (1 atm): 100&nbsp;&deg;C"};
-    const Rows ethyne{"Τύπος: C<SUB>2</SUB>H<SUB>2</SUB>", "Μάζα του ενός mol: 26,04&nbsp;g/mol",
+    const Rows ethyne{"Τύπος: C2H2", "Μάζα του ενός mol: 26,04&nbsp;g/mol",
                       "Σημείο βρασμού (1 atm): &minus;84&nbsp;&deg;C"};
-    const Rows eitherEther{"Τύπος: C<SUB>2</SUB>H<SUB>6</SUB>O", "Μάζα του ενός mol: 46,07&nbsp;g/mol"};
+    const Rows eitherEther{"Τύπος: C2H6O", "Μάζα του ενός mol: 46,07&nbsp;g/mol"};
     const std::pair<const char*, Rows> cases[] = {
         {"Νερό", water}, {"H2O", water}, {"αιθινιο", ethyne}, {"ακετυλένιο", ethyne}, {"C2H6O", eitherEther}};
     for (const auto& [name, rows] : cases) {
-        const auto found = compoundRows(compounds(), name);
+        const auto found = compoundRows(compounds(), name, asWritten);
         EXPECT_EQ(shown(found.value_or(std::vector<CardRow>{})), rows) << name;
     }
-    EXPECT_FALSE(compoundRows(compounds(), "σαπούνι"));
+    EXPECT_FALSE(compoundRows(compounds(), "σαπούνι", asWritten));
 }
 
-TEST(Formula, MassAndHtml) {
-    struct Case {
-        const char *formula, *mass, *html;
-    };
-    const Case cases[] = {
-        {"NaCl", "58,44", "NaCl"},
-        {"Ca(OH)2", "74,09", "Ca(OH)<SUB>2</SUB>"},
-        {"CuSO4*5H2O", "249,68", "CuSO<SUB>4</SUB>&nbsp;&middot;&nbsp;5&nbsp;H<SUB>2</SUB>O"},
-        {"PbO2", "239,2", "PbO<SUB>2</SUB>"},
-        {"(NH4)2Cr2O7", "252,06", "(NH<SUB>4</SUB>)<SUB>2</SUB>Cr<SUB>2</SUB>O<SUB>7</SUB>"}};
-    for (const auto& [formula, mass, html] : cases) {
+TEST(Formula, HasAMass) {
+    const std::pair<const char*, const char*> cases[] = {{"NaCl", "58,44"},
+                                                         {"Ca(OH)2", "74,09"},
+                                                         {"CuSO4*5H2O", "249,68"},
+                                                         {"PbO2", "239,2"},
+                                                         {"(NH4)2Cr2O7", "252,06"}};
+    for (const auto& [formula, mass] : cases) {
         const auto atoms = atomsOf(formula);
         ASSERT_TRUE(atoms) << formula;
         EXPECT_EQ(molarMassText(*atoms), mass) << formula;
-        EXPECT_EQ(formulaHtml(formula), html);
     }
     for (const char* wrong : {"", "H2O)", "(H2O", "()2", "Xx", "h2o", "NaCl*", "H99999", "2", "H2 O"})
         EXPECT_FALSE(atomsOf(wrong)) << wrong;

@@ -42,12 +42,12 @@ ContentFolder::ContentFolder() {
     write("molecules/water.mol", sampleMolecule);
 }
 
-std::optional<contentc::OutputFiles> ContentFolder::compile() {
+std::optional<contentc::OutputFiles> ContentFolder::compile(contentc::Checks checks) {
     contentc::Diagnostics diagnostics;
     const auto folders = contentc::SourceFolders{sources(), {beside("built")}, {beside("built")}};
     contentc::SourceTree tree = contentc::readSourceTree(folders, diagnostics);
     contentc::pretendMedia(tree);
-    auto files = contentc::compileContent(tree, diagnostics);
+    auto files = contentc::compileContent(tree, diagnostics, checks);
     const std::string prefix = sources().generic_string() + '/';
     messages.clear();
     for (const contentc::Diagnostic& diagnostic : diagnostics.sorted()) {

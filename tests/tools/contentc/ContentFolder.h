@@ -29,7 +29,7 @@ class ContentFolder {
     void remove(const std::string& file) const { std::filesystem::remove_all(sources() / file); }
 
     /// Compiles; afterwards `messages` holds what there was to say, with files named as in the sources.
-    std::optional<contentc::OutputFiles> compile();
+    std::optional<contentc::OutputFiles> compile(contentc::Checks checks = contentc::Checks::usual);
     /// The bytes of one compiled file; empty when there is none.
     std::string compiled(const std::string& path);
 

@@ -87,6 +87,10 @@ TEST(MarkdownBody, BecomesTheHtmlOfThePage) {
          "<DIV CLASS=\"film\">\n<EMBED SRC=\"\x04..video\\melting.webm\" WIDTH=320 HEIGHT=258 "
          "AUTOPLAY=FALSE>\n"
          "<P CLASS=\"caption\">Ο πάγος <A HREF=\"a:\\a.htm\">Μεγέθυνση</A></P>\n</DIV>\n"},
+        {"α [[<IMG SRC=x>|άτομο]] [[<B>β</B>|άτομο]]",
+         "<P CLASS=\"lead\">α ~Gatom4y00<IMG SRC=x>~G ~Gatom4y00<B>β</B>~G</P>\n"},
+        {"::: hint ---\n:::\n::: hint <U>α</U> # β\n:::",
+         "<DIV CLASS=\"hint\">\n<H3>—</H3>\n</DIV>\n<DIV CLASS=\"hint\">\n<H3><U>α</U> # β</H3>\n</DIV>\n"},
         {"<DIV CLASS=\"fact\"><P>&egrave; [[Άτομο]] $H2$</P></DIV>",
          "<DIV CLASS=\"fact\"><P>&egrave; ~Gatom4y00Άτομο~G H<SUB>2</SUB></P></DIV>\n"},
     };
@@ -102,7 +106,7 @@ TEST(MarkdownBody, MistakesAreReportedByLine) {
         const char* body;
         std::vector<std::string> messages;
     } cases[] = {
-        {"# Ένα", {"5: headings begin with '##'; the page's title stands in its head"}},
+        {"# Ένα", {"5:1: headings begin with '##'; the page's title stands in its head"}},
         {"α\n[[ηλεκτρόνιο]] [[ |άτομο]] [[α\n$a",
          {"6:1: no glossary term is called 'ηλεκτρόνιο'", "6:16: a glossary link without words",
           "6:28: '[[' is not closed on its line",
@@ -111,21 +115,21 @@ TEST(MarkdownBody, MistakesAreReportedByLine) {
          {"5:7: no page is called 'Αερια.'; did you mean 'Αέρια'?", "5:18: no page has the number 99",
           "5:22: formula 'K_': nothing to lower behind '_'",
           "5:27: no glossary term is called 'ατομ'; did you mean 'Άτομο'?"}},
-        {"::: προσοχι\n:::", {"5: no box is called 'προσοχι'; did you mean 'προσοχή'?"}},
+        {"::: προσοχι\n:::", {"5:5: no box is called 'προσοχι'; did you mean 'προσοχή'?"}},
         {"::: κουτί\n:::\n:::\n::: fact\nα",
-         {"5: no box is called 'κουτί'", "7: ':::' closes no box",
-          "8: the box is not closed by a line ':::'"}},
+         {"5:5: no box is called 'κουτί'", "7:1: ':::' closes no box",
+          "8:1: the box is not closed by a line ':::'"}},
         {"$$\nH2", {"5: the equation is not closed by a line '$$'"}},
         {"![](none.svg)\n\n![α](air.svg){μεγάλο}\n\n![α](air.svg){2000000000}",
-         {"5: no picture is named 'none.svg'",
-          "5: the picture needs words for those who do not see it: '![words](file)'",
-          "7: '{μεγάλο}' is neither the width of the picture nor '{πλάι}' or '{side}'",
-          "9: '{2000000000}' is neither the width of the picture nor '{πλάι}' or '{side}'"}},
-        {"α ![β](air.svg)", {"5: a picture stands on a line of its own"}},
+         {"5:1: the picture needs words for those who do not see it: '![words](file)'",
+          "5:5: no picture is named 'none.svg'",
+          "7:15: '{μεγάλο}' is neither the width of the picture nor '{πλάι}' or '{side}'",
+          "9:15: '{2000000000}' is neither the width of the picture nor '{πλάι}' or '{side}'"}},
+        {"α ![β](air.svg)", {"5:8: a picture stands on a line of its own"}},
         {"::: ερώτηση\nα\n:::", {"5: the question needs a line '---' and the answer below it"}},
-        {"::: quiz\n? α\n+ β\n:::", {"6: a question needs two answers or more"}},
+        {"::: quiz\n? α\n+ β\n:::", {"6:1: a question needs two answers or more"}},
         {"{{video none}}\n\n{{molecule none}}",
-         {"5: no video is named 'none'", "7: no molecule is named 'none'"}},
+         {"5:9: no video is named 'none'", "7:12: no molecule is named 'none'"}},
     };
     for (const auto& [body, messages] : cases) {
         MarkdownPage page;

@@ -23,9 +23,9 @@ class PageLists : public testing::Test {
   protected:
     PageLists() {
         content_.write("pages/uses/400000.md", "τίτλος: Πράξη\n---\nΑρχή.\n");
-        content_.write(
-            "pages/uses/400020-b.md",
-            "τίτλος: Βαφές\nσειρά: 1\nπερίληψη: Με χρώμα.\nτάξη: Β΄ Γυμνασίου 10.2\nδες: 10001\n---\n");
+        content_.write("pages/uses/400020-b.md",
+                       "τίτλος: Βαφές\nσειρά: 1\nπερίληψη: Με χρώμα.\nτάξη: Β΄ Γυμνασίου 10.2\nδες: 10001; "
+                       "Άλατα; Βαφές\n---\n");
         content_.write("pages/uses/400010-a.md",
                        "τίτλος: Άλατα\nσειρά: 2\nπερίληψη: Με νερό.\nτάξη: Β' Γυμνασίου 9.1; Γ΄ Λυκείου\n"
                        "πριν: βαφές; αέρια\nέτος: -460\n---\n");
@@ -67,6 +67,16 @@ TEST_F(PageLists, TopicHasItsEntriesAndItsRelations) {
                   "HREF=\"kzpage-4-400010-0.htm\"><SPAN>Επόμενο θέμα</SPAN> Άλατα</A>");
 }
 
+TEST_F(PageLists, TitleOfSeveralPagesIsAmbiguous) {
+    for (const char* file : {"pages/concept/450010.md", "pages/concept/450020.md"})
+        content_.write(file, "title: Μάζα\nsummary: S\n---\n");
+    content_.write("pages/uses/40001.md", "τίτλος: Αλάτι\nθέμα: Άλατα\nδες: Νερό; μάζα\n---\n");
+    EXPECT_FALSE(content_.compile());
+    EXPECT_EQ(content_.messages,
+              std::vector<std::string>{
+                  "pages/uses/40001.md:3:12: several pages are called 'μάζα'; write the number"});
+}
+
 TEST_F(PageLists, GoByChapterAndByTime) {
     content_.write("pages/uses/400000.md",
                    "τίτλος: Πράξη\n---\n{{περιεχόμενα}}\n\n{{τάξη β΄ γυμνασίου}}\n"
@@ -87,9 +97,9 @@ TEST_F(PageLists, UnknownPagesAreReported) {
     content_.write("pages/uses/400020-b.md",
                    "τίτλος: Βαφές\nπερίληψη: Μ.\nπριν: Γάλα\nδες: 999\nτάξη: Δ΄\n---\n");
     EXPECT_FALSE(content_.compile());
-    const std::vector<std::string> expected{"pages/uses/400020-b.md:3: no page is called 'Γάλα'",
-                                            "pages/uses/400020-b.md:4: no page has the number 999",
-                                            "pages/uses/400020-b.md:5: no school year: 'Δ΄'"};
+    const std::vector<std::string> expected{"pages/uses/400020-b.md:3:7: no page is called 'Γάλα'",
+                                            "pages/uses/400020-b.md:4:6: no page has the number 999",
+                                            "pages/uses/400020-b.md:5:7: no school year: 'Δ΄'"};
     EXPECT_EQ(content_.messages, expected);
 }
 

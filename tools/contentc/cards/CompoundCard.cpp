@@ -58,7 +58,7 @@ void addPoint(const DataSet& set, std::string_view title, std::size_t row, std::
     rows.push_back({platform::toUtf8(title) + " (1 atm)", numberHtml(column->cells[row]) + "&nbsp;&deg;C"});
 }
 
-void addFormula(const std::string& formula, std::vector<CardRow>& rows) {
+void addFormula(const std::string& formula, const FormulaHtml& formulaHtml, std::vector<CardRow>& rows) {
     rows.push_back({"Τύπος", formulaHtml(formula)});
     if (const auto atoms = atomsOf(formula))
         rows.push_back({"Μάζα του ενός mol", molarMassText(*atoms) + "&nbsp;g/mol"});
@@ -66,13 +66,14 @@ void addFormula(const std::string& formula, std::vector<CardRow>& rows) {
 
 }  // namespace
 
-std::optional<std::vector<CardRow>> compoundRows(const DataSet& compounds, std::string_view nameOrFormula) {
+std::optional<std::vector<CardRow>> compoundRows(const DataSet& compounds, std::string_view nameOrFormula,
+                                                 const FormulaHtml& formulaHtml) {
     auto row = rowNamed(compounds, nameOrFormula);
     if (!row) row = rowWithFormula(compounds, nameOrFormula);
     if (!row && !atomsOf(nameOrFormula)) return std::nullopt;
     std::vector<CardRow> rows;
     const DataColumn* formulas = columnOf(compounds, DataColumnKind::formula);
-    addFormula(row && formulas ? formulas->cells[*row] : std::string(nameOrFormula), rows);
+    addFormula(row && formulas ? formulas->cells[*row] : std::string(nameOrFormula), formulaHtml, rows);
     if (row) {
         addPoint(compounds, "Σημείο τήξης"_gr, *row, rows);
         addPoint(compounds, "Σημείο βρασμού"_gr, *row, rows);

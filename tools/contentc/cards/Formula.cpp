@@ -105,23 +105,4 @@ std::string molarMassText(const AtomCounts& atoms) {
     return controls::fixedNumber(mass, decimals);
 }
 
-std::string formulaHtml(std::string_view formula) {
-    std::string html;
-    char before = ' ';
-    for (std::size_t at = 0; at < formula.size();) {
-        std::size_t end = at;
-        while (end < formula.size() && isDigit(formula[end])) ++end;
-        if (end == at) {
-            html += formula[at] == '*' ? std::string("&nbsp;&middot;&nbsp;") : std::string(1, formula[at]);
-            before = formula[at++];
-            continue;
-        }
-        const std::string digits(formula.substr(at, end - at));
-        const bool isLowered = before == ')' || std::isalpha(static_cast<unsigned char>(before)) != 0;
-        html += isLowered ? "<SUB>" + digits + "</SUB>" : digits + "&nbsp;";
-        at = end;
-    }
-    return html;
-}
-
 }  // namespace contentc

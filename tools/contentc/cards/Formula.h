@@ -18,7 +18,4 @@ std::optional<AtomCounts> atomsOf(std::string_view formula);
 /// fewer.
 std::string molarMassText(const AtomCounts& atoms);
 
-/// The formula in HTML: digits behind symbols and brackets lowered, `*` as a raised point.
-std::string formulaHtml(std::string_view formula);
-
 }  // namespace contentc

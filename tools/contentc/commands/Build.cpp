@@ -20,7 +20,8 @@ class Building {
     bool check() {
         SourceTree tree = readSourceTree(options_.sources, diagnostics_);
         pretendMedia(tree);
-        const auto files = compileContent(tree, diagnostics_);
+        const auto files =
+            compileContent(tree, diagnostics_, options_.complete ? Checks::complete : Checks::usual);
         const bool isRight = files && mayBeUsed();
         return tell(isRight, {say::allIsRight, isRight ? counts(tree, *files) : MessageValues()});
     }

@@ -12,11 +12,13 @@ Makes content for Kalyxo out of text files. FOLDER is the current folder when it
 
   new FOLDER      makes a folder with a page of each kind, to begin with
   check [FOLDER]  says what is wrong, and writes nothing
+  counts [FOLDER] tells how much there is of each kind
   build [FOLDER]  makes the data folder that the program shows
   open [FOLDER]   builds, and shows it in the program
   watch [FOLDER]  the same, and again at each change
 
   --base BASE       with new: lays the folder over another, or over the program's own content (kalyxo)
+  --complete        with check: tells too which topics lack a quiz, school years or a picture, or are too long
   --strict          warnings count as errors
   --output FOLDER   where the data folder goes (FOLDER/data)
   --cache FOLDER    where made pictures and videos are kept (the user's cache folder)
@@ -30,11 +32,13 @@ Makes content for Kalyxo out of text files. FOLDER is the current folder when it
 
   new ΦΑΚΕΛΟΣ      φτιάχνει φάκελο με μία σελίδα από κάθε είδος, για να ξεκινήσεις
   check [ΦΑΚΕΛΟΣ]  λέει τι είναι λάθος και δεν γράφει τίποτε
+  counts [ΦΑΚΕΛΟΣ] λέει πόσα υπάρχουν από κάθε είδος
   build [ΦΑΚΕΛΟΣ]  φτιάχνει τον φάκελο δεδομένων που δείχνει το πρόγραμμα
   open [ΦΑΚΕΛΟΣ]   τον φτιάχνει και τον δείχνει στο πρόγραμμα
   watch [ΦΑΚΕΛΟΣ]  το ίδιο, και ξανά σε κάθε αλλαγή
 
   --base ΒΑΣΗ       με το new: στρώνει τον φάκελο πάνω σε άλλον ή στο περιεχόμενο του προγράμματος (kalyxo)
+  --complete        με το check: λέει και ποια θέματα δεν έχουν ερωτήσεις, τάξη ή εικόνα ή είναι πολύ μεγάλα
   --strict          οι προειδοποιήσεις μετρούν ως λάθη
   --output ΦΑΚΕΛΟΣ  πού μπαίνει ο φάκελος δεδομένων (ΦΑΚΕΛΟΣ/data)
   --cache ΦΑΚΕΛΟΣ   πού φυλάγονται εικόνες και βίντεο που έγιναν (η κρυφή μνήμη του χρήστη)

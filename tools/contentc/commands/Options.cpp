@@ -15,9 +15,10 @@ namespace {
 using Arguments = std::span<const char* const>;
 
 constexpr std::pair<std::string_view, Command> commands[] = {
-    {"new", Command::create}, {"check", Command::check}, {"build", Command::build},
-    {"open", Command::open},  {"watch", Command::watch}, {"--help", Command::help},
-    {"help", Command::help},  {"-h", Command::help},     {"--version", Command::version},
+    {"new", Command::create},        {"check", Command::check}, {"counts", Command::counts},
+    {"build", Command::build},       {"open", Command::open},   {"watch", Command::watch},
+    {"--help", Command::help},       {"help", Command::help},   {"-h", Command::help},
+    {"--version", Command::version},
 };
 
 class OptionReader {
@@ -51,8 +52,8 @@ class OptionReader {
     }
 
     std::optional<Phrase> readOption(std::string_view name) {
-        if (name == "--strict") {
-            options_.strict = true;
+        if (name == "--strict" || name == "--complete") {
+            (name == "--strict" ? options_.strict : options_.complete) = true;
             return std::nullopt;
         }
         constexpr std::string_view withValue[] = {"--output", "--cache", "--images", "--media", "--base"};

@@ -9,7 +9,7 @@
 
 namespace contentc {
 
-enum class Command { create, check, build, open, watch, help, version };
+enum class Command { create, check, counts, build, open, watch, help, version };
 
 /// What the command line asks for.
 struct Options {
@@ -23,6 +23,8 @@ struct Options {
     std::string base;
     /// Whether warnings count as errors.
     bool strict = false;
+    /// Whether `check` tells what topics lack.
+    bool complete = false;
 };
 
 /// Reads the arguments without the program's name. The phrase says what is wrong with them.

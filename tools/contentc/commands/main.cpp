@@ -2,6 +2,7 @@
 
 #include "tools/contentc/commands/Build.h"
 #include "tools/contentc/commands/CommandMessages.h"
+#include "tools/contentc/commands/Counts.h"
 #include "tools/contentc/commands/FolderWatch.h"
 #include "tools/contentc/commands/InstalledProgram.h"
 #include "tools/contentc/commands/NewFolder.h"
@@ -73,6 +74,8 @@ ExitStatus run(const Options& options, const InstalledProgram& installed) {
             return statusOf(makeNewFolder(options, installed));
         case Command::check:
             return statusOf(checkFolder(options));
+        case Command::counts:
+            return statusOf(tellCounts(options));
         case Command::build:
             return statusOf(buildFolder(options));
         case Command::open:

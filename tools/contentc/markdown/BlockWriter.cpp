@@ -62,13 +62,18 @@ class BlockWriter {
             caption_ = node;
             return;
         }
+        if (beginsTableRow(node)) diagnostics_.warning(placeOf(node), say::tableWithoutRule);
         writeElement(node, isLead_ ? "P CLASS=\"lead\"" : "P");
         isLead_ = false;
     }
 
     void writeHeading(cmark_node* node) {
         int level = cmark_node_get_heading_level(node);
-        if (level == 1) diagnostics_.error(placeOf(node), say::headingOfTitle);
+        if (level == 1) {
+            SourcePlace place = placeOf(node);
+            place.column = cmark_node_get_start_column(node);
+            diagnostics_.error(place, say::headingOfTitle);
+        }
         level = std::clamp(level, 2, 4);
         writeElement(node, "H" + std::to_string(level));
         isLead_ = false;
@@ -130,6 +135,11 @@ class BlockWriter {
         }
         lines_.add(end);
         lines_.endLine();
+    }
+
+    static bool beginsTableRow(cmark_node* paragraph) {
+        cmark_node* first = cmark_node_first_child(paragraph);
+        return first && literalOf(first).starts_with('|');
     }
 
     static bool isCaption(cmark_node* paragraph) {

@@ -16,6 +16,11 @@ inline constexpr Message termWithoutWords{"a glossary link without words",
 inline constexpr Message addressIsNotClosed{"the address of the link is not closed on its line",
                                             "η διεύθυνση του συνδέσμου δεν κλείνει στη γραμμή της"};
 inline constexpr Message linkWithoutAddress{"a link without an address", "σύνδεσμος χωρίς διεύθυνση"};
+inline constexpr Message strayAsterisks{"'{1}' has no partner, so it is shown as it is",
+                                        "το «{1}» δεν έχει ταίρι και θα φανεί έτσι όπως είναι"};
+inline constexpr Message tableWithoutRule{
+    "a table needs a line '|---|---|' below its first line",
+    "ένας πίνακας χρειάζεται κάτω από την πρώτη γραμμή του τη γραμμή «|---|---|»"};
 inline constexpr Message pictureInText{"a picture stands on a line of its own",
                                        "μια εικόνα μπαίνει σε δική της γραμμή"};
 inline constexpr Message unknownTermName{"no glossary term is called '{1}'",

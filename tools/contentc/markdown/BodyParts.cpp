@@ -75,6 +75,7 @@ std::string_view markInside(std::string_view text) {
     return trimmed(text.substr(2, text.size() - 4));
 }
 
+/// The heading of a box; the title is HTML.
 std::string titleOf(std::string_view kind, std::string_view title) {
     return std::string(kind).append(title.empty() ? "" : ": ").append(title);
 }
@@ -116,9 +117,9 @@ std::size_t BodyParts::writePart(Lines lines) {
     if (text == equationSign) return writeEquation(lines);
     if (text.starts_with(boxSign)) return writeBox(lines);
     if (const auto figure = readFigure(text)) {
-        writeFigure(*figure, line.place);
+        writeFigure(*figure, line);
     } else {
-        writeMark(markInside(text), line.place);
+        writeMark(markInside(text), line);
     }
     return 1;
 }
@@ -136,8 +137,8 @@ std::size_t BodyParts::writeEquation(Lines lines) {
         const bool isNote = text.starts_with("//");
         if (needsBreak && !isNote) lines_.add("<BR>");
         lines_.beginLine(line.place);
-        lines_.add(isNote ? "<SMALL>" + inlineOf(trimmed(text.substr(2)), line.place) + "</SMALL>"
-                          : formulaOf(text, line.place));
+        lines_.add(isNote ? "<SMALL>" + inlineOf(trimmed(text.substr(2)), line) + "</SMALL>"
+                          : formulaOf(text, line));
         needsBreak = !isNote;
     }
     lines_.add("</P>");
@@ -145,53 +146,58 @@ std::size_t BodyParts::writeEquation(Lines lines) {
     return end + 1;
 }
 
-std::string BodyParts::formulaOf(std::string_view text, const SourcePlace& place) {
-    Formula formula = compileFormula(text);
-    if (formula.fault) diagnostics_.error(place, *formula.fault, {text});
+std::string BodyParts::formulaOf(std::string_view part, const TextLine& line) {
+    Formula formula = compileFormula(part);
+    if (formula.fault) diagnostics_.error(placeOf(part, line), *formula.fault, {part});
     return std::move(formula.html);
 }
 
 std::size_t BodyParts::writeBox(Lines lines) {
-    const SourcePlace& place = lines.front().place;
+    const TextLine& line = lines.front();
+    const SourcePlace place = placeOf(trimmed(line.text), line);
     const std::size_t end = boxEnd(lines);
-    if (isBoxEnd(lines.front())) {
+    if (isBoxEnd(line)) {
         diagnostics_.error(place, say::closesNoBox);
         return 1;
     }
     if (end == lines.size()) diagnostics_.error(place, say::boxIsNotClosed);
-    const std::string_view words = trimmed(trimmed(lines.front().text).substr(boxSign.size()));
+    const std::string_view words = trimmed(trimmed(line.text).substr(boxSign.size()));
     if (++depth_ > maxBoxes) {
         diagnostics_.error(place, say::nestedTooDeep);
     } else {
-        writeBoxOf(words, lines.subspan(1, end - 1), place);
+        writeBoxOf(words, line, lines.subspan(1, end - 1));
     }
     --depth_;
     return end + 1;
 }
 
-void BodyParts::writeBoxOf(std::string_view words, Lines inner, const SourcePlace& place) {
+void BodyParts::writeBoxOf(std::string_view words, const TextLine& line, Lines inner) {
+    const SourcePlace& place = line.place;
     const auto [box, rest] = findKeyword(boxes, words);
+    const bool isCard = box == element || box == compound;
+    const std::string title = isCard || rest.empty() ? std::string() : inlineOf(rest, line);
     switch (box) {
         case fact:
-            return writeTitledBox("fact", rest.empty() ? "Το ήξερες;" : std::string(rest), inner, place);
+            return writeTitledBox("fact", title.empty() ? "Το ήξερες;" : title, inner, place);
         case experiment:
-            return writeTitledBox("experiment", titleOf("Πείραμα", rest), inner, place);
+            return writeTitledBox("experiment", titleOf("Πείραμα", title), inner, place);
         case example:
-            return writeTitledBox("example", titleOf("Παράδειγμα", rest), inner, place);
+            return writeTitledBox("example", titleOf("Παράδειγμα", title), inner, place);
         case caution:
-            return writeTitledBox("care", std::string(rest), inner, place);
+            return writeTitledBox("care", title, inner, place);
         case hint:
-            return writeTitledBox("hint", std::string(rest), inner, place);
+            return writeTitledBox("hint", title, inner, place);
         case question:
             return writeQuestion(inner, place);
         case quiz:
             return writeQuiz(inner, place);
         case element:
-            return writeCard(context_.elementCard, std::string(rest), inner, place);
+            return writeCard(context_.elementCard, std::string(rest), inner, placeOf(rest, line));
         case compound:
-            return writeCard(context_.compoundCard, std::string(rest), inner, place);
+            return writeCard(context_.compoundCard, std::string(rest), inner, placeOf(rest, line));
         default:
-            diagnostics_.error(place, say::unknownBox, {words}).suggestNearest(words, boxNames());
+            diagnostics_.error(placeOf(words, line), say::unknownBox, {words})
+                .suggestNearest(words, boxNames());
             write(inner, FirstParagraph::plain);
     }
 }
@@ -199,7 +205,7 @@ void BodyParts::writeBoxOf(std::string_view words, Lines inner, const SourcePlac
 void BodyParts::writeTitledBox(std::string_view style, const std::string& title, Lines inner,
                                const SourcePlace& place) {
     lines_.addLine("<DIV CLASS=\"" + std::string(style) + "\">", place);
-    if (!title.empty()) lines_.addLine("<H3>" + inlineOf(title, place) + "</H3>", place);
+    if (!title.empty()) lines_.addLine("<H3>" + title + "</H3>", place);
     write(inner, FirstParagraph::plain);
     lines_.addLine("</DIV>", place);
 }
@@ -222,8 +228,8 @@ void BodyParts::writeQuiz(Lines inner, const SourcePlace& place) {
     for (const TextLine& line : inner) {
         const std::string_view text = trimmed(line.text);
         if (text.empty()) continue;
-        lines_.addLine(std::string(text.substr(0, 1)) + ' ' + inlineOf(trimmed(text.substr(1)), line.place),
-                       line.place);
+        lines_.addLine(std::string(text.substr(0, 1)) + ' ' + inlineOf(trimmed(text.substr(1)), line),
+                       placeOf(text, line));
     }
     lines_.addLine("{{end}}", place);
 }
@@ -233,13 +239,14 @@ void BodyParts::writeCard(const CardMaker& maker, const std::string& name, Lines
     std::vector<CardRow> rows;
     for (const TextLine& line : inner) {
         if (isBlank(line)) continue;
-        const std::size_t colon = line.text.find(':');
-        if (colon == std::string::npos) {
-            diagnostics_.error(line.place, say::notACardRow);
+        const std::string_view text = line.text;
+        const std::size_t colon = text.find(':');
+        if (colon == std::string_view::npos) {
+            diagnostics_.error(placeOf(trimmed(text), line), say::notACardRow);
             continue;
         }
-        rows.push_back({inlineOf(trimmed(line.text.substr(0, colon)), line.place),
-                        inlineOf(trimmed(line.text.substr(colon + 1)), line.place)});
+        rows.push_back({inlineOf(trimmed(text.substr(0, colon)), line),
+                        inlineOf(trimmed(text.substr(colon + 1)), line)});
     }
     const std::string card = maker ? maker(name, rows, place, diagnostics_) : std::string();
     for (std::size_t at = 0; at < card.size();) {
@@ -249,28 +256,31 @@ void BodyParts::writeCard(const CardMaker& maker, const std::string& name, Lines
     }
 }
 
-void BodyParts::writeFigure(const FigureLine& figure, const SourcePlace& place) {
-    if (!figure.unknown.empty()) diagnostics_.error(place, say::unknownPictureSetting, {figure.unknown});
+void BodyParts::writeFigure(const FigureLine& figure, const TextLine& line) {
+    const SourcePlace place = placeOf(trimmed(line.text), line);
+    if (!figure.unknown.empty())
+        diagnostics_.error(placeOf(figure.unknown, line), say::unknownPictureSetting, {figure.unknown});
     if (figure.alternative.empty()) diagnostics_.error(place, say::pictureWithoutWords);
     const auto size = sizeOf(figure, context_.pictures);
-    if (!size) return reportPicture(figure.file, place);
+    if (!size) return reportPicture(figure.file, placeOf(figure.file, line));
     std::string html = figure.isBeside ? "<DIV CLASS=\"figure side\">" : "<DIV CLASS=\"figure\">";
     html += "<IMG SRC=\"{{data}}images\\" + shownPicture(figure.file) + '"';
     if (size->width > 0 && size->height > 0)
         html += " WIDTH=" + std::to_string(size->width) + " HEIGHT=" + std::to_string(size->height);
     html += " ALT=\"" + escapeHtml(figure.alternative) + "\">";
     lines_.addLine(html, place);
-    const std::string caption = inlineOf(figure.caption, place);
+    const std::string caption = inlineOf(figure.caption, line);
     lines_.addLine((caption.empty() ? "" : "<P CLASS=\"caption\">" + caption + "</P>") + "</DIV>", place);
 }
 
-void BodyParts::reportPicture(const std::string& file, const SourcePlace& place) {
+void BodyParts::reportPicture(std::string_view file, const SourcePlace& place) {
     std::vector<std::string> names;
     for (const auto& [name, size] : context_.pictures) names.push_back(name);
     diagnostics_.error(place, say::unknownPicture, {file}).suggestNearest(file, names);
 }
 
-void BodyParts::writeMark(std::string_view words, const SourcePlace& place) {
+void BodyParts::writeMark(std::string_view words, const TextLine& line) {
+    const SourcePlace place = placeOf(trimmed(line.text), line);
     const auto [mark, rest] = findKeyword(marks, words);
     if (mark >= contents && !page_.section) {
         diagnostics_.error(place, say::listOutsideSections);
@@ -278,10 +288,10 @@ void BodyParts::writeMark(std::string_view words, const SourcePlace& place) {
     }
     switch (mark) {
         case video:
-            return writeVideo(rest, place);
+            return writeVideo(rest, line);
         case molecule:
             hasMolecule_ = true;
-            return lines_.addLine("{{molecule " + std::string(rest) + "}}", place);
+            return lines_.addLine("{{molecule " + std::string(rest) + "}}", placeOf(rest, line));
         case contents:
             hasTopicList_ = true;
             return writeList(topicList(context_.content, page_, ListHeading::none), place);
@@ -289,7 +299,7 @@ void BodyParts::writeMark(std::string_view words, const SourcePlace& place) {
             hasEntryList_ = true;
             return writeList(entryList(context_.content, page_, ListHeading::none), place);
         case schoolClass:
-            return writeSchoolYear(rest, place);
+            return writeSchoolYear(rest, placeOf(rest, line));
         case timeline:
             return writeList(timeLine(context_.content), place);
         default:
@@ -307,27 +317,26 @@ void BodyParts::writeSchoolYear(std::string_view year, const SourcePlace& place)
     diagnostics_.error(place, say::unknownSchoolYear, {year});
 }
 
-void BodyParts::writeVideo(std::string_view words, const SourcePlace& place) {
+void BodyParts::writeVideo(std::string_view words, const TextLine& line) {
+    const SourcePlace place = placeOf(words, line);
     const std::size_t quote = std::min(words.find('"'), words.size());
     std::string_view caption = words.substr(quote);
     if (caption.size() > 1 && caption.ends_with('"')) {
         caption = caption.substr(1, caption.size() - 2);
     } else if (!caption.empty()) {
-        diagnostics_.error(place, say::captionIsNotClosed);
+        diagnostics_.error(placeOf(caption, line), say::captionIsNotClosed);
     }
     lines_.addLine("<DIV CLASS=\"film\">", place);
     lines_.addLine("{{video " + std::string(trimmed(words.substr(0, quote))) + "}}", place);
-    const std::string text = inlineOf(caption, place);
-    lines_.addLine("<P CLASS=\"caption\">" + text + (text.empty() ? "" : " ") +
-                       "<A HREF=\"{{enlarge}}\">Μεγέθυνση</A></P>",
-                   place);
+    const std::string text = inlineOf(caption, line);
+    const std::string link = page_.section ? "<A HREF=\"{{enlarge}}\">Μεγέθυνση</A>" : "";
+    lines_.addLine("<P CLASS=\"caption\">" + text + (text.empty() ? "" : " ") + link + "</P>", place);
     lines_.addLine("</DIV>", place);
 }
 
-std::string BodyParts::inlineOf(std::string_view text, const SourcePlace& place) {
-    SourcePlace unknown = place;
-    unknown.column = -1;
-    return inlineHtml({std::string(text), unknown}, context_, page_, diagnostics_);
+std::string BodyParts::inlineOf(std::string_view part, const TextLine& line) {
+    if (part.empty()) return {};
+    return inlineHtml({std::string(part), placeOf(part, line)}, context_, page_, diagnostics_);
 }
 
 }  // namespace contentc

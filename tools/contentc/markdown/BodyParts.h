@@ -33,20 +33,21 @@ class BodyParts {
     std::size_t writePart(Lines lines);
     std::size_t writeEquation(Lines lines);
     std::size_t writeBox(Lines lines);
-    void writeBoxOf(std::string_view words, Lines inner, const SourcePlace& place);
+    void writeBoxOf(std::string_view words, const TextLine& line, Lines inner);
     void writeTitledBox(std::string_view style, const std::string& title, Lines inner,
                         const SourcePlace& place);
     void writeQuestion(Lines inner, const SourcePlace& place);
     void writeQuiz(Lines inner, const SourcePlace& place);
     void writeCard(const CardMaker& maker, const std::string& name, Lines inner, const SourcePlace& place);
-    void writeFigure(const FigureLine& figure, const SourcePlace& place);
-    void reportPicture(const std::string& file, const SourcePlace& place);
-    void writeMark(std::string_view words, const SourcePlace& place);
+    void writeFigure(const FigureLine& figure, const TextLine& line);
+    void reportPicture(std::string_view file, const SourcePlace& place);
+    void writeMark(std::string_view words, const TextLine& line);
     void writeList(const HtmlList& list, const SourcePlace& place);
     void writeSchoolYear(std::string_view year, const SourcePlace& place);
-    void writeVideo(std::string_view words, const SourcePlace& place);
-    std::string inlineOf(std::string_view text, const SourcePlace& place);
-    std::string formulaOf(std::string_view text, const SourcePlace& place);
+    void writeVideo(std::string_view words, const TextLine& line);
+    /// A part of a line of the source as HTML.
+    std::string inlineOf(std::string_view part, const TextLine& line);
+    std::string formulaOf(std::string_view part, const TextLine& line);
 
     const BodyContext& context_;
     const PageSource& page_;

@@ -12,15 +12,15 @@ constexpr std::int32_t maxWidth = 10000;
 constexpr std::array<Keyword, 1> beside{{{"πλάι", "side"}}};
 
 /// Takes what stands up to `end` off the front, with `end`.
-std::optional<std::string> takeUntil(std::string_view& text, std::string_view end) {
+std::optional<std::string_view> takeUntil(std::string_view& text, std::string_view end) {
     const std::size_t at = text.find(end);
     if (at == std::string_view::npos) return std::nullopt;
-    std::string taken(trimmed(text.substr(0, at)));
+    const std::string_view taken = trimmed(text.substr(0, at));
     text.remove_prefix(at + end.size());
     return taken;
 }
 
-void readSetting(FigureLine& figure, const std::string& setting) {
+void readSetting(FigureLine& figure, std::string_view setting) {
     const auto width = parseNumber(setting);
     if (width && *width > 0 && *width <= maxWidth) {
         figure.width = *width;
@@ -74,10 +74,10 @@ std::optional<PictureSize> sizeOf(const FigureLine& figure, const PictureSizes& 
     return size;
 }
 
-std::string shownPicture(const std::string& file) {
+std::string shownPicture(std::string_view file) {
     constexpr std::string_view drawing = ".svg";
-    if (!file.ends_with(drawing)) return file;
-    return file.substr(0, file.size() - drawing.size()) + ".png";
+    if (!file.ends_with(drawing)) return std::string(file);
+    return std::string(file.substr(0, file.size() - drawing.size())) + ".png";
 }
 
 }  // namespace contentc

@@ -176,9 +176,10 @@ class FormulaCompilation {
         return false;
     }
 
-    /// A minus before a number, and a bond between symbols.
+    /// A minus before a number, and a bond between symbols or before the first.
     void takeHyphen() {
         const char next = at_ + 1 < source_.size() ? source_[at_ + 1] : ' ';
+        if (at_ == 0 && next >= 'A' && next <= 'Z') return put("\u2013", 1, Before::sign);
         const bool isBehindSymbol =
             before_ == Before::letter || before_ == Before::closing || before_ == Before::script;
         // Names such as C-14 keep their hyphen.

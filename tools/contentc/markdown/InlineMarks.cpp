@@ -12,7 +12,7 @@ namespace {
 /// The place of a byte of a line, which may be a part of a line of the source.
 SourcePlace placeAt(const TextLine& line, std::size_t offset) {
     SourcePlace place = line.place;
-    place.column = place.column < 0 ? 0 : std::max(place.column, 1) - 1 + columnAt(line.text, offset);
+    place.column = std::max(place.column, 1) - 1 + columnAt(line.text, offset);
     return place;
 }
 
@@ -62,7 +62,7 @@ class MarkFinder {
             fail(say::formulaIsNotClosed);
             return keep(1);
         }
-        add({InlineMark::Kind::formula, std::string(rest_.substr(1, end - 1)), {}, here()}, end + 1);
+        add({InlineMark::Kind::formula, std::string(rest_.substr(1, end - 1)), {}, here(), {}}, end + 1);
     }
 
     void takeTerm() {
@@ -78,9 +78,12 @@ class MarkFinder {
         // In tables Markdown wants a backslash before the bar.
         if (bar != std::string_view::npos && shown.ends_with('\\')) shown.remove_suffix(1);
         const std::string words(trimmed(shown));
+        const SourcePlace wordsPlace =
+            placeAt(*line_, static_cast<std::size_t>(inner.data() - line_->text.data()) +
+                                inner.find_first_not_of(" \t"));
         const std::string term(bar == std::string_view::npos ? words : trimmed(inner.substr(bar + 1)));
         if (words.empty()) fail(say::termWithoutWords);
-        add({InlineMark::Kind::term, words, term, here()}, end + bracketSize);
+        add({InlineMark::Kind::term, words, term, here(), wordsPlace}, end + bracketSize);
     }
 
     void takeTarget() {
@@ -95,7 +98,7 @@ class MarkFinder {
         const std::string address(trimmed(rest_.substr(begin, end - begin)));
         if (address.empty()) fail(say::linkWithoutAddress);
         marked_.text.append("](");
-        add({InlineMark::Kind::target, address, {}, place}, end + (hasBrackets ? 2 : 1));
+        add({InlineMark::Kind::target, address, {}, place, {}}, end + (hasBrackets ? 2 : 1));
         marked_.text.append(")");
     }
 

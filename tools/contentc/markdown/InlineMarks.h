@@ -24,6 +24,8 @@ struct InlineMark {
     /// The name of the term; the words unless another is given.
     std::string term;
     SourcePlace place;
+    /// Where the words of a term begin.
+    SourcePlace wordsPlace;
 };
 
 /// Lines of Markdown in which our conventions are replaced by one character each (see `firstMark`), so that
@@ -38,8 +40,7 @@ struct MarkedText {
 bool isCodeFence(std::string_view line);
 
 /// Finds the conventions in lines in UTF-8. The place of a line that is a part of a line of the source has
-/// the column in which it begins, or −1 when that is not known. Those that are not closed on their line are
-/// reported. Code is left alone.
+/// the column in which it begins. Those that are not closed on their line are reported. Code is left alone.
 MarkedText markInlines(const std::vector<TextLine>& lines, Diagnostics& diagnostics);
 
 }  // namespace contentc

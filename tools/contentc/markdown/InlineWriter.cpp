@@ -27,14 +27,15 @@ std::string escaped(std::string_view text, std::initializer_list<std::string_vie
 std::string escapedText(std::string_view text) { return escaped(text, {"[["}); }
 
 /// The line with a backslash before what Markdown would take for the beginning of a list, heading or
-/// quotation.
+/// quotation, or for a rule.
 std::string withoutBlockSigns(std::string_view line) {
     const std::size_t digits = std::min(line.find_first_not_of("0123456789"), line.size());
     const std::string_view sign = line.substr(digits, line.find(' ') - digits);
     const bool isNumbering = digits > 0 && (sign == "." || sign == ")");
     const bool isHeading = !sign.empty() && sign.find_first_not_of('#') == std::string_view::npos;
     const bool isBullet = sign == "-" || sign == "+" || sign == "*" || isHeading || sign.starts_with('>');
-    if (!isNumbering && (digits > 0 || !isBullet)) return std::string(line);
+    const bool isRule = line.find_first_not_of("-*_ ") == std::string_view::npos;
+    if (!isNumbering && !isRule && (digits > 0 || !isBullet)) return std::string(line);
     return std::string(line.substr(0, digits)) + '\\' + std::string(line.substr(digits));
 }
 
@@ -67,8 +68,7 @@ void InlineWriter::write(cmark_node* node) {
         case CMARK_NODE_LINK:
             return writeLink(node);
         case CMARK_NODE_IMAGE:
-            diagnostics_.error(lines_->place(), say::pictureInText);
-            return;
+            return reportPicture(node);
         default:
             for (cmark_node* child : childrenOf(node)) write(child);
     }
@@ -79,7 +79,11 @@ void InlineWriter::writeHtml(std::string_view html, HtmlLines& lines) {
     writeBetweenMarks(html, [](std::string_view plain) { return std::string(plain); });
 }
 
-void InlineWriter::writeText(std::string_view text) { writeBetweenMarks(typeset(text), escapedText); }
+void InlineWriter::writeText(std::string_view text) {
+    if (text.find("**") != std::string_view::npos)
+        diagnostics_.warning(lines_->place(), say::strayAsterisks, {"**"});
+    writeBetweenMarks(typeset(text), escapedText);
+}
 
 void InlineWriter::writeBetweenMarks(std::string_view set, std::string (*form)(std::string_view)) {
     std::string plain;
@@ -112,9 +116,7 @@ void InlineWriter::writeTerm(const InlineMark& mark) {
         diagnostics_.error(mark.place, say::unknownTermName, {mark.term})
             .suggestNearest(mark.term, context_.terms.names());
     }
-    SourcePlace place = mark.place;
-    place.column = -1;
-    const std::string words = inlineHtml({mark.text, place}, context_, page_, diagnostics_);
+    const std::string words = inlineHtml({mark.text, mark.wordsPlace}, context_, page_, diagnostics_);
     lines_->add(term && !words.empty() ? "[[" + term->key + '|' + words + "]]" : words);
 }
 
@@ -140,6 +142,11 @@ void InlineWriter::writeLink(cmark_node* node) {
     if (!found.address.empty()) lines_->add("</A>");
 }
 
+void InlineWriter::reportPicture(cmark_node* node) {
+    const InlineMark* file = targetOf(node);
+    diagnostics_.error(file ? file->place : lines_->place(), say::pictureInText);
+}
+
 void InlineWriter::writeInside(cmark_node* node, std::string_view tag) {
     lines_->add("<" + std::string(tag) + ">");
     for (cmark_node* child : childrenOf(node)) write(child);
@@ -153,7 +160,13 @@ std::string inlineHtml(const TextLine& line, const BodyContext& context, const P
     HtmlLines lines;
     lines.beginLine(line.place);
     InlineWriter writer(context, page, marked.marks, diagnostics);
-    for (cmark_node* block : childrenOf(tree.get())) writer.writeChildren(block, lines);
+    for (cmark_node* block : childrenOf(tree.get())) {
+        if (cmark_node_get_type(block) == CMARK_NODE_HTML_BLOCK) {
+            writer.writeHtml(trimmed(literalOf(block).substr(0, literalOf(block).find('\n'))), lines);
+        } else {
+            writer.writeChildren(block, lines);
+        }
+    }
     std::string html;
     for (const TextLine& part : lines.take()) html += (html.empty() ? "" : " ") + part.text;
     return html;

@@ -30,6 +30,7 @@ class InlineWriter {
     void writeMark(const InlineMark& mark);
     void writeTerm(const InlineMark& mark);
     void writeLink(cmark_node* node);
+    void reportPicture(cmark_node* node);
     void writeInside(cmark_node* node, std::string_view tag);
     /// The mark whose character is the address of a link. Null when there is none.
     const InlineMark* targetOf(cmark_node* link) const;

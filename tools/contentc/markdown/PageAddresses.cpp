@@ -36,6 +36,7 @@ const PageSource* findPage(const TextLine& name, const PageIndex& pages, const P
 
 LinkTarget linkTarget(const TextLine& name, const PageIndex& pages, const PageSource& from,
                       Diagnostics& diagnostics) {
+    if (name.text.empty()) return {};
     if (isOtherAddress(name.text)) return {escapeHtml(name.text), {}};
     if (!from.section) diagnostics.error(name.place, say::linkOutsideSections);
     const PageSource* page = findPage(name, pages, from, diagnostics);

@@ -1,6 +1,7 @@
 #include "tools/contentc/markdown/PageRelations.h"
 
 #include <algorithm>
+#include <set>
 
 #include "formats/TitleLists.h"
 #include "platform/text/CodePage1253.h"
@@ -10,6 +11,11 @@ namespace contentc {
 namespace {
 
 constexpr std::int32_t listOfElements = 1;
+
+/// Takes out the page itself and those that are named already.
+void keepNew(std::vector<const PageSource*>& pages, std::set<const PageSource*>& named) {
+    std::erase_if(pages, [&named](const PageSource* page) { return !named.insert(page).second; });
+}
 
 void addOnce(std::vector<const PageSource*>& pages, const PageSource* page) {
     if (std::ranges::find(pages, page) == pages.end()) pages.push_back(page);
@@ -49,6 +55,10 @@ void PageRelations::addNamed(const Content& content, const PageIndex& pages, Dia
         for (const TextLine& name : page.see) {
             if (const PageSource* other = find(page, name)) addOnce(relations_[&page].see, other);
         }
+    }
+    for (auto& [page, relation] : relations_) {
+        std::set<const PageSource*> named{page};
+        for (auto* list : {&relation.before, &relation.after, &relation.see}) keepNew(*list, named);
     }
 }
 

@@ -54,9 +54,8 @@ Making makingOfDrawing(const SourceFile& drawing) {
 bool isPartOf(const fs::path& path, const SourceFile& film) {
     const std::string extension = path.extension().string();
     const bool isScript = extension == ".awk" || extension == ".sh";
-    return path.stem() == film.path.stem()
-               ? isScript
-               : isScript && !fs::exists(fs::path(path).replace_extension(".json"));
+    return path.stem() == film.path.stem() ? isScript
+                                           : isScript && !isThere(fs::path(path).replace_extension(".json"));
 }
 
 Making makingOfFilm(const SourceFile& film) {

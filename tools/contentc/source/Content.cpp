@@ -44,25 +44,32 @@ std::vector<std::string> sectionKeys() {
     return keys;
 }
 
+/// The list of an entry, and the section that a topic's number suits.
+constexpr std::int32_t groupOf(std::int32_t number) { return number / 10'000 * 10'000; }
+
 /// The first free number of an author's own: topics from SS9000 on, entries from 5000 on in their list.
 std::int32_t freeNumber(const PageSource& page, const std::set<std::int32_t>& taken) {
-    constexpr std::int32_t firstOwnTopic = 9000;
     constexpr std::int32_t firstOwnEntry = 5000;
-    const std::int32_t group = page.number / 10'000 * 10'000;
-    std::int32_t number = group + (page.kind == PageKind::entry ? firstOwnEntry : firstOwnTopic);
+    const bool isEntry = page.kind == PageKind::entry;
+    std::int32_t number = isEntry ? groupOf(page.number) + firstOwnEntry : firstOwnTopic(*page.section);
     while (taken.contains(number)) ++number;
     return number;
 }
 
-/// Of pages with one number the first stays, and the others are reported.
+/// Of pages with one number the first stays whose section it suits, and the others are reported.
 void dropSecondPages(std::vector<PageSource>& pages, Diagnostics& diagnostics) {
     std::map<std::int32_t, std::string> files;
     std::set<std::int32_t> taken;
-    for (const PageSource& page : pages) taken.insert(page.number);
+    for (const PageSource& page : pages) {
+        taken.insert(page.number);
+        const bool suits = groupOf(page.number) == groupOf(page.section->startPage);
+        if (suits) files.try_emplace(page.number, page.place.file);
+    }
+    for (const PageSource& page : pages) files.try_emplace(page.number, page.place.file);
     std::erase_if(pages, [&](const PageSource& page) {
-        const auto [first, isNew] = files.try_emplace(page.number, page.place.file);
-        if (isNew) return false;
-        diagnostics.error(page.place, say::numberIsTaken, {page.number, first->second})
+        const std::string& first = files[page.number];
+        if (first == page.place.file) return false;
+        diagnostics.error(page.place, say::numberIsTaken, {page.number, shownFile(first)})
             .suggest(say::takeNumber, {freeNumber(page, taken)});
         return true;
     });

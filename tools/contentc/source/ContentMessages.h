@@ -37,6 +37,16 @@ inline constexpr Message moleculeIsUnused{"no page uses this molecule",
                                           "καμία σελίδα δεν χρησιμοποιεί αυτό το μόριο"};
 inline constexpr Message videoIsUnused{"no page uses this video",
                                        "καμία σελίδα δεν χρησιμοποιεί αυτό το βίντεο"};
+inline constexpr Message otherWordIsUsed{"'{1}' is not the word that is used here", "εδώ δεν γράφουμε «{1}»"};
+inline constexpr Message notATerminologyLine{"not a line 'wrong | right'",
+                                             "δεν είναι γραμμή «λάθος | σωστό»"};
+inline constexpr Message topicWithoutQuiz{"the topic has no quiz", "το θέμα δεν έχει ερωτήσεις"};
+inline constexpr Message topicWithoutClass{"the topic names no school year ('class')",
+                                           "το θέμα δεν λέει σε ποια τάξη ανήκει («τάξη»)"};
+inline constexpr Message topicWithoutMedia{"the topic has neither picture nor molecule, film or tool",
+                                           "το θέμα δεν έχει ούτε εικόνα ούτε μόριο, βίντεο ή εργαλείο"};
+inline constexpr Message topicIsTooLong{"the topic has {1} words; at most {2} are read",
+                                        "το θέμα έχει {1} λέξεις· διαβάζονται ως {2}"};
 inline constexpr Message unknownClass{"no style is called '{1}'", "κανένα στιλ δεν λέγεται «{1}»"};
 
 }  // namespace contentc::say

@@ -11,9 +11,7 @@ namespace contentc {
 namespace {
 
 std::string toText(const SourcePlace& place) {
-    // As the author would name it in the current folder.
-    const std::string_view file = std::string_view(place.file).substr(place.file.starts_with("./") ? 2 : 0);
-    std::string text = std::string(file) + ':' + std::to_string(place.line) + ':';
+    std::string text = std::string(shownFile(place.file)) + ':' + std::to_string(place.line) + ':';
     if (place.column > 0) text += std::to_string(place.column) + ':';
     return text;
 }
@@ -25,6 +23,8 @@ auto sortKey(const Diagnostic& found) {
 }
 
 }  // namespace
+
+std::string_view shownFile(std::string_view file) { return file.substr(file.starts_with("./") ? 2 : 0); }
 
 int columnAt(std::string_view utf8Line, std::size_t offset) {
     const auto before = utf8Line.substr(0, offset);
@@ -61,6 +61,10 @@ Diagnostic& Diagnostics::warning(const SourcePlace& place, const Message& messag
 }
 
 void Diagnostics::add(Diagnostics more) { std::ranges::move(more.found_, std::back_inserter(found_)); }
+
+void Diagnostics::change(const std::function<void(Diagnostic&)>& change) {
+    std::ranges::for_each(found_, change);
+}
 
 bool Diagnostics::hasErrors() const {
     return std::ranges::any_of(found_, [](const Diagnostic& d) { return d.severity == Severity::error; });

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,6 +20,9 @@ struct SourcePlace {
 
     bool operator==(const SourcePlace&) const = default;
 };
+
+/// A file's name as the author would write it in the current folder.
+std::string_view shownFile(std::string_view file);
 
 /// The column of a place in a line of UTF-8; `offset` is in bytes.
 int columnAt(std::string_view utf8Line, std::size_t offset);
@@ -53,6 +57,9 @@ class Diagnostics {
 
     /// Adds what another collection has found.
     void add(Diagnostics more);
+
+    /// Changes each.
+    void change(const std::function<void(Diagnostic&)>& change);
 
     bool hasErrors() const;
 

@@ -11,6 +11,7 @@ inline constexpr Message notAHeadLine{"not a header line 'name: value'", "δεν
 inline constexpr Message fieldStandsTwice{"header field '{1}' stands twice", "το «{1}» υπάρχει δύο φορές"};
 inline constexpr Message unknownField{"unknown header field '{1}'", "άγνωστο όνομα «{1}»"};
 inline constexpr Message fieldIsMissing{"header field '{1}' is missing", "λείπει το «{1}»"};
+inline constexpr Message writeALine{"write a line '{1}'", "γράψε μια γραμμή «{1}»"};
 inline constexpr Message fieldIsEmpty{"header field '{1}' is empty", "το «{1}» είναι κενό"};
 inline constexpr Message fieldIsTooLong{"{1} has {2} bytes, at most {3} fit",
                                         "το «{1}» έχει {2} χαρακτήρες, χωρούν ως {3}"};
@@ -21,6 +22,7 @@ inline constexpr Message topicWithoutSummary{"a topic needs a summary, for the l
 inline constexpr Message unknownSchoolYear{"no school year: '{1}'", "δεν είναι σχολική τάξη: «{1}»"};
 inline constexpr Message notANumber{"not a number: '{1}'", "δεν είναι αριθμός: «{1}»"};
 inline constexpr Message unknownTopic{"section '{1}' has no topic {2}", "η ενότητα «{1}» δεν έχει θέμα {2}"};
+inline constexpr Message nameFileSo{"name it {1}", "ονόμασέ το {1}"};
 inline constexpr Message notAPageNumber{"file name is not a page number: '{1}'",
                                         "το όνομα του αρχείου δεν αρχίζει με αριθμό σελίδας: «{1}»"};
 inline constexpr Message otherStartPage{"the start page of this section is {1}, not {2}",
@@ -40,7 +42,7 @@ inline constexpr Message lineIsTooLong{"line is longer than {1} bytes",
                                        "η γραμμή έχει πάνω από {1} χαρακτήρες"};
 inline constexpr Message definitionIsTooShort{"definition is missing or too short to be shown",
                                               "ο ορισμός λείπει ή είναι πολύ μικρός για να φανεί"};
-inline constexpr Message termIsCalledSoToo{"another term is called '{1}' too, in {2}",
-                                           "και άλλος όρος λέγεται «{1}», στο {2}"};
+inline constexpr Message termIsCalledSoToo{"another term is called '{1}' too, in {2}:{3}",
+                                           "και άλλος όρος λέγεται «{1}», στο {2}:{3}"};
 
 }  // namespace contentc::say

@@ -34,7 +34,7 @@ std::vector<TextLine> partsOf(const TextLine* field) {
     while (!rest.empty()) {
         const std::size_t end = std::min(rest.find(';'), rest.size());
         const std::string_view part = trimmed(rest.substr(0, end));
-        if (!part.empty()) parts.push_back({std::string(part), field->place});
+        if (!part.empty()) parts.push_back({std::string(part), placeOfBytes(part, *field)});
         rest.remove_prefix(std::min(end + 1, rest.size()));
     }
     return parts;
@@ -78,8 +78,9 @@ class HeadReader {
         if (const TextLine* field = header_.find("summary")) {
             page_.summary = *field;
             checkLength("summary", *field, maxSummary);
-        } else if (page_.kind == PageKind::topic) {
-            diagnostics_.warning(page_.title.place, say::topicWithoutSummary);
+        } else if (page_.kind == PageKind::topic && page_.number != 0) {
+            const bool hasTitle = !page_.title.place.file.empty();
+            diagnostics_.warning(hasTitle ? page_.title.place : page_.place, say::topicWithoutSummary);
         }
     }
 

@@ -45,7 +45,7 @@ class IgnoredFilesReport {
 
     void run() {
         for (const fs::path& path : listFolder(root_)) {
-            if (fs::is_directory(path)) {
+            if (isFolder(path)) {
                 checkTopFolder(path);
             } else if (placeOf(path) && !isAtHomeOnTop(path)) {
                 ignored(path, ".");
@@ -71,31 +71,33 @@ class IgnoredFilesReport {
             if (use.name == name) return checkFolder(folder, use);
         }
         // A data folder that was built here before is no source.
-        if (fs::exists(folder / "a.htm")) return;
+        if (isThere(folder / "a.htm")) return;
         diagnostics_.warning({folder.generic_string()}, say::unknownFolderIsIgnored)
             .suggestNearest(name, names);
     }
 
     void checkFolder(const fs::path& folder, const SourceFolderUse& use) {
         for (const fs::path& path : listFolder(folder)) {
-            const bool isFolder = fs::is_directory(path);
-            if (isFolder && use.hasFolders) {
+            if (use.hasFolders && isFolder(path)) {
                 checkFiles(path, use);
-            } else if (isFolder) {
-                diagnostics_.warning({path.generic_string()}, say::folderIsIgnored);
-            } else if (use.hasFolders || !takes(use, path)) {
-                ignored(path, use.name);
+            } else {
+                checkFile(path, use);
             }
         }
     }
 
     void checkFiles(const fs::path& folder, const SourceFolderUse& use) {
         for (const fs::path& path : listFolder(folder)) {
-            if (fs::is_directory(path)) {
-                diagnostics_.warning({path.generic_string()}, say::folderIsIgnored);
-            } else if (!takes(use, path)) {
-                ignored(path, use.name);
-            }
+            // That one of these should be a file is told where it is read.
+            if (!takes(use, path)) checkFile(path, use);
+        }
+    }
+
+    void checkFile(const fs::path& path, const SourceFolderUse& use) {
+        if (isFolder(path)) {
+            diagnostics_.warning({path.generic_string()}, say::folderIsIgnored);
+        } else if (use.hasFolders || !takes(use, path)) {
+            ignored(path, use.name);
         }
     }
 
@@ -138,6 +140,16 @@ std::span<const SourceFolderUse> sourceFolderUses() {
         {"tools", {".js", ".css", ".txt"}, true},
     };
     return uses;
+}
+
+bool isFolder(const fs::path& path) {
+    std::error_code failed;
+    return fs::is_directory(path, failed);
+}
+
+bool isThere(const fs::path& path) {
+    std::error_code failed;
+    return fs::exists(path, failed);
 }
 
 std::vector<fs::path> listFolder(const fs::path& folder) {

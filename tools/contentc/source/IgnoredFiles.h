@@ -20,6 +20,10 @@ struct SourceFolderUse {
 /// The folders of the sources.
 std::span<const SourceFolderUse> sourceFolderUses();
 
+/// Whether there is such a folder, or anything of this name; not when the system fails to tell.
+bool isFolder(const std::filesystem::path& path);
+bool isThere(const std::filesystem::path& path);
+
 /// The visible entries of a folder, sorted by name; none when there is no such folder. Backups of editors are
 /// left out.
 std::vector<std::filesystem::path> listFolder(const std::filesystem::path& folder);

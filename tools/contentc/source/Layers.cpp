@@ -5,6 +5,7 @@
 
 #include "platform/text/CodePage1253.h"
 #include "tools/contentc/source/FileMessages.h"
+#include "tools/contentc/source/IgnoredFiles.h"
 #include "tools/contentc/source/SourceFile.h"
 #include "tools/contentc/source/SourceText.h"
 
@@ -14,11 +15,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view installedName = "kalyxo";
-
-bool isFolder(const fs::path& path) {
-    std::error_code failed;
-    return fs::is_directory(path, failed);
-}
 
 fs::path realPath(const fs::path& path) {
     std::error_code failed;
@@ -57,7 +53,7 @@ class LayerFinder {
         const fs::path real = realPath(layer.folder);
         layers_.push_back(layer);
         open_.push_back(real);
-        if (fs::exists(real / layerFileName)) readBases(layer.folder);
+        if (isThere(real / layerFileName)) readBases(layer.folder);
         open_.pop_back();
     }
 

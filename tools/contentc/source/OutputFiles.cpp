@@ -34,7 +34,8 @@ void OutputFiles::add(const std::string& path, std::string bytes, const SourcePl
     }
     std::string key = normalised(path);
     const auto [place, isNew] = files_.try_emplace(std::move(key), File{path, std::move(bytes), source});
-    if (!isNew) diagnostics.error(source, say::fileIsMadeAlready, {path, place->second.source.file});
+    if (!isNew)
+        diagnostics.error(source, say::fileIsMadeAlready, {path, shownFile(place->second.source.file)});
 }
 
 bool OutputFiles::contains(std::string_view path) const { return files_.contains(normalised(path)); }

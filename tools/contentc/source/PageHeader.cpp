@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform/text/CodePage1253.h"
+#include "platform/text/Fold.h"
 #include "platform/text/GreekLiteral.h"
 #include "tools/contentc/source/HeadMessages.h"
 
@@ -18,10 +19,18 @@ constexpr std::pair<std::string_view, std::string_view> greekNames[] = {
     {"δες"_gr, "see"},          {"αναζήτηση"_gr, "search"}, {"έτος"_gr, "year"},
 };
 
+/// The English name of a field, for a Greek or English one in whatever case and with or without accents; any
+/// other name stays.
 std::string_view englishName(std::string_view name) {
-    const auto found =
-        std::ranges::find(greekNames, name, &std::pair<std::string_view, std::string_view>::first);
-    return found == std::end(greekNames) ? name : found->second;
+    const std::string folded = platform::fold(name);
+    for (const auto& [greek, english] : greekNames) {
+        if (platform::fold(greek) == folded || english == folded) return english;
+    }
+    return name;
+}
+
+bool isGreekName(std::string_view name) {
+    return std::ranges::any_of(name, [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
 }
 
 }  // namespace
@@ -40,18 +49,20 @@ std::optional<PageHeader> PageHeader::read(const SourceFile& file, const std::ve
 
 void PageHeader::add(const TextLine& line, Diagnostics& diagnostics) {
     if (trimmed(line.text).empty()) return;
-    const std::size_t colon = line.text.find(':');
-    if (colon == std::string::npos) {
-        diagnostics.error(line.place, say::notAHeadLine);
+    const std::string_view text = line.text;
+    const std::size_t colon = text.find(':');
+    if (colon == std::string_view::npos) {
+        diagnostics.error(placeOfBytes(trimmed(text), line), say::notAHeadLine);
         return;
     }
-    const std::string_view written = trimmed(std::string_view(line.text).substr(0, colon));
+    const std::string_view written = trimmed(text.substr(0, colon));
     const std::string name(englishName(written));
-    if (written != name) isGreek_ = true;
-    const TextLine field{std::string(trimmed(std::string_view(line.text).substr(colon + 1))), line.place};
-    if (!fields_.emplace(name, field).second) {
-        diagnostics.error(line.place, say::fieldStandsTwice, {shownName(name)});
-    }
+    if (isGreekName(written)) isGreek_ = true;
+    const std::string_view value = trimmed(text.substr(colon + 1));
+    const SourcePlace valuePlace = value.empty() ? line.place : placeOfBytes(value, line);
+    const SourcePlace namePlace = written.empty() ? line.place : placeOfBytes(written, line);
+    if (!fields_.emplace(name, Field{{std::string(value), valuePlace}, namePlace}).second)
+        diagnostics.error(namePlace, say::fieldStandsTwice, {shownName(name)});
 }
 
 void PageHeader::allowOnly(std::initializer_list<std::string_view> known, Diagnostics& diagnostics) const {
@@ -60,7 +71,7 @@ void PageHeader::allowOnly(std::initializer_list<std::string_view> known, Diagno
         std::vector<std::string> names;
         for (const std::string_view each : known) names.push_back(shownName(each));
         const std::string written = platform::toUtf8(name);
-        diagnostics.error(field.place, say::unknownField, {written}).suggestNearest(written, names);
+        diagnostics.error(field.namePlace, say::unknownField, {written}).suggestNearest(written, names);
     }
 }
 
@@ -72,13 +83,14 @@ std::string PageHeader::shownName(std::string_view name) const {
 
 const TextLine* PageHeader::find(std::string_view name) const {
     const auto found = fields_.find(name);
-    return found == fields_.end() ? nullptr : &found->second;
+    return found == fields_.end() ? nullptr : &found->second.value;
 }
 
 const TextLine* PageHeader::require(std::string_view name, Diagnostics& diagnostics) const {
     const TextLine* field = find(name);
     if (!field) {
-        diagnostics.error(end_, say::fieldIsMissing, {shownName(name)});
+        diagnostics.error(end_, say::fieldIsMissing, {shownName(name)})
+            .suggest(say::writeALine, {shownName(name) + ": …"});
     } else if (field->text.empty()) {
         diagnostics.error(field->place, say::fieldIsEmpty, {shownName(name)});
         return nullptr;

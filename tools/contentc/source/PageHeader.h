@@ -38,9 +38,14 @@ class PageHeader {
   private:
     explicit PageHeader(SourcePlace end) : end_(std::move(end)) {}
 
+    struct Field {
+        TextLine value;
+        SourcePlace namePlace;
+    };
+
     void add(const TextLine& line, Diagnostics& diagnostics);
 
-    std::map<std::string, TextLine, std::less<>> fields_;
+    std::map<std::string, Field, std::less<>> fields_;
     bool isGreek_ = false;
     /// The line `---`, where a missing field is reported.
     SourcePlace end_;

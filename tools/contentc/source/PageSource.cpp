@@ -24,12 +24,15 @@ std::optional<PageHeader> takeHeader(const SourceFile& file, PageSource& page, D
 
 /// The page number at the start of the file's name; words may follow it. Reported when there is none, or when
 /// it has leading zeros.
-std::optional<std::int32_t> numberOf(const SourceFile& file, Diagnostics& diagnostics) {
+std::optional<std::int32_t> numberOf(const SourceFile& file, const formats::Section& section,
+                                     Diagnostics& diagnostics) {
     const std::string stem = file.stem();
     const std::string digits = stem.substr(0, stem.find('-'));
     const auto number = parseNumber(digits);
     if (number && formats::pagePath(*number) && std::to_string(*number) == digits) return number;
-    diagnostics.error(file.place(), say::notAPageNumber, {stem});
+    Diagnostic& error = diagnostics.error(file.place(), say::notAPageNumber, {stem});
+    if (!number)
+        error.suggest(say::nameFileSo, {std::to_string(firstOwnTopic(section)) + '-' + stem + ".md"});
     return std::nullopt;
 }
 
@@ -53,7 +56,7 @@ std::optional<PageSource> readSectionPage(const SourceFile& file, const formats:
     PageSource page;
     page.place = file.place();
     page.section = &section;
-    const auto number = numberOf(file, diagnostics);
+    const auto number = numberOf(file, section, diagnostics);
     page.number = number.value_or(0);
     const auto header = takeHeader(file, page, diagnostics);
     if (!header) return std::nullopt;

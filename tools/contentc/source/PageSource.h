@@ -71,6 +71,13 @@ struct PageSource {
     std::vector<TextLine> body;
 };
 
+/// The first of the numbers that are free for topics of an author's own.
+constexpr std::int32_t firstOwnTopic(const formats::Section& section) {
+    constexpr std::int32_t numbersOfSection = 10'000;
+    constexpr std::int32_t ofProgram = 9'000;
+    return section.startPage / numbersOfSection * numbersOfSection + ofProgram;
+}
+
 /// The kind of a page that does not tell it: by its number.
 PageKind kindByNumber(std::int32_t number, const formats::Section& section);
 

@@ -21,11 +21,6 @@ constexpr std::string_view accented = "άέήίόύώΐΰ"_gr;
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
-bool isLetter(char c) {
-    const char32_t letter = platform::codepage::toUnicode(platform::lower(c));
-    return (letter >= U'a' && letter <= U'z') || (letter >= U'ά' && letter <= U'ώ') || letter == U'ΐ';
-}
-
 /// The lowered digits of formulas. The code page does not have them.
 constexpr char32_t loweredZero = U'\u2080';
 constexpr char32_t loweredNine = U'\u2089';
@@ -141,6 +136,11 @@ void dropSecondAccent(std::string& word) {
 }
 
 }  // namespace
+
+bool isLetter(char c) {
+    const char32_t letter = platform::codepage::toUnicode(platform::lower(c));
+    return (letter >= U'a' && letter <= U'z') || (letter >= U'ά' && letter <= U'ώ') || letter == U'ΐ';
+}
 
 std::string visibleText(const std::vector<TextLine>& body) {
     std::string markup;

@@ -12,6 +12,9 @@ namespace contentc {
 /// page has them. A tag leaves a blank, unless it is one of raised, lowered or emphasised text.
 std::string visibleText(const std::vector<TextLine>& body);
 
+/// Whether a character of the code page is a Greek or Latin letter.
+bool isLetter(char c);
+
 /// A word as it stands in the index: in lower case, with a final sigma at its end, and with only the first of
 /// two accents. (The second accent comes from a word that follows.)
 std::string normalizedWord(std::string_view word);

@@ -132,6 +132,18 @@ TextLine inCodePage(const TextLine& utf8, Diagnostics& diagnostics) {
     return {encodeLine(utf8.text, utf8.place, diagnostics), utf8.place};
 }
 
+SourcePlace placeOf(std::string_view part, const TextLine& line) {
+    const auto offset = static_cast<std::size_t>(part.data() - line.text.data());
+    SourcePlace place = placeIn(line.place, line.text, offset);
+    place.column += std::max(line.place.column, 1) - 1;
+    return place;
+}
+
+SourcePlace placeOfBytes(std::string_view part, const TextLine& line) {
+    const auto offset = static_cast<int>(part.data() - line.text.data());
+    return {line.place.file, line.place.line, std::max(line.place.column, 1) + offset};
+}
+
 std::string_view trimmed(std::string_view text) {
     constexpr std::string_view blanks = " \t";
     const std::size_t first = text.find_first_not_of(blanks);

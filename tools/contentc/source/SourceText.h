@@ -30,6 +30,12 @@ std::vector<TextLine> readUtf8Lines(const SourceFile& file, Diagnostics& diagnos
 /// A line that `readUtf8Lines` gave, in code page 1253. A character outside of it is reported.
 TextLine inCodePage(const TextLine& utf8, Diagnostics& diagnostics);
 
+/// The place of a part of the line, which must be a part of its text in UTF-8.
+SourcePlace placeOf(std::string_view part, const TextLine& line);
+
+/// The same for a part of a text in code page 1253.
+SourcePlace placeOfBytes(std::string_view part, const TextLine& line);
+
 /// The text without blanks and tabs at its ends.
 std::string_view trimmed(std::string_view text);
 

@@ -82,7 +82,7 @@ class TreeReader {
 
     /// Reads a file, unless it is missing or a higher layer had it.
     void readOne(std::optional<SourceFile>& file, const char* name) {
-        if (!file && fs::exists(root_ / name)) file = readFile(root_ / name);
+        if (!file && isThere(root_ / name)) file = readFile(root_ / name);
     }
 
     void readEquipment() {
@@ -102,8 +102,9 @@ class TreeReader {
 
     void readContent(const Layer& layer) {
         readOne(tree_.families, "families.txt");
+        if (layer_ == 0) readOne(tree_.terminology, "words/terminology.txt");
         for (const fs::path& folder : listFolder(root_ / "pages")) {
-            if (fs::is_directory(folder)) readSection(folder);
+            if (isFolder(folder)) readSection(folder);
         }
         for (const fs::path& path : pathsOf(root_ / "glossary", {".md"})) append(tree_.terms, path);
         take(dataSets_, tree_.dataSets, pathsOf(root_ / "datasets", {".data"}));
@@ -158,7 +159,7 @@ class TreeReader {
             overlay.take(path);
             const std::string name = path.stem().string() + made.extension;
             const auto folder = std::ranges::find_if(
-                made.folders, [&name](const fs::path& candidate) { return fs::exists(candidate / name); });
+                made.folders, [&name](const fs::path& candidate) { return isThere(candidate / name); });
             if (folder == made.folders.end()) {
                 append(sources, path);
             } else {

@@ -31,6 +31,8 @@ struct SourceTree {
     std::optional<SourceFile> families;
     std::optional<SourceFile> stopWords;
     std::optional<SourceFile> wordForms;
+    /// Words that are not to be used in the author's own folder.
+    std::optional<SourceFile> terminology;
     std::vector<SectionFolder> sections;
     /// The data analyser's data sets.
     std::vector<SourceFile> dataSets;

@@ -174,8 +174,9 @@ void TermIndex::check(const std::vector<TermSource>& terms, Diagnostics& diagnos
         for (const std::string& name : names) {
             const auto [first, isNew] = named.try_emplace(nameKey(name), &term);
             if (isNew || first->second == &term) continue;
-            diagnostics.error(term.place, say::termIsCalledSoToo,
-                              {platform::toUtf8(name), first->second->place.file});
+            diagnostics.error(
+                term.place, say::termIsCalledSoToo,
+                {platform::toUtf8(name), shownFile(first->second->place.file), first->second->place.line});
         }
     }
 }
