@@ -79,10 +79,11 @@ TEST(FileType, SeesACharsetInTheFirstKilobyteOnly) {
 
 // Each change moved the rest of the page.
 TEST(FolderAddresses, AreEscapedSoonInAPageThatIsFullOfThem) {
+    constexpr std::size_t count = 500'000;
     std::string page;
-    for (int i = 0; i < 500000; ++i) page += "\"D:\\a #\\";
+    for (std::size_t i = 0; i < count; ++i) page += "\"D:\\a #\\";
     const std::string escaped = escapeFolders(page, {"D:\\a #\\", "C:\\"});
-    EXPECT_EQ(escaped.size(), page.size() + 4 * 500000U);
+    EXPECT_EQ(escaped.size(), page.size() + 4 * count);
     EXPECT_TRUE(escaped.starts_with("\"D:\\a%20%23\\\"D:"));
 }
 
