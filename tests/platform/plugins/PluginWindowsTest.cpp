@@ -163,7 +163,7 @@ TEST_F(PluginWindows, FitAFilmAsTheScaleSays) {
         show("film.htm");
         const CBitmap film = PluginPicture(below(browser_).at(0));
         ASSERT_TRUE(film.Loaded());
-        const QImage picture = film.Image();
+        const QImage& picture = film.Image();
         const auto blueness = [&](int x, int y) { return picture.pixelColor(x, y).blue(); };
         const int left = 160 - shown.width() / 2;
         const int top = 60 - shown.height() / 2;
