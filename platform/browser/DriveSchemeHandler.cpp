@@ -2,6 +2,7 @@
 
 #include <QBuffer>
 #include <QFile>
+#include <QLoggingCategory>
 #include <QMap>
 #include <QUrl>
 #include <QWebEngineUrlRequestJob>
@@ -14,6 +15,8 @@
 #include "platform/plugins/FileType.h"
 #include "platform/plugins/FrameAnswer.h"
 #include "platform/text/CodePage1253.h"
+
+Q_LOGGING_CATEGORY(filesLog, "platform.browser.files")
 
 namespace platform {
 
@@ -81,6 +84,14 @@ void replyFile(QWebEngineUrlRequestJob* job, const std::string& dosPath, const F
 
 }  // namespace
 
+void DriveSchemeHandler::logMissing(const QUrl& url) {
+    constexpr int maxMissing = 200;
+    constexpr std::size_t maxAddress = 200;
+    if (logged_ >= maxMissing) return;
+    ++logged_;
+    qCInfo(filesLog, "Not found: %s", toUtf8(addressOfUrl(url).substr(0, maxAddress)).c_str());
+}
+
 void DriveSchemeHandler::requestStarted(QWebEngineUrlRequestJob* job) {
     const QUrl url = job->requestUrl();
     if (normalisedUrl(url) != url) {
@@ -94,13 +105,16 @@ void DriveSchemeHandler::requestStarted(QWebEngineUrlRequestJob* job) {
         if (special->device) {
             reply(job, special->type, std::move(special->device));
         } else {
+            logMissing(url);
             job->fail(QWebEngineUrlRequestJob::UrlNotFound);
         }
     } else if (path && file) {
         replyFile(job, *path, file);
     } else if (frame) {
+        logMissing(url);
         replyMissingPage(job, path.value_or(addressOfUrl(url)));
     } else {
+        logMissing(url);
         job->fail(QWebEngineUrlRequestJob::UrlNotFound);
     }
 }

@@ -18,6 +18,12 @@ class DriveSchemeHandler : public QWebEngineUrlSchemeHandler {
     static constexpr const char* frameHeader = "Platform-Frame";
 
     void requestStarted(QWebEngineUrlRequestJob* job) override;
+
+  private:
+    /// Logs a request for what is not there. A page can make any number of them.
+    void logMissing(const QUrl& url);
+
+    int logged_ = 0;
 };
 
 }  // namespace platform
