@@ -374,16 +374,16 @@ TEST(Warnings, StopNothing) {
     EXPECT_TRUE(content.compile());
     EXPECT_EQ(
         content.messages,
-        (Messages{"glossary/hydrogen.md:2:11: warning: 'μίγμα' is not the word that is used here; write "
-                  "'μείγμα' instead",
+        (Messages{("glossary/hydrogen.md:2:11: warning: 'μίγμα' is not the word that is used here; write "
+                   "'μείγμα' instead"),
                   "pages/uses/400010.md:1:8: warning: a topic needs a summary, for the list of topics",
-                  "pages/uses/400010.md:1:17: warning: 'μίγμα' is not the word that is used here; write "
-                  "'μείγμα' instead",
+                  ("pages/uses/400010.md:1:17: warning: 'μίγμα' is not the word that is used here; write "
+                   "'μείγμα' instead"),
                   "pages/uses/400010.md:4:1: warning: '**' has no partner, so it is shown as it is",
-                  "pages/uses/400010.md:4:28: warning: 'Ατομικό βάρος' is not the word that is used "
-                  "here; write 'ατομική μάζα' instead",
-                  "pages/uses/400010.md:6: warning: a table needs a line '|---|---|' below its first "
-                  "line",
+                  ("pages/uses/400010.md:4:28: warning: 'Ατομικό βάρος' is not the word that is used "
+                   "here; write 'ατομική μάζα' instead"),
+                  ("pages/uses/400010.md:6: warning: a table needs a line '|---|---|' below its first "
+                   "line"),
                   "pages/uses/400010.md:8:11: warning: no style is called 'wide'",
                   "videos/fire.webm:1: warning: no page uses this video"}));
 }
