@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "formats/DataSet.h"
 #include "tests/tools/contentc/ContentFolder.h"
 
 namespace {
@@ -43,6 +44,10 @@ const struct {
      "number: 1\ntitle: T\ncolumn: text | N\ncolumn: number | V\n---\nα\t1\nβ\tδύο\nγ\n",
      {"7: the row of 'β' has words where a number belongs",
       "8: the row of 'γ' has not as many cells as there are columns"}},
+    {"datasets/gases.data",
+     "number: 1\ntitle: T\ncolumn: text | N\ncolumn: number | V\n---\n" +
+         repeated(formats::DataSet::maxRows, "α\t1\n") + "β\t1\n",
+     {std::to_string(formats::DataSet::maxRows + 6) + ": the row of 'β' is one too many"}},
     {"datasets/gases.data",
      "number: 0\ntitle: T\ncolumn: text | N\ncolumn: number | V\n---\n",
      {"1: no field with a right value",
