@@ -55,8 +55,7 @@ ExitStatus watch(const Options& options, const fs::path& program) {
     }
     bool isRight = buildFolder(options);
     std::cout << Phrase{say::isWatching, {options.sources.content.generic_string()}}.in(localeLanguage())
-              << '\n'
-              << std::flush;
+              << std::endl;
     // If the first build fails, there is nothing to show before a change mends it.
     while (!isRight) {
         if (folders.waitForChange(std::chrono::hours(1))) isRight = buildFolder(options);
