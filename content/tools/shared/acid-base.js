@@ -4,7 +4,8 @@ import { Mistake } from './mistake.js';
 
 export const WATER = 1e-14;
 
-// `constant` is Ka or Kb, null of strong ones. Where tables differ in the second digit, that of schoolbooks is taken.
+// `constant` is Ka or Kb, null of strong ones: the pKa of the data set of acids and bases, as a constant of two digits. So 4.756 of
+// ethanoic acid becomes 1.8·10^-5. Of methylamine it is that of schoolbooks.
 export const SUBSTANCES = [
   { id: 'HCl', name: 'υδροχλωρικό οξύ, HCl', isAcid: true, constant: null },
   { id: 'HNO3', name: 'νιτρικό οξύ, HNO₃', isAcid: true, constant: null },

@@ -40,7 +40,8 @@ CBitmap sheet(int width, int height) {
     header.biWidth = width;
     header.biHeight = height;
     CBitmap bitmap;
-    const auto bytes = static_cast<std::size_t>((width * 3 + 3) / 4 * 4) * static_cast<std::size_t>(height);
+    const int row = (width * 3 + 3) / 4 * 4;  // bytes
+    const auto bytes = static_cast<std::size_t>(row) * static_cast<std::size_t>(height);
     bitmap.CreateDIBitmap(header, {}, std::vector<std::byte>(bytes));
     CDC dc = CDC::CreateCompatibleDC(CDC());
     dc.SelectObject(bitmap);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "formats/DataSet.h"
 #include "tests/tools/contentc/ContentFolder.h"
 
 namespace {
@@ -43,6 +44,10 @@ const struct {
      "number: 1\ntitle: T\ncolumn: text | N\ncolumn: number | V\n---\nα\t1\nβ\tδύο\nγ\n",
      {"7: the row of 'β' has words where a number belongs",
       "8: the row of 'γ' has not as many cells as there are columns"}},
+    {"datasets/gases.data",
+     "number: 1\ntitle: T\ncolumn: text | N\ncolumn: number | V\n---\n" +
+         repeated(formats::DataSet::maxRows, "α\t1\n") + "β\t1\n",
+     {std::to_string(formats::DataSet::maxRows + 6) + ": the row of 'β' is one too many"}},
     {"datasets/gases.data",
      "number: 0\ntitle: T\ncolumn: text | N\ncolumn: number | V\n---\n",
      {"1: no field with a right value",
@@ -374,16 +379,16 @@ TEST(Warnings, StopNothing) {
     EXPECT_TRUE(content.compile());
     EXPECT_EQ(
         content.messages,
-        (Messages{"glossary/hydrogen.md:2:11: warning: 'μίγμα' is not the word that is used here; write "
-                  "'μείγμα' instead",
+        (Messages{("glossary/hydrogen.md:2:11: warning: 'μίγμα' is not the word that is used here; write "
+                   "'μείγμα' instead"),
                   "pages/uses/400010.md:1:8: warning: a topic needs a summary, for the list of topics",
-                  "pages/uses/400010.md:1:17: warning: 'μίγμα' is not the word that is used here; write "
-                  "'μείγμα' instead",
+                  ("pages/uses/400010.md:1:17: warning: 'μίγμα' is not the word that is used here; write "
+                   "'μείγμα' instead"),
                   "pages/uses/400010.md:4:1: warning: '**' has no partner, so it is shown as it is",
-                  "pages/uses/400010.md:4:28: warning: 'Ατομικό βάρος' is not the word that is used "
-                  "here; write 'ατομική μάζα' instead",
-                  "pages/uses/400010.md:6: warning: a table needs a line '|---|---|' below its first "
-                  "line",
+                  ("pages/uses/400010.md:4:28: warning: 'Ατομικό βάρος' is not the word that is used "
+                   "here; write 'ατομική μάζα' instead"),
+                  ("pages/uses/400010.md:6: warning: a table needs a line '|---|---|' below its first "
+                   "line"),
                   "pages/uses/400010.md:8:11: warning: no style is called 'wide'",
                   "videos/fire.webm:1: warning: no page uses this video"}));
 }

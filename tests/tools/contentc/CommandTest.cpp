@@ -156,14 +156,45 @@ TEST_F(Command, NewFolderIsRightAloneAndOverTheProgramsContent) {
 
 TEST_F(Command, WrongArgumentsAreRefused) {
     const std::string folder = '\'' + content_.sources().string() + "' ";
-    for (const std::string& arguments :
-         {std::string(), folder, "build " + folder + "second", "build " + folder + "--images",
-          std::string("check --quick"), std::string("chek"), "build " + folder + "--media none",
-          std::string("check none"), std::string("new")}) {
+    const std::pair<std::string, const char*> cases[] = {
+        {"", "no command; contentc --help tells of them"},
+        {folder, "unknown command"},
+        {"chek", "unknown command 'chek'"},
+        {"check --quick", "unknown option '--quick'"},
+        {"build " + folder + "second", "'second' is one argument too many"},
+        {"build " + folder + "--images", "behind --images something is missing"},
+        {"build " + folder + "--media none", "none: no such folder"},
+        {"check none", "none: no such folder"},
+        {"new", "'new' needs the name of a folder"},
+    };
+    for (const auto& [arguments, message] : cases) {
         EXPECT_EQ(run(arguments), 2) << arguments;
-        EXPECT_NE(errors_, "") << arguments;
+        EXPECT_NE(errors_.find(message), std::string::npos) << arguments << ": " << errors_;
     }
     EXPECT_FALSE(fs::exists(content_.beside("out")));
+}
+
+TEST_F(Command, StrictTakesWarningsForErrors) {
+    content_.write("pictures/air.jpg", "\xFF\xD8\xFF");
+    const std::string folder = '\'' + content_.sources().string() + "' ";
+    EXPECT_EQ(run("check " + folder), 0) << errors_;
+    EXPECT_EQ(run("check --strict " + folder), 1);
+    EXPECT_NE(errors_.find("Warnings: 1, and they count as errors (--strict). Nothing was written."),
+              std::string::npos)
+        << errors_;
+}
+
+TEST_F(Command, PlacesWhereNothingCanBeWrittenAreNamed) {
+    content_.write("pictures/air.svg", "<svg width=\"4\" height=\"2\"></svg>");
+    const std::string build = "build '" + content_.sources().string() + "' --output '";
+    const std::string file = (content_.sources() / "start.md").string();
+    EXPECT_EQ(run(build + content_.beside("out").string() + "' --cache '" + file + '\''), 1);
+    EXPECT_NE(errors_.find("start.md:1: nothing can be written into this folder"), std::string::npos)
+        << errors_;
+    EXPECT_EQ(run(build + file + "/data' --cache '" + content_.beside("cache").string() + '\''), 1);
+    EXPECT_NE(errors_.find("start.md:1: cannot be written: Not a directory"), std::string::npos) << errors_;
+    EXPECT_EQ(run("new '" + file + "/data'"), 1);
+    EXPECT_NE(errors_.find("cannot be written"), std::string::npos) << errors_;
 }
 
 }  // namespace

@@ -135,6 +135,7 @@ TEST(MarkdownBody, MistakesAreReportedByLine) {
         MarkdownPage page;
         EXPECT_FALSE(page.compile(body)) << body;
         std::vector<std::string> expected;
+        expected.reserve(messages.size());
         for (const std::string& message : messages) expected.push_back("pages/uses/400010-try.md:" + message);
         std::vector<std::string> found = page.messages();
         std::erase_if(

@@ -47,7 +47,7 @@ class Building {
     }
 
     bool mayBeUsed() const {
-        return !diagnostics_.hasErrors() && !(options_.strict && !diagnostics_.sorted().empty());
+        return !diagnostics_.hasErrors() && (!options_.strict || diagnostics_.sorted().empty());
     }
 
     static MessageValues counts(const SourceTree& tree, const OutputFiles& files) {

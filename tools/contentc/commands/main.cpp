@@ -55,7 +55,8 @@ ExitStatus watch(const Options& options, const fs::path& program) {
     }
     bool isRight = buildFolder(options);
     std::cout << Phrase{say::isWatching, {options.sources.content.generic_string()}}.in(localeLanguage())
-              << std::endl;
+              << '\n'
+              << std::flush;
     // If the first build fails, there is nothing to show before a change mends it.
     while (!isRight) {
         if (folders.waitForChange(std::chrono::hours(1))) isRight = buildFolder(options);

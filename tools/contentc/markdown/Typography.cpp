@@ -61,6 +61,8 @@ class Typesetter {
 
   private:
     void step() {
+        const std::size_t plain = std::min(text_.find_first_of("- ", at_), text_.size()) - at_;
+        if (plain > 0) return take(plain, text_.substr(at_, plain));
         const std::string_view rest = text_.substr(at_);
         if (rest.starts_with("---")) {
             take(3, "\u2014");

@@ -42,6 +42,7 @@ std::string readToEnd(int from) {
 
 pid_t start(const std::vector<std::string>& arguments, int errors) {
     std::vector<char*> argv;
+    argv.reserve(arguments.size() + 1);
     for (const std::string& argument : arguments) argv.push_back(const_cast<char*>(argument.c_str()));
     argv.push_back(nullptr);
     const StreamActions actions(errors);

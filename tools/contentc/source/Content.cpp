@@ -10,6 +10,7 @@
 #include "tools/contentc/source/ElementPages.h"
 #include "tools/contentc/source/NameKey.h"
 #include "tools/contentc/source/PageIndex.h"
+#include "tools/contentc/source/Parallel.h"
 
 namespace contentc {
 namespace {
@@ -104,9 +105,13 @@ void readSection(const SectionFolder& folder, Content& content, Diagnostics& dia
             .suggestNearest(name, sectionKeys());
         return;
     }
-    for (const SourceFile& file : folder.pages) {
-        if (auto page = readSectionPage(file, *section, diagnostics))
-            content.pages.push_back(std::move(*page));
+    std::vector<std::optional<PageSource>> pages(folder.pages.size());
+    std::vector<Diagnostics> found(folder.pages.size());
+    inParallel(pages.size(), pagesForThread,
+               [&](std::size_t i) { pages[i] = readSectionPage(folder.pages[i], *section, found[i]); });
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        if (pages[i]) content.pages.push_back(*std::move(pages[i]));
+        diagnostics.add(std::move(found[i]));
     }
 }
 

@@ -46,6 +46,7 @@ PageIndex::Found PageIndex::find(std::string_view name, const PageSource& from) 
 
 std::vector<std::string> PageIndex::titles() const {
     std::vector<std::string> titles;
+    titles.reserve(byNumber_.size());
     for (const auto& [number, page] : byNumber_) titles.push_back(platform::toUtf8(page->title.text));
     return titles;
 }

@@ -7,6 +7,7 @@
 #include "platform/text/GreekLiteral.h"
 #include "tools/contentc/source/ContentMessages.h"
 #include "tools/contentc/source/PageText.h"
+#include "tools/contentc/source/Parallel.h"
 
 namespace contentc {
 namespace {
@@ -98,9 +99,12 @@ void checkTerminology(const SourceTree& tree, const Content& content, Diagnostic
     if (!tree.terminology) return;
     const Terminology terminology(*tree.terminology, diagnostics);
     const std::string own = (tree.root / "").generic_string();
-    for (const PageSource& page : content.pages) {
-        if (page.place.file.starts_with(own)) checkPage(page, terminology, diagnostics);
-    }
+    std::vector<Diagnostics> found(content.pages.size());
+    inParallel(content.pages.size(), pagesForThread, [&](std::size_t i) {
+        const PageSource& page = content.pages[i];
+        if (page.place.file.starts_with(own)) checkPage(page, terminology, found[i]);
+    });
+    for (Diagnostics& ofPage : found) diagnostics.add(std::move(ofPage));
     for (const SourceFile& file : tree.terms) {
         if (file.layer == 0) checkTexts(file, terminology, diagnostics);
     }
