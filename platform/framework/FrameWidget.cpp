@@ -70,6 +70,11 @@ void FrameWidget::showAs(int showCommand) {
     setVisible(showCommand != SW_HIDE);
 }
 
+void FrameWidget::toggleFullScreen() {
+    if (windowState() == Qt::WindowNoState) placement_.remember();
+    setWindowState(windowState() ^ Qt::WindowFullScreen);
+}
+
 UINT FrameWidget::sizeType() const {
     if (windowState() & Qt::WindowMinimized) return SIZE_MINIMIZED;
     return windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen) ? SIZE_MAXIMIZED : SIZE_RESTORED;

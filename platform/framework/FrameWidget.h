@@ -18,6 +18,8 @@ class FrameWidget : public WindowWidget {
     QRect outerRect() const override { return placement_.outer(); }
     void place(const QRect& outer) override;
     void showAs(int showCommand) override;
+    /// Covers the screen, or goes back to the place and state of before.
+    void toggleFullScreen();
     void invalidate(bool) override { update(); }
 
   protected:

@@ -73,6 +73,15 @@ void CFrameWnd::ActivateFrame(int showCommand) {
     widget->activateWindow();
 }
 
+void CFrameWnd::ToggleFullScreen() {
+    if (auto* const widget = dynamic_cast<FrameWidget*>(WindowWidget::of(*this))) widget->toggleFullScreen();
+}
+
+bool CFrameWnd::IsFullScreen() const {
+    const WindowWidget* const widget = WindowWidget::of(*this);
+    return widget && widget->isFullScreen();
+}
+
 int CFrameWnd::OnCreate(CREATESTRUCT&) {
     if (!viewClass_ || !viewClass_->create) return -1;
     std::unique_ptr<CObject> made = viewClass_->create();

@@ -34,6 +34,10 @@ class CFrameWnd : public CWnd {
     /// Runs the view's first update, then shows the frame with the application's show command.
     void InitialUpdateFrame();
 
+    /// Has the frame cover the whole screen, or takes it back to where it was before.
+    void ToggleFullScreen();
+    bool IsFullScreen() const;
+
     CView* GetActiveView() const { return view_.get(); }
 
     /// Changes style, position and size before the window is made; false refuses.

@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
+#include <algorithm>
 
 #include "platform/base/Resources.h"
 #include "platform/drawing/LightPalette.h"
@@ -36,9 +37,22 @@ void refresh(const std::vector<QAction*>& actions, const std::vector<MenuItemSta
     }
 }
 
+/// The keys of a command as menus show them, empty when it has none. The table has the usual ones first.
+QString keysOf(UINT command) {
+    const auto accelerators = Resources().accelerators;
+    const auto first = std::ranges::find(accelerators, command, &Accelerator::id);
+    if (first == accelerators.end()) return {};
+    QString keys = toQt(first->keys);
+    keys.replace(QLatin1StringView("Left"), QStringLiteral("←"));
+    keys.replace(QLatin1StringView("Right"), QStringLiteral("→"));
+    return keys;
+}
+
 QAction* addItem(QMenu& menu, const MenuItem& item, HWND frame) {
     if (item.text.empty()) return menu.addSeparator();
-    QAction* const action = menu.addAction(toQt(item.text));
+    // What follows the tabulator stands in a column of its own.
+    const QString keys = keysOf(item.id);
+    QAction* const action = menu.addAction(keys.isEmpty() ? toQt(item.text) : toQt(item.text) + '\t' + keys);
     QObject::connect(action, &QAction::triggered, &menu,
                      [frame, id = item.id] { WindowTable::instance().send(frame, WM_COMMAND, id); });
     return action;

@@ -6,6 +6,7 @@
 #include "platform/framework/WinApp.h"
 #include "platform/machine/Machine.h"
 #include "platform/windows/MessageMap.h"
+#include "src/resources/CommandIds.h"
 #include "src/resources/ResourceIds.h"
 #include "src/state/ProgramState.h"
 #include "src/state/Settings.h"
@@ -31,6 +32,7 @@ const MessageMap* CMainFrame::GetMessageMap() const {
         OnMessage<WM_CREATE, &CMainFrame::OnCreate>(),
         OnMessage<WM_SIZE, &CMainFrame::OnSize>(),
         OnMessage<WM_DESTROY, &CMainFrame::OnDestroy>(),
+        OnCommandId<&CMainFrame::OnFullScreen>(ID_FULL_SCREEN),
     };
     static const MessageMap map{CFrameWnd::GetMessageMap(), kEntries};
     return &map;
@@ -81,11 +83,22 @@ CRect WithMinFrameSize(const CRect& frame, CSize maximised) {
     return CRect::at(frame.left, frame.top, width, height);
 }
 
-void CMainFrame::OnDestroy() {
-    if (IsIconic()) return;
+/// The layout saved is that of before the frame has covered the screen.
+void CMainFrame::OnFullScreen() {
+    if (!IsFullScreen()) keepLayout();
+    ToggleFullScreen();
+}
+
+void CMainFrame::keepLayout() {
     ProgramState& app = TheApp();
     app.m_nFrameState = IsZoomed() ? kFrameMaximised : kFrameNormal;
     if (app.m_nFrameState == kFrameNormal) app.m_rcFrame = GetWindowRect();
+}
+
+void CMainFrame::OnDestroy() {
+    if (IsIconic()) return;
+    if (!IsFullScreen()) keepLayout();
+    const ProgramState& app = TheApp();
     if (WriteLayout(machine().registry(), {app.m_nSplitterPos, app.m_nFrameState, app.m_rcFrame})) {
         machine().flushRegistry();
     }

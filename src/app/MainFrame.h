@@ -19,7 +19,9 @@ class CMainFrame : public platform::CFrameWnd {
     int OnCreate(platform::CREATESTRUCT& cs);
     void OnSize(platform::UINT type, int width, int height);
     void OnDestroy();
+    void OnFullScreen();
     void keepMinSize();
+    void keepLayout();
 };
 
 /// The rectangle of a frame, enlarged to the minimum size where it is smaller; its corner stays. `maximised`

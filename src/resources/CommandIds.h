@@ -9,6 +9,7 @@ inline constexpr platform::UINT ID_APP_ABOUT = 57664;
 inline constexpr platform::UINT ID_APP_EXIT = 57665;
 inline constexpr platform::UINT ID_EDIT_COPY = 57634;
 inline constexpr platform::UINT ID_EDIT_CUT = 57635;
+inline constexpr platform::UINT ID_EDIT_FIND = 57636;
 inline constexpr platform::UINT ID_EDIT_PASTE = 57637;
 inline constexpr platform::UINT ID_EDIT_UNDO = 57643;
 inline constexpr platform::UINT ID_FILE_NEW = 57600;
@@ -44,6 +45,7 @@ inline constexpr platform::UINT ID_ONLINE_PRODUCTS = 32798;
 inline constexpr platform::UINT ID_COPY_GRAPH = 32799;
 inline constexpr platform::UINT ID_PRINT_MOLECULE = 32800;
 inline constexpr platform::UINT ID_PRINT_VIDEO = 32801;
+inline constexpr platform::UINT ID_FULL_SCREEN = 32802;
 
 /// Control ids of the view's children.
 inline constexpr platform::UINT IDC_GLOSSARY_POPUP = 185;

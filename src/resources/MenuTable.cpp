@@ -89,6 +89,9 @@ constexpr std::array kAccelerators = {
     Accelerator{"Ctrl+N", ID_FILE_NEW},    Accelerator{"Ctrl+O", ID_FILE_OPEN},
     Accelerator{"Ctrl+S", ID_FILE_SAVE},   Accelerator{"F6", ID_NEXT_PANE},
     Accelerator{"Shift+F6", ID_PREV_PANE}, Accelerator{"Esc", ID_CANCEL_EDIT},
+    Accelerator{"F1", ID_HELP_CONTENTS},   Accelerator{"F11", ID_FULL_SCREEN},
+    Accelerator{"Ctrl+P", ID_FILE_PRINT},  Accelerator{"Alt+Left", ID_BACK},
+    Accelerator{"Alt+Right", ID_FORWARD},
 };
 
 }  // namespace
