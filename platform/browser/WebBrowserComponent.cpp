@@ -97,7 +97,7 @@ WebPage& WebBrowserComponent::page() {
         [this](const std::string& component, LPARAM command) { sendCommand(component, command); });
     plugins_ = std::make_unique<PluginWindows>(*view_, *page_);
     view_->open(*page_);
-    if (!awaited_.isEmpty()) page_->open(std::exchange(awaited_, QUrl()));
+    if (!awaited_.isEmpty()) page_->open(std::exchange(awaited_, QUrl()), std::exchange(start_, {}));
     return *page_;
 }
 
@@ -117,7 +117,7 @@ void WebBrowserComponent::navigate(const std::string& address, const Variant& fl
     view_->presses().forget();
     // Looked at only now, since the page may have been made while a handler showed a message.
     if (page_) {
-        page_->open(url);
+        page_->open(url, std::exchange(start_, {}));
     } else {
         awaited_ = url;
     }
@@ -157,6 +157,14 @@ void WebBrowserComponent::sendCommand(const std::string& component, LPARAM comma
     const QWidget* own = windows.widget(windows.nearestHandle(view_.get()));
     if (own) site_.sendMessage(windows.nearestHandle(own->parentWidget()), WM_COMMAND, 0, command);
 }
+
+double WebBrowserComponent::scrolled() const {
+    return page_ ? page_->scrollPosition().y() / page_->zoomFactor() : 0;
+}
+
+int WebBrowserComponent::textSize() const { return view_->textSize(); }
+
+void WebBrowserComponent::setTextSize(int percent) { view_->setTextSize(percent); }
 
 int WebBrowserComponent::controlId() const {
     const WindowTable& windows = WindowTable::instance();

@@ -4,9 +4,11 @@
 #include <array>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "platform/browser/FirstExposure.h"
 #include "platform/components/DispatchMap.h"
+#include "platform/components/PageTools.h"
 #include "platform/components/WebPageInspector.h"
 
 namespace platform {
@@ -21,7 +23,7 @@ class WebView;
 /// The web browser as a component. The engine costs as much time as the rest of the program's start: it is
 /// started once the window can be seen, or when it is needed before. Addresses are code page 1253: DOS paths
 /// (`D:\a.htm`, `c:/cache/1.htm`) or URLs.
-class WebBrowserComponent : public Component, public WebPageInspector {
+class WebBrowserComponent : public Component, public WebPageInspector, public PageTools {
   public:
     /// Its published class id.
     static constexpr std::string_view classId = "EAB22AC3-30C1-11CF-A7EB-0000C05BAE0B";
@@ -45,6 +47,11 @@ class WebBrowserComponent : public Component, public WebPageInspector {
     void updatePluginWindows() override;
     std::string pluginPicture(HWND window) override;
 
+    double scrolled() const override;
+    void beginNextPage(PageStart start) override { start_ = std::move(start); }
+    int textSize() const override;
+    void setTextSize(int percent) override;
+
     /// Goes to an address after raising `BeforeNavigate`. The flags are recorded; frame, post data and
     /// headers are not used.
     void navigate(const std::string& address, const Variant& flags, const Variant& frame,
@@ -65,6 +72,7 @@ class WebBrowserComponent : public Component, public WebPageInspector {
     std::unique_ptr<WebView> view_;
     PagePrinter* printer_;  // the view's
     QUrl awaited_;          // where to go once there is a page
+    PageStart start_;       // of the next page that the program asks for
     // Null until the engine is needed. It is destroyed before its view, which does not own it.
     std::unique_ptr<WebPage> page_;
     std::unique_ptr<PluginWindows> plugins_;  // with the page

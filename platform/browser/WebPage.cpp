@@ -1,8 +1,9 @@
 #include "platform/browser/WebPage.h"
 
+#include <QApplication>
 #include <QClipboard>
 #include <QColor>
-#include <QGuiApplication>
+#include <QKeyEvent>
 #include <QLoggingCategory>
 #include <QMetaObject>
 #include <QPointer>
@@ -18,6 +19,7 @@
 #include "platform/browser/ClipboardGuard.h"
 #include "platform/browser/ContentLimits.h"
 #include "platform/browser/DosUrl.h"
+#include "platform/browser/PageBeginning.h"
 #include "platform/browser/UnreachablePage.h"
 #include "platform/plugins/EmbedScript.h"
 #include "platform/plugins/PluginTypes.h"
@@ -64,9 +66,41 @@ void WebPage::go(const PageRequest& request) {
     if (alive && passed) load(request.address);
 }
 
-void WebPage::open(const QUrl& url) {
+void WebPage::open(const QUrl& url, const PageStart& start) {
     messages_ = 0;
+    setBeginning(start);
     load(url);
+}
+
+void WebPage::reload() {
+    setBeginning({});
+    arrival_.reload();
+}
+
+/// The script stays for the page to which the one that is opened leads on at once.
+void WebPage::setBeginning(const PageStart& start) {
+    // The engine would lose a script that is put in the place of another between two loads.
+    if (start == start_) return;
+    if (!beginning_.name().isEmpty()) scripts().remove(beginning_);
+    beginning_ = {};
+    start_ = start;
+    if (start != PageStart{}) scripts().insert(beginning_ = pageBeginning(start));
+    if (marked_ == !start.marked.empty()) return;
+    marked_ = !marked_;
+    marked_ ? qApp->installEventFilter(this) : qApp->removeEventFilter(this);
+}
+
+/// Escape takes the marks off wherever the focus is, and does there what else it does.
+bool WebPage::eventFilter(QObject* receiver, QEvent* event) {
+    if (event->type() == QEvent::KeyPress && static_cast<const QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        forgetMarks();
+    }
+    return QWebEnginePage::eventFilter(receiver, event);
+}
+
+void WebPage::forgetMarks() {
+    runJavaScript(unmarkScript(), QWebEngineScript::ApplicationWorld);
+    setBeginning({});
 }
 
 void WebPage::load(const QUrl& url) {
@@ -86,6 +120,7 @@ bool WebPage::acceptNavigationRequest(const QUrl& url, NavigationType type, bool
     if (!isMainFrame) return BrowserPolicy::instance().admit({RequestKind::part, this->url(), url});
     // `load` and `reload` are ours.
     if (type == NavigationTypeTyped || type == NavigationTypeReload) return true;
+    if (type != NavigationTypeRedirect) setBeginning({});
     // A redirect comes from where the page was to be found, not from the page that is still on show.
     requestLater(type == NavigationTypeRedirect ? arrival_.target() : this->url(), url);
     return false;

@@ -3,6 +3,7 @@
 #include <QTimer>
 #include <QUrl>
 #include <QWebEnginePage>
+#include <QWebEngineScript>
 #include <functional>
 #include <string>
 #include <utility>
@@ -10,6 +11,7 @@
 #include "platform/base/Messages.h"
 #include "platform/browser/PageArrival.h"
 #include "platform/browser/RequestPolicy.h"
+#include "platform/components/PageTools.h"
 
 namespace platform {
 
@@ -36,16 +38,18 @@ class WebPage : public QWebEnginePage {
 
     void setCommandHandler(CommandHandler handler) { commandHandler_ = std::move(handler); }
 
-    /// Goes to an address that the program wants, in its normalised form.
-    void open(const QUrl& url);
+    /// Goes to an address that the program wants, in its normalised form, where the page begins so.
+    void open(const QUrl& url, const PageStart& start);
     /// Loads the page again, without asking the gate.
-    void reload() { arrival_.reload(); }
+    void reload();
     /// Puts the selection on the clipboard, a moment later.
     void copySelection();
 
     /// Whether a navigation waits, a page is being loaded or the selection copied; a page that leads on to
     /// another at once counts as loading until that other one has come.
     bool busy() const { return waiting_ > 0 || copyLimit_.isActive() || arrival_.pending(); }
+
+    bool eventFilter(QObject* receiver, QEvent* event) override;
 
   protected:
     bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) override;
@@ -61,6 +65,8 @@ class WebPage : public QWebEnginePage {
 
   private:
     void addScripts();
+    void setBeginning(const PageStart& start);
+    void forgetMarks();
     void requestLater(const QUrl& asking, const QUrl& url);
     bool isCommand(const QUrl& url);
     void go(const PageRequest& request);
@@ -74,7 +80,10 @@ class WebPage : public QWebEnginePage {
     bool toldUnreachable_ = false;
     QTimer copyLimit_;  // runs while the engine copies
     int waiting_ = 0;   // navigations asked for by the page and not yet put to the gate
-    int messages_ = 0;  // of the page's scripts, since the program opened it
+    PageStart start_;
+    QWebEngineScript beginning_;  // of the page that the program opened
+    bool marked_ = false;         // whether words are marked in the page
+    int messages_ = 0;            // of the page's scripts, since the program opened it
 };
 
 }  // namespace platform

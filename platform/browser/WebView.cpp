@@ -13,7 +13,7 @@
 #include <QWebEngineScript>
 #include <algorithm>
 #include <array>
-#include <cmath>
+#include <cstdlib>
 
 #include "platform/browser/ClipboardGuard.h"
 #include "platform/input/TabOrder.h"
@@ -23,8 +23,8 @@ namespace platform {
 
 namespace {
 
-/// The zoom factors that the keys go through.
-constexpr std::array<double, 11> zoomSteps = {0.5, 0.67, 0.75, 0.9, 1.0, 1.1, 1.25, 1.5, 1.75, 2.0, 2.5};
+/// The sizes of text that the keys go through, in percent.
+constexpr std::array zoomSteps = {50, 67, 75, 90, 100, 110, 125, 150, 175, 200, 250};
 
 /// Text in such a paragraph is shown as it stands.
 constexpr auto plainTipStart = QLatin1StringView("<p style=\"white-space:pre-wrap\">");
@@ -50,6 +50,7 @@ WebView::~WebView() { disconnect(qApp, nullptr, this, nullptr); }
 void WebView::open(QWebEnginePage& page) {
     open_ = true;
     setPage(&page);
+    setTextSize(textSize_);
 }
 
 // NOLINTBEGIN(bugprone-parent-virtual-call): the engine's own view would make itself a page.
@@ -153,21 +154,25 @@ void WebView::addZoomKeys() {
     add(Qt::CTRL | Qt::Key_Plus, [this] { zoomBy(1); });
     add(Qt::CTRL | Qt::Key_Equal, [this] { zoomBy(1); });
     add(Qt::CTRL | Qt::Key_Minus, [this] { zoomBy(-1); });
-    add(Qt::CTRL | Qt::Key_0, [this] { zoomTo(1.0); });
+    add(Qt::CTRL | Qt::Key_0, [this] { zoomTo(100); });
 }
 
 void WebView::zoomBy(int steps) {
-    const auto nearest = std::ranges::min_element(zoomSteps, [this](double a, double b) {
-        return std::abs(a - zoomFactor()) < std::abs(b - zoomFactor());
-    });
+    const auto nearest = std::ranges::min_element(
+        zoomSteps, {}, [this](int percent) { return std::abs(percent - textSize_); });
     const auto wanted = nearest - zoomSteps.begin() + steps;
     const auto last = static_cast<std::ptrdiff_t>(zoomSteps.size()) - 1;
     zoomTo(zoomSteps[static_cast<std::size_t>(std::clamp<std::ptrdiff_t>(wanted, 0, last))]);
 }
 
-void WebView::zoomTo(double factor) {
+void WebView::zoomTo(int percent) {
     // A view that is out of sight keeps its factor.
-    if (isInSight(*this)) setZoomFactor(factor);
+    if (isInSight(*this)) setTextSize(percent);
+}
+
+void WebView::setTextSize(int percent) {
+    textSize_ = std::clamp(percent, zoomSteps.front(), zoomSteps.back());
+    if (open_) setZoomFactor(textSize_ / 100.0);
 }
 
 }  // namespace platform

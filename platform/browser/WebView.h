@@ -19,6 +19,11 @@ class WebView : public QWebEngineView {
     /// Gives it its page. Without one it is an empty white area, and the engine does not run for it.
     void open(QWebEnginePage& page);
 
+    /// The size of the page's text, in percent.
+    int textSize() const { return textSize_; }
+    /// Takes a size from 50 to 250.
+    void setTextSize(int percent);
+
     /// The user's presses in the page.
     UserPress& presses() { return presses_; }
 
@@ -40,9 +45,10 @@ class WebView : public QWebEngineView {
     void passFocusOn();
     void addZoomKeys();
     void zoomBy(int steps);
-    void zoomTo(double factor);
+    void zoomTo(int percent);
 
     bool open_ = false;
+    int textSize_ = 100;
     UserPress presses_;
 };
 

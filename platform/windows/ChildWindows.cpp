@@ -3,6 +3,7 @@
 #include <QPixmap>
 #include <QWidget>
 
+#include "platform/components/PageTools.h"
 #include "platform/components/WebPageInspector.h"
 #include "platform/qt/ClientArea.h"
 #include "platform/qt/QtConvert.h"
@@ -24,10 +25,13 @@ bool isInside(HWND window, HWND parent) {
     return window != 0;
 }
 
-WebPageInspector* browserIn(HWND window) {
+template <class Face>
+Face* componentIn(HWND window) {
     ComponentHost* const host = componentHostOf(window);
-    return host == nullptr ? nullptr : dynamic_cast<WebPageInspector*>(&host->component());
+    return host == nullptr ? nullptr : dynamic_cast<Face*>(&host->component());
 }
+
+WebPageInspector* browserIn(HWND window) { return componentIn<WebPageInspector>(window); }
 
 }  // namespace
 
@@ -53,6 +57,8 @@ CPoint ClientToScreen(HWND window, CPoint p) {
     const QWidget* widget = WindowTable::instance().widget(window);
     return widget == nullptr ? p : fromQt(widget->mapToGlobal(toQt(p)));
 }
+
+PageTools* PageToolsIn(HWND window) { return componentIn<PageTools>(window); }
 
 CBitmap PluginPicture(HWND window) {
     const WindowTable& table = WindowTable::instance();

@@ -10,6 +10,8 @@
 /// inside components, and the plug-ins of pages.
 namespace platform {
 
+class PageTools;
+
 /// Calls back for each window inside `parent`, at any depth, until `callback` returns false. Before that, the
 /// plug-ins of pages are moved to their current places. They come after their browser, in the order of the
 /// page.
@@ -22,6 +24,9 @@ CBitmap PluginPicture(HWND window);
 /// What is seen of a window, with whatever lies before it in the top-level window: a picture of this size
 /// from the corner of its client area. Not loaded when there is no such window.
 CBitmap WindowPicture(HWND window, CSize size);
+
+/// The tools of the page that a browser shows in this window, null when there is none.
+PageTools* PageToolsIn(HWND window);
 
 /// The client area with its corner at (0, 0); empty for an invalid handle.
 CRect GetClientRect(HWND window);

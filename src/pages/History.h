@@ -28,6 +28,11 @@ class History {
     const PageAddress& At(int index) const { return m_entries[static_cast<std::size_t>(index)]; }
     const PageAddress& Current() const { return At(m_nCurrent); }
 
+    /// Keeps how far the page of the current place is scrolled down. Does nothing while a place is restored.
+    void KeepScrolled(double scrolled);
+    /// How far it was while the place is being restored, 0 for any other.
+    double Scrolled() const;
+
     /// While an object of this class exists, nothing is recorded.
     class Replay {
       public:
@@ -42,6 +47,7 @@ class History {
 
   private:
     std::array<PageAddress, kCapacity> m_entries{};
+    std::array<double, kCapacity> m_scrolled{};
     int m_nCurrent = -1;
     int m_nLast = -1;
     bool m_bReplaying = false;

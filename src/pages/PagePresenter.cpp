@@ -9,6 +9,7 @@
 #include "platform/dialogs/Progress.h"
 #include "platform/machine/Machine.h"
 #include "platform/plugins/PluginTypes.h"
+#include "platform/windows/ChildWindows.h"
 #include "src/pages/MoleculeCopy.h"
 #include "src/resources/ResourceIds.h"
 #include "src/state/ProgramState.h"
@@ -40,16 +41,34 @@ void PagePresenter::OpenCache(CacheLocation location) {
     m_preparer.emplace(m_files, TheApp().m_strDataFolder, m_cache.Folder());
 }
 
-void PagePresenter::ShowPage(std::int32_t pageNumber) {
+void PagePresenter::ShowPage(std::int32_t pageNumber, double scrolled) {
     if (!m_preparer) return;
     const std::string file = formats::pagePath(pageNumber).value_or(std::to_string(pageNumber));
     const std::string source = TheApp().m_strDataFolder + file;
     const std::string target = m_cache.NextTarget();
     tellFailure(PreparePage(*m_preparer, source, target), source);
-    ShowPreparedPage(target);
+    ShowPreparedPage(target, scrolled);
 }
 
+double PagePresenter::Scrolled() const {
+    if (m_scrolledWhenLeft) return *m_scrolledWhenLeft;
+    const PageTools* const page = tools();
+    return page == nullptr ? 0 : page->scrolled();
+}
+
+int PagePresenter::TextSize() const {
+    const PageTools* const page = tools();
+    return page == nullptr ? TheApp().m_nTextSize : page->textSize();
+}
+
+void PagePresenter::SetTextSize(int percent) {
+    if (PageTools* const page = tools()) page->setTextSize(percent);
+}
+
+PageTools* PagePresenter::tools() const { return PageToolsIn(m_browser.GetSafeHwnd()); }
+
 void PagePresenter::LeavePage() {
+    m_scrolledWhenLeft = Scrolled();
     m_browser.MoveWindow(kBrowserParked);
     m_contents = {};
 }
@@ -70,7 +89,9 @@ void PagePresenter::tellFailure(PrepareResult result, const std::string& source)
     }
 }
 
-void PagePresenter::ShowPreparedPage(const std::string& target) {
+void PagePresenter::ShowPreparedPage(const std::string& target, double scrolled) {
+    m_scrolledWhenLeft.reset();
+    if (PageTools* const page = tools()) page->beginNextPage({scrolled, m_marked});
     const std::string redirect = m_contents.video ? m_cache.WriteRedirect(target) : std::string();
     m_browser.Navigate(redirect.empty() ? target : redirect, Variant(CWebBrowser::kNoHistoryNoCache));
     m_cache.CleanCache(false);

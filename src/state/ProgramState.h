@@ -28,6 +28,7 @@ struct ProgramState : ComponentVersions {
     int m_nSplitterPos = 0;     ///< left edge of the splitter in view pixels
     platform::CRect m_rcFrame;  ///< main frame, outer rectangle in screen pixels
     int m_nFrameState = 0;      ///< kFrameNormal or kFrameMaximised
+    int m_nTextSize = 100;      ///< of pages at the start, in percent
     platform::HWND m_hwndSelectTarget = 0;
     platform::HWND m_hwndSelectEdit = 0;
     std::string m_strProgramFolder;  ///< no trailing backslash

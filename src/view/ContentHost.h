@@ -16,8 +16,10 @@ class ContentHost {
     /// laid out, false in page mode, whose panes stand already.
     virtual bool EnterPageMode(std::int16_t sectionCode) = 0;
     virtual void LayOutPage() = 0;
-    /// Prepares a content page and has the browser show it.
-    virtual void ShowPage(std::int32_t pageNumber) = 0;
+    /// Prepares a content page and has the browser show it, scrolled down so far.
+    virtual void ShowPage(std::int32_t pageNumber, double scrolled) = 0;
+    /// How far the page shown last is scrolled down, or was when page mode was left.
+    virtual double Scrolled() const = 0;
     /// Has the browse selection show a topic or one of its entries. It answers with the number of the page.
     virtual void ShowItem(std::int32_t pageId, std::int32_t itemCode) = 0;
     virtual void ShowPeriodicTable() = 0;

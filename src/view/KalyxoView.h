@@ -97,7 +97,10 @@ class CKalyxoView : public platform::CView, private ContentHost {
     void ShowMainMenu();
     bool EnterPageMode(std::int16_t sectionCode) override;
     void LayOutPage() override { m_panes.LayOutPage(); }
-    void ShowPage(std::int32_t pageNumber) override { m_pages.ShowPage(pageNumber); }
+    void ShowPage(std::int32_t pageNumber, double scrolled) override {
+        m_pages.ShowPage(pageNumber, scrolled);
+    }
+    double Scrolled() const override { return m_pages.Scrolled(); }
     void ShowItem(std::int32_t pageId, std::int32_t itemCode) override;
     void ShowPeriodicTable() override;
     /// Without a bookmark it does nothing in this mode already.

@@ -34,7 +34,7 @@ void Navigator::OpenStartPage(std::int16_t sectionCode) {
 
 void Navigator::OpenPage(std::int32_t pageNumber) {
     RecordHistory(m_address);
-    m_host.ShowPage(pageNumber);
+    m_host.ShowPage(pageNumber, m_history.Scrolled());
 }
 
 void Navigator::OpenPlace(const PageAddress& place) {
@@ -63,12 +63,24 @@ void Navigator::OnItemChosen(std::int32_t itemCode) {
     OpenPage(itemCode);
 }
 
+void Navigator::RecordHistory(const PageAddress& place) {
+    keepScrolled();
+    m_history.Record(place);
+}
+
 void Navigator::GoBack() {
+    keepScrolled();
     if (m_history.StepBack()) ReplayHistory();
 }
 
 void Navigator::GoForward() {
+    keepScrolled();
     if (m_history.StepForward()) ReplayHistory();
+}
+
+void Navigator::ShowAgain() {
+    keepScrolled();
+    ReplayHistory();
 }
 
 void Navigator::ReplayHistory() {

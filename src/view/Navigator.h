@@ -31,13 +31,14 @@ class Navigator {
     void OnItemChosen(std::int32_t itemCode);
 
     /// Adds a place to the history, unless one of its places is being shown again.
-    void RecordHistory(const PageAddress& place) { m_history.Record(place); }
+    void RecordHistory(const PageAddress& place);
     void GoBack();
     void GoForward();
     /// Shows the place on show once more, without a new one in the history.
-    void ShowAgain() { ReplayHistory(); }
+    void ShowAgain();
 
   private:
+    void keepScrolled() { m_history.KeepScrolled(m_host.Scrolled()); }
     void ReplayHistory();
     void restorePage(const PageAddress& place);
 

@@ -15,7 +15,8 @@ class ContentHostProbe final : public ContentHost {
         return !std::exchange(pageMode_, true);
     }
     void LayOutPage() override { note("panes"); }
-    void ShowPage(std::int32_t pageNumber) override { note("page " + std::to_string(pageNumber)); }
+    void ShowPage(std::int32_t pageNumber, double) override { note("page " + std::to_string(pageNumber)); }
+    double Scrolled() const override { return 0; }
     void ShowItem(std::int32_t pageId, std::int32_t itemCode) override {
         note("item " + std::to_string(pageId) + "/" + std::to_string(itemCode));
         navigator.OnPageChosen(pageId, pageId);

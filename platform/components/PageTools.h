@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace platform {
+
+/// How a page begins that the program has a browser show.
+struct PageStart {
+    /// How far it is scrolled down, in the page's own units.
+    double scrolled = 0;
+    /// Words that are marked in it until the user presses Escape; the first of them is scrolled to. Code page
+    /// 1253.
+    std::vector<std::string> marked;
+
+    friend bool operator==(const PageStart&, const PageStart&) = default;
+};
+
+/// What a browser component does for its program besides its operations; a Component is converted to it by
+/// `dynamic_cast`.
+class PageTools {
+  public:
+    virtual ~PageTools() = default;
+
+    /// How far the page is scrolled down, in its own units.
+    virtual double scrolled() const = 0;
+    /// How the page begins that the program asks for next.
+    virtual void beginNextPage(PageStart start) = 0;
+
+    /// The size of the page's text, in percent.
+    virtual int textSize() const = 0;
+    virtual void setTextSize(int percent) = 0;
+};
+
+}  // namespace platform
