@@ -146,16 +146,14 @@ void CSearchDlg::RunSearch() {
     EnableDlgItem(IDOK, false);
     HitTitles titles(m_files, m_dataFolder);
     CProgress progress(LoadString(IDS_SEARCHING_WORD));
-    for (const ResultRow& row : FindRows(m_index, listSearchWords(), titles, progress.Step()))
-        AddResultRow(row);
+    listSearchWords();
+    for (const ResultRow& row : FindRows(m_index, m_searched, titles, progress.Step())) AddResultRow(row);
 }
 
-std::vector<std::string> CSearchDlg::listSearchWords() {
-    std::vector<std::string> words =
-        m_index.ExpandAlternatives(m_words.GetText(m_words.GetCurSel()), m_alternatives.GetCheck());
+void CSearchDlg::listSearchWords() {
+    m_searched = m_index.ExpandAlternatives(m_words.GetText(m_words.GetCurSel()), m_alternatives.GetCheck());
     m_searchWords.ResetContent();
-    for (const std::string& word : words) m_searchWords.AddString(word);
-    return words;
+    for (const std::string& word : m_searched) m_searchWords.AddString(word);
 }
 
 void CSearchDlg::AddResultRow(const ResultRow& row) {

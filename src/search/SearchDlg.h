@@ -27,6 +27,8 @@ class CSearchDlg : public platform::CDialog {
     /// OK.
     const SearchHit& Chosen() const { return m_chosen; }
     const SearchState& State() const { return m_state; }
+    /// The words of that search.
+    const std::vector<std::string>& SearchedWords() const { return m_searched; }
 
   protected:
     bool OnInitDialog() override;
@@ -47,7 +49,7 @@ class CSearchDlg : public platform::CDialog {
     void insertColumns();
     void restoreSearch();
     void UpdateSearchButton();
-    std::vector<std::string> listSearchWords();
+    void listSearchWords();
     void AddResultRow(const ResultRow& row);
     void SortResults(int column);
 
@@ -56,6 +58,7 @@ class CSearchDlg : public platform::CDialog {
     SearchIndex m_index;
     SearchState m_state;
     SearchHit m_chosen;
+    std::vector<std::string> m_searched;
     /// True while the dialog itself writes into the word field.
     bool m_ignoreWordEdits = false;
 

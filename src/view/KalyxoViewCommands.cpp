@@ -147,7 +147,9 @@ void CKalyxoView::OnSearch() {
     if (dialog.DoModal() != IDOK || dialog.Chosen().pageId < 1) return;
     m_search = dialog.State();
     const SearchHit& hit = dialog.Chosen();
+    m_pages.MarkWords(dialog.SearchedWords());
     m_navigator.OpenTopic({hit.sectionCode, hit.pageId, hit.itemCode});
+    m_pages.MarkWords({});
 }
 
 void CKalyxoView::OnToolbar() {
