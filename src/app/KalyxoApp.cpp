@@ -80,6 +80,7 @@ bool CKalyxoApp::ReadRegistrySettings() {
     m_nSplitterPos = layout.splitterPos;
     m_nFrameState = layout.frameState;
     m_rcFrame = layout.frame;
+    m_nTextSize = ReadTextSize(*key);
     return true;
 }
 

@@ -16,6 +16,8 @@ constexpr int kDefaultWidth = 640;
 constexpr int kDefaultHeight = 480;
 constexpr int kDefaultSplitter = 216;
 constexpr int kNarrowScreen = 700;
+constexpr std::string_view kTextSizeValue = "TextSize";
+constexpr int kDefaultTextSize = 100;
 
 int numberOr(const RegistryKey& key, std::string_view name, int fallback) {
     const std::optional<std::uint32_t> stored = key.queryDword(name);
@@ -66,6 +68,14 @@ WindowLayout ReadLayout(const RegistryKey& key, const CRect& screen) {
     layout.frame = {numberOr(key, "Left", 0), numberOr(key, "Top", 0), numberOr(key, "Right", kDefaultWidth),
                     numberOr(key, "Bottom", kDefaultHeight)};
     return layout;
+}
+
+int ReadTextSize(const RegistryKey& key) { return numberOr(key, kTextSizeValue, kDefaultTextSize); }
+
+bool WriteTextSize(platform::Registry& registry, int percent) {
+    std::optional<RegistryKey> key = registry.openKeyForWriting(HKEY_LOCAL_MACHINE, SettingsKeyPath());
+    if (key) key->setDword(kTextSizeValue, static_cast<std::uint32_t>(percent));
+    return key.has_value();
 }
 
 bool WriteLayout(platform::Registry& registry, const WindowLayout& layout) {

@@ -44,6 +44,11 @@ std::optional<WindowLayout> FirstLayout(const platform::CRect& screen);
 /// narrower than 700.
 WindowLayout ReadLayout(const platform::RegistryKey& key, const platform::CRect& screen);
 
+/// The size of the text of pages in percent; 100 when none is saved.
+int ReadTextSize(const platform::RegistryKey& key);
+/// Writes it to the settings key; false when that cannot be opened.
+bool WriteTextSize(platform::Registry& registry, int percent);
+
 /// Writes the layout to the settings key, which is created when it is missing; false when it can be neither
 /// opened nor created.
 bool WriteLayout(platform::Registry& registry, const WindowLayout& layout);

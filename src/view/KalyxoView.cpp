@@ -16,6 +16,7 @@
 #include "src/resources/CommandIds.h"
 #include "src/resources/ResourceIds.h"
 #include "src/state/ProgramState.h"
+#include "src/state/Settings.h"
 #include "src/view/ComponentStart.h"
 #include "src/view/PaneLayout.h"
 
@@ -70,6 +71,7 @@ void CKalyxoView::OnInitialUpdate() {
         m_bStartupFailed = true;
         return;
     }
+    m_pages.SetTextSize(TheApp().m_nTextSize);
     m_components.browser.Navigate(TheApp().m_strDataFolder + "a.htm");
     m_panel.Create(this);
     openCache();
@@ -113,10 +115,17 @@ void CKalyxoView::loadPictures() {
 void CKalyxoView::OnDestroy() {
     if (m_bStartupFailed) return;
     BrowserPolicy::instance().setFollower({});
+    saveTextSize();
     m_components.browser.DestroyWindow();
     m_bookmarks.SaveBookmarks();
     KillTimer(kTimerId);
     m_pages.CleanCache();
+}
+
+void CKalyxoView::saveTextSize() {
+    const int size = m_pages.TextSize();
+    if (size == TheApp().m_nTextSize) return;
+    if (WriteTextSize(machine().registry(), size)) machine().flushRegistry();
 }
 
 bool CKalyxoView::takePageLink(const std::string& address) {

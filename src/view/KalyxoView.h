@@ -114,6 +114,7 @@ class CKalyxoView : public platform::CView, private ContentHost {
     /// Reads the indexes of the changed data folder and shows the page on show anew.
     void showContentAnew();
     void loadPictures();
+    void saveTextSize();
 
     platform::CRect areaBelowBar() const;
 
