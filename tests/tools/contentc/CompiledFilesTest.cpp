@@ -54,6 +54,27 @@ TEST(CompiledFiles, HoldTheirSourceInCodePage1253) {
     }
 }
 
+// As simple editors on other systems save them.
+TEST(CompiledFiles, AreTheSameWithByteOrderMarksAndOtherLineEnds) {
+    ContentFolder plain;
+    ContentFolder other;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(plain.sources())) {
+        if (!entry.is_regular_file()) continue;
+        const bool isMolecule = entry.path().extension() == ".mol";
+        std::string text = isMolecule ? "" : "\xEF\xBB\xBF";
+        for (const char c : readAll(entry.path())) text += c == '\n' ? "\r\n" : std::string(1, c);
+        other.write(entry.path().lexically_relative(plain.sources()).generic_string(), text);
+    }
+    const auto files = plain.compile();
+    const auto others = other.compile();
+    EXPECT_EQ(other.messages, std::vector<std::string>{});
+    ASSERT_TRUE(files && others);
+    for (const auto& [key, file] : files->files()) {
+        if (key.starts_with("mol\\")) continue;
+        EXPECT_EQ(others->files().at(key).bytes, file.bytes) << key;
+    }
+}
+
 TEST(CompiledFiles, MarksBecomeMarkers) {
     ContentFolder content;
     content.write("../built/fire.webm", "\x1A\x45\xDF\xA3");
