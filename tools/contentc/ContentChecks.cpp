@@ -97,6 +97,8 @@ struct FolderOfFiles {
     std::string folder;
     std::string extension;
     const Message& fault;
+    /// Where its sources lie.
+    const char* sources;
 };
 
 void checkFiles(const std::vector<Reference>& references, const FolderOfFiles& files,
@@ -104,7 +106,8 @@ void checkFiles(const std::vector<Reference>& references, const FolderOfFiles& f
     for (const Reference& reference : references) {
         if (outputs.contains(files.folder + reference.name + files.extension)) continue;
         diagnostics.error(reference.place, files.fault, {reference.name})
-            .suggestNearest(reference.name, namesIn(files.folder, outputs, false));
+            .suggestNearestOr(reference.name, namesIn(files.folder, outputs, false), say::putFileInto,
+                              {files.sources});
     }
 }
 
@@ -134,8 +137,8 @@ void checkContent(const Content& content, const std::filesystem::path& root, Dia
 void checkReferences(const References& references, const Content& content, const OutputFiles& outputs,
                      Diagnostics& diagnostics) {
     checkTerms(references, content, diagnostics);
-    checkFiles(references.videos, {"video\\", ".webm", say::noVideo}, outputs, diagnostics);
-    checkFiles(references.molecules, {"mol\\", ".mol", say::noMolecule}, outputs, diagnostics);
+    checkFiles(references.videos, {"video\\", ".webm", say::noVideo, "videos"}, outputs, diagnostics);
+    checkFiles(references.molecules, {"mol\\", ".mol", say::noMolecule, "molecules"}, outputs, diagnostics);
     for (const ToolUse& tool : references.tools) checkTool(tool, content.tools, diagnostics);
     checkDataPaths(references, outputs, diagnostics);
 }

@@ -97,9 +97,10 @@ TEST_F(PageLists, UnknownPagesAreReported) {
     content_.write("pages/uses/400020-b.md",
                    "τίτλος: Βαφές\nπερίληψη: Μ.\nπριν: Γάλα\nδες: 999\nτάξη: Δ΄\n---\n");
     EXPECT_FALSE(content_.compile());
-    const std::vector<std::string> expected{"pages/uses/400020-b.md:3:7: no page is called 'Γάλα'",
-                                            "pages/uses/400020-b.md:4:6: no page has the number 999",
-                                            "pages/uses/400020-b.md:5:7: no school year: 'Δ΄'"};
+    const std::vector<std::string> expected{
+        "pages/uses/400020-b.md:3:7: no page is called 'Γάλα'",
+        "pages/uses/400020-b.md:4:6: no page has the number 999",
+        "pages/uses/400020-b.md:5:7: no school year: 'Δ΄'; write Β΄ or Γ΄ Γυμνασίου, Α΄, Β΄ or Γ΄ Λυκείου"};
     EXPECT_EQ(content_.messages, expected);
 }
 

@@ -25,6 +25,9 @@ inline constexpr Message pictureInText{"a picture stands on a line of its own",
                                        "μια εικόνα μπαίνει σε δική της γραμμή"};
 inline constexpr Message unknownTermName{"no glossary term is called '{1}'",
                                          "κανένας όρος του γλωσσαρίου δεν λέγεται «{1}»"};
+inline constexpr Message addTheTerm{
+    "write it in the folder 'glossary': a line '# {1}', and its text below",
+    "γράψε τον στον φάκελο «glossary»: μια γραμμή «# {1}» και από κάτω το κείμενό του"};
 inline constexpr Message unknownPageName{"no page is called '{1}'", "καμία σελίδα δεν λέγεται «{1}»"};
 inline constexpr Message unknownPageNumber{"no page has the number {1}",
                                            "καμία σελίδα δεν έχει τον αριθμό {1}"};

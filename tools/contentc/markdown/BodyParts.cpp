@@ -276,7 +276,8 @@ void BodyParts::writeFigure(const FigureLine& figure, const TextLine& line) {
 void BodyParts::reportPicture(std::string_view file, const SourcePlace& place) {
     std::vector<std::string> names;
     for (const auto& [name, size] : context_.pictures) names.push_back(name);
-    diagnostics_.error(place, say::unknownPicture, {file}).suggestNearest(file, names);
+    diagnostics_.error(place, say::unknownPicture, {file})
+        .suggestNearestOr(file, names, say::putFileInto, {"pictures"});
 }
 
 void BodyParts::writeMark(std::string_view words, const TextLine& line) {

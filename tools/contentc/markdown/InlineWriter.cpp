@@ -114,7 +114,7 @@ void InlineWriter::writeTerm(const InlineMark& mark) {
     const TermSource* term = context_.terms.find(platform::fromUtf8(mark.term));
     if (!term) {
         diagnostics_.error(mark.place, say::unknownTermName, {mark.term})
-            .suggestNearest(mark.term, context_.terms.names());
+            .suggestNearestOr(mark.term, context_.terms.names(), say::addTheTerm, {mark.term});
     }
     const std::string words = inlineHtml({mark.text, mark.wordsPlace}, context_, page_, diagnostics_);
     lines_->add(term && !words.empty() ? "[[" + term->key + '|' + words + "]]" : words);

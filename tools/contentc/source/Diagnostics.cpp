@@ -43,6 +43,13 @@ Diagnostic& Diagnostic::suggestNearest(std::string_view wanted, const std::vecto
     return *this;
 }
 
+Diagnostic& Diagnostic::suggestNearestOr(std::string_view wanted, const std::vector<std::string>& names,
+                                         const Message& message, MessageValues values) {
+    const std::size_t before = suggestions.size();
+    suggestNearest(wanted, names);
+    return suggestions.size() > before ? *this : suggest(message, std::move(values));
+}
+
 std::string toLine(const Diagnostic& diagnostic, Language language) {
     std::string line = toText(diagnostic.place) + ' ';
     if (diagnostic.severity == Severity::warning) line += Phrase{say::warning, {}}.in(language);

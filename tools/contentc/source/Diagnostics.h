@@ -40,6 +40,9 @@ struct Diagnostic {
     Diagnostic& suggest(const Message& message, MessageValues values = {});
     /// Suggests the one of the names that is most like `wanted`; nothing when none is like it. UTF-8.
     Diagnostic& suggestNearest(std::string_view wanted, const std::vector<std::string>& names);
+    /// The same, with something else to do when none is like it.
+    Diagnostic& suggestNearestOr(std::string_view wanted, const std::vector<std::string>& names,
+                                 const Message& message, MessageValues values);
 };
 
 /// `file:line:column: message; suggestion`, with `warning: ` before the message of a warning. The column is

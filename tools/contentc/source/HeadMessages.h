@@ -19,7 +19,9 @@ inline constexpr Message unknownKind{"unknown kind '{1}'", "άγνωστο εί�
 inline constexpr Message onlyEntriesHaveTopics{"only an entry has a topic", "μόνο ένα λήμμα έχει θέμα"};
 inline constexpr Message topicWithoutSummary{"a topic needs a summary, for the list of topics",
                                              "ένα θέμα χρειάζεται περίληψη, για τον κατάλογο των θεμάτων"};
-inline constexpr Message unknownSchoolYear{"no school year: '{1}'", "δεν είναι σχολική τάξη: «{1}»"};
+inline constexpr Message unknownSchoolYear{
+    "no school year: '{1}'; write Β΄ or Γ΄ Γυμνασίου, Α΄, Β΄ or Γ΄ Λυκείου",
+    "δεν είναι σχολική τάξη: «{1}»· γράψε Β΄ ή Γ΄ Γυμνασίου, Α΄, Β΄ ή Γ΄ Λυκείου"};
 inline constexpr Message notANumber{"not a number: '{1}'", "δεν είναι αριθμός: «{1}»"};
 inline constexpr Message unknownTopic{"section '{1}' has no topic {2}", "η ενότητα «{1}» δεν έχει θέμα {2}"};
 inline constexpr Message nameFileSo{"name it {1}", "ονόμασέ το {1}"};

@@ -85,7 +85,11 @@ class OpenTags {
     }
 
     void reportOpen(const HtmlTag& tag) {
-        if (!isOneOf(openEndedTags, tag.name)) diagnostics_.error(tag.place, say::tagIsOpen, {shown(tag)});
+        if (!isOneOf(openEndedTags, tag.name)) {
+            const HtmlTag end{tag.name, true, {}};
+            diagnostics_.error(tag.place, say::tagIsOpen, {shown(tag)})
+                .suggest(say::writeWhereItEnds, {shown(end)});
+        }
     }
 
     Diagnostics& diagnostics_;

@@ -52,7 +52,8 @@ void checkMolecule(const SourceFile& file, Diagnostics& diagnostics) {
     const std::int32_t atoms = columnNumber(counts, 0);
     const std::int32_t bonds = columnNumber(counts, 3);
     if (atoms < 1 || bonds < 0) {
-        diagnostics.error(file.place(static_cast<int>(headLines)), say::noCountsLine);
+        diagnostics.error(file.place(static_cast<int>(headLines)), say::noCountsLine)
+            .suggest(say::saveAsV2000);
     } else if (lines.size() < headLines + static_cast<std::size_t>(atoms) + static_cast<std::size_t>(bonds)) {
         diagnostics.error(file.place(static_cast<int>(lines.size())), say::moleculeIsCutShort,
                           {atoms, bonds});
