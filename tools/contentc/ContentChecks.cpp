@@ -44,15 +44,21 @@ void checkSharedEntries(const Content& content, Diagnostics& diagnostics) {
 
 void checkTerms(const References& references, const Content& content, Diagnostics& diagnostics) {
     std::set<std::string_view> known;
-    std::set<std::string_view> used;
     for (const TermSource& term : content.terms) known.insert(term.key);
     for (const Reference& reference : references.terms) {
-        used.insert(reference.name);
         if (!known.contains(reference.name))
             diagnostics.error(reference.place, say::noTermWithKey, {platform::toUtf8(reference.name)});
     }
+}
+
+/// What a term of the program is good for is not the author's business.
+void checkUnusedTerms(const SourceTree& tree, const Content& content, const References& references,
+                      Diagnostics& diagnostics) {
+    std::set<std::string_view> used;
+    for (const Reference& reference : references.terms) used.insert(reference.name);
     for (const TermSource& term : content.terms) {
-        if (!used.contains(term.key)) diagnostics.warning(term.place, say::termIsUnused);
+        const bool isOwn = term.place.file.starts_with((tree.root / "").generic_string());
+        if (isOwn && !used.contains(term.key)) diagnostics.warning(term.place, say::termIsUnused);
     }
 }
 
@@ -143,7 +149,9 @@ void checkReferences(const References& references, const Content& content, const
     checkDataPaths(references, outputs, diagnostics);
 }
 
-void checkUnused(const SourceTree& tree, const References& references, Diagnostics& diagnostics) {
+void checkUnused(const SourceTree& tree, const Content& content, const References& references,
+                 Diagnostics& diagnostics) {
+    checkUnusedTerms(tree, content, references, diagnostics);
     std::set<std::string> used;
     for (const Reference& path : references.dataPaths) used.insert(pathKey(path.name));
     for (const Reference& video : references.videos) used.insert(pathKey("video\\" + video.name + ".webm"));

@@ -42,7 +42,7 @@ class ContentCompilation {
         checkContent(content_, tree_.root, diagnostics_);
         checkReferences(references_, content_, outputs_, diagnostics_);
         checkMedia(tree_, diagnostics_);
-        checkUnused(tree_, references_, diagnostics_);
+        checkUnused(tree_, content_, references_, diagnostics_);
         checkTerminology(tree_, content_, diagnostics_);
         if (checks == Checks::complete) checkCompleteness(content_, diagnostics_);
         addColumns(content_, diagnostics_);
