@@ -7,7 +7,7 @@ from dataclasses import dataclass, field
 # How many plain words stand before the JSON value of a line, and whether there is a value.
 CHANGES = {"machine": (0, True), "options": (0, True), "setting": (1, True), "write": (1, True), "bytes": (1, True),
            "cut": (1, True), "copy": (2, False), "replace": (1, True), "delete": (1, False), "pipe": (1, False),
-           "environment": (1, True), "restart": (0, False)}
+           "environment": (1, True), "follow": (0, False), "restart": (0, False)}
 CHECKS = {"file": (1, False), "no-file": (1, False), "contains": (1, True), "lacks": (1, True), "bytes": (1, True),
           "count": (1, True), "loaded": (1, False), "not-loaded": (1, False), "printed": (1, True)}
 EXPECTATION = re.compile(r"(?P<query>[^{]*?)\s*(?:\b(?P<kind>somewhere|nowhere)\b)?\s*(?P<fragment>\{.*)")

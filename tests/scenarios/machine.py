@@ -22,6 +22,7 @@ class Machine:
 
     def __init__(self, driver, content):
         self.driver, self.made, self.options, self.environment = driver, False, [], dict(os.environ)
+        self.arguments = []
         self.root = Path(tempfile.mkdtemp(prefix="kalyxo-scenario-"))
         self.folder, self.data = self.root / "machine", self.root / "data"
         link_folder(Path(content).resolve(), self.data)
@@ -47,6 +48,9 @@ class Machine:
             if self.made:
                 raise Problem("options come before all else")
             self.options = value
+            return
+        if what == "follow":
+            self.arguments = ["--follow"]
             return
         if what == "environment":
             self.environment[words[0]] = value

@@ -121,7 +121,7 @@ class Run:
             self.machine.make()
         except Problem as problem:
             raise Broken(problem) from problem
-        self.driver = subprocess.Popen([self.driver_file, "--machine", self.machine.folder], cwd=self.machine.folder,
+        self.driver = subprocess.Popen([self.driver_file, "--machine", self.machine.folder, *self.machine.arguments], cwd=self.machine.folder,
                                        env=self.machine.environment, stdin=subprocess.PIPE, stdout=subprocess.PIPE, encoding="utf-8")
 
     def ask(self, line):

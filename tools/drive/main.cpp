@@ -52,8 +52,9 @@ std::string platformChoice(const platform::ScreenConfig& screen) {
     return chosen == "offscreen" ? offscreenPlatform(screen) : chosen.toStdString();
 }
 
-int runSession(int script) {
+int runSession(int script, bool follows) {
     kalyxo::CKalyxoApp program;
+    program.m_bFollowContent = follows;
     Session session(script, program);
     session.begin();
     const int status = QCoreApplication::exec();
@@ -85,7 +86,7 @@ int carryOut(const RunScript& task) {
     // The text cursor does not blink: pictures show the same at any time.
     QApplication::setCursorFlashTime(0);
     platform::applyLightPalette();
-    const int status = runSession(script);
+    const int status = runSession(script, task.follow);
     platform::setMachine(nullptr);
     return status;
 }

@@ -19,6 +19,7 @@ TEST(CommandLine, SaysWhatIsWrong) {
         {"--new-machine", "m", "--data"},
         {"--new-machine", "m", "--data", "d", "a.kys"},
         {"--new-machine", "m", "--machine", "m", "--data", "d"},
+        {"--new-machine", "m", "--data", "d", "--follow"},
         {"--machine", "m", "--quick"},
     };
     for (const auto& arguments : wrong) {

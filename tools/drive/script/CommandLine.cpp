@@ -18,6 +18,7 @@ struct Given {
     std::optional<std::string> data;
     bool outside = false;
     bool bare = false;
+    bool follow = false;
     std::vector<std::string> rest;
 };
 
@@ -31,6 +32,7 @@ std::optional<std::string>* valueOf(Given& given, std::string_view option) {
 bool* flagOf(Given& given, std::string_view option) {
     if (option == "--outside") return &given.outside;
     if (option == "--bare") return &given.bare;
+    if (option == "--follow") return &given.follow;
     return nullptr;
 }
 
@@ -54,7 +56,7 @@ Result<void> sortOut(std::span<const char* const> arguments, Given& given) {
 
 Result<Task> newMachine(const std::string& folder, const Given& given) {
     if (!given.data) return Failure{"--new-machine needs --data"};
-    if (given.machine || !given.rest.empty())
+    if (given.machine || given.follow || !given.rest.empty())
         return Failure{"--new-machine takes no machine and no script to run"};
     return Task(NewMachine{folder, *given.data, given.outside, given.bare});
 }
@@ -64,7 +66,7 @@ Result<Task> runScript(const Given& given) {
     if (given.data || given.outside || given.bare)
         return Failure{"--data, --outside and --bare make new machines"};
     if (given.rest.size() > 1) return Failure{"more than one script"};
-    RunScript run{*given.machine, std::nullopt};
+    RunScript run{*given.machine, std::nullopt, given.follow};
     if (!given.rest.empty()) run.script = given.rest.front();
     return Task(std::move(run));
 }
@@ -78,7 +80,7 @@ Result<Task> taskOf(std::span<const char* const> arguments) {
 }
 
 std::string_view usage() {
-    return "usage: kalyxo-drive --machine DIR [SCRIPT]\n"
+    return "usage: kalyxo-drive --machine DIR [--follow] [SCRIPT]\n"
            "       kalyxo-drive --new-machine DIR --data FOLDER [--outside] [--bare]\n";
 }
 

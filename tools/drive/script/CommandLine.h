@@ -14,6 +14,7 @@ namespace drive {
 struct RunScript {
     std::filesystem::path machine;
     std::optional<std::filesystem::path> script;  ///< standard input when there is none
+    bool follow = false;                          ///< whether the program follows changes of its content
 };
 
 /// The task to make a machine folder.
