@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <ostream>
+#include <vector>
+
+#include "platform/browser/BrowserPolicy.h"
 
 using namespace platform;
 
@@ -109,6 +113,29 @@ TEST(RequestPolicy, AllowsNothingBeforeItIsTold) {
     EXPECT_FALSE(policy.allows({program, {}, QUrl("d:/a.htm")}));
     EXPECT_FALSE(policy.allows({part, QUrl(cached), QUrl("d:/a.htm")}));
     EXPECT_FALSE(policy.allows({program, {}, QUrl(online)}));
+}
+
+std::vector<QString> refusals;
+
+void noteRefusal(QtMsgType, const QMessageLogContext&, const QString& line) {
+    if (line.contains(QLatin1StringView("efus"))) refusals.push_back(line);
+}
+
+TEST(BrowserPolicy, LogsEachRefusalOnceAndNotMoreThanSomeHundred) {
+    refusals.clear();
+    const QtMessageHandler before = qInstallMessageHandler(&noteRefusal);
+    BrowserPolicy& policy = BrowserPolicy::instance();
+    const auto refuse = [&policy](const QString& address) {
+        EXPECT_FALSE(policy.admit({part, QUrl(cached), QUrl(address)}));
+    };
+    for (int i = 0; i < 3; ++i) refuse(QStringLiteral("z:/once.txt"));
+    EXPECT_EQ(std::ranges::count(refusals, QStringLiteral("Refused: Z:\\once.txt, asked for by "
+                                                          "C:\\Kalyxo\\cache\\1.htm")),
+              1);
+    for (int i = 0; i < 1000; ++i) refuse(QStringLiteral("z:/%1.txt").arg(i));
+    qInstallMessageHandler(before);
+    EXPECT_LE(refusals.size(), 201U);
+    EXPECT_EQ(refusals.back(), QStringLiteral("Further refusals are not shown."));
 }
 
 }  // namespace
