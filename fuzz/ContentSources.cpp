@@ -100,7 +100,7 @@ void checkPage(std::string_view page) {
 void fuzz::tryInput(std::string_view input) {
     const Sources sources(input);
     contentc::Diagnostics diagnostics;
-    const auto outputs = contentc::compileContent(sources.tree(), diagnostics);
+    const auto outputs = contentc::compileContent(sources.tree(), diagnostics, contentc::Checks::complete);
     checkMessages(diagnostics);
     if (!outputs) return;
     for (const auto& [key, file] : outputs->files()) {
