@@ -7,6 +7,7 @@
 
 #include "platform/browser/BrowserPolicy.h"
 #include "platform/browser/DosUrl.h"
+#include "platform/browser/FindStrip.h"
 #include "platform/browser/FolderAddresses.h"
 #include "platform/browser/LinkClick.h"
 #include "platform/browser/PagePrinter.h"
@@ -160,6 +161,16 @@ void WebBrowserComponent::sendCommand(const std::string& component, LPARAM comma
 
 double WebBrowserComponent::scrolled() const {
     return page_ ? page_->scrollPosition().y() / page_->zoomFactor() : 0;
+}
+
+void WebBrowserComponent::openFind() {
+    page();
+    if (!find_) find_ = std::make_unique<FindStrip>(*view_);
+    find_->open();
+}
+
+void WebBrowserComponent::closeFind() {
+    if (find_) find_->close();
 }
 
 int WebBrowserComponent::textSize() const { return view_->textSize(); }

@@ -13,6 +13,7 @@
 
 namespace platform {
 
+class FindStrip;
 class LinkClick;
 struct PageRequest;
 class PagePrinter;
@@ -49,6 +50,8 @@ class WebBrowserComponent : public Component, public WebPageInspector, public Pa
 
     double scrolled() const override;
     void beginNextPage(PageStart start) override { start_ = std::move(start); }
+    void openFind() override;
+    void closeFind() override;
     int textSize() const override;
     void setTextSize(int percent) override;
 
@@ -76,6 +79,7 @@ class WebBrowserComponent : public Component, public WebPageInspector, public Pa
     // Null until the engine is needed. It is destroyed before its view, which does not own it.
     std::unique_ptr<WebPage> page_;
     std::unique_ptr<PluginWindows> plugins_;  // with the page
+    std::unique_ptr<FindStrip> find_;         // beside the view; null until it is first opened
     FirstExposure exposure_;
     std::unique_ptr<LinkClick> click_;  // the last one in the page
 };

@@ -27,6 +27,10 @@ class PageTools {
     /// How the page begins that the program asks for next.
     virtual void beginNextPage(PageStart start) = 0;
 
+    /// Opens the strip in which the user looks for a text in the page, or closes it.
+    virtual void openFind() = 0;
+    virtual void closeFind() = 0;
+
     /// The size of the page's text, in percent.
     virtual int textSize() const = 0;
     virtual void setTextSize(int percent) = 0;

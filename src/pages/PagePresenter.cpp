@@ -56,6 +56,10 @@ double PagePresenter::Scrolled() const {
     return page == nullptr ? 0 : page->scrolled();
 }
 
+void PagePresenter::FindInPage() {
+    if (PageTools* const page = tools()) page->openFind();
+}
+
 int PagePresenter::TextSize() const {
     const PageTools* const page = tools();
     return page == nullptr ? TheApp().m_nTextSize : page->textSize();
@@ -69,6 +73,7 @@ PageTools* PagePresenter::tools() const { return PageToolsIn(m_browser.GetSafeHw
 
 void PagePresenter::LeavePage() {
     m_scrolledWhenLeft = Scrolled();
+    if (PageTools* const page = tools()) page->closeFind();
     m_browser.MoveWindow(kBrowserParked);
     m_contents = {};
 }

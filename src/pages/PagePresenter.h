@@ -27,6 +27,8 @@ class PagePresenter {
     /// Shows the page with a number; a number that names no file is reported like a page that is missing.
     /// The page begins scrolled down so far, in its own units.
     void ShowPage(std::int32_t pageNumber, double scrolled);
+    /// Opens the strip in which the user looks for a text in the page.
+    void FindInPage();
     /// Words that are marked in the pages shown from now on.
     void MarkWords(std::vector<std::string> words) { m_marked = std::move(words); }
     /// The size of the text of pages, in percent.

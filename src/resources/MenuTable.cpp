@@ -91,7 +91,7 @@ constexpr std::array kAccelerators = {
     Accelerator{"Shift+F6", ID_PREV_PANE}, Accelerator{"Esc", ID_CANCEL_EDIT},
     Accelerator{"F1", ID_HELP_CONTENTS},   Accelerator{"F11", ID_FULL_SCREEN},
     Accelerator{"Ctrl+P", ID_FILE_PRINT},  Accelerator{"Alt+Left", ID_BACK},
-    Accelerator{"Alt+Right", ID_FORWARD},
+    Accelerator{"Alt+Right", ID_FORWARD},  Accelerator{"Ctrl+F", ID_EDIT_FIND},
 };
 
 }  // namespace

@@ -17,6 +17,7 @@ class CommandRules {
     bool Print() const { return shows(ContentMode::Page) || analyserShowsGraph(); }
     bool CutAndPaste() const;
     bool Copy() const { return shows(ContentMode::Page); }
+    bool FindInPage() const { return shows(ContentMode::Page); }
     bool Molecule() const { return m_contents.molecule; }
     bool Video() const { return m_contents.video; }
     bool CopyAllData() const { return shows(ContentMode::DataAnalyser); }

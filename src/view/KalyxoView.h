@@ -68,6 +68,7 @@ class CKalyxoView : public platform::CView, private ContentHost {
     void OnHelp();
     void showPlainPage(const std::string& address);
     void OnSearch();
+    void OnFindInPage() { m_pages.FindInPage(); }
     void OnBookmarkAdd() { m_bookmarks.OnBookmarkAdd(m_panes.Mode()); }
     void OnBookmarkGoto() { m_bookmarks.OnBookmarkGoto(); }
     void GoBack() { m_navigator.GoBack(); }

@@ -85,6 +85,8 @@ const MessageMap* CKalyxoView::GetMessageMap() const {
         OnCommandId<&CKalyxoView::OnEdit<&EditCommands::Print>>(ID_FILE_PRINT),
         OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::Print>>(ID_FILE_PRINT),
         OnCommandId<&CKalyxoView::OnSearch>(ID_SEARCH),
+        OnCommandId<&CKalyxoView::OnFindInPage>(ID_EDIT_FIND),
+        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::FindInPage>>(ID_EDIT_FIND),
         OnCommandId<&CKalyxoView::OnEdit<&EditCommands::Cut>>(ID_EDIT_CUT),
         OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::CutAndPaste>>(ID_EDIT_CUT),
         OnCommandId<&CKalyxoView::OnEdit<&EditCommands::CopyToClipboard>>(ID_EDIT_COPY),
