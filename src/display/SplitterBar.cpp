@@ -81,6 +81,11 @@ void CSplitterBar::SetRange(int min, int max) {
     }
 }
 
+void CSplitterBar::MoveBar(int position) {
+    moveTo(clampTo(position, m_nMin, m_nMax));
+    notifyParent();
+}
+
 void CSplitterBar::SetLength(int length) { MoveWindow(barRect(length)); }
 
 void CSplitterBar::OnPaint() {
@@ -125,8 +130,7 @@ void CSplitterBar::OnKeyDown(UINT key) {
         DefWindowProc(WM_KEYDOWN, key, 0);
         return;
     }
-    moveTo(clampTo(m_nPos + (back ? -kKeyStep : kKeyStep), m_nMin, m_nMax));
-    notifyParent();
+    MoveBar(m_nPos + (back ? -kKeyStep : kKeyStep));
 }
 
 void CSplitterBar::OnFocus(HWND) { Invalidate(); }

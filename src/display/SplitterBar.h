@@ -24,6 +24,8 @@ class CSplitterBar : public platform::CWnd {
     int GetPos() const { return m_nPos; }
     /// Changes the range. A bar outside it is moved into it, and the parent is told.
     void SetRange(int min, int max);
+    /// Moves the bar to a position within its limits and tells the parent.
+    void MoveBar(int position);
     /// Changes the length without moving the bar.
     void SetLength(int length);
 

@@ -1,5 +1,7 @@
 #include "src/view/ContentPanes.h"
 
+#include <algorithm>
+
 #include "platform/input/TabOrder.h"
 #include "src/state/ProgramState.h"
 #include "src/view/PaneLayout.h"
@@ -51,7 +53,7 @@ void ContentPanes::LayOutPage() {
                       area.right - kSplitterToRightEdge, m_view);
     TabAfter(m_splitter.GetSafeHwnd(), m_components.select.GetSafeHwnd());
     // The bar keeps within its limits, whatever position was saved.
-    SplitterMoved();
+    placePanes();
     m_components.select.ShowWindow(SW_SHOW);
     m_bLayoutPending = false;
 }
@@ -73,21 +75,34 @@ void ContentPanes::Resize(CSize client) {
             break;
         case ContentMode::Page:
             m_splitter.SetLength(area.Height());
-            m_splitter.SetRange(kMinSplitterPosAfterResize, area.right - kSplitterToRightEdge);
+            limitSplitter(area.right - kSplitterToRightEdge);
             break;
         case ContentMode::MainMenu:
             break;
     }
 }
 
+/// A bar that a narrow window has pulled to the left goes back as far as a wider one allows.
+void ContentPanes::limitSplitter(int max) {
+    const int wanted = std::max(m_nPulledFrom, m_splitter.GetPos());
+    m_splitter.SetRange(kMinSplitterPosAfterResize, max);
+    if (wanted > m_splitter.GetPos() && m_splitter.GetPos() < max) m_splitter.MoveBar(wanted);
+    m_nPulledFrom = wanted > max ? wanted : 0;
+}
+
 void ContentPanes::Paint(CDC& dc) {
     if (m_mode == ContentMode::Page) dc.FillSolidRect(PaneLayout{clientSize()}.whole(), kBetweenPanes);
     m_components.select.Invalidate();
-    if (m_bLayoutPending) SplitterMoved();
+    if (m_bLayoutPending) placePanes();
     m_bLayoutPending = false;
 }
 
 void ContentPanes::SplitterMoved() {
+    m_nPulledFrom = 0;
+    placePanes();
+}
+
+void ContentPanes::placePanes() {
     if (m_mode != ContentMode::Page) return;
     const int position = m_splitter.GetPos();
     if (position >= kMinSplitterPos) TheApp().m_nSplitterPos = position;

@@ -32,6 +32,8 @@ class ContentPanes {
 
   private:
     void leaveMode();
+    void limitSplitter(int max);
+    void placePanes();
     platform::CSize clientSize() const;
 
     platform::CWnd& m_view;
@@ -40,6 +42,8 @@ class ContentPanes {
     CSplitterBar m_splitter;
     ContentMode m_mode = ContentMode::MainMenu;
     bool m_bLayoutPending = false;
+    /// Where the bar stood before a window that became narrow pulled it to the left; 0 when it did not.
+    int m_nPulledFrom = 0;
 };
 
 }  // namespace kalyxo
