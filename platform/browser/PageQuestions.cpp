@@ -127,6 +127,13 @@ std::optional<CRect> findLinkOf(QWebEnginePage& page, std::string_view linkText)
     return rectangle(evaluate(page, QString(script).arg(quoted(linkText))), page.zoomFactor());
 }
 
+std::optional<CRect> focusedLinkOf(QWebEnginePage& page) {
+    static const auto script = QStringLiteral(
+        "(() => { const box = document.activeElement?.closest('a')?.getClientRects()[0];"
+        "return box ? [box.left, box.top, box.right, box.bottom] : null; })()");
+    return rectangle(evaluate(page, script), page.zoomFactor());
+}
+
 std::vector<EmbeddedFrame> embeddedFramesOf(QWebEnginePage& page) {
     return readFrames(evaluate(page, placesScript), page.zoomFactor());
 }

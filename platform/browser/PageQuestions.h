@@ -28,6 +28,9 @@ QString htmlOf(QWebEnginePage& page);
 /// where it is.
 std::optional<CRect> findLinkOf(QWebEnginePage& page, std::string_view linkText);
 
+/// Where the link with the keyboard focus is, the first line of it when it is broken.
+std::optional<CRect> focusedLinkOf(QWebEnginePage& page);
+
 /// The frame of an embedded file: the number that the page's script gave it (see EmbedScript), its place in
 /// the view, and its size in the page's own units, which is the same however the page is zoomed.
 struct EmbeddedFrame {

@@ -20,6 +20,7 @@ void UserPress::see(const QEvent& event) {
         type == QEvent::MouseButtonRelease || type == QEvent::KeyRelease || type == QEvent::TouchEnd;
     if (limit_.hasExpired() && isPress) presses_ = 0;
     if (isPress) ++presses_;
+    if (isPress) lastWasKey_ = type == QEvent::KeyPress;
     if (isPress || isRelease) limit_.setRemainingTime(timeForAnswer);
 }
 

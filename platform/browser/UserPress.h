@@ -16,11 +16,15 @@ class UserPress {
     /// Whether there was a press lately that has not been taken yet; takes it.
     bool take();
 
+    /// Whether the last press was one of a key.
+    bool lastWasKey() const { return lastWasKey_; }
+
     /// Forgets the presses in a page that the program leaves.
     void forget() { presses_ = 0; }
 
   private:
     int presses_ = 0;  // that have not been taken
+    bool lastWasKey_ = false;
     QDeadlineTimer limit_{0};
 };
 

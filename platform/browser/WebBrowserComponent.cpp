@@ -1,5 +1,6 @@
 #include "platform/browser/WebBrowserComponent.h"
 
+#include <QCursor>
 #include <QPointer>
 #include <QUrl>
 #include <algorithm>
@@ -19,6 +20,7 @@
 #include "platform/components/ComponentLibrary.h"
 #include "platform/machine/Machine.h"
 #include "platform/qt/QtChild.h"
+#include "platform/qt/QtConvert.h"
 #include "platform/text/CodePage1253.h"
 
 namespace platform {
@@ -161,6 +163,13 @@ void WebBrowserComponent::sendCommand(const std::string& component, LPARAM comma
 
 double WebBrowserComponent::scrolled() const {
     return page_ ? page_->scrollPosition().y() / page_->zoomFactor() : 0;
+}
+
+void WebBrowserComponent::pointAtLink() {
+    if (!page_ || !view_->presses().lastWasKey()) return;
+    if (const auto link = focusedLinkOf(*page_)) {
+        QCursor::setPos(view_->mapToGlobal(toQt(CPoint{link->left, link->top + link->Height() / 2})));
+    }
 }
 
 void WebBrowserComponent::openFind() {

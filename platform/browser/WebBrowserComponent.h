@@ -50,6 +50,7 @@ class WebBrowserComponent : public Component, public WebPageInspector, public Pa
 
     double scrolled() const override;
     void beginNextPage(PageStart start) override { start_ = std::move(start); }
+    void pointAtLink() override;
     void openFind() override;
     void closeFind() override;
     int textSize() const override;

@@ -27,6 +27,9 @@ class PageTools {
     /// How the page begins that the program asks for next.
     virtual void beginNextPage(PageStart start) = 0;
 
+    /// Moves the pointer to the link that the user has just followed by a key; nowhere after a click.
+    virtual void pointAtLink() = 0;
+
     /// Opens the strip in which the user looks for a text in the page, or closes it.
     virtual void openFind() = 0;
     virtual void closeFind() = 0;

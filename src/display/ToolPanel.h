@@ -37,6 +37,7 @@ class CToolPanel : public platform::CDialog {
     template <platform::UINT Command>
     void OnButton() {
         send(Command);
+        returnFocus();
     }
     void returnFocus();
     void send(platform::UINT command);

@@ -56,6 +56,10 @@ double PagePresenter::Scrolled() const {
     return page == nullptr ? 0 : page->scrolled();
 }
 
+void PagePresenter::PointAtLink() {
+    if (PageTools* const page = tools()) page->pointAtLink();
+}
+
 void PagePresenter::FindInPage() {
     if (PageTools* const page = tools()) page->openFind();
 }

@@ -27,6 +27,8 @@ class PagePresenter {
     /// Shows the page with a number; a number that names no file is reported like a page that is missing.
     /// The page begins scrolled down so far, in its own units.
     void ShowPage(std::int32_t pageNumber, double scrolled);
+    /// Moves the pointer to the link that the user has just followed by a key.
+    void PointAtLink();
     /// Opens the strip in which the user looks for a text in the page.
     void FindInPage();
     /// Words that are marked in the pages shown from now on.

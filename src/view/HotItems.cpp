@@ -114,8 +114,15 @@ int HotItems::hotItem() const {
     return m_menu.HotItem() >= 0 ? OpenableItems::IndexOfArea(m_menu.HotItem()) : -1;
 }
 
-void HotItems::ChooseByArrow(UINT key) {
-    const int item = KeyboardChoice::Next(items(), hotItem(), key);
+void HotItems::ChooseByArrow(UINT key) { choose(KeyboardChoice::Next(items(), hotItem(), key)); }
+
+bool HotItems::ChooseByTab() {
+    const int item = KeyboardChoice::NextStop(items(), m_keyboard.Begun() ? hotItem() : -1);
+    choose(item);
+    return item >= 0;
+}
+
+void HotItems::choose(int item) {
     if (item < 0) return;
     m_keyboard.Begin(GetCursorPos());
     const bool slot = OpenableItems::IsSlot(item);

@@ -43,6 +43,8 @@ class HotItems {
 
     /// Goes on to the next item in the direction of an arrow key.
     void ChooseByArrow(platform::UINT key);
+    /// Goes on between the main menu and the bar; false where there is only the bar.
+    bool ChooseByTab();
     /// Ends the keys' choice, and gives the slot of the item chosen; −1 when there was none.
     int TakeChosenSlot();
     /// Ends the keys' choice; what is under the pointer is hot again.
@@ -53,6 +55,7 @@ class HotItems {
   private:
     bool HitTestBar(platform::CPoint point);
     void hoverMainMenu(int item);
+    void choose(int item);
     bool isUnder(platform::CPoint point) const;
     OpenableItems items() const;
     int hotItem() const;

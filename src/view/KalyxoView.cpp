@@ -224,6 +224,9 @@ void CKalyxoView::OnKeyDown(UINT key) {
         case VK_SPACE:
             if (const int slot = m_items.TakeChosenSlot(); slot >= 0) openSlot(slot);
             break;
+        case VK_TAB:
+            if (m_bInterceptionSuppressed || !m_items.ChooseByTab()) DefWindowProc(WM_KEYDOWN, key, 0);
+            break;
         default:
             DefWindowProc(WM_KEYDOWN, key, 0);
     }

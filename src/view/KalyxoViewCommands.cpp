@@ -203,7 +203,11 @@ bool CKalyxoView::OnBeforeNavigate(const std::string& url, std::int32_t, const s
 void CKalyxoView::showDefinition(const std::string& file) {
     m_glossary.Hide();
     const std::string path = TheApp().m_strDataFolder + "glossary\\" + file;
-    if (const auto definition = ReadDefinition(machine().files(), path)) m_glossary.Show(*definition);
+    const auto definition = ReadDefinition(machine().files(), path);
+    if (!definition) return;
+    // The box opens at the pointer.
+    m_pages.PointAtLink();
+    m_glossary.Show(*definition);
 }
 
 }  // namespace kalyxo

@@ -65,6 +65,12 @@ OpenableItems::OpenableItems(const BarLayout& bar, int selectedSlot, std::option
     }
 }
 
+int KeyboardChoice::NextStop(const OpenableItems& items, int from) {
+    const bool hasAreas = items.Places().size() > OpenableItems::kSlots;
+    if (!hasAreas) return -1;
+    return from < 0 || OpenableItems::IsSlot(from) ? kFirstArea : 0;
+}
+
 int KeyboardChoice::Next(const OpenableItems& items, int from, UINT key) {
     const bool hasAreas = items.Places().size() > OpenableItems::kSlots;
     if (from < 0 && hasAreas) return kFirstArea;

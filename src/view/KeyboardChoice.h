@@ -39,6 +39,10 @@ class KeyboardChoice {
     /// first `from` is −1. The selected slot is passed over, since it would not show that it is chosen.
     static int Next(const OpenableItems& items, int from, platform::UINT key);
 
+    /// The item to which the tabulator leads from the item `from`: in turn to the main menu's first area and
+    /// to the bar's first slot. −1 without a main menu, whose view the tabulator leaves.
+    static int NextStop(const OpenableItems& items, int from);
+
     /// From now on an item is chosen; `pointer` is where the pointer lies on the screen.
     void Begin(platform::CPoint pointer) { m_pointer = pointer; }
     void End() { m_pointer.reset(); }
