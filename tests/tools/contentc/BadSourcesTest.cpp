@@ -317,37 +317,6 @@ TEST(BadSources, AreReportedByLine) {
     }
 }
 
-TEST(IgnoredFiles, AreNamedWithTheirPlace) {
-    const std::pair<const char*, std::string> cases[] = {
-        {"datasets/gases.xlsx", "a *.xlsx file is of no use in the folder 'datasets'; save it as *.data"},
-        {"glossary/water.txt", "a *.txt file is of no use in the folder 'glossary'; save it as *.md"},
-        {"pictures/water.GIF",
-         "a *.GIF file is of no use in the folder 'pictures'; save it as *.png, *.jpg, *.svg"},
-        {"pages/uses/water.JPG",
-         "a *.JPG file is of no use in the folder 'pages'; its place is the folder 'pictures'"},
-        {"pages/400010.md",
-         "a *.md file is of no use in the folder 'pages'; pages lie in the folder of a section, such as "
-         "pages/uses"},
-        {"water.sdf", "a *.sdf file is of no use in the folder '.'; its place is the folder 'molecules'"},
-        {"molecules/water", "the file's name has no extension"},
-        {"molecules/old/water.mol", "folders are not looked into here"},
-        {"picture/water.png", "content has no folder of this name; did you mean 'pictures'?"},
-    };
-    ContentFolder content;
-    Messages expected;
-    for (const auto& [file, message] : cases) {
-        content.write(file, "");
-        const bool isFolder = message.starts_with("folders") || message.starts_with("content");
-        const std::string place = isFolder ? std::filesystem::path(file).parent_path().string() : file;
-        expected.push_back(place + ":1: warning: ignored: " + message);
-    }
-    content.write("README.md", "");
-    content.write("pages/uses/400010.md~", "");
-    EXPECT_TRUE(content.compile());
-    std::ranges::sort(expected);
-    EXPECT_EQ(content.messages, expected);
-}
-
 /// What a content folder is made of, and what it says of them.
 TEST(Layers, GiveWhatIsNotInTheLayerAbove) {
     ContentFolder content;
@@ -376,52 +345,6 @@ TEST(Layers, GiveWhatIsNotInTheLayerAbove) {
                         "kalyxo.content:3: there is no folder '" + none + '\'',
                         "kalyxo.content:4: the content of the program is not installed",
                         "kalyxo.content:5: not a line 'base: folder'"}));
-}
-
-TEST(Warnings, StopNothing) {
-    ContentFolder content;
-    content.write("words/terminology.txt", "μίγμα | μείγμα\nατομικό βάρος | ατομική μάζα\n");
-    content.write("glossary/hydrogen.md", "# υδρογόνο | μίγμα\nΔεν είναι μίγμα.\n");
-    content.write("pages/uses/400010.md",
-                  "title: Μίγματα, μίγμα\nsearch: μίγμα\n---\n**α «μίγμα», [[υδρογόνο]], Ατομικό βάρος\n\n"
-                  "| a | b |\n\n<P CLASS=\"wide\">x</P>\n\n{{video air}}\n");
-    content.write("style.css", ".narrow { }\n");
-    content.write("../built/air.webm", "\x1A\x45\xDF\xA3");
-    content.write("videos/fire.webm", "\x1A\x45\xDF\xA3");
-    EXPECT_TRUE(content.compile());
-    EXPECT_EQ(
-        content.messages,
-        (Messages{("glossary/hydrogen.md:2:11: warning: 'μίγμα' is not the word that is used here; write "
-                   "'μείγμα' instead"),
-                  "pages/uses/400010.md:1:8: warning: a topic needs a summary, for the list of topics",
-                  ("pages/uses/400010.md:1:17: warning: 'μίγμα' is not the word that is used here; write "
-                   "'μείγμα' instead"),
-                  "pages/uses/400010.md:4:1: warning: '**' has no partner, so it is shown as it is",
-                  ("pages/uses/400010.md:4:28: warning: 'Ατομικό βάρος' is not the word that is used "
-                   "here; write 'ατομική μάζα' instead"),
-                  ("pages/uses/400010.md:6: warning: a table needs a line '|---|---|' below its first "
-                   "line"),
-                  "pages/uses/400010.md:8:11: warning: no style is called 'wide'",
-                  "videos/fire.webm:1: warning: no page uses this video"}));
-}
-
-TEST(CompleteCheck, TellsWhatTopicsLack) {
-    ContentFolder content;
-    std::string words;
-    for (int i = 0; i < 451; ++i) words += "μία λέξη ";
-    content.write("tools/quiz/face.js", "");
-    content.write("pages/uses/400010.md", topicHeader + words + '\n');
-    content.write("pages/uses/400020.md", "title: T\nsummary: S\nclass: Γ΄ Γυμνασίου 1\n---\n::: quiz\n? " +
-                                              words + "\n- a\n+ b\n:::\n<IMG SRC=x>\n");
-    EXPECT_TRUE(content.compile(contentc::Checks::complete));
-    std::erase_if(content.messages,
-                  [](const std::string& message) { return !message.starts_with("pages/uses"); });
-    EXPECT_EQ(
-        content.messages,
-        (Messages{"pages/uses/400010.md:1: warning: the topic has 902 words; at most 900 are read",
-                  "pages/uses/400010.md:1: warning: the topic has neither picture nor molecule, film or tool",
-                  "pages/uses/400010.md:1: warning: the topic has no quiz",
-                  "pages/uses/400010.md:1: warning: the topic names no school year ('class')"}));
 }
 
 TEST(DataSets, OfOneNumberAreReported) {
