@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "formats/DataSet.h"
 #include "tests/tools/contentc/ContentFolder.h"
 
@@ -182,6 +180,14 @@ const struct {
       "6:14: 'soap' is neither a compound of the data set nor a formula",
       "7:3: not a row 'name: value' of the card", "8:3: '[[' is not closed on its line",
       "10:5: no box is called 'class'"}},
+    // Nothing where a name belongs.
+    {pageFile,
+     topicHeader + "::: element\n:::\n![a]()\n{{video}}\n\n{{class }}\n[[ ]]\n",
+     {"4:12: no element has the symbol or name ''",
+      "6:7: no picture is named ''; put the file into the folder 'pictures'",
+      "7:10: '{{video }}' is not '{{video NAME}}' or '{{molecule NAME}}' on a line of its own",
+      "9:11: no school year: ''; write Β΄ or Γ΄ Γυμνασίου, Α΄, Β΄ or Γ΄ Λυκείου",
+      "10:1: a glossary link without words"}},
     // Captions and titles.
     {pageFile,
      topicHeader + "![a](none.png \"$a\")\n{{video x \"b}}\n{{video y \"c [[d\"}}\n::: fact e [[f\n:::\n",

@@ -112,7 +112,8 @@ void InlineWriter::writeMark(const InlineMark& mark) {
 
 void InlineWriter::writeTerm(const InlineMark& mark) {
     const TermSource* term = context_.terms.find(platform::fromUtf8(mark.term));
-    if (!term) {
+    // That there is no name has been told.
+    if (!term && !mark.term.empty()) {
         diagnostics_.error(mark.place, say::unknownTermName, {mark.term})
             .suggestNearestOr(mark.term, context_.terms.names(), say::addTheTerm, {mark.term});
     }

@@ -57,6 +57,11 @@ SourcePlace placeIn(const SourcePlace& line, std::string_view utf8, std::size_t 
     return {line.file, line.line, columnAt(utf8, offset)};
 }
 
+/// Where a part of a text begins. Nothing of it, as after the last word, is at its end.
+std::size_t offsetOf(std::string_view part, std::string_view text) {
+    return part.data() ? static_cast<std::size_t>(part.data() - text.data()) : text.size();
+}
+
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
 /// Calls `take(line, place)` for each line of the file.
@@ -133,14 +138,13 @@ TextLine inCodePage(const TextLine& utf8, Diagnostics& diagnostics) {
 }
 
 SourcePlace placeOf(std::string_view part, const TextLine& line) {
-    const auto offset = static_cast<std::size_t>(part.data() - line.text.data());
-    SourcePlace place = placeIn(line.place, line.text, offset);
+    SourcePlace place = placeIn(line.place, line.text, offsetOf(part, line.text));
     place.column += std::max(line.place.column, 1) - 1;
     return place;
 }
 
 SourcePlace placeOfBytes(std::string_view part, const TextLine& line) {
-    const auto offset = static_cast<int>(part.data() - line.text.data());
+    const auto offset = static_cast<int>(offsetOf(part, line.text));
     return {line.place.file, line.place.line, std::max(line.place.column, 1) + offset};
 }
 
