@@ -110,7 +110,7 @@ void readSection(const SectionFolder& folder, Content& content, Diagnostics& dia
     inParallel(pages.size(), pagesForThread,
                [&](std::size_t i) { pages[i] = readSectionPage(folder.pages[i], *section, found[i]); });
     for (std::size_t i = 0; i < pages.size(); ++i) {
-        if (pages[i]) content.pages.push_back(*std::move(pages[i]));
+        if (auto& page = pages[i]) content.pages.push_back(*std::move(page));
         diagnostics.add(std::move(found[i]));
     }
 }
