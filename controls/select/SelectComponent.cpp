@@ -42,7 +42,15 @@ constexpr std::array eventInfos{platform::EventInfo{pageChosenId, "PageChosen", 
 
 SelectComponent::SelectComponent(platform::ComponentSite& site, QWidget* parent)
     : site_(site),
-      pane_(new SelectPane(selection_, [this](const ChoiceEvents& events) { raise(events); }, parent)) {
+      pane_(new SelectPane(selection_,
+                           {[this](const ChoiceEvents& events) { raise(events); },
+                            [this](std::int16_t code) {
+                                sendHost(static_cast<platform::WPARAM>(code), controls::openSection);
+                            },
+                            [this](const std::string& text) {
+                                sendHost(reinterpret_cast<platform::WPARAM>(&text), controls::searchWord);
+                            }},
+                           parent)) {
     FilterField& field = pane_->field();
     editWindow_ = site.registerWindow(field, "Edit",
                                       [&field](platform::UINT message, platform::WPARAM, platform::LPARAM) {
@@ -80,8 +88,9 @@ std::string SelectComponent::getPageTitle(std::int32_t pageId) const {
     return title;
 }
 
-// Any host code is accepted. The view's window is not used, because this component sends it no commands.
-void SelectComponent::initialise(std::int16_t, std::string dataFolder, std::int32_t) {
+// Any host code is accepted.
+void SelectComponent::initialise(std::int16_t, std::string dataFolder, std::int32_t viewWindow) {
+    hostWindow_ = viewWindow;
     folder_.emplace(site_.files(), std::move(dataFolder));
     pane_->setIndex(folder_->readIndex());
 }
@@ -102,6 +111,10 @@ void SelectComponent::showItem(std::int32_t pageId, std::int32_t itemCode, bool)
 std::int32_t SelectComponent::getAuxHandle() const { return auxWindow_; }
 
 std::int32_t SelectComponent::getEditWindow() const { return editWindow_; }
+
+void SelectComponent::sendHost(platform::WPARAM first, platform::LPARAM message) {
+    if (hostWindow_ != 0) site_.sendMessage(hostWindow_, platform::WM_COMMAND, first, message);
+}
 
 void SelectComponent::raise(const ChoiceEvents& events) {
     for (const ChoiceEvent& event : events) {

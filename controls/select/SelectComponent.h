@@ -41,6 +41,7 @@ class SelectComponent : public platform::Component {
 
   private:
     void raise(const ChoiceEvents& events);
+    void sendHost(platform::WPARAM first, platform::LPARAM message);
 
     platform::ComponentSite& site_;
     BrowseSelection selection_;
@@ -49,6 +50,7 @@ class SelectComponent : public platform::Component {
     QPointer<SelectPane> pane_;
     platform::HWND editWindow_ = 0;
     platform::HWND auxWindow_ = 0;
+    platform::HWND hostWindow_ = 0;
 };
 
 /// Creates the component of the module.

@@ -8,6 +8,7 @@
 
 #include "controls/common/QtText.h"
 #include "controls/select/Appearance.h"
+#include "controls/select/ElsewhereList.h"
 #include "controls/select/FilterField.h"
 #include "controls/select/TopicModel.h"
 #include "controls/select/TopicView.h"
@@ -19,6 +20,9 @@ namespace {
 
 constexpr int sideMargin = 8;
 constexpr int ruleHeight = 2;
+/// What it offers gets all the room below the note.
+constexpr int elsewhereStretch = 100;
+constexpr std::size_t maxElsewhere = 20;
 
 void setUp(QLabel& label, const char* name) {
     label.setObjectName(QString::fromLatin1(name));
@@ -33,18 +37,28 @@ void recolour(QWidget& widget, QPalette::ColorRole role, const QColor& color) {
     widget.setPalette(colors);
 }
 
+QString longestWord(const QString& text) {
+    QString longest;
+    for (const QString& word : text.simplified().split(u' ')) {
+        if (word.size() > longest.size()) longest = word;
+    }
+    return longest;
+}
+
 }  // namespace
 
-SelectPane::SelectPane(BrowseSelection& selection, ChoiceHandler onChoice, QWidget* parent)
+SelectPane::SelectPane(BrowseSelection& selection, Host host, QWidget* parent)
     : QWidget(parent),
       selection_(selection),
-      onChoice_(std::move(onChoice)),
+      host_(std::move(host)),
       model_(new TopicModel(selection, this)),
       sectionName_(new QLabel(this)),
       rule_(new QWidget(this)),
       field_(new FilterField(this)),
       view_(new TopicView(*model_, this)),
-      emptyNote_(new QLabel(this)) {
+      emptyNote_(new QLabel(this)),
+      elsewhere_(new ElsewhereList([this](const FoundElsewhere& match) { openElsewhere(match); },
+                                   [this] { host_.searchWord(fromQt(longestWord(field_->text()))); }, this)) {
     setObjectName(QStringLiteral("selectPane"));
     setAttribute(Qt::WA_StyledBackground);
     setPalette(appearance::palette());
@@ -73,6 +87,7 @@ void SelectPane::layOutParts() {
     column->addLayout(fieldRow.release());
     column->addWidget(view_, 1);
     column->addWidget(emptyNote_, 1);
+    column->addWidget(elsewhere_, elsewhereStretch);
     setLayout(column.release());
 }
 
@@ -157,12 +172,26 @@ void SelectPane::openFirst() {
 void SelectPane::choose(const Row& row) {
     const ChoiceEvents events = selection_.choose(row);
     markMoved();
-    onChoice_(events);
+    host_.tellChoice(events);
 }
 
 void SelectPane::enterList() {
-    if (model_->rowCount() == 0) return;
-    view_->setFocus();
+    if (model_->rowCount() > 0) {
+        view_->setFocus();
+    } else if (selection_.list().narrowed()) {
+        elsewhere_->enter();
+    }
+}
+
+void SelectPane::openElsewhere(const FoundElsewhere& match) {
+    host_.openSection(match.section);
+    // A host may refuse.
+    if (selection_.section() == match.section) choose(match.row);
+}
+
+void SelectPane::offerElsewhere() {
+    const QString text = field_->text();
+    elsewhere_->offer(selection_.findElsewhere(fromQt(text), maxElsewhere), longestWord(text));
 }
 
 void SelectPane::markMoved() {
@@ -221,6 +250,9 @@ void SelectPane::updateEmptyNote() {
                         : selection_.section() != 0  ? QStringLiteral("Δεν υπάρχουν θέματα")
                                                      : QString());
     emptyNote_->setVisible(empty);
+    const bool offers = empty && selection_.list().narrowed();
+    if (offers) offerElsewhere();
+    elsewhere_->setVisible(offers);
     view_->setVisible(!empty);
 }
 

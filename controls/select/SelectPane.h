@@ -10,20 +10,28 @@ class QLabel;
 
 namespace controls::select {
 
+class ElsewhereList;
 class FilterField;
 class TopicModel;
 class TopicView;
 
 /// The browse selection on the screen: the name of the section, the text field and the list. The pane changes
-/// the selection and shows its state. It gives the events of the reader's choices to `onChoice`.
+/// the selection and shows its state. It tells the host the events of the reader's choices.
 class SelectPane : public QWidget {
     Q_OBJECT
 
   public:
-    using ChoiceHandler = std::function<void(const ChoiceEvents&)>;
+    /// What the pane asks of the host.
+    struct Host {
+        std::function<void(const ChoiceEvents&)> tellChoice;
+        /// Goes to a section, which is then set here.
+        std::function<void(std::int16_t)> openSection;
+        /// Opens the word search with a text in code page 1253.
+        std::function<void(const std::string&)> searchWord;
+    };
 
     /// `selection` must outlive the pane.
-    SelectPane(BrowseSelection& selection, ChoiceHandler onChoice, QWidget* parent);
+    SelectPane(BrowseSelection& selection, Host host, QWidget* parent);
 
     void setIndex(formats::BrowseIndex index);
     void setSection(std::int16_t code);
@@ -46,6 +54,8 @@ class SelectPane : public QWidget {
     void narrow(const QString& text);
     void choose(const Row& row);
     void enterList();
+    void openElsewhere(const FoundElsewhere& match);
+    void offerElsewhere();
     void markMoved();
     void revealLater();
     void revealShown();
@@ -54,13 +64,14 @@ class SelectPane : public QWidget {
     void updateEmptyNote();
 
     BrowseSelection& selection_;
-    ChoiceHandler onChoice_;
+    Host host_;
     TopicModel* model_;
     QLabel* sectionName_;
     QWidget* rule_;
     FilterField* field_;
     TopicView* view_;
     QLabel* emptyNote_;
+    ElsewhereList* elsewhere_;
     bool revealPending_ = false;
 };
 

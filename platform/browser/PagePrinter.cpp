@@ -13,6 +13,7 @@
 #include "platform/machine/Machine.h"
 #include "platform/printing/PrintFile.h"
 #include "platform/printing/PrintJob.h"
+#include "platform/printing/SaveDialog.h"
 #include "platform/text/CodePage1253.h"
 
 namespace platform {
@@ -47,7 +48,7 @@ PagePrinter::~PagePrinter() = default;
 
 void PagePrinter::print() {
     if (printing_ || printer_ || !machine().printer()) return;
-    if (!nextPrintFile().empty()) return printToFile({}, paper, {});
+    if (const PrinterConfig* const pdf = pdfPrinter()) return printWithoutPrinter(pdf->desktop);
     auto printer = choosePrinter(*view_.window());
     if (!printer) return;
     if (printer->outputFormat() == QPrinter::PdfFormat) {
@@ -56,6 +57,13 @@ void PagePrinter::print() {
     } else {
         printOnPaper(std::move(printer));
     }
+}
+
+/// Where a user sits before the machine, the user names the file.
+void PagePrinter::printWithoutPrinter(bool ask) {
+    const QPointer<PagePrinter> alive(this);
+    const std::string chosen = ask ? askWhereToSave(*view_.window(), view_.title()) : std::string();
+    if (alive && (!ask || !chosen.empty())) printToFile(chosen, paper, {});
 }
 
 void PagePrinter::printToFile(const std::string& chosen, const QPageLayout& layout,

@@ -24,6 +24,7 @@ class PagePrinter : public QObject {
 
   private:
     /// To the next free file when none is chosen.
+    void printWithoutPrinter(bool ask);
     void printToFile(const std::string& chosen, const QPageLayout& layout, const QPageRanges& ranges);
     void printOnPaper(std::unique_ptr<QPrinter> printer);
 

@@ -56,6 +56,7 @@ DialogWidget::DialogWidget(CDialog& owner, const DialogTemplate& description, QW
     createControls(description.controls, *this);
     const CSize client = dialogPixels(description.size);
     setFixedSize(QSize(client.cx, client.cy).grownBy(frame_.margins()));
+    if (description.growing != 0) letGrow(description.growing);
     centre();
 }
 
@@ -78,7 +79,11 @@ QRect DialogWidget::outerRect() const {
 
 void DialogWidget::place(const QRect& rect) {
     const QRect client = rect.marginsRemoved(windowFrame());
-    setFixedSize(client.size());
+    if (growing_.any()) {
+        resize(client.size());
+    } else {
+        setFixedSize(client.size());
+    }
     move(rect.topLeft());
     sizeChanged();
 }
@@ -138,6 +143,21 @@ void DialogWidget::keepTitleEmpty() {
 void DialogWidget::paintEvent(QPaintEvent* event) {
     SurfaceWidget::paintEvent(event);
     frame_.paint();
+}
+
+void DialogWidget::letGrow(int control) {
+    const QSize smallest = size();
+    setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    setMinimumSize(smallest);
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    if (const QWidget* const growing = dialogControl(handle(), control)) {
+        growing_.begin(dialogControls(handle()), *growing, smallest);
+    }
+}
+
+void DialogWidget::resizeEvent(QResizeEvent* event) {
+    SurfaceWidget::resizeEvent(event);
+    growing_.follow(size());
 }
 
 void DialogWidget::closeEvent(QCloseEvent* event) {

@@ -4,6 +4,7 @@
 #include <QPointer>
 
 #include "platform/dialogs/DrawnFrame.h"
+#include "platform/dialogs/GrowingControls.h"
 #include "platform/windows/SurfaceWidget.h"
 
 namespace platform {
@@ -36,14 +37,17 @@ class DialogWidget : public SurfaceWidget {
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     void centre();
     void keepTitleEmpty();
+    void letGrow(int control);
     /// The frame that the window system draws, according to the metrics.
     QMargins windowFrame() const;
 
     DrawnFrame frame_;
+    GrowingControls growing_;
     QPointer<QEventLoop> loop_;
     bool finished_ = false;
 };

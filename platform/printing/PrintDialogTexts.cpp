@@ -159,6 +159,7 @@ constexpr auto texts = sorted(std::to_array<Text>({
     {"&Yes", "&Ναι"},
     {"&No", "Ό&χι"},
     // The choice of the file.
+    {"%1 already exists.\nDo you want to replace it?", "Το αρχείο %1 υπάρχει ήδη.\nΝα αντικατασταθεί;"},
     {"Open", "Άνοιγμα"},
     {"&Open", "Ά&νοιγμα"},
     {"&Save", "Απο&θήκευση"},

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/qt/QtConvert.h"
+#include "platform/text/Fold.h"
 #include "platform/widgets/Collation.h"
 
 namespace platform {
@@ -39,10 +40,17 @@ const std::string& ListBoxEntries::at(int index) const {
 
 int ListBoxEntries::find(int after, std::string_view prefix) const {
     putInOrder();
-    const std::string wanted = toLower(prefix);
+    const std::string exact = toLower(prefix);
+    const int found = findIf(after, [&](const std::string& text) { return beginsWith(text, exact); });
+    if (found >= 0) return found;
+    const std::string folded = fold(prefix);
+    return findIf(after, [&](const std::string& text) { return fold(text).starts_with(folded); });
+}
+
+int ListBoxEntries::findIf(int after, const std::function<bool(const std::string&)>& matches) const {
     for (int i = 1; i <= count(); ++i) {
         const int index = (after + i) % count();
-        if (beginsWith(entries_[static_cast<std::size_t>(index)], wanted)) return index;
+        if (matches(entries_[static_cast<std::size_t>(index)])) return index;
     }
     return -1;
 }

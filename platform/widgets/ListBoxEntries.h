@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractListModel>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,7 +18,8 @@ class ListBoxEntries : public QAbstractListModel {
     void clear();
     int count() const { return static_cast<int>(entries_.size()); }
     const std::string& at(int index) const;
-    /// The first entry that begins with `prefix`, in upper or lower case. The search starts after entry
+    /// The first entry that begins with `prefix`, in upper or lower case; without one, the first that does so
+    /// without regard to accents. The search starts after entry
     /// `after` and wraps around. −1 when there is none.
     int find(int after, std::string_view prefix) const;
 
@@ -29,6 +31,7 @@ class ListBoxEntries : public QAbstractListModel {
 
   private:
     void putInOrder() const;
+    int findIf(int after, const std::function<bool(const std::string&)>& matches) const;
 
     bool sorted_;
     mutable bool inOrder_ = true;

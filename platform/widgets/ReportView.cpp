@@ -3,7 +3,9 @@
 #include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QHelpEvent>
 #include <QMouseEvent>
+#include <QToolTip>
 
 #include "platform/widgets/Collation.h"
 #include "platform/widgets/KeptSelection.h"
@@ -40,6 +42,17 @@ int ReportView::addRow(const QString& text) {
 int ReportView::selectedRow() const {
     const QList<QTreeWidgetItem*> chosen = selectedItems();
     return chosen.isEmpty() ? -1 : indexOfTopLevelItem(chosen.front());
+}
+
+/// A text that its column cuts is shown whole while the pointer rests on it.
+bool ReportView::viewportEvent(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return QTreeWidget::viewportEvent(event);
+    const auto& help = static_cast<const QHelpEvent&>(*event);
+    const QModelIndex cell = indexAt(help.pos());
+    const QRect place = visualRect(cell);
+    const bool isCut = cell.isValid() && sizeHintForIndex(cell).width() > place.width();
+    QToolTip::showText(help.globalPos(), isCut ? cell.data().toString() : QString(), viewport(), place);
+    return true;
 }
 
 /// A row chosen by a key counts as one that was clicked.

@@ -18,6 +18,7 @@ class ReportView : public QTreeWidget {
     int selectedRow() const;
 
   protected:
+    bool viewportEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                          const QEvent* event) const override;

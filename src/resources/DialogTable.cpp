@@ -129,7 +129,7 @@ constexpr std::array kDialogs = {
     DialogTemplate{IDD_FOLDER_NAME, "Folder", {186, 47}, kFolderNameDialog},
     DialogTemplate{IDD_ENLARGED_VIEW, {}, {433, 326}, kEnlargedViewDialog},
     DialogTemplate{IDD_FIND_FOLDER, "Find Folder", {187, 177}, kFindFolderDialog},
-    DialogTemplate{IDD_SEARCH, "Αναζήτηση"_gr, {347, 226}, kSearchDialog},
+    DialogTemplate{IDD_SEARCH, "Αναζήτηση"_gr, {347, 226}, kSearchDialog, DialogFrame::window, IDC_RESULTS},
     // The program sets the size of these two.
     DialogTemplate{IDD_SPLASH, {}, {1, 1}, {}, DialogFrame::plain},
     DialogTemplate{IDD_TOOL_PANEL, {}, {186, 49}, {}, DialogFrame::tool},

@@ -181,6 +181,14 @@ bool CKalyxoView::OnCommand(WPARAM wParam, LPARAM lParam) {
         case controls::showEnlargedView:
             ShowEnlargedView();
             return true;
+        case controls::openSection:
+            if (formats::sectionByCode(static_cast<std::int16_t>(wParam))) {
+                m_navigator.OpenSection(static_cast<std::int16_t>(wParam), 0);
+            }
+            return true;
+        case controls::searchWord:
+            SearchFor(*reinterpret_cast<const std::string*>(wParam));
+            return true;
         case kFollowPageLink:
             followPageLink();
             return true;

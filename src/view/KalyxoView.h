@@ -67,7 +67,10 @@ class CKalyxoView : public platform::CView, private ContentHost {
     void OnOnlinePage();
     void OnHelp();
     void showPlainPage(const std::string& address);
-    void OnSearch();
+    void OnSearch() { search(m_search); }
+    /// Opens the search with a text in its word field.
+    void SearchFor(const std::string& text);
+    void search(const SearchState& state);
     void OnFindInPage() { m_pages.FindInPage(); }
     void OnBookmarkAdd() { m_bookmarks.OnBookmarkAdd(m_panes.Mode()); }
     void OnBookmarkGoto() { m_bookmarks.OnBookmarkGoto(); }

@@ -1,5 +1,6 @@
 #include "controls/contract/HostMessages.h"
 #include "platform/machine/Machine.h"
+#include "platform/text/CodePage1253.h"
 #include "platform/windows/MessageMap.h"
 #include "src/pages/EnlargedViewDlg.h"
 #include "src/pages/GlossaryText.h"
@@ -144,8 +145,15 @@ void CKalyxoView::ShowEnlargedView() {
     CEnlargedViewDlg(EnlargedViewMode::enlargedView, m_pages.Cache().Folder(), std::move(title)).DoModal();
 }
 
-void CKalyxoView::OnSearch() {
-    CSearchDlg dialog(machine().files(), TheApp().m_strDataFolder, m_search);
+void CKalyxoView::SearchFor(const std::string& text) {
+    SearchState state = m_search;
+    state.word = toLower(text);
+    state.row = -1;
+    search(state);
+}
+
+void CKalyxoView::search(const SearchState& state) {
+    CSearchDlg dialog(machine().files(), TheApp().m_strDataFolder, state);
     if (dialog.DoModal() != IDOK || dialog.Chosen().pageId < 1) return;
     m_search = dialog.State();
     const SearchHit& hit = dialog.Chosen();

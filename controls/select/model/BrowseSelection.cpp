@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "formats/SectionTable.h"
+#include "platform/text/Fold.h"
 
 namespace controls::select {
 
@@ -35,6 +36,21 @@ std::optional<Row> rowOf(const BrowseSection& section, const Place& place) {
     }
     return Row{static_cast<std::size_t>(topic - section.topics.begin()),
                entryPosition(*topic, place.itemCode)};
+}
+
+void addMatches(const BrowseSection& section, const TitleFilter& filter, std::size_t limit,
+                std::vector<FoundElsewhere>& found) {
+    const auto add = [&](const Row& row, const std::string& title) {
+        if (found.size() < limit && filter.passes(platform::fold(title))) {
+            found.push_back({section.code, row, title});
+        }
+    };
+    for (std::size_t topic = 0; topic < section.topics.size(); ++topic) {
+        add({topic, std::nullopt}, section.topics[topic].title);
+        const auto& entries = section.topics[topic].entries;
+        for (std::size_t entry = 0; entry < entries.size(); ++entry)
+            add({topic, entry}, entries[entry].title);
+    }
 }
 
 }  // namespace
@@ -83,6 +99,15 @@ ChoiceEvents BrowseSelection::choose(const Row& row) {
     setShown(place);
     openShown();
     return events;
+}
+
+std::vector<FoundElsewhere> BrowseSelection::findElsewhere(std::string_view text, std::size_t limit) const {
+    std::vector<FoundElsewhere> found;
+    const TitleFilter filter(text);
+    for (const BrowseSection& section : index_.sections) {
+        if (section.code != section_) addMatches(section, filter, limit, found);
+    }
+    return found;
 }
 
 void BrowseSelection::setShown(const Place& place) {

@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "controls/select/model/ChoiceEvents.h"
 #include "controls/select/model/Place.h"
@@ -10,6 +12,13 @@
 #include "formats/BrowseIndex.h"
 
 namespace controls::select {
+
+/// A title of another section.
+struct FoundElsewhere {
+    std::int16_t section = 0;
+    Row row;
+    std::string title;
+};
 
 /// The state of the browse selection: the section that is listed and the place that the host shows. It
 /// answers requests of the host and choices of the reader with events, which the caller raises.
@@ -43,6 +52,9 @@ class BrowseSelection {
 
     /// Shows the line that the reader has chosen. It must be a line of the section.
     ChoiceEvents choose(const Row& row);
+
+    /// The first titles of the other sections that pass the filter for a text, so many at most.
+    std::vector<FoundElsewhere> findElsewhere(std::string_view text, std::size_t limit) const;
 
     /// The line of the place that is shown: its entry, else its topic; nothing when the section has neither.
     const std::optional<Row>& shownRow() const { return shownRow_; }
