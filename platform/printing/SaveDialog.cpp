@@ -19,7 +19,7 @@ QString fileNameFor(const QString& title) {
     QString name = title;
     name.replace(refused, QStringLiteral(" "));
     name = name.simplified().left(maxNameLength).trimmed();
-    while (name.startsWith(u'.')) name.remove(0, 1);
+    while (name.startsWith(u'.') || name.startsWith(u' ')) name.remove(0, 1);
     return (name.isEmpty() ? QStringLiteral("Kalyxo") : name) + QStringLiteral(".pdf");
 }
 
