@@ -54,8 +54,9 @@ struct DialogTemplate {
     CSize size;                ///< client area, dialog units
     std::span<const DialogControl> controls;
     DialogFrame frame = DialogFrame::window;
-    /// The control that grows when the user enlarges the dialog; 0 when the dialog keeps its size. What lies right
-    /// of its left edge or below its middle moves with it, and what reaches below its middle grows downwards.
+    /// The control that grows when the user enlarges the dialog; 0 when the dialog keeps its size. What lies
+    /// right of its left edge or below its middle moves with it, and what reaches below its middle grows
+    /// downwards.
     int growing = 0;
 };
 

@@ -150,8 +150,10 @@ void DialogWidget::letGrow(int control) {
     setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     setMinimumSize(smallest);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
+    std::vector<QWidget*> controls;
+    for (const HWND each : dialogControls(handle())) controls.push_back(WindowTable::instance().widget(each));
     if (const QWidget* const growing = dialogControl(handle(), control)) {
-        growing_.begin(dialogControls(handle()), *growing, smallest);
+        growing_.begin(controls, *growing, smallest);
     }
 }
 

@@ -1,19 +1,17 @@
 #include "platform/dialogs/GrowingControls.h"
 
-#include "platform/qt/WindowTable.h"
-
 namespace platform {
 
-void GrowingControls::begin(const std::vector<HWND>& controls, const QWidget& growing, QSize smallest) {
+void GrowingControls::begin(const std::vector<QWidget*>& controls, const QWidget& growing, QSize smallest) {
     smallest_ = smallest;
     const int left = growing.x();
     const int middle = growing.geometry().center().y();
-    for (const HWND control : controls) {
-        QWidget* const widget = WindowTable::instance().widget(control);
-        const QRect place = widget->geometry();
-        places_.push_back({widget, place,
-                           {place.left() > left, place.top() > middle, place.right() > left,
-                            place.bottom() > middle}});
+    for (QWidget* const control : controls) {
+        const QRect place = control->geometry();
+        places_.push_back(
+            {control,
+             place,
+             {place.left() > left, place.top() > middle, place.right() > left, place.bottom() > middle}});
     }
 }
 

@@ -5,15 +5,14 @@
 #include <QWidget>
 #include <vector>
 
-#include "platform/base/Messages.h"
-
 namespace platform {
 
 /// The controls of a dialog that the user can enlarge, and how they follow its size.
 class GrowingControls {
   public:
-    /// Takes the controls as they lie in the dialog at its smallest size; `growing` is the one that takes the room.
-    void begin(const std::vector<HWND>& controls, const QWidget& growing, QSize smallest);
+    /// Takes the controls as they lie in the dialog at its smallest size; `growing` is the one that takes the
+    /// room.
+    void begin(const std::vector<QWidget*>& controls, const QWidget& growing, QSize smallest);
     bool any() const { return !places_.empty(); }
     /// The dialog has this size now.
     void follow(QSize size) const;
