@@ -5,6 +5,7 @@
 #include "controls/common/Appearance.h"
 #include "controls/common/QtText.h"
 #include "controls/elements/ElectronShells.h"
+#include "controls/elements/Isotope.h"
 #include "controls/periodic/ShellDrawing.h"
 #include "controls/periodic/ValueText.h"
 
@@ -16,6 +17,7 @@ constexpr int minFactHeight = 12;
 constexpr int maxFactPixels = 19;
 constexpr int minFactWidth = 150;
 constexpr int headingLines = 3;
+constexpr int minStepSide = 14;
 
 QString matterText(Matter matter) {
     switch (matter) {
@@ -44,6 +46,24 @@ Fact matterFact(const Element& element, const TableState& state) {
     const double kelvin = chosen ? state.kelvin : roomTemperature;
     const QString where = chosen ? QStringLiteral("%1 K").arg(state.kelvin) : QStringLiteral("25 °C");
     return {QStringLiteral("Κατάσταση, ") + where, matterText(element.matterAt(kelvin))};
+}
+
+/// The isotope that most atoms are in nature; of an element without natural ones, that with the longest
+/// half-life.
+Fact isotopeFact(const Element& element) {
+    const auto all = isotopesOf(element);
+    const auto share = [](const Isotope& isotope) { return isotope.abundance.value().value_or(0); };
+    const auto most = std::ranges::max_element(all, {}, share);
+    if (most == all.end()) return {QStringLiteral("Κύριο ισότοπο"), QStringLiteral("–")};
+    const auto name = [&](const Isotope& isotope) {
+        return QStringLiteral("%1-%2, ").arg(toQt(element.symbol)).arg(isotope.massNumber);
+    };
+    if (most->isNatural()) {
+        return {QStringLiteral("Κύριο ισότοπο"),
+                name(*most) + toQt(most->abundance.withComma()) + QStringLiteral(" %")};
+    }
+    const auto longest = std::ranges::max_element(all, {}, &Isotope::halfLife);
+    return {QStringLiteral("Μακροβιότερο"), name(*longest) + toQt(halfLifeText(*longest))};
 }
 
 QString blockLetter(Block block) {
@@ -148,6 +168,31 @@ void paintFacts(QPainter& painter, TextFitter& fitter, const QRect& area, std::v
     }
 }
 
+int spaceOf(const QRect& card) { return card.height() / 30 + 2; }
+
+QRect innerOf(const QRect& card) {
+    const int space = spaceOf(card);
+    return card.adjusted(4 + 2 * space, space, -2 * space, -space);
+}
+
+int shellLineOf(const QRect& inner) { return std::max(inner.height() / 9, TextFitter::minPixels + 2); }
+
+/// The right part of the card with the drawing of the shells and a line below it.
+QRect shellPartOf(const QRect& inner) {
+    const int side = std::min(inner.height() - shellLineOf(inner), inner.width() * 2 / 5);
+    return {inner.right() + 1 - side, inner.top(), side, inner.height()};
+}
+
+void paintSteps(QPainter& painter, TextFitter& fitter, const QRect& card, int number) {
+    painter.setPen(appearance::accent);
+    for (const bool forward : {false, true}) {
+        if (!findElement(number + (forward ? 1 : -1))) continue;
+        const QRect place = cardStep(card, forward);
+        fitter.draw(painter, place, forward ? QStringLiteral("›") : QStringLiteral("‹"), place.height(),
+                    Qt::AlignCenter, QFont::Bold);
+    }
+}
+
 }  // namespace
 
 std::vector<Fact> factsOf(const Element& element, const TableState& state) {
@@ -159,11 +204,12 @@ std::vector<Fact> factsOf(const Element& element, const TableState& state) {
         std::ranges::stable_partition(quantities, [&](Quantity each) { return each == *first; });
     }
     std::vector<Fact> facts;
-    facts.reserve(quantities.size() + 1);
+    facts.reserve(quantities.size() + 2);
     for (const Quantity quantity : quantities) {
         facts.push_back({factName(element, quantity), valueWithUnit(element, quantity)});
     }
     facts.insert(facts.begin() + (first ? 1 : 0), matterFact(element, state));
+    facts.push_back(isotopeFact(element));
     return facts;
 }
 
@@ -185,11 +231,11 @@ QString shellText(const Element& element) {
 void paintCard(QPainter& painter, TextFitter& fitter, const QRect& area, const Element& element,
                const TableState& state) {
     paintPanel(painter, area, appearance::familyColors(element.family).edge);
-    const int space = area.height() / 30 + 2;
-    const QRect inner = area.adjusted(4 + 2 * space, space, -2 * space, -space);
-    const int shellLine = std::max(inner.height() / 9, TextFitter::minPixels + 2);
-    const int side = std::min(inner.height() - shellLine, inner.width() * 2 / 5);
-    const QRect shells(inner.right() + 1 - side, inner.top(), side, inner.height());
+    const int space = spaceOf(area);
+    const QRect inner = innerOf(area);
+    const int shellLine = shellLineOf(inner);
+    const QRect shells = shellPartOf(inner);
+    const int side = shells.width();
     paintShells(painter, fitter, shells.adjusted(0, 0, 0, -shellLine), element);
     painter.setPen(appearance::text);
     fitter.draw(painter, QRect(shells.left(), shells.bottom() + 1 - shellLine, side, shellLine),
@@ -198,6 +244,13 @@ void paintCard(QPainter& painter, TextFitter& fitter, const QRect& area, const E
     const int heading = rest.height() * 38 / 100;
     paintHeading(painter, fitter, QRect(rest.left(), rest.top(), rest.width(), heading), element);
     paintFacts(painter, fitter, rest.adjusted(0, heading + space, 0, 0), factsOf(element, state));
+    if (element.number == state.selected) paintSteps(painter, fitter, area, element.number);
+}
+
+QRect cardStep(const QRect& card, bool forward) {
+    const QRect shells = shellPartOf(innerOf(card));
+    const int side = std::max(shells.width() / 7, minStepSide);
+    return {forward ? shells.right() + 1 - side : shells.left(), shells.top(), side, side};
 }
 
 void paintEmptyCard(QPainter& painter, TextFitter& fitter, const QRect& area) {

@@ -27,6 +27,9 @@ QString placeText(const Element& element);
 /// The electrons of each shell, such as "2 · 8 · 14 · 2".
 QString shellText(const Element& element);
 
+/// Where the card of the selected element leads to the next one, or to the one before.
+QRect cardStep(const QRect& card, bool forward);
+
 /// Draws the card with an element's main data and its electrons.
 void paintCard(QPainter& painter, TextFitter& fitter, const QRect& area, const Element& element,
                const TableState& state);

@@ -11,6 +11,7 @@
 #include "controls/common/QtText.h"
 #include "controls/elements/ElementSearch.h"
 #include "controls/periodic/CellPainter.h"
+#include "controls/periodic/ElementCard.h"
 #include "controls/periodic/ScaleBox.h"
 #include "controls/periodic/TablePainter.h"
 #include "controls/periodic/ValueSlider.h"
@@ -199,7 +200,7 @@ void PeriodicWidget::mouseMoveEvent(QMouseEvent* event) {
     const QPoint point = event->position().toPoint();
     hover(layout.elementAt(point));
     hoverKind(layout.kindAt(point, state_.view));
-    const bool active = hovered_ != 0 || hoveredKind_ != 0;
+    const bool active = hovered_ != 0 || hoveredKind_ != 0 || elementOfStep(point) != 0;
     setCursor(active ? Qt::PointingHandCursor : Qt::ArrowCursor);
 }
 
@@ -210,12 +211,22 @@ void PeriodicWidget::mousePressEvent(QMouseEvent* event) {
     pressed_ = layout.elementAt(point);
     if (pressed_ != 0) select(pressed_);
     if (const int kind = layout.kindAt(point, state_.view)) highlight(kind);
+    if (const int number = elementOfStep(point)) select(number);
 }
 
 void PeriodicWidget::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return;
     const int pressed = std::exchange(pressed_, 0);
     if (pressed != 0 && elementAt(event->position().toPoint()) == pressed) choose(pressed);
+}
+
+int PeriodicWidget::elementOfStep(QPoint point) const {
+    if (state_.selected == 0) return 0;
+    for (const bool forward : {false, true}) {
+        const int number = state_.selected + (forward ? 1 : -1);
+        if (cardStep(layoutNow().card(), forward).contains(point)) return findElement(number) ? number : 0;
+    }
+    return 0;
 }
 
 void PeriodicWidget::leaveEvent(QEvent*) {

@@ -64,6 +64,8 @@ class PeriodicWidget : public QWidget {
     /// Draws the cell of an element anew.
     void updateCell(int number);
     void updateCard();
+    /// The element before or after the selected one whose sign on the card is at a point, 0 for none.
+    int elementOfStep(QPoint point) const;
     bool step(int key);
     bool stepView(const QKeyEvent& event);
     bool stepSlider(int key);

@@ -150,7 +150,9 @@ TEST(ElementCard, TheViewsOwnFactComesFirst) {
     const auto facts = factsOf(mercury, state);
     EXPECT_EQ(facts.front().value, QStringLiteral("132 pm"));
     EXPECT_EQ(facts[1].value, QStringLiteral("υγρό")) << "the temperature belongs to the view of matter";
-    EXPECT_EQ(facts.size(), static_cast<std::size_t>(quantityCount) + 1);
+    EXPECT_EQ(facts.size(), static_cast<std::size_t>(quantityCount) + 2);
+    EXPECT_EQ(facts.back().value, QStringLiteral("Hg-202, 29,86 %"));
+    EXPECT_EQ(factsOf(*findElement(61), state).back().value, QStringLiteral("Pm-145, 17,7 χρόνια"));
     state.view = TableView::boiling;
     EXPECT_EQ(factsOf(*findElement(33), state).front().label, QStringLiteral("Εξάχνωση"));
 }
