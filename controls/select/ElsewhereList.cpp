@@ -1,5 +1,6 @@
 #include "controls/select/ElsewhereList.h"
 
+#include <QKeyEvent>
 #include <utility>
 
 #include "controls/common/QtText.h"
@@ -62,6 +63,14 @@ void ElsewhereList::offer(std::vector<FoundElsewhere> matches, const QString& wo
 void ElsewhereList::enter() {
     setFocus();
     focusNextPrevChild(true);
+}
+
+void ElsewhereList::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        emit escaped();
+    } else {
+        QTextBrowser::keyPressEvent(event);
+    }
 }
 
 void ElsewhereList::follow(const QString& link) {

@@ -11,6 +11,8 @@ namespace controls::select {
 /// What is offered when no title of the section passes the filter: links to the titles of other sections, and
 /// to the word search.
 class ElsewhereList : public QTextBrowser {
+    Q_OBJECT
+
   public:
     using MatchHandler = std::function<void(const FoundElsewhere&)>;
     using SearchHandler = std::function<void()>;
@@ -21,6 +23,13 @@ class ElsewhereList : public QTextBrowser {
     void offer(std::vector<FoundElsewhere> matches, const QString& word);
     /// Takes the focus and goes to the first link.
     void enter();
+
+  signals:
+    /// Emitted when Esc is pressed.
+    void escaped();
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     void follow(const QString& link);

@@ -100,6 +100,10 @@ void SelectPane::connectParts() {
     connect(view_, &TopicView::typed, field_, &FilterField::takeTyping);
     connect(view_, &TopicView::leftAtTop, field_, [this] { field_->setFocus(); });
     connect(view_, &TopicView::escaped, field_, &QLineEdit::clear);
+    connect(elsewhere_, &ElsewhereList::escaped, field_, [this] {
+        field_->setFocus();
+        field_->clear();
+    });
     connect(view_, &TopicView::erased, field_, [this] {
         field_->setFocus();
         field_->backspace();

@@ -95,7 +95,7 @@ TEST_F(FrameTest, MenusRunTheirRulesWhenTheyAreOpened) {
         return text;
     };
     EXPECT_EQ(states(), "C-ede");
-    EXPECT_EQ(items[0]->text(), QStringLiteral("Εντολή"));
+    EXPECT_EQ(items[0]->text(), QStringLiteral("Εντολή\tCtrl+Z"));
     items[0]->trigger();
     EXPECT_EQ(log().count("view command"), 1U);
     view().enabled = false;
