@@ -13,7 +13,7 @@ namespace {
 /// %1 is how far the page is scrolled, %2 the list of words. The page is hidden until it is in its place,
 /// which may need its modules' work; what loads later may move it, but then the user may have moved it too.
 /// Words are compared without regard to case and accents, and marked where they stand alone.
-constexpr auto source = QLatin1StringView(R"((() => {
+constexpr auto beginningScript = QLatin1StringView(R"((() => {
     const scrolled = %1, words = %2;
     if (!scrolled && !words.length) return;
     const seen = visibility => { document.documentElement.style.visibility = visibility; };
@@ -76,7 +76,7 @@ QWebEngineScript pageBeginning(const PageStart& start) {
     script.setName(QStringLiteral("page beginning"));
     script.setInjectionPoint(QWebEngineScript::DocumentCreation);
     script.setWorldId(QWebEngineScript::ApplicationWorld);
-    script.setSourceCode(QString(source).arg(QString::number(start.scrolled), listOf(start.marked)));
+    script.setSourceCode(QString(beginningScript).arg(QString::number(start.scrolled), listOf(start.marked)));
     return script;
 }
 
