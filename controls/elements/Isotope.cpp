@@ -16,20 +16,22 @@ using namespace platform::literals;
 struct TimeUnit {
     double seconds;
     std::string_view name;
+    std::string_view one;  ///< its name behind a 1
 };
 
 // The mean Gregorian year.
 constexpr double year = 31'556'952;
 constexpr double maxWords = 1e12 * year;
 
-constexpr std::array<TimeUnit, 8> timeUnits{{{1e9 * year, "δισεκατομμύρια χρόνια"_gr},
-                                             {1e6 * year, "εκατομμύρια χρόνια"_gr},
-                                             {year, "χρόνια"_gr},
-                                             {86'400, "ημέρες"_gr},
-                                             {3600, "ώρες"_gr},
-                                             {60, "λεπτά"_gr},
-                                             {1, "s"_gr},
-                                             {1e-3, "ms"_gr}}};
+constexpr std::array<TimeUnit, 8> timeUnits{
+    {{1e9 * year, "δισεκατομμύρια χρόνια"_gr, "δισεκατομμύριο χρόνια"_gr},
+     {1e6 * year, "εκατομμύρια χρόνια"_gr, "εκατομμύριο χρόνια"_gr},
+     {year, "χρόνια"_gr, "χρόνος"_gr},
+     {86'400, "ημέρες"_gr, "ημέρα"_gr},
+     {3600, "ώρες"_gr, "ώρα"_gr},
+     {60, "λεπτά"_gr, "λεπτό"_gr},
+     {1, "s"_gr, "s"_gr},
+     {1e-3, "ms"_gr, "ms"_gr}}};
 
 /// A number of three digits, in full.
 std::string threeDigits(double value) {
@@ -61,7 +63,8 @@ std::string halfLifeText(const Isotope& isotope) {
     const auto unit = std::ranges::find_if(timeUnits, [&](const TimeUnit& each) {
         return isotope.halfLife >= each.seconds * 0.9995 || &each == &timeUnits.back();
     });
-    return threeDigits(isotope.halfLife / unit->seconds) + ' ' + std::string(unit->name);
+    const std::string digits = threeDigits(isotope.halfLife / unit->seconds);
+    return digits + ' ' + std::string(digits == "1" ? unit->one : unit->name);
 }
 
 }  // namespace controls

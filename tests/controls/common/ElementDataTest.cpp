@@ -172,6 +172,7 @@ TEST(ElementIsotopes, TheirMassesMakeTheElementsMass) {
 
 TEST(ElementIsotopes, HalfLivesHaveThreeDigitsAndTheUnitThatSuits) {
     const std::pair<std::pair<int, int>, const char*> cases[] = {{{6, 14}, "5730 χρόνια"},
+                                                                 {{107, 270}, "1 λεπτό"},
                                                                  {{1, 3}, "12,3 χρόνια"},
                                                                  {{92, 238}, "4,47 δισεκατομμύρια χρόνια"},
                                                                  {{53, 131}, "8,02 ημέρες"},

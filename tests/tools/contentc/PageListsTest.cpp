@@ -29,7 +29,7 @@ class PageLists : public testing::Test {
         content_.write("pages/uses/400010-a.md",
                        "τίτλος: Άλατα\nσειρά: 2\nπερίληψη: Με νερό.\nτάξη: Β' Γυμνασίου 9.1; Γ΄ Λυκείου\n"
                        "πριν: βαφές; αέρια\nέτος: -460\n---\n");
-        content_.write("pages/uses/40001.md", "τίτλος: Αλάτι\nθέμα: Άλατα\nέτος: 1743\n---\n");
+        content_.write("pages/uses/40001.md", "τίτλος: Αλάτι\nθέμα: Άλατα\nέτος: περ. 1743\n---\n");
     }
 
     ContentFolder content_;
@@ -87,7 +87,7 @@ TEST_F(PageLists, GoByChapterAndByTime) {
               std::string::npos)
         << navigation;
     EXPECT_NE(navigation.find("<OL><LI><SPAN CLASS=\"year\">460&nbsp;π.Χ.</SPAN> " + linkA + summaryA +
-                              "<LI><SPAN CLASS=\"year\">1743</SPAN> "),
+                              "<LI><SPAN CLASS=\"year\">περ.&nbsp;1743</SPAN> "),
               std::string::npos)
         << navigation;
     EXPECT_EQ(navigation.find("<H2>"), std::string::npos) << "the author has placed the list of topics";

@@ -73,8 +73,10 @@ Pages allInOrder(const Content& content) {
     return pages;
 }
 
-std::string yearText(std::int32_t year) {
-    return year < 0 ? std::to_string(-year) + "\u00A0π.Χ." : std::to_string(year);
+std::string yearText(const TimeLineYear& when) {
+    const std::string year =
+        when.year < 0 ? std::to_string(-when.year) + "\u00A0π.Χ." : std::to_string(when.year);
+    return (when.isAbout ? "περ.\u00A0" : "") + year;
 }
 
 void addRelated(const Pages& pages, const std::string& heading, HtmlList& lines) {
@@ -112,7 +114,9 @@ HtmlList schoolYearList(const Content& content, std::size_t year) {
         }
     }
     if (chapters.empty()) return {};
-    std::ranges::stable_sort(chapters, {}, &ChapterPage::order);
+    // What belongs to no chapter stands behind the chapters.
+    std::ranges::stable_sort(
+        chapters, {}, [](const ChapterPage& place) { return std::pair(place.order.empty(), place.order); });
     HtmlList lines{tagWithHeading("contents chapters", platform::toUtf8(schoolYears()[year]), false), "<UL>"};
     for (const ChapterPage& place : chapters) {
         lines.push_back("<LI><SPAN CLASS=\"chapter\">" + textHtml(place.chapter) + "</SPAN> " +
@@ -126,7 +130,7 @@ HtmlList timeLine(const Content& content) {
     Pages pages = allInOrder(content);
     std::erase_if(pages, [](const PageSource* page) { return !page->year; });
     if (pages.empty()) return {};
-    std::ranges::stable_sort(pages, {}, [](const PageSource* page) { return *page->year; });
+    std::ranges::stable_sort(pages, {}, [](const PageSource* page) { return page->year->year; });
     HtmlList lines{tagWithHeading("timeline", "Χρονολόγιο", false), "<OL>"};
     for (const PageSource* page : pages) {
         // NOLINTNEXTLINE(bugprone-unchecked-optional-access): pages without a year were taken out

@@ -104,7 +104,18 @@ class HeadReader {
         if (const TextLine* field = header_.find("search")) page_.searchWords = field->text;
     }
 
-    void readYear() { page_.year = number("year"); }
+    void readYear() {
+        const TextLine* field = header_.find("year");
+        if (!field) return;
+        std::string_view text = field->text;
+        bool isAbout = false;
+        for (const std::string_view about : {"περ. "_gr, std::string_view("c. ")}) {
+            if (!text.starts_with(about)) continue;
+            text.remove_prefix(about.size());
+            isAbout = true;
+        }
+        if (const auto year = numberIn(text, field->place)) page_.year = TimeLineYear{*year, isAbout};
+    }
 
   private:
     void checkLength(const std::string& name, const TextLine& field, std::size_t longest) {
@@ -116,8 +127,12 @@ class HeadReader {
     std::optional<std::int32_t> number(std::string_view name) {
         const TextLine* field = header_.find(name);
         if (!field) return std::nullopt;
-        const auto value = parseNumber(field->text);
-        if (!value) diagnostics_.error(field->place, say::notANumber, {platform::toUtf8(field->text)});
+        return numberIn(field->text, field->place);
+    }
+
+    std::optional<std::int32_t> numberIn(std::string_view text, const SourcePlace& place) {
+        const auto value = parseNumber(text);
+        if (!value) diagnostics_.error(place, say::notANumber, {platform::toUtf8(text)});
         return value;
     }
 

@@ -34,6 +34,12 @@ struct ClassChapter {
     std::string chapter;
 };
 
+/// A place on the time line.
+struct TimeLineYear {
+    std::int32_t year;     ///< before our era negative
+    bool isAbout = false;  ///< whether nobody knows it exactly
+};
+
 /// The names of the school years in their order.
 std::span<const std::string_view> schoolYears();
 
@@ -63,8 +69,8 @@ struct PageSource {
     std::vector<TextLine> before, after, see;
     /// Words by which the search finds the page besides those on it.
     std::string searchWords;
-    /// When it was, for the time line; before our era negative.
-    std::optional<std::int32_t> year;
+    /// When it was, for the time line.
+    std::optional<TimeLineYear> year;
     /// The body in Markdown and UTF-8.
     std::vector<TextLine> markdown;
     /// HTML with marks, which is made of it later.
