@@ -1,6 +1,6 @@
 # A cell of zinc and copper lights a lamp: every four seconds an atom of zinc goes into the solution as an ion, two
 # electrons go along the wire, an ion of copper becomes an atom, and of the bridge two ions of chloride and two of potassium
-# make up for the charges. All charges that are shown add up to nothing, on either side and at all times between turns.
+# make up for the charges. The charges that are shown add up to nothing on either side, at the beginning and at the end.
 
 # Places in a half, as from the left: x and y in turn.
 function start() {
@@ -65,8 +65,8 @@ function turn(n, s, t,    k, x, y, e, goal) {
     # Copper waits, then goes to its plate.
     x = 320 - copper_place[2 * n + 1]
     y = copper_place[2 * n + 2]
-    k = rise(s, 1.6, 4)
-    if (s < 4.8) ion(x + (280 - x) * k + sway(t, n + 3) * (1 - k), y, 7, s > 4 ? "#d08a4e" : "#9cc6f2", s > 4 ? "Cu" : "Cu²⁺", 6)
+    k = rise(s, 1.8, 4.4)
+    if (s < 5.2) ion(x + (280 - x) * k + sway(t, n + 3) * (1 - k), y, 7, s > 4.5 ? "#d08a4e" : "#9cc6f2", s > 4.5 ? "Cu" : "Cu²⁺", 6)
     if (s < 0) return
     # Zinc: from the plate into the solution, where it stays.
     k = rise(s, 0.6, 3)
