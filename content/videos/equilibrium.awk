@@ -1,5 +1,5 @@
 # N2O4 splits into NO2, two NO2 join when they meet. After some time the numbers stay about the same, while the molecules
-# go on to split and to join: two atoms are marked. TYPE: 1 a molecule of NO2, 2 the first and 0 the second of two that are
+# go on to split and to join: one atom is marked. TYPE: 1 a molecule of NO2, 2 the first and 0 the second of two that are
 # joined to N2O4 (a disc that does not move by itself).
 
 function start(    i) {
