@@ -47,5 +47,5 @@ function graph(s, left,    h, d, x) {
     steps = steps sprintf("%s%.2f %.2f", steps == "" ? "M" : "L", 48 + 9.5 * s, 222 - 62 * left / 200)
     path(steps, "none", "#8e5bb0", 2)
     circle(48 + 9.5 * s, 222 - 62 * left / 200, 3.4, "#d6574e", "#ffffff", 0.8)
-    label(318, 235, "ημέρες", 12, "end", "#526070", "normal")
+    label(320, 214, "ημέρες", 11, "end", "#526070", "normal")
 }
