@@ -14,7 +14,7 @@ command -v npm >/dev/null || PACKAGES+=(npm)
 TEST_PACKAGES=(libgtest-dev poppler-utils python3)
 # node runs the tests of the tools in pages.
 command -v node >/dev/null || TEST_PACKAGES+=(nodejs)
-CHECK_PACKAGES=(git clang-19 clang-format-19 libclang-rt-19-dev libbenchmark-dev hunspell hunspell-el)
+CHECK_PACKAGES=(git clang-19 clang-format-19 clang-tidy-19 libclang-rt-19-dev libbenchmark-dev hunspell hunspell-el)
 PACKAGE_PACKAGES=(dpkg-dev file lintian desktop-file-utils appstream)
 
 say() { printf '\n== %s\n' "$*"; }
