@@ -89,6 +89,12 @@ std::string Element::massText() const {
     return hasStandardMass() ? mass.withComma() : '[' + std::string(mass.digits) + ']';
 }
 
+std::string Element::oxidationText() const {
+    std::string text;
+    for (const char c : oxidationNumbers) c == ' ' ? text += ", " : text += c;
+    return text;
+}
+
 const Element* findElement(int number) {
     if (number < 1 || number > elementCount) return nullptr;
     return &elements()[static_cast<std::size_t>(number) - 1];

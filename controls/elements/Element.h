@@ -66,9 +66,13 @@ struct Element {
     Figure ionisation;         ///< first ionisation energy, eV
     Figure covalentRadius;     ///< pm
     Figure crust;              ///< abundance in the Earth's crust, mg/kg
+    Figure affinity;           ///< electron affinity, eV; 0 when the atom binds no further electron
+    Figure vanDerWaalsRadius;  ///< pm
     /// The symbol of the noble gas with the inner electrons, and then the other subshells as the source
     /// orders them, such as "Ar 3d6 4s2".
     std::string_view configuration;
+    /// The usual oxidation numbers in ascending order, such as "-1 +1"; empty when they are not known.
+    std::string_view oxidationNumbers;
     std::int16_t discovered;  ///< year, or `antiquity`
 
     /// 1 to 7.
@@ -91,6 +95,8 @@ struct Element {
     bool hasStandardMass() const { return mass.decimals() > 0; }
     /// The relative atomic mass with decimal comma, or the mass number in brackets.
     std::string massText() const;
+    /// The usual oxidation numbers, such as "-1, +1", with hyphens as minus signs.
+    std::string oxidationText() const;
 };
 
 inline constexpr int elementCount = 118;

@@ -29,6 +29,8 @@ constexpr std::array<Words, quantityCount> words{{
     {"Σημείο βρασμού"_gr, "K"_gr},
     {"Έτος ανακάλυψης"_gr, {}},
     {"Αφθονία στον φλοιό της Γης"_gr, "mg/kg"_gr},
+    {"Ηλεκτρονιοσυγγένεια"_gr, "kJ/mol"_gr},
+    {"Ακτίνα van der Waals"_gr, "pm"_gr},
 }};
 
 /// The figure behind a quantity; the year has none.
@@ -48,10 +50,19 @@ Figure figureOf(const Element& element, Quantity quantity) {
             return element.boilingPoint;
         case Quantity::crust:
             return element.crust;
+        case Quantity::electronAffinity:
+            return element.affinity;
+        case Quantity::vanDerWaalsRadius:
+            return element.vanDerWaalsRadius;
         case Quantity::discovery:
             break;
     }
     return {};
+}
+
+/// Whether the table has a quantity in eV, which is shown in kJ/mol.
+bool isEnergy(Quantity quantity) {
+    return quantity == Quantity::ionisation || quantity == Quantity::electronAffinity;
 }
 
 /// The energy in kJ/mol, with no more digits than are known of it in eV.
@@ -70,12 +81,12 @@ std::string_view quantityUnit(Quantity quantity) { return words[static_cast<std:
 std::optional<double> quantityValue(const Element& element, Quantity quantity) {
     if (quantity == Quantity::discovery) return element.discovered;
     const auto value = figureOf(element, quantity).value();
-    if (!value || quantity != Quantity::ionisation) return value;
+    if (!value || !isEnergy(quantity)) return value;
     return *value * kilojoulesPerMole;
 }
 
 std::string quantityText(const Element& element, Quantity quantity) {
-    if (quantity == Quantity::ionisation) return kilojoules(element.ionisation);
+    if (isEnergy(quantity)) return kilojoules(figureOf(element, quantity));
     if (quantity != Quantity::discovery) return figureOf(element, quantity).withComma();
     return element.discovered == antiquity ? std::string("αρχαιότητα"_gr)
                                            : std::to_string(element.discovered);

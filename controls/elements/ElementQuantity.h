@@ -18,9 +18,11 @@ enum class Quantity : std::uint8_t {
     melting,
     boiling,
     discovery,
-    crust
+    crust,
+    electronAffinity,
+    vanDerWaalsRadius
 };
-inline constexpr int quantityCount = 8;
+inline constexpr int quantityCount = 10;
 
 /// The name of a quantity, and its unit, which is empty for some; code page 1253.
 std::string_view quantityName(Quantity quantity);

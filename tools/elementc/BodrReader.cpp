@@ -8,12 +8,13 @@ namespace elementc {
 
 namespace {
 
-constexpr std::array<std::pair<std::string_view, std::string_view>, 9> fieldNames{{
+constexpr std::array<std::pair<std::string_view, std::string_view>, 10> fieldNames{{
     {"bo:atomicNumber", "number"},
     {"bo:symbol", "symbol"},
     {"bo:name", "name"},
     {"bo:electronegativityPauling", "electronegativity"},
     {"bo:ionization", "ionisation"},
+    {"bo:electronAffinity", "affinity"},
     {"bo:meltingpoint", "melting"},
     {"bo:boilingpoint", "boiling"},
     {"bo:discoveryDate", "discovered"},

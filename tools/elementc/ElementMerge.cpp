@@ -7,8 +7,9 @@ namespace elementc {
 
 namespace {
 
-constexpr std::array<std::string_view, 8> correctable{
-    "symbol", "name", "electronegativity", "ionisation", "melting", "boiling", "discovered", "configuration"};
+constexpr std::array<std::string_view, 9> correctable{"symbol",     "name",       "electronegativity",
+                                                      "ionisation", "affinity",   "melting",
+                                                      "boiling",    "discovered", "configuration"};
 
 Result<void> correct(Records& records, const SourceRow& correction) {
     const int number = numberOf(correction.fields);

@@ -7,7 +7,8 @@
 namespace elementc {
 
 /// The C++ source with the table of elements that `controls/elements/Element.h` declares. It is an error when
-/// a figure is no decimal number, or when a symbol, name, mass or year is missing.
+/// a figure is no decimal number, when the oxidation numbers are no list, or when a symbol, name, mass or
+/// year is missing.
 Result<std::string> writeTable(const Records& records);
 
 }  // namespace elementc

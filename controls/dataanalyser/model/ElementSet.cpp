@@ -74,7 +74,8 @@ formats::DataSet elementSet() {
     set.title = "Χημικά στοιχεία"_gr;
     set.source = "Blue Obelisk Data Repository, IUPAC ("_gr;
     set.source += sublimingElements();
-    set.source += ": εξάχνωση αντί για βρασμό, τήξη υπό πίεση· He: τήξη υπό πίεση 25 atm)"_gr;
+    set.source +=
+        ": εξάχνωση αντί για βρασμό, τήξη υπό πίεση· He: τήξη υπό πίεση 25 atm· ηλεκτρονιοσυγγένεια 0: το άτομο δεν συγκρατεί άλλο ηλεκτρόνιο)"_gr;
     for (const Element& element : elements()) set.rowIds.push_back(static_cast<std::int16_t>(element.number));
     set.columns = {
         numbers(
@@ -101,6 +102,9 @@ formats::DataSet elementSet() {
         quantityColumn<Quantity::crust>(),
         words(DataColumnKind::category, "Οικογένεια"_gr,
               [](const Element& e) { return familyName(e.family); }),
+        // Bookmarks know columns by their places, so later ones come last.
+        quantityColumn<Quantity::electronAffinity>(),
+        quantityColumn<Quantity::vanDerWaalsRadius>(),
     };
     set.graph = {atomicNumberColumn, electronegativityColumn};
     return set;

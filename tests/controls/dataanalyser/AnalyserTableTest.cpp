@@ -55,7 +55,8 @@ TEST(AnalyserRows, AntiquityIsOlderThanAnyYear) {
 TEST(AnalyserRows, ElementsThatDoNotMeltAtOneAtmosphereAreTold) {
     const std::string source = platform::toUtf8(elementSet().source);
     EXPECT_TRUE(
-        source.ends_with("(C, As: εξάχνωση αντί για βρασμό, τήξη υπό πίεση· He: τήξη υπό πίεση 25 atm)"))
+        source.ends_with("(C, As: εξάχνωση αντί για βρασμό, τήξη υπό πίεση· He: τήξη υπό πίεση 25 atm· "
+                         "ηλεκτρονιοσυγγένεια 0: το άτομο δεν συγκρατεί άλλο ηλεκτρόνιο)"))
         << source;
 }
 

@@ -98,6 +98,10 @@ TEST(ElementCompiler, WritesNoFigureThatIsNone) {
              {"melting", "12,5", "element 9: melting is no decimal number"},
              {"boiling", "1.2.3", "element 9: boiling is no decimal number"},
              {"discovered", "-3", "element 9: the year is no number"},
+             {"oxidation numbers", "+1 -1", "element 9: no list of oxidation numbers"},
+             {"oxidation numbers", "+1  +2", "element 9: no list of oxidation numbers"},
+             {"oxidation numbers", "1", "element 9: no list of oxidation numbers"},
+             {"affinity", "-0.5", "element 9: affinity is no decimal number"},
              {"name", "a\"b", "element 9: a text with a quotation mark, backslash or line end"}}) {
         Records records = *merge("", allRows());
         records.at(9)[field] = value;

@@ -91,6 +91,13 @@ CardRow discovery(const Element& element) {
     return {"Ανακάλυψη", platform::toUtf8(controls::quantityText(element, controls::Quantity::discovery))};
 }
 
+std::string oxidationNumbers(const Element& element) {
+    std::string html;
+    for (const char c : element.oxidationText())
+        html += c == '-' ? std::string("&minus;") : std::string(1, c);
+    return html;
+}
+
 std::string tile(const Element& element) {
     return R"(<DIV CLASS="tile"><SPAN CLASS="number">)" + std::to_string(element.number) +
            "</SPAN><SPAN CLASS=\"symbol\">" + std::string(element.symbol) + "</SPAN><SPAN CLASS=\"mass\">" +
@@ -109,6 +116,7 @@ std::vector<CardRow> elementRows(const Element& element) {
         boiling(element),
         density(element),
         {"Ηλεκτραρνητικότητα", element.electronegativity.withComma()},
+        {"Αριθμοί οξείδωσης", oxidationNumbers(element)},
         discovery(element),
     };
     std::erase_if(rows, [](const CardRow& row) { return row.value.empty(); });
