@@ -13,7 +13,7 @@ namespace controls::periodic {
 
 namespace {
 
-constexpr int minFactHeight = 12;
+constexpr int minFactHeight = 15;
 constexpr int maxFactPixels = 19;
 constexpr int minFactWidth = 150;
 constexpr int headingLines = 3;
@@ -64,6 +64,11 @@ Fact isotopeFact(const Element& element) {
     }
     const auto longest = std::ranges::max_element(all, {}, &Isotope::halfLife);
     return {QStringLiteral("Μακροβιότερο"), name(*longest) + toQt(halfLifeText(*longest))};
+}
+
+Fact oxidationFact(const Element& element) {
+    const QString numbers = withMinus(toQt(element.oxidationText()));
+    return {QStringLiteral("Αριθμοί οξείδωσης"), numbers.isEmpty() ? QStringLiteral("–") : numbers};
 }
 
 QString blockLetter(Block block) {
@@ -197,19 +202,26 @@ void paintSteps(QPainter& painter, TextFitter& fitter, const QRect& card, int nu
 
 std::vector<Fact> factsOf(const Element& element, const TableState& state) {
     using enum Quantity;
-    std::vector<Quantity> quantities{melting,    boiling,        density,   electronegativity,
-                                     ionisation, covalentRadius, discovery, crust};
-    const auto first = quantityOf(state.view);
-    if (first) {
-        std::ranges::stable_partition(quantities, [&](Quantity each) { return each == *first; });
+    const auto fact = [&](Quantity quantity) {
+        return Fact{factName(element, quantity), valueWithUnit(element, quantity)};
+    };
+    std::vector<Fact> facts{matterFact(element, state),
+                            fact(melting),
+                            fact(boiling),
+                            fact(density),
+                            oxidationFact(element),
+                            fact(electronegativity),
+                            fact(ionisation),
+                            fact(covalentRadius),
+                            fact(discovery),
+                            isotopeFact(element),
+                            fact(electronAffinity),
+                            fact(crust),
+                            fact(vanDerWaalsRadius)};
+    if (const auto shown = quantityOf(state.view)) {
+        const QString name = factName(element, *shown);
+        std::ranges::stable_partition(facts, [&](const Fact& each) { return each.label == name; });
     }
-    std::vector<Fact> facts;
-    facts.reserve(quantities.size() + 2);
-    for (const Quantity quantity : quantities) {
-        facts.push_back({factName(element, quantity), valueWithUnit(element, quantity)});
-    }
-    facts.insert(facts.begin() + (first ? 1 : 0), matterFact(element, state));
-    facts.push_back(isotopeFact(element));
     return facts;
 }
 

@@ -14,7 +14,7 @@ namespace {
 
 QString kindText(const TableState& state, int kind) {
     QString name = toQt(kindName(state.view, kind));
-    if (state.view == TableView::families) return name;
+    if (state.view == TableView::families || state.view == TableView::groups) return name;
     const auto count = std::ranges::count_if(elements(), [&](const Element& element) {
         return kindOf(element, state.view, state.kelvin) == kind;
     });

@@ -249,8 +249,7 @@ bool PeriodicWidget::stepView(const QKeyEvent& event) {
     if (event.modifiers() != Qt::ControlModifier) return false;
     const bool forward = event.key() == Qt::Key_PageDown;
     if (!forward && event.key() != Qt::Key_PageUp) return false;
-    const int code = (viewCode(state_.view) + (forward ? 1 : viewCount - 1)) % viewCount;
-    setView(viewOfCode(code).value_or(state_.view));
+    setView(viewBeside(state_.view, forward ? 1 : -1));
     return true;
 }
 
@@ -281,6 +280,17 @@ bool PeriodicWidget::highlightByKey(int key) {
     return true;
 }
 
+bool PeriodicWidget::stepHighlight(const QKeyEvent& event) {
+    if (event.modifiers() != Qt::ControlModifier) return false;
+    const bool forward = event.key() == Qt::Key_Right;
+    if (!forward && event.key() != Qt::Key_Left) return false;
+    // 0 is the state in which no kind stands out.
+    const int states = kindCount(state_.view) + 1;
+    state_.highlighted = (state_.highlighted + (forward ? 1 : states - 1)) % states;
+    update();
+    return true;
+}
+
 void PeriodicWidget::typed(const QKeyEvent& event) {
     if (const Element* found = typeAhead_.type(fromQt(event.text()), clock_.elapsed(), findElementByStart)) {
         hover(0);
@@ -291,7 +301,7 @@ void PeriodicWidget::typed(const QKeyEvent& event) {
 void PeriodicWidget::keyPressEvent(QKeyEvent* event) {
     const bool plain = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) == 0;
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (stepView(*event)) return;
+    if (stepView(*event) || stepHighlight(*event)) return;
     if (plain && (step(event->key()) || stepSlider(event->key()) || highlightByKey(event->key()))) return;
     if (plain && isPrintable(event->text())) return typed(*event);
     if (!plain || !enter) return QWidget::keyPressEvent(event);

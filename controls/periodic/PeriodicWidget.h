@@ -70,6 +70,7 @@ class PeriodicWidget : public QWidget {
     bool stepView(const QKeyEvent& event);
     bool stepSlider(int key);
     bool highlightByKey(int key);
+    bool stepHighlight(const QKeyEvent& event);
     void typed(const QKeyEvent& event);
 
     std::function<void(int)> chosen_;

@@ -8,7 +8,7 @@ namespace controls::periodic {
 
 namespace {
 
-constexpr int wideStrip = 900;  // from this width on, the strip stands in one row
+constexpr int wideStrip = 1300;  // from this width on, the strip stands in one row
 constexpr int legendRows = 2;
 constexpr int sliderPercent = 36;
 constexpr int descriptionPercent = 32;
@@ -91,7 +91,8 @@ QRect TableLayout::slider(TableView view) const {
 }
 
 int TableLayout::kindColumns(TableView view) const {
-    return view == TableView::metals ? kindCount(view) : kindCount(view) / legendRows;
+    const bool oneRow = view == TableView::metals || view == TableView::blocks;
+    return oneRow ? kindCount(view) : (kindCount(view) + legendRows - 1) / legendRows;
 }
 
 QRect TableLayout::kindItem(TableView view, int kind) const {

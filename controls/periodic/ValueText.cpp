@@ -30,6 +30,11 @@ QString celsius(const Figure& kelvin) {
     return withMinus(toQt(fixedNumber(value, std::min(kelvin.decimals(), 1))));
 }
 
+/// Whether an atom binds no further electron: it gains no energy, and how much it would need is not measured.
+bool gainsNothing(Quantity quantity, double value) {
+    return quantity == Quantity::electronAffinity && value == 0;
+}
+
 /// A number below 1 is shortened to two digits, or to one when it is written with a power of ten.
 QString shortText(double value) {
     if (value >= 1) return numberText(value);
@@ -48,6 +53,7 @@ QString valueText(const Element& element, Quantity quantity) {
     const auto value = quantityValue(element, quantity);
     if (!value) return {};
     if (quantity == Quantity::discovery && *value == antiquity) return QStringLiteral("αρχαία");
+    if (gainsNothing(quantity, *value)) return QStringLiteral("≤ 0");
     if (quantity == Quantity::density || quantity == Quantity::crust) return shortText(*value);
     if (*value >= 100) return QString::number(std::lround(*value));
     return toQt(quantityText(element, quantity));
@@ -67,6 +73,10 @@ QString valueWithUnit(const Element& element, Quantity quantity) {
         case Quantity::boiling:
             return toQt(quantityText(element, quantity)) +
                    QStringLiteral(" K = %1 °C").arg(celsius(element.boilingPoint));
+        case Quantity::electronAffinity:
+            return (gainsNothing(quantity, *value) ? QStringLiteral("≤ 0")
+                                                   : toQt(quantityText(element, quantity))) +
+                   unit;
         case Quantity::crust:
             if (*value >= percent) return numberText(*value / percent) + QStringLiteral(" %");
             return numberText(*value) + unit;

@@ -16,8 +16,6 @@ constexpr int minPixels = 10;
 constexpr int maxPixels = 15;
 constexpr int padding = 4;
 constexpr int paddingInWidths = 12;
-/// The first view of the second row, when the strip has two rows.
-constexpr int secondRow = static_cast<int>(TableView::density);
 
 int wantedWidth(TableView view) {
     return QFontMetrics(appearance::font(maxPixels)).horizontalAdvance(toQt(viewName(view))) +
@@ -53,11 +51,10 @@ void ViewButton::paintEvent(QPaintEvent*) {
 ViewStrip::ViewStrip(TextFitter& fitter, const std::function<void(TableView)>& chosen, QWidget* parent)
     : QWidget(parent) {
     setAccessibleName(QStringLiteral("Προβολές"));
-    for (int code = 0; code < viewCount; ++code) {
-        const auto view = static_cast<TableView>(code);
+    for (const TableView view : viewOrder) {
         auto* button = &platform::makeQtChild<ViewButton>(view, fitter, this);
         connect(button, &QAbstractButton::clicked, this, [chosen, view] { chosen(view); });
-        buttons_[static_cast<std::size_t>(code)] = button;
+        buttons_[static_cast<std::size_t>(view)] = button;
     }
 }
 
@@ -69,20 +66,21 @@ void ViewStrip::place(const QRect& area, int rows) {
     setGeometry(area);
     // The last row of pixels is the line below the strip.
     const int height = (area.height() - rows) / rows;
-    const int end = rows == 1 ? viewCount : secondRow;
+    const std::size_t end = rows == 1 ? viewCount : firstOfSecondRow;
     placeRow({0, 0, area.width(), height}, 0, end);
     if (rows > 1) placeRow({0, height + 1, area.width(), height}, end, viewCount);
 }
 
-void ViewStrip::placeRow(const QRect& area, int first, int end) {
+void ViewStrip::placeRow(const QRect& area, std::size_t first, std::size_t end) {
     int wanted = 0;
-    for (int code = first; code < end; ++code) wanted += wantedWidth(static_cast<TableView>(code));
+    for (std::size_t place = first; place < end; ++place) wanted += wantedWidth(viewOrder[place]);
     int before = 0;
-    for (int code = first; code < end; ++code) {
+    for (std::size_t place = first; place < end; ++place) {
+        const TableView view = viewOrder[place];
         const int left = area.width() * before / wanted;
-        before += wantedWidth(static_cast<TableView>(code));
+        before += wantedWidth(view);
         const int right = area.width() * before / wanted;
-        buttons_[static_cast<std::size_t>(code)]->setGeometry(area.left() + left, area.top(), right - left,
+        buttons_[static_cast<std::size_t>(view)]->setGeometry(area.left() + left, area.top(), right - left,
                                                               area.height());
     }
 }

@@ -40,9 +40,10 @@ class ViewStrip : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    void placeRow(const QRect& area, int first, int end);
+    /// Places the buttons with these places in the order of the strip.
+    void placeRow(const QRect& area, std::size_t first, std::size_t end);
 
-    std::array<ViewButton*, viewCount> buttons_{};
+    std::array<ViewButton*, viewCount> buttons_{};  // by the code of the view
 };
 
 }  // namespace controls::periodic

@@ -13,6 +13,14 @@ using namespace platform::literals;
 constexpr std::array<std::string_view, 3> characterNames{"Μέταλλα"_gr, "Μεταλλοειδή"_gr, "Αμέταλλα"_gr};
 constexpr std::array<std::string_view, 4> matterNames{"Στερεό"_gr, "Υγρό"_gr, "Αέριο"_gr,
                                                       "Δεν είναι γνωστό"_gr};
+constexpr std::array<std::string_view, 4> blockNames{"Τομέας s"_gr, "Τομέας p"_gr, "Τομέας d"_gr,
+                                                     "Τομέας f"_gr};
+// With the names of schoolbooks.
+constexpr std::array<std::string_view, kindWithoutGroup> groupNames{
+    "1 · IA"_gr,   "2 · IIA"_gr,   "3 · IIIB"_gr,   "4 · IVB"_gr,    "5 · VB"_gr,
+    "6 · VIB"_gr,  "7 · VIIB"_gr,  "8 · VIIIB"_gr,  "9 · VIIIB"_gr,  "10 · VIIIB"_gr,
+    "11 · IB"_gr,  "12 · IIB"_gr,  "13 · IIIA"_gr,  "14 · IVA"_gr,   "15 · VA"_gr,
+    "16 · VIA"_gr, "17 · VIIA"_gr, "18 · VIIIA"_gr, "χωρίς ομάδα"_gr};
 
 }  // namespace
 
@@ -37,6 +45,10 @@ int kindCount(TableView view) {
             return static_cast<int>(characterNames.size());
         case TableView::matter:
             return static_cast<int>(matterNames.size());
+        case TableView::blocks:
+            return static_cast<int>(blockNames.size());
+        case TableView::groups:
+            return kindWithoutGroup;
         default:
             return 0;
     }
@@ -50,6 +62,10 @@ int kindOf(const Element& element, TableView view, double kelvin) {
             return static_cast<int>(characterOf(element.family)) + 1;
         case TableView::matter:
             return static_cast<int>(element.matterAt(kelvin)) + 1;
+        case TableView::blocks:
+            return static_cast<int>(element.block()) + 1;
+        case TableView::groups:
+            return element.group() == 0 ? kindWithoutGroup : element.group();
         default:
             return 0;
     }
@@ -58,11 +74,18 @@ int kindOf(const Element& element, TableView view, double kelvin) {
 std::string_view kindName(TableView view, int kind) {
     if (kind < 1 || kind > kindCount(view)) return {};
     const auto index = static_cast<std::size_t>(kind) - 1;
-    if (view == TableView::families) {
-        const auto family = familyOfCode(kind);
-        return family ? familyName(*family) : std::string_view();
+    switch (view) {
+        case TableView::families:
+            return familyName(static_cast<Family>(index));
+        case TableView::metals:
+            return characterNames[index];
+        case TableView::matter:
+            return matterNames[index];
+        case TableView::blocks:
+            return blockNames[index];
+        default:
+            return groupNames[index];
     }
-    return view == TableView::metals ? characterNames[index] : matterNames[index];
 }
 
 }  // namespace controls::periodic

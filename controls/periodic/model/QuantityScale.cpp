@@ -33,6 +33,8 @@ constexpr std::array<Scales, quantityCount> scales{{
     {{0, 6000}, {3, 6000}, false},
     {{1650, 2010}, {1650, 2010}, false},
     {{0, 500000}, {1e-4, 1e6}, true},
+    {{0, 350}, {0, 350}, false},
+    {{100, 350}, {100, 500}, false},
 }};
 
 constexpr int wantedTicks = 6;
@@ -42,7 +44,7 @@ constexpr double fewDecades = 2;
 
 QuantityScale::QuantityScale(Quantity quantity, bool other) {
     const Scales& both = scales[static_cast<std::size_t>(quantity)];
-    logarithmic_ = both.usuallyLogarithmic != (other && quantity != Quantity::discovery);
+    logarithmic_ = both.usuallyLogarithmic != (other && hasBothScales(quantity));
     const Ends& ends = logarithmic_ ? both.logarithmic : both.linear;
     low_ = ends.low;
     high_ = ends.high;

@@ -6,11 +6,16 @@
 
 namespace controls::periodic {
 
+/// Whether a quantity has a logarithmic scale too. Years have none, and neither have energies that may be 0.
+constexpr bool hasBothScales(Quantity quantity) {
+    return quantity != Quantity::discovery && quantity != Quantity::electronAffinity;
+}
+
 /// How the values of a quantity are spread over the colour scale.
 class QuantityScale {
   public:
     /// The usual scale of a quantity. With `other`, a logarithmic scale instead of a linear one and the
-    /// reverse; the year of discovery has a linear scale only.
+    /// reverse, where the quantity has both.
     explicit QuantityScale(Quantity quantity, bool other = false);
 
     bool logarithmic() const { return logarithmic_; }

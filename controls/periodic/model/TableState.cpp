@@ -24,7 +24,11 @@ constexpr std::uint32_t firstMask = selectedField.mask() | viewField.mask() | sc
 constexpr Field highlightedField{0, 4};
 constexpr Field kelvinField{4, 13};
 constexpr Field yearField{17, 11};
-constexpr std::uint32_t secondMask = highlightedField.mask() | kelvinField.mask() | yearField.mask();
+// The kinds from 16 on came later.
+constexpr Field manyKindsField{28, 1};
+constexpr int manyKinds = 16;
+constexpr std::uint32_t secondMask =
+    highlightedField.mask() | kelvinField.mask() | yearField.mask() | manyKindsField.mask();
 
 /// The bits of a half; none of them when any lies outside the mask.
 std::uint32_t known(std::int32_t half, std::uint32_t mask) {
@@ -40,7 +44,8 @@ std::int32_t firstHalf(const TableState& state) {
 }
 
 std::int32_t secondHalf(const TableState& state) {
-    return highlightedField.with(state.highlighted) |
+    return highlightedField.with(state.highlighted % manyKinds) |
+           manyKindsField.with(state.highlighted / manyKinds) |
            kelvinField.with(state.kelvin == usualKelvin ? 0 : state.kelvin + 1) |
            yearField.with(state.year == maxYear ? 0 : state.year);
 }
@@ -52,7 +57,8 @@ TableState stateOf(std::int32_t first, std::int32_t second) {
     if (findElement(selectedField.in(a))) state.selected = selectedField.in(a);
     state.view = viewOfCode(viewField.in(a)).value_or(state.view);
     state.otherScale = scaleField.in(a) == 1 && hasOtherScale(state.view);
-    if (const int kind = highlightedField.in(b); kind <= kindCount(state.view)) state.highlighted = kind;
+    const int kind = highlightedField.in(b) + manyKinds * manyKindsField.in(b);
+    if (kind <= kindCount(state.view)) state.highlighted = kind;
     if (const int kelvin = kelvinField.in(b)-1; kelvin >= minKelvin && kelvin <= maxKelvin) {
         state.kelvin = kelvin;
     }

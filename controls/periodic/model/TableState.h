@@ -32,8 +32,8 @@ struct TableState {
 /// The first half of a state: the selected element in bits 0 to 7, the code of the view in 8 to 15, the other
 /// scale in 16.
 std::int32_t firstHalf(const TableState& state);
-/// The second half: the highlighted kind in bits 0 to 3, the temperature plus one in 4 to 16, the year in 17
-/// to 27. 0 stands for the usual temperature and for the last year.
+/// The second half: the highlighted kind in bits 0 to 3, and 16 of it in bit 28; the temperature plus one in
+/// 4 to 16, the year in 17 to 27. 0 stands for the usual temperature and for the last year.
 std::int32_t secondHalf(const TableState& state);
 
 /// The state with these halves, which may be any numbers. A part without meaning gets its usual value. So do

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string_view>
@@ -8,8 +9,8 @@
 
 namespace controls::periodic {
 
-/// What the table shows of each element, in the order of the strip. The code of a view is kept in bookmarks.
-/// The views from `electronegativity` on are those of the quantities, in their order.
+/// What the table shows of each element. The code of a view is kept in bookmarks, so later ones come last;
+/// `viewOrder` is the order of the strip.
 enum class TableView : std::uint8_t {
     families,
     metals,
@@ -21,10 +22,25 @@ enum class TableView : std::uint8_t {
     melting,
     boiling,
     discovery,
-    crust
+    crust,
+    blocks,
+    groups,
+    electronAffinity,
+    vanDerWaalsRadius
 };
-inline constexpr int viewCount = 11;
-inline constexpr int firstQuantityView = static_cast<int>(TableView::electronegativity);
+inline constexpr int viewCount = 15;
+
+/// The views in the order of the strip. With two rows, the second begins with `viewOrder[firstOfSecondRow]`.
+inline constexpr std::array<TableView, viewCount> viewOrder{
+    TableView::families,       TableView::metals,
+    TableView::blocks,         TableView::groups,
+    TableView::matter,         TableView::electronegativity,
+    TableView::covalentRadius, TableView::vanDerWaalsRadius,
+    TableView::ionisation,     TableView::electronAffinity,
+    TableView::density,        TableView::melting,
+    TableView::boiling,        TableView::discovery,
+    TableView::crust};
+inline constexpr std::size_t firstOfSecondRow = 8;
 
 /// The code of a view, from 0.
 constexpr int viewCode(TableView view) { return static_cast<int>(view); }
@@ -36,15 +52,13 @@ constexpr std::optional<TableView> viewOfCode(int code) {
 }
 
 /// The quantity that a view shows; nothing for a view of kinds of elements.
-constexpr std::optional<Quantity> quantityOf(TableView view) {
-    const int code = viewCode(view) - firstQuantityView;
-    return code < 0 ? std::nullopt : std::optional(static_cast<Quantity>(code));
-}
+std::optional<Quantity> quantityOf(TableView view);
 
 /// Whether a view has both a linear and a logarithmic colour scale.
-constexpr bool hasOtherScale(TableView view) {
-    return quantityOf(view).has_value() && view != TableView::discovery;
-}
+bool hasOtherScale(TableView view);
+
+/// The view that stands so many places behind another in the strip; the first follows the last.
+TableView viewBeside(TableView view, int places);
 
 /// The name of a view in the strip, in code page 1253.
 std::string_view viewName(TableView view);

@@ -109,15 +109,24 @@ TEST(CellLook, TextCanBeReadOnEveryCellInEveryState) {
     }
 }
 
-TEST(CellLook, KindsOfMetalsAndMatterDifferForEveryKindOfColourVision) {
-    for (const TableView view : {TableView::metals, TableView::matter}) {
+TEST(CellLook, KindsDifferForEveryKindOfColourVision) {
+    struct Case {
+        TableView view;
+        int kinds;
+        double apart, neighboursApart;
+    };
+    for (const auto& [view, kinds, apart, neighboursApart] :
+         {Case{TableView::metals, 3, 18, 18}, Case{TableView::matter, 3, 18, 18},
+          Case{TableView::blocks, 4, 18, 18}, Case{TableView::groups, 19, 10, 18}}) {
         for (const Vision& vision : visions) {
-            for (int one = 1; one <= 3; ++one) {
+            for (int one = 1; one <= kinds; ++one) {
                 for (int other = 1; other < one; ++other) {
+                    // The elements without a group stand in rows of their own.
+                    const bool neighbours = other == one - 1 && one != kindWithoutGroup;
                     EXPECT_GT(distance(vision.seen(kindColors(view, one).fill),
                                        vision.seen(kindColors(view, other).fill)),
-                              18)
-                        << vision.name << ' ' << one << ' ' << other;
+                              neighbours ? neighboursApart : apart)
+                        << vision.name << ' ' << viewCode(view) << ' ' << one << ' ' << other;
                 }
             }
         }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <vector>
 
@@ -38,7 +39,7 @@ TEST(PeriodicState, AnyTwoNumbersMakeAStateThatStays) {
     const auto next = [&] { return static_cast<std::int32_t>(random = random * 1664525U + 1013904223U); };
     for (int i = 0; i < 20000; ++i) {
         // Few bits set, so that the halves do not all count as none.
-        const TableState state = stateOf(next() & 0x1FFFF, next() & 0x0FFFFFFF);
+        const TableState state = stateOf(next() & 0x1FFFF, next() & 0x1FFFFFFF);
         EXPECT_TRUE(state.selected == 0 || findElement(state.selected));
         EXPECT_LE(state.highlighted, kindCount(state.view));
         EXPECT_TRUE(state.kelvin >= minKelvin && state.kelvin <= maxKelvin);
@@ -53,8 +54,8 @@ TEST(ElementKinds, CountsOfTheKinds) {
         for (const Element& element : elements()) found += kindOf(element, view, kelvin) == kind ? 1 : 0;
         return found;
     };
-    for (int code = 0; code < firstQuantityView; ++code) {
-        const TableView view = *viewOfCode(code);
+    for (const TableView view : viewOrder) {
+        if (quantityOf(view)) continue;
         int sum = 0;
         for (int kind = 1; kind <= kindCount(view); ++kind) {
             EXPECT_FALSE(kindName(view, kind).empty());
@@ -66,6 +67,24 @@ TEST(ElementKinds, CountsOfTheKinds) {
     EXPECT_EQ(count(TableView::matter, 2, 298), 2);
     EXPECT_EQ(count(TableView::matter, 2, 303), 5) << "and francium, caesium, gallium";
     EXPECT_EQ(kindOf(*findElement(1), TableView::density, 298), 0);
+    EXPECT_EQ(count(TableView::blocks, 1, 298), 14) << "with helium";
+    EXPECT_EQ(count(TableView::blocks, 4, 298), 30);
+    EXPECT_EQ(count(TableView::groups, 18, 298), 7);
+    EXPECT_EQ(count(TableView::groups, kindWithoutGroup, 298), 30);
+}
+
+TEST(TableView, LaterViewsLeaveTheCodesInBookmarksAsTheyAreAndTheStripShowsEachOnce) {
+    EXPECT_EQ(viewCode(TableView::discovery), 9);
+    EXPECT_EQ(viewCode(TableView::crust), 10);
+    TableView view = TableView::families;
+    for (int i = 0; i < viewCount; ++i) {
+        EXPECT_EQ(view == TableView::families, i == 0);
+        view = viewBeside(view, 1);
+    }
+    EXPECT_EQ(view, TableView::families);
+    EXPECT_EQ(viewBeside(view, -1), TableView::crust);
+    // What earlier versions wrote for the tenth family and the year 1800.
+    EXPECT_EQ(stateOf(26, 10 | (1800 << 17)), (TableState{.selected = 26, .highlighted = 10, .year = 1800}));
 }
 
 TEST(QuantityScale, EveryValueHasAPlaceAndOnlyTinyAbundancesShareTheEnd) {
@@ -127,6 +146,11 @@ TEST(ValueText, ValuesWithTheirUnits) {
                            {1, Quantity::density, "9·10^−5^", "0,00008988 g/cm³"},
                            {79, Quantity::discovery, "αρχαία", "αρχαιότητα"},
                            {26, Quantity::ionisation, "762", "762,5 kJ/mol"},
+                           {17, Quantity::electronAffinity, "349", "348,6 kJ/mol"},
+                           {92, Quantity::electronAffinity, "30,4", "30,4 kJ/mol"},
+                           {10, Quantity::electronAffinity, "≤ 0", "≤ 0 kJ/mol"},
+                           {43, Quantity::electronAffinity, "", "–"},
+                           {55, Quantity::vanDerWaalsRadius, "343", "343 pm"},
                            {118, Quantity::density, "", "–"}}) {
         EXPECT_EQ(valueText(*findElement(number), quantity).toStdString(), inCell) << number;
         EXPECT_EQ(valueWithUnit(*findElement(number), quantity).toStdString(), onCard) << number;
@@ -150,9 +174,16 @@ TEST(ElementCard, TheViewsOwnFactComesFirst) {
     const auto facts = factsOf(mercury, state);
     EXPECT_EQ(facts.front().value, QStringLiteral("132 pm"));
     EXPECT_EQ(facts[1].value, QStringLiteral("υγρό")) << "the temperature belongs to the view of matter";
-    EXPECT_EQ(facts.size(), static_cast<std::size_t>(quantityCount) + 2);
-    EXPECT_EQ(facts.back().value, QStringLiteral("Hg-202, 29,86 %"));
-    EXPECT_EQ(factsOf(*findElement(61), state).back().value, QStringLiteral("Pm-145, 17,7 χρόνια"));
+    EXPECT_EQ(facts.size(), static_cast<std::size_t>(quantityCount) + 3);
+    const auto oxidation = [&](int number) {
+        const auto all = factsOf(*findElement(number), state);
+        return std::ranges::find(all, QStringLiteral("Αριθμοί οξείδωσης"), &Fact::label)->value.toStdString();
+    };
+    EXPECT_EQ(oxidation(7), "−3, +1, +2, +3, +4, +5");
+    EXPECT_EQ(oxidation(10), "0");
+    EXPECT_EQ(oxidation(118), "–");
+    EXPECT_EQ(facts[9].value, QStringLiteral("Hg-202, 29,86 %"));
+    EXPECT_EQ(factsOf(*findElement(61), state)[9].value, QStringLiteral("Pm-145, 17,7 χρόνια"));
     state.view = TableView::boiling;
     EXPECT_EQ(factsOf(*findElement(33), state).front().label, QStringLiteral("Εξάχνωση"));
 }

@@ -9,6 +9,7 @@
 #include "controls/periodic/ScaleBox.h"
 #include "controls/periodic/ValueSlider.h"
 #include "controls/periodic/ViewStrip.h"
+#include "controls/periodic/model/ElementKinds.h"
 #include "tests/controls/RecordingSite.h"
 
 namespace controls::periodic {
@@ -49,6 +50,11 @@ TEST_F(PeriodicParts, AnotherViewForgetsTheHighlightButKeepsTheElementAndTheSlid
     chooseView(TableView::families);
     QTest::keyClick(&table_, Qt::Key_PageUp, Qt::ControlModifier);
     EXPECT_EQ(table_.state().view, TableView::crust) << "round to the last";
+    chooseView(TableView::groups);
+    QTest::keyClick(&table_, Qt::Key_Left, Qt::ControlModifier);
+    EXPECT_EQ(table_.state().highlighted, kindWithoutGroup);
+    for (int i = 0; i < 3; ++i) QTest::keyClick(&table_, Qt::Key_Right, Qt::ControlModifier);
+    EXPECT_EQ(table_.state().highlighted, 2) << "by way of none";
 }
 
 TEST_F(PeriodicParts, TheSliderIsThereWhereItIsNeededAndMoves) {
