@@ -5,7 +5,9 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QStyle>
 #include <QToolTip>
+#include <algorithm>
 
 #include "platform/widgets/Collation.h"
 #include "platform/widgets/KeptSelection.h"
@@ -42,6 +44,34 @@ int ReportView::addRow(const QString& text) {
 int ReportView::selectedRow() const {
     const QList<QTreeWidgetItem*> chosen = selectedItems();
     return chosen.isEmpty() ? -1 : indexOfTopLevelItem(chosen.front());
+}
+
+bool ReportView::event(QEvent* event) {
+    if (event->type() == QEvent::Resize) {
+        const auto& resize = static_cast<const QResizeEvent&>(*event);
+        shareRoom(roomIn(resize.oldSize().width()), roomIn(resize.size().width()));
+    }
+    return QTreeWidget::event(event);
+}
+
+int ReportView::roomIn(int width) const {
+    return width - 2 * frameWidth() - style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+}
+
+void ReportView::shareRoom(int before, int now) {
+    const int taken = header()->length();
+    // Columns that do not all fit go on being scrolled until there is room for them.
+    const bool allFit = taken <= before;
+    const int wanted = now > before ? std::max(taken, now) : allFit ? std::min(taken, now) : taken;
+    int left = taken;
+    int leftWanted = wanted;
+    for (int column = 0; column < columnCount() && wanted != taken; ++column) {
+        const int width = columnWidth(column);
+        const int share = std::max(width * leftWanted / std::max(left, 1), header()->minimumSectionSize());
+        setColumnWidth(column, share);
+        left -= width;
+        leftWanted -= share;
+    }
 }
 
 /// A text that its column cuts is shown whole while the pointer rests on it.

@@ -6,7 +6,9 @@
 
 namespace platform {
 
-/// A list view in report mode: rows of texts under column headers; one row can be selected.
+/// A list view in report mode: rows of texts under column headers; one row can be selected. When it becomes
+/// wider, its columns take the room that none of them has taken yet, and they give it back when it becomes
+/// narrower.
 class ReportView : public QTreeWidget {
   public:
     ReportView(DWORD style, QWidget& parent);
@@ -18,6 +20,7 @@ class ReportView : public QTreeWidget {
     int selectedRow() const;
 
   protected:
+    bool event(QEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
@@ -28,6 +31,9 @@ class ReportView : public QTreeWidget {
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 
   private:
+    /// How many pixels of a width the columns can have, beside a scroll bar.
+    int roomIn(int width) const;
+    void shareRoom(int before, int now);
     void tell(int code, int column = -1);
     int placeFor(const QString& text) const;
 

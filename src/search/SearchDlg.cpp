@@ -1,5 +1,6 @@
 #include "src/search/SearchDlg.h"
 
+#include <algorithm>
 #include <unordered_map>
 #include <utility>
 
@@ -63,6 +64,7 @@ void CSearchDlg::DoDataExchange(CDataExchange& exchange) {
 bool CSearchDlg::OnInitDialog() {
     const CWaitCursor wait;
     CDialog::OnInitDialog();
+    if (m_state.size != CSize{}) growAroundMiddle(m_state.size);
     m_alternatives.SetCheck(m_state.alternatives != 0);
     insertColumns();
     if (loadIndex()) {
@@ -71,6 +73,14 @@ bool CSearchDlg::OnInitDialog() {
         EndDialog(IDCANCEL);
     }
     return false;
+}
+
+void CSearchDlg::growAroundMiddle(CSize size) {
+    const CRect small = GetWindowRect();
+    // The caption stays on the screen.
+    MoveWindow(CRect::at(std::max(small.left - (size.cx - small.Width()) / 2, std::min(small.left, 0)),
+                         std::max(small.top - (size.cy - small.Height()) / 2, std::min(small.top, 0)),
+                         size.cx, size.cy));
 }
 
 /// False when the user has cancelled.
@@ -200,6 +210,7 @@ void CSearchDlg::OnOK() {
                .nameWidth = m_results.GetColumnWidth(NameColumn),
                .topicWidth = m_results.GetColumnWidth(TopicColumn),
                .subgroupWidth = m_results.GetColumnWidth(SubgroupColumn),
+               .size = {GetWindowRect().Width(), GetWindowRect().Height()},
                .row = row,
                .word = m_word.GetWindowText()};
     EndDialog(IDOK);

@@ -45,6 +45,7 @@ class CSearchDlg : public platform::CDialog {
     platform::LRESULT OnResultsLeft(platform::NMHDR& notification);
     platform::LRESULT OnHeaderClicked(platform::NMLISTVIEW& notification);
 
+    void growAroundMiddle(platform::CSize size);
     bool loadIndex();
     void insertColumns();
     void restoreSearch();
