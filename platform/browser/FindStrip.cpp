@@ -101,6 +101,12 @@ void FindStrip::close() {
     if (view_.page()) view_.page()->findText(QString());
 }
 
+bool FindStrip::copySelection() {
+    if (!field_.hasFocus() || !field_.hasSelectedText()) return false;
+    field_.copy();
+    return true;
+}
+
 /// Escape closes the strip also when the focus is elsewhere in its window.
 bool FindStrip::eventFilter(QObject* watched, QEvent* event) {
     if (watched == &view_ && (event->type() == QEvent::Resize || event->type() == QEvent::Move)) place();

@@ -19,6 +19,9 @@ class FindStrip : public QWidget {
     /// Shows it and gives it the keyboard focus.
     void open();
     void close();
+    /// Copies what is selected in its field, while that has the keyboard focus; else copies nothing and is
+    /// false.
+    bool copySelection();
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -46,11 +46,13 @@ constexpr std::array<EventInfo, 1> eventInfos = {
 /// The page as an automation object; it does nothing once the page is gone.
 class Document : public Dispatch {
   public:
-    Document(WebPage& page, PagePrinter& printer) : page_(&page), printer_(&printer) {}
+    /// `find` is null when the strip has never been opened.
+    Document(WebPage& page, PagePrinter& printer, FindStrip* find)
+        : page_(&page), printer_(&printer), find_(find) {}
 
     bool exec(std::int32_t command) override {
         if (page_ && command == copyCommand) {
-            page_->copySelection();
+            if (!find_ || !find_->copySelection()) page_->copySelection();
             return true;
         }
         if (printer_ && command == printCommand) {
@@ -63,6 +65,7 @@ class Document : public Dispatch {
   private:
     QPointer<WebPage> page_;
     QPointer<PagePrinter> printer_;
+    QPointer<FindStrip> find_;
 };
 
 void record(TraceEntry entry) {
@@ -129,7 +132,7 @@ void WebBrowserComponent::navigate(const std::string& address, const Variant& fl
 void WebBrowserComponent::refresh(const Variant&) { page().reload(); }
 
 std::shared_ptr<Dispatch> WebBrowserComponent::document() {
-    return std::make_shared<Document>(page(), *printer_);
+    return std::make_shared<Document>(page(), *printer_, find_.get());
 }
 
 bool WebBrowserComponent::passes(const PageRequest& request) {
