@@ -22,6 +22,7 @@ namespace platform {
 namespace {
 
 constexpr const char* sandboxVariable = "QTWEBENGINE_DISABLE_SANDBOX";
+constexpr const char* quickVariable = "QT_QUICK_BACKEND";
 
 void registerDriveSchemes() {
     for (char letter = 'a'; letter <= 'z'; ++letter) {
@@ -64,6 +65,9 @@ void prepareProcess() {
     setUpSandbox();
     setEngineFlags();
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    // Qt Quick, which shows what the engine draws, then draws only what has changed.
+    if (!qEnvironmentVariableIsSet(quickVariable) && !hasGraphicsCard("/dev/"))
+        qputenv(quickVariable, "software");
     // The engine lists its graphics set-up at every start without a screen.
     QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext*=false"));
 }

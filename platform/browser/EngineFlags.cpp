@@ -1,6 +1,7 @@
 #include "platform/browser/EngineFlags.h"
 
 #include <QByteArray>
+#include <QDir>
 #include <algorithm>
 #include <iterator>
 #include <string_view>
@@ -44,6 +45,17 @@ void setEngineFlags() {
     if (platformName.startsWith("offscreen") || platformName.startsWith("minimal")) flags += " --disable-gpu";
     const QByteArray given = qgetenv(engineFlagsVariable);
     qputenv(engineFlagsVariable, given.isEmpty() ? flags : given + ' ' + flags);
+}
+
+bool hasGraphicsCard(const std::string& devices) {
+    const QDir folder(QString::fromStdString(devices));
+    const auto has = [](const QDir& in, const char* name) {
+        return !in.entryList({QLatin1String(name)}, QDir::System | QDir::AllEntries | QDir::NoDotAndDotDot)
+                    .isEmpty();
+    };
+    // Of the kernel's own drivers, of NVIDIA's, and of Windows around a virtual machine.
+    return has(QDir(folder.filePath(QStringLiteral("dri"))), "renderD*") || has(folder, "nvidia[0-9]*") ||
+           has(folder, "dxg");
 }
 
 void letEngineFind(const std::vector<std::string>& hosts) {
