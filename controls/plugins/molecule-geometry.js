@@ -44,6 +44,13 @@ class Camera {
     this.height = height;
   }
 
+  /// Takes over how another camera is turned and zoomed; false, and changes nothing, when that cannot be.
+  takeOver(turn, zoom) {
+    if (!isRotation(turn) || !(zoom >= Camera.minZoom && zoom <= Camera.maxZoom)) return false;
+    Object.assign(this, { turn, zoom });
+    return true;
+  }
+
   turnBy(sideways, upwards) { this.turn = multiply(multiply(aboutX(upwards), aboutY(sideways)), this.turn); }
 
   zoomBy(factor) { this.zoom = Math.min(Math.max(this.zoom * factor, Camera.minZoom), Camera.maxZoom); }
@@ -78,6 +85,14 @@ function centre(molecule) {
   molecule.reach = reach('ball');
   molecule.fullReach = reach('space');
   return molecule;
+}
+
+/// Whether these are rows of a rotation, however they came.
+function isRotation(m) {
+  const isVector = v => Array.isArray(v) && v.length === 3 && v.every(Number.isFinite);
+  if (!Array.isArray(m) || m.length !== 3 || !m.every(isVector)) return false;
+  const near = (value, wanted) => Math.abs(value - wanted) < 1e-3;
+  return m.every(row => near(dot(row, row), 1)) && near(dot(cross(m[0], m[1]), m[2]), 1);
 }
 
 // ---- measures ----

@@ -55,7 +55,7 @@ class Viewer {
 
   set(wanted) {
     const known = Object.entries(wanted).filter(([name, value]) =>
-      name === 'style' ? styles.includes(value) : typeof value === 'boolean' && name in this.state);
+      name === 'style' ? styles.includes(value) : typeof value === 'boolean' && Object.hasOwn(this.state, name));
     Object.assign(this.state, Object.fromEntries(known));
     if (wanted.spin) this.spin.begin();
     if (!this.state.measure) this.picked = [];
@@ -74,16 +74,17 @@ class Viewer {
     const elements = this.molecule.atoms.slice(0, 100).map(({ element }) => element).join(' ');
     const others = new BroadcastChannel(`molecule ${this.molecule.atoms.length} ${elements}`);
     others.onmessage = ({ data }) => {
-      if (data.ask) others.postMessage({ state: this.state, turn: this.camera.turn, zoom: this.camera.zoom });
-      else if (this.awaits) this.takeOver(data);
+      if (data?.ask) others.postMessage({ state: this.state, turn: this.camera.turn, zoom: this.camera.zoom });
+      else if (this.awaits && data?.state) this.takeOver(data);
     };
     this.awaits = true;
     others.postMessage({ ask: true });
   }
 
   takeOver({ state, turn, zoom }) {
+    // Any page can send on this channel.
+    if (typeof state !== 'object' || !this.camera.takeOver(turn, zoom)) return;
     this.awaits = false;
-    Object.assign(this.camera, { turn, zoom });
     this.set(state);
   }
 

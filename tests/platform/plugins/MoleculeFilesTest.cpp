@@ -160,6 +160,29 @@ TEST_F(MoleculeFiles, AreEnlargedWithTheWheel) {
     EXPECT_TRUE(runUntil([&] { return count(frame, isBlue) > before * 5 / 4; }));
 }
 
+// Two viewers of the same molecule talk on a channel that any page can send on.
+TEST_F(MoleculeFiles, AreNotSpoiltByWhatAPageSaysOnTheirChannel) {
+    for (const char* view :
+         {"{state: {}, turn: [[1e9, 0, 0], [0, 1, 0], [0, 0, 1]], zoom: 1}",
+          "{state: {}, turn: [[1, 0, 0], [0, 1, 0], [0, 0, 1]], zoom: NaN}",
+          "{state: {}, turn: [[1, 0, 0], [0, 1, 0], [0, 0, 1]], zoom: 1e9}",
+          "{state: {}, turn: 'x', zoom: 1}", "{state: {}}", "{state: 1, turn: [], zoom: 1}", "null",
+          "{state: {style: 'none', labels: 'x'}, turn: [[1, 0, 0], [0, 1, 0], [0, 0, 1]], zoom: 1}"}) {
+        write("D:\\a.mol", molFile);
+        write("D:\\a.htm",
+              "<BODY STYLE=\"margin:0\"><SCRIPT>const channel = new BroadcastChannel('molecule 3 C H N');"
+              "channel.onmessage = () => { channel.postMessage(" +
+                  std::string(view) +
+                  "); "
+                  "document.title = 'said'; };</SCRIPT><EMBED SRC=a.mol WIDTH=340 HEIGHT=290>");
+        open("D:\\a.htm");
+        ASSERT_TRUE(runUntil([&] { return title() == "said"; })) << view;
+        run(100);
+        EXPECT_GT(count(frame, isBlue), 500) << view;
+        EXPECT_LT(count(frame, isBlue), 10000) << view;
+    }
+}
+
 // What the controller's buttons say, here said by the page itself.
 TEST_F(MoleculeFiles, AreLabelledAndMeasured) {
     write("D:\\x.xyz", "2\n\nN 0 0 0\nN 1.9 0 0\n");
