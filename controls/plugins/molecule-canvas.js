@@ -41,7 +41,7 @@ function sticksOf(order) {
 class CanvasDrawing {
   constructor(molecule, background) {
     this.element = document.createElement('canvas');
-    this.context = this.element.getContext('2d');
+    this.context = this.element.getContext('2d', { alpha: false });
     this.molecule = molecule;
     this.background = background;
     this.isFlat = molecule.atoms.length > maxShaded;

@@ -1,14 +1,15 @@
 'use strict';
 
-// Reads molecule files. A molecule is {atoms, bonds}: an atom has `element`, `at` ([x, y, z] in ångström) and may have
-// `note` (where it belongs); a bond has `a`, `b` (indexes of atoms) and `order` (1, 2, 3; 4 is aromatic). Each reader
-// throws an Error when the file is not what it should be.
+// Reads molecule files. A molecule is {atoms, bonds, charge}: an atom has `element`, `at` ([x, y, z] in ångström) and may
+// have `note` (where it belongs) and `charge`; a bond has `a`, `b` (indexes of atoms) and `order` (1, 2, 3; 4 is aromatic);
+// the whole has the `charge` of its atoms together. Each reader throws an Error when the file is not what it should be.
 
 // A file may come from anywhere: these limits are checked before anything is computed.
 const maxAtoms = 200000;
 const maxBondsPerAtom = 12;
 const maxFileLength = 32 << 20;   // letters
 const maxCoordinate = 100000;     // ångström; what is farther away would be lost in drawing, or overflow
+const maxCharge = 99;             // of an atom, in either direction
 
 const linesOf = text => text.split(/\r\n|\r|\n/);
 const field = (line, from, to) => line.slice(from, to).trim();
@@ -25,6 +26,12 @@ function coordinate(text) {
   return value;
 }
 
+/// The charge that a text tells; 0 for one that tells none.
+function chargeIn(text) {
+  const charge = Number((text ?? '').trim());
+  return Number.isInteger(charge) && Math.abs(charge) <= maxCharge ? charge : 0;
+}
+
 function checkCounts(atoms, bonds) {
   if (atoms < 1 || atoms > maxAtoms || bonds < 0 || bonds > atoms * maxBondsPerAtom) throw new Error('no molecule');
 }
@@ -32,7 +39,7 @@ function checkCounts(atoms, bonds) {
 function checked({ atoms, bonds }) {
   checkCounts(atoms.length, bonds.length);
   for (const { a, b } of bonds) if (!atoms[a] || !atoms[b] || a === b) throw new Error('no such atom');
-  return { atoms, bonds };
+  return { atoms, bonds, charge: atoms.reduce((sum, atom) => sum + (atom.charge ?? 0), 0) };
 }
 
 // ---- MOL and SDF; of several molecules in a file the first ----
@@ -44,16 +51,33 @@ function readMol(text) {
   const atomCount = number(field(counts, 0, 3)), bondCount = number(field(counts, 3, 6));
   checkCounts(atomCount, bondCount);
   if (lines.length < 4 + atomCount + bondCount) throw new Error('cut short');
+  const charges = chargesIn(lines.slice(4 + atomCount + bondCount));
   return {
-    atoms: lines.slice(4, 4 + atomCount).map(line => ({
+    atoms: lines.slice(4, 4 + atomCount).map((line, i) => ({
       at: [field(line, 0, 10), field(line, 10, 20), field(line, 20, 30)].map(coordinate),
       element: symbolOf(field(line, 31, 34)) || field(line, 31, 34),
+      charge: charges.size > 0 ? charges.get(i) ?? 0 : chargeOfCode(field(line, 36, 39)),
     })),
     bonds: lines.slice(4 + atomCount, 4 + atomCount + bondCount).map(line => {
       const [a, b, order] = [field(line, 0, 3), field(line, 3, 6), field(line, 6, 9)].map(number);
       return { a: a - 1, b: b - 1, order };
     }),
   };
+}
+
+/// The charge by the code in an atom's own line, which older files have: 3 is +1, 5 is −1; 0 and 4 are none.
+const chargeOfCode = code => /^[1-7]$/.test(code) ? 4 - Number(code) : 0;
+
+/// The charges of atoms, by their indexes, in the lines of properties behind the bonds of the first molecule.
+function chargesIn(lines) {
+  const charges = new Map();
+  for (const line of lines) {
+    if (line.startsWith('M  END')) break;
+    if (!line.startsWith('M  CHG')) continue;
+    const words = line.slice(9).trim().split(/\s+/);
+    for (let i = 0; i + 1 < words.length; i += 2) charges.set(Number(words[i]) - 1, chargeIn(words[i + 1]));
+  }
+  return charges;
 }
 
 function readV3000(lines) {
@@ -68,7 +92,8 @@ function readV3000(lines) {
     else if (block === 'ATOM') {
       if (words.length < 5) throw new Error('cut short');
       indexes.set(words[0], atoms.length);
-      atoms.push({ element: symbolOf(words[1]) || words[1], at: words.slice(2, 5).map(coordinate) });
+      const charge = chargeIn(words.find(word => word.startsWith('CHG='))?.slice(4));
+      atoms.push({ element: symbolOf(words[1]) || words[1], at: words.slice(2, 5).map(coordinate), charge });
     } else if (block === 'BOND') {
       bonds.push({ a: indexes.get(words[2]), b: indexes.get(words[3]), order: number(words[1]) });
     }
@@ -155,6 +180,7 @@ function readPdb(text) {
       if (!element) throw new Error('no element');
       atoms.push({
         element, at: [field(line, 30, 38), field(line, 38, 46), field(line, 46, 54)].map(coordinate),
+        charge: chargeIn(field(line, 78, 80).replace(/^(\d)([+-])$/, '$2$1')),
         note: [field(line, 17, 20), field(line, 22, 26)].filter(word => word).join(' '),
       });
     }
@@ -180,6 +206,7 @@ function readCml(text) {
       element: symbolOf(atom.getAttribute('elementType') ?? ''),
       at: flat ? [coordinate(atom.getAttribute('x2')), coordinate(atom.getAttribute('y2')), 0]
                : ['x3', 'y3', 'z3'].map(name => coordinate(atom.getAttribute(name))),
+      charge: chargeIn(atom.getAttribute('formalCharge')),
     };
   });
   const orders = { 1: 1, 2: 2, 3: 3, S: 1, D: 2, T: 3, A: 4 };

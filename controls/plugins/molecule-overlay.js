@@ -6,6 +6,12 @@ const maxLabels = 150;
 const overlayFont = '"Liberation Sans", Arial, sans-serif';
 const measureColour = '#ffd84a';
 
+// The brackets around an ion, in pixels.
+const bracketGap = 8;
+const bracketHook = 9;
+const chargeWidth = 40;    // room for the charge beside them
+const legendHeight = 26;
+
 const isLight = colour => { const [r, g, b] = channels(colour); return 0.3 * r + 0.59 * g + 0.11 * b > 140; };
 const withComma = (value, digits) => value.toFixed(digits).replace('.', ',');
 
@@ -14,6 +20,9 @@ function measureOf(atoms) {
   if (atoms.length === 2) return withComma(distanceOf(atoms) / 10, 3) + ' nm';
   return atoms.length === 3 ? withComma(angleOf(atoms), 1) + '°' : undefined;
 }
+
+/// A charge as formulas have it: "+", "2−".
+const chargeText = charge => (Math.abs(charge) === 1 ? '' : Math.abs(charge)) + (charge > 0 ? '+' : '−');
 
 /// What to do next in order to measure, behind so many chosen atoms.
 const measureHints = ['Διάλεξε δύο άτομα για την απόστασή τους.', 'Διάλεξε ένα δεύτερο άτομο.',
@@ -36,14 +45,21 @@ class Overlay {
     this.element.width = Math.round(width * ratio);
     this.element.height = Math.round(height * ratio);
     this.ratio = ratio;
+    this.drawn = undefined;
   }
 
   /// `labels`: whether atoms are labelled; `measure`: whether they are measured; `picked`: the atoms chosen for that.
   draw(camera, { isShown, labels, measure, picked }) {
+    // What does not turn with the molecule is drawn once; it costs as much as the molecule.
+    const still = labels || picked.length > 0 ? undefined : [measure, this.elements.filter(element => isShown({ element })),
+                                                             this.molecule.charge && this.edges(camera)].join();
+    if (still !== undefined && still === this.drawn) return;
+    this.drawn = still;
     const c = this.context;
     c.setTransform(this.ratio, 0, 0, this.ratio, 0, 0);
     c.clearRect(0, 0, camera.width, camera.height);
     c.textBaseline = 'middle';
+    if (this.molecule.charge) this.brackets(camera);
     if (labels) this.labels(camera, isShown);
     this.measures(camera, picked);
     if (measure) this.hint(camera, measureHints[picked.length]);
@@ -58,6 +74,33 @@ class Overlay {
     c.strokeText(text, x, y);
     c.fillStyle = colour;
     c.fillText(text, x, y);
+  }
+
+  /// Where the brackets around an ion stand: left, right, upper and lower edge.
+  edges(camera) {
+    const reach = camera.reach * camera.lens / camera.distance + bracketGap;
+    const [x, y] = [camera.width / 2, camera.height / 2];
+    return [Math.max(x - reach, bracketGap), Math.min(x + reach, camera.width - chargeWidth),
+            Math.max(y - reach, bracketGap), Math.min(y + reach, camera.height - legendHeight)].map(Math.round);
+  }
+
+  /// Square brackets around an ion, with its charge at the upper right.
+  brackets(camera) {
+    const c = this.context;
+    const [left, right, top, bottom] = this.edges(camera);
+    c.strokeStyle = this.ink;
+    c.lineWidth = 2;
+    c.beginPath();
+    for (const [edge, inwards] of [[left, 1], [right, -1]]) {
+      c.moveTo(edge + inwards * bracketHook, top);
+      c.lineTo(edge, top);
+      c.lineTo(edge, bottom);
+      c.lineTo(edge + inwards * bracketHook, bottom);
+    }
+    c.stroke();
+    c.font = 'bold 18px ' + overlayFont;
+    c.textAlign = 'left';
+    this.text(chargeText(this.molecule.charge), right + 5, top + 6, this.ink);
   }
 
   labels(camera, isShown) {

@@ -96,7 +96,8 @@ class Viewer {
     // What it is to screen readers leaves it its keys.
     pad.setAttribute('role', 'application');
     pad.setAttribute('aria-label', 'Τρισδιάστατο μοντέλο του μορίου. Βέλη για περιστροφή, + και − για μεγέθυνση, Home για ' +
-                                   'επαναφορά, διάστημα για το επόμενο άτομο, Enter για μέτρηση.');
+                                   'επαναφορά, διάστημα για το επόμενο άτομο, Enter για μέτρηση.' +
+                     (this.molecule.charge ? ` Είναι ιόν με φορτίο ${chargeText(this.molecule.charge)}.` : ''));
     pad.addEventListener('pointerdown', event => this.pressed(event));
     pad.addEventListener('pointermove', event => this.moved(event));
     pad.addEventListener('pointerup', event => this.released(event));

@@ -160,6 +160,45 @@ TEST_F(MoleculeFiles, AreEnlargedWithTheWheel) {
     EXPECT_TRUE(runUntil([&] { return count(frame, isBlue) > before * 5 / 4; }));
 }
 
+// An ion, in each way in which a file tells charges; what they add up to stands at the upper right of
+// brackets around it.
+TEST_F(MoleculeFiles, OfIonsTellTheirCharge) {
+    const std::string head = "\n\n\n  2  1\n";
+    const std::string atom = "    0.0000    0.0000    0.0000 N   0  ";
+    const std::string other = "    1.2000    0.0000    0.0000 C   0  ";
+    const std::string bond = "  1  2  3\n";
+    const std::string xml =
+        R"(<molecule><atom id="a" elementType="N" x3="0" y3="0" z3="0" formalCharge="-1"/></molecule>)";
+    struct Ion {
+        Case file;
+        bool isCharged;
+    };
+    const std::vector<Ion> ions = {
+        {{"a.mol", head + atom + "0\n" + other + "0\n" + bond + "M  CHG  1   2  -1\nM  END\n"}, true},
+        {{"b.mol", head + atom + "0\n" + other + "0\n" + bond + "M  CHG  2   1   1   2  -1\nM  END\n"},
+         false},
+        {{"c.mol", head + atom + "0\n" + other + "5\n" + bond + "M  END\n"}, true},
+        {{"d.mol", head + atom + "0\n" + other + "5\n" + bond + "M  CHG  2   1   1   2  -1\nM  END\n"},
+         false},
+        {{"e.mol", head + atom + "0\n" + other + "0\n" + bond + "M  CHG  1   2   x\nM  END\n"}, false},
+        {{"f.sdf", head + atom + "0\n" + other + "0\n" + bond + "M  END\n$$$$\nM  CHG  1   2  -1\n"}, false},
+        {{"g.mol",
+          "\n\n\n  0  0  0     0  0            999 V3000\nM  V30 BEGIN ATOM\nM  V30 1 N 0 0 0 0 CHG=1\nM  "
+          "V30 END ATOM\nM  END\n"},
+         true},
+        {{"h.pdb", "HETATM    1  N   NH4 A   1       0.000   0.000   0.000  1.00  0.00           N1+\n"},
+         true},
+        {{"i.cml", xml}, true}};
+    const QColor ink(0xe8, 0xee, 0xf5);
+    const CRect right = CRect::at(240, 0, 100, 240);
+    for (const auto& [file, isCharged] : ions) {
+        show(file);
+        ASSERT_TRUE(runUntil([&] { return count(frame, isBlue) > 500; })) << file.name;
+        run(100);
+        EXPECT_EQ(count(right, ink) > 100, isCharged) << file.name << ' ' << count(right, ink);
+    }
+}
+
 // Two viewers of the same molecule talk on a channel that any page can send on.
 TEST_F(MoleculeFiles, AreNotSpoiltByWhatAPageSaysOnTheirChannel) {
     for (const char* view :
