@@ -9,9 +9,9 @@ import sys
 import threading
 from pathlib import Path
 
+from desktop import Desktop
 from machine import Machine
 
-PATIENCE = 60  # seconds for the answer to one command
 # What the program logs of pages; all else on its standard error is of the machine.
 FAULT = re.compile(r"platform\.browser\S*: |Not found: |Refused: |\.htm:\d+: |\.js:\d+: ")
 # To these the section bar leads.
@@ -49,14 +49,12 @@ class Program:
         self.machine.environment["QT_MESSAGE_PATTERN"] = "%{category}: %{message}"
         self.machine.make()
         self.faults, self.page = 0, "start"
-        self.driver = subprocess.Popen([driver, "--machine", self.machine.folder], env=self.machine.environment,
-                                       stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
-                                       encoding="utf-8", errors="replace")
+        self.driver = Desktop(self.machine, stderr=subprocess.PIPE)
         self.listener = threading.Thread(target=self.listen)
         self.listener.start()
 
     def listen(self):
-        for line in self.driver.stderr:
+        for line in self.driver.process.stderr:
             if FAULT.search(line):
                 self.fault(line.strip())
 
@@ -66,14 +64,10 @@ class Program:
 
     def ask(self, line):
         """The answer to a command; a fault and nothing when there is none."""
-        limit = threading.Timer(PATIENCE, self.driver.kill)
-        limit.start()
         try:
-            print(line, file=self.driver.stdin, flush=True)
-            answer = json.loads(self.driver.stdout.readline() or "{}")
-        except (BrokenPipeError, json.JSONDecodeError):
+            answer = json.loads(self.driver.ask(line) or "{}")
+        except json.JSONDecodeError:
             answer = {}
-        limit.cancel()
         if not answer.get("ok"):
             self.fault(f"{line}: {answer.get('error', 'no answer')}")
         return answer
@@ -90,12 +84,11 @@ class Program:
                 self.fault(json.dumps(event, ensure_ascii=False))
 
     def end(self):
-        self.driver.stdin.close()
+        status = self.driver.end()
         self.listener.join()
-        self.driver.wait()
         self.page = "end"
-        if self.driver.returncode != 0:
-            self.fault(f"the program ended with {self.driver.returncode}")
+        if status != 0:
+            self.fault(f"the program ended with {status}")
         self.machine.remove()
 
 

@@ -2,16 +2,13 @@
 wrong arguments."""
 
 import json
-import subprocess
 import sys
-import threading
 from pathlib import Path
 
+from desktop import Desktop
 from form import parse_scenario, with_values
 from fragment import difference, find_somewhere
 from machine import Machine, Problem, demand
-
-PATIENCE = 60  # seconds for the answer to one command
 
 
 class Broken(Problem):
@@ -22,7 +19,7 @@ class Run:
     """Carries a scenario out and reports each check that fails."""
 
     def __init__(self, driver, content, name):
-        self.driver_file, self.name = driver, name
+        self.name = name
         self.machine = Machine(driver, content)
         self.driver = None
         self.answer = {}
@@ -43,8 +40,8 @@ class Run:
             self.fail(problem)
         finally:
             if self.driver:
-                self.driver.kill()
-                self.driver.communicate()
+                self.driver.process.kill()
+                self.driver.end()
             self.machine.remove()
         return not self.failed
 
@@ -74,7 +71,7 @@ class Run:
         self.finish_command()
         if self.driver is None:
             self.start_driver()
-        line = self.ask(with_values(step.what, self.captures))
+        line = self.driver.ask(with_values(step.what, self.captures))
         try:
             self.answer = json.loads(line)
         except json.JSONDecodeError:
@@ -114,35 +111,21 @@ class Run:
         self.machine.check(step.what, step.words[0], step.value)
 
     def has_loaded(self, library):
-        return f"/{library}" in Path(f"/proc/{self.driver.pid}/maps").read_text(encoding="utf-8")
+        return f"/{library}" in Path(f"/proc/{self.driver.process.pid}/maps").read_text(encoding="utf-8")
 
     def start_driver(self):
         try:
             self.machine.make()
         except Problem as problem:
             raise Broken(problem) from problem
-        self.driver = subprocess.Popen([self.driver_file, "--machine", self.machine.folder, *self.machine.arguments], cwd=self.machine.folder,
-                                       env=self.machine.environment, stdin=subprocess.PIPE, stdout=subprocess.PIPE, encoding="utf-8")
-
-    def ask(self, line):
-        """The answer to a line; empty when the driver ends or takes too long."""
-        limit = threading.Timer(PATIENCE, self.driver.kill)
-        limit.start()
-        try:
-            print(line, file=self.driver.stdin, flush=True)
-            return self.driver.stdout.readline()
-        except BrokenPipeError:
-            return ""
-        finally:
-            limit.cancel()
+        self.driver = Desktop(self.machine)
 
     def end_driver(self, where):
         driver, self.driver = self.driver, None
         if driver is None:
             return
-        driver.communicate()
-        if driver.returncode != 0:
-            self.fail(f"{where}: the driver ended with {driver.returncode}")
+        if (status := driver.end()) != 0:
+            self.fail(f"{where}: the driver ended with {status}")
 
 
 def main(arguments):
