@@ -14,6 +14,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr std::string_view temporaryEnding = ".tmp";
+
 /// A file beside the one it is to replace; goes away unless it is put in that one's place.
 class Replacement {
   public:
@@ -83,6 +85,15 @@ bool replaceFile(const FileSystem& files, std::string_view dosPath, std::string_
 bool copyFileOver(const fs::path& from, const fs::path& to) {
     FileHandle source = FileHandle::openForReading(from);
     return source && copyFileOver(source, to);
+}
+
+void deleteHalves(const fs::path& folder, std::string_view start) {
+    std::error_code error;
+    for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
+        const std::string name = at->path().filename().string();
+        std::error_code ignored;
+        if (name.starts_with(start) && name.ends_with(temporaryEnding)) fs::remove(at->path(), ignored);
+    }
 }
 
 bool copyFileOver(FileHandle& from, const fs::path& to) {

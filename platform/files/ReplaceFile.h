@@ -7,9 +7,6 @@
 
 namespace platform {
 
-/// What the names of the temporary files below end in. One stays when the process is ended by force.
-inline constexpr std::string_view temporaryEnding = ".tmp";
-
 /// Gives a file the new content all at once: a temporary file beside it is written, forced to the medium and
 /// renamed over it, so that a crash or a full disk leaves the old file or the new one, never a part. Creates
 /// a missing file. Returns false, with the old file as it was, when any of that fails or the file is
@@ -25,5 +22,10 @@ bool copyFileOver(const std::filesystem::path& from, const std::filesystem::path
 
 /// The same for what is left to read of an open file.
 bool copyFileOver(FileHandle& from, const std::filesystem::path& to);
+
+/// Deletes the temporary files that stay in a folder when a process is ended by force in one of the functions
+/// above: those that were to replace a file whose name begins with `start`. No other process may replace such
+/// a file meanwhile.
+void deleteHalves(const std::filesystem::path& folder, std::string_view start = {});
 
 }  // namespace platform

@@ -7,6 +7,7 @@
 #include <thread>
 
 #include "platform/files/FolderLock.h"
+#include "platform/files/ReplaceFile.h"
 #include "platform/registry/RegFile.h"
 #include "platform/registry/RegistryChanges.h"
 
@@ -101,6 +102,7 @@ std::uint64_t Machine::milliseconds() {
 bool Machine::flushRegistry() {
     const fs::path file = folder_ / registryName;
     const auto lock = FolderLock::wait(folder_);
+    deleteHalves(folder_);
     const auto present = loadRegFile(file);
     RegistryNode tree = copyOf(present ? present->tree() : registry_.tree());
     carryOverChanges(written_, registry_.tree(), tree);

@@ -3,6 +3,7 @@
 #include <array>
 #include <new>
 #include <span>
+#include <system_error>
 #include <utility>
 
 #include "platform/base/Archive.h"
@@ -114,6 +115,7 @@ BookmarkLoad BookmarkFile::Load(BookmarkList& list) {
 BookmarkSave BookmarkFile::Save(const BookmarkArray& records) const {
     const auto lock = platform::FolderLock::wait(m_lockFolder);
     CreatePathFolders(m_files, m_path);
+    deleteHalfFiles();
     std::string bytes = WriteBookmarks(records);
     FileOnDisk present = readFile(m_files, m_path);
     if (present.records) {
@@ -122,6 +124,8 @@ BookmarkSave BookmarkFile::Save(const BookmarkArray& records) const {
     } else if (present.exists) {
         keepDamaged();
     }
+    // A new file appears whole: after an end by force before its first byte it would count as damaged.
+    if (isNew() && platform::replaceFile(m_files, m_path, bytes)) return BookmarkSave::saved;
     FileHandle file = m_files.openForWriting(m_path);
     if (!file) return BookmarkSave::notCreated;
     const bool written = file.write(bytes.data(), bytes.size());
@@ -135,6 +139,20 @@ std::string BookmarkFile::mergedBytes(BookmarkArray theirs, const std::string& o
     if (!before) before = DefaultBookmarks();
     const BookmarkArray merged = MergeBookmarks(*before, std::move(theirs), std::move(*records));
     return merged.empty() ? ours : WriteBookmarks(merged);
+}
+
+/// Those of a program that was ended by force.
+void BookmarkFile::deleteHalfFiles() const {
+    if (const auto native = m_files.nativePath(m_path))
+        platform::deleteHalves(native->parent_path(), native->filename().string());
+}
+
+/// Nothing has its name, not even a link that leads nowhere.
+bool BookmarkFile::isNew() const {
+    const auto native = m_files.nativePath(m_path);
+    std::error_code ignored;
+    return native &&
+           std::filesystem::symlink_status(*native, ignored).type() == std::filesystem::file_type::not_found;
 }
 
 void BookmarkFile::keepCopy(const std::string& bytes) const {

@@ -48,6 +48,8 @@ class BookmarkFile {
 
   private:
     std::string mergedBytes(BookmarkArray theirs, const std::string& ours) const;
+    void deleteHalfFiles() const;
+    bool isNew() const;
     void keepCopy(const std::string& bytes) const;
     void keepDamaged() const;
     std::string firstName(std::string_view ending,

@@ -107,6 +107,7 @@ bool updateModules(Machine& machine, const Options& options, const ProgressStep&
     const auto target = machine.files().nativePath(options.modulesTo);
     if (!target) return true;
     const auto installed = platform::modulesIn(options.modulesFrom).value_or(std::vector<fs::path>());
+    platform::deleteHalves(*target);
     std::uint64_t done = 0;
     for (const fs::path& module : installed) {
         if (!platform::GoesOn(step, done++, installed.size())) return false;

@@ -38,20 +38,12 @@ void PageCache::Open(CacheLocation location) {
 bool PageCache::take(const CacheLocation& location) {
     const std::string folder = withoutLastBackslash(location.folder);
     m_files.createFolder(folder);
-    if (const auto native = m_files.nativePath(folder)) m_lock = platform::FolderLock::tryNow(*native);
+    const auto native = m_files.nativePath(folder);
+    if (native) m_lock = platform::FolderLock::tryNow(*native);
     if (!m_lock) return false;
     m_location = location;
-    deleteHalves();
+    platform::deleteHalves(*native);
     return true;
-}
-
-/// Copies that a former program had not finished when it was ended by force. No other uses the folder now.
-void PageCache::deleteHalves() const {
-    const auto entries = m_files.listFolder(m_location.folder);
-    for (const auto& entry : entries ? *entries : std::vector<platform::FolderEntry>()) {
-        if (entry.name.ends_with(platform::temporaryEnding))
-            m_files.deleteFile(m_location.folder + entry.name);
-    }
 }
 
 std::string PageCache::NextTarget() { return numbered(m_nNext++); }

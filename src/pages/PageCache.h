@@ -29,8 +29,8 @@ class PageCache {
     explicit PageCache(const platform::FileSystem& files) : m_files(files) {}
 
     /// Creates the folder; a failure shows with the first page. What a former program left half written there
-    /// goes. While another program uses the folder, this
-    /// one uses a folder with a number behind the name, which is removed at the end.
+    /// goes. While another program uses the folder, this one uses a folder with a number behind the name,
+    /// which is removed at the end.
     void Open(CacheLocation location);
 
     const std::string& Folder() const { return m_location.folder; }
@@ -48,7 +48,6 @@ class PageCache {
   private:
     /// Makes it the cache folder unless another program has it.
     bool take(const CacheLocation& location);
-    void deleteHalves() const;
     std::string numbered(int number) const;
     std::string redirectPath() const;
     void deletePagesBelow(int limit);

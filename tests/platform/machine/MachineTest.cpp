@@ -80,8 +80,11 @@ TEST(Machine, ARegistryFileThatIsGoneOrDamagedIsWrittenAnew) {
     ASSERT_TRUE(computer->flushRegistry());
     EXPECT_EQ(folder.read("registry.reg"), whole);
     folder.write("registry.reg", "damaged");
+    const std::string ofKilledProgram = "registry.reg.4711-0.tmp";
+    folder.write(ofKilledProgram, "x");
     ASSERT_TRUE(computer->flushRegistry());
     EXPECT_EQ(folder.read("registry.reg"), whole);
+    EXPECT_FALSE(std::filesystem::exists(folder / ofKilledProgram));
 }
 
 TEST(Machine, LibrariesAreSearchedInTheProgramFolderFirst) {

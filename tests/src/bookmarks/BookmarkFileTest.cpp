@@ -233,8 +233,10 @@ TEST_F(BookmarksOnDisk, OnlyWholeFilesBecomeTheCopy) {
         {"half", half, fileOfAllClasses, fileOfAllClasses, fileOfAllClasses, half, none},
         {"half once more", half, fileOfAllClasses, fileOfAllClasses, fileOfAllClasses, half, half},
     };
+    const std::string ofKilledProgram = "C:\\b.dat.bak.4711-0.tmp";
     for (const Case& row : cases) {
         drives_.put("C:\\b.dat", row.file);
+        drives_.put(ofKilledProgram, "x");
         if (!row.bak.empty()) drives_.put("C:\\b.dat.bak", row.bak);
         Run run(drives_);
         run.load();
@@ -243,6 +245,7 @@ TEST_F(BookmarksOnDisk, OnlyWholeFilesBecomeTheCopy) {
         EXPECT_EQ(drives_.get("C:\\b.dat.bak2"), row.secondCopy) << row.what;
         EXPECT_EQ(drives_.get("C:\\b.dat.damaged"), row.damaged) << row.what;
         EXPECT_EQ(drives_.get("C:\\b.dat.damaged2"), row.moreDamaged) << row.what;
+        EXPECT_FALSE(drives_.has(ofKilledProgram)) << row.what;
     }
 }
 

@@ -79,11 +79,14 @@ TEST_F(OwnMachine, MakingThatWasBrokenOffIsTakenUpAgain) {
         ASSERT_TRUE(open());
         fs::remove(root_ / missing);
         fs::remove(root_ / copiedModule);
+        const std::string half = copiedModule + std::string(".4711-0.tmp");
+        root_.write(half, "x");
         const auto opened = open();
         ASSERT_TRUE(opened) << opened.message();
         EXPECT_TRUE((*opened)->registry().openKey(platform::HKEY_LOCAL_MACHINE, SettingsKeyPath()));
         EXPECT_TRUE((*opened)->files().exists("D:\\a.htm")) << missing;
         EXPECT_EQ(root_.read(copiedModule), "version one");
+        EXPECT_FALSE(fs::exists(root_ / half));
     }
 }
 
