@@ -54,7 +54,8 @@ bool BrowserPolicy::allowsFile(std::string_view canonicalPath) const {
 
 void BrowserPolicy::logRefusal(const PageRequest& request) {
     const std::string asker = request.kind == RequestKind::program ? "the program" : shown(request.page);
-    const std::string line = shown(request.address) + ", asked for by " + asker;
+    const std::string line = shown(request.address) + ", asked for by " + asker + ", since " +
+                             std::string(policy_->whyRefused(request));
     if (logged_.size() >= maxLogged || !logged_.insert(line).second) return;
     qCWarning(browserLog, "Refused: %s", line.c_str());
     if (logged_.size() == maxLogged) qCWarning(browserLog, "Further refusals are not shown.");

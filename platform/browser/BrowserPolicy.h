@@ -27,7 +27,8 @@ class BrowserPolicy {
     /// finds no other host from then on.
     void setAllowedHosts(const std::vector<std::string>& hosts);
 
-    /// See RequestPolicy::allows; a refusal is logged once under the category `platform.browser`.
+    /// See RequestPolicy::allows; a refusal is logged once, with its reason, under the category
+    /// `platform.browser`.
     bool admit(const PageRequest& request);
 
     /// See RequestPolicy::allowsFile.

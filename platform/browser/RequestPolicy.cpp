@@ -35,16 +35,21 @@ bool RequestPolicy::allowsHost(const QUrl& url) const {
     return !host.empty() && std::ranges::find(hosts_, host) != hosts_.end();
 }
 
-bool RequestPolicy::allows(const PageRequest& request) const {
+std::string_view RequestPolicy::whyRefused(const PageRequest& request) const {
+    constexpr std::string_view strangePage = "the page that asks comes from elsewhere";
     const QUrl& address = request.address;
-    if (address == emptyPage()) return true;
     const bool isProgram = request.kind == RequestKind::program;
-    if (isProgram) return isInlineData(address) || allowsFile(address) || allowsHost(address);
+    if (address == emptyPage()) return {};
     if (isInlineData(address)) {
-        return request.kind == RequestKind::part && (allowsFile(request.page) || allowsHost(request.page));
+        if (isProgram) return {};
+        if (request.kind != RequestKind::part) return "inline data may only be a part of a page";
+        return allowsFile(request.page) || allowsHost(request.page) ? std::string_view() : strangePage;
     }
-    return (allowsFile(address) && allowsFile(request.page)) ||
-           (allowsHost(address) && allowsHost(request.page));
+    const bool isFile = allowsFile(address);
+    if (!isFile && !allowsHost(address))
+        return isOnline(address) ? "its host is not allowed" : "it is in no allowed folder";
+    const bool mayAsk = isProgram || (isFile ? allowsFile(request.page) : allowsHost(request.page));
+    return mayAsk ? std::string_view() : strangePage;
 }
 
 }  // namespace platform

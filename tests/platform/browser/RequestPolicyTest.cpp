@@ -106,6 +106,19 @@ TEST(RequestPolicy, AllowsWhatContentNeedsAndNothingElse) {
     }
 }
 
+TEST(RequestPolicy, SaysWhyItRefuses) {
+    RequestPolicy policy;
+    policy.setAllowedFolders({"D:\\"});
+    policy.setAllowedHosts({"orvane.example"});
+    const auto why = [&policy](RequestKind kind, const char* page, const char* address) {
+        return policy.whyRefused({kind, QUrl(page), QUrl(address)});
+    };
+    EXPECT_EQ(why(part, "d:/a.htm", "z:/b.gif"), "it is in no allowed folder");
+    EXPECT_EQ(why(program, "", "https://other.example/"), "its host is not allowed");
+    EXPECT_EQ(why(part, "z:/a.htm", "d:/b.gif"), "the page that asks comes from elsewhere");
+    EXPECT_EQ(why(mainPage, "d:/a.htm", "data:text/html,x"), "inline data may only be a part of a page");
+}
+
 TEST(RequestPolicy, AllowsNothingBeforeItIsTold) {
     RequestPolicy policy;
     // As when the data folder has no name.
@@ -130,7 +143,8 @@ TEST(BrowserPolicy, LogsEachRefusalOnceAndNotMoreThanSomeHundred) {
     };
     for (int i = 0; i < 3; ++i) refuse(QStringLiteral("z:/once.txt"));
     EXPECT_EQ(std::ranges::count(refusals, QStringLiteral("Refused: Z:\\once.txt, asked for by "
-                                                          "C:\\Kalyxo\\cache\\1.htm")),
+                                                          "C:\\Kalyxo\\cache\\1.htm, since it is in no "
+                                                          "allowed folder")),
               1);
     for (int i = 0; i < 1000; ++i) refuse(QStringLiteral("z:/%1.txt").arg(i));
     qInstallMessageHandler(before);
