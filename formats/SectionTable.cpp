@@ -1,5 +1,6 @@
 #include "formats/SectionTable.h"
 
+#include <algorithm>
 #include <array>
 
 #include "platform/text/GreekLiteral.h"
@@ -35,6 +36,12 @@ const Section* sectionByKey(std::string_view key) {
         if (section.key == key) return &section;
     }
     return nullptr;
+}
+
+bool isStartPage(std::int32_t pageId) {
+    constexpr std::int32_t startPageStep = 10'000;
+    return pageId % startPageStep == 0 ||
+           std::ranges::find(sectionRows, pageId, &Section::startPage) != sectionRows.end();
 }
 
 }  // namespace formats

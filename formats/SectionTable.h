@@ -27,4 +27,8 @@ const Section* sectionByCode(std::int16_t code);
 /// The section with this key, null when there is none; compared byte by byte.
 const Section* sectionByKey(std::string_view key);
 
+/// Whether a page counts as a start page: the start page of a section, or a page whose number is a multiple
+/// of 10000. The program opens such a page itself when it returns to it, without asking the browse selection.
+bool isStartPage(std::int32_t pageId);
+
 }  // namespace formats

@@ -1,22 +1,8 @@
 #include "src/view/Navigator.h"
 
-#include <algorithm>
-
 #include "formats/SectionTable.h"
 
 namespace kalyxo {
-
-namespace {
-
-/// Whether a page is opened at once when its place is shown again, without the browse selection. Not all
-/// start pages are multiples of 10000, and not all of these are start pages.
-bool isStartPage(std::int32_t pageId) {
-    const auto sections = formats::sectionTable();
-    return pageId % 10000 == 0 ||
-           std::ranges::find(sections, pageId, &formats::Section::startPage) != sections.end();
-}
-
-}  // namespace
 
 void Navigator::OpenSection(std::int16_t sectionCode, std::int32_t pageNumber) {
     const bool needLayout = m_host.EnterPageMode(sectionCode);
@@ -39,7 +25,7 @@ void Navigator::OpenPage(std::int32_t pageNumber) {
 
 void Navigator::OpenPlace(const PageAddress& place) {
     m_address = place;
-    if (isStartPage(place.pageId)) {
+    if (formats::isStartPage(place.pageId)) {
         OpenSection(place.sectionCode, place.pageId);
     } else {
         OpenTopic(place);
@@ -70,20 +56,20 @@ void Navigator::RecordHistory(const PageAddress& place) {
 
 void Navigator::GoBack() {
     keepScrolled();
-    if (m_history.StepBack()) ReplayHistory();
+    if (m_history.StepBack()) replayHistory();
 }
 
 void Navigator::GoForward() {
     keepScrolled();
-    if (m_history.StepForward()) ReplayHistory();
+    if (m_history.StepForward()) replayHistory();
 }
 
 void Navigator::ShowAgain() {
     keepScrolled();
-    ReplayHistory();
+    replayHistory();
 }
 
-void Navigator::ReplayHistory() {
+void Navigator::replayHistory() {
     const History::Replay replay(m_history);
     const PageAddress place = m_history.Current();
     if (place.sectionCode == kPeriodicTableCode) {

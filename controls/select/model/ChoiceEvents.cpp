@@ -1,28 +1,17 @@
 #include "controls/select/model/ChoiceEvents.h"
 
-#include <algorithm>
-
 #include "formats/SectionTable.h"
 
 namespace controls::select {
 
 namespace {
 
-constexpr std::int32_t startPageStep = 10'000;
-
 // A start page is always answered by its own id, because the host has already opened it under that number.
 std::int32_t pageNumberOf(std::int32_t pageId, const formats::BrowseTopic* topic) {
-    return topic && !isStartPage(pageId) ? topic->pageNumber : pageId;
+    return topic && !formats::isStartPage(pageId) ? topic->pageNumber : pageId;
 }
 
 }  // namespace
-
-bool isStartPage(std::int32_t pageId) {
-    return pageId % startPageStep == 0 ||
-           std::ranges::any_of(formats::sectionTable(), [pageId](const formats::Section& section) {
-               return section.startPage == pageId;
-           });
-}
 
 ChoiceEvents answerTo(const Place& asked, const formats::BrowseSection* section) {
     if (asked.itemCode > 0) return {ItemChosen{asked.itemCode}};
@@ -37,7 +26,7 @@ ChoiceEvents choiceOf(const formats::BrowseTopic& topic) {
 
 ChoiceEvents choiceOf(const formats::BrowseTopic& topic, const formats::BrowseEntry& entry,
                       const Place& shown) {
-    if (isStartPage(topic.pageId)) return {PageChosen{entry.itemCode, entry.itemCode}};
+    if (formats::isStartPage(topic.pageId)) return {PageChosen{entry.itemCode, entry.itemCode}};
     ChoiceEvents events;
     if (shown.pageId != topic.pageId) events = choiceOf(topic);
     events.emplace_back(ItemChosen{entry.itemCode});

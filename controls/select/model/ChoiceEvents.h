@@ -28,10 +28,6 @@ struct ItemChosen {
 using ChoiceEvent = std::variant<PageChosen, ItemChosen>;
 using ChoiceEvents = std::vector<ChoiceEvent>;
 
-/// Whether a page is the start page of a section or a multiple of 10000. When the host returns to such a
-/// page, it opens the page itself and does not ask for an entry.
-bool isStartPage(std::int32_t pageId);
-
 /// The answer to a host that asks for a place. The section need not have the place, and may be null. Empty
 /// when the place names no page.
 ChoiceEvents answerTo(const Place& asked, const formats::BrowseSection* section);
