@@ -21,7 +21,6 @@
 #include "platform/machine/Machine.h"
 #include "platform/qt/QtChild.h"
 #include "platform/qt/QtConvert.h"
-#include "platform/text/CodePage1253.h"
 
 namespace platform {
 
@@ -71,8 +70,6 @@ class Document : public Dispatch {
 void record(TraceEntry entry) {
     if (hasMachine()) machine().trace().record(std::move(entry));
 }
-
-std::string toText(const QString& unicode) { return fromUtf8(unicode.toStdString()); }
 
 }  // namespace
 
@@ -197,11 +194,11 @@ int WebBrowserComponent::controlId() const {
 
 std::string WebBrowserComponent::url() const { return page_ ? addressOfUrl(page_->url()) : std::string(); }
 
-std::string WebBrowserComponent::title() const { return page_ ? toText(page_->title()) : std::string(); }
+std::string WebBrowserComponent::title() const { return page_ ? fromQt(page_->title()) : std::string(); }
 
-std::string WebBrowserComponent::text() { return toText(textOf(page())); }
+std::string WebBrowserComponent::text() { return fromQt(textOf(page())); }
 
-std::string WebBrowserComponent::html() { return toText(htmlOf(page())); }
+std::string WebBrowserComponent::html() { return fromQt(htmlOf(page())); }
 
 std::optional<CRect> WebBrowserComponent::findLink(std::string_view linkText) {
     return findLinkOf(page(), linkText);

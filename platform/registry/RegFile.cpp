@@ -7,6 +7,7 @@
 #include "platform/files/BinaryFile.h"
 #include "platform/files/ReplaceFile.h"
 #include "platform/registry/RegFileReader.h"
+#include "platform/text/Utf8.h"
 
 namespace platform {
 
@@ -18,19 +19,6 @@ char16_t unitAt(std::string_view bytes, std::size_t index) {
     const auto low = static_cast<unsigned char>(bytes[2 * index]);
     const auto high = static_cast<unsigned char>(bytes[2 * index + 1]);
     return static_cast<char16_t>(low | (high << 8));
-}
-
-void appendUtf8(std::string& target, char32_t value) {
-    const auto tail = [value](unsigned shift) { return static_cast<char>(0x80 | ((value >> shift) & 0x3F)); };
-    if (value < 0x80) {
-        target += static_cast<char>(value);
-    } else if (value < 0x800) {
-        target += {static_cast<char>(0xC0 | (value >> 6)), tail(0)};
-    } else if (value < 0x10000) {
-        target += {static_cast<char>(0xE0 | (value >> 12)), tail(6), tail(0)};
-    } else {
-        target += {static_cast<char>(0xF0 | (value >> 18)), tail(12), tail(6), tail(0)};
-    }
 }
 
 /// UTF-16LE as UTF-8. A half of a surrogate pair alone becomes a surrogate in UTF-8 form, which the reader

@@ -3,26 +3,9 @@
 #include <algorithm>
 
 #include "platform/text/CodePageTable.h"
+#include "platform/text/Utf8.h"
 
 namespace platform {
-
-namespace {
-
-void appendUtf8(std::string& target, char16_t value) {
-    if (value < 0x80) {
-        target += static_cast<char>(value);
-        return;
-    }
-    if (value < 0x800) {
-        target += static_cast<char>(0xC0 | (value >> 6));
-    } else {
-        target += static_cast<char>(0xE0 | (value >> 12));
-        target += static_cast<char>(0x80 | ((value >> 6) & 0x3F));
-    }
-    target += static_cast<char>(0x80 | (value & 0x3F));
-}
-
-}  // namespace
 
 std::string toUtf8(std::string_view cp1253) {
     std::string result;

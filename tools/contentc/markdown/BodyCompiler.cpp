@@ -1,7 +1,7 @@
 #include "tools/contentc/markdown/BodyCompiler.h"
 
 #include "tools/contentc/markdown/BodyParts.h"
-#include "tools/contentc/markdown/Utf8.h"
+#include "tools/contentc/markdown/HtmlInCodePage.h"
 
 namespace contentc {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "platform/text/Utf8.h"
 #include "tools/contentc/markdown/BodyMessages.h"
 #include "tools/contentc/markdown/Typography.h"
-#include "tools/contentc/markdown/Utf8.h"
 
 namespace contentc {
 namespace {
@@ -103,7 +103,7 @@ class MarkFinder {
     }
 
     void add(InlineMark mark, std::size_t length) {
-        appendUtf8(marked_.text, firstMark + static_cast<char32_t>(marked_.marks.size()));
+        platform::appendUtf8(marked_.text, firstMark + static_cast<char32_t>(marked_.marks.size()));
         marked_.marks.push_back(std::move(mark));
         rest_.remove_prefix(length);
     }

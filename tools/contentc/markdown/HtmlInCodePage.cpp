@@ -1,4 +1,4 @@
-#include "tools/contentc/markdown/Utf8.h"
+#include "tools/contentc/markdown/HtmlInCodePage.h"
 
 #include "platform/text/CodePageTable.h"
 
@@ -20,23 +20,6 @@ void appendInCodePage(std::string& text, char32_t character) {
 }
 
 }  // namespace
-
-void appendUtf8(std::string& text, char32_t character) {
-    const auto byte = [&text](char32_t value) { text.push_back(static_cast<char>(value)); };
-    const auto next = [&byte, character](unsigned shift) { byte(0x80U | ((character >> shift) & 0x3FU)); };
-    if (character < 0x80) return byte(character);
-    if (character < 0x800) {
-        byte(0xC0U | (character >> 6U));
-    } else if (character < 0x10000) {
-        byte(0xE0U | (character >> 12U));
-        next(6);
-    } else {
-        byte(0xF0U | (character >> 18U));
-        next(12);
-        next(6);
-    }
-    next(0);
-}
 
 TextLine htmlInCodePage(const TextLine& utf8) {
     TextLine line{{}, utf8.place};
