@@ -33,6 +33,7 @@ constexpr double tickPixelsAcross = 80;
 constexpr double tickPixelsUp = 45;
 constexpr double decadePixelsUp = 25;
 constexpr double aroundPlot = 90;
+constexpr int spaceWithoutNames = 8;
 constexpr int roomForLegend = 560;
 constexpr double legendPixels = 10;
 constexpr double legendLine = 22;
@@ -48,6 +49,20 @@ std::vector<QString> markNames(const Analyser& analyser, const Graph& graph) {
         names.push_back(toQt(shortRowName(analyser.dataSet(), static_cast<std::size_t>(mark.row))));
     }
     return names;
+}
+
+/// What is drawn of the graph in a chart of this height; the graph itself is left out.
+GraphContent contentOf(const Analyser& analyser, const Graph& graph, double height) {
+    GraphContent content{{}, analyser.window(graph), {}, {}, markNames(analyser, graph), spaceWithoutNames};
+    const auto& categories = analyser.categories();
+    for (int i = 0; i < static_cast<int>(categories.names.size()); ++i) {
+        content.categories.push_back(categoryLook(categories, i));
+    }
+    for (const std::int16_t id : analyser.selected()) content.selected.insert(analyser.placeOf(id));
+    if (graph.plan.kind == GraphKind::bar && !content.names.empty()) {
+        content.nameSpace = GraphMarks::spaceFor(content.names, height);
+    }
+    return content;
 }
 
 QScatterSeries::MarkerShape legendShape(PointShape shape) {
@@ -156,17 +171,9 @@ void GraphChart::showGraph(const Analyser& analyser) {
     }
     Graph graph = analyser.graph();
     const GraphWindow window = analyser.window(graph);
-    const Categories& categories = analyser.categories();
     setTitle(toQt(analyser.dataSet().title));
     if (graph.plan.kind == GraphKind::bar && !graph.xTitle.empty()) addToTitle(toQt(graph.xTitle));
-    GraphContent content{{}, window, {}, {}, markNames(analyser, graph), 0};
-    for (int i = 0; i < static_cast<int>(categories.names.size()); ++i) {
-        content.categories.push_back(categoryLook(categories, i));
-    }
-    for (const std::int16_t id : analyser.selected()) content.selected.insert(analyser.placeOf(id));
-    content.nameSpace = graph.plan.kind == GraphKind::bar && !content.names.empty()
-                            ? GraphMarks::spaceFor(content.names, size().height())
-                            : 8;
+    GraphContent content = contentOf(analyser, graph, size().height());
     setMargins(QMargins(12, 8, 12, content.nameSpace));
     setAxes(graph, window.x, window.y);
     addLines(graph, window);

@@ -22,6 +22,13 @@ int windowPlace(std::int32_t word) {
     return word >= windowLeftWord && word <= windowTopWord ? word - windowLeftWord : -1;
 }
 
+void setGraphOptions(DataSetState& set, std::int32_t bits) {
+    set.logX = (bits & logXBit) != 0;
+    set.logY = (bits & logYBit) != 0;
+    set.bestFit = (bits & bestFitBit) != 0;
+    set.names = (bits & namesBit) != 0;
+}
+
 }  // namespace
 
 std::vector<std::int32_t> Analyser::entryWords() const {
@@ -62,10 +69,10 @@ std::int32_t Analyser::entry(std::int32_t word) const {
 
 void Analyser::setEntry(std::int32_t word, std::int32_t value) {
     DataSetState& set = state_.set;
-    if (word >= 0 && static_cast<std::size_t>(word) < layout().count()) {
+    if (const auto column = static_cast<std::size_t>(word); word >= 0 && column < layout().count()) {
         ColumnLayout next = layout();
-        next.setWidth(static_cast<std::size_t>(word), value & ~hiddenBit);
-        next.setShown(static_cast<std::size_t>(word), (value & hiddenBit) == 0);
+        next.setWidth(column, value & ~hiddenBit);
+        next.setShown(column, (value & hiddenBit) == 0);
         return setLayout(next);
     }
     if (const int place = windowPlace(word); place >= 0) {
@@ -82,14 +89,11 @@ void Analyser::setEntry(std::int32_t word, std::int32_t value) {
             set.graphY = value;
             break;
         case graphOptionsWord:
-            set.logX = (value & logXBit) != 0;
-            set.logY = (value & logYBit) != 0;
-            set.bestFit = (value & bestFitBit) != 0;
-            set.names = (value & namesBit) != 0;
+            setGraphOptions(set, value);
             break;
         case firstRowWord:
         case lastRowWord:
-            // A host sets them behind the window, which stays.
+            // A host sets these after the part of the graph on show, which is kept.
             (word == firstRowWord ? set.firstRow : set.lastRow) = value;
             forgetRows();
             return changed(Change::rows);
