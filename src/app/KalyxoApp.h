@@ -26,8 +26,8 @@ class CKalyxoApp : public platform::CWinApp, public ProgramState {
 
   private:
     void OnAppAbout();
-    bool ReadRegistrySettings();
-    bool SetUpDataPaths();
+    bool readRegistrySettings();
+    bool setUpDataPaths();
     void addDocTemplate();
     void chooseFirstShow();
     void warnOfFewColours();

@@ -51,23 +51,23 @@ void RegisterComponentFile(std::string_view programFolder, std::string_view file
 
 ComponentCheck::Result ComponentCheck::Run() {
     updateSystemLibraries();
-    CheckComponentFile(kPeriodTableFile, controls::periodicTableClass);
+    checkComponentFile(kPeriodTableFile, controls::periodicTableClass);
     if (m_nReplaceDecision == ReplaceDecision::no) return Result::refused;
     for (const ComponentFile& component : kOtherComponents) {
-        CheckComponentFile(component.file, component.classId);
+        checkComponentFile(component.file, component.classId);
     }
     if (m_bComponentsRegistered) return Result::registered;
     return m_nReplaceDecision == ReplaceDecision::no ? Result::refused : Result::upToDate;
 }
 
 void ComponentCheck::updateSystemLibraries() {
-    UpdateSystemLibrary(kFrameworkLibrary);
+    updateSystemLibrary(kFrameworkLibrary);
     const bool counted = m_bComponentsRegistered;
-    for (const std::string_view name : kOtherLibraries) UpdateSystemLibrary(name);
+    for (const std::string_view name : kOtherLibraries) updateSystemLibrary(name);
     m_bComponentsRegistered = counted;
 }
 
-void ComponentCheck::UpdateSystemLibrary(std::string_view name) {
+void ComponentCheck::updateSystemLibrary(std::string_view name) {
     const std::string supplied = suppliedFile(m_programFolder, name);
     if (GetFileVersionNumbers(m_machine, name) >= GetFileVersionNumbers(m_machine, supplied)) return;
     const std::string target = m_machine.systemFolder().append("\\").append(name);
@@ -78,7 +78,7 @@ void ComponentCheck::UpdateSystemLibrary(std::string_view name) {
     m_bComponentsRegistered = true;
 }
 
-void ComponentCheck::CheckComponentFile(std::string_view file, std::string_view classId) {
+void ComponentCheck::checkComponentFile(std::string_view file, std::string_view classId) {
     const std::optional<std::string> registered = registeredPath(m_machine, classId);
     if (!registered) {
         // A component that was never registered is registered silently; the program need not be started

@@ -24,8 +24,8 @@ class PagePresenter {
     /// Readies the cache folder. Before that no page is shown.
     void OpenCache(CacheLocation location);
 
-    /// Shows the page with a number; a number that names no file is reported like a page that is missing.
-    /// The page begins scrolled down so far, in its own units.
+    /// Shows the page with a number; a number that names no file is reported like a page that is missing. The
+    /// page begins scrolled down by `scrolled` of its own units.
     void ShowPage(std::int32_t pageNumber, double scrolled);
     /// Moves the pointer to the link that the user has just followed by a key.
     void PointAtLink();
@@ -49,10 +49,10 @@ class PagePresenter {
 
   private:
     platform::PageTools* tools() const;
-    PrepareResult PreparePage(const PagePreparer& preparer, const std::string& source,
+    PrepareResult preparePage(const PagePreparer& preparer, const std::string& source,
                               const std::string& target);
     static void tellFailure(PrepareResult result, const std::string& source);
-    void ShowPreparedPage(const std::string& target, double scrolled);
+    void showPreparedPage(const std::string& target, double scrolled);
 
     const platform::FileSystem& m_files;
     PageCache m_cache;

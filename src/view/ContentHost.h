@@ -16,7 +16,8 @@ class ContentHost {
     /// laid out, false in page mode, whose panes stand already.
     virtual bool EnterPageMode(std::int16_t sectionCode) = 0;
     virtual void LayOutPage() = 0;
-    /// Prepares a content page and has the browser show it, scrolled down so far.
+    /// Prepares a content page and has the browser show it, scrolled down by `scrolled` of the page's own
+    /// units.
     virtual void ShowPage(std::int32_t pageNumber, double scrolled) = 0;
     /// How far the page shown last is scrolled down, or was when page mode was left.
     virtual double Scrolled() const = 0;

@@ -48,7 +48,7 @@ void ContentPanes::leaveMode() {
 }
 
 void ContentPanes::LayOutPage() {
-    const CRect area = PaneLayout{clientSize()}.whole();
+    const CRect area = PaneLayout{clientSize()}.Whole();
     m_splitter.Create(TheApp().m_nSplitterPos, area.top, area.Height(), false, kMinSplitterPos,
                       area.right - kSplitterToRightEdge, m_view);
     TabAfter(m_splitter.GetSafeHwnd(), m_components.select.GetSafeHwnd());
@@ -59,13 +59,13 @@ void ContentPanes::LayOutPage() {
 }
 
 void ContentPanes::ShowWhole(CWnd& component) {
-    component.MoveWindow(PaneLayout{clientSize()}.whole());
+    component.MoveWindow(PaneLayout{clientSize()}.Whole());
     component.ShowWindow(SW_SHOW);
 }
 
 void ContentPanes::Resize(CSize client) {
     m_bLayoutPending = true;
-    const CRect area = PaneLayout{client}.whole();
+    const CRect area = PaneLayout{client}.Whole();
     switch (m_mode) {
         case ContentMode::PeriodicTable:
             m_components.periodicTable.MoveWindow(area);
@@ -91,7 +91,7 @@ void ContentPanes::limitSplitter(int max) {
 }
 
 void ContentPanes::Paint(CDC& dc) {
-    if (m_mode == ContentMode::Page) dc.FillSolidRect(PaneLayout{clientSize()}.whole(), kBetweenPanes);
+    if (m_mode == ContentMode::Page) dc.FillSolidRect(PaneLayout{clientSize()}.Whole(), kBetweenPanes);
     m_components.select.Invalidate();
     if (m_bLayoutPending) placePanes();
     m_bLayoutPending = false;
@@ -107,8 +107,8 @@ void ContentPanes::placePanes() {
     const int position = m_splitter.GetPos();
     if (position >= kMinSplitterPos) TheApp().m_nSplitterPos = position;
     const PaneLayout panes{clientSize()};
-    m_components.select.MoveWindow(panes.browseSelection(position));
-    m_components.browser.MoveWindow(panes.browser(position));
+    m_components.select.MoveWindow(panes.BrowseSelection(position));
+    m_components.browser.MoveWindow(panes.Browser(position));
 }
 
 CSize ContentPanes::clientSize() const {

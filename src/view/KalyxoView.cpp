@@ -30,7 +30,8 @@ constexpr UINT kTimerId = 1;
 constexpr int kTimerMs = 250;
 constexpr COLORREF kBlack = RGB(0, 0, 0);
 
-/// What components and the splitter put into the second parameter of WM_COMMAND.
+/// Further values of the second parameter of WM_COMMAND, beside those in controls/contract/HostMessages.h: a
+/// request to load the page again, the splitter's, and one that the view posts to itself.
 constexpr LPARAM kRefreshBrowser = 9822;
 constexpr LPARAM kSplitterMoved = IDC_SPLITTER;
 constexpr LPARAM kFollowPageLink = 9823;
@@ -79,7 +80,7 @@ void CKalyxoView::OnInitialUpdate() {
         return browser == IDC_WEB && takePageLink(address);
     });
     m_bookmarks.LoadBookmarks();
-    LoadElementIndex();
+    loadElementIndex();
     loadPictures();
     m_glossary.Create(*this);
     ComponentStart::CheckComponentVersions();
@@ -89,7 +90,7 @@ void CKalyxoView::OnInitialUpdate() {
 
 void CKalyxoView::showContentAnew() {
     m_components.ReadSelectionAnew(*this, TheApp().m_strDataFolder);
-    LoadElementIndex();
+    loadElementIndex();
     if (m_panes.Mode() == ContentMode::Page) m_navigator.ShowAgain();
 }
 
@@ -99,7 +100,7 @@ void CKalyxoView::openCache() {
         LocateCache(app.m_strProgramFolder, machine().tempFolder(), app.m_bOutsideInstallFolder));
 }
 
-void CKalyxoView::LoadElementIndex() {
+void CKalyxoView::loadElementIndex() {
     if (!m_elements.Load(machine().files(), TheApp().m_strDataFolder)) {
         AfxMessageBox(LoadString(IDS_NO_ELEMENT_INDEX));
     }
@@ -167,7 +168,7 @@ bool CKalyxoView::OnEraseBkgnd(CDC& dc) {
 
 CRect CKalyxoView::areaBelowBar() const {
     const CRect client = GetClientRect();
-    return PaneLayout{{client.Width(), client.Height()}}.whole();
+    return PaneLayout{{client.Width(), client.Height()}}.Whole();
 }
 
 void CKalyxoView::OnSize(UINT type, int width, int height) {
@@ -179,7 +180,7 @@ void CKalyxoView::OnSize(UINT type, int width, int height) {
 bool CKalyxoView::OnCommand(WPARAM wParam, LPARAM lParam) {
     switch (lParam) {
         case controls::showEnlargedView:
-            ShowEnlargedView();
+            showEnlargedView();
             return true;
         case controls::openSection:
             if (formats::sectionByCode(static_cast<std::int16_t>(wParam))) {
@@ -187,7 +188,7 @@ bool CKalyxoView::OnCommand(WPARAM wParam, LPARAM lParam) {
             }
             return true;
         case controls::searchWord:
-            SearchFor(*reinterpret_cast<const std::string*>(wParam));
+            searchFor(*reinterpret_cast<const std::string*>(wParam));
             return true;
         case kFollowPageLink:
             followPageLink();
@@ -253,7 +254,7 @@ void CKalyxoView::openSlot(int slot) {
             OnDataAnalyser();
             break;
         case kMainMenuSlot:
-            ShowMainMenu();
+            showMainMenu();
             break;
         case kToolbarSlot:
             GetParentFrame()->RunCommand(ID_TOOLBAR);
@@ -263,7 +264,7 @@ void CKalyxoView::openSlot(int slot) {
     }
 }
 
-void CKalyxoView::ShowMainMenu() {
+void CKalyxoView::showMainMenu() {
     if (m_panes.Mode() == ContentMode::MainMenu) return;
     m_items.SelectSlot(kMainMenuSlot);
     m_panes.EnterMode(ContentMode::MainMenu);

@@ -54,9 +54,9 @@ class CKalyxoView : public platform::CView, private ContentHost {
 
     // Commands and their rules
     template <bool (CommandRules::*Rule)() const>
-    void EnableBy(platform::CCmdUI& ui);
+    void enableBy(platform::CCmdUI& ui);
     template <bool (CommandRules::*Rule)() const>
-    void CheckBy(platform::CCmdUI& ui);
+    void checkBy(platform::CCmdUI& ui);
     template <std::size_t Slot>
     void OnSection();
     template <std::size_t Slot>
@@ -69,19 +69,18 @@ class CKalyxoView : public platform::CView, private ContentHost {
     void showPlainPage(const std::string& address);
     void OnSearch() { search(m_search); }
     /// Opens the search with a text in its word field.
-    void SearchFor(const std::string& text);
+    void searchFor(const std::string& text);
     void search(const SearchState& state);
     void OnFindInPage() { m_pages.FindInPage(); }
     void OnBookmarkAdd() { m_bookmarks.OnBookmarkAdd(m_panes.Mode()); }
     void OnBookmarkGoto() { m_bookmarks.OnBookmarkGoto(); }
-    void GoBack() { m_navigator.GoBack(); }
-    void GoForward() { m_navigator.GoForward(); }
+    void OnBack() { m_navigator.GoBack(); }
+    void OnForward() { m_navigator.GoForward(); }
     void OnDataAnalyser() { ShowDataAnalyser(nullptr); }
     void OnToolbar();
     void OnUpdateToolbar(platform::CCmdUI& ui);
-    void AnimateShow() { m_panel.AnimateShow(GetWindowRect()); }
     /// Shows the page's video or molecule large, in a dialog under the title of what is on show.
-    void ShowEnlargedView();
+    void showEnlargedView();
 
     // Component events
     bool OnPageChosen(std::int32_t pageNumber, std::int32_t pageId);
@@ -98,7 +97,7 @@ class CKalyxoView : public platform::CView, private ContentHost {
     void followPageLink();
 
     // Showing what navigation and bookmarks decide on
-    void ShowMainMenu();
+    void showMainMenu();
     bool EnterPageMode(std::int16_t sectionCode) override;
     void LayOutPage() override { m_panes.LayOutPage(); }
     void ShowPage(std::int32_t pageNumber, double scrolled) override {
@@ -114,7 +113,7 @@ class CKalyxoView : public platform::CView, private ContentHost {
 
     // The first update
     void openCache();
-    void LoadElementIndex();
+    void loadElementIndex();
     /// Reads the indexes of the changed data folder and shows the page on show anew.
     void showContentAnew();
     void loadPictures();

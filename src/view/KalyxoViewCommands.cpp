@@ -15,12 +15,12 @@ namespace kalyxo {
 using namespace platform;
 
 template <bool (CommandRules::*Rule)() const>
-void CKalyxoView::EnableBy(CCmdUI& ui) {
+void CKalyxoView::enableBy(CCmdUI& ui) {
     ui.Enable((m_rules.*Rule)());
 }
 
 template <bool (CommandRules::*Rule)() const>
-void CKalyxoView::CheckBy(CCmdUI& ui) {
+void CKalyxoView::checkBy(CCmdUI& ui) {
     ui.SetCheck((m_rules.*Rule)());
 }
 
@@ -65,49 +65,49 @@ const MessageMap* CKalyxoView::GetMessageMap() const {
         OnCommandId<&CKalyxoView::OnSection<6>>(ID_SECTION_CONCEPT),
         OnUpdateId<&CKalyxoView::OnUpdateSection<6>>(ID_SECTION_CONCEPT),
         OnCommandId<&CKalyxoView::ShowPeriodicTable>(ID_PERIODIC_TABLE),
-        OnUpdateId<&CKalyxoView::CheckBy<&CommandRules::PeriodicTable>>(ID_PERIODIC_TABLE),
+        OnUpdateId<&CKalyxoView::checkBy<&CommandRules::PeriodicTable>>(ID_PERIODIC_TABLE),
         OnCommandId<&CKalyxoView::OnDataAnalyser>(ID_DATA_ANALYSER),
-        OnUpdateId<&CKalyxoView::CheckBy<&CommandRules::DataAnalyser>>(ID_DATA_ANALYSER),
+        OnUpdateId<&CKalyxoView::checkBy<&CommandRules::DataAnalyser>>(ID_DATA_ANALYSER),
         OnCommandId<&CKalyxoView::OnBookmarkAdd>(ID_BOOKMARK_ADD),
-        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::BookmarkAdd>>(ID_BOOKMARK_ADD),
+        OnUpdateId<&CKalyxoView::enableBy<&CommandRules::BookmarkAdd>>(ID_BOOKMARK_ADD),
         OnCommandId<&CKalyxoView::OnBookmarkGoto>(ID_BOOKMARK_GOTO),
         OnCommandId<&CKalyxoView::OnToolbar>(ID_TOOLBAR),
         OnUpdateId<&CKalyxoView::OnUpdateToolbar>(ID_TOOLBAR),
-        OnCommandId<&CKalyxoView::GoBack>(ID_BACK),
-        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::Back>>(ID_BACK),
-        OnCommandId<&CKalyxoView::GoForward>(ID_FORWARD),
-        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::Forward>>(ID_FORWARD),
-        OnCommandId<&CKalyxoView::ShowMainMenu>(ID_FILE_NEW),
+        OnCommandId<&CKalyxoView::OnBack>(ID_BACK),
+        OnUpdateId<&CKalyxoView::enableBy<&CommandRules::Back>>(ID_BACK),
+        OnCommandId<&CKalyxoView::OnForward>(ID_FORWARD),
+        OnUpdateId<&CKalyxoView::enableBy<&CommandRules::Forward>>(ID_FORWARD),
+        OnCommandId<&CKalyxoView::showMainMenu>(ID_FILE_NEW),
         OnCommandId<&CKalyxoView::OnBookmarkGoto>(ID_FILE_OPEN),
         OnCommandId<&CKalyxoView::OnOnlinePage<OnlinePage::product>>(ID_ONLINE_PRODUCT),
         OnCommandId<&CKalyxoView::OnOnlinePage<OnlinePage::support>>(ID_ONLINE_SUPPORT),
         OnCommandId<&CKalyxoView::OnOnlinePage<OnlinePage::products>>(ID_ONLINE_PRODUCTS),
         OnCommandId<&CKalyxoView::OnHelp>(ID_HELP_CONTENTS),
         OnCommandId<&CKalyxoView::OnEdit<&EditCommands::Print>>(ID_FILE_PRINT),
-        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::Print>>(ID_FILE_PRINT),
+        OnUpdateId<&CKalyxoView::enableBy<&CommandRules::Print>>(ID_FILE_PRINT),
         OnCommandId<&CKalyxoView::OnSearch>(ID_SEARCH),
         OnCommandId<&CKalyxoView::OnFindInPage>(ID_EDIT_FIND),
-        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::FindInPage>>(ID_EDIT_FIND),
+        OnUpdateId<&CKalyxoView::enableBy<&CommandRules::FindInPage>>(ID_EDIT_FIND),
         OnCommandId<&CKalyxoView::OnEdit<&EditCommands::Cut>>(ID_EDIT_CUT),
-        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::CutAndPaste>>(ID_EDIT_CUT),
+        OnUpdateId<&CKalyxoView::enableBy<&CommandRules::CutAndPaste>>(ID_EDIT_CUT),
         OnCommandId<&CKalyxoView::OnEdit<&EditCommands::CopyToClipboard>>(ID_EDIT_COPY),
-        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::Copy>>(ID_EDIT_COPY),
+        OnUpdateId<&CKalyxoView::enableBy<&CommandRules::Copy>>(ID_EDIT_COPY),
         OnCommandId<&CKalyxoView::OnEdit<&EditCommands::Paste>>(ID_EDIT_PASTE),
-        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::CutAndPaste>>(ID_EDIT_PASTE),
+        OnUpdateId<&CKalyxoView::enableBy<&CommandRules::CutAndPaste>>(ID_EDIT_PASTE),
         OnCommandId<&CKalyxoView::OnEdit<&EditCommands::CopyMolecule>>(ID_COPY_MOLECULE),
-        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::Molecule>>(ID_COPY_MOLECULE),
+        OnUpdateId<&CKalyxoView::enableBy<&CommandRules::Molecule>>(ID_COPY_MOLECULE),
         OnCommandId<&CKalyxoView::OnEdit<&EditCommands::CopyVideo>>(ID_COPY_VIDEO),
-        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::Video>>(ID_COPY_VIDEO),
+        OnUpdateId<&CKalyxoView::enableBy<&CommandRules::Video>>(ID_COPY_VIDEO),
         OnCommandId<&CKalyxoView::OnEdit<&EditCommands::PrintMolecule>>(ID_PRINT_MOLECULE),
-        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::Molecule>>(ID_PRINT_MOLECULE),
+        OnUpdateId<&CKalyxoView::enableBy<&CommandRules::Molecule>>(ID_PRINT_MOLECULE),
         OnCommandId<&CKalyxoView::OnEdit<&EditCommands::PrintVideo>>(ID_PRINT_VIDEO),
-        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::Video>>(ID_PRINT_VIDEO),
+        OnUpdateId<&CKalyxoView::enableBy<&CommandRules::Video>>(ID_PRINT_VIDEO),
         OnCommandId<&CKalyxoView::OnEdit<&EditCommands::CopyAllData>>(ID_COPY_ALL_DATA),
-        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::CopyAllData>>(ID_COPY_ALL_DATA),
+        OnUpdateId<&CKalyxoView::enableBy<&CommandRules::CopyAllData>>(ID_COPY_ALL_DATA),
         OnCommandId<&CKalyxoView::OnEdit<&EditCommands::CopySelected>>(ID_COPY_SELECTED),
-        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::CopySelected>>(ID_COPY_SELECTED),
+        OnUpdateId<&CKalyxoView::enableBy<&CommandRules::CopySelected>>(ID_COPY_SELECTED),
         OnCommandId<&CKalyxoView::OnEdit<&EditCommands::CopyGraph>>(ID_COPY_GRAPH),
-        OnUpdateId<&CKalyxoView::EnableBy<&CommandRules::CopyGraph>>(ID_COPY_GRAPH),
+        OnUpdateId<&CKalyxoView::enableBy<&CommandRules::CopyGraph>>(ID_COPY_GRAPH),
     };
     static const MessageMap map{CView::GetMessageMap(), kEntries};
     return &map;
@@ -136,7 +136,7 @@ void CKalyxoView::showPlainPage(const std::string& address) {
     CEnlargedViewDlg(EnlargedViewMode::plainPage, address, {}).DoModal();
 }
 
-void CKalyxoView::ShowEnlargedView() {
+void CKalyxoView::showEnlargedView() {
     // The press in a page that asks for the view may have come before another dialog opened.
     if (!IsWindowEnabled()) return;
     const PageAddress& place = m_navigator.Address();
@@ -145,7 +145,7 @@ void CKalyxoView::ShowEnlargedView() {
     CEnlargedViewDlg(EnlargedViewMode::enlargedView, m_pages.Cache().Folder(), std::move(title)).DoModal();
 }
 
-void CKalyxoView::SearchFor(const std::string& text) {
+void CKalyxoView::searchFor(const std::string& text) {
     SearchState state = m_search;
     state.word = toLower(text);
     state.row = -1;
@@ -169,7 +169,7 @@ void CKalyxoView::OnToolbar() {
         m_panel.ShowAtCorner(areaBelowBar().offset(ClientToScreen({0, 0})));
         m_bPanelNeverShown = false;
     } else {
-        AnimateShow();
+        m_panel.AnimateShow(GetWindowRect());
     }
 }
 

@@ -9,11 +9,11 @@ namespace kalyxo {
 struct PaneLayout {
     platform::CSize client;
 
-    constexpr platform::CRect whole() const { return {0, BarLayout::kHeight, client.cx, client.cy}; }
-    constexpr platform::CRect browseSelection(int splitterPos) const {
+    constexpr platform::CRect Whole() const { return {0, BarLayout::kHeight, client.cx, client.cy}; }
+    constexpr platform::CRect BrowseSelection(int splitterPos) const {
         return {0, BarLayout::kHeight, splitterPos, client.cy};
     }
-    constexpr platform::CRect browser(int splitterPos) const {
+    constexpr platform::CRect Browser(int splitterPos) const {
         return {splitterPos + CSplitterBar::kThickness, BarLayout::kHeight, client.cx, client.cy};
     }
 };
