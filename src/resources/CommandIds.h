@@ -4,7 +4,9 @@
 
 namespace kalyxo {
 
-/// Command ids of menu, accelerators and toolbar panel.
+/// Command ids of menu, accelerators and toolbar panel. Scripts and tests know them by their numbers, so a
+/// number never changes; a new command takes the next one after the highest below 57600, where the platform's
+/// own begin.
 inline constexpr platform::UINT ID_APP_ABOUT = 57664;
 inline constexpr platform::UINT ID_APP_EXIT = 57665;
 inline constexpr platform::UINT ID_EDIT_COPY = 57634;
