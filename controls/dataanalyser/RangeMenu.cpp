@@ -62,7 +62,7 @@ void RangeMenu::fill() {
 }
 
 void RangeMenu::choose() {
-    // The box that was not touched gives way.
+    // When the first row would lie behind the last, the box that was not changed follows the other.
     const bool firstChanged = sender() == first_;
     const int first = firstChanged ? first_->chosen() : std::min(first_->chosen(), last_->chosen());
     const int last = std::max(first, last_->chosen());

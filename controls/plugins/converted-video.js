@@ -44,7 +44,7 @@ class ConvertedVideo {
     return false;
   }
 
-  /// To a place that has not been converted, or to one that has: then it goes on behind that.
+  /// The film is on show at another place. Converting goes on from there, or behind what has been converted there.
   moved() {
     // Its end is told while it is aborted, and must not count.
     const { request } = this;

@@ -98,8 +98,8 @@ void FilterField::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-/// A menu bar is left again for the field, which its commands are about. So the selection stays, as for a
-/// menu that pops up.
+/// The commands of the menu bar act on this field, which then gets the focus back. So the selection stays, as
+/// it does for a pop-up menu.
 void FilterField::focusOutEvent(QFocusEvent* event) {
     const bool toMenu = event->reason() == Qt::MenuBarFocusReason;
     QFocusEvent leaving(QEvent::FocusOut, toMenu ? Qt::PopupFocusReason : event->reason());

@@ -55,6 +55,7 @@ struct ResourceTable {
 
 /// Sets the program's resources; called before any window exists.
 void SetResources(const ResourceTable& table);
+/// The resources that SetResources has set.
 const ResourceTable& Resources();
 /// The text of a string resource, empty when there is none.
 std::string_view LoadString(UINT id);

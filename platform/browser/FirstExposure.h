@@ -10,8 +10,8 @@ class QWidget;
 
 namespace platform {
 
-/// Calls once when the window of a widget has been shown on the screen for the first time, or has not come
-/// there in time; never from inside the constructor or the drawing.
+/// Calls a function once: when the window of a widget has first been shown on the screen, or after a short
+/// wait when it is not shown. The call never comes from inside the constructor or the drawing.
 class FirstExposure : public QObject {
   public:
     FirstExposure(QWidget& widget, std::function<void()> call);

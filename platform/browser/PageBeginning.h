@@ -6,7 +6,7 @@
 
 namespace platform {
 
-/// The script that lets a page begin so, before it is seen.
+/// The script that lets a page begin as `start` says, before the page is seen.
 QWebEngineScript pageBeginning(const PageStart& start);
 
 /// Takes the marks off a page.

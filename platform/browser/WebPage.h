@@ -38,7 +38,7 @@ class WebPage : public QWebEnginePage {
 
     void setCommandHandler(CommandHandler handler) { commandHandler_ = std::move(handler); }
 
-    /// Goes to an address that the program wants, in its normalised form, where the page begins so.
+    /// Goes to an address that the program wants, in its normalised form. The page begins as `start` says.
     void open(const QUrl& url, const PageStart& start);
     /// Loads the page again, without asking the gate.
     void reload();

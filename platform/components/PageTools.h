@@ -5,7 +5,7 @@
 
 namespace platform {
 
-/// How a page begins that the program has a browser show.
+/// How a page begins when the program has a browser show it.
 struct PageStart {
     /// How far it is scrolled down, in the page's own units.
     double scrolled = 0;
@@ -24,7 +24,7 @@ class PageTools {
 
     /// How far the page is scrolled down, in its own units.
     virtual double scrolled() const = 0;
-    /// How the page begins that the program asks for next.
+    /// Sets how the page begins that the program asks for next.
     virtual void beginNextPage(PageStart start) = 0;
 
     /// Moves the pointer to the link that the user has just followed by a key; nowhere after a click.

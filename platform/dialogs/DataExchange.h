@@ -34,6 +34,7 @@ class CDataExchange {
 
 /// Makes `control` the object of the dialog's control with this id, in the first exchange.
 void DDX_Control(CDataExchange& exchange, int id, CControl& control);
+/// Exchanges the text of the dialog's control with this id; code page 1253.
 void DDX_Text(CDataExchange& exchange, int id, std::string& text);
 /// Limits the text that was just exchanged to `length` characters: typing stops there, and a longer text is
 /// invalid, which the user is told.

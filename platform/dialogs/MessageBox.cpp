@@ -20,7 +20,7 @@ namespace platform {
 
 namespace {
 
-/// How many objects say so.
+/// How many UnattendedBoxes exist.
 int unattended = 0;
 
 std::vector<BoxAnswer> buttonsOf(BoxButtons buttons) {

@@ -8,6 +8,7 @@ namespace platform {
 
 /// Buttons of a message box.
 enum class BoxButtons { ok, yesNo };
+/// The picture in a message box.
 enum class BoxIcon { none, question };
 
 /// Shows a message box with the program's name as its caption; `text` is code page 1253. If the machine has

@@ -7,7 +7,8 @@ class QWidget;
 
 namespace platform {
 
-/// The name of a file for a document with this title: without what file systems do not take in names.
+/// The name of a file for a document with this title: without the characters that file systems do not take in
+/// names.
 QString fileNameFor(const QString& title);
 
 /// Asks in a dialog over the window where to save the document as a PDF file, in the printer's folder at

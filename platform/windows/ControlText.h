@@ -18,6 +18,7 @@ class TextHolder {
 
 /// The text of a control, or a window's caption. A bitmap has no text.
 std::string controlText(const QWidget& control);
+/// Sets that text.
 void setControlText(QWidget& control, std::string_view text);
 
 }  // namespace platform

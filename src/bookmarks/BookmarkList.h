@@ -31,8 +31,8 @@ class BookmarkList {
     void ResetBookmarks() { Replace(DefaultBookmarks()); }
     /// Takes other records, the first of them a folder, which becomes the current one.
     void Replace(BookmarkArray records);
-    /// Makes it these records, each of them one of its own or of `added`, and none of them twice. All others
-    /// of both are freed, and when the current folder is among them there is none.
+    /// Makes `order` the records of the list. Each is a record of the list or of `added`, and stands there
+    /// once. All other records of both are freed; if the current folder is one of them, there is none.
     void Rearrange(std::span<const CBookmark* const> order, BookmarkArray added);
 
     /// Adds a bookmark at the end of the current folder, of the first when there is no current one.

@@ -6,8 +6,8 @@
 
 namespace kalyxo {
 
-/// Stands in for the cache folder of the program where that cannot be written, as in a home that is
-/// read-only: a temporary folder of the host, gone with the object. Otherwise nothing.
+/// Where the cache folder of the program cannot be written, as in a home that is read-only, a temporary
+/// folder of the host takes its place and is removed with the object. Elsewhere nothing changes.
 class SpareCache {
   public:
     explicit SpareCache(platform::Machine& machine);

@@ -30,7 +30,7 @@ class History {
 
     /// Keeps how far the page of the current place is scrolled down. Does nothing while a place is restored.
     void KeepScrolled(double scrolled);
-    /// How far it was while the place is being restored, 0 for any other.
+    /// While a place is being restored, how far its page was scrolled down; else 0.
     double Scrolled() const;
 
     /// While an object of this class exists, nothing is recorded.

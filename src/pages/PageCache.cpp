@@ -11,7 +11,7 @@ namespace kalyxo {
 namespace {
 
 constexpr int kPagesKept = 20;
-/// As many programs as this on one machine have a cache folder each.
+/// How many programs on one machine get a cache folder of their own.
 constexpr int kMaxPrograms = 99;
 
 std::string withoutLastBackslash(const std::string& folder) { return folder.substr(0, folder.size() - 1); }

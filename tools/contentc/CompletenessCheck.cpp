@@ -28,7 +28,7 @@ bool hasMedia(const PageSource& page) {
     });
 }
 
-/// The words that are read, which those of a quiz are not.
+/// The words of the text, without those of quizzes.
 std::ptrdiff_t countOfWords(const PageSource& page) {
     std::vector<TextLine> read;
     bool isQuiz = false;

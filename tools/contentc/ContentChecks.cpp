@@ -51,7 +51,7 @@ void checkTerms(const References& references, const Content& content, Diagnostic
     }
 }
 
-/// What a term of the program is good for is not the author's business.
+/// Terms of the program's own content are not reported, since the author has not written them.
 void checkUnusedTerms(const SourceTree& tree, const Content& content, const References& references,
                       Diagnostics& diagnostics) {
     std::set<std::string_view> used;

@@ -4,8 +4,8 @@
 
 namespace contentc {
 
-/// Adds columns to messages about pages that have none, since they are about the finished HTML: where what a
-/// message names stands just once in its line of the source.
+/// Adds columns to messages about the finished HTML of pages, which have none: a message gets one when what
+/// it names stands just once in its line of the source.
 void addColumns(const Content& content, Diagnostics& diagnostics);
 
 }  // namespace contentc

@@ -7,6 +7,7 @@
 
 namespace controls::dataanalyser {
 
+/// The shapes of the points of a graph.
 enum class PointShape : std::uint8_t { circle, square, triangle, diamond, star };
 inline constexpr int pointShapeCount = 5;
 

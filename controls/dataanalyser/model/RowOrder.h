@@ -15,6 +15,8 @@ struct Categories {
     std::vector<std::string> names;  ///< in order of appearance; empty when the data set has no categories
     std::vector<int> ofRow;          ///< for each row an index into `names`, −1 for none
 };
+
+/// The categories of a data set; none when it has no column of them.
 Categories categoriesOf(const formats::DataSet& set);
 
 /// Which rows of a data set are listed and in which order.

@@ -8,6 +8,7 @@
 
 namespace controls::dataanalyser {
 
+/// The units of temperatures that the reader can choose.
 enum class TemperatureUnit : std::uint8_t { kelvin, celsius };
 
 /// Whether a column holds temperatures. These are shown in the unit that the reader has chosen.

@@ -42,8 +42,7 @@ class BrowseSelection {
     /// next.
     void setSection(std::int16_t code);
 
-    /// The section that has the place: the current section if it can be, the current section also when none
-    /// has it.
+    /// The section that has the place: the current section if it or no section has it, else another one.
     std::int16_t sectionOf(const Place& place) const;
 
     /// Shows a place that the host asks for, in its section and with its topic opened. A negative item code

@@ -9,6 +9,7 @@
 
 namespace contentc {
 
+/// What `contentc` can be asked to do; `create` is the command `new`.
 enum class Command { create, check, counts, build, open, watch, help, version };
 
 /// What the command line asks for.

@@ -23,7 +23,7 @@ std::string escaped(std::string_view text, std::initializer_list<std::string_vie
     return html;
 }
 
-// A mark in running text stays one, so that it is told where it belongs.
+// A mark `{{…}}` in running text stays a mark, so that a message can say where it belongs.
 std::string escapedText(std::string_view text) { return escaped(text, {"[["}); }
 
 /// The line with a backslash before what Markdown would take for the beginning of a list, heading or
@@ -112,7 +112,7 @@ void InlineWriter::writeMark(const InlineMark& mark) {
 
 void InlineWriter::writeTerm(const InlineMark& mark) {
     const TermSource* term = context_.terms.find(platform::fromUtf8(mark.term));
-    // That there is no name has been told.
+    // A term without a name has been reported already.
     if (!term && !mark.term.empty()) {
         diagnostics_.error(mark.place, say::unknownTermName, {mark.term})
             .suggestNearestOr(mark.term, context_.terms.names(), say::addTheTerm, {mark.term});

@@ -16,7 +16,7 @@ using ProgressReport = std::function<void(std::size_t done, std::size_t all)>;
 void makeMedia(SourceTree& tree, const MadeFiles& made, const ProgressReport& report,
                Diagnostics& diagnostics);
 
-/// Lets it look as if all had been made, to check what refers to it.
+/// Lists all media as if they had been made, so that what refers to them can be checked.
 void pretendMedia(SourceTree& tree);
 
 }  // namespace contentc

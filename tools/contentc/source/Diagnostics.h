@@ -27,6 +27,7 @@ std::string_view shownFile(std::string_view file);
 /// The column of a place in a line of UTF-8; `offset` is in bytes.
 int columnAt(std::string_view utf8Line, std::size_t offset);
 
+/// An error keeps the data folder from being written, a warning only with `--strict`.
 enum class Severity { error, warning };
 
 /// One thing to tell the author.
@@ -51,7 +52,7 @@ std::string toLine(const Diagnostic& diagnostic, Language language = Language::e
 
 /// Collects what is wrong with the sources. Compiling goes on after an error, so that all errors are found.
 ///
-///     diagnostics.error(place, say::unknownTerm, {word}).suggestNearest(word, termNames);
+///     diagnostics.error(place, say::unknownTermName, {word}).suggestNearest(word, termNames);
 class Diagnostics {
   public:
     /// The result is good until something else is added.

@@ -88,7 +88,7 @@ class IgnoredFilesReport {
 
     void checkFiles(const fs::path& folder, const SourceFolderUse& use) {
         for (const fs::path& path : listFolder(folder)) {
-            // That one of these should be a file is told where it is read.
+            // When one of these is no file, whoever reads it reports that.
             if (!takes(use, path)) checkFile(path, use);
         }
     }

@@ -8,6 +8,7 @@
 
 namespace contentc {
 
+/// The languages of messages.
 enum class Language { english, greek };
 
 /// The language of the user's locale: Greek, or English for all others.

@@ -8,7 +8,7 @@
 
 namespace contentc {
 
-/// A thread is worth while for so many pages.
+/// How many pages make a further thread worthwhile.
 inline constexpr std::size_t pagesForThread = 16;
 
 /// Calls `work(0)` to `work(count - 1)` on as many threads as the machine has processors, in any order;
