@@ -14,24 +14,6 @@ const char* find(const char* begin, const char* end, char wanted) {
     return static_cast<const char*>(std::memchr(begin, wanted, static_cast<std::size_t>(end - begin)));
 }
 
-/// Drops each CR that stands before an LF and returns the new length. The block does not end with a CR unless
-/// the file does.
-std::size_t joinLineEnds(char* block, std::size_t size) {
-    const char* const end = block + size;
-    const char* from = find(block, end, '\r');
-    if (!from) return size;
-    char* to = block + (from - block);
-    while (from) {
-        const char* const kept = from + 1 < end && from[1] == '\n' ? from + 1 : from;
-        const char* const next = find(from + 1, end, '\r');
-        const auto run = static_cast<std::size_t>((next ? next : end) - kept);
-        std::memmove(to, kept, run);
-        to += run;
-        from = next;
-    }
-    return static_cast<std::size_t>(to - block);
-}
-
 }  // namespace
 
 TextReader::TextReader(FileHandle file)
@@ -69,9 +51,20 @@ bool TextReader::fill() {
         }
         heldCr_ = !atEnd_ && block_[end_ - 1] == '\r';
         if (heldCr_) --end_;
-        end_ = joinLineEnds(block_.get(), end_);
     }
     return end_ > 0;
+}
+
+TextReader::Part TextReader::takePart(std::size_t room) {
+    const char* const from = block_.get() + next_;
+    // One byte more than there is room for, since the CR of a CR LF is not counted.
+    const char* const lineFeed = find(from, from + std::min(end_ - next_, room + 1), '\n');
+    const bool hasCr = lineFeed != nullptr && lineFeed > from && lineFeed[-1] == '\r';
+    const char* const textEnd = lineFeed != nullptr ? lineFeed - (hasCr ? 1 : 0) : from + (end_ - next_);
+    const std::size_t length = std::min(static_cast<std::size_t>(textEnd - from), room);
+    const bool complete = lineFeed != nullptr && length < room;
+    next_ = complete ? static_cast<std::size_t>(lineFeed + 1 - block_.get()) : next_ + length;
+    return {{from, length}, complete};
 }
 
 std::size_t TextReader::readLine(char* buffer, std::size_t limit) {
@@ -79,14 +72,11 @@ std::size_t TextReader::readLine(char* buffer, std::size_t limit) {
     std::size_t length = 0;
     bool complete = false;
     while (!complete && length < limit - 1 && (next_ < end_ || fill())) {
-        const char* const from = block_.get() + next_;
-        const char* const to = from + std::min(end_ - next_, limit - 1 - length);
-        const char* const lineFeed = find(from, to, '\n');
-        complete = lineFeed != nullptr;
-        const auto run = static_cast<std::size_t>((complete ? lineFeed + 1 : to) - from);
-        std::memcpy(buffer + length, from, run);
-        length += run;
-        next_ += run;
+        const Part part = takePart(limit - 1 - length);
+        std::memcpy(buffer + length, part.text.data(), part.text.size());
+        length += part.text.size();
+        complete = part.endsLine;
+        if (complete) buffer[length++] = '\n';
     }
     buffer[length] = '\0';
     return length;

@@ -29,6 +29,14 @@ class TextReader {
     static std::optional<TextReader> open(FileHandle file);
     bool fill();
 
+    /// A part of a line, without its line end.
+    struct Part {
+        std::string_view text;
+        bool endsLine;
+    };
+    /// The next part from the block, which is not empty. With its line end it takes up at most `room` bytes.
+    Part takePart(std::size_t room);
+
     FileHandle file_;
     std::unique_ptr<char[]> block_;
     std::size_t next_ = 0;

@@ -1,5 +1,6 @@
 #include "platform/files/TextWriter.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace platform {
@@ -30,12 +31,17 @@ std::optional<TextWriter> TextWriter::open(const std::filesystem::path& path) {
 
 void TextWriter::write(std::string_view text) {
     while (!text.empty()) {
-        const std::size_t lineFeed = text.find('\n');
-        append(text.substr(0, lineFeed));
-        if (lineFeed == text.npos) return;
-        append("\r\n");
-        text.remove_prefix(lineFeed + 1);
+        const std::size_t lineEnd = std::min(text.find('\n'), text.size() - 1) + 1;
+        writeLine(text.substr(0, lineEnd));
+        text.remove_prefix(lineEnd);
     }
+}
+
+void TextWriter::writeLine(std::string_view line) {
+    if (!line.ends_with('\n')) return append(line);
+    line.remove_suffix(1);
+    append(line);
+    append("\r\n");
 }
 
 void TextWriter::append(std::string_view bytes) {

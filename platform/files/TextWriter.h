@@ -26,6 +26,8 @@ class TextWriter {
 
     /// Adds text; not after `close`. A failure of the medium is told by `close`.
     void write(std::string_view text);
+    /// The same for one line, in which an LF may be the last byte only.
+    void writeLine(std::string_view line);
 
     /// Writes out what is left and closes the file; whether all that was given has been written.
     bool close();

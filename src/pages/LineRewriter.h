@@ -22,7 +22,7 @@ class LineRewriter {
     LineRewriter(std::string_view dataFolder, MoleculeCopier copyMolecule)
         : m_dataFolder(dataFolder), m_copyMolecule(std::move(copyMolecule)) {}
 
-    /// Whether rewriting could change the line; a line that need not be rewritten is passed on as it is.
+    /// Whether rewriting could change the line, or it holds a NUL. Any other line is passed on as it is.
     static bool Concerns(std::string_view line);
 
     void Rewrite(std::string& line, PageNotes& notes) const;

@@ -1,7 +1,6 @@
 #include "src/pages/PagePreparer.h"
 
 #include <algorithm>
-#include <cstring>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -43,17 +42,17 @@ bool rewriteLines(TextReader& source, TextWriter& target, const LineRewriter& re
     while (const std::size_t length = source.readLine(buffer.get(), kLineLimit)) {
         ++lines;
         if (lines % kLinesPerStep == 0 && !platform::GoesOn(step, lines, 0)) break;
-        // A NUL ends its line: what follows is dropped, with the line end.
-        const std::string_view line(buffer.get(), ::strnlen(buffer.get(), length));
+        const std::string_view line(buffer.get(), length);
         const bool isRewritten = LineRewriter::Concerns(line);
         if (isRewritten) {
-            working = line;
+            // A NUL ends its line: what follows is dropped, with the line end.
+            working = line.substr(0, line.find('\0'));
             rewriter.Rewrite(working, notes);
         }
         const std::string_view rewritten = isRewritten ? working : line;
         passed += std::max(rewritten.size(), length);
         if (passed > kMaxPageBytes) return false;
-        target.write(rewritten);
+        target.writeLine(rewritten);
     }
     return true;
 }
