@@ -37,7 +37,10 @@ void setEngineFlags() {
         "--disable-background-networking --disable-component-update --disable-domain-reliability "
         "--disable-sync --no-pings --log-level=3 "
         // One process draws all pages, instead of a new one for each that is opened.
-        "--renderer-process-limit=1";
+        "--renderer-process-limit=1 "
+        // No process waits to become one that runs without the sandbox: the few there are start by
+        // themselves.
+        "--no-unsandboxed-zygote";
     // At first no name resolves, so that even a request that the policy does not see cannot reach the
     // network.
     flags += hostRules({});
