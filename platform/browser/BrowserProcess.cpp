@@ -4,16 +4,14 @@
 
 #include <QByteArray>
 #include <QCoreApplication>
-#include <QFileInfo>
-#include <QLibraryInfo>
 #include <QLoggingCategory>
-#include <QWebEngineUrlScheme>
 #include <algorithm>
 #include <array>
 #include <cstdio>
 #include <string_view>
 
 #include "platform/browser/EngineFlags.h"
+#include "platform/browser/EngineLibrary.h"
 #include "platform/browser/WebBrowserComponent.h"
 #include "platform/components/ComponentHost.h"
 
@@ -23,16 +21,6 @@ namespace {
 
 constexpr const char* sandboxVariable = "QTWEBENGINE_DISABLE_SANDBOX";
 constexpr const char* quickVariable = "QT_QUICK_BACKEND";
-
-void registerDriveSchemes() {
-    for (char letter = 'a'; letter <= 'z'; ++letter) {
-        QWebEngineUrlScheme scheme(QByteArray(1, letter));
-        scheme.setSyntax(QWebEngineUrlScheme::Syntax::Path);
-        scheme.setFlags(QWebEngineUrlScheme::LocalScheme | QWebEngineUrlScheme::LocalAccessAllowed |
-                        QWebEngineUrlScheme::CorsEnabled);
-        QWebEngineUrlScheme::registerScheme(scheme);
-    }
-}
 
 void setUpSandbox() {
     const bool isRoot = ::geteuid() == 0;
@@ -61,7 +49,6 @@ std::string_view missingSandbox(bool isRoot, bool isSwitchedOff, std::string_vie
 
 void prepareProcess() {
     ComponentHost::addBuiltIn(std::string(WebBrowserComponent::classId), makeBrowser);
-    registerDriveSchemes();
     setUpSandbox();
     setEngineFlags();
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
@@ -70,14 +57,6 @@ void prepareProcess() {
         qputenv(quickVariable, "software");
     // The engine lists its graphics set-up at every start without a screen.
     QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext*=false"));
-}
-
-bool engineIsInstalled() {
-    const QString given = qEnvironmentVariable("QTWEBENGINEPROCESS_PATH");
-    if (!given.isEmpty()) return QFileInfo::exists(given);
-    const QString name = QStringLiteral("/QtWebEngineProcess");
-    return QFileInfo::exists(QLibraryInfo::path(QLibraryInfo::LibraryExecutablesPath) + name) ||
-           QFileInfo::exists(QCoreApplication::applicationDirPath() + name);
 }
 
 }  // namespace platform

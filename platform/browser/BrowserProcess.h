@@ -5,17 +5,13 @@
 namespace platform {
 
 /// Prepares the process for the web browser. To be called once, before the application object is
-/// made: it makes the browser known as a component, registers the drive letters as URL schemes and sets the
-/// engine's switches. When the process runs as root, where the engine's sandbox refuses to work, it is
-/// switched off. That pages run without it is told on standard error, whatever the reason.
+/// made: it makes the browser known as a component and sets the engine's switches. When the process runs as
+/// root, where the engine's sandbox refuses to work, it is switched off. That pages run without it is told on
+/// standard error, whatever the reason.
 void prepareProcess();
 
 /// Why pages run without the engine's sandbox, as a line to tell; empty when they run in it. `isSwitchedOff`
 /// is whether Qt's variable for that is set, `flags` are the switches given to the engine.
 std::string_view missingSandbox(bool isRoot, bool isSwitchedOff, std::string_view flags);
-
-/// Whether the engine's own program, without which it would end this one, is where it looks for it. To be
-/// asked once the application object is made.
-bool engineIsInstalled();
 
 }  // namespace platform

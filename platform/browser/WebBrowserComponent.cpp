@@ -1,34 +1,26 @@
 #include "platform/browser/WebBrowserComponent.h"
 
-#include <QCursor>
-#include <QPointer>
-#include <QUrl>
+#include <QMetaObject>
+#include <QPalette>
 #include <algorithm>
 #include <utility>
 
 #include "platform/browser/BrowserPolicy.h"
 #include "platform/browser/DosUrl.h"
-#include "platform/browser/FindStrip.h"
+#include "platform/browser/EngineLibrary.h"
 #include "platform/browser/FolderAddresses.h"
-#include "platform/browser/LinkClick.h"
-#include "platform/browser/PagePrinter.h"
-#include "platform/browser/PageQuestions.h"
-#include "platform/browser/PluginWindows.h"
 #include "platform/browser/RequestPolicy.h"
-#include "platform/browser/WebPage.h"
-#include "platform/browser/WebView.h"
 #include "platform/components/ComponentLibrary.h"
 #include "platform/machine/Machine.h"
+#include "platform/qt/Filling.h"
 #include "platform/qt/QtChild.h"
-#include "platform/qt/QtConvert.h"
+#include "platform/qt/WindowTable.h"
 
 namespace platform {
 
 namespace {
 
 constexpr std::int32_t beforeNavigateEvent = 100;
-constexpr std::int32_t printCommand = 6;
-constexpr std::int32_t copyCommand = 12;
 
 constexpr std::array operationTable = {
     Method<104, &WebBrowserComponent::navigate>("Navigate"),
@@ -42,46 +34,26 @@ constexpr std::array beforeNavigateTypes = {TypeCode::text,    TypeCode::i4,   T
 constexpr std::array<EventInfo, 1> eventInfos = {
     {{beforeNavigateEvent, "BeforeNavigate", beforeNavigateTypes}}};
 
-/// The page as an automation object; it does nothing once the page is gone.
-class Document : public Dispatch {
-  public:
-    /// `find` is null when the strip has never been opened.
-    Document(WebPage& page, PagePrinter& printer, FindStrip* find)
-        : page_(&page), printer_(&printer), find_(find) {}
-
-    bool exec(std::int32_t command) override {
-        if (page_ && command == copyCommand) {
-            if (!find_ || !find_->copySelection()) page_->copySelection();
-            return true;
-        }
-        if (printer_ && command == printCommand) {
-            printer_->print();
-            return true;
-        }
-        return false;
-    }
-
-  private:
-    QPointer<WebPage> page_;
-    QPointer<PagePrinter> printer_;
-    QPointer<FindStrip> find_;
-};
-
 void record(TraceEntry entry) {
     if (hasMachine()) machine().trace().record(std::move(entry));
+}
+
+std::unique_ptr<QWidget> makeArea(QWidget* parent) {
+    auto area = std::make_unique<QWidget>(parent);
+    QPalette colours = area->palette();
+    colours.setColor(QPalette::Window, Qt::white);
+    area->setPalette(colours);
+    return area;
 }
 
 }  // namespace
 
 WebBrowserComponent::WebBrowserComponent(ComponentSite& site, QWidget* parent)
-    : site_(site),
-      view_(std::make_unique<WebView>(parent)),
-      printer_(&makeQtChild<PagePrinter>(*view_)),
-      exposure_(*view_, [this] { page(); }) {}
+    : site_(site), area_(makeArea(parent)), exposure_(*area_, [this] { engine(); }) {}
 
 WebBrowserComponent::~WebBrowserComponent() = default;
 
-QWidget& WebBrowserComponent::widget() { return *view_; }
+QWidget& WebBrowserComponent::widget() { return *area_; }
 
 std::span<const OperationInfo> WebBrowserComponent::operations() const { return operationInfos; }
 
@@ -92,23 +64,27 @@ std::optional<Variant> WebBrowserComponent::invoke(std::int32_t dispid, InvokeKi
     return dispatch(*this, operationTable, dispid, kind, arguments);
 }
 
-WebPage& WebBrowserComponent::page() {
-    if (page_) return *page_;
-    page_ = std::make_unique<WebPage>([this](const PageRequest& request) { return passes(request); },
-                                      [this] { return view_->presses().take(); }, nullptr);
-    page_->setCommandHandler(
-        [this](const std::string& component, LPARAM command) { sendCommand(component, command); });
-    plugins_ = std::make_unique<PluginWindows>(*view_, *page_);
-    view_->open(*page_);
-    if (!awaited_.isEmpty()) page_->open(std::exchange(awaited_, QUrl()), std::exchange(start_, {}));
-    return *page_;
+BrowserEngine& WebBrowserComponent::engine() {
+    if (!engine_) makeEngine();
+    if (!awaited_.url.isEmpty()) {
+        const Awaited next = std::exchange(awaited_, {});
+        engine_->open(next.url, next.start);
+    }
+    return *engine_;
 }
 
-bool WebBrowserComponent::busy() const {
-    if (!page_) return !awaited_.isEmpty();
-    return (click_ && click_->pending()) || page_->busy() || plugins_->busy() || printer_->busy() ||
-           anyQuestionOpen();
+void WebBrowserComponent::makeEngine() {
+    const auto send = [this](const std::string& component, LPARAM command) {
+        sendCommand(component, command);
+    };
+    engine_ = platform::makeEngine(area_.get(),
+                                   {[this](const PageRequest& request) { return passes(request); }, send});
+    engine_->setTextSize(textSize_);
+    makeQtChild<Filling>(*area_, &engine_->widget());
+    area_->setFocusProxy(&engine_->widget());
 }
+
+bool WebBrowserComponent::busy() const { return !awaited_.url.isEmpty() || (engine_ && engine_->busy()); }
 
 void WebBrowserComponent::navigate(const std::string& address, const Variant& flags, const Variant&,
                                    const Variant&, const Variant&) {
@@ -117,20 +93,18 @@ void WebBrowserComponent::navigate(const std::string& address, const Variant& fl
     const QUrl url = normalisedUrl(
         urlOfAddress(address, folderLength(address, BrowserPolicy::instance().allowedFolders())));
     if (!passes({RequestKind::program, {}, url})) return;
-    view_->presses().forget();
-    // Looked at only now, since the page may have been made while a handler showed a message.
-    if (page_) {
-        page_->open(url, std::exchange(start_, {}));
-    } else {
-        awaited_ = url;
-    }
+    awaited_ = {url, std::exchange(start_, {})};
+    // Looked at only now, since the engine may have been made while a handler showed a message.
+    if (!engine_) return;
+    engine_->forgetPresses();
+    // Queued, since the program may go on to another address at once, as Back does, and the engine would
+    // work for both.
+    QMetaObject::invokeMethod(area_.get(), [this] { engine(); }, Qt::QueuedConnection);
 }
 
-void WebBrowserComponent::refresh(const Variant&) { page().reload(); }
+void WebBrowserComponent::refresh(const Variant&) { engine().reload(); }
 
-std::shared_ptr<Dispatch> WebBrowserComponent::document() {
-    return std::make_shared<Document>(page(), *printer_, find_.get());
-}
+std::shared_ptr<Dispatch> WebBrowserComponent::document() { return engine().document(); }
 
 bool WebBrowserComponent::passes(const PageRequest& request) {
     const std::string address = addressOfUrl(request.address);
@@ -157,67 +131,55 @@ void WebBrowserComponent::sendCommand(const std::string& component, LPARAM comma
     const auto commands = module->pagePart.commands;
     if (std::ranges::find(commands, command) == commands.end()) return;
     const WindowTable& windows = WindowTable::instance();
-    const QWidget* own = windows.widget(windows.nearestHandle(view_.get()));
+    const QWidget* own = windows.widget(windows.nearestHandle(area_.get()));
     if (own) site_.sendMessage(windows.nearestHandle(own->parentWidget()), WM_COMMAND, 0, command);
 }
 
-double WebBrowserComponent::scrolled() const {
-    return page_ ? page_->scrollPosition().y() / page_->zoomFactor() : 0;
-}
+double WebBrowserComponent::scrolled() const { return engine_ ? engine_->scrolled() : 0; }
 
 void WebBrowserComponent::pointAtLink() {
-    if (!page_ || !view_->presses().lastWasKey()) return;
-    if (const auto link = focusedLinkOf(*page_)) {
-        QCursor::setPos(view_->mapToGlobal(toQt(CPoint{link->left, link->top + link->Height() / 2})));
-    }
+    if (engine_) engine_->pointAtLink();
 }
 
-void WebBrowserComponent::openFind() {
-    page();
-    if (!find_) find_ = std::make_unique<FindStrip>(*view_);
-    find_->open();
-}
+void WebBrowserComponent::openFind() { engine().openFind(); }
 
 void WebBrowserComponent::closeFind() {
-    if (find_) find_->close();
+    if (engine_) engine_->closeFind();
 }
 
-int WebBrowserComponent::textSize() const { return view_->textSize(); }
+int WebBrowserComponent::textSize() const { return engine_ ? engine_->textSize() : textSize_; }
 
-void WebBrowserComponent::setTextSize(int percent) { view_->setTextSize(percent); }
+void WebBrowserComponent::setTextSize(int percent) {
+    textSize_ = percent;
+    if (engine_) engine_->setTextSize(percent);
+}
 
 int WebBrowserComponent::controlId() const {
     const WindowTable& windows = WindowTable::instance();
-    const WindowEntry* entry = windows.find(windows.nearestHandle(view_.get()));
+    const WindowEntry* entry = windows.find(windows.nearestHandle(area_.get()));
     return entry ? entry->id : 0;
 }
 
-std::string WebBrowserComponent::url() const { return page_ ? addressOfUrl(page_->url()) : std::string(); }
+std::string WebBrowserComponent::url() const { return engine_ ? engine_->url() : std::string(); }
 
-std::string WebBrowserComponent::title() const { return page_ ? fromQt(page_->title()) : std::string(); }
+std::string WebBrowserComponent::title() const { return engine_ ? engine_->title() : std::string(); }
 
-std::string WebBrowserComponent::text() { return fromQt(textOf(page())); }
+std::string WebBrowserComponent::text() { return engine().text(); }
 
-std::string WebBrowserComponent::html() { return fromQt(htmlOf(page())); }
+std::string WebBrowserComponent::html() { return engine().html(); }
 
 std::optional<CRect> WebBrowserComponent::findLink(std::string_view linkText) {
-    return findLinkOf(page(), linkText);
+    return engine().findLink(linkText);
 }
 
-bool WebBrowserComponent::clickLink(std::string_view linkText) {
-    const auto link = findLink(linkText);
-    if (!link) return false;
-    const CPoint middle{(link->left + link->right) / 2, (link->top + link->bottom) / 2};
-    click_ = std::make_unique<LinkClick>(page(), [this, middle] { view_->click(middle); });
-    return true;
-}
+bool WebBrowserComponent::clickLink(std::string_view linkText) { return engine().clickLink(linkText); }
 
 void WebBrowserComponent::updatePluginWindows() {
-    if (plugins_) plugins_->update();
+    if (engine_) engine_->updatePluginWindows();
 }
 
 std::string WebBrowserComponent::pluginPicture(HWND window) {
-    return plugins_ ? plugins_->picture(window).toStdString() : std::string();
+    return engine_ ? engine_->pluginPicture(window) : std::string();
 }
 
 }  // namespace platform

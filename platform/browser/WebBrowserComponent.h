@@ -1,29 +1,21 @@
 #pragma once
 
 #include <QUrl>
+#include <QWidget>
 #include <array>
 #include <memory>
 #include <string>
 #include <utility>
 
+#include "platform/browser/BrowserEngine.h"
 #include "platform/browser/FirstExposure.h"
 #include "platform/components/DispatchMap.h"
-#include "platform/components/PageTools.h"
-#include "platform/components/WebPageInspector.h"
 
 namespace platform {
 
-class FindStrip;
-class LinkClick;
-struct PageRequest;
-class PagePrinter;
-class PluginWindows;
-class WebPage;
-class WebView;
-
 /// The web browser as a component. The engine costs as much time as the rest of the program's start: it is
-/// started once the window can be seen, or when it is needed before. Addresses are code page 1253: DOS paths
-/// (`D:\a.htm`, `c:/cache/1.htm`) or URLs.
+/// loaded and started once the window can be seen, or when it is needed before. Addresses are code page
+/// 1253: DOS paths (`D:\a.htm`, `c:/cache/1.htm`) or URLs.
 class WebBrowserComponent : public Component, public WebPageInspector, public PageTools {
   public:
     /// Its published class id.
@@ -56,8 +48,9 @@ class WebBrowserComponent : public Component, public WebPageInspector, public Pa
     int textSize() const override;
     void setTextSize(int percent) override;
 
-    /// Goes to an address after raising `BeforeNavigate`. The flags are recorded; frame, post data and
-    /// headers are not used.
+    /// Goes to an address after raising `BeforeNavigate`. It is loaded when the program is back in its event
+    /// loop, unless the program has gone on to another one by then. The flags are recorded; frame, post data
+    /// and headers are not used.
     void navigate(const std::string& address, const Variant& flags, const Variant& frame,
                   const Variant& postData, const Variant& headers);
     /// Loads the page again, whatever the level.
@@ -66,23 +59,27 @@ class WebBrowserComponent : public Component, public WebPageInspector, public Pa
     std::shared_ptr<Dispatch> document();
 
   private:
-    WebPage& page();
+    /// Where the program wants to go, not loaded yet; the address is empty when it waits for nothing.
+    struct Awaited {
+        QUrl url;
+        PageStart start;
+    };
+
+    /// The engine, made when there is none yet, on its way to where the program wants to go.
+    BrowserEngine& engine();
+    void makeEngine();
     bool passes(const PageRequest& request);
     bool isCancelled(const std::string& address);
     void sendCommand(const std::string& component, LPARAM command);
     int controlId() const;
 
     ComponentSite& site_;
-    std::unique_ptr<WebView> view_;
-    PagePrinter* printer_;  // the view's
-    QUrl awaited_;          // where to go once there is a page
-    PageStart start_;       // of the next page that the program asks for
-    // Null until the engine is needed. It is destroyed before its view, which does not own it.
-    std::unique_ptr<WebPage> page_;
-    std::unique_ptr<PluginWindows> plugins_;  // with the page
-    std::unique_ptr<FindStrip> find_;         // beside the view; null until it is first opened
+    std::unique_ptr<QWidget> area_;  // white until the engine's widget fills it
+    PageStart start_;                // of the next page that the program asks for
+    Awaited awaited_;
+    int textSize_ = 100;                     // until there is an engine
+    std::unique_ptr<BrowserEngine> engine_;  // null until it is needed
     FirstExposure exposure_;
-    std::unique_ptr<LinkClick> click_;  // the last one in the page
 };
 
 }  // namespace platform

@@ -11,31 +11,13 @@
 #include "platform/components/ComponentLibrary.h"
 #include "platform/machine/Machine.h"
 #include "platform/printing/PrintJob.h"
+#include "platform/qt/Filling.h"
 #include "platform/qt/QtChild.h"
 #include "platform/text/CodePage1253.h"
 
 namespace platform {
 
 namespace {
-
-/// Keeps a component's widget as large as the window that hosts it.
-class Filling : public QObject {
-  public:
-    Filling(QWidget& container, QWidget* filling) : QObject(filling), filling_(*filling) {
-        container.installEventFilter(this);
-        filling->setGeometry(container.rect());
-        // If the container is hidden, the widget is shown, and laid out, together with it.
-        if (container.isVisible()) filling->show();
-    }
-
-    bool eventFilter(QObject* container, QEvent* event) override {
-        if (event->type() == QEvent::Resize) filling_.setGeometry(static_cast<QWidget*>(container)->rect());
-        return false;
-    }
-
-  private:
-    QWidget& filling_;
-};
 
 /// The classes without a module, with the functions that make their components.
 std::map<std::string, ComponentHost::Creator, std::less<>>& builtIn() {

@@ -1,4 +1,6 @@
 #include <QTest>
+#include <QWebEnginePage>
+#include <QWebEngineView>
 
 #include "platform/browser/BrowserPolicy.h"
 #include "platform/browser/WebBrowserComponent.h"
@@ -138,6 +140,20 @@ TEST_F(BrowserMachine, ShowsTheLastOfQuickNavigations) {
         EXPECT_EQ(title(), "3") << pause << " ms between";
         EXPECT_EQ(url(), "D:\\3.htm");
     }
+}
+
+// As Back goes to a place with which the browse selection then answers.
+TEST_F(BrowserMachine, GivesTheEngineOnlyTheLastAddressOfOneStepOfTheProgram) {
+    for (const std::string name : {"1", "2", "3"})
+        write("D:\\" + name + ".htm", "<TITLE>" + name + "</TITLE>");
+    open("D:\\1.htm");
+    const QWebEnginePage& given = *window.findChild<QWebEngineView*>()->page();
+    const QUrl first = given.requestedUrl();
+    navigate("D:\\2.htm");
+    EXPECT_EQ(given.requestedUrl(), first);
+    EXPECT_TRUE(host().component().busy());
+    open("D:\\3.htm");
+    EXPECT_EQ(title(), "3");
 }
 
 TEST_F(BrowserMachine, OpensNewWindowsInTheSameView) {

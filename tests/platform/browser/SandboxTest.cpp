@@ -46,7 +46,7 @@ TEST_F(Sandbox, HoldsThePagesOfAPlainUser) {
     if (::geteuid() == 0) GTEST_SKIP() << "as root there is none";
     write("D:\\a.htm", "<TITLE>a</TITLE>");
     open("D:\\a.htm");
-    const auto* view = dynamic_cast<QWebEngineView*>(&host().component().widget());
+    const auto* view = window.findChild<QWebEngineView*>();
     ASSERT_NE(view, nullptr);
     EXPECT_TRUE(isFiltered(view->page()->renderProcessPid()));
 }

@@ -101,6 +101,12 @@ std::string BrowserMachine::text() {
     return QString::fromStdString(utf8(page().text())).simplified().toStdString();
 }
 
+QWidget* BrowserMachine::input() {
+    QWidget* proxy = host_->component().widget().focusProxy();
+    while (proxy && proxy->focusProxy()) proxy = proxy->focusProxy();
+    return proxy;
+}
+
 QImage BrowserMachine::picture() {
     // The engine hands a new picture over some time after the page says that it is there.
     run(300);

@@ -58,8 +58,8 @@ class BrowserMachine : public testing::Test {
     int count(const platform::CRect& area, const std::function<bool(QColor)>& counts);
     int count(const platform::CRect& area, QColor colour);
 
-    /// The widget that gets mouse and keyboard input for the page.
-    QWidget* input() { return host_->component().widget().focusProxy(); }
+    /// The widget that gets mouse and keyboard input for the page; null as long as there is no engine.
+    QWidget* input();
     void doubleClick(QPoint point);
 
     void setContentFolder(std::string_view dosPath) { machine_->files().setContentFolder(dosPath); }

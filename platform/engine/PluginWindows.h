@@ -8,7 +8,7 @@
 #include <memory>
 #include <vector>
 
-#include "platform/browser/PageQuestions.h"
+#include "platform/engine/PageQuestions.h"
 #include "platform/qt/WindowTable.h"
 
 class QWebEnginePage;

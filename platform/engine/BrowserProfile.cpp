@@ -1,11 +1,11 @@
-#include "platform/browser/BrowserProfile.h"
+#include "platform/engine/BrowserProfile.h"
 
 #include <QByteArray>
 #include <QWebEngineProfile>
 #include <QWebEngineSettings>
 
-#include "platform/browser/DriveSchemeHandler.h"
-#include "platform/browser/RequestInterceptor.h"
+#include "platform/engine/DriveSchemeHandler.h"
+#include "platform/engine/RequestInterceptor.h"
 #include "platform/qt/QtChild.h"
 
 namespace platform {

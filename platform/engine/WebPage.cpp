@@ -1,4 +1,4 @@
-#include "platform/browser/WebPage.h"
+#include "platform/engine/WebPage.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -15,13 +15,13 @@
 #include <utility>
 
 #include "platform/browser/BrowserPolicy.h"
-#include "platform/browser/BrowserProfile.h"
-#include "platform/browser/ClipboardGuard.h"
-#include "platform/browser/ContentLimits.h"
 #include "platform/browser/DosUrl.h"
-#include "platform/browser/PageBeginning.h"
-#include "platform/browser/UnreachablePage.h"
-#include "platform/plugins/EmbedScript.h"
+#include "platform/engine/BrowserProfile.h"
+#include "platform/engine/ClipboardGuard.h"
+#include "platform/engine/ContentLimits.h"
+#include "platform/engine/EmbedScript.h"
+#include "platform/engine/PageBeginning.h"
+#include "platform/engine/UnreachablePage.h"
 #include "platform/plugins/PluginTypes.h"
 
 namespace platform {

@@ -1,4 +1,4 @@
-#include "platform/browser/DriveSchemeHandler.h"
+#include "platform/engine/DriveSchemeHandler.h"
 
 #include <QBuffer>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "platform/browser/LinkClick.h"
+#include "platform/engine/LinkClick.h"
 
 #include <QPointer>
 #include <QTimer>

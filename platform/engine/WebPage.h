@@ -9,9 +9,9 @@
 #include <utility>
 
 #include "platform/base/Messages.h"
-#include "platform/browser/PageArrival.h"
 #include "platform/browser/RequestPolicy.h"
 #include "platform/components/PageTools.h"
+#include "platform/engine/PageArrival.h"
 
 namespace platform {
 

@@ -1,4 +1,4 @@
-#include "platform/browser/ContentLimits.h"
+#include "platform/engine/ContentLimits.h"
 
 #include <QString>
 #include <QWebEngineScript>

@@ -1,4 +1,4 @@
-#include "platform/browser/UserPress.h"
+#include "platform/engine/UserPress.h"
 
 #include <QEvent>
 #include <chrono>

@@ -1,4 +1,4 @@
-#include "platform/browser/PluginWindows.h"
+#include "platform/engine/PluginWindows.h"
 
 #include <QEvent>
 #include <QWebEnginePage>

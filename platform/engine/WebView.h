@@ -3,7 +3,7 @@
 #include <QWebEngineView>
 
 #include "platform/base/Geometry.h"
-#include "platform/browser/UserPress.h"
+#include "platform/engine/UserPress.h"
 
 namespace platform {
 
@@ -16,7 +16,7 @@ class WebView : public QWebEngineView {
     explicit WebView(QWidget* parent);
     ~WebView() override;
 
-    /// Gives it its page. Without one it is an empty white area, and the engine does not run for it.
+    /// Gives it its page, before it is shown or asked for anything else.
     void open(QWebEnginePage& page);
 
     /// The size of the page's text, in percent.
@@ -35,8 +35,6 @@ class WebView : public QWebEngineView {
   protected:
     bool event(QEvent* event) override;
     void childEvent(QChildEvent* event) override;
-    void showEvent(QShowEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
 
   private:
     void tellInFront(bool inFront);
@@ -47,7 +45,6 @@ class WebView : public QWebEngineView {
     void zoomBy(int steps);
     void zoomTo(int percent);
 
-    bool open_ = false;
     int textSize_ = 100;
     UserPress presses_;
 };

@@ -1,4 +1,4 @@
-#include "platform/browser/FindStrip.h"
+#include "platform/engine/FindStrip.h"
 
 #include <QApplication>
 #include <QHBoxLayout>

@@ -1,4 +1,4 @@
-#include "platform/browser/WebView.h"
+#include "platform/engine/WebView.h"
 
 #include <QApplication>
 #include <QChildEvent>
@@ -15,7 +15,7 @@
 #include <array>
 #include <cstdlib>
 
-#include "platform/browser/ClipboardGuard.h"
+#include "platform/engine/ClipboardGuard.h"
 #include "platform/input/TabOrder.h"
 #include "platform/qt/QtChild.h"
 
@@ -47,21 +47,7 @@ WebView::WebView(QWidget* parent) : QWebEngineView(parent) {
 // The focus moves once more while the engine's widget is destroyed.
 WebView::~WebView() { disconnect(qApp, nullptr, this, nullptr); }
 
-void WebView::open(QWebEnginePage& page) {
-    open_ = true;
-    setPage(&page);
-    setTextSize(textSize_);
-}
-
-// NOLINTBEGIN(bugprone-parent-virtual-call): the engine's own view would make itself a page.
-void WebView::showEvent(QShowEvent* event) {
-    open_ ? QWebEngineView::showEvent(event) : QWidget::showEvent(event);
-}
-
-void WebView::hideEvent(QHideEvent* event) {
-    open_ ? QWebEngineView::hideEvent(event) : QWidget::hideEvent(event);
-}
-// NOLINTEND(bugprone-parent-virtual-call)
+void WebView::open(QWebEnginePage& page) { setPage(&page); }
 
 /// The text that a page gives for a tip is not to be taken for rich text, which could show files of the
 /// machine.
@@ -78,7 +64,6 @@ bool WebView::event(QEvent* event) {
 
 /// What moves by itself in a page rests behind other windows.
 void WebView::tellInFront(bool inFront) {
-    if (!open_) return;
     page()->runJavaScript(
         QStringLiteral("for (let i = 0; i < length; ++i) window[i].postMessage({pageInFront: %1}, '*')")
             .arg(inFront ? QLatin1StringView("true") : QLatin1StringView("false")),
@@ -121,7 +106,9 @@ void WebView::passFocusOn() {
     QWidget* const focus = QApplication::focusWidget();
     if (!focus || !isAncestorOf(focus) || isInSight(*this)) return;
     if (!focusNextInSight(*focus, !(QApplication::keyboardModifiers() & Qt::ShiftModifier))) {
-        if (QWidget* const around = parentWidget()->parentWidget()) around->setFocus(Qt::OtherFocusReason);
+        // The window of the component lies between.
+        const QWidget* const component = parentWidget()->parentWidget();
+        if (QWidget* const around = component->parentWidget()) around->setFocus(Qt::OtherFocusReason);
     }
 }
 
@@ -172,7 +159,7 @@ void WebView::zoomTo(int percent) {
 
 void WebView::setTextSize(int percent) {
     textSize_ = std::clamp(percent, zoomSteps.front(), zoomSteps.back());
-    if (open_) setZoomFactor(textSize_ / 100.0);
+    setZoomFactor(textSize_ / 100.0);
 }
 
 }  // namespace platform

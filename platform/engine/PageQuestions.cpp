@@ -1,4 +1,4 @@
-#include "platform/browser/PageQuestions.h"
+#include "platform/engine/PageQuestions.h"
 
 #include <QDeadlineTimer>
 #include <QEventLoop>

@@ -1,4 +1,4 @@
-#include "platform/browser/UnreachablePage.h"
+#include "platform/engine/UnreachablePage.h"
 
 namespace platform {
 

@@ -1,4 +1,4 @@
-#include "platform/plugins/EmbedScript.h"
+#include "platform/engine/EmbedScript.h"
 
 #include <QString>
 #include <QStringList>

@@ -1,4 +1,4 @@
-#include "platform/browser/PageArrival.h"
+#include "platform/engine/PageArrival.h"
 
 #include <csignal>
 

@@ -1,8 +1,8 @@
-#include "platform/browser/RequestInterceptor.h"
+#include "platform/engine/RequestInterceptor.h"
 
 #include "platform/browser/BrowserPolicy.h"
-#include "platform/browser/DriveSchemeHandler.h"
 #include "platform/browser/RequestPolicy.h"
+#include "platform/engine/DriveSchemeHandler.h"
 
 namespace platform {
 

@@ -1,4 +1,4 @@
-#include "platform/browser/PagePrinter.h"
+#include "platform/engine/PagePrinter.h"
 
 #include <QPageLayout>
 #include <QPageRanges>

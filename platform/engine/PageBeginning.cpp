@@ -1,4 +1,4 @@
-#include "platform/browser/PageBeginning.h"
+#include "platform/engine/PageBeginning.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

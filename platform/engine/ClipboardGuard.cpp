@@ -1,4 +1,4 @@
-#include "platform/browser/ClipboardGuard.h"
+#include "platform/engine/ClipboardGuard.h"
 
 #include <QApplication>
 #include <QKeyEvent>
