@@ -8,7 +8,10 @@
 #include <csignal>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <map>
+#include <sstream>
+#include <utility>
 
 namespace {
 
@@ -20,19 +23,29 @@ Pipe makePipe() {
     return ends;
 }
 
-/// Parent of each running process.
-std::multimap<pid_t, pid_t> childrenByParent() {
-    std::multimap<pid_t, pid_t> children;
+/// What the host tells of a process after its name, from its state on; empty when it is gone.
+std::vector<std::string> statusOf(const std::string& pid) {
+    std::ifstream stat("/proc/" + pid + "/stat");
+    std::string text;
+    std::getline(stat, text);
+    // The command's name stands in brackets and may hold blanks.
+    const std::size_t bracket = text.rfind(')');
+    if (bracket == std::string::npos) return {};
+    std::istringstream rest(text.substr(bracket + 1));
+    return {std::istream_iterator<std::string>(rest), {}};
+}
+
+using Children = std::multimap<pid_t, pid_t>;
+
+/// The running processes by their parents.
+Children childrenByParent() {
+    constexpr std::size_t parentField = 1;
+    Children children;
     for (const auto& entry : std::filesystem::directory_iterator("/proc")) {
         const std::string name = entry.path().filename();
         if (name.find_first_not_of("0123456789") != std::string::npos) continue;
-        std::ifstream stat(entry.path() / "stat");
-        std::string text;
-        std::getline(stat, text);
-        // The command's name stands in brackets and may hold blanks.
-        const std::size_t bracket = text.rfind(')');
-        if (bracket == std::string::npos || bracket + 4 > text.size()) continue;
-        children.emplace(std::stoi(text.substr(bracket + 4)), std::stoi(name));
+        const auto status = statusOf(name);
+        if (status.size() > parentField) children.emplace(std::stoi(status[parentField]), std::stoi(name));
     }
     return children;
 }
@@ -47,10 +60,21 @@ std::size_t proportionalBytes(pid_t pid) {
     return 0;
 }
 
-std::size_t treeBytes(pid_t pid, const std::multimap<pid_t, pid_t>& children) {
-    std::size_t total = proportionalBytes(pid);
+double ownProcessorSeconds(pid_t pid) {
+    constexpr std::size_t userField = 11;
+    constexpr std::size_t systemField = 12;
+    const auto status = statusOf(std::to_string(pid));
+    if (status.size() <= systemField) return 0;
+    const double ticks = std::stod(status[userField]) + std::stod(status[systemField]);
+    return ticks / static_cast<double>(::sysconf(_SC_CLK_TCK));
+}
+
+/// The sum over a process and all its descendants.
+template <class Measure>
+auto sumOverTree(pid_t pid, const Children& children, Measure measure) -> decltype(measure(pid)) {
+    auto total = measure(pid);
     const auto [first, last] = children.equal_range(pid);
-    for (auto at = first; at != last; ++at) total += treeBytes(at->second, children);
+    for (auto at = first; at != last; ++at) total += sumOverTree(at->second, children, measure);
     return total;
 }
 
@@ -98,4 +122,14 @@ std::string ChildProcess::readLine() {
     return length > 0 ? std::string(line, static_cast<std::size_t>(length)) : std::string();
 }
 
-std::size_t ChildProcess::memory() const { return treeBytes(pid_, childrenByParent()); }
+std::size_t ChildProcess::memory() const { return sumOverTree(pid_, childrenByParent(), proportionalBytes); }
+
+double ChildProcess::processorSeconds() const {
+    return sumOverTree(pid_, childrenByParent(), ownProcessorSeconds);
+}
+
+bool ChildProcess::succeeded() {
+    int status = 0;
+    return ::waitpid(std::exchange(pid_, -1), &status, 0) > 0 && WIFEXITED(status) &&
+           WEXITSTATUS(status) == 0;
+}

@@ -23,6 +23,10 @@ class ChildProcess {
 
     /// Memory of the process and all its descendants, shared pages divided among their users, in bytes.
     std::size_t memory() const;
+    /// Processor time that the process and its present descendants have used, in seconds.
+    double processorSeconds() const;
+    /// Waits until it ends by itself; whether it ended well.
+    bool succeeded();
 
   private:
     using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;

@@ -1,8 +1,5 @@
 #include <benchmark/benchmark.h>
 
-#include <fcntl.h>
-#include <sys/mman.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cstdio>
@@ -12,6 +9,7 @@
 #include <memory>
 #include <string>
 
+#include "bench/MappedScan.h"
 #include "bench/Required.h"
 #include "formats/SectionTitles.h"
 #include "formats/TitleLists.h"
@@ -93,41 +91,6 @@ class IndexFolder {
     fs::path root_;
 };
 
-/// The file mapped into memory and touched once.
-class MappedFile {
-  public:
-    explicit MappedFile(const fs::path& path) {
-        const int file = ::open(path.c_str(), O_RDONLY);
-        struct stat status{};
-        ::fstat(file, &status);
-        size_ = static_cast<std::size_t>(status.st_size);
-        void* const mapped = ::mmap(nullptr, size_, PROT_READ, MAP_SHARED | MAP_POPULATE, file, 0);
-        ::close(file);
-        bytes_ = mapped == MAP_FAILED ? nullptr : static_cast<const char*>(mapped);
-    }
-    ~MappedFile() { ::munmap(const_cast<char*>(bytes_), size_); }
-    MappedFile(const MappedFile&) = delete;
-    MappedFile& operator=(const MappedFile&) = delete;
-
-    const char* bytes() const { return bytes_; }
-    std::size_t size() const { return size_; }
-
-  private:
-    const char* bytes_ = nullptr;
-    std::size_t size_ = 0;
-};
-
-/// The scan as plain C: the word and its NUL compared at the start of each record.
-int countPlainly(const char* bytes, std::size_t size, const char* word) {
-    const std::size_t length = std::strlen(word) + 1;
-    int found = 0;
-    for (const char* record = bytes; record + formats::occurrenceRecordSize <= bytes + size;
-         record += formats::occurrenceRecordSize) {
-        if (std::memcmp(record, word, length) == 0) ++found;
-    }
-    return found;
-}
-
 int countByFread(std::FILE* file, const char* word) {
     char record[formats::occurrenceRecordSize];
     int found = 0;
@@ -146,10 +109,10 @@ constexpr std::size_t hitsOfAll = (recordCount + recordsPerHit - 1) / recordsPer
 constexpr std::size_t hitsOfOne = (hitsOfAll + formCount - 1) / formCount;
 
 void MappedScanInPlainC(benchmark::State& state) {
-    const MappedFile file(IndexFolder::instance().file("words.dat"));
+    const bench::MappedFile file(IndexFolder::instance().file("words.dat"));
     const std::string word = formOf(0);
     int found = 0;
-    for (auto _ : state) found = countPlainly(file.bytes(), file.size(), word.c_str());
+    for (auto _ : state) found = bench::countPlainly(file, word);
     check(state, static_cast<std::size_t>(found), hitsOfOne);
 }
 BENCHMARK(MappedScanInPlainC)->Unit(benchmark::kMillisecond);

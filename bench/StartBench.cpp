@@ -6,7 +6,7 @@
 #include "bench/TestMachine.h"
 
 /// Start to the first paint and memory three seconds later, beside a bare program that only shows a browser
-/// window; and from the click on a section slot to its page on show.
+/// window; from the click on a section slot to its page on show; and Back to a page beside opening it.
 namespace {
 
 using namespace bench;
@@ -64,5 +64,36 @@ void ClickToPageShown(benchmark::State& state) {
     }
 }
 BENCHMARK(ClickToPageShown)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(21);
+
+constexpr const char* firstSection = "command 32776";
+constexpr const char* secondSection = "command 32775";
+constexpr const char* back = "command 32773";
+
+/// From a command to the start page of the first section, which is opened before the second one, on show
+/// again.
+void measureReturn(benchmark::State& state, const std::string& command) {
+    ChildProcess program(machine().driver());
+    const auto tell = [&program](const std::string& line) {
+        program.writeLine(line);
+        return program.readLine();
+    };
+    for (const char* line : {"start", firstSection, secondSection}) tell(line);
+    for (auto _ : state) {
+        const Clock::time_point begin = Clock::now();
+        const std::string answer = tell(command);
+        state.SetIterationTime(secondsSince(begin));
+        if (answer.find("\"carriedOut\":true") == std::string::npos ||
+            tell("state").find("\"section\":1,") == std::string::npos) {
+            state.SkipWithError("the page is not on show");
+            return;
+        }
+    }
+}
+
+void OpeningOfAPage(benchmark::State& state) { measureReturn(state, firstSection); }
+BENCHMARK(OpeningOfAPage)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(21);
+
+void BackToAPage(benchmark::State& state) { measureReturn(state, back); }
+BENCHMARK(BackToAPage)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(21);
 
 }  // namespace
