@@ -132,6 +132,9 @@ TEST_F(PagePreparation, FailuresLeaveTheFlagsAndWriteNothing) {
     EXPECT_EQ(preparer.PreparePage("D:\\page", "C:\\no\\such\\folder\\2.htm", contents),
               PrepareResult::noTarget);
     EXPECT_TRUE(contents.video);
+    const FullDisk full(5);
+    EXPECT_EQ(preparer.PreparePage("D:\\page", "C:\\3.htm", contents), PrepareResult::prepared);
+    EXPECT_LE(drives.get("C:\\3.htm").size(), 5U) << "as far as it fits";
 }
 
 TEST_F(PagePreparation, IsAPageAsFarAsItWentWhenCancelled) {
@@ -149,16 +152,26 @@ TEST_F(PagePreparation, IsAPageAsFarAsItWentWhenCancelled) {
 TEST_F(PagePreparation, WritesTheEnlargedMoleculePage) {
     std::string page = "<HTML>\n";
     for (int line = 2; line <= 12; ++line) page += "head\n";
-    page += "<EMBED SRC=\"\x03..m.mol\" WIDTH=340 HEIGHT=290\nspin\ndisplay=true>\nkept\n</TD>\nlost\n";
+    page += "<EMBED SRC=\"\x03..m.mol\" WIDTH=340 HEIGHT=2900\nspin\ndisplay=true>\nkept\n</TD>\nlost\n";
     prepare(page);
     EXPECT_EQ(
         drives.get("C:\\bigvid.htm"),
-        "<HTML>\r\n<BODY BGCOLOR=\"#000000\">\r\n<EMBED SRC=\"D:\\m.mol\" WIDTH=640 HEIGHT=498\r\nspin\r\n"
+        "<HTML>\r\n<BODY BGCOLOR=\"#000000\">\r\n<EMBED SRC=\"D:\\m.mol\" WIDTH=640 HEIGHT=4980\r\nspin\r\n"
         "display=false\r\nkept\r\n</BODY></HTML>\r\n");
     prepare(page.replace(page.find("spin"), 5, std::string("spin\n\0", 6)));
     EXPECT_EQ(drives.get("C:\\bigvid.htm").find('\0'), std::string::npos);
     prepare("<HTML>\n\x03..m.mol\n");
     EXPECT_EQ(drives.get("C:\\bigvid.htm"), "<HTML>\r\n<BODY BGCOLOR=\"#000000\">\r\n\r\n</BODY></HTML>\r\n");
+}
+
+TEST_F(PagePreparation, EnlargedPageIsTheLastThatCouldBeMade) {
+    prepare("<EMBED SRC=\"\x04..a.webm\">\n");
+    const std::string former = drives.get("C:\\bigvid.htm");
+    prepare("\x04..b.webm\n");
+    EXPECT_EQ(drives.get("C:\\bigvid.htm"), former) << "no quote ends the address";
+    EXPECT_TRUE(contents.video);
+    prepare("<HTML>\n<EMBED SRC=\"\x04..a.webm\"> \x03..m.mol\n");
+    EXPECT_TRUE(drives.get("C:\\bigvid.htm").starts_with("<HTML>\r\n<BODY BGCOLOR=\"#000000\">"));
 }
 
 }  // namespace
