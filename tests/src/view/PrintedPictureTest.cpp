@@ -10,8 +10,6 @@ using kalyxo::PrintedPicture;
 using platform::CRect;
 
 TEST(PrintedPictures, AreHalfAPageWideAndHeadedByTheirTitle) {
-    EXPECT_EQ(LayOutPrintedPicture(PluginKind::molecule, {4800, 6800}, 600),
-              (PrintedPicture{CRect::at(1200, 1584, 2400, 2047), CRect{0, 528, 4800, 1584}, 85}));
     EXPECT_EQ(LayOutPrintedPicture(PluginKind::video, {4801, 6800}, 300),
               (PrintedPicture{CRect::at(1200, 1666, 2400, 1800), CRect{0, 555, 4801, 1666}, 42}));
     // On a page as flat as this the picture begins above it.
