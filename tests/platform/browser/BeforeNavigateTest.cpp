@@ -1,5 +1,3 @@
-#include <QTcpServer>
-
 #include "platform/browser/BrowserPolicy.h"
 #include "tests/support/browser/BrowserMachine.h"
 
@@ -60,21 +58,6 @@ TEST_F(RequestsOfPages, LeavesRefusedAddressesToThePolicy) {
     ASSERT_TRUE(click("δίκτυο"));
     EXPECT_EQ(takeRefused(), Addresses{"http://example.org/"});
     EXPECT_EQ(title(), "1");
-}
-
-TEST_F(RequestsOfPages, KeepsAPageFromTheNetwork) {
-    QTcpServer server;
-    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
-    const std::string host = "127.0.0.1:" + std::to_string(server.serverPort());
-    write("D:\\a.htm",
-          "<TITLE>a</TITLE><LINK REL=stylesheet HREF=\"http://" + host + "/s\"><IMG SRC=\"http://" + host +
-              "/x\"><IFRAME SRC=\"http://" + host + "/f\"></IFRAME><EMBED SRC=\"http://" + host +
-              "/x.mol\"><SCRIPT>new WebSocket('ws://" + host + "/'); navigator.sendBeacon('http://" + host +
-              "/b'); fetch('http://" + host + "/j');</SCRIPT>");
-    open("D:\\a.htm");
-    run(500);
-    EXPECT_EQ(title(), "a");
-    EXPECT_FALSE(server.hasPendingConnections());
 }
 
 TEST_F(RequestsOfPages, KeepsAPageFromFilesOutsideItsFolders) {

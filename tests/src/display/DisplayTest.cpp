@@ -49,9 +49,7 @@ TEST(PictureTest, AbsurdSizesAreRefusedBeforeTheyAreRead) {
     const struct {
         std::int32_t width, height;
         PictureResult result;
-    } cases[] = {{8192, 8192, PictureResult::loaded},
-                 {8192, 8193, PictureResult::fileError},
-                 {40'000, 40'000, PictureResult::fileError}};
+    } cases[] = {{8192, 8192, PictureResult::loaded}, {8192, 8193, PictureResult::fileError}};
     const TestFolder folder;
     for (const auto& [width, height, result] : cases) {
         BITMAPINFOHEADER header;

@@ -53,17 +53,6 @@ TEST_F(Command, SourceErrorsAreAllToldAndLeaveNoFolder) {
     EXPECT_FALSE(fs::exists(content_.beside("out")));
 }
 
-// As on a full disk: no file may be written beyond 512 bytes or so.
-TEST_F(Command, WriteErrorKeepsTheFormerFolder) {
-    EXPECT_EQ(compileTo("data"), 0);
-    const Files former = listAll(content_.beside("out"));
-    content_.write("pictures/large.png", samplePng + std::string(100'000, 'x'));
-    limits_ = "trap '' XFSZ; ulimit -f 1; ";
-    EXPECT_EQ(compileTo("data"), 1);
-    EXPECT_NE(errors_.find("/out/data/"), std::string::npos) << errors_;
-    EXPECT_EQ(listAll(content_.beside("out")), former);
-}
-
 // On a disk of 512 KB, which only a user who may mount one in a name space of their own can have.
 TEST_F(Command, FullDiskIsNamedAndKeepsTheFormerFolder) {
     fs::create_directories(content_.beside("out"));

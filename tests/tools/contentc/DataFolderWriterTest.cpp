@@ -79,9 +79,15 @@ TEST_F(DataFolderWriter, LeavesAFolderOfOtherThingsAlone) {
     EXPECT_EQ(readAll(content_.beside("out/file")), "mine");
 }
 
-// A file where a folder has to be: writing fails half-way.
 TEST_F(DataFolderWriter, FailureKeepsTheFormerFolderAndLeavesNothingElse) {
     EXPECT_EQ(write(), "");
+    {
+        const FullDisk full(3);
+        EXPECT_NE(write().find("/out/data/a.htm:1: cannot be written"), std::string::npos);
+    }
+    EXPECT_EQ(listAll(folder()), writtenFiles);
+
+    // A file where a folder has to be: writing fails half-way.
     add("b", "file");
     add("b\\c", "below a file");
     EXPECT_NE(write(), "");
