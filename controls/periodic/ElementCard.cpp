@@ -16,6 +16,7 @@ namespace {
 constexpr int minFactHeight = 15;
 constexpr int maxFactPixels = 19;
 constexpr int minFactWidth = 150;
+constexpr int comfortableFactWidth = 220;
 constexpr int headingLines = 3;
 constexpr int minStepSide = 14;
 
@@ -158,7 +159,8 @@ void paintFact(QPainter& painter, TextFitter& fitter, const QRect& area, const F
 /// Draws as many facts as there is room for, column by column.
 void paintFacts(QPainter& painter, TextFitter& fitter, const QRect& area, std::vector<Fact> facts) {
     const int count = static_cast<int>(facts.size());
-    const int columns = std::clamp(area.width() / minFactWidth, 1, 2);
+    const int columns =
+        area.width() >= 3 * comfortableFactWidth ? 3 : std::clamp(area.width() / minFactWidth, 1, 2);
     const int rows = std::clamp(area.height() / minFactHeight, 1, (count + columns - 1) / columns);
     facts.resize(static_cast<std::size_t>(std::min(count, rows * columns)));
     const int gutter = columns == 1 ? 0 : area.width() / 24;

@@ -80,8 +80,10 @@ QString spokenText(const Element& element, const TableState& state) {
                                   : QStringLiteral("χωρίς τιμή");
         return QStringLiteral("%1, %2: %3").arg(name, toQt(quantityName(*quantity)), value);
     }
-    if (state.view == TableView::groups && element.group() > 0)
-        return QStringLiteral("%1, ομάδα %2").arg(name).arg(element.group());
+    if (state.view == TableView::groups) {
+        return element.group() == 0 ? name + QStringLiteral(", χωρίς ομάδα")
+                                    : QStringLiteral("%1, ομάδα %2").arg(name).arg(element.group());
+    }
     return QStringLiteral("%1, %2").arg(
         name, toQt(kindName(state.view, kindOf(element, state.view, state.kelvin))));
 }

@@ -17,10 +17,10 @@ constexpr std::array<std::string_view, 4> blockNames{"Τομέας s"_gr, "Το�
                                                      "Τομέας f"_gr};
 // With the names of schoolbooks.
 constexpr std::array<std::string_view, kindWithoutGroup> groupNames{
-    "1 · IA"_gr,   "2 · IIA"_gr,   "3 · IIIB"_gr,   "4 · IVB"_gr,    "5 · VB"_gr,
-    "6 · VIB"_gr,  "7 · VIIB"_gr,  "8 · VIIIB"_gr,  "9 · VIIIB"_gr,  "10 · VIIIB"_gr,
-    "11 · IB"_gr,  "12 · IIB"_gr,  "13 · IIIA"_gr,  "14 · IVA"_gr,   "15 · VA"_gr,
-    "16 · VIA"_gr, "17 · VIIA"_gr, "18 · VIIIA"_gr, "χωρίς ομάδα"_gr};
+    "1 · IA"_gr,   "2 · IIA"_gr,   "3 · IIIB"_gr,   "4 · IVB"_gr,   "5 · VB"_gr,
+    "6 · VIB"_gr,  "7 · VIIB"_gr,  "8 · VIIIB"_gr,  "9 · VIIIB"_gr, "10 · VIIIB"_gr,
+    "11 · IB"_gr,  "12 · IIB"_gr,  "13 · IIIA"_gr,  "14 · IVA"_gr,  "15 · VA"_gr,
+    "16 · VIA"_gr, "17 · VIIA"_gr, "18 · VIIIA"_gr, "καμία"_gr};
 
 }  // namespace
 
