@@ -23,6 +23,8 @@ QString withBreaks(QString words) {
     }
     words.replace(QStringLiteral("Έτος ανακάλυψης"), QStringLiteral("Έτος\nανακά\u00ADλυψης"));
     words.replace(QStringLiteral("Ηλεκτραρνητικότητα"), QStringLiteral("Ηλεκτρ\u00ADαρνητι\u00ADκότητα"));
+    words.replace(QStringLiteral("Ηλεκτρονιοσυγγένεια"), QStringLiteral("Ηλεκτρονιο\u00ADσυγγένεια"));
+    words.replace(QStringLiteral("van der"), QStringLiteral("van\u00A0der"));
     return words;
 }
 

@@ -9,6 +9,9 @@ class TableHeader : public QHeaderView {
   public:
     explicit TableHeader(QWidget* parent);
 
+    /// The largest font size in which all headings fit their columns.
+    int commonPixels() const;
+
   protected:
     void paintEvent(QPaintEvent* event) override;
     void paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const override;
@@ -16,8 +19,6 @@ class TableHeader : public QHeaderView {
 
   private:
     QString text(int section) const;
-    /// The largest font size in which all headings fit their columns.
-    int commonPixels() const;
 
     int pixels_ = 0;  // the font size, computed before each painting
 };

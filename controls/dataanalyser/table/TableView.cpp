@@ -26,11 +26,21 @@ constexpr int minNeeded = 60;
 constexpr int maxNeeded = 240;
 constexpr int maxForWord = 80;
 
+/// The cell with the most characters. A temperature has more of them in °C, with its minus.
+std::string longestCell(const formats::DataColumn& column) {
+    std::string longest;
+    for (std::size_t row = 0; row < column.cells.size(); ++row) {
+        const std::string text =
+            isTemperature(column) ? cellText(column, row, TemperatureUnit::celsius) : column.cells[row];
+        if (text.size() > longest.size()) longest = text;
+    }
+    return longest;
+}
+
 /// The width that a column needs for the cell with the most characters, and for the longest word of its
 /// heading in small letters.
 int neededWidth(const formats::DataColumn& column, const QFontMetrics& metrics) {
-    const auto longest = std::ranges::max_element(column.cells, {}, &std::string::size);
-    int width = longest == column.cells.end() ? 0 : metrics.horizontalAdvance(toQt(*longest));
+    const int width = metrics.horizontalAdvance(toQt(longestCell(column)));
     const QFontMetrics small(appearance::font(minTableFontPixels, QFont::DemiBold));
     int word = 0;
     for (const QString& part : toQt(column.title).split(u' '))

@@ -3,10 +3,13 @@
 #include <QMimeData>
 #include <QMouseEvent>
 
+#include "controls/common/Appearance.h"
 #include "controls/dataanalyser/ColumnMenu.h"
 #include "controls/dataanalyser/graph/GraphChart.h"
 #include "controls/dataanalyser/graph/GraphMarks.h"
+#include "controls/dataanalyser/look/ShownText.h"
 #include "controls/dataanalyser/model/AnalyserState.h"
+#include "controls/dataanalyser/table/TableHeader.h"
 #include "tests/controls/dataanalyser/AnalyserTest.h"
 
 namespace controls::dataanalyser {
@@ -79,6 +82,20 @@ TEST_F(AnalyserTest, RowsFromOneToAnotherAreListedAndSummedUp) {
         << told.toStdString();
     setEntry(firstRowWord, 900);
     EXPECT_EQ(table().model()->rowCount(), 10) << "an element that does not exist is no bound";
+}
+
+TEST_F(AnalyserTest, TheElementsColumnsCutNoValueAndKeepTheirHeadingsReadable) {
+    component_.widget().resize(1362, 640);
+    const TableView& shown = table();
+    for (int column = 0; column < shown.model()->columnCount(); ++column) {
+        int widest = 0;
+        for (int row = 0; row < shown.model()->rowCount(); ++row) {
+            widest = std::max(widest, QFontMetrics(appearance::font(tableFontPixels))
+                                          .horizontalAdvance(QString::fromStdString(cell(row, column))));
+        }
+        EXPECT_LT(widest, shown.columnWidth(column)) << column;
+    }
+    EXPECT_GE(dynamic_cast<const TableHeader&>(*shown.horizontalHeader()).commonPixels(), 10);
 }
 
 TEST_F(AnalyserTest, ColumnMenuStaysOpenWhileColumnsAreTicked) {
