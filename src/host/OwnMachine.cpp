@@ -101,9 +101,9 @@ bool sameContent(const fs::path& a, const fs::path& b) {
     return bytes && bytes == second.readAll(size);
 }
 
-/// A module that cannot be replaced stays; the program then tells of its version itself. False when that was
-/// cancelled.
-bool updateModules(Machine& machine, const Options& options, const ProgressStep& step) {
+/// A module that cannot be replaced stays; the program then tells of its version itself. One that is not
+/// there at all must be made. False when that was cancelled.
+Result<bool> updateModules(Machine& machine, const Options& options, const ProgressStep& step) {
     const auto target = machine.files().nativePath(options.modulesTo);
     if (!target) return true;
     const auto installed = platform::modulesIn(options.modulesFrom).value_or(std::vector<fs::path>());
@@ -112,7 +112,8 @@ bool updateModules(Machine& machine, const Options& options, const ProgressStep&
     for (const fs::path& module : installed) {
         if (!platform::GoesOn(step, done++, installed.size())) return false;
         const fs::path copy = *target / module.filename();
-        if (!sameContent(module, copy)) platform::copyFileOver(module, copy);
+        if (!sameContent(module, copy) && !platform::copyFileOver(module, copy) && !isThere(copy))
+            return notMade(copy);
     }
     return true;
 }
@@ -188,7 +189,9 @@ Result<std::unique_ptr<Machine>> OpenOwnMachine(const fs::path& folder, const In
     auto machine = std::make_unique<Machine>(folder, *std::move(config), *std::move(registry));
     const auto changed = complete(*machine, options);
     if (!changed) return changed.failure();
-    if (!updateModules(*machine, options, step)) return std::unique_ptr<Machine>();
+    const auto updated = updateModules(*machine, options, step);
+    if (!updated) return updated.failure();
+    if (!*updated) return std::unique_ptr<Machine>();
     // `flushRegistry` takes the same lock.
     lock.reset();
     if (letters != remembered) RememberLetters(machine->registry(), letters);

@@ -12,10 +12,26 @@ namespace fs = std::filesystem;
 
 namespace {
 
+/// A page with its glossary is far smaller.
+constexpr std::size_t kRoomForPages = std::size_t{1} << 20;
+
+/// Whether that many bytes can be written into the folder: the disk may be full, or the user's share of it.
+bool hasRoom(const fs::path& folder) {
+    std::string name = (folder / "room-XXXXXX").string();
+    const int made = ::mkstemp(name.data());
+    if (made < 0) return false;
+    // By its name no one needs it, and nothing stays when the process is ended by force.
+    ::unlink(name.c_str());
+    const std::string bytes(kRoomForPages, '\0');
+    const bool written = ::write(made, bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size());
+    // A network folder may tell of a full disk only now.
+    return ::close(made) == 0 && written;
+}
+
 bool canBeWritten(const platform::FileSystem& files, const std::string& folder) {
     files.createFolder(folder);
     const auto native = files.nativePath(folder);
-    return native && files.isFolder(folder) && ::access(native->c_str(), W_OK | X_OK) == 0;
+    return native && files.isFolder(folder) && hasRoom(*native);
 }
 
 /// Empty when none can be made.

@@ -6,8 +6,8 @@
 
 namespace kalyxo {
 
-/// Where the cache folder of the program cannot be written, as in a home that is read-only, a temporary
-/// folder of the host takes its place and is removed with the object. Elsewhere nothing changes.
+/// Where the cache folder of the program cannot be written, as in a home that is read-only or full, a
+/// temporary folder of the host takes its place and is removed with the object. Elsewhere nothing changes.
 class SpareCache {
   public:
     explicit SpareCache(platform::Machine& machine);

@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 #include <pwd.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <future>
 #include <vector>
 
@@ -37,6 +39,26 @@ class OwnMachine : public testing::Test {
     }
 
     TestFolder root_;
+};
+
+/// As long as it exists, files cannot be longer than `bytes`, as on a disk that is full.
+class LongestFile {
+  public:
+    explicit LongestFile(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+        ::getrlimit(RLIMIT_FSIZE, &former_);
+        const rlimit limit{bytes, former_.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~LongestFile() {
+        ::setrlimit(RLIMIT_FSIZE, &former_);
+        std::signal(SIGXFSZ, handler_);
+    }
+    LongestFile(const LongestFile&) = delete;
+    LongestFile& operator=(const LongestFile&) = delete;
+
+  private:
+    rlimit former_{};
+    void (*handler_)(int);
 };
 
 TEST_F(OwnMachine, FirstStartNeedsNoQuestion) {
@@ -147,6 +169,21 @@ TEST_F(OwnMachine, ContentThatIsInstalledLaterIsTheDisc) {
     EXPECT_EQ((*opened)->files().driveType('D'), platform::DriveType::cdrom);
 }
 
+TEST_F(OwnMachine, ModuleThatFindsNoRoomIsNamedAndMadeAtALaterStart) {
+    root_.write(installedModule, std::string(20000, 'x'));
+    {
+        const LongestFile full(10000);
+        const auto opened = open();
+        ASSERT_FALSE(opened);
+        EXPECT_NE(opened.message().find(copiedModule), std::string::npos) << opened.message();
+    }
+    ASSERT_TRUE(open());
+    EXPECT_EQ(root_.read(copiedModule).size(), 20000U);
+    root_.write(installedModule, std::string(30000, 'y'));
+    const LongestFile full(10000);
+    EXPECT_TRUE(open()) << "an older module will do";
+}
+
 TEST_F(OwnMachine, EachCauseHasItsMessageAndNamesTheFile) {
     ASSERT_TRUE(open());
     const auto says = [this](std::string_view words, const std::string& name) {
@@ -186,9 +223,16 @@ TEST_F(OwnMachine, CacheThatCannotBeWrittenLiesElsewhereUntilTheEnd) {
         EXPECT_TRUE(fs::exists(elsewhere / "1.htm"));
     }
     EXPECT_FALSE(fs::exists(elsewhere));
-    const auto usual = open();
     fs::remove(root_ / "own/c/Kalyxo/cache");
+    {
+        const auto crowded = open();
+        const LongestFile full(10000);
+        const SpareCache spare(**crowded);
+        EXPECT_NE((*crowded)->files().nativePath("C:\\Kalyxo\\cache"), root_ / "own/c/Kalyxo/cache");
+    }
+    const auto usual = open();
     const SpareCache none(**usual);
+    EXPECT_TRUE(fs::is_empty(root_ / "own/c/Kalyxo/cache"));
     EXPECT_EQ((*usual)->files().nativePath("C:\\Kalyxo\\cache"), root_ / "own/c/Kalyxo/cache");
 }
 
