@@ -12,6 +12,7 @@
 
 #include "platform/browser/EngineFlags.h"
 #include "platform/browser/EngineLibrary.h"
+#include "platform/browser/UserNamespaces.h"
 #include "platform/browser/WebBrowserComponent.h"
 #include "platform/components/ComponentHost.h"
 
@@ -21,14 +22,23 @@ namespace {
 
 constexpr const char* sandboxVariable = "QTWEBENGINE_DISABLE_SANDBOX";
 constexpr const char* quickVariable = "QT_QUICK_BACKEND";
+constexpr const char* namespacesOff = "--disable-namespace-sandbox";
 
-void setUpSandbox() {
+void tell(std::string_view line) { std::fwrite(line.data(), 1, line.size(), stderr); }
+
+/// False when the host refuses the sandbox.
+bool setUpSandbox() {
     const bool isRoot = ::geteuid() == 0;
     const QByteArray flags = qgetenv(engineFlagsVariable);
     const auto missing = missingSandbox(isRoot, qEnvironmentVariableIsSet(sandboxVariable),
                                         {flags.constData(), static_cast<std::size_t>(flags.size())});
-    std::fwrite(missing.data(), 1, missing.size(), stderr);
+    tell(missing);
     if (isRoot) qputenv(sandboxVariable, "1");
+    if (!missing.empty() || userNamespacesWork()) return true;
+    tell("User namespaces are refused: the browser engine runs without all of its sandbox.\n");
+    // With some refusals the engine would end this process when it tries by itself.
+    qputenv(engineFlagsVariable, flags.isEmpty() ? QByteArray(namespacesOff) : flags + ' ' + namespacesOff);
+    return false;
 }
 
 std::unique_ptr<Component> makeBrowser(ComponentSite& site, QWidget* container) {
@@ -38,7 +48,7 @@ std::unique_ptr<Component> makeBrowser(ComponentSite& site, QWidget* container) 
 }  // namespace
 
 std::string_view missingSandbox(bool isRoot, bool isSwitchedOff, std::string_view flags) {
-    constexpr std::array switches = {"--no-sandbox", "--single-process", "--disable-namespace-sandbox",
+    constexpr std::array switches = {"--no-sandbox", "--single-process", namespacesOff,
                                      "--disable-seccomp-filter-sandbox"};
     if (isRoot) return "Started as root: the browser engine runs without its sandbox.\n";
     if (isSwitchedOff) return "QTWEBENGINE_DISABLE_SANDBOX: the browser engine runs without its sandbox.\n";
@@ -47,9 +57,9 @@ std::string_view missingSandbox(bool isRoot, bool isSwitchedOff, std::string_vie
     return isGiven ? "QTWEBENGINE_CHROMIUM_FLAGS: the browser engine runs without all of its sandbox.\n" : "";
 }
 
-void prepareProcess() {
+bool prepareProcess() {
     ComponentHost::addBuiltIn(std::string(WebBrowserComponent::classId), makeBrowser);
-    setUpSandbox();
+    const bool isAllowed = setUpSandbox();
     setEngineFlags();
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     // Qt Quick, which shows what the engine draws, then draws only what has changed.
@@ -57,6 +67,7 @@ void prepareProcess() {
         qputenv(quickVariable, "software");
     // The engine lists its graphics set-up at every start without a screen.
     QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext*=false"));
+    return isAllowed;
 }
 
 }  // namespace platform

@@ -44,15 +44,12 @@ void tellOfPrint(const std::string& file, bool written) {
     QTimer::singleShot(0, qApp, [text] { AfxMessageBox(text); });
 }
 
-std::unique_ptr<QApplication> makeApplication(int& argc, char** argv) {
-    prepareProcess();
-    return std::make_unique<QApplication>(argc, argv);
-}
-
 }  // namespace
 
 Desktop::Desktop(int& argc, char** argv)
-    : application_(makeApplication(argc, argv)), printDialogTexts_(std::make_unique<PrintDialogTexts>()) {
+    : allowsSandbox_(prepareProcess()),
+      application_(std::make_unique<QApplication>(argc, argv)),
+      printDialogTexts_(std::make_unique<PrintDialogTexts>()) {
     QCoreApplication::installTranslator(printDialogTexts_.get());
     // By this name the desktop finds the icon for the program's windows.
     QGuiApplication::setDesktopFileName(toQt(Resources().iconName));

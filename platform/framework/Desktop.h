@@ -23,6 +23,9 @@ class Desktop {
     Desktop(const Desktop&) = delete;
     Desktop& operator=(const Desktop&) = delete;
 
+    /// Whether the host allows the sandbox in which pages are locked, or someone has switched that off.
+    bool allowsSandbox() const { return allowsSandbox_; }
+
     /// The first screen.
     ScreenConfig screen() const;
     /// The metrics that depend on the screen, by name: the size of a maximised window, whose borders are
@@ -34,6 +37,7 @@ class Desktop {
     PrinterConfig printer() const;
 
   private:
+    bool allowsSandbox_;
     std::unique_ptr<QApplication> application_;
     std::unique_ptr<PrintDialogTexts> printDialogTexts_;
 };

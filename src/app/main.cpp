@@ -16,6 +16,7 @@ namespace {
 
 constexpr int kNoMachine = 1;
 constexpr int kWrongArguments = 2;
+constexpr int kNoSandbox = 3;
 
 kalyxo::Arguments behindName(int argc, char** argv) {
     return kalyxo::Arguments(argv, static_cast<std::size_t>(argc)).subspan(argc > 0 ? 1 : 0);
@@ -50,6 +51,10 @@ int main(int argc, char** argv) {
     const platform::Desktop desktop(argc, argv);
     const auto dataFolder = kalyxo::GivenDataFolder(behindName(argc, argv));
     if (!dataFolder) return complain(dataFolder.failure().message);
+    if (!desktop.allowsSandbox()) {
+        platform::AfxMessageBox(platform::LoadString(kalyxo::IDS_START_NO_SANDBOX));
+        return kNoSandbox;
+    }
     const auto opened = openMachine(desktop);
     if (!opened) return kNoMachine;
     platform::setMachine(opened.get());

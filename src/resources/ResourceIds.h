@@ -78,6 +78,7 @@ inline constexpr platform::UINT IDS_NO_MOLECULE_ZOOM = 61346;
 inline constexpr platform::UINT IDS_START_NOT_MADE = 61347;
 inline constexpr platform::UINT IDS_START_NOT_READ = 61348;
 inline constexpr platform::UINT IDS_START_DAMAGED = 61349;
+inline constexpr platform::UINT IDS_START_NO_SANDBOX = 61350;
 
 /// Dialog ids.
 inline constexpr platform::UINT IDD_ABOUT = 100;

@@ -113,6 +113,11 @@ constexpr std::array kStrings = {
     StringResource{IDS_START_DAMAGED,
                    "Το Kalyxo δεν μπορεί να ξεκινήσει, γιατί αυτό το αρχείο είναι κατεστραμμένο:\r\n\r\n%s"
                    "\r\n\r\nΔιορθώστε ή διαγράψτε το αρχείο, και ξεκινήστε το πάλι."_gr},
+    StringResource{
+        IDS_START_NO_SANDBOX,
+        "Το Kalyxo δεν ξεκινά, γιατί αυτός ο υπολογιστής δεν του επιτρέπει να απομονώνει τις "
+        "σελίδες από το υπόλοιπο σύστημα.\r\n\r\nΟ διαχειριστής του υπολογιστή πρέπει να επιτρέψει "
+        "τα «user namespaces» στο Kalyxo. Το πώς το γράφει η εντολή «man kalyxo»."_gr},
 };
 
 constexpr bool idsDiffer() {

@@ -1,9 +1,11 @@
+#include <sched.h>
 #include <unistd.h>
 
 #include <QWebEngineView>
 #include <fstream>
 
 #include "platform/browser/BrowserProcess.h"
+#include "platform/browser/UserNamespaces.h"
 #include "tests/support/browser/BrowserMachine.h"
 
 using namespace platform;
@@ -38,6 +40,16 @@ TEST(MissingSandbox, IsToldWithItsReason) {
         const auto line = missingSandbox(isRoot, isSwitchedOff, flags);
         EXPECT_TRUE(line.starts_with(told) && line.empty() == (*told == 0)) << flags << ": " << line;
     }
+}
+
+TEST(MissingSandbox, UserNamespacesDoNotWorkWhereTheHostRefusesThem) {
+    const auto tryInTheDeepest = [] {
+        // The host allows so many within each other, or none.
+        while (::unshare(CLONE_NEWUSER) == 0) {
+        }
+        ::_exit(userNamespacesWork() ? 1 : 0);
+    };
+    EXPECT_EXIT(tryInTheDeepest(), testing::ExitedWithCode(0), "");
 }
 
 class Sandbox : public BrowserMachine {};
