@@ -5,9 +5,11 @@
 #include "platform/dialogs/Progress.h"
 #include "platform/framework/Desktop.h"
 #include "platform/framework/Run.h"
+#include "platform/text/CodePage1253.h"
 #include "src/app/KalyxoApp.h"
 #include "src/host/CommandLine.h"
 #include "src/host/OwnMachine.h"
+#include "src/host/SharedContent.h"
 #include "src/host/SpareCache.h"
 #include "src/resources/ResourceIds.h"
 #include "src/resources/ResourceTable.h"
@@ -27,12 +29,28 @@ int complain(const std::string& problem) {
     return kWrongArguments;
 }
 
+/// The content folder that is set for all users; empty, and told, when it holds none.
+std::filesystem::path sharedContent() {
+    auto folder = kalyxo::SharedContentFolder(kalyxo::kSharedSettingsFile);
+    if (folder.empty() || kalyxo::HoldsContent(folder)) return folder;
+    std::string text(platform::LoadString(kalyxo::IDS_NO_SHARED_CONTENT));
+    platform::AfxMessageBox(text.replace(text.find("%s"), 2, platform::fromUtf8(folder.string())));
+    return {};
+}
+
+kalyxo::InstalledFiles findFiles(bool needsContent) {
+    auto files = kalyxo::FindInstalledFiles(kalyxo::RunningProgramsFolder());
+    if (needsContent) files.shared = sharedContent();
+    return files;
+}
+
 /// The user's machine; null when the user cancels, or is told why it cannot be opened.
-std::unique_ptr<platform::Machine> openMachine(const platform::Desktop& desktop) {
+std::unique_ptr<platform::Machine> openMachine(const platform::Desktop& desktop,
+                                               const kalyxo::InstalledFiles& installed) {
     std::optional<platform::CProgress> progress(platform::LoadString(kalyxo::IDS_PREPARING_MACHINE));
-    auto opened = kalyxo::OpenOwnMachine(
-        kalyxo::OwnMachineFolder(), kalyxo::FindInstalledFiles(kalyxo::RunningProgramsFolder()),
-        {desktop.screen(), desktop.metrics(), desktop.printer()}, kalyxo::PresentMedia(), progress->Step());
+    auto opened = kalyxo::OpenOwnMachine(kalyxo::OwnMachineFolder(), installed,
+                                         {desktop.screen(), desktop.metrics(), desktop.printer()},
+                                         kalyxo::PresentMedia(), progress->Step());
     progress.reset();
     if (opened) return *std::move(opened);
     platform::AfxMessageBox(opened.failure().message);
@@ -55,7 +73,7 @@ int main(int argc, char** argv) {
         platform::AfxMessageBox(platform::LoadString(kalyxo::IDS_START_NO_SANDBOX));
         return kNoSandbox;
     }
-    const auto opened = openMachine(desktop);
+    const auto opened = openMachine(desktop, findFiles(dataFolder->empty()));
     if (!opened) return kNoMachine;
     platform::setMachine(opened.get());
     const kalyxo::SpareCache cache(*opened);

@@ -4,6 +4,8 @@
 #include <string>
 #include <system_error>
 
+#include "src/host/SharedContent.h"
+
 namespace kalyxo {
 
 namespace fs = std::filesystem;
@@ -30,7 +32,7 @@ bool areAmong(Arguments arguments, std::string_view option) {
 Result<fs::path> contentFolder(std::string_view path) {
     std::error_code error;
     fs::path folder = fs::canonical(path, error);
-    if (!error && fs::is_regular_file(folder / "a.htm", error)) return folder;
+    if (!error && HoldsContent(folder)) return folder;
     return Failure{std::string(path) + ": ο φάκελος δεν υπάρχει ή δεν έχει αρχική σελίδα (a.htm)"};
 }
 

@@ -122,6 +122,7 @@ void followPresent(MachineConfig& config, const InstalledFiles& installed, const
     config.screen = present.screen;
     config.printer = present.printer;
     for (const auto& [name, value] : present.metrics) config.metrics[name] = value;
+    if (!installed.shared.empty()) config.drives[kDiscLetter] = discDrive(installed.shared);
     const auto disc = config.drives.find(kDiscLetter);
     std::error_code ignored;
     const bool there = disc != config.drives.end() &&

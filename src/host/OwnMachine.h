@@ -28,11 +28,11 @@ std::filesystem::path OwnMachineFolder();
 /// Opens the user's machine. At the first start it is made from what is installed, with the host's whole file
 /// system as drive Z:; at later starts what is missing of it is made again. At every start the screen's
 /// measures are those of the present screen, component modules that differ from the installed ones are
-/// replaced, a compact disc that is missing, or whose folder is, is the installed content, and the media are
-/// drives (see `AddMediaDrives`). Several programs may do so at once: one makes the machine, the others wait
-/// for it. The failure's message is for the user, in code page 1253; a file that is damaged is left as it is.
-/// `step` is told of the modules, which may lie on a slow medium; once it cancels, the value is null, and the
-/// next start goes on where this one stopped.
+/// replaced, the compact disc is the content that is set for all users or, where it is missing or its folder
+/// is, the installed content, and the media are drives (see `AddMediaDrives`). Several programs may do so at
+/// once: one makes the machine, the others wait for it. The failure's message is for the user, in code page
+/// 1253; a file that is damaged is left as it is. `step` is told of the modules, which may lie on a slow
+/// medium; once it cancels, the value is null, and the next start goes on where this one stopped.
 platform::Result<std::unique_ptr<platform::Machine>> OpenOwnMachine(const std::filesystem::path& folder,
                                                                     const InstalledFiles& installed,
                                                                     const PresentScreen& present,

@@ -79,6 +79,8 @@ inline constexpr platform::UINT IDS_START_NOT_MADE = 61347;
 inline constexpr platform::UINT IDS_START_NOT_READ = 61348;
 inline constexpr platform::UINT IDS_START_DAMAGED = 61349;
 inline constexpr platform::UINT IDS_START_NO_SANDBOX = 61350;
+/// "%s" is the folder that the settings for all users name.
+inline constexpr platform::UINT IDS_NO_SHARED_CONTENT = 61351;
 
 /// Dialog ids.
 inline constexpr platform::UINT IDD_ABOUT = 100;

@@ -10,6 +10,7 @@
 #include "platform/base/Resources.h"
 #include "platform/text/CodePage1253.h"
 #include "src/host/OwnMachine.h"
+#include "src/host/SharedContent.h"
 #include "src/host/SpareCache.h"
 #include "src/resources/ResourceTable.h"
 #include "src/state/Settings.h"
@@ -35,7 +36,9 @@ class OwnMachine : public testing::Test {
     platform::Result<std::unique_ptr<platform::Machine>> open(const std::vector<MountedMedium>& media = {},
                                                               const platform::ProgressStep& step = {}) const {
         const PresentScreen present{{1280, 800, 24}, {{"SM_CXMAXIMIZED", 1288}}};
-        return OpenOwnMachine(root_ / "own", FindInstalledFiles(root_ / "bin"), present, media, step);
+        InstalledFiles installed = FindInstalledFiles(root_ / "bin");
+        installed.shared = SharedContentFolder(root_ / "kalyxo.conf");
+        return OpenOwnMachine(root_ / "own", installed, present, media, step);
     }
 
     TestFolder root_;
@@ -167,6 +170,28 @@ TEST_F(OwnMachine, ContentThatIsInstalledLaterIsTheDisc) {
     ASSERT_TRUE(opened);
     EXPECT_TRUE((*opened)->files().exists("D:\\a.htm"));
     EXPECT_EQ((*opened)->files().driveType('D'), platform::DriveType::cdrom);
+}
+
+TEST_F(OwnMachine, ContentThatIsSetForAllUsersIsTheDiscAsLongAsItIsSet) {
+    root_.write("class/a.htm", "for the class");
+    const auto start = [this] {
+        const auto opened = open();
+        return opened ? (*opened)->files().readAll("D:\\a.htm", 100).value_or("") : opened.message();
+    };
+    const std::string folder = root_ / "class";
+    const std::string lines[] = {"content = " + folder,
+                                 "# content = /x\r\n\tcontent=" + folder + " \r\nother = 1",
+                                 "content = /x\ncontent = " + folder};
+    for (const std::string& text : lines) {
+        root_.write("kalyxo.conf", text);
+        EXPECT_EQ(start(), "for the class") << text;
+        root_.write("kalyxo.conf", "#" + text.substr(0, 9) + "\ncontent = class\ncontents = " + folder);
+        EXPECT_EQ(start(), "<HTML>");
+    }
+    fs::remove(root_ / "kalyxo.conf");
+    EXPECT_EQ(start(), "<HTML>");
+    EXPECT_TRUE(HoldsContent(folder));
+    EXPECT_FALSE(HoldsContent(root_ / "bin"));
 }
 
 TEST_F(OwnMachine, ModuleThatFindsNoRoomIsNamedAndMadeAtALaterStart) {
