@@ -15,14 +15,17 @@ make_root() {
     cp "${NODE_EXTRA_CA_CERTS:-/dev/null}" "$1/etc/npm-certificates.pem"
 }
 
-# in_root DIR COMMAND…: runs a command in it, with /proc and /dev, which go with the command.
+# in_root DIR COMMAND…: runs a command in it, with /proc and /dev, which go with the command. It is moved to where
+# the root is: after a mere chroot the system would refuse user namespaces, and with them the browser engine's sandbox.
 in_root() {
     unshare --mount --pid --fork bash -euc '
+        mount --bind "$1" "$1"
         mount -t proc proc "$1/proc"
         mount --rbind /dev "$1/dev"
-        mount -t tmpfs tmpfs "$1/dev/shm"
-        root=$1
+        mount -t tmpfs -o mode=1777 tmpfs "$1/dev/shm"
+        cd "$1"
         shift
+        mount --move . /
         exec env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/srv LANG=C.UTF-8 DEBIAN_FRONTEND=noninteractive \
-            NODE_EXTRA_CA_CERTS=/etc/npm-certificates.pem QT_QPA_PLATFORM=offscreen chroot "$root" "$@"' in_root "$@"
+            NODE_EXTRA_CA_CERTS=/etc/npm-certificates.pem QT_QPA_PLATFORM=offscreen chroot . "$@"' in_root "$@"
 }
