@@ -35,7 +35,7 @@ bool setUpSandbox() {
     tell(missing);
     if (isRoot) qputenv(sandboxVariable, "1");
     if (!missing.empty() || userNamespacesWork()) return true;
-    tell("User namespaces are refused: the browser engine runs without all of its sandbox.\n");
+    tell("This machine refuses user namespaces, which the sandbox of the browser engine is made of.\n");
     // With some refusals the engine would end this process when it tries by itself.
     qputenv(engineFlagsVariable, flags.isEmpty() ? QByteArray(namespacesOff) : flags + ' ' + namespacesOff);
     return false;
