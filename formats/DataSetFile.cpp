@@ -7,18 +7,15 @@
 #include <limits>
 #include <span>
 
+#include "platform/text/Trimmed.h"
+
 namespace formats {
 
 namespace {
 
-constexpr std::string_view blanks = " \t";
-constexpr std::string_view headEnd = "---";
+using platform::trimmed;
 
-std::string_view trimmed(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
+constexpr std::string_view headEnd = "---";
 
 std::vector<std::string_view> split(std::string_view text, char separator) {
     std::vector<std::string_view> parts;

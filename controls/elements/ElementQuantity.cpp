@@ -1,5 +1,6 @@
 #include "controls/elements/ElementQuantity.h"
 
+#include <algorithm>
 #include <array>
 
 #include "controls/elements/NumberText.h"
@@ -90,6 +91,11 @@ std::string quantityText(const Element& element, Quantity quantity) {
     if (quantity != Quantity::discovery) return figureOf(element, quantity).withComma();
     return element.discovered == antiquity ? std::string("αρχαιότητα"_gr)
                                            : std::to_string(element.discovered);
+}
+
+std::string celsiusText(const Figure& kelvin) {
+    const auto value = kelvin.value();
+    return value ? fixedNumber(*value - zeroCelsius, std::min(kelvin.decimals(), 1)) : std::string();
 }
 
 }  // namespace controls

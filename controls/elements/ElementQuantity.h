@@ -36,4 +36,8 @@ std::optional<double> quantityValue(const Element& element, Quantity quantity);
 /// year of an element known in antiquity is "αρχαιότητα".
 std::string quantityText(const Element& element, Quantity quantity);
 
+/// A temperature in °C with decimal comma, with as many decimals as are known of it in K, but at most one;
+/// empty when it is not known.
+std::string celsiusText(const Figure& kelvin);
+
 }  // namespace controls

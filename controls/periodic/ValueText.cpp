@@ -24,11 +24,7 @@ QString withPower(double value) {
     return toQt(shortNumber(factor, 3)) + QStringLiteral("·") + raised;
 }
 
-/// A temperature in °C, with as many decimals as are known of it in K, but at most one.
-QString celsius(const Figure& kelvin) {
-    const double value = kelvin.value().value_or(0) - zeroCelsius;
-    return withMinus(toQt(fixedNumber(value, std::min(kelvin.decimals(), 1))));
-}
+QString celsius(const Figure& kelvin) { return withMinus(toQt(celsiusText(kelvin))); }
 
 /// Whether an atom binds no further electron: it gains no energy, and how much it would need is not measured.
 bool gainsNothing(Quantity quantity, double value) {

@@ -7,6 +7,7 @@
 
 #include "platform/files/ReplaceFile.h"
 #include "platform/text/CodePage1253.h"
+#include "platform/text/Trimmed.h"
 
 namespace platform {
 
@@ -15,11 +16,8 @@ namespace {
 /// No INI file is longer; a longer file is something else and is left alone.
 constexpr std::size_t maxFileBytes = 1 << 20;
 
-std::string_view trimmed(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(" \t\r\n");
-    if (first == text.npos) return {};
-    return text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1);
-}
+/// Line ends too: lines are kept with theirs.
+constexpr std::string_view blanks = " \t\r\n";
 
 /// Lines with their line ends.
 std::vector<std::string> splitLines(std::string_view text) {
@@ -35,10 +33,10 @@ std::vector<std::string> splitLines(std::string_view text) {
 
 /// The name in brackets, when the line is a section's head.
 std::optional<std::string_view> sectionName(std::string_view line) {
-    const std::string_view text = trimmed(line);
+    const std::string_view text = trimmed(line, blanks);
     const std::size_t end = text.find(']');
     if (!text.starts_with('[') || end == text.npos) return std::nullopt;
-    return trimmed(text.substr(1, end - 1));
+    return trimmed(text.substr(1, end - 1), blanks);
 }
 
 bool isSection(std::string_view line, std::string_view section) {
@@ -48,7 +46,7 @@ bool isSection(std::string_view line, std::string_view section) {
 
 bool hasKey(std::string_view line, std::string_view key) {
     const std::size_t equals = line.find('=');
-    return equals != line.npos && equalsNoCase(trimmed(line.substr(0, equals)), key);
+    return equals != line.npos && equalsNoCase(trimmed(line.substr(0, equals), blanks), key);
 }
 
 void endLine(std::string& line) {
@@ -69,7 +67,7 @@ void setInSection(std::vector<std::string>& lines, std::size_t first, std::strin
             lines[i] = std::move(line);
             return;
         }
-        if (!trimmed(lines[i]).empty()) afterLastText = i + 1;
+        if (!trimmed(lines[i], blanks).empty()) afterLastText = i + 1;
     }
     insertLine(lines, afterLastText, std::move(line));
 }

@@ -11,9 +11,6 @@ namespace elementc {
 
 namespace {
 
-// The mean Gregorian year.
-constexpr double secondsPerYear = 31'556'952;
-
 constexpr std::array<std::pair<std::string_view, double>, 5> timeUnits{
     {{"s", 1}, {"min", 60}, {"h", 3600}, {"d", 86'400}, {"y", secondsPerYear}}};
 

@@ -11,6 +11,9 @@
 
 namespace elementc {
 
+/// Of the mean Gregorian year.
+inline constexpr double secondsPerYear = 31'556'952;
+
 /// Which isotope: atomic number and mass number.
 struct IsotopeKey {
     int element = 0;

@@ -33,7 +33,6 @@ std::span<const Isotope> isotopes() { return table; }
 }  // namespace controls
 )";
 
-constexpr double oneYear = 31'556'952;
 constexpr std::size_t longestLivedCount = 4;
 // How far the abundances of an element may miss 100 %, by rounding.
 constexpr double allowedMiss = 0.1;
@@ -54,7 +53,7 @@ std::vector<IsotopeRow> chosenOf(const Isotopes& isotopes, int element) {
     std::ranges::stable_sort(radioactive, std::greater(),
                              [](const IsotopeRow& row) { return row.second.halfLife; });
     for (std::size_t i = 0; i < radioactive.size(); ++i) {
-        if (i < longestLivedCount || radioactive[i].second.halfLife >= oneYear)
+        if (i < longestLivedCount || radioactive[i].second.halfLife >= secondsPerYear)
             natural.push_back(radioactive[i]);
     }
     std::ranges::sort(natural, {}, [](const IsotopeRow& row) { return row.first; });

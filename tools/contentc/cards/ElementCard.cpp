@@ -53,13 +53,9 @@ std::string electrons(const Element& element) {
     return shells + "<BR>" + subshells(element.configuration) + note;
 }
 
-/// A temperature in °C, with as many decimals as are known of it in K, but at most one.
 std::string celsius(const Figure& kelvin) {
-    const auto value = kelvin.value();
-    if (!value) return {};
-    const std::string number =
-        controls::fixedNumber(*value - controls::zeroCelsius, std::min(kelvin.decimals(), 1));
-    return numberHtml(number) + "&nbsp;&deg;C";
+    const std::string number = controls::celsiusText(kelvin);
+    return number.empty() ? number : numberHtml(number) + "&nbsp;&deg;C";
 }
 
 CardRow melting(const Element& element) {

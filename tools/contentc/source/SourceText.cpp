@@ -148,13 +148,6 @@ SourcePlace placeOfBytes(std::string_view part, const TextLine& line) {
     return {line.place.file, line.place.line, std::max(line.place.column, 1) + offset};
 }
 
-std::string_view trimmed(std::string_view text) {
-    constexpr std::string_view blanks = " \t";
-    const std::size_t first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
-
 std::optional<std::int32_t> parseNumber(std::string_view text) {
     std::int32_t number = 0;
     const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);

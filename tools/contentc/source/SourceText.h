@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/text/Trimmed.h"
 #include "tools/contentc/source/Diagnostics.h"
 #include "tools/contentc/source/SourceTree.h"
 
@@ -36,8 +37,7 @@ SourcePlace placeOf(std::string_view part, const TextLine& line);
 /// The same for a part of a text in code page 1253.
 SourcePlace placeOfBytes(std::string_view part, const TextLine& line);
 
-/// The text without blanks and tabs at its ends.
-std::string_view trimmed(std::string_view text);
+using platform::trimmed;
 
 /// The text as a decimal number. Nothing when it is something else or does not fit into 32 bits.
 std::optional<std::int32_t> parseNumber(std::string_view text);
