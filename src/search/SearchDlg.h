@@ -39,7 +39,7 @@ class CSearchDlg : public platform::CDialog {
     void OnWordEdited();
     void OnWordPicked();
     void OnAlternatives();
-    void RunSearch();
+    void OnRun();
     platform::LRESULT OnResultClicked(platform::NMHDR& notification);
     platform::LRESULT OnResultActivated(platform::NMHDR& notification);
     platform::LRESULT OnResultsLeft(platform::NMHDR& notification);
@@ -49,10 +49,10 @@ class CSearchDlg : public platform::CDialog {
     bool loadIndex();
     void insertColumns();
     void restoreSearch();
-    void UpdateSearchButton();
+    void updateSearchButton();
     void listSearchWords();
-    void AddResultRow(const ResultRow& row);
-    void SortResults(int column);
+    void addResultRow(const ResultRow& row);
+    void sortResults(int column);
 
     const platform::FileSystem& m_files;
     std::string m_dataFolder;

@@ -11,9 +11,6 @@
 /// A data folder with the files of the word search, on drive D:.
 class SearchFolder : public TestDrives {
   public:
-    void putWords(const std::vector<std::string>& words) {
-        put("D:\\words.ndx", *formats::encodeWordIndex(words));
-    }
     void putAlternatives(const std::vector<formats::AlternativeRecord>& records) {
         put("D:\\words.alt", *formats::encodeAlternatives(records));
     }
