@@ -24,8 +24,8 @@ std::string WriteBookmarks(const BookmarkArray& records);
 inline constexpr std::size_t kMaxBookmarkBytes = std::size_t{16} * 1024 * 1024;
 inline constexpr std::size_t kMaxBookmarks = 0x20000;
 
-enum class BookmarkLoad { loaded, noFile, damaged };
-enum class BookmarkSave { saved, notCreated, notWritten };
+enum class BookmarkLoad { loaded, noFile, damaged };        ///< how loading ended
+enum class BookmarkSave { saved, notCreated, notWritten };  ///< how saving ended
 
 /// The bookmark file during one run of the program, which reads it at its start and writes it at its end.
 /// Several programs on one machine may do so.

@@ -24,7 +24,7 @@ Place placeOf(int number);
 /// The atomic number of the element at a place, 0 when there is none.
 int elementAt(Place place);
 
-enum class Step { left, right, up, down };
+enum class Step { left, right, up, down };  ///< where an arrow key leads
 
 /// The atomic number one step away: left and right by one, up and down to the next element of the column.
 /// Where the table ends, the number stays. From 0 (no element) every step leads to hydrogen.
