@@ -91,6 +91,10 @@ FileHandle FileHandle::openForWriting(const std::string& path, bool create) {
     return FileHandle(openRetrying(path, O_WRONLY | O_TRUNC | (create ? O_CREAT : 0)));
 }
 
+FileHandle FileHandle::openForOverwriting(const std::string& path) {
+    return FileHandle(openRetrying(path, O_WRONLY | O_CREAT));
+}
+
 FileHandle FileHandle::createNew(const std::string& path) {
     return FileHandle(openRetrying(path, O_WRONLY | O_CREAT | O_EXCL));
 }
@@ -139,6 +143,21 @@ bool FileHandle::write(const void* bytes, std::size_t size) {
         size -= static_cast<std::size_t>(written);
     }
     return true;
+}
+
+bool FileHandle::overwrite(std::string_view bytes) {
+    return reserve(bytes.size()) && write(bytes.data(), bytes.size()) &&
+           (size() <= bytes.size() || ::ftruncate(descriptor_, static_cast<off_t>(bytes.size())) == 0);
+}
+
+/// Makes sure that the medium has room for so many bytes; false when it has not. What cannot reserve room,
+/// such as a device, counts as having it.
+bool FileHandle::reserve(std::size_t size) {
+    const std::uint64_t former = this->size();
+    if (size <= former) return true;
+    const int error =
+        ::posix_fallocate(descriptor_, static_cast<off_t>(former), static_cast<off_t>(size - former));
+    return error != ENOSPC && error != EDQUOT && error != EFBIG;
 }
 
 bool FileHandle::sync() { return ::fsync(descriptor_) == 0; }

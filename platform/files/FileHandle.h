@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "platform/files/ProgressStep.h"
@@ -40,6 +41,10 @@ class FileHandle {
     /// handle when that fails; never waits for the other end of a pipe.
     static FileHandle openForWriting(const std::string& path, bool create);
 
+    /// Opens a file for writing and leaves what it holds; creates a missing one. A closed handle when that
+    /// fails; never waits for the other end of a pipe.
+    static FileHandle openForOverwriting(const std::string& path);
+
     /// Opens what has that name, in most cases a folder, to lock it and not to read it; a closed handle when
     /// that fails.
     static FileHandle openForLocking(const std::string& path);
@@ -59,6 +64,10 @@ class FileHandle {
     /// Writes all bytes; false when that fails at any of them.
     bool write(const void* bytes, std::size_t size);
 
+    /// Writes these bytes in the place of all that the file holds; false when that fails. On a full disk the
+    /// former bytes stay, with or without others behind them.
+    bool overwrite(std::string_view bytes);
+
     /// Makes sure that what was written has reached the medium.
     bool sync();
 
@@ -77,6 +86,7 @@ class FileHandle {
 
     static FileHandle openByRealPath(const FileHandle& root, const std::string& path);
     FileHandle onlyIfRegular() &&;
+    bool reserve(std::size_t size);
     bool liesBelow(const FileHandle& folder) const;
 
     int descriptor_ = -1;

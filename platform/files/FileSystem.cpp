@@ -169,6 +169,12 @@ bool FileSystem::exists(std::string_view dosPath) const {
     return native && fs::exists(*native, ignored);
 }
 
+bool FileSystem::isMissing(std::string_view dosPath) const {
+    const auto native = nativePath(dosPath);
+    std::error_code ignored;
+    return !native || fs::status(*native, ignored).type() == fs::file_type::not_found;
+}
+
 bool FileSystem::isFolder(std::string_view dosPath) const {
     const auto native = nativePath(dosPath);
     std::error_code ignored;

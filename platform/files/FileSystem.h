@@ -70,6 +70,8 @@ class FileSystem {
 
     /// Whether there is a file or folder of that name.
     bool exists(std::string_view dosPath) const;
+    /// Whether there is certainly no file or folder of that name: not when the host cannot tell.
+    bool isMissing(std::string_view dosPath) const;
     /// Whether there is a folder of that name.
     bool isFolder(std::string_view dosPath) const;
 

@@ -86,7 +86,7 @@ void setKey(std::vector<std::string>& lines, std::string_view section, std::stri
 bool writeProfileString(const FileSystem& files, std::string_view dosPath, std::string_view section,
                         std::string_view key, std::string_view value) {
     std::string content;
-    if (files.exists(dosPath)) {
+    if (!files.isMissing(dosPath)) {
         auto old = files.readAll(dosPath, maxFileBytes);
         if (!old) return false;
         content = std::move(*old);

@@ -126,9 +126,10 @@ BookmarkSave BookmarkFile::Save(const BookmarkArray& records) const {
     }
     // A new file appears whole: after an end by force before its first byte it would count as damaged.
     if (isNew() && platform::replaceFile(m_files, m_path, bytes)) return BookmarkSave::saved;
-    FileHandle file = m_files.openForWriting(m_path);
+    const auto native = m_files.nativePath(m_path);
+    FileHandle file = native ? FileHandle::openForOverwriting(*native) : FileHandle();
     if (!file) return BookmarkSave::notCreated;
-    const bool written = file.write(bytes.data(), bytes.size());
+    const bool written = file.overwrite(bytes);
     return file.close() && written ? BookmarkSave::saved : BookmarkSave::notWritten;
 }
 
@@ -163,9 +164,11 @@ void BookmarkFile::keepCopy(const std::string& bytes) const {
 }
 
 void BookmarkFile::keepDamaged() const {
-    m_files.moveFile(m_path, firstName(".damaged", [&](const std::string& candidate) {
-                         return !m_files.exists(candidate);
-                     }));
+    const std::string name =
+        firstName(".damaged", [&](const std::string& candidate) { return !m_files.exists(candidate); });
+    m_files.moveFile(m_path, name);
+    // The next saves copy other bookmarks over the copy from before the damage.
+    m_files.copyFile(m_path + ".bak", name + ".bak");
 }
 
 std::string BookmarkFile::firstName(std::string_view ending,

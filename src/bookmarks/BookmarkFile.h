@@ -41,9 +41,10 @@ class BookmarkFile {
 
     /// Writes the file anew, in its place, and creates the folders of its path. Where another program has
     /// written it since it was loaded, what that one added and deleted is merged in. Before, a whole file is
-    /// copied to the same name with ".bak" behind it, a damaged one gets a name with ".damaged" behind it;
-    /// with a number where the name is taken. It does not matter whether that succeeds. `notCreated` leaves
-    /// a whole file as it was, `notWritten` a part of it.
+    /// copied to the same name with ".bak" behind it, a damaged one gets a name with ".damaged" behind it,
+    /// and the copy from before the damage is copied to that name with ".bak" behind it; with a number where
+    /// the name is taken. It does not matter whether that succeeds. `notCreated` leaves a whole file as it
+    /// was, and so does `notWritten` when the disk is full; otherwise it may leave a part.
     BookmarkSave Save(const BookmarkArray& records) const;
 
   private:

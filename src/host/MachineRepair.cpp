@@ -67,7 +67,7 @@ void mendLineEnds(const FileSystem& files, const std::string& path) {
 }
 
 Result<void> makeFile(const FileSystem& files, const std::string& path, std::string_view content) {
-    if (files.exists(path)) return {};
+    if (!files.isMissing(path)) return {};
     const bool made =
         files.createFolders(path.substr(0, path.rfind('\\'))) && platform::replaceFile(files, path, content);
     return made ? Result<void>() : notMade(files, path);

@@ -32,8 +32,8 @@ struct PathSources {
 };
 
 /// Reads the paths from cset.ini. The user is asked for a path that is missing or of no use, and the answer
-/// is written into cset.ini. The data folder must hold "a.htm"; nothing when the user cancels the choice of
-/// it.
+/// is written into cset.ini, unless there is one that cannot be read. The data folder must hold "a.htm";
+/// nothing when the user cancels the choice of it.
 std::optional<DataPaths> FindDataPaths(const platform::FileSystem& files, const PathSources& sources,
                                        const FolderChooser& choose);
 

@@ -231,7 +231,7 @@ TEST_F(BookmarksOnDisk, OnlyWholeFilesBecomeTheCopy) {
         {"whole, over a former copy", fileOfAllClasses, defaultFile, fileOfAllClasses, none, none, none},
         {"whole, beside a foreign file", fileOfAllClasses, "mine", "mine", fileOfAllClasses, none, none},
         {"half", half, fileOfAllClasses, fileOfAllClasses, fileOfAllClasses, half, none},
-        {"half once more", half, fileOfAllClasses, fileOfAllClasses, fileOfAllClasses, half, half},
+        {"half once more", half, defaultFile, defaultFile, fileOfAllClasses, half, half},
     };
     const std::string ofKilledProgram = "C:\\b.dat.bak.4711-0.tmp";
     for (const Case& row : cases) {
@@ -247,6 +247,8 @@ TEST_F(BookmarksOnDisk, OnlyWholeFilesBecomeTheCopy) {
         EXPECT_EQ(drives_.get("C:\\b.dat.damaged2"), row.moreDamaged) << row.what;
         EXPECT_FALSE(drives_.has(ofKilledProgram)) << row.what;
     }
+    EXPECT_EQ(drives_.get("C:\\b.dat.damaged.bak"), fileOfAllClasses) << "later saves leave it";
+    EXPECT_EQ(drives_.get("C:\\b.dat.damaged2.bak"), defaultFile);
 }
 
 TEST_F(BookmarksOnDisk, CopyThatCannotBeMadeDoesNotMatter) {
@@ -257,6 +259,19 @@ TEST_F(BookmarksOnDisk, CopyThatCannotBeMadeDoesNotMatter) {
     const FullDisk full(fileOfAllClasses.size());
     EXPECT_EQ(run.save(), BookmarkSave::saved);
     EXPECT_EQ(drives_.get("C:\\b.dat"), fileOfAllClasses);
+}
+
+TEST_F(BookmarksOnDisk, AreKeptByAFullDiskThatHasNoRoomForACopyEither) {
+    drives_.put("C:\\b.dat", fileOfAllClasses);
+    Run run(drives_);
+    run.load();
+    run.add("new");
+    const std::size_t size = WriteBookmarks(run.list.Records()).size();
+    for (std::size_t bytes = 0; bytes < size; ++bytes) {
+        const FullDisk full(bytes);
+        EXPECT_EQ(run.save(), BookmarkSave::notWritten) << bytes;
+        EXPECT_TRUE(drives_.get("C:\\b.dat").starts_with(fileOfAllClasses)) << bytes;
+    }
 }
 
 /// Bookmarks of a text such as "F a b | G c=2": folders and what is in them, with a page id behind "=".
