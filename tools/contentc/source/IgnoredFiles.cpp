@@ -144,24 +144,31 @@ std::span<const SourceFolderUse> sourceFolderUses() {
 
 bool isFolder(const fs::path& path) {
     std::error_code failed;
-    return fs::is_directory(path, failed);
+    const fs::file_type type = fs::status(path, failed).type();
+    return type == fs::file_type::directory || type == fs::file_type::none;
 }
 
 bool isThere(const fs::path& path) {
     std::error_code failed;
-    return fs::exists(path, failed);
+    return fs::status(path, failed).type() != fs::file_type::not_found;
 }
 
-std::vector<fs::path> listFolder(const fs::path& folder) {
+std::vector<fs::path> listFolder(const fs::path& folder, std::error_code& failed) {
     std::vector<fs::path> entries;
-    std::error_code failed;
     for (fs::directory_iterator it(folder, failed), end; !failed && it != end; it.increment(failed)) {
         const std::string name = it->path().filename().string();
         const bool isBackup = name.ends_with('~') || name.ends_with(".bak") || name.starts_with('#');
         if (!name.starts_with('.') && !isBackup) entries.push_back(it->path());
     }
+    if (failed == std::errc::no_such_file_or_directory || failed == std::errc::not_a_directory)
+        failed.clear();
     std::ranges::sort(entries);
     return entries;
+}
+
+std::vector<fs::path> listFolder(const fs::path& folder) {
+    std::error_code ignored;
+    return listFolder(folder, ignored);
 }
 
 void reportIgnoredFiles(const fs::path& root, Diagnostics& diagnostics) {

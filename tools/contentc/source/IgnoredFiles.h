@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <span>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 #include "tools/contentc/source/Diagnostics.h"
@@ -20,12 +21,15 @@ struct SourceFolderUse {
 /// The folders of the sources.
 std::span<const SourceFolderUse> sourceFolderUses();
 
-/// Whether there is such a folder, or anything of this name; not when the system fails to tell.
+/// Whether there is such a folder, or anything of this name; also when the system fails to tell, so that
+/// reading it tells the reason.
 bool isFolder(const std::filesystem::path& path);
 bool isThere(const std::filesystem::path& path);
 
 /// The visible entries of a folder, sorted by name; none when there is no such folder. Backups of editors are
-/// left out.
+/// left out. `failed` is set when there may be more.
+std::vector<std::filesystem::path> listFolder(const std::filesystem::path& folder, std::error_code& failed);
+/// The same for those who need not know.
 std::vector<std::filesystem::path> listFolder(const std::filesystem::path& folder);
 
 /// Warns of the files and folders of an author's folder that are not taken, and says where they belong.

@@ -6,8 +6,10 @@
 #include <map>
 #include <set>
 #include <string_view>
+#include <system_error>
 
 #include "platform/text/CodePage1253.h"
+#include "tools/contentc/source/CommonMessages.h"
 #include "tools/contentc/source/IgnoredFiles.h"
 
 namespace contentc {
@@ -93,7 +95,7 @@ class TreeReader {
         readOne(tree_.style, "style.css");
         readOne(tree_.stopWords, "words/stop.txt");
         readOne(tree_.wordForms, "words/forms.txt");
-        for (const fs::path& folder : listFolder(root_ / "tools")) {
+        for (const fs::path& folder : list(root_ / "tools")) {
             if (tools_.isTaken(folder)) continue;
             tools_.take(folder);
             for (const fs::path& path : pathsOf(folder, {".js", ".css", ".txt"})) append(tree_.tools, path);
@@ -103,7 +105,7 @@ class TreeReader {
     void readContent(const Layer& layer) {
         readOne(tree_.families, "families.txt");
         if (layer_ == 0) readOne(tree_.terminology, "words/terminology.txt");
-        for (const fs::path& folder : listFolder(root_ / "pages")) {
+        for (const fs::path& folder : list(root_ / "pages")) {
             if (isFolder(folder)) readSection(folder);
         }
         for (const fs::path& path : pathsOf(root_ / "glossary", {".md"})) append(tree_.terms, path);
@@ -126,8 +128,15 @@ class TreeReader {
         take(pages_, section.pages, pathsOf(folder, {".md"}));
     }
 
-    static std::vector<fs::path> pathsOf(const fs::path& folder, Extensions extensions) {
-        std::vector<fs::path> paths = listFolder(folder);
+    std::vector<fs::path> list(const fs::path& folder) {
+        std::error_code failed;
+        std::vector<fs::path> paths = listFolder(folder, failed);
+        if (failed) diagnostics_.error({folder.generic_string()}, say::cannotBeRead);
+        return paths;
+    }
+
+    std::vector<fs::path> pathsOf(const fs::path& folder, Extensions extensions) {
+        std::vector<fs::path> paths = list(folder);
         std::erase_if(paths, [&](const fs::path& path) {
             return std::ranges::find(extensions, takenExtension(path)) == extensions.end();
         });
