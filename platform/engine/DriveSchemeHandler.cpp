@@ -75,11 +75,14 @@ std::unique_ptr<QIODevice> withEscapedFolders(std::unique_ptr<QIODevice> page) {
     return openForReading(std::move(escaped));
 }
 
-void replyFile(QWebEngineUrlRequestJob* job, const std::string& dosPath, const FileHandle& handle) {
+/// False, with the request unanswered, when the file cannot be read.
+bool replyFile(QWebEngineUrlRequestJob* job, const std::string& dosPath, const FileHandle& handle) {
     std::unique_ptr<QIODevice> file = deviceOf(handle);
+    if (!file) return false;
     const QByteArray type = contentType(dosPath, *file);
     if (type.startsWith("text/html")) file = withEscapedFolders(std::move(file));
     reply(job, type, std::move(file));
+    return true;
 }
 
 }  // namespace
@@ -108,8 +111,8 @@ void DriveSchemeHandler::requestStarted(QWebEngineUrlRequestJob* job) {
             logMissing(url);
             job->fail(QWebEngineUrlRequestJob::UrlNotFound);
         }
-    } else if (path && file) {
-        replyFile(job, *path, file);
+    } else if (path && file && replyFile(job, *path, file)) {
+        return;
     } else if (frame) {
         logMissing(url);
         replyMissingPage(job, path.value_or(addressOfUrl(url)));

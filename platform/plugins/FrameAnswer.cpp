@@ -1,6 +1,7 @@
 #include "platform/plugins/FrameAnswer.h"
 
 #include <fcntl.h>
+#include <unistd.h>
 
 #include <QFile>
 #include <QUrl>
@@ -49,8 +50,12 @@ std::unique_ptr<QFile> deviceOf(const FileHandle& file) {
     const int descriptor = ::fcntl(file.descriptor(), F_DUPFD_CLOEXEC, 0);
     if (descriptor < 0) return nullptr;
     auto device = std::make_unique<QFile>();
-    if (!device->open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) return nullptr;
-    return device;
+    if (!device->open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+        ::close(descriptor);
+        return nullptr;
+    }
+    // The engine would wait for ever for the end of a file whose length the host does not tell.
+    return device->isSequential() ? nullptr : std::move(device);
 }
 
 std::optional<FrameAnswer> frameAnswer(const QUrl& url, const std::string& dosPath, const FileHandle& file,

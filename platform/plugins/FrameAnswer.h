@@ -39,7 +39,7 @@ std::optional<FrameAnswer> frameAnswer(const QUrl& url, const std::string& dosPa
 /// The device, opened; null when it cannot be.
 std::unique_ptr<QIODevice> openForReading(std::unique_ptr<QIODevice> device);
 
-/// An open file as a device, with a descriptor of its own; null when there is none.
+/// An open file as a device, with a descriptor of its own; null when there is none or it cannot be read.
 std::unique_ptr<QFile> deviceOf(const FileHandle& file);
 
 }  // namespace platform

@@ -170,7 +170,8 @@ void makeMedia(SourceTree& tree, const MadeFiles& made, const ProgressReport& re
     const std::vector<fs::path> results = MediaMaker(made, report, diagnostics).run(makings);
     for (std::size_t i = 0; i < makings.size(); ++i) {
         auto& files = makings[i].extension == std::string_view(".png") ? tree.pictures : tree.videos;
-        std::string bytes = results[i].empty() ? std::string() : bytesOf(results[i]);
+        auto file = results[i].empty() ? std::nullopt : readSourceFile(results[i], diagnostics);
+        std::string bytes = file ? std::move(file->bytes) : std::string();
         files.push_back(resultOf(*makings[i].source, makings[i].extension, std::move(bytes)));
     }
     closeSources(tree);
