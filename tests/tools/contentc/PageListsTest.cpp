@@ -93,6 +93,16 @@ TEST_F(PageLists, GoByChapterAndByTime) {
     EXPECT_EQ(navigation.find("<H2>"), std::string::npos) << "the author has placed the list of topics";
 }
 
+TEST_F(PageLists, TimeLineSaysTheYearOfAnEventOnce) {
+    content_.write("pages/uses/400030.md", "τίτλος: 1774: Οξυγόνο\nπερίληψη: Μ.\nέτος: 1774\n---\n");
+    content_.write("pages/uses/400000.md", "τίτλος: Πράξη\n---\n{{χρονολόγιο}}\n");
+    const std::string navigation = navigationOf(content_, "40\\0000");
+    EXPECT_NE(navigation.find("<SPAN CLASS=\"year\">1774</SPAN> "
+                              "<A HREF=\"kzpage-4-400030-0.htm\">Οξυγόνο</A>"),
+              std::string::npos)
+        << navigation;
+}
+
 TEST_F(PageLists, UnknownPagesAreReported) {
     content_.write("pages/uses/400020-b.md",
                    "τίτλος: Βαφές\nπερίληψη: Μ.\nπριν: Γάλα\nδες: 999\nτάξη: Δ΄\n---\n");

@@ -16,9 +16,11 @@ std::string textHtml(const std::string& codePageText) {
     return escapeHtml(typeset(platform::toUtf8(codePageText)));
 }
 
-std::string pageLink(const PageSource& page, const std::string& attributes = {}) {
-    return "<A" + attributes + " HREF=\"" + addressOf(page) + "\">" + textHtml(page.title.text) + "</A>";
+std::string linkTo(const PageSource& page, const std::string& words) {
+    return "<A HREF=\"" + addressOf(page) + "\">" + textHtml(words) + "</A>";
 }
+
+std::string pageLink(const PageSource& page) { return linkTo(page, page.title.text); }
 
 std::string summaryOf(const PageSource& page) {
     if (page.summary.text.empty()) return {};
@@ -79,6 +81,12 @@ std::string yearText(const TimeLineYear& when) {
     return (when.isAbout ? "περ.\u00A0" : "") + year;
 }
 
+/// A page's title behind its year: that of an event begins with the year, which is not said twice.
+std::string titleAfterYear(const PageSource& page, const TimeLineYear& when) {
+    const std::string year = std::to_string(when.year) + ": ";
+    return page.title.text.starts_with(year) ? page.title.text.substr(year.size()) : page.title.text;
+}
+
 void addRelated(const Pages& pages, const std::string& heading, HtmlList& lines) {
     if (pages.empty()) return;
     lines.push_back("<DIV><H2>" + heading + "</H2><UL>");
@@ -134,8 +142,9 @@ HtmlList timeLine(const Content& content) {
     HtmlList lines{tagWithHeading("timeline", "Χρονολόγιο", false), "<OL>"};
     for (const PageSource* page : pages) {
         // NOLINTNEXTLINE(bugprone-unchecked-optional-access): pages without a year were taken out
-        lines.push_back("<LI><SPAN CLASS=\"year\">" + yearText(*page->year) + "</SPAN> " + pageLink(*page) +
-                        summaryOf(*page) + "</LI>");
+        const TimeLineYear& when = *page->year;
+        lines.push_back("<LI><SPAN CLASS=\"year\">" + yearText(when) + "</SPAN> " +
+                        linkTo(*page, titleAfterYear(*page, when)) + summaryOf(*page) + "</LI>");
     }
     lines.emplace_back("</OL></NAV>");
     return lines;
