@@ -23,9 +23,11 @@
 #include <cerrno>
 #include <climits>
 #include <cstdarg>
+#include <cstddef>
 #include <cstdio>
 #include <cstdlib>
 #include <mutex>
+#include <new>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -95,9 +97,11 @@ enum class Outcome { works, fails, failsLater };
 
 class Faults {
   public:
+    /// Never destroyed, since files are closed up to the very end of the program.
     static Faults& instance() {
-        static Faults faults;
-        return faults;
+        alignas(Faults) static std::array<std::byte, sizeof(Faults)> place;
+        static Faults* const faults = ::new (place.data()) Faults;
+        return *faults;
     }
 
     /// Counts an operation; errno is set when it is to fail.

@@ -66,7 +66,10 @@ class Program:
         self.library, self.root = library, root
 
     def run(self, command, below, log, fault=None, script=None):
+        # A program under AddressSanitizer must accept that another library comes first.
+        sanitizer = os.environ.get("ASAN_OPTIONS", "") + ":verify_asan_link_order=0"
         environment = {**os.environ, "LD_PRELOAD": str(self.library), "FAULTS_LOG": str(log), "LC_ALL": "C.UTF-8",
+                       "ASAN_OPTIONS": sanitizer,
                        "FAULTS_BELOW": ":".join(map(str, below)), **(fault.environment() if fault else {})}
         try:
             return subprocess.run(command, env=environment, input=script, capture_output=True, encoding="utf-8",
