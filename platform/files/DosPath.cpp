@@ -11,8 +11,6 @@ namespace platform {
 
 namespace {
 
-namespace fs = std::filesystem;
-
 bool isSlash(char c) { return c == '\\' || c == '/'; }
 
 void addName(std::vector<std::string>& names, std::string_view name) {
@@ -86,16 +84,16 @@ bool liesBelow(std::string_view canonicalPath, std::string_view folder) {
     return above && toLower(withSlash(canonicalPath)).starts_with(toLower(withSlash(*above)));
 }
 
-std::string joinNames(const fs::path& folder, const std::vector<std::string>& names) {
-    std::string path = folder.native();
+std::string joinNames(const std::string& folder, const std::vector<std::string>& names) {
+    std::string path = folder;
     for (const auto& name : names) path = joinName(std::move(path), name);
     return path;
 }
 
-std::optional<std::string> findFolder(const fs::path& folder, const std::vector<std::string>& names) {
+std::optional<std::string> findFolder(const std::string& folder, const std::vector<std::string>& names) {
     std::string path = joinNames(folder, names);
     if (isFolder(path)) return path;
-    path = folder.string();
+    path = folder;
     for (const auto& name : names) {
         if (!descend(path, name)) return std::nullopt;
     }
@@ -103,13 +101,14 @@ std::optional<std::string> findFolder(const fs::path& folder, const std::vector<
     return path;
 }
 
-std::optional<std::string> findNames(const fs::path& folder, const std::vector<std::string>& names) {
+std::optional<std::string> findNames(const std::string& folder, const std::vector<std::string>& names) {
     std::string exact = joinNames(folder, names);
     return exists(exact) ? std::move(exact) : findNamesInAnyCase(folder, names);
 }
 
-std::optional<std::string> findNamesInAnyCase(const fs::path& folder, const std::vector<std::string>& names) {
-    if (names.empty()) return folder.string();
+std::optional<std::string> findNamesInAnyCase(const std::string& folder,
+                                              const std::vector<std::string>& names) {
+    if (names.empty()) return folder;
     auto path = findFolder(folder, {names.begin(), names.end() - 1});
     if (!path) return std::nullopt;
     return joinName(*path, findName(*path, names.back()).value_or(names.back()));

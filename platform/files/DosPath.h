@@ -1,6 +1,5 @@
 #pragma once
 
-#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -27,24 +26,22 @@ std::optional<std::string> canonicalDosPath(std::string_view text);
 bool liesBelow(std::string_view canonicalPath, std::string_view folder);
 
 /// The host path of names below a folder, spelt as they are.
-std::string joinNames(const std::filesystem::path& folder, const std::vector<std::string>& names);
+std::string joinNames(const std::string& folder, const std::vector<std::string>& names);
 
 /// The host path of a name in a folder.
 std::string joinName(std::string folder, std::string_view name);
 
 /// The host path of the folder that names below a folder lead to, each found as it is or else without regard
 /// to case; nothing when there is no such folder.
-std::optional<std::string> findFolder(const std::filesystem::path& folder,
-                                      const std::vector<std::string>& names);
+std::optional<std::string> findFolder(const std::string& folder, const std::vector<std::string>& names);
 
 /// The host path of names below a folder, each found as it is or else without regard to case; of several
 /// candidates the first by byte order. A last name that does not exist is taken as it is; a missing folder
 /// before it gives nothing.
-std::optional<std::string> findNames(const std::filesystem::path& folder,
-                                     const std::vector<std::string>& names);
+std::optional<std::string> findNames(const std::string& folder, const std::vector<std::string>& names);
 
 /// The same for names that are known not to exist as they are spelt.
-std::optional<std::string> findNamesInAnyCase(const std::filesystem::path& folder,
+std::optional<std::string> findNamesInAnyCase(const std::string& folder,
                                               const std::vector<std::string>& names);
 
 }  // namespace platform

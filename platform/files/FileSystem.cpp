@@ -96,11 +96,11 @@ std::optional<FileSystem::Place> FileSystem::locate(std::string_view dosPath) co
     auto& names = parsed->names;
     if (const Mount* const mount = findMount(parsed->letter, names)) {
         names.erase(names.begin(), names.begin() + static_cast<std::ptrdiff_t>(mount->names.size()));
-        return Place{mount->folder, std::move(names)};
+        return Place{mount->folder.native(), std::move(names)};
     }
     const Drive* const drive = findDrive(parsed->letter);
     if (!drive) return std::nullopt;
-    return Place{drive->folder, std::move(names)};
+    return Place{drive->folder.native(), std::move(names)};
 }
 
 std::optional<fs::path> FileSystem::nativePath(std::string_view dosPath) const {

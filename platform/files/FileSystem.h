@@ -110,7 +110,7 @@ class FileSystem {
   private:
     /// A DOS path as the host folder of its drive, or of what is mounted there, and the host names below it.
     struct Place {
-        std::filesystem::path folder;
+        std::string folder;
         std::vector<std::string> names;
     };
     struct Mount {

@@ -34,13 +34,13 @@ using Bytes = std::array<std::uint8_t, 16>;
 class RareBytes {
   public:
     void look(const Bytes& block) {
-        static_assert(kMoleculeMarker + 1 == kVideoMarker && kVideoMarker + 1 == kDataFolderMarker);
+        constexpr std::uint8_t kLastMarker = kDataFolderMarker;
+        static_assert(kMoleculeMarker <= kLastMarker && kVideoMarker <= kLastMarker);
         for (std::size_t i = 0; i < block.size(); ++i) {
             const auto c = static_cast<char>(block[i]);
-            const auto fromMarkers = static_cast<std::uint8_t>(block[i] - kMoleculeMarker);
-            // The "Y" is that of "<BODY ".
-            const bool isAlone = (c == '\0') | (c == '~') | (c == 'Y') | (c == kCapitalAlphaTonos) |
-                                 (fromMarkers <= kDataFolderMarker - kMoleculeMarker);
+            // NUL and the markers, and no other byte of a page. The "Y" is that of "<BODY ".
+            const bool isAlone =
+                (block[i] <= kLastMarker) | (c == '~') | (c == 'Y') | (c == kCapitalAlphaTonos);
             m_alone[i] |= static_cast<std::uint8_t>(isAlone);
             m_paired[i] |= static_cast<std::uint8_t>((c == '-' ? kHyphen : 0) | (c == '5' ? kFive : 0) |
                                                      (c == 'P' ? kLetterP : 0) | (c == 'O' ? kLetterO : 0));
