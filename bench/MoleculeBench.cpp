@@ -14,6 +14,8 @@ using namespace bench;
 constexpr std::chrono::seconds measured{5};
 /// What opening the page goes on with when the page is on show already.
 constexpr std::chrono::seconds untilSettled{2};
+/// How often the look of the button is waited for on a busy machine.
+constexpr int maxTries = 5;
 constexpr const char* spinButton = "click 616 468";
 
 void measureMolecule(benchmark::State& state, bool turns) {
@@ -31,12 +33,15 @@ void measureMolecule(benchmark::State& state, bool turns) {
     // The molecule turns from the beginning; any other state would be told by the look of the button.
     if (!turns) tell(spinButton);
     tell("mouse move 300 300");
-    std::this_thread::sleep_for(untilSettled);
-    const bool spins = tell("pixel 602 480").find("8fc1ff") != std::string::npos;
-    if (spins != turns) {
+    const auto turnsNow = [&] { return tell("pixel 602 480").find("8fc1ff") != std::string::npos; };
+    for (int tries = 0; tries < maxTries && turnsNow() != turns; ++tries) {
+        std::this_thread::sleep_for(untilSettled);
+    }
+    if (turnsNow() != turns) {
         state.SkipWithError("the molecule does not do what is to be measured");
         return;
     }
+    std::this_thread::sleep_for(untilSettled);
     for (auto _ : state) {
         const double before = program.processorSeconds();
         std::this_thread::sleep_for(measured);
