@@ -131,6 +131,7 @@ def sanitizer_options():
 
 def endure_pages(program, places, count):
     program.start()
+    program.ask("command 32775")  # pages are on show from here on
     step = min(200, count // 2)
     held = []
     for number in range(1, count + 1):
