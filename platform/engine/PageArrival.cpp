@@ -5,6 +5,7 @@
 #include <QWebEnginePage>
 #include <QWebEngineScript>
 #include <chrono>
+#include <utility>
 
 #include "platform/browser/DosUrl.h"
 
@@ -34,7 +35,8 @@ constexpr auto leadsOnScript = QLatin1StringView(
 
 }  // namespace
 
-PageArrival::PageArrival(QWebEnginePage& page) : page_(page) {
+PageArrival::PageArrival(QWebEnginePage& page, std::function<void()> goOnElsewhere)
+    : page_(page), goOnElsewhere_(std::move(goOnElsewhere)) {
     for (QTimer* timer : {&limit_, &begin_, &life_}) timer->setSingleShot(true);
     connect(&limit_, &QTimer::timeout, this, &PageArrival::giveUp);
     connect(&begin_, &QTimer::timeout, this, &PageArrival::askForLife);
@@ -120,8 +122,8 @@ void PageArrival::endFormerPage() {
 }
 
 void PageArrival::pageEnded() {
-    if (ended_ && pending_) {
-        page_.load(target_);
+    if (pending_ && (ended_ || begin_.isActive())) {
+        goOnElsewhere_();
     } else {
         pending_ = false;
     }

@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QTimer>
 #include <QUrl>
+#include <functional>
 #include <memory>
 
 class QWebEnginePage;
@@ -15,7 +16,10 @@ namespace platform {
 /// is ended.
 class PageArrival : public QObject {
   public:
-    explicit PageArrival(QWebEnginePage& page);
+    /// `goOnElsewhere` is called when the process of the former page has ended before the page that is waited
+    /// for has begun: `target` is then for another `QWebEnginePage` to load. The engine would show it in this
+    /// one, but never print it.
+    PageArrival(QWebEnginePage& page, std::function<void()> goOnElsewhere);
 
     /// Loads an address, in its normalised form, and waits for its page.
     void load(const QUrl& target);
@@ -27,6 +31,8 @@ class PageArrival : public QObject {
     /// Whether it still waits. A page out of sight is not waited for to its end: the engine keeps the parts
     /// of it that need drawing, such as films, until it can be seen.
     bool pending() const;
+    /// Whether the former page is still there, which may have stopped answering.
+    bool isBefore() const { return pending_ && (begin_.isActive() || life_.isActive() || ended_); }
     /// The address loaded last.
     const QUrl& target() const { return target_; }
 
@@ -45,6 +51,7 @@ class PageArrival : public QObject {
     void pageEnded();
 
     QWebEnginePage& page_;
+    std::function<void()> goOnElsewhere_;
     QUrl target_;
     bool pending_ = false;
     QElapsedTimer begun_;

@@ -7,6 +7,7 @@
 #include <QSaveFile>
 #include <QTimer>
 #include <QWebEngineView>
+#include <chrono>
 #include <string>
 #include <utility>
 
@@ -23,6 +24,8 @@ namespace {
 const QPageLayout paper(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(15, 15, 15, 15),
                         QPageLayout::Millimeter);
 
+constexpr std::chrono::milliseconds timeToLookAgain{50};
+
 /// Pages of a PDF file as the engine writes it, where each page is an object of its own in plain text.
 int countPages(const QByteArray& pdf) {
     const QByteArray page = "/Type /Page";
@@ -36,18 +39,24 @@ int countPages(const QByteArray& pdf) {
 
 }  // namespace
 
-PagePrinter::PagePrinter(QWebEngineView& view) : QObject(&view), view_(view) {
+PagePrinter::PagePrinter(QWebEngineView& view, std::function<bool()> isFormer)
+    : QObject(&view), view_(view), isFormer_(std::move(isFormer)) {
+    later_.setSingleShot(true);
+    later_.setInterval(timeToLookAgain);
+    connect(&later_, &QTimer::timeout, this, &PagePrinter::print);
     connect(&view, &QWebEngineView::printFinished, this, [this] {
         printing_ = false;
         // The engine still uses the printer until this signal has been handled.
         QTimer::singleShot(0, this, [this] { printer_.reset(); });
     });
+    connect(&view, &QWebEngineView::renderProcessTerminated, this, &PagePrinter::giveUp);
 }
 
 PagePrinter::~PagePrinter() = default;
 
 void PagePrinter::print() {
     if (printing_ || printer_ || !machine().printer()) return;
+    if (isFormer_()) return later_.start();
     if (const PrinterConfig* const pdf = pdfPrinter()) return printWithoutPrinter(pdf->desktop);
     auto printer = choosePrinter(*view_.window());
     if (!printer) return;
@@ -69,9 +78,11 @@ void PagePrinter::printWithoutPrinter(bool ask) {
 void PagePrinter::printToFile(const std::string& chosen, const QPageLayout& layout,
                               const QPageRanges& ranges) {
     printing_ = true;
+    file_ = chosen;
     const std::string title = fromUtf8(view_.title().toStdString());
     view_.page()->printToPdf(
         [this, title, chosen, alive = QPointer<PagePrinter>(this)](const QByteArray& pdf) {
+            if (alive && !printing_) return;
             const std::string file = chosen.empty() ? nextPrintFile() : chosen;
             QSaveFile out(QString::fromStdString(file));
             if (!pdf.isEmpty() && out.open(QIODevice::WriteOnly) && out.write(pdf) == pdf.size() &&
@@ -83,6 +94,12 @@ void PagePrinter::printToFile(const std::string& chosen, const QPageLayout& layo
             if (alive) printing_ = false;
         },
         layout, ranges);
+}
+
+void PagePrinter::giveUp() {
+    if (!printing_ || printer_) return;
+    printing_ = false;
+    printFailed(file_.empty() ? nextPrintFile() : file_);
 }
 
 void PagePrinter::printOnPaper(std::unique_ptr<QPrinter> printer) {

@@ -1,6 +1,7 @@
 #include "platform/engine/WebEngine.h"
 
 #include <QCursor>
+#include <QMetaObject>
 #include <QPointer>
 #include <utility>
 
@@ -50,12 +51,33 @@ class Document : public Dispatch {
 }  // namespace
 
 WebEngine::WebEngine(QWidget* parent, Questions questions)
-    : view_(std::make_unique<WebView>(parent)), printer_(makeQtChild<PagePrinter>(*view_)) {
-    page_ = std::make_unique<WebPage>(
-        std::move(questions.passes), [this] { return view_->presses().take(); }, nullptr);
-    page_->setCommandHandler(std::move(questions.sendCommand));
+    : questions_(std::move(questions)),
+      view_(std::make_unique<WebView>(parent)),
+      printer_(makeQtChild<PagePrinter>(*view_, [this] { return page_->isFormer(); })) {
+    makePage();
+}
+
+void WebEngine::makePage() {
+    page_ = std::make_unique<WebPage>(questions_.passes, [this] { return view_->presses().take(); }, nullptr);
+    page_->setCommandHandler(questions_.sendCommand);
+    // Not from within the page, which is destroyed.
+    page_->setSuccessor([this](const QUrl& url, const PageStart& start) {
+        const auto replace = [this, url, start] {
+            replacePage();
+            page_->open(url, start);
+        };
+        QMetaObject::invokeMethod(view_.get(), replace, Qt::QueuedConnection);
+    });
     plugins_ = std::make_unique<PluginWindows>(*view_, *page_);
     view_->open(*page_);
+}
+
+void WebEngine::replacePage() {
+    click_.reset();
+    plugins_.reset();
+    const std::unique_ptr<WebPage> former = std::move(page_);
+    makePage();
+    view_->setTextSize(view_->textSize());
 }
 
 WebEngine::~WebEngine() = default;

@@ -43,6 +43,11 @@ class WebEngine : public BrowserEngine {
     void setTextSize(int percent) override;
 
   private:
+    void makePage();
+    /// Puts another page in the place of one whose process has ended.
+    void replacePage();
+
+    Questions questions_;
     std::unique_ptr<WebView> view_;
     PagePrinter& printer_;  // the view's
     // It is destroyed before its view, which does not own it.

@@ -34,9 +34,14 @@ class WebPage : public QWebEnginePage {
     /// Takes a command that a component's part of the page sends (see PagePart): class id and number.
     using CommandHandler = std::function<void(const std::string& classId, LPARAM command)>;
 
+    /// Takes what waits when the page's process has ended: an address, and how its page begins. This page is
+    /// then of no more use.
+    using Successor = std::function<void(const QUrl& url, const PageStart& start)>;
+
     WebPage(Gate gate, PressTaker takePress, QObject* parent);
 
     void setCommandHandler(CommandHandler handler) { commandHandler_ = std::move(handler); }
+    void setSuccessor(Successor successor) { successor_ = std::move(successor); }
 
     /// Goes to an address that the program wants, in its normalised form. The page begins as `start` says.
     void open(const QUrl& url, const PageStart& start);
@@ -48,6 +53,9 @@ class WebPage : public QWebEnginePage {
     /// Whether a navigation waits, a page is being loaded or the selection copied; a page that leads on to
     /// another at once counts as loading until that other one has come.
     bool busy() const { return waiting_ > 0 || copyLimit_.isActive() || arrival_.pending(); }
+
+    /// Whether the page that is being loaded has not begun, so that the former one is still there.
+    bool isFormer() const { return arrival_.isBefore(); }
 
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
@@ -76,7 +84,8 @@ class WebPage : public QWebEnginePage {
     Gate gate_;
     PressTaker takePress_;
     CommandHandler commandHandler_;
-    PageArrival arrival_{*this};
+    Successor successor_;
+    PageArrival arrival_{*this, [this] { successor_(arrival_.target(), start_); }};
     bool toldUnreachable_ = false;
     QTimer copyLimit_;  // runs while the engine copies
     int waiting_ = 0;   // navigations asked for by the page and not yet put to the gate

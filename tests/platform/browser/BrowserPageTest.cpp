@@ -1,6 +1,8 @@
 #include <QTest>
 #include <QWebEnginePage>
 #include <QWebEngineView>
+#include <csignal>
+#include <filesystem>
 
 #include "platform/browser/BrowserPolicy.h"
 #include "platform/browser/WebBrowserComponent.h"
@@ -140,6 +142,30 @@ TEST_F(BrowserMachine, ShowsTheLastOfQuickNavigations) {
         EXPECT_EQ(title(), "3") << pause << " ms between";
         EXPECT_EQ(url(), "D:\\3.htm");
     }
+}
+
+// The engine would show the second page, but never print it.
+TEST_F(BrowserMachine, ShowsAndPrintsAPageAlthoughTheProcessOfTheFormerOneEndsMeanwhile) {
+    write("D:\\1.htm", "<TITLE>1</TITLE>");
+    write("D:\\2.htm", "<TITLE>2</TITLE><A HREF=\"1.htm\">one</A>");
+    const TestFolder root;
+    MachineConfig config;
+    config.printer = PrinterConfig();
+    config.printer->folder = root.path();
+    open("D:\\1.htm");
+    const auto process = static_cast<pid_t>(window.findChild<QWebEngineView*>()->page()->renderProcessPid());
+    ASSERT_EQ(::kill(process, SIGKILL), 0);
+    open("D:\\2.htm");
+    EXPECT_EQ(title(), "2");
+    ASSERT_TRUE(click("one"));
+    EXPECT_EQ(title(), "1");
+    Machine printing(root.path(), config, Registry());
+    setMachine(&printing);
+    const auto document = host().invoke(203, InvokeKind::propertyGet, {});
+    EXPECT_TRUE((*document->get<std::shared_ptr<Dispatch>>())->exec(6));
+    EXPECT_TRUE(runUntil([&] { return std::filesystem::exists(root / "print-1.pdf"); }));
+    closeBrowser();
+    setMachine(nullptr);
 }
 
 // As Back goes to a place with which the browse selection then answers.
