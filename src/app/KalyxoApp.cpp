@@ -49,13 +49,13 @@ const MessageMap* CKalyxoApp::GetMessageMap() const {
 }
 
 bool CKalyxoApp::InitInstance() {
-    if (!readRegistrySettings()) return false;
+    if (!ReadRegistrySettings()) return false;
     CSplashDlg splash;
     if (!AfxOleInit()) {
         AfxMessageBox(LoadString(IDS_OLE_INIT_FAILED));
         return false;
     }
-    if (!setUpDataPaths()) return false;
+    if (!SetUpDataPaths()) return false;
     addDocTemplate();
     chooseFirstShow();
     if (!ProcessShellCommand()) return false;
@@ -65,7 +65,7 @@ bool CKalyxoApp::InitInstance() {
     return true;
 }
 
-bool CKalyxoApp::readRegistrySettings() {
+bool CKalyxoApp::ReadRegistrySettings() {
     const std::optional<RegistryKey> key =
         machine().registry().openKey(HKEY_LOCAL_MACHINE, SettingsKeyPath());
     if (!key) {
@@ -84,7 +84,7 @@ bool CKalyxoApp::readRegistrySettings() {
     return true;
 }
 
-bool CKalyxoApp::setUpDataPaths() {
+bool CKalyxoApp::SetUpDataPaths() {
     std::optional<DataPaths> paths = FindDataPaths(
         machine().files(), {m_strProgramFolder, machine().tempFolder(), m_strGivenDataFolder}, askForFolder);
     if (!paths) return false;

@@ -26,8 +26,8 @@ class CKalyxoApp : public platform::CWinApp, public ProgramState {
 
   private:
     void OnAppAbout();
-    bool readRegistrySettings();
-    bool setUpDataPaths();
+    bool ReadRegistrySettings();
+    bool SetUpDataPaths();
     void addDocTemplate();
     void chooseFirstShow();
     void warnOfFewColours();

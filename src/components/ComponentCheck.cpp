@@ -51,23 +51,23 @@ void RegisterComponentFile(std::string_view programFolder, std::string_view file
 
 ComponentCheck::Result ComponentCheck::Run() {
     updateSystemLibraries();
-    checkComponentFile(kPeriodTableFile, controls::periodicTableClass);
+    CheckComponentFile(kPeriodTableFile, controls::periodicTableClass);
     if (m_nReplaceDecision == ReplaceDecision::no) return Result::refused;
     for (const ComponentFile& component : kOtherComponents) {
-        checkComponentFile(component.file, component.classId);
+        CheckComponentFile(component.file, component.classId);
     }
     if (m_bComponentsRegistered) return Result::registered;
     return m_nReplaceDecision == ReplaceDecision::no ? Result::refused : Result::upToDate;
 }
 
 void ComponentCheck::updateSystemLibraries() {
-    updateSystemLibrary(kFrameworkLibrary);
+    UpdateSystemLibrary(kFrameworkLibrary);
     const bool counted = m_bComponentsRegistered;
-    for (const std::string_view name : kOtherLibraries) updateSystemLibrary(name);
+    for (const std::string_view name : kOtherLibraries) UpdateSystemLibrary(name);
     m_bComponentsRegistered = counted;
 }
 
-void ComponentCheck::updateSystemLibrary(std::string_view name) {
+void ComponentCheck::UpdateSystemLibrary(std::string_view name) {
     const std::string supplied = suppliedFile(m_programFolder, name);
     if (GetFileVersionNumbers(m_machine, name) >= GetFileVersionNumbers(m_machine, supplied)) return;
     const std::string target = m_machine.systemFolder().append("\\").append(name);
@@ -78,7 +78,7 @@ void ComponentCheck::updateSystemLibrary(std::string_view name) {
     m_bComponentsRegistered = true;
 }
 
-void ComponentCheck::checkComponentFile(std::string_view file, std::string_view classId) {
+void ComponentCheck::CheckComponentFile(std::string_view file, std::string_view classId) {
     const std::optional<std::string> registered = registeredPath(m_machine, classId);
     if (!registered) {
         // A component that was never registered is registered silently; the program need not be started

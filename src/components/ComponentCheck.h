@@ -42,9 +42,9 @@ class ComponentCheck {
     void updateSystemLibraries();
     /// Replaces a library of the system folder that is older than the supplied copy. The former file is kept
     /// under another name.
-    void updateSystemLibrary(std::string_view name);
+    void UpdateSystemLibrary(std::string_view name);
     /// Registers the supplied copy of a component when none, or an older version, is registered.
-    void checkComponentFile(std::string_view file, std::string_view classId);
+    void CheckComponentFile(std::string_view file, std::string_view classId);
     bool userKeepsOlder();
 
     platform::Machine& m_machine;

@@ -46,8 +46,8 @@ void PagePresenter::ShowPage(std::int32_t pageNumber, double scrolled) {
     const std::string file = formats::pagePath(pageNumber).value_or(std::to_string(pageNumber));
     const std::string source = TheApp().m_strDataFolder + file;
     const std::string target = m_cache.NextTarget();
-    tellFailure(preparePage(*m_preparer, source, target), source);
-    showPreparedPage(target, scrolled);
+    tellFailure(PreparePage(*m_preparer, source, target), source);
+    ShowPreparedPage(target, scrolled);
 }
 
 double PagePresenter::Scrolled() const {
@@ -82,7 +82,7 @@ void PagePresenter::LeavePage() {
     m_contents = {};
 }
 
-PrepareResult PagePresenter::preparePage(const PagePreparer& preparer, const std::string& source,
+PrepareResult PagePresenter::PreparePage(const PagePreparer& preparer, const std::string& source,
                                          const std::string& target) {
     CProgress progress(LoadString(IDS_PREPARING_PAGE));
     const PrepareResult result = preparer.PreparePage(source, target, m_contents, progress.Step());
@@ -98,7 +98,7 @@ void PagePresenter::tellFailure(PrepareResult result, const std::string& source)
     }
 }
 
-void PagePresenter::showPreparedPage(const std::string& target, double scrolled) {
+void PagePresenter::ShowPreparedPage(const std::string& target, double scrolled) {
     m_scrolledWhenLeft.reset();
     if (PageTools* const page = tools()) page->beginNextPage({scrolled, m_marked});
     const std::string redirect = m_contents.video ? m_cache.WriteRedirect(target) : std::string();

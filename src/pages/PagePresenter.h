@@ -49,10 +49,10 @@ class PagePresenter {
 
   private:
     platform::PageTools* tools() const;
-    PrepareResult preparePage(const PagePreparer& preparer, const std::string& source,
+    PrepareResult PreparePage(const PagePreparer& preparer, const std::string& source,
                               const std::string& target);
     static void tellFailure(PrepareResult result, const std::string& source);
-    void showPreparedPage(const std::string& target, double scrolled);
+    void ShowPreparedPage(const std::string& target, double scrolled);
 
     const platform::FileSystem& m_files;
     PageCache m_cache;

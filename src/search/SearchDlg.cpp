@@ -41,8 +41,8 @@ const MessageMap* CSearchDlg::GetMessageMap() const {
     static constexpr MessageMapEntry kEntries[] = {
         OnControl<&CSearchDlg::OnWordEdited>(IDC_SEARCH_WORD, EN_UPDATE),
         OnControl<&CSearchDlg::OnWordPicked>(IDC_WORD_LIST, LBN_SELCHANGE),
-        OnControl<&CSearchDlg::OnRun>(IDC_WORD_LIST, LBN_DBLCLK),
-        OnCommandId<&CSearchDlg::OnRun>(IDC_SEARCH_RUN),
+        OnControl<&CSearchDlg::RunSearch>(IDC_WORD_LIST, LBN_DBLCLK),
+        OnCommandId<&CSearchDlg::RunSearch>(IDC_SEARCH_RUN),
         OnCommandId<&CSearchDlg::OnAlternatives>(IDC_ALTERNATIVES),
         OnNotify<&CSearchDlg::OnResultClicked>(IDC_RESULTS, NM_CLICK),
         OnNotify<&CSearchDlg::OnResultActivated>(IDC_RESULTS, NM_DBLCLK),
@@ -109,7 +109,7 @@ void CSearchDlg::insertColumns() {
 void CSearchDlg::restoreSearch() {
     m_word.SetWindowText(m_state.word);
     OnWordEdited();
-    OnRun();
+    RunSearch();
     if (m_state.row < 0 || m_state.row >= m_results.GetItemCount()) return GotoDlgCtrl(IDC_SEARCH_WORD);
     m_results.SelectItem(m_state.row);
     EnableDlgItem(IDOK, true);
@@ -129,27 +129,27 @@ void CSearchDlg::OnWordEdited() {
         return;
     }
     m_words.SetCurSel(m_words.FindString(0, text));
-    updateSearchButton();
+    UpdateSearchButton();
 }
 
 void CSearchDlg::OnWordPicked() {
     m_ignoreWordEdits = true;
     m_word.SetWindowText(m_words.GetText(m_words.GetCurSel()));
     m_ignoreWordEdits = false;
-    updateSearchButton();
+    UpdateSearchButton();
 }
 
-void CSearchDlg::updateSearchButton() {
+void CSearchDlg::UpdateSearchButton() {
     const int selected = m_words.GetCurSel();
     EnableDlgItem(IDC_SEARCH_RUN, selected >= 0 && m_words.GetText(selected) == m_word.GetWindowText());
 }
 
 void CSearchDlg::OnAlternatives() {
     m_searchWords.ResetContent();
-    OnRun();
+    RunSearch();
 }
 
-void CSearchDlg::OnRun() {
+void CSearchDlg::RunSearch() {
     if (!IsDlgItemEnabled(IDC_SEARCH_RUN)) return;
     const CWaitCursor wait;
     m_results.DeleteAllItems();
@@ -157,7 +157,7 @@ void CSearchDlg::OnRun() {
     HitTitles titles(m_files, m_dataFolder);
     CProgress progress(LoadString(IDS_SEARCHING_WORD));
     listSearchWords();
-    for (const ResultRow& row : FindRows(m_index, m_searched, titles, progress.Step())) addResultRow(row);
+    for (const ResultRow& row : FindRows(m_index, m_searched, titles, progress.Step())) AddResultRow(row);
 }
 
 void CSearchDlg::listSearchWords() {
@@ -166,7 +166,7 @@ void CSearchDlg::listSearchWords() {
     for (const std::string& word : m_searched) m_searchWords.AddString(word);
 }
 
-void CSearchDlg::addResultRow(const ResultRow& row) {
+void CSearchDlg::AddResultRow(const ResultRow& row) {
     const int at = m_results.InsertItem(row.texts.name);
     m_results.SetItemText(at, TopicColumn, row.texts.topic);
     m_results.SetItemData(at, static_cast<LPARAM>(row.hit));
@@ -189,11 +189,11 @@ LRESULT CSearchDlg::OnResultsLeft(NMHDR&) {
 }
 
 LRESULT CSearchDlg::OnHeaderClicked(NMLISTVIEW& notification) {
-    sortResults(notification.iSubItem);
+    SortResults(notification.iSubItem);
     return 0;
 }
 
-void CSearchDlg::sortResults(int column) {
+void CSearchDlg::SortResults(int column) {
     const CWaitCursor wait;
     std::unordered_map<LPARAM, std::string> cells;
     for (int row = 0; row < m_results.GetItemCount(); ++row)

@@ -39,7 +39,7 @@ class CSearchDlg : public platform::CDialog {
     void OnWordEdited();
     void OnWordPicked();
     void OnAlternatives();
-    void OnRun();
+    void RunSearch();
     platform::LRESULT OnResultClicked(platform::NMHDR& notification);
     platform::LRESULT OnResultActivated(platform::NMHDR& notification);
     platform::LRESULT OnResultsLeft(platform::NMHDR& notification);
@@ -49,10 +49,10 @@ class CSearchDlg : public platform::CDialog {
     bool loadIndex();
     void insertColumns();
     void restoreSearch();
-    void updateSearchButton();
+    void UpdateSearchButton();
     void listSearchWords();
-    void addResultRow(const ResultRow& row);
-    void sortResults(int column);
+    void AddResultRow(const ResultRow& row);
+    void SortResults(int column);
 
     const platform::FileSystem& m_files;
     std::string m_dataFolder;

@@ -65,27 +65,27 @@ std::string BookmarkCommands::pageTitle() {
 }
 
 std::unique_ptr<CBookmark> BookmarkCommands::MakeBookmark(ContentMode mode, const std::string& name) {
-    std::unique_ptr<CBookmark> bookmark = mode == ContentMode::PeriodicTable  ? makePeriodicBookmark()
-                                          : mode == ContentMode::DataAnalyser ? makeDataAnBookmark()
-                                                                              : makeBrowseBookmark();
+    std::unique_ptr<CBookmark> bookmark = mode == ContentMode::PeriodicTable  ? MakePeriodicBookmark()
+                                          : mode == ContentMode::DataAnalyser ? MakeDataAnBookmark()
+                                                                              : MakeBrowseBookmark();
     bookmark->name = name;
     return bookmark;
 }
 
-std::unique_ptr<CBookmark> BookmarkCommands::makeBrowseBookmark() const {
+std::unique_ptr<CBookmark> BookmarkCommands::MakeBrowseBookmark() const {
     auto bookmark = std::make_unique<CBMBrowse>();
     static_cast<PageAddress&>(*bookmark) = m_navigator.Address();
     return bookmark;
 }
 
-std::unique_ptr<CBookmark> BookmarkCommands::makePeriodicBookmark() {
+std::unique_ptr<CBookmark> BookmarkCommands::MakePeriodicBookmark() {
     auto bookmark = std::make_unique<CBMPeriodic>();
     bookmark->stateA = m_components.periodicTable.GetStateA();
     bookmark->stateB = m_components.periodicTable.GetStateB();
     return bookmark;
 }
 
-std::unique_ptr<CBookmark> BookmarkCommands::makeDataAnBookmark() {
+std::unique_ptr<CBookmark> BookmarkCommands::MakeDataAnBookmark() {
     auto bookmark = std::make_unique<CBMDataAn>();
     static_cast<AnalyserState&>(*bookmark) = CaptureAnalyser(m_components.dataAnalyser);
     return bookmark;

@@ -31,9 +31,9 @@ class BookmarkCommands {
     void Open(const CBookmark& bookmark);
 
   private:
-    std::unique_ptr<CBookmark> makeBrowseBookmark() const;
-    std::unique_ptr<CBookmark> makePeriodicBookmark();
-    std::unique_ptr<CBookmark> makeDataAnBookmark();
+    std::unique_ptr<CBookmark> MakeBrowseBookmark() const;
+    std::unique_ptr<CBookmark> MakePeriodicBookmark();
+    std::unique_ptr<CBookmark> MakeDataAnBookmark();
     std::string pageTitle();
     void openPage(const PageAddress& place);
 

@@ -59,17 +59,17 @@ void HotItems::SelectSlot(int slot) {
 void HotItems::FollowPointer(CPoint point) {
     if (hotItem() >= 0 && m_keyboard.Stands(m_view.ClientToScreen(point))) return;
     m_keyboard.End();
-    const bool onBar = hoverBar(point);
+    const bool offBar = HitTestBar(point);
     if (m_panes.Mode() == ContentMode::MainMenu) {
-        hoverMainMenu(!onBar && isUnder(point) ? m_menu.ItemAt(point) : -1);
+        hoverMainMenu(offBar && isUnder(point) ? m_menu.ItemAt(point) : -1);
     }
 }
 
-bool HotItems::hoverBar(CPoint point) {
+bool HotItems::HitTestBar(CPoint point) {
     const int slot = isUnder(point) ? m_bar.Layout().SlotAt(point) : -1;
     CClientDC dc(m_view);
     m_bar.Hover(slot, dc);
-    return slot >= 0;
+    return slot < 0;
 }
 
 bool HotItems::isUnder(CPoint point) const {

@@ -53,8 +53,8 @@ class HotItems {
     std::vector<platform::DrawnPart> Parts() const;
 
   private:
-    /// Hovers the slot at a point; false when there is none.
-    bool hoverBar(platform::CPoint point);
+    /// Hovers the slot at a point; true when there is none.
+    bool HitTestBar(platform::CPoint point);
     void hoverMainMenu(int item);
     void choose(int item);
     bool isUnder(platform::CPoint point) const;

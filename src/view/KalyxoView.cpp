@@ -80,7 +80,7 @@ void CKalyxoView::OnInitialUpdate() {
         return browser == IDC_WEB && takePageLink(address);
     });
     m_bookmarks.LoadBookmarks();
-    loadElementIndex();
+    LoadElementIndex();
     loadPictures();
     m_glossary.Create(*this);
     ComponentStart::CheckComponentVersions();
@@ -90,7 +90,7 @@ void CKalyxoView::OnInitialUpdate() {
 
 void CKalyxoView::showContentAnew() {
     m_components.ReadSelectionAnew(*this, TheApp().m_strDataFolder);
-    loadElementIndex();
+    LoadElementIndex();
     if (m_panes.Mode() == ContentMode::Page) m_navigator.ShowAgain();
 }
 
@@ -100,7 +100,7 @@ void CKalyxoView::openCache() {
         LocateCache(app.m_strProgramFolder, machine().tempFolder(), app.m_bOutsideInstallFolder));
 }
 
-void CKalyxoView::loadElementIndex() {
+void CKalyxoView::LoadElementIndex() {
     if (!m_elements.Load(machine().files(), TheApp().m_strDataFolder)) {
         AfxMessageBox(LoadString(IDS_NO_ELEMENT_INDEX));
     }
@@ -180,7 +180,7 @@ void CKalyxoView::OnSize(UINT type, int width, int height) {
 bool CKalyxoView::OnCommand(WPARAM wParam, LPARAM lParam) {
     switch (lParam) {
         case controls::showEnlargedView:
-            showEnlargedView();
+            ShowEnlargedView();
             return true;
         case controls::openSection:
             if (formats::sectionByCode(static_cast<std::int16_t>(wParam))) {
@@ -254,7 +254,7 @@ void CKalyxoView::openSlot(int slot) {
             OnDataAnalyser();
             break;
         case kMainMenuSlot:
-            showMainMenu();
+            ShowMainMenu();
             break;
         case kToolbarSlot:
             GetParentFrame()->RunCommand(ID_TOOLBAR);
@@ -264,7 +264,7 @@ void CKalyxoView::openSlot(int slot) {
     }
 }
 
-void CKalyxoView::showMainMenu() {
+void CKalyxoView::ShowMainMenu() {
     if (m_panes.Mode() == ContentMode::MainMenu) return;
     m_items.SelectSlot(kMainMenuSlot);
     m_panes.EnterMode(ContentMode::MainMenu);

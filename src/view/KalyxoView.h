@@ -74,13 +74,14 @@ class CKalyxoView : public platform::CView, private ContentHost {
     void OnFindInPage() { m_pages.FindInPage(); }
     void OnBookmarkAdd() { m_bookmarks.OnBookmarkAdd(m_panes.Mode()); }
     void OnBookmarkGoto() { m_bookmarks.OnBookmarkGoto(); }
-    void OnBack() { m_navigator.GoBack(); }
-    void OnForward() { m_navigator.GoForward(); }
+    void GoBack() { m_navigator.GoBack(); }
+    void GoForward() { m_navigator.GoForward(); }
     void OnDataAnalyser() { ShowDataAnalyser(nullptr); }
     void OnToolbar();
     void OnUpdateToolbar(platform::CCmdUI& ui);
+    void AnimateShow() { m_panel.AnimateShow(GetWindowRect()); }
     /// Shows the page's video or molecule large, in a dialog under the title of what is on show.
-    void showEnlargedView();
+    void ShowEnlargedView();
 
     // Component events
     bool OnPageChosen(std::int32_t pageNumber, std::int32_t pageId);
@@ -97,7 +98,7 @@ class CKalyxoView : public platform::CView, private ContentHost {
     void followPageLink();
 
     // Showing what navigation and bookmarks decide on
-    void showMainMenu();
+    void ShowMainMenu();
     bool EnterPageMode(std::int16_t sectionCode) override;
     void LayOutPage() override { m_panes.LayOutPage(); }
     void ShowPage(std::int32_t pageNumber, double scrolled) override {
@@ -113,7 +114,7 @@ class CKalyxoView : public platform::CView, private ContentHost {
 
     // The first update
     void openCache();
-    void loadElementIndex();
+    void LoadElementIndex();
     /// Reads the indexes of the changed data folder and shows the page on show anew.
     void showContentAnew();
     void loadPictures();

@@ -73,11 +73,11 @@ const MessageMap* CKalyxoView::GetMessageMap() const {
         OnCommandId<&CKalyxoView::OnBookmarkGoto>(ID_BOOKMARK_GOTO),
         OnCommandId<&CKalyxoView::OnToolbar>(ID_TOOLBAR),
         OnUpdateId<&CKalyxoView::OnUpdateToolbar>(ID_TOOLBAR),
-        OnCommandId<&CKalyxoView::OnBack>(ID_BACK),
+        OnCommandId<&CKalyxoView::GoBack>(ID_BACK),
         OnUpdateId<&CKalyxoView::enableBy<&CommandRules::Back>>(ID_BACK),
-        OnCommandId<&CKalyxoView::OnForward>(ID_FORWARD),
+        OnCommandId<&CKalyxoView::GoForward>(ID_FORWARD),
         OnUpdateId<&CKalyxoView::enableBy<&CommandRules::Forward>>(ID_FORWARD),
-        OnCommandId<&CKalyxoView::showMainMenu>(ID_FILE_NEW),
+        OnCommandId<&CKalyxoView::ShowMainMenu>(ID_FILE_NEW),
         OnCommandId<&CKalyxoView::OnBookmarkGoto>(ID_FILE_OPEN),
         OnCommandId<&CKalyxoView::OnOnlinePage<OnlinePage::product>>(ID_ONLINE_PRODUCT),
         OnCommandId<&CKalyxoView::OnOnlinePage<OnlinePage::support>>(ID_ONLINE_SUPPORT),
@@ -136,7 +136,7 @@ void CKalyxoView::showPlainPage(const std::string& address) {
     CEnlargedViewDlg(EnlargedViewMode::plainPage, address, {}).DoModal();
 }
 
-void CKalyxoView::showEnlargedView() {
+void CKalyxoView::ShowEnlargedView() {
     // The press in a page that asks for the view may have come before another dialog opened.
     if (!IsWindowEnabled()) return;
     const PageAddress& place = m_navigator.Address();
@@ -169,7 +169,7 @@ void CKalyxoView::OnToolbar() {
         m_panel.ShowAtCorner(areaBelowBar().offset(ClientToScreen({0, 0})));
         m_bPanelNeverShown = false;
     } else {
-        m_panel.AnimateShow(GetWindowRect());
+        AnimateShow();
     }
 }
 

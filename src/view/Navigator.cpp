@@ -56,20 +56,20 @@ void Navigator::RecordHistory(const PageAddress& place) {
 
 void Navigator::GoBack() {
     keepScrolled();
-    if (m_history.StepBack()) replayHistory();
+    if (m_history.StepBack()) ReplayHistory();
 }
 
 void Navigator::GoForward() {
     keepScrolled();
-    if (m_history.StepForward()) replayHistory();
+    if (m_history.StepForward()) ReplayHistory();
 }
 
 void Navigator::ShowAgain() {
     keepScrolled();
-    replayHistory();
+    ReplayHistory();
 }
 
-void Navigator::replayHistory() {
+void Navigator::ReplayHistory() {
     const History::Replay replay(m_history);
     const PageAddress place = m_history.Current();
     if (place.sectionCode == kPeriodicTableCode) {

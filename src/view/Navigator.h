@@ -39,7 +39,7 @@ class Navigator {
 
   private:
     void keepScrolled() { m_history.KeepScrolled(m_host.Scrolled()); }
-    void replayHistory();
+    void ReplayHistory();
     void restorePage(const PageAddress& place);
 
     ContentHost& m_host;

@@ -27,23 +27,23 @@ SectionBar::SectionBar() {
 }
 
 void SectionBar::DrawBar(CDC& dc) const {
-    for (int slot = 0; slot < BarLayout::kSlots; ++slot) drawSlot(dc, slot);
+    for (int slot = 0; slot < BarLayout::kSlots; ++slot) DrawBarSlot(dc, slot);
 }
 
 void SectionBar::Select(int slot, CDC& dc) {
     if (m_nHovered >= 0 && m_nHovered != slot) Hover(-1, dc);
     if (m_nSelected == slot) return;
     const int former = std::exchange(m_nSelected, slot);
-    drawSlot(dc, former);
-    drawSlot(dc, BarLayout::RightNeighbour(former));
-    drawSlot(dc, slot);
+    DrawBarSlot(dc, former);
+    DrawBarSlot(dc, BarLayout::RightNeighbour(former));
+    DrawBarSlot(dc, slot);
 }
 
 void SectionBar::Hover(int slot, CDC& dc) {
     if (slot == m_nHovered) return;
     const int former = std::exchange(m_nHovered, slot);
-    if (former >= 0) drawSlot(dc, former);
-    if (slot >= 0) drawSlot(dc, slot);
+    if (former >= 0) DrawBarSlot(dc, former);
+    if (slot >= 0) DrawBarSlot(dc, slot);
 }
 
 const CBitmap& SectionBar::strip(int slot) const {
@@ -51,7 +51,7 @@ const CBitmap& SectionBar::strip(int slot) const {
     return slot == m_nHovered ? m_hover : m_normal;
 }
 
-void SectionBar::drawSlot(CDC& dc, int slot) const {
+void SectionBar::DrawBarSlot(CDC& dc, int slot) const {
     const bool selected = slot == m_nSelected;
     const SlotPlace place = m_layout.Place(slot, selected);
     CDC source = CDC::CreateCompatibleDC(dc);

@@ -25,7 +25,7 @@ class SectionBar {
 
   private:
     const platform::CBitmap& strip(int slot) const;
-    void drawSlot(platform::CDC& dc, int slot) const;
+    void DrawBarSlot(platform::CDC& dc, int slot) const;
 
     BarLayout m_layout;
     platform::CBitmap m_normal;
