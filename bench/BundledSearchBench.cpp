@@ -14,10 +14,6 @@ namespace {
 
 constexpr std::size_t searchCount = 50;
 
-platform::FileSystem drives() {
-    return platform::FileSystem({{'D', platform::DriveType::cdrom, bench::contentFolder}});
-}
-
 /// For each search the words that it looks up: a word of the vocabulary with all its forms. The words stand
 /// at equal distances in it.
 std::vector<std::vector<std::string>> searches(kalyxo::SearchIndex& index) {
@@ -30,15 +26,19 @@ std::vector<std::vector<std::string>> searches(kalyxo::SearchIndex& index) {
     return all;
 }
 
+struct Bundled {
+    platform::FileSystem files{{{'D', platform::DriveType::cdrom, bench::contentFolder}}};
+    kalyxo::SearchIndex index{files, "D:\\"};
+    std::vector<std::vector<std::string>> all = searches(index);
+};
+
 void MappedScanOfBundledContent(benchmark::State& state) {
-    const platform::FileSystem files = drives();
-    kalyxo::SearchIndex index(files, "D:\\");
-    const auto all = searches(index);
+    Bundled bundled;
     const bench::MappedFile file(bench::contentFolder + '/' + std::string(formats::occurrencesFile));
     int found = 0;
     for (auto _ : state) {
         found = 0;
-        for (const auto& words : all) {
+        for (const auto& words : bundled.all) {
             for (const std::string& word : words) found += bench::countPlainly(file, word);
         }
     }
@@ -48,16 +48,14 @@ void MappedScanOfBundledContent(benchmark::State& state) {
 BENCHMARK(MappedScanOfBundledContent)->Unit(benchmark::kMillisecond);
 
 void LookUpInBundledContent(benchmark::State& state) {
-    const platform::FileSystem files = drives();
-    kalyxo::SearchIndex index(files, "D:\\");
-    const auto all = searches(index);
+    Bundled bundled;
     std::size_t found = 0;
     for (auto _ : state) {
         found = 0;
-        for (const auto& words : all) {
-            index.ResetHits();
-            for (const std::string& word : words) index.CollectHits(word);
-            found += index.HitCount();
+        for (const auto& words : bundled.all) {
+            bundled.index.ResetHits();
+            for (const std::string& word : words) bundled.index.CollectHits(word);
+            found += bundled.index.HitCount();
         }
     }
     if (found == 0) state.SkipWithError("nothing was found");
@@ -67,15 +65,13 @@ BENCHMARK(LookUpInBundledContent)->Unit(benchmark::kMillisecond);
 
 /// Whole searches, their hits turned into rows with titles.
 void SearchOfBundledContent(benchmark::State& state) {
-    const platform::FileSystem files = drives();
-    kalyxo::SearchIndex index(files, "D:\\");
-    const auto all = searches(index);
+    Bundled bundled;
     std::size_t rows = 0;
     for (auto _ : state) {
         rows = 0;
-        for (const auto& words : all) {
-            kalyxo::HitTitles titles(files, "D:\\");
-            rows += kalyxo::FindRows(index, words, titles).size();
+        for (const auto& words : bundled.all) {
+            kalyxo::HitTitles titles(bundled.files, "D:\\");
+            rows += kalyxo::FindRows(bundled.index, words, titles).size();
         }
     }
     if (rows == 0) state.SkipWithError("nothing was found");

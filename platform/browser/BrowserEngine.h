@@ -18,7 +18,7 @@ struct PageRequest;
 /// What shows the pages of one browser component: the engine's view and page, and all that belongs to them.
 /// It comes from a library of its own, since the engine takes as long to load as the rest of the program's
 /// start.
-class BrowserEngine : public WebPageInspector {
+class BrowserEngine : public WebPageInspector, public PageOnShow {
   public:
     /// What it asks of the component.
     struct Questions {
@@ -39,14 +39,6 @@ class BrowserEngine : public WebPageInspector {
     virtual void forgetPresses() = 0;
     /// The page as an automation object, see WebBrowserComponent::document.
     virtual std::shared_ptr<Dispatch> document() = 0;
-
-    /// The same as in PageTools.
-    virtual double scrolled() const = 0;
-    virtual void pointAtLink() = 0;
-    virtual void openFind() = 0;
-    virtual void closeFind() = 0;
-    virtual int textSize() const = 0;
-    virtual void setTextSize(int percent) = 0;
 };
 
 }  // namespace platform

@@ -18,12 +18,10 @@ std::string mapOf(unsigned int number) {
     return text + ' ' + text + " 1";
 }
 
+/// In a child, whose end closes the file.
 bool writeWhole(const char* file, const std::string& text) {
     const int opened = ::open(file, O_WRONLY | O_CLOEXEC);
-    if (opened < 0) return false;
-    const bool written = ::write(opened, text.data(), text.size()) == static_cast<ssize_t>(text.size());
-    ::close(opened);
-    return written;
+    return opened >= 0 && ::write(opened, text.data(), text.size()) == static_cast<ssize_t>(text.size());
 }
 
 bool waitForSuccess(pid_t child) {

@@ -16,16 +16,13 @@ struct PageStart {
     friend bool operator==(const PageStart&, const PageStart&) = default;
 };
 
-/// What a browser component does for its program besides its operations; a Component is converted to it by
-/// `dynamic_cast`.
-class PageTools {
+/// What the program and its user do with the page on show.
+class PageOnShow {
   public:
-    virtual ~PageTools() = default;
+    virtual ~PageOnShow() = default;
 
     /// How far the page is scrolled down, in its own units.
     virtual double scrolled() const = 0;
-    /// Sets how the page begins that the program asks for next.
-    virtual void beginNextPage(PageStart start) = 0;
 
     /// Moves the pointer to the link that the user has just followed by a key; nowhere after a click.
     virtual void pointAtLink() = 0;
@@ -37,6 +34,14 @@ class PageTools {
     /// The size of the page's text, in percent.
     virtual int textSize() const = 0;
     virtual void setTextSize(int percent) = 0;
+};
+
+/// What a browser component does for its program besides its operations; a Component is converted to it by
+/// `dynamic_cast`.
+class PageTools : public PageOnShow {
+  public:
+    /// Sets how the page begins that the program asks for next.
+    virtual void beginNextPage(PageStart start) = 0;
 };
 
 }  // namespace platform

@@ -9,8 +9,8 @@ namespace kalyxo {
 struct InstalledFiles {
     std::filesystem::path modules;  ///< the component modules
     std::filesystem::path content;  ///< the bundled content
-    std::filesystem::path shared =
-        {};  ///< the content that is set for all users in its place; empty when none is
+    /// The content that is set for all users in its place; empty when none is.
+    std::filesystem::path shared = {};
 };
 
 /// The parts that belong to the programs in `programs`: in a build tree the modules in `../ActiveX` and the

@@ -6,22 +6,18 @@
 #include <system_error>
 
 #include "platform/files/FileHandle.h"
+#include "platform/text/Trimmed.h"
 
 namespace kalyxo {
 
 namespace fs = std::filesystem;
+using platform::trimmed;
 
 namespace {
 
 constexpr std::size_t kMaxSettings = std::size_t{64} * 1024;
 constexpr std::string_view kContent = "content";
-constexpr std::string_view kSpace = " \t\r";
-
-std::string_view trimmed(std::string_view text) {
-    const auto first = text.find_first_not_of(kSpace);
-    if (first == text.npos) return {};
-    return text.substr(first, text.find_last_not_of(kSpace) + 1 - first);
-}
+constexpr std::string_view kBlanks = " \t\r";
 
 }  // namespace
 
@@ -30,7 +26,7 @@ fs::path SharedContentFolder(const fs::path& settings) {
     std::istringstream text(file ? file.readAll(kMaxSettings).value_or("") : "");
     fs::path folder;
     for (std::string line; std::getline(text, line);) {
-        const std::string_view plain = trimmed(line);
+        const std::string_view plain = trimmed(line, kBlanks);
         const auto equals = plain.find('=');
         if (equals != plain.npos && trimmed(plain.substr(0, equals)) == kContent)
             folder = trimmed(plain.substr(equals + 1));

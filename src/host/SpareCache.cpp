@@ -6,6 +6,8 @@
 #include <string>
 #include <system_error>
 
+#include "platform/files/FileHandle.h"
+
 namespace kalyxo {
 
 namespace fs = std::filesystem;
@@ -17,15 +19,16 @@ constexpr std::size_t kRoomForPages = std::size_t{1} << 20;
 
 /// Whether that many bytes can be written into the folder: the disk may be full, or the user's share of it.
 bool hasRoom(const fs::path& folder) {
-    std::string name = (folder / "room-XXXXXX").string();
-    const int made = ::mkstemp(name.data());
-    if (made < 0) return false;
-    // By its name no one needs it, and nothing stays when the process is ended by force.
-    ::unlink(name.c_str());
+    // Should the process be ended by force meanwhile, the next start deletes what has this ending.
+    const fs::path path = folder / ("room-" + std::to_string(::getpid()) + ".tmp");
+    auto file = platform::FileHandle::createNew(path);
     const std::string bytes(kRoomForPages, '\0');
-    const bool written = ::write(made, bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size());
+    const bool written = file && file.write(bytes.data(), bytes.size());
     // A network folder may tell of a full disk only now.
-    return ::close(made) == 0 && written;
+    const bool closed = file.close();
+    std::error_code ignored;
+    fs::remove(path, ignored);
+    return written && closed;
 }
 
 bool canBeWritten(const platform::FileSystem& files, const std::string& folder) {
