@@ -39,7 +39,8 @@ bool PageCache::take(const CacheLocation& location) {
     const std::string folder = withoutLastBackslash(location.folder);
     m_files.createFolder(folder);
     const auto native = m_files.nativePath(folder);
-    if (native) m_lock = platform::FolderLock::tryNow(*native);
+    if (!native) return false;
+    m_lock = platform::FolderLock::tryNow(*native);
     if (!m_lock) return false;
     m_location = location;
     platform::deleteHalves(*native);

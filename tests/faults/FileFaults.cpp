@@ -100,7 +100,7 @@ class Faults {
     /// Never destroyed, since files are closed up to the very end of the program.
     static Faults& instance() {
         alignas(Faults) static std::array<std::byte, sizeof(Faults)> place;
-        static Faults* const faults = ::new (place.data()) Faults;
+        static auto* const faults = ::new (place.data()) Faults;  // NOLINT(*-owning-memory)
         return *faults;
     }
 
