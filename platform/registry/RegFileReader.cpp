@@ -77,6 +77,8 @@ bool RegFileReader::readKey() {
     const std::string_view line = trimmedEnd(restOfLine());
     if (!line.ends_with(']')) return fail("από το κλειδί λείπει η αγκύλη στο τέλος");
     const std::string_view path = line.substr(1, line.size() - 2);
+    // A root key behind it could begin with the minus of a removal, which it would be taken for once written.
+    if (path.starts_with('\\')) return fail("η διαδρομή του κλειδιού αρχίζει με ανάποδη κάθετο");
     if (path.starts_with('-')) {
         tree_.remove(path.substr(1));
         key_ = nullptr;

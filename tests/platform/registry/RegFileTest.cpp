@@ -110,6 +110,7 @@ TEST(RegFile, DamageIsToldWithFileAndLine) {
         {header + "\"x\"=dword:1\r\n", "r.reg, γραμμή 3: η τιμή δεν ανήκει"},
         {header + "[HKEY_LOCAL_MACHINE\\A\r\n", "r.reg, γραμμή 3: από το κλειδί λείπει"},
         {header + "[]\r\n", "r.reg, γραμμή 3: η διαδρομή"},
+        {header + "[\\-K]\r\n@=\"a\"\r\n", "r.reg, γραμμή 3: η διαδρομή"},
         {header + deep + "]\r\n", "r.reg, γραμμή 3: η διαδρομή"},
         {key + "junk\r\n", "r.reg, γραμμή 4: δεν είναι ούτε"},
         {key + "\"x\"\r\n", "r.reg, γραμμή 4: από την τιμή λείπει"},
