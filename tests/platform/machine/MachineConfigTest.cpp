@@ -78,6 +78,8 @@ TEST(MachineConfig, WhatIsWrongIsToldByName) {
         {R"({"system": null})", "m.json: system πρέπει να είναι κείμενο"},
         {R"({"printer": {"horzres": -1}})", "m.json: printer.horzres πρέπει να είναι"},
         {R"({"automation": "no"})", "m.json: automation πρέπει να είναι true ή false"},
+        {R"({"sites": {"maker": "A b"}})",
+         "m.json: sites.maker πρέπει να είναι όνομα τοποθεσίας με πεζά γράμματα"},
         {R"({"printer": true})", "m.json: printer πρέπει να είναι αντικείμενο"},
     };
     for (const auto& [json, expected] : cases) {

@@ -54,6 +54,9 @@ TEST_F(NewMachineTest, WhatCannotBeMadeIsNamed) {
     NewMachineOptions noDisc = options;
     noDisc.discFolder = host / "nodisc";
     EXPECT_NE(makeMachine(host / "m1", noDisc).message().find("nodisc"), std::string::npos);
+    host.write("m5/c/Program/ActiveX/TWO.OCX/in the way", "");
+    EXPECT_NE(makeMachine(host / "m5", options).message().find("δεν αντιγράφεται στον φάκελο C:\\Program"),
+              std::string::npos);
     NewMachineOptions noModules = options;
     noModules.modulesFrom = host / "disc";
     EXPECT_NE(makeMachine(host / "m2", noModules).message().find("τα μέρη του προγράμματος"),

@@ -64,20 +64,28 @@ TEST_F(Render, TellsFileAndReasonOfAnError) {
         int status;
         const char* message;
     };
-    const QByteArray good = entry(R"("size": [4, 2], "format": "rgb")");
     const Case cases[] = {
         {"manifest.json", "{", 2, "not a JSON object"},
+        {"manifest.json", R"({"palette": "palette.json"})", 2, "no list \"pictures\""},
+        {"manifest.json", R"({"palette": "palette.json", "pictures": [{}]})", 2, "an entry lacks \"output\""},
+        {"palette.json", R"({"base": {"ink": 5}})", 2, "base.ink is not a text"},
+        {"manifest.json",
+         R"({"palette": "palette.json", "pictures":
+             [{"output": "dot.svg/a.png", "source": "a.svg", "size": [4, 2], "format": "rgb"}]})",
+         1, "its folder cannot be made"},
         {"manifest.json", entry(R"("size": [0, 2], "format": "rgb")"), 2, "\"size\" must be"},
         {"manifest.json", entry(R"("size": [4, 2], "format": "gif")"), 2, "\"format\" must be"},
         {"manifest.json", entry(R"("size": [4, 2], "format": "rgb", "colours": "cold")"), 2, "no colour set"},
         {"a.svg", "<svg", 1, "a.svg: line 1"},
+        {"a.svg", "<a/>", 1, "not an SVG file"},
+        {"dot.svg", "<svg/>", 1, "dot.svg: no usable viewBox"},
         {"a.svg", drawing(R"(<use xlink:href="none.svg"/>)"), 1, "none.svg: "},
         {"a.svg", drawing(R"(<use xlink:href="a.svg"/>)"), 1, "inside one another"},
         {"a.svg", drawing(R"svg(<rect fill="var(--gold)"/>)svg"), 1, "a.svg: no colour gold"},
         {"a.svg", drawing(R"(<text font-family="No Such Font">x</text>)"), 1, "font not installed"},
     };
     for (const Case& wrong : cases) {
-        put("manifest.json", good);
+        SetUp();
         put(wrong.file, wrong.text);
         EXPECT_EQ(run(), wrong.status) << wrong.message;
         EXPECT_TRUE(errors_.contains(wrong.message)) << errors_.toStdString();

@@ -112,6 +112,11 @@ TEST_F(Command, DrawingsThatCannotBeMadeAreToldOneByOne) {
     EXPECT_EQ(compileTo("data"), 1);
     EXPECT_NE(errors_.find("pictures/air.svg:1: this drawing cannot be read: "), std::string::npos)
         << errors_;
+    content_.write("videos/fall.json", "{}");
+    content_.write("videos/render.sh", "echo no frames >&2; exit 1");
+    EXPECT_EQ(compileTo("data"), 1);
+    EXPECT_NE(errors_.find("videos/fall.json:1: this film cannot be made: no frames"), std::string::npos)
+        << errors_;
     limits_ = "PATH=/none ";
     EXPECT_EQ(compileTo("data"), 1);
     EXPECT_NE(
@@ -161,6 +166,8 @@ TEST_F(Command, WrongArgumentsAreRefused) {
         EXPECT_NE(errors_.find(message), std::string::npos) << arguments << ": " << errors_;
     }
     EXPECT_FALSE(fs::exists(content_.beside("out")));
+    EXPECT_EQ(run("--help"), 0);
+    EXPECT_NE(errors_.find("Usage: contentc COMMAND [FOLDER] [OPTION]..."), std::string::npos) << errors_;
 }
 
 TEST_F(Command, StrictTakesWarningsForErrors) {

@@ -25,6 +25,9 @@ TEST(CommandLine, SaysWhatIsWrong) {
     for (const auto& arguments : wrong) {
         EXPECT_NE(taskOf(arguments).message(), "") << testing::PrintToString(arguments);
     }
+    EXPECT_TRUE(usage().starts_with("usage: kalyxo-drive --machine DIR [--follow] [SCRIPT]\n"));
+    EXPECT_NE(usage().find("kalyxo-drive --new-machine DIR --data FOLDER [--outside] [--bare]\n"),
+              usage().npos);
 }
 
 }  // namespace
