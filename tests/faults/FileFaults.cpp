@@ -1,11 +1,18 @@
 // Preloaded into a program, this library counts the operations of the program on files of some folders and
 // lets one of them fail. All is told by the environment:
-//   FAULTS_BELOW  the folders, with colons between them
-//   FAULTS_LOG    a file that gets a line "operation path bytes" for each operation; a failing one begins
-//   with "! " FAULTS_AT     operation and path of those among which one fails FAULTS_NTH    which of them,
-//   from 1 FAULTS_ERROR  the error number FAULTS_TAKES  how many bytes a failing write still takes
-//   FAULTS_THEN   "works": only this one fails; "full": later ones that need room fail too; "gone": all later
-//   ones
+//
+// FAULTS_BELOW: the folders, with colons between them.
+//
+// FAULTS_LOG: a file that gets a line "operation path bytes" for each operation; a failing one begins with
+// "! ".
+//
+// FAULTS_AT: operation and path of those among which one fails. FAULTS_NTH: which of them, from 1.
+//
+// FAULTS_ERROR: the error number. FAULTS_TAKES: how many bytes a failing write still takes.
+//
+// FAULTS_THEN: "works" when only this one fails; "full" when later ones that need room fail too; "gone" when
+// all later ones do.
+//
 // Paths stand in the log from their folder on, with a # for what another run names otherwise.
 
 #include <dirent.h>
@@ -68,10 +75,13 @@ std::string general(std::string path) {
     return result;
 }
 
+/// Not on the stack, of which a process that is being started has a few kilobytes in the memory of its
+/// parent.
 std::string linkTarget(const std::string& link) {
-    std::array<char, PATH_MAX> path{};
+    std::string path(PATH_MAX, '\0');
     const long length = ::syscall(SYS_readlink, link.c_str(), path.data(), path.size());
-    return length > 0 ? std::string(path.data(), static_cast<std::size_t>(length)) : std::string();
+    path.resize(length > 0 ? static_cast<std::size_t>(length) : 0);
+    return path;
 }
 
 std::string pathOf(int descriptor) { return linkTarget("/proc/self/fd/" + std::to_string(descriptor)); }
