@@ -121,7 +121,9 @@ void WebEngine::updatePluginWindows() { plugins_->update(); }
 
 std::string WebEngine::pluginPicture(HWND window) { return plugins_->picture(window).toStdString(); }
 
-double WebEngine::scrolled() const { return page_->scrollPosition().y() / page_->zoomFactor(); }
+double WebEngine::scrolled() const {
+    return page_->scrollPosition().y() / (page_->zoomFactor() * view_->devicePixelRatioF());
+}
 
 void WebEngine::pointAtLink() {
     if (!view_->presses().lastWasKey()) return;
