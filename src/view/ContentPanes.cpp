@@ -63,6 +63,11 @@ void ContentPanes::ShowWhole(CWnd& component) {
     component.ShowWindow(SW_SHOW);
 }
 
+void ContentPanes::FocusWhole() {
+    if (m_mode == ContentMode::PeriodicTable) m_components.periodicTable.SetFocus();
+    if (m_mode == ContentMode::DataAnalyser) m_components.dataAnalyser.SetFocus();
+}
+
 void ContentPanes::Resize(CSize client) {
     m_bLayoutPending = true;
     const CRect area = PaneLayout{client}.Whole();

@@ -21,6 +21,9 @@ class ContentPanes {
     void LayOutPage();
     /// Lays out the one component of the mode, and shows it.
     void ShowWhole(platform::CWnd& component);
+    /// Gives the keyboard's focus to the component that `ShowWhole` has shown, so that what is typed after a
+    /// click in the bar reaches it; nothing in other modes.
+    void FocusWhole();
     /// The view has this size now. The panes of page mode follow at the next paint.
     void Resize(platform::CSize client);
     /// Paints what the panes leave free; the view is in a mode with panes.

@@ -219,6 +219,7 @@ void CKalyxoView::OnLButtonDown(UINT, CPoint point) {
     if (slot < 0) return;
     CCursor::Arrow().Set();
     openSlot(slot);
+    m_panes.FocusWhole();
 }
 
 void CKalyxoView::OnKeyDown(UINT key) {
