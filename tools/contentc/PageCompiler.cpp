@@ -55,6 +55,7 @@ class PageCompilation {
             marks["sectionname"] = page_.section->displayName;
         }
         if (hasMoleculeScaffold()) {
+            marks["moleculecaption"] = page_.moleculeCaption.empty() ? "" : page_.moleculeCaption + ' ';
             marks["molfile"] = std::string(moleculeMarker) + "mol\\" + molecule_.value_or("") + ".mol";
         }
         return marks;

@@ -18,7 +18,7 @@ constexpr const char* sampleMoleculePage =
     "<HTML>\n<TITLE>{{title}}</TITLE>\n3\n4\n5\n6\n7\n8\n9\n10\n<BODY "
     "CLASS=\"{{section}}\">\n<TABLE><TR><TD>\n"
     "<EMBED SRC=\"{{molfile}}\" WIDTH=340 "
-    "HEIGHT=290\n14\nSPIN=true\n>\n</TD></TR></TABLE>\n{{body}}\n</HTML>\n";
+    "HEIGHT=290\n14\nSPIN=true\n>\n</TD></TR></TABLE>{{moleculecaption}}\n{{body}}\n</HTML>\n";
 
 }  // namespace
 

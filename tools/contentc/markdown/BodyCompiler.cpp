@@ -28,7 +28,9 @@ void compileBody(PageSource& page, const BodyContext& context, Diagnostics& diag
     parts.write(markdown, hasLead ? FirstParagraph::lead : FirstParagraph::plain);
     if (page.section) addLists(page, context, parts, lines);
     for (const TextLine& line : lines.take()) page.body.push_back(htmlInCodePage(line));
-    if (page.section && parts.hasMolecule()) page.scaffold = PageTemplate::molecule;
+    if (!page.section || !parts.hasMolecule()) return;
+    page.scaffold = PageTemplate::molecule;
+    page.moleculeCaption = htmlInCodePage({parts.moleculeCaption(), page.place}).text;
 }
 
 }  // namespace contentc

@@ -291,8 +291,7 @@ void BodyParts::writeMark(std::string_view words, const TextLine& line) {
         case video:
             return writeVideo(rest, line);
         case molecule:
-            hasMolecule_ = true;
-            return lines_.addLine("{{molecule " + std::string(rest) + "}}", placeOf(rest, line));
+            return writeMolecule(rest, line);
         case contents:
             hasTopicList_ = true;
             return writeList(topicList(context_.content, page_, ListHeading::none), place);
@@ -318,8 +317,7 @@ void BodyParts::writeSchoolYear(std::string_view year, const SourcePlace& place)
     diagnostics_.error(place, say::unknownSchoolYear, {year});
 }
 
-void BodyParts::writeVideo(std::string_view words, const TextLine& line) {
-    const SourcePlace place = placeOf(words, line);
+BodyParts::Captioned BodyParts::captionedOf(std::string_view words, const TextLine& line) {
     const std::size_t quote = std::min(words.find('"'), words.size());
     std::string_view caption = words.substr(quote);
     if (caption.size() > 1 && caption.ends_with('"')) {
@@ -327,9 +325,21 @@ void BodyParts::writeVideo(std::string_view words, const TextLine& line) {
     } else if (!caption.empty()) {
         diagnostics_.error(placeOf(caption, line), say::captionIsNotClosed);
     }
+    return {trimmed(words.substr(0, quote)), inlineOf(caption, line)};
+}
+
+void BodyParts::writeMolecule(std::string_view words, const TextLine& line) {
+    hasMolecule_ = true;
+    auto [name, caption] = captionedOf(words, line);
+    moleculeCaption_ = std::move(caption);
+    lines_.addLine("{{molecule " + std::string(name) + "}}", placeOf(words, line));
+}
+
+void BodyParts::writeVideo(std::string_view words, const TextLine& line) {
+    const SourcePlace place = placeOf(words, line);
+    const auto [name, text] = captionedOf(words, line);
     lines_.addLine("<DIV CLASS=\"film\">", place);
-    lines_.addLine("{{video " + std::string(trimmed(words.substr(0, quote))) + "}}", place);
-    const std::string text = inlineOf(caption, line);
+    lines_.addLine("{{video " + std::string(name) + "}}", place);
     const std::string link = page_.section ? "<A HREF=\"{{enlarge}}\">Μεγέθυνση</A>" : "";
     lines_.addLine("<P CLASS=\"caption\">" + text + (text.empty() ? "" : " ") + link + "</P>", place);
     lines_.addLine("</DIV>", place);

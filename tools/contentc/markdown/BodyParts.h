@@ -25,6 +25,8 @@ class BodyParts {
 
     /// Whether a molecule has been written, for which the page needs a scaffold of its own.
     bool hasMolecule() const { return hasMolecule_; }
+    /// What stands below it, as HTML in UTF-8; may be empty.
+    const std::string& moleculeCaption() const { return moleculeCaption_; }
 
   private:
     /// The result says how the next paragraph is to be written.
@@ -44,7 +46,14 @@ class BodyParts {
     void writeMark(std::string_view words, const TextLine& line);
     void writeList(const HtmlList& list, const SourcePlace& place);
     void writeSchoolYear(std::string_view year, const SourcePlace& place);
+    void writeMolecule(std::string_view words, const TextLine& line);
     void writeVideo(std::string_view words, const TextLine& line);
+    /// A file's name and the caption behind it in quotes.
+    struct Captioned {
+        std::string_view name;
+        std::string caption;  ///< as HTML; empty without one
+    };
+    Captioned captionedOf(std::string_view words, const TextLine& line);
     /// A part of a line of the source as HTML.
     std::string inlineOf(std::string_view part, const TextLine& line);
     std::string formulaOf(std::string_view part, const TextLine& line);
@@ -56,6 +65,7 @@ class BodyParts {
     /// How many boxes the lines being written stand in.
     int depth_ = 0;
     bool hasMolecule_ = false;
+    std::string moleculeCaption_;
     bool hasTopicList_ = false;
     bool hasEntryList_ = false;
 };

@@ -62,6 +62,8 @@ struct PageSource {
     /// The position among the pages of its kind. Pages with the same order are sorted by number.
     std::int32_t order = 0;
     PageTemplate scaffold = PageTemplate::page;
+    /// What stands below the molecule, as HTML in code page 1253; may be empty.
+    std::string moleculeCaption;
     /// One sentence, shown beside links to the page; may be empty.
     TextLine summary;
     std::vector<ClassChapter> classes;
