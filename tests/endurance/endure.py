@@ -158,6 +158,7 @@ def endure_pages(program, places, count):
 def holdings(program):
     """What the processes hold while the same page rests on the screen."""
     program.ask("command 32775")
+    program.ask("trace")  # what the driver has noted until then is no memory of the program
     program.ask("wait 3000")
     everyone, driver = processes.descendants(), program.desktop.process.pid
     return {"KB of the program": processes.memory(driver),
