@@ -30,9 +30,9 @@ class PageCompilation {
         MarkupCompiler markup(scaffoldMarks(), isPrepared(), references_, diagnostics_);
         std::vector<TextLine> lines;
         lines.reserve(scaffold.head.size() + body.size() + scaffold.foot.size());
-        for (const TextLine& line : scaffold.head) lines.push_back(markup.compile(line));
+        for (const TextLine& line : scaffold.head) lines.push_back(markup.compile(withCaption(line)));
         lines.insert(lines.end(), body.begin(), body.end());
-        for (const TextLine& line : scaffold.foot) lines.push_back(markup.compile(line));
+        for (const TextLine& line : scaffold.foot) lines.push_back(markup.compile(withCaption(line)));
         return lines;
     }
 
@@ -55,10 +55,19 @@ class PageCompilation {
             marks["sectionname"] = page_.section->displayName;
         }
         if (hasMoleculeScaffold()) {
-            marks["moleculecaption"] = page_.moleculeCaption.empty() ? "" : page_.moleculeCaption + ' ';
             marks["molfile"] = std::string(moleculeMarker) + "mol\\" + molecule_.value_or("") + ".mol";
         }
         return marks;
+    }
+
+    /// The caption's own marks and links are compiled with the line.
+    TextLine withCaption(TextLine line) const {
+        constexpr std::string_view mark = "{{moleculecaption}}";
+        const std::size_t at = hasMoleculeScaffold() ? line.text.find(mark) : line.text.npos;
+        if (at == line.text.npos) return line;
+        const std::string_view gap = page_.moleculeCaption.empty() ? "" : " ";
+        line.text.replace(at, mark.size(), page_.moleculeCaption + std::string(gap));
+        return line;
     }
 
     std::vector<TextLine> compileBody() {

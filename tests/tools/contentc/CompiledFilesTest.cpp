@@ -157,8 +157,10 @@ TEST(CompiledFiles, MoleculePageNamesItsFileAndKeepsTheLayout) {
     EXPECT_NE(page.find("</TABLE>\r\n<P>H<SUB>2</SUB>O</P>\r\n"), std::string::npos);
     EXPECT_EQ(content.compiled("mol\\water.mol"), sampleMolecule);
     content.write("pages/struct/370010.md",
-                  "title: Νερό\nsummary: S\n---\n{{molecule water \"Το νερό, $H2O$.\"}}\n<P>...</P>\n");
-    EXPECT_NE(content.compiled("37\\0010").find("</TABLE>" + greek("Το νερό, H<SUB>2</SUB>O. ") + "\r\n"),
+                  "title: Νερό\nsummary: S\n---\n{{molecule water \"Το νερό, $H2O$, και "
+                  "[[υδρογόνο]].\"}}\n<P>...</P>\n");
+    EXPECT_NE(content.compiled("37\\0010")
+                  .find("</TABLE>" + greek("Το νερό, H<SUB>2</SUB>O, και ~Gydroyzcqυδρογόνο~G. ") + "\r\n"),
               std::string::npos)
         << content.compiled("37\\0010");
 }

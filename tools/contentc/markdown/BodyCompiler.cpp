@@ -28,9 +28,10 @@ void compileBody(PageSource& page, const BodyContext& context, Diagnostics& diag
     parts.write(markdown, hasLead ? FirstParagraph::lead : FirstParagraph::plain);
     if (page.section) addLists(page, context, parts, lines);
     for (const TextLine& line : lines.take()) page.body.push_back(htmlInCodePage(line));
-    if (!page.section || !parts.hasMolecule()) return;
+    const std::optional<std::string>& caption = parts.moleculeCaption();
+    if (!page.section || !caption) return;
     page.scaffold = PageTemplate::molecule;
-    page.moleculeCaption = htmlInCodePage({parts.moleculeCaption(), page.place}).text;
+    page.moleculeCaption = htmlInCodePage({*caption, page.place}).text;
 }
 
 }  // namespace contentc

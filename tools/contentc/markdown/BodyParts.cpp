@@ -329,7 +329,6 @@ BodyParts::Captioned BodyParts::captionedOf(std::string_view words, const TextLi
 }
 
 void BodyParts::writeMolecule(std::string_view words, const TextLine& line) {
-    hasMolecule_ = true;
     auto [name, caption] = captionedOf(words, line);
     moleculeCaption_ = std::move(caption);
     lines_.addLine("{{molecule " + std::string(name) + "}}", placeOf(words, line));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <span>
 
 #include "tools/contentc/markdown/BlockWriter.h"
@@ -23,10 +24,9 @@ class BodyParts {
     bool hasTopicList() const { return hasTopicList_; }
     bool hasEntryList() const { return hasEntryList_; }
 
-    /// Whether a molecule has been written, for which the page needs a scaffold of its own.
-    bool hasMolecule() const { return hasMolecule_; }
-    /// What stands below it, as HTML in UTF-8; may be empty.
-    const std::string& moleculeCaption() const { return moleculeCaption_; }
+    /// What stands below the molecule, as HTML in UTF-8, maybe empty; nothing when no molecule has been
+    /// written. With one, the page needs a scaffold of its own.
+    const std::optional<std::string>& moleculeCaption() const { return moleculeCaption_; }
 
   private:
     /// The result says how the next paragraph is to be written.
@@ -64,8 +64,7 @@ class BodyParts {
     Diagnostics& diagnostics_;
     /// How many boxes the lines being written stand in.
     int depth_ = 0;
-    bool hasMolecule_ = false;
-    std::string moleculeCaption_;
+    std::optional<std::string> moleculeCaption_;
     bool hasTopicList_ = false;
     bool hasEntryList_ = false;
 };
