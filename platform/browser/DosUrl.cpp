@@ -12,6 +12,8 @@ namespace platform {
 
 namespace {
 
+constexpr char driveHost[] = "disk";
+
 bool isLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 
 bool isDosPath(std::string_view text) {
@@ -20,8 +22,17 @@ bool isDosPath(std::string_view text) {
 }
 
 QUrl driveUrl(char letter, const QByteArray& escapedPath) {
-    const QByteArray scheme(1, lower(letter));
-    return QUrl::fromEncoded(scheme + ':' + escapedPath, QUrl::TolerantMode);
+    return QUrl::fromEncoded(QByteArray::fromStdString(driveUrlStart(letter)) + escapedPath,
+                             QUrl::TolerantMode);
+}
+
+/// The path of a drive URL as it is written. A page's `d:\images\x.gif` is for the engine the path `/x.gif`
+/// on the host `images`.
+QByteArray escapedPathOf(const QUrl& url) {
+    QByteArray path = url.path(QUrl::FullyEncoded).toUtf8();
+    const QByteArray host = url.host(QUrl::FullyEncoded).toUtf8();
+    if (host.isEmpty() || host == driveHost) return path;
+    return '/' + host + (path == "/" ? QByteArray() : path);
 }
 
 QByteArray escaped(std::string_view path) {
@@ -39,12 +50,14 @@ std::optional<std::string> textOfBytes(const QByteArray& raw) {
 /// The path of a drive URL as it is written, decoded.
 std::optional<std::string> writtenPath(const QUrl& url) {
     if (!isDriveUrl(url)) return std::nullopt;
-    const auto path = textOfBytes(QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toUtf8()));
+    const auto path = textOfBytes(QByteArray::fromPercentEncoding(escapedPathOf(url)));
     if (!path) return std::nullopt;
     return std::string{url.scheme()[0].toUpper().toLatin1()} + ':' + *path;
 }
 
 }  // namespace
+
+std::string driveUrlStart(char letter) { return std::string{lower(letter)} + "://" + driveHost; }
 
 bool isDriveUrl(const QUrl& url) {
     const QString scheme = url.scheme();
@@ -68,9 +81,10 @@ QUrl urlOfAddress(std::string_view address, std::size_t folderLength) {
 
 QUrl normalisedUrl(const QUrl& url) {
     if (!isDriveUrl(url)) return url;
-    QByteArray text = url.toEncoded(QUrl::RemoveQuery | QUrl::RemoveFragment);
-    text.replace("%5C", "/").replace('\\', '/');
-    QUrl result = QUrl::fromEncoded(text, QUrl::TolerantMode);
+    QByteArray path = escapedPathOf(url);
+    path.replace("%5C", "/").replace('\\', '/');
+    if (!path.isEmpty() && !path.startsWith('/')) return url;  // as the engine never writes it
+    QUrl result = driveUrl(url.scheme()[0].toLatin1(), path);
     if (url.hasQuery()) result.setQuery(url.query(QUrl::FullyEncoded), QUrl::TolerantMode);
     if (url.hasFragment()) result.setFragment(url.fragment(QUrl::FullyEncoded), QUrl::TolerantMode);
     return result;

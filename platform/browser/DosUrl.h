@@ -6,10 +6,14 @@
 
 class QUrl;
 
-/// Addresses of pages. The program and the content write DOS paths (`D:\a.htm`, `c:/cache/1.htm`); the
-/// engine takes them for URLs whose scheme is the drive letter (`d:/a.htm`), which resolve relative links
-/// only when written with forward slashes.
+/// Addresses of pages. The program and the content write DOS paths (`D:\a.htm`, `c:/cache/1.htm`). For the
+/// engine they are URLs with the drive letter as scheme (`d://disk/a.htm`), which resolve relative links only
+/// when written with forward slashes. The host, always the same, makes the pages of a drive one site: without
+/// any, each page would be a site of its own, for which the engine makes a frame anew and keeps part of it.
 namespace platform {
+
+/// How the URLs of a drive begin, up to the slash of the path.
+std::string driveUrlStart(char letter);
 
 /// Whether the URL's scheme is a drive letter.
 bool isDriveUrl(const QUrl& url);
@@ -22,7 +26,7 @@ bool isOnline(const QUrl& url);
 /// first `folderLength` bytes belongs to the name of a folder.
 QUrl urlOfAddress(std::string_view address, std::size_t folderLength = 0);
 
-/// A drive URL with forward slashes, which are its path's only form here; others stay as they are.
+/// A drive URL on the drive's host and with forward slashes, its only form here; others stay as they are.
 QUrl normalisedUrl(const QUrl& url);
 
 /// The canonical DOS path that a drive URL names, in code page 1253, decoded once; the URL's query and

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <functional>
 
+#include "platform/browser/DosUrl.h"
 #include "platform/text/CodePage1253.h"
 
 namespace platform {
@@ -13,13 +14,16 @@ namespace {
 /// What ends an attribute or the path of a URL, or begins an escape or an entity.
 constexpr std::string_view toEscape = " #?%&\"'<>";
 
-bool needsEscapes(std::string_view folder) { return folder.find_first_of(toEscape) != folder.npos; }
-
-std::string escapedName(std::string_view folder) {
-    std::string result;
-    for (const char c : folder) {
+/// The URL of a folder that is given as a DOS path.
+std::string urlOfFolder(std::string_view folder) {
+    std::string result = driveUrlStart(folder[0]);
+    for (const char c : folder.substr(2)) {
         const bool isPlain = toEscape.find(c) == toEscape.npos;
-        result += isPlain ? std::string(1, c) : QByteArray(1, c).toPercentEncoding().toStdString();
+        if (c == '\\') {
+            result += '/';
+        } else {
+            result += isPlain ? std::string(1, c) : QByteArray(1, c).toPercentEncoding().toStdString();
+        }
     }
     return result;
 }
@@ -30,8 +34,8 @@ bool beginsAddress(std::string_view page, std::size_t at) {
 
 /// Put together anew: a page may hold the folder millions of times, and each change in place would move the
 /// rest.
-void escapeFolder(std::string& page, std::string_view folder) {
-    const std::string with = escapedName(folder);
+void writeUrls(std::string& page, std::string_view folder) {
+    const std::string with = urlOfFolder(folder);
     std::string result;
     std::size_t done = 0;
     for (std::size_t at = page.find(folder); at != std::string::npos;
@@ -54,17 +58,13 @@ std::size_t folderLength(std::string_view address, const std::vector<std::string
     return longest;
 }
 
-bool needEscapes(const std::vector<std::string>& folders) {
-    return std::ranges::any_of(folders, needsEscapes);
-}
-
-std::string escapeFolders(std::string page, std::vector<std::string> folders) {
+std::string folderUrls(std::string text, std::vector<std::string> folders) {
     // A folder may lie in another one.
     std::ranges::sort(folders, std::ranges::greater(), &std::string::size);
     for (const std::string& folder : folders) {
-        if (needsEscapes(folder)) escapeFolder(page, folder);
+        if (folder.size() > 2) writeUrls(text, folder);
     }
-    return page;
+    return text;
 }
 
 }  // namespace platform

@@ -12,11 +12,8 @@ namespace platform {
 /// with, in any letter case; 0 for none.
 std::size_t folderLength(std::string_view address, const std::vector<std::string>& folders);
 
-/// Whether any folder has a character in its name that addresses in pages must escape.
-bool needEscapes(const std::vector<std::string>& folders);
-
-/// The text of a page in which the folders at the beginning of addresses are escaped. Each is found as it
-/// stands, behind a quote, an equals sign or a parenthesis.
-std::string escapeFolders(std::string page, std::vector<std::string> folders);
+/// The text of a page or style sheet in which the addresses that begin with one of the folders are URLs (see
+/// DosUrl.h) up to there. A folder is found as it stands, behind a quote, an equals sign or a parenthesis.
+std::string folderUrls(std::string text, std::vector<std::string> folders);
 
 }  // namespace platform

@@ -65,14 +65,12 @@ bool isFrame(QWebEngineUrlRequestJob& job) {
     return job.requestHeaders().value(DriveSchemeHandler::frameHeader) == "1";
 }
 
-/// The page as the engine is to read it, see FolderAddresses.h.
-std::unique_ptr<QIODevice> withEscapedFolders(std::unique_ptr<QIODevice> page) {
-    const auto& folders = BrowserPolicy::instance().allowedFolders();
-    if (!needEscapes(folders)) return page;
-    auto escaped = std::make_unique<QBuffer>();
-    escaped->setData(
-        QByteArray::fromStdString(escapeFolders(page->read(maxPageLength).toStdString(), folders)));
-    return openForReading(std::move(escaped));
+/// The text as the engine is to read it, see FolderAddresses.h.
+std::unique_ptr<QIODevice> withFolderUrls(QIODevice& text) {
+    auto changed = std::make_unique<QBuffer>();
+    changed->setData(QByteArray::fromStdString(
+        folderUrls(text.read(maxPageLength).toStdString(), BrowserPolicy::instance().allowedFolders())));
+    return openForReading(std::move(changed));
 }
 
 /// False, with the request unanswered, when the file cannot be read.
@@ -80,7 +78,7 @@ bool replyFile(QWebEngineUrlRequestJob* job, const std::string& dosPath, const F
     std::unique_ptr<QIODevice> file = deviceOf(handle);
     if (!file) return false;
     const QByteArray type = contentType(dosPath, *file);
-    if (type.startsWith("text/html")) file = withEscapedFolders(std::move(file));
+    if (type.startsWith("text/html") || type.startsWith("text/css")) file = withFolderUrls(*file);
     reply(job, type, std::move(file));
     return true;
 }

@@ -11,7 +11,7 @@ namespace {
 bool registerDriveSchemes() {
     for (char letter = 'a'; letter <= 'z'; ++letter) {
         QWebEngineUrlScheme scheme(QByteArray(1, letter));
-        scheme.setSyntax(QWebEngineUrlScheme::Syntax::Path);
+        scheme.setSyntax(QWebEngineUrlScheme::Syntax::Host);
         scheme.setFlags(QWebEngineUrlScheme::LocalScheme | QWebEngineUrlScheme::LocalAccessAllowed |
                         QWebEngineUrlScheme::CorsEnabled);
         QWebEngineUrlScheme::registerScheme(scheme);

@@ -40,7 +40,8 @@ constexpr qsizetype maxMessageLength = 200;
 
 WebPage::WebPage(Gate gate, PressTaker takePress, QObject* parent)
     : QWebEnginePage(&browserProfile(), parent), gate_(std::move(gate)), takePress_(std::move(takePress)) {
-    addScripts();
+    renewScripts();
+    connect(this, &QWebEnginePage::urlChanged, this, &WebPage::noteSite);
     setBackgroundColor(Qt::white);
     copyLimit_.setSingleShot(true);
     copyLimit_.setInterval(copyTime);
@@ -53,11 +54,20 @@ WebPage::WebPage(Gate gate, PressTaker takePress, QObject* parent)
 
 /// The scripts belong to the page, not to the profile: when the page's process ends, the next one would not
 /// get them from the profile.
-void WebPage::addScripts() {
+void WebPage::renewScripts() {
+    scripts().clear();
     scripts().insert(contentLimits());
     if (const auto extensions = PluginTypes::instance().extensions(); !extensions.empty()) {
         scripts().insert(embedScript(extensions));
     }
+    if (start_ != PageStart{}) scripts().insert(beginning_ = pageBeginning(start_));
+}
+
+/// Another site, as another drive is, comes in a frame of its own. When the former frame ends, the engine
+/// forgets its scripts also for that one, but not new ones.
+void WebPage::noteSite(const QUrl& url) {
+    const QString site = url.scheme() + QLatin1StringView("://") + url.host();
+    if (std::exchange(site_, site) != site) renewScripts();
 }
 
 void WebPage::go(const PageRequest& request) {
@@ -160,6 +170,7 @@ void WebPage::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QStr
 }
 
 void WebPage::finished(bool arrived) {
+    if (!arrived) site_.clear();  // the engine's page for what failed has a frame of its own
     if (!arrived && isOnline(arrival_.target()) && !std::exchange(toldUnreachable_, true)) {
         setHtml(unreachablePage(arrival_.target()), arrival_.target());
     } else {

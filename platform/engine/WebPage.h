@@ -72,7 +72,8 @@ class WebPage : public QWebEnginePage {
                                   const QString& source) override;
 
   private:
-    void addScripts();
+    void renewScripts();
+    void noteSite(const QUrl& url);
     void setBeginning(const PageStart& start);
     void forgetMarks();
     void requestLater(const QUrl& asking, const QUrl& url);
@@ -89,6 +90,7 @@ class WebPage : public QWebEnginePage {
     bool toldUnreachable_ = false;
     QTimer copyLimit_;  // runs while the engine copies
     int waiting_ = 0;   // navigations asked for by the page and not yet put to the gate
+    QString site_;      // of the page on show
     PageStart start_;
     QWebEngineScript beginning_;  // of the page that the program opened
     bool marked_ = false;         // whether words are marked in the page

@@ -18,10 +18,10 @@ TEST(Address, TurnsIntoAUrlAndBack) {
         const char* told;
     };
     const Case cases[] = {
-        {"D:\\a.htm", "d:/a.htm", "D:\\a.htm"},
-        {"c:/cache/1.htm", "c:/cache/1.htm", "C:\\cache\\1.htm"},
-        {"D:\\Αρχείο 1.htm", "d:/%CE%91%CF%81%CF%87%CE%B5%CE%AF%CE%BF%201.htm", "D:\\Αρχείο 1.htm"},
-        {"D:\\100%\\a?.htm#τέλος", "d:/100%25/a%3F.htm#%CF%84%CE%AD%CE%BB%CE%BF%CF%82",
+        {"D:\\a.htm", "d://disk/a.htm", "D:\\a.htm"},
+        {"c:/cache/1.htm", "c://disk/cache/1.htm", "C:\\cache\\1.htm"},
+        {"D:\\Αρχείο 1.htm", "d://disk/%CE%91%CF%81%CF%87%CE%B5%CE%AF%CE%BF%201.htm", "D:\\Αρχείο 1.htm"},
+        {"D:\\100%\\a?.htm#τέλος", "d://disk/100%25/a%3F.htm#%CF%84%CE%AD%CE%BB%CE%BF%CF%82",
          "D:\\100%\\a?.htm#τέλος"},
         {"about:blank", "about:blank", "about:blank"},
         {"http://example.org/a%20b", "http://example.org/a%20b", "http://example.org/a%20b"},
@@ -41,18 +41,21 @@ TEST(Address, ReadsWhatPagesWrite) {
         const char* normalised;  // the same when there is nothing to change
     };
     const Case cases[] = {
-        {"d:%5Cimages%5Cx.gif", "D:\\images\\x.gif", "d:/images/x.gif"},
-        {"d:/mol/x.mol?spin=true#a", "D:\\mol\\x.mol", "d:/mol/x.mol?spin=true#a"},
+        {"d:%5Cimages%5Cx.gif", "D:\\images\\x.gif", "d://disk/images/x.gif"},
+        {"d://disk/mol/x.mol?spin=true#a", "D:\\mol\\x.mol", "d://disk/mol/x.mol?spin=true#a"},
+        // What the engine makes of `D:\images\x.gif` and `D:\a.htm`.
+        {"d://images/x.gif", "D:\\images\\x.gif", "d://disk/images/x.gif"},
+        {"d://a.htm/", "D:\\a.htm", "d://disk/a.htm"},
         // Alpha and beta escaped as UTF-8 and as code page 1253.
-        {"d:/%CE%B1%CE%B2", "D:\\αβ", "d:/%CE%B1%CE%B2"},
-        {"d:/%E1%E2", "D:\\αβ", "d:/%E1%E2"},
-        {"d:/%E4%B8%AD", "", "d:/%E4%B8%AD"},
+        {"d:/%CE%B1%CE%B2", "D:\\αβ", "d://disk/%CE%B1%CE%B2"},
+        {"d://disk/%E1%E2", "D:\\αβ", "d://disk/%E1%E2"},
+        {"d:/%E4%B8%AD", "", "d://disk/%E4%B8%AD"},
         // Decoded once, then made canonical.
-        {"d:/x/%23%2F..%2F../a%252e.htm", "D:\\a%2e.htm", "d:/x/%23%2F..%2F../a%252e.htm"},
-        {"d:/../x/.//y/", "D:\\x\\y", "d:/../x/.//y/"},
-        {"d:", "D:\\", "d:"},
+        {"d:/x/%23%2F..%2F../a%252e.htm", "D:\\a%2e.htm", "d://disk/x/%23%2F..%2F../a%252e.htm"},
+        {"d:/../x/.//y/", "D:\\x\\y", "d://disk/../x/.//y/"},
+        {"d:", "D:\\", "d://disk"},
         {"d:x", "", "d:x"},
-        {"d:/x%00y", "", "d:/x%00y"},
+        {"d:/x%00y", "", "d://disk/x%00y"},
         {"http://example.org/%5C", "", "http://example.org/%5C"},
     };
     for (const auto& one : cases) {
@@ -78,13 +81,13 @@ TEST(FileType, SeesACharsetInTheFirstKilobyteOnly) {
 }
 
 // Each change moved the rest of the page.
-TEST(FolderAddresses, AreEscapedSoonInAPageThatIsFullOfThem) {
+TEST(FolderAddresses, BecomeUrlsSoonInAPageThatIsFullOfThem) {
     constexpr std::size_t count = 500'000;
     std::string page;
     for (std::size_t i = 0; i < count; ++i) page += "\"D:\\a #\\";
-    const std::string escaped = escapeFolders(page, {"D:\\a #\\", "C:\\"});
-    EXPECT_EQ(escaped.size(), page.size() + 4 * count);
-    EXPECT_TRUE(escaped.starts_with("\"D:\\a%20%23\\\"D:"));
+    const std::string urls = folderUrls(page, {"D:\\a #\\", "C:\\"});
+    EXPECT_EQ(urls.size(), page.size() + 10 * count);
+    EXPECT_TRUE(urls.starts_with("\"d://disk/a%20%23/\"d:"));
 }
 
 }  // namespace
