@@ -12,7 +12,8 @@ namespace platform {
 
 namespace {
 
-constexpr char driveHost[] = "disk";
+/// Part of no name of a folder, for which the engine would otherwise take a host.
+constexpr char driveHost[] = "drive.invalid";
 
 bool isLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 

@@ -7,9 +7,10 @@
 class QUrl;
 
 /// Addresses of pages. The program and the content write DOS paths (`D:\a.htm`, `c:/cache/1.htm`). For the
-/// engine they are URLs with the drive letter as scheme (`d://disk/a.htm`), which resolve relative links only
-/// when written with forward slashes. The host, always the same, makes the pages of a drive one site: without
-/// any, each page would be a site of its own, for which the engine makes a frame anew and keeps part of it.
+/// engine they are URLs with the drive letter as scheme (`d://drive.invalid/a.htm`), which resolve relative
+/// links only when written with forward slashes. The host, always the same, makes the pages of a drive one
+/// site: without any, each page would be a site of its own, for which the engine makes a frame anew and keeps
+/// part of it.
 namespace platform {
 
 /// How the URLs of a drive begin, up to the slash of the path.

@@ -61,8 +61,11 @@ std::size_t folderLength(std::string_view address, const std::vector<std::string
 std::string folderUrls(std::string text, std::vector<std::string> folders) {
     // A folder may lie in another one.
     std::ranges::sort(folders, std::ranges::greater(), &std::string::size);
-    for (const std::string& folder : folders) {
-        if (folder.size() > 2) writeUrls(text, folder);
+    for (std::string& folder : folders) {
+        if (folder.size() < 3) continue;
+        writeUrls(text, folder);
+        folder[0] = lower(folder[0]);
+        writeUrls(text, folder);
     }
     return text;
 }

@@ -13,7 +13,8 @@ namespace platform {
 std::size_t folderLength(std::string_view address, const std::vector<std::string>& folders);
 
 /// The text of a page or style sheet in which the addresses that begin with one of the folders are URLs (see
-/// DosUrl.h) up to there. A folder is found as it stands, behind a quote, an equals sign or a parenthesis.
+/// DosUrl.h) up to there. A folder is found as it stands, with its drive in either case, behind a quote, an
+/// equals sign or a parenthesis.
 std::string folderUrls(std::string text, std::vector<std::string> folders);
 
 }  // namespace platform

@@ -18,10 +18,11 @@ TEST(Address, TurnsIntoAUrlAndBack) {
         const char* told;
     };
     const Case cases[] = {
-        {"D:\\a.htm", "d://disk/a.htm", "D:\\a.htm"},
-        {"c:/cache/1.htm", "c://disk/cache/1.htm", "C:\\cache\\1.htm"},
-        {"D:\\Αρχείο 1.htm", "d://disk/%CE%91%CF%81%CF%87%CE%B5%CE%AF%CE%BF%201.htm", "D:\\Αρχείο 1.htm"},
-        {"D:\\100%\\a?.htm#τέλος", "d://disk/100%25/a%3F.htm#%CF%84%CE%AD%CE%BB%CE%BF%CF%82",
+        {"D:\\a.htm", "d://drive.invalid/a.htm", "D:\\a.htm"},
+        {"c:/cache/1.htm", "c://drive.invalid/cache/1.htm", "C:\\cache\\1.htm"},
+        {"D:\\Αρχείο 1.htm", "d://drive.invalid/%CE%91%CF%81%CF%87%CE%B5%CE%AF%CE%BF%201.htm",
+         "D:\\Αρχείο 1.htm"},
+        {"D:\\100%\\a?.htm#τέλος", "d://drive.invalid/100%25/a%3F.htm#%CF%84%CE%AD%CE%BB%CE%BF%CF%82",
          "D:\\100%\\a?.htm#τέλος"},
         {"about:blank", "about:blank", "about:blank"},
         {"http://example.org/a%20b", "http://example.org/a%20b", "http://example.org/a%20b"},
@@ -41,21 +42,23 @@ TEST(Address, ReadsWhatPagesWrite) {
         const char* normalised;  // the same when there is nothing to change
     };
     const Case cases[] = {
-        {"d:%5Cimages%5Cx.gif", "D:\\images\\x.gif", "d://disk/images/x.gif"},
-        {"d://disk/mol/x.mol?spin=true#a", "D:\\mol\\x.mol", "d://disk/mol/x.mol?spin=true#a"},
+        {"d:%5Cimages%5Cx.gif", "D:\\images\\x.gif", "d://drive.invalid/images/x.gif"},
+        {"d://drive.invalid/mol/x.mol?spin=true#a", "D:\\mol\\x.mol",
+         "d://drive.invalid/mol/x.mol?spin=true#a"},
         // What the engine makes of `D:\images\x.gif` and `D:\a.htm`.
-        {"d://images/x.gif", "D:\\images\\x.gif", "d://disk/images/x.gif"},
-        {"d://a.htm/", "D:\\a.htm", "d://disk/a.htm"},
+        {"d://images/x.gif", "D:\\images\\x.gif", "d://drive.invalid/images/x.gif"},
+        {"d://disk/x.gif", "D:\\disk\\x.gif", "d://drive.invalid/disk/x.gif"},
+        {"d://a.htm/", "D:\\a.htm", "d://drive.invalid/a.htm"},
         // Alpha and beta escaped as UTF-8 and as code page 1253.
-        {"d:/%CE%B1%CE%B2", "D:\\αβ", "d://disk/%CE%B1%CE%B2"},
-        {"d://disk/%E1%E2", "D:\\αβ", "d://disk/%E1%E2"},
-        {"d:/%E4%B8%AD", "", "d://disk/%E4%B8%AD"},
+        {"d:/%CE%B1%CE%B2", "D:\\αβ", "d://drive.invalid/%CE%B1%CE%B2"},
+        {"d://drive.invalid/%E1%E2", "D:\\αβ", "d://drive.invalid/%E1%E2"},
+        {"d:/%E4%B8%AD", "", "d://drive.invalid/%E4%B8%AD"},
         // Decoded once, then made canonical.
-        {"d:/x/%23%2F..%2F../a%252e.htm", "D:\\a%2e.htm", "d://disk/x/%23%2F..%2F../a%252e.htm"},
-        {"d:/../x/.//y/", "D:\\x\\y", "d://disk/../x/.//y/"},
-        {"d:", "D:\\", "d://disk"},
+        {"d:/x/%23%2F..%2F../a%252e.htm", "D:\\a%2e.htm", "d://drive.invalid/x/%23%2F..%2F../a%252e.htm"},
+        {"d:/../x/.//y/", "D:\\x\\y", "d://drive.invalid/../x/.//y/"},
+        {"d:", "D:\\", "d://drive.invalid"},
         {"d:x", "", "d:x"},
-        {"d:/x%00y", "", "d://disk/x%00y"},
+        {"d:/x%00y", "", "d://drive.invalid/x%00y"},
         {"http://example.org/%5C", "", "http://example.org/%5C"},
     };
     for (const auto& one : cases) {
@@ -80,14 +83,20 @@ TEST(FileType, SeesACharsetInTheFirstKilobyteOnly) {
     EXPECT_FALSE(declaresCharset(std::string(1020, ' ') + meta));
 }
 
+// What the engine would make of "01" and of Greek letters in place of a host is no folder any more.
+TEST(FolderAddresses, BecomeUrlsWhateverTheFirstFolderIsCalled) {
+    EXPECT_EQ(folderUrls("<img src=\"d:\\01\\x.gif\"><a href='D:\\\xC1\\'>D:\\x</a>", {"D:\\"}),
+              "<img src=\"d://drive.invalid/01\\x.gif\"><a href='d://drive.invalid/\xC1\\'>D:\\x</a>");
+}
+
 // Each change moved the rest of the page.
 TEST(FolderAddresses, BecomeUrlsSoonInAPageThatIsFullOfThem) {
     constexpr std::size_t count = 500'000;
     std::string page;
     for (std::size_t i = 0; i < count; ++i) page += "\"D:\\a #\\";
     const std::string urls = folderUrls(page, {"D:\\a #\\", "C:\\"});
-    EXPECT_EQ(urls.size(), page.size() + 10 * count);
-    EXPECT_TRUE(urls.starts_with("\"d://disk/a%20%23/\"d:"));
+    EXPECT_EQ(urls.size(), page.size() + 19 * count);
+    EXPECT_TRUE(urls.starts_with("\"d://drive.invalid/a%20%23/\"d:"));
 }
 
 }  // namespace
