@@ -2,7 +2,7 @@
 
 #include "platform/base/Messages.h"
 
-/// What components and their host tell each other by window messages.
+/// What components and their host tell each other by window messages. 9822 and 9823 are the view's own.
 namespace controls {
 
 /// From the host to the browse selection's auxiliary window: Enter was pressed in the text field.

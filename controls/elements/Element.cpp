@@ -53,7 +53,7 @@ int Element::period() const {
 
 int Element::group() const {
     const int place = placeInPeriod(*this);
-    if (number == 2) return 18;
+    if (number == helium) return 18;
     if (place <= 2) return place;
     if (period() <= 3) return place + 10;
     if (period() <= 5) return place;
@@ -62,7 +62,7 @@ int Element::group() const {
 
 Block Element::block() const {
     if (group() == 0) return Block::f;
-    if (group() <= 2 || number == 2) return Block::s;
+    if (group() <= 2 || number == helium) return Block::s;
     return group() <= 12 ? Block::d : Block::p;
 }
 

@@ -26,18 +26,18 @@ void sendClicks(QAbstractButton& button) {
 }
 
 QWidget& makeButton(const DialogControl& control, QWidget& dialog) {
-    auto* const button = new QPushButton(toQt(control.text), &dialog);
+    auto& button = makeQtChild<QPushButton>(toQt(control.text), &dialog);
     // Enter pushes the button with the focus.
-    button->setAutoDefault(true);
-    button->setDefault(control.kind == DialogControlKind::defaultPushButton);
-    sendClicks(*button);
-    return entered(ControlLink::enter(*button, "Button", control.id));
+    button.setAutoDefault(true);
+    button.setDefault(control.kind == DialogControlKind::defaultPushButton);
+    sendClicks(button);
+    return entered(ControlLink::enter(button, "Button", control.id));
 }
 
 /// Draws check boxes small enough for the height of a line of text; templates give them no more.
-class LowIndicator : public QProxyStyle {
+class SmallIndicator : public QProxyStyle {
   public:
-    explicit LowIndicator(QWidget& box) { setParent(&box); }
+    explicit SmallIndicator(QWidget& box) { setParent(&box); }
 
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
         constexpr int side = 12;
@@ -48,7 +48,7 @@ class LowIndicator : public QProxyStyle {
 
 QWidget& makeCheckBox(const DialogControl& control, QWidget& dialog) {
     auto& box = makeQtChild<QCheckBox>(toQt(control.text), &dialog);
-    box.setStyle(&makeQtChild<LowIndicator>(box));
+    box.setStyle(&makeQtChild<SmallIndicator>(box));
     if (control.style & BS_LEFTTEXT) box.setLayoutDirection(Qt::RightToLeft);
     sendClicks(box);
     return entered(ControlLink::enter(box, "Button", control.id));

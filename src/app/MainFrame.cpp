@@ -29,7 +29,6 @@ const CRuntimeClass CMainFrame::runtimeClass = MakeRuntimeClass<CMainFrame>("CMa
 
 const MessageMap* CMainFrame::GetMessageMap() const {
     static constexpr MessageMapEntry kEntries[] = {
-        OnMessage<WM_CREATE, &CMainFrame::OnCreate>(),
         OnMessage<WM_SIZE, &CMainFrame::OnSize>(),
         OnMessage<WM_DESTROY, &CMainFrame::OnDestroy>(),
         OnCommandId<&CMainFrame::OnFullScreen>(ID_FULL_SCREEN),
@@ -57,8 +56,6 @@ void CMainFrame::ActivateFrame(int showCommand) {
     SetWindowText(LoadString(IDS_APP_TITLE));
     CFrameWnd::ActivateFrame(showCommand);
 }
-
-int CMainFrame::OnCreate(CREATESTRUCT& cs) { return CFrameWnd::OnCreate(cs) < 0 ? -1 : 0; }
 
 void CMainFrame::OnSize(UINT type, int width, int height) {
     CFrameWnd::OnSize(type, width, height);

@@ -16,7 +16,6 @@ class CMainFrame : public platform::CFrameWnd {
     void ActivateFrame(int showCommand) override;
 
   private:
-    int OnCreate(platform::CREATESTRUCT& cs);
     void OnSize(platform::UINT type, int width, int height);
     void OnDestroy();
     void OnFullScreen();

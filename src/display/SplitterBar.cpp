@@ -61,6 +61,7 @@ bool CSplitterBar::Create(int x, int y, int length, bool horizontal, int min, in
     m_nPos = clampTo(horizontal ? y : x, min, max);
     m_nFixed = horizontal ? x : y;
     m_cursor = CCursor::FromResource(horizontal ? IDC_RESIZE_VERTICAL : IDC_RESIZE_HORIZONTAL);
+    // The text is never shown; scripts of the desktop find the window by it.
     if (!CreateWnd("ESGSplit", WS_CHILD | WS_VISIBLE | WS_TABSTOP, barRect(length), parent, IDC_SPLITTER))
         return false;
     SetAccessibleName(LoadString(IDS_SPLITTER));

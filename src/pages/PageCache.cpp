@@ -1,4 +1,6 @@
 #include "src/pages/PageCache.h"
+#include "src/pages/EnlargedPages.h"
+#include "src/pages/MoleculeCopy.h"
 
 #include <utility>
 
@@ -62,8 +64,8 @@ void PageCache::CleanCache(bool final) {
     deletePagesBelow(final ? m_nNext : m_nNext - kPagesKept);
     if (!final) return;
     m_files.deleteFile(redirectPath());
-    m_files.deleteFile(m_location.folder + "bigvid.htm");
-    m_files.deleteFile(m_location.folder + "chime.mol");
+    m_files.deleteFile(m_location.folder + std::string(kEnlargedPage));
+    m_files.deleteFile(m_location.folder + std::string(kMoleculeCopy));
     if (m_location.removeAtEnd) {
         m_files.removeFolder(withoutLastBackslash(m_location.folder));
     }

@@ -81,6 +81,7 @@ constexpr std::array kMenu = {
     Menu{"Βοήθεια"_gr, kHelpMenu},
 };
 
+/// Undo, save, the two of panes and the end of an edit have no handler; their keys do nothing.
 constexpr std::array kAccelerators = {
     Accelerator{"Ctrl+C", ID_EDIT_COPY},   Accelerator{"Ctrl+Ins", ID_EDIT_COPY},
     Accelerator{"Ctrl+X", ID_EDIT_CUT},    Accelerator{"Shift+Del", ID_EDIT_CUT},

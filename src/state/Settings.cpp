@@ -14,7 +14,6 @@ namespace {
 
 constexpr int kDefaultWidth = 640;
 constexpr int kDefaultHeight = 480;
-constexpr int kDefaultSplitter = 216;
 constexpr int kNarrowScreen = 700;
 constexpr std::string_view kTextSizeValue = "TextSize";
 constexpr int kDefaultTextSize = 100;
@@ -58,7 +57,7 @@ std::optional<WindowLayout> FirstLayout(const CRect& screen) {
 
 WindowLayout ReadLayout(const RegistryKey& key, const CRect& screen) {
     WindowLayout layout;
-    layout.splitterPos = numberOr(key, "Splitter", kDefaultSplitter);
+    layout.splitterPos = numberOr(key, "Splitter", layout.splitterPos);
     const std::optional<std::uint32_t> size = key.queryDword("Size");
     if (!size) {
         useDefaultFrame(layout, screen);

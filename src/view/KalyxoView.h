@@ -57,9 +57,9 @@ class CKalyxoView : public platform::CView, private ContentHost {
     void enableBy(platform::CCmdUI& ui);
     template <bool (CommandRules::*Rule)() const>
     void checkBy(platform::CCmdUI& ui);
-    template <std::size_t Slot>
+    template <platform::UINT Command>
     void OnSection();
-    template <std::size_t Slot>
+    template <platform::UINT Command>
     void OnUpdateSection(platform::CCmdUI& ui);
     template <void (EditCommands::*Command)()>
     void OnEdit();

@@ -24,14 +24,14 @@ void CKalyxoView::checkBy(CCmdUI& ui) {
     ui.SetCheck((m_rules.*Rule)());
 }
 
-template <std::size_t Slot>
+template <UINT Command>
 void CKalyxoView::OnSection() {
-    m_navigator.OpenStartPage(SectionCommands()[Slot].code);
+    m_navigator.OpenStartPage(SectionOfCommand(Command));
 }
 
-template <std::size_t Slot>
+template <UINT Command>
 void CKalyxoView::OnUpdateSection(CCmdUI& ui) {
-    ui.SetCheck(m_rules.Section(SectionCommands()[Slot].code));
+    ui.SetCheck(m_rules.Section(SectionOfCommand(Command)));
 }
 
 template <void (EditCommands::*Command)()>
@@ -50,20 +50,20 @@ const MessageMap* CKalyxoView::GetMessageMap() const {
         OnMessage<WM_DESTROY, &CKalyxoView::OnDestroy>(),
         OnMessage<WM_KEYDOWN, &CKalyxoView::OnKeyDown>(),
         OnMessage<WM_KILLFOCUS, &CKalyxoView::OnKillFocus>(),
-        OnCommandId<&CKalyxoView::OnSection<0>>(ID_SECTION_REACT),
-        OnUpdateId<&CKalyxoView::OnUpdateSection<0>>(ID_SECTION_REACT),
-        OnCommandId<&CKalyxoView::OnSection<1>>(ID_SECTION_STRUCT),
-        OnUpdateId<&CKalyxoView::OnUpdateSection<1>>(ID_SECTION_STRUCT),
-        OnCommandId<&CKalyxoView::OnSection<2>>(ID_SECTION_ELEMCOMP),
-        OnUpdateId<&CKalyxoView::OnUpdateSection<2>>(ID_SECTION_ELEMCOMP),
-        OnCommandId<&CKalyxoView::OnSection<3>>(ID_SECTION_USES),
-        OnUpdateId<&CKalyxoView::OnUpdateSection<3>>(ID_SECTION_USES),
-        OnCommandId<&CKalyxoView::OnSection<4>>(ID_SECTION_SOURCE),
-        OnUpdateId<&CKalyxoView::OnUpdateSection<4>>(ID_SECTION_SOURCE),
-        OnCommandId<&CKalyxoView::OnSection<5>>(ID_SECTION_HISTORY),
-        OnUpdateId<&CKalyxoView::OnUpdateSection<5>>(ID_SECTION_HISTORY),
-        OnCommandId<&CKalyxoView::OnSection<6>>(ID_SECTION_CONCEPT),
-        OnUpdateId<&CKalyxoView::OnUpdateSection<6>>(ID_SECTION_CONCEPT),
+        OnCommandId<&CKalyxoView::OnSection<ID_SECTION_REACT>>(ID_SECTION_REACT),
+        OnUpdateId<&CKalyxoView::OnUpdateSection<ID_SECTION_REACT>>(ID_SECTION_REACT),
+        OnCommandId<&CKalyxoView::OnSection<ID_SECTION_STRUCT>>(ID_SECTION_STRUCT),
+        OnUpdateId<&CKalyxoView::OnUpdateSection<ID_SECTION_STRUCT>>(ID_SECTION_STRUCT),
+        OnCommandId<&CKalyxoView::OnSection<ID_SECTION_ELEMCOMP>>(ID_SECTION_ELEMCOMP),
+        OnUpdateId<&CKalyxoView::OnUpdateSection<ID_SECTION_ELEMCOMP>>(ID_SECTION_ELEMCOMP),
+        OnCommandId<&CKalyxoView::OnSection<ID_SECTION_USES>>(ID_SECTION_USES),
+        OnUpdateId<&CKalyxoView::OnUpdateSection<ID_SECTION_USES>>(ID_SECTION_USES),
+        OnCommandId<&CKalyxoView::OnSection<ID_SECTION_SOURCE>>(ID_SECTION_SOURCE),
+        OnUpdateId<&CKalyxoView::OnUpdateSection<ID_SECTION_SOURCE>>(ID_SECTION_SOURCE),
+        OnCommandId<&CKalyxoView::OnSection<ID_SECTION_HISTORY>>(ID_SECTION_HISTORY),
+        OnUpdateId<&CKalyxoView::OnUpdateSection<ID_SECTION_HISTORY>>(ID_SECTION_HISTORY),
+        OnCommandId<&CKalyxoView::OnSection<ID_SECTION_CONCEPT>>(ID_SECTION_CONCEPT),
+        OnUpdateId<&CKalyxoView::OnUpdateSection<ID_SECTION_CONCEPT>>(ID_SECTION_CONCEPT),
         OnCommandId<&CKalyxoView::ShowPeriodicTable>(ID_PERIODIC_TABLE),
         OnUpdateId<&CKalyxoView::checkBy<&CommandRules::PeriodicTable>>(ID_PERIODIC_TABLE),
         OnCommandId<&CKalyxoView::OnDataAnalyser>(ID_DATA_ANALYSER),

@@ -22,6 +22,10 @@ constexpr std::array<SectionCommand, 7> kSections = {{
 
 const std::array<SectionCommand, 7>& SectionCommands() { return kSections; }
 
+std::int16_t SectionOfCommand(platform::UINT command) {
+    return std::ranges::find(kSections, command, &SectionCommand::command)->code;
+}
+
 int SlotOfSection(std::int16_t code) {
     const auto at = std::ranges::find(kSections, code, &SectionCommand::code);
     return at == kSections.end() ? -1 : static_cast<int>(at - kSections.begin());

@@ -23,6 +23,9 @@ struct SectionCommand {
 /// The seven sections by bar slot.
 const std::array<SectionCommand, 7>& SectionCommands();
 
+/// The code of the section that a command opens, which must be one of the seven.
+std::int16_t SectionOfCommand(platform::UINT command);
+
 /// Bar slot of a section code, −1 for any other code.
 int SlotOfSection(std::int16_t code);
 

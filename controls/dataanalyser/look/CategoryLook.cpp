@@ -8,7 +8,7 @@ namespace controls::dataanalyser {
 
 namespace {
 
-constexpr CategoryLook noGroup{{appearance::selected, appearance::accent}, PointShape::circle};
+constexpr CategoryLook noCategory{{appearance::selected, appearance::accent}, PointShape::circle};
 
 // In the order of the families. Families with the same shape have colours that everybody can tell apart.
 constexpr std::array<PointShape, familyCount> familyShapes{
@@ -54,7 +54,7 @@ QColor lightened(const QColor& color) {
 }  // namespace
 
 CategoryLook categoryLook(const Categories& categories, int category) {
-    if (category < 0) return noGroup;
+    if (category < 0) return noCategory;
     const auto place = static_cast<std::size_t>(category);
     const auto isFamily = [](const std::string& name) { return familyNamed(name).has_value(); };
     const bool areFamilies = std::ranges::all_of(categories.names, isFamily);

@@ -144,10 +144,10 @@ void Analyser::setGraphShown(bool shown) {
     changed(Change::view);
 }
 
-std::size_t Analyser::graphColumn(std::int32_t put, bool second) const {
+std::size_t Analyser::graphColumn(std::int32_t chosen, bool second) const {
     const formats::DataSet& set = dataSet();
-    const auto column = static_cast<std::size_t>(std::max(put, 0));
-    if (put >= 0 && column < set.columns.size() && set.columns[column].isNumber()) return column;
+    const auto column = static_cast<std::size_t>(std::max(chosen, 0));
+    if (chosen >= 0 && column < set.columns.size() && set.columns[column].isNumber()) return column;
     if (set.graph) return second ? set.graph->second : set.graph->first;
     return numberColumn(set, second ? 1 : 0);
 }
@@ -189,8 +189,9 @@ Graph Analyser::graph() const { return makeGraph(dataSet(), categories(), rows()
 
 GraphWindow Analyser::window(const Graph& graph) const {
     const auto& [left, right, bottom, top] = state_.set.window;
-    const GraphWindow put{{left, right, graph.whole.x.logarithmic}, {bottom, top, graph.whole.y.logarithmic}};
-    return put.valid() ? put : graph.whole;
+    const GraphWindow chosen{{left, right, graph.whole.x.logarithmic},
+                             {bottom, top, graph.whole.y.logarithmic}};
+    return chosen.valid() ? chosen : graph.whole;
 }
 
 void Analyser::setWindow(const std::optional<GraphWindow>& window) {

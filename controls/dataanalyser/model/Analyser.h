@@ -89,7 +89,7 @@ class Analyser {
   private:
     void changed(Change change) const;
     void forgetRows() const { rows_.reset(); }
-    std::size_t graphColumn(std::int32_t put, bool second) const;
+    std::size_t graphColumn(std::int32_t chosen, bool second) const;
 
     std::function<DataLibrary()> openLibrary_;
     std::function<void(Change)> listener_;

@@ -22,8 +22,12 @@ class Building {
         pretendMedia(tree);
         const auto files =
             compileContent(tree, diagnostics_, options_.complete ? Checks::complete : Checks::usual);
-        const bool isRight = files && mayBeUsed();
-        return tell(isRight, {say::allIsRight, isRight ? counts(tree, *files) : MessageValues()});
+        if (!files || !mayBeUsed()) return tell(false, {say::allIsRight, {}});
+        MessageValues values = counts(tree, *files);
+        const auto warnings = std::ssize(diagnostics_.sorted());
+        if (warnings == 0) return tell(true, {say::allIsRight, std::move(values)});
+        values.emplace_back(warnings);
+        return tell(true, {say::areOnlyWarnings, std::move(values)});
     }
 
     bool build() {

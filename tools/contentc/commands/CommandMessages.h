@@ -20,7 +20,7 @@ Makes content for Kalyxo out of text files. FOLDER is the current folder when it
   --base BASE       with new: lays the folder over another, or over the program's own content (kalyxo)
   --complete        with check: tells too which topics lack a quiz, school years or a picture, or are too long
   --strict          warnings count as errors
-  --output FOLDER   where the data folder goes (FOLDER/data)
+  --output FOLDER   the data folder that is made (the folder 'data' in that of the sources)
   --cache FOLDER    where made pictures and videos are kept (the user's cache folder)
   --images FOLDER   pictures that are made already: the main menu's (*.bmp) and drawings (*.png)
   --media FOLDER    videos that are made already (*.webm)
@@ -40,7 +40,7 @@ Makes content for Kalyxo out of text files. FOLDER is the current folder when it
   --base ΒΑΣΗ       με το new: στρώνει τον φάκελο πάνω σε άλλον ή στο περιεχόμενο του προγράμματος (kalyxo)
   --complete        με το check: λέει και ποια θέματα δεν έχουν ερωτήσεις, τάξη ή εικόνα ή είναι πολύ μεγάλα
   --strict          οι προειδοποιήσεις μετρούν ως λάθη
-  --output ΦΑΚΕΛΟΣ  πού μπαίνει ο φάκελος δεδομένων (ΦΑΚΕΛΟΣ/data)
+  --output ΦΑΚΕΛΟΣ  ο φάκελος δεδομένων που γίνεται (ο φάκελος «data» μέσα σε αυτόν με τα αρχεία σου)
   --cache ΦΑΚΕΛΟΣ   πού φυλάγονται εικόνες και βίντεο που έγιναν (η κρυφή μνήμη του χρήστη)
   --images ΦΑΚΕΛΟΣ  έτοιμες εικόνες: του κεντρικού μενού (*.bmp) και σχέδια (*.png)
   --media ΦΑΚΕΛΟΣ   έτοιμα βίντεο (*.webm)
@@ -61,6 +61,8 @@ inline constexpr Message noSuchFolder{"no such folder", "δεν υπάρχει �
 // Results
 inline constexpr Message allIsRight{"Nothing wrong. Pages: {1}, terms: {2}.",
                                     "Κανένα λάθος. Σελίδες: {1}, όροι: {2}."};
+inline constexpr Message areOnlyWarnings{"No mistakes. Warnings: {3}. Pages: {1}, terms: {2}.",
+                                         "Κανένα λάθος. Προειδοποιήσεις: {3}. Σελίδες: {1}, όροι: {2}."};
 inline constexpr Message isBuilt{"Done. Pages: {1}, terms: {2}, folder: {3}",
                                  "Έτοιμο. Σελίδες: {1}, όροι: {2}, φάκελος: {3}"};
 inline constexpr Message thereWereErrors{"Errors: {1}. Warnings: {2}. Nothing was written.",
