@@ -28,8 +28,13 @@ constexpr int progressBeforeBegin = 10;
 /// How long a page out of sight may take.
 constexpr std::chrono::seconds unseenTime{2};
 
-/// Whether the page refreshes itself within a second.
+/// When a page that is not complete is looked at again. The engine may tell the end of a load late, when the
+/// next page has already begun.
+constexpr std::chrono::milliseconds timeToComplete{10};
+
+/// Whether the page refreshes itself within a second; 'later' while it is not complete.
 constexpr auto leadsOnScript = QLatin1StringView(
+    "document.readyState !== 'complete' ? 'later' :"
     "[...document.querySelectorAll('meta[http-equiv=refresh i]')]"
     ".some(m => parseFloat(m.content) < 1 && /url/i.test(m.content))");
 
@@ -37,7 +42,8 @@ constexpr auto leadsOnScript = QLatin1StringView(
 
 PageArrival::PageArrival(QWebEnginePage& page, std::function<void()> goOnElsewhere)
     : page_(page), goOnElsewhere_(std::move(goOnElsewhere)) {
-    for (QTimer* timer : {&limit_, &begin_, &life_}) timer->setSingleShot(true);
+    for (QTimer* timer : {&limit_, &begin_, &life_, &complete_}) timer->setSingleShot(true);
+    connect(&complete_, &QTimer::timeout, this, &PageArrival::look);
     connect(&limit_, &QTimer::timeout, this, &PageArrival::giveUp);
     connect(&begin_, &QTimer::timeout, this, &PageArrival::askForLife);
     connect(&life_, &QTimer::timeout, this, &PageArrival::endFormerPage);
@@ -62,6 +68,7 @@ void PageArrival::reload() {
 
 void PageArrival::begin() {
     limit_.stop();
+    complete_.stop();
     pending_ = true;
     begun_.start();
     ended_ = false;
@@ -84,7 +91,12 @@ void PageArrival::interrupt() {
 void PageArrival::look() {
     page_.runJavaScript(leadsOnScript, QWebEngineScript::ApplicationWorld,
                         [this, load = std::weak_ptr(load_)](const QVariant& leadsOn) {
-                            if (!load.expired()) settle(leadsOn.toBool());
+                            if (load.expired()) return;
+                            if (leadsOn == QVariant(QStringLiteral("later"))) {
+                                complete_.start(timeToComplete);
+                            } else {
+                                settle(leadsOn.toBool());
+                            }
                         });
 }
 

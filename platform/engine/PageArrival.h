@@ -58,6 +58,7 @@ class PageArrival : public QObject {
     QTimer begin_;        // runs until the page asked for must have begun
     QTimer life_;         // runs while the engine's page process is asked whether it still answers
     bool ended_ = false;  // whether that process has been ended for this load
+    QTimer complete_;     // runs until a page that is not complete is looked at again
     QTimer limit_;        // runs while another page than that on show is expected
     int tries_ = 0;       // how often the load may still be asked for again
     // A new one for each load: it tells whether an answer of the engine is about the present page.
