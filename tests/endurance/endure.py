@@ -145,7 +145,8 @@ def endure_pages(program, places, count):
         if number % step == 0:
             held.append(holdings(program))
             print(number, "pages:", held[-1], flush=True)
-    growth = 1.1 if count >= 2000 else 1.3  # in a short run caches are still filling
+    # In a short run caches are still filling, and the engine collects only when it has enough of what pages leave behind.
+    growth = 1.1 if count >= 2000 else 1.5
     for what, amount in held[-1].items():
         if amount > (first := held[0][what]) * (1 if what == "processes" else growth):
             program.fault(f"{what}: {first}, later {amount}")
