@@ -79,14 +79,15 @@ class ContentCompilation {
     };
 
     void addPages() {
-        const PageScaffold plain = plainScaffold();
+        const PageScaffold start = startScaffold();
+        const PageScaffold help = helpScaffold();
         const auto pageScaffold = scaffold(tree_.pageTemplate, "page.html", {"title", "section"});
         const auto moleculeScaffold = usesMolecules() ? scaffold(tree_.moleculeTemplate, "molecule.html",
                                                                  {"title", "section", "molfile"})
                                                       : PageScaffold{};
         std::vector<PageToCompile> pages;
-        if (content_.startPage) pages.push_back({*content_.startPage, "a.htm", plain});
-        if (content_.helpPage) pages.push_back({*content_.helpPage, "help.htm", plain});
+        if (content_.startPage) pages.push_back({*content_.startPage, "a.htm", start});
+        if (content_.helpPage) pages.push_back({*content_.helpPage, "help.htm", help});
         for (const PageSource& page : content_.pages) {
             const bool hasMolecule = page.scaffold == PageTemplate::molecule;
             if (auto path = formats::pagePath(page.number))

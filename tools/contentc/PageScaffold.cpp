@@ -19,6 +19,17 @@ void addUnlessBlank(std::vector<TextLine>& lines, std::string_view text, const S
     if (!trimmed(text).empty()) lines.push_back({std::string(text), place});
 }
 
+constexpr const char* charset =
+    R"(<META HTTP-EQUIV="Content-Type" CONTENT="text/html; charset=windows-1253">)";
+
+PageScaffold madeOf(std::initializer_list<const char*> head, std::initializer_list<const char*> foot) {
+    const SourcePlace none{};
+    PageScaffold scaffold;
+    for (const char* line : head) scaffold.head.push_back({line, none});
+    for (const char* line : foot) scaffold.foot.push_back({line, none});
+    return scaffold;
+}
+
 }  // namespace
 
 std::optional<PageScaffold> readScaffold(const SourceFile& file,
@@ -46,17 +57,16 @@ std::optional<PageScaffold> readScaffold(const SourceFile& file,
     return scaffold;
 }
 
-PageScaffold plainScaffold() {
-    const SourcePlace none{};
-    PageScaffold scaffold;
-    for (const char* line :
-         {"<HTML>", "<HEAD>", R"(<META HTTP-EQUIV="Content-Type" CONTENT="text/html; charset=windows-1253">)",
-          "<TITLE>{{title}}</TITLE>", R"(<LINK REL="stylesheet" TYPE="text/css" HREF="style/kalyxo.css">)",
-          "</HEAD>", "<BODY>", "<DIV CLASS=\"page plain\">", "<H1>{{title}}</H1>"}) {
-        scaffold.head.push_back({line, none});
-    }
-    for (const char* line : {"</DIV>", "</BODY>", "</HTML>"}) scaffold.foot.push_back({line, none});
-    return scaffold;
+PageScaffold startScaffold() {
+    return madeOf({"<HTML>", "<HEAD>", charset, "<TITLE>{{title}}</TITLE>", "</HEAD>", "<BODY>"},
+                  {"</BODY>", "</HTML>"});
+}
+
+PageScaffold helpScaffold() {
+    return madeOf({"<HTML>", "<HEAD>", charset, "<TITLE>{{title}}</TITLE>",
+                   R"(<LINK REL="stylesheet" TYPE="text/css" HREF="style/kalyxo.css">)", "</HEAD>", "<BODY>",
+                   "<DIV CLASS=\"page plain\">", "<H1>{{title}}</H1>"},
+                  {"</DIV>", "</BODY>", "</HTML>"});
 }
 
 }  // namespace contentc

@@ -20,7 +20,10 @@ std::optional<PageScaffold> readScaffold(const SourceFile& file,
                                          std::initializer_list<std::string_view> placeholders,
                                          Diagnostics& diagnostics);
 
-/// The bare HTML around the body of a plain page.
-PageScaffold plainScaffold();
+/// The HTML around the body of the start page. It lies hidden behind the main menu, so it has no style sheet.
+PageScaffold startScaffold();
+
+/// The HTML around the body of the help page.
+PageScaffold helpScaffold();
 
 }  // namespace contentc
