@@ -17,7 +17,6 @@ namespace {
 /// policy: no network, no file outside the allowed folders.
 void setUp(QWebEngineSettings& settings) {
     using Settings = QWebEngineSettings;
-    settings.setDefaultTextEncoding(QStringLiteral("windows-1253"));
     settings.setAttribute(Settings::JavascriptCanOpenWindows, false);
     settings.setAttribute(Settings::JavascriptCanAccessClipboard, false);
     settings.setAttribute(Settings::LocalContentCanAccessFileUrls, true);

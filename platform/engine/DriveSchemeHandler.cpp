@@ -22,9 +22,8 @@ namespace platform {
 
 namespace {
 
-constexpr qint64 headLength = 1024;
-/// The program prepares none that is longer.
-constexpr qint64 maxPageLength = qint64{64} << 20;
+/// The program prepares no page that is longer.
+constexpr qint64 maxTextLength = qint64{64} << 20;
 
 /// Hands the opened device over to the request, which reads from it until it ends.
 void reply(QWebEngineUrlRequestJob* job, const QByteArray& type, std::unique_ptr<QIODevice> device) {
@@ -52,34 +51,49 @@ void replyMissingPage(QWebEngineUrlRequestJob* job, const std::string& dosPath) 
     reply(job, "text/html;charset=utf-8", openForReading(std::move(buffer)));
 }
 
-/// The file's media type. Pages are in the machine's code page unless they say otherwise.
-QByteArray contentType(const std::string& dosPath, QIODevice& file) {
-    const std::string_view type = mediaTypeOf(dosPath);
-    QByteArray result(type.data(), static_cast<qsizetype>(type.size()));
-    const bool isText = type.starts_with("text/");
-    if (isText && !declaresCharset(file.peek(headLength).toStdString())) result += ";charset=windows-1253";
-    return result;
-}
-
 bool isFrame(QWebEngineUrlRequestJob& job) {
     return job.requestHeaders().value(DriveSchemeHandler::frameHeader) == "1";
 }
 
-/// The text as the engine is to read it, see FolderAddresses.h.
-std::unique_ptr<QIODevice> withFolderUrls(QIODevice& text) {
-    auto changed = std::make_unique<QBuffer>();
-    changed->setData(QByteArray::fromStdString(
-        folderUrls(text.read(maxPageLength).toStdString(), BrowserPolicy::instance().allowedFolders())));
-    return openForReading(std::move(changed));
+/// Pages and plain texts are in the machine's code page unless they say otherwise. Scripts and style sheets
+/// hardly ever say, and scripts that are modules are always in UTF-8.
+bool isInUtf8(const QByteArray& type, const QByteArray& text) {
+    return type == "text/javascript" || type == "text/css" ? text.isValidUtf8()
+                                                           : !isInCodePage1253(text.toStdString());
+}
+
+/// A text file as the engine is to read it.
+struct Text {
+    QByteArray type;
+    std::unique_ptr<QIODevice> device;
+};
+
+/// Gives it the URLs of FolderAddresses.h, and brings it from the code page into UTF-8, since the engine
+/// loads the tables of all its encodings for that one.
+Text readText(QByteArray type, QIODevice& file) {
+    const QByteArray read = file.read(maxTextLength);
+    std::string text = read.toStdString();
+    const bool isConverted = !isInUtf8(type, read);
+    if (type == "text/html" || type == "text/css") {
+        text = folderUrls(std::move(text), BrowserPolicy::instance().allowedFolders());
+    }
+    if (isConverted) {
+        text = toUtf8(text);
+        type += ";charset=utf-8";
+    }
+    auto buffer = std::make_unique<QBuffer>();
+    buffer->setData(QByteArray::fromStdString(text));
+    return {std::move(type), openForReading(std::move(buffer))};
 }
 
 /// False, with the request unanswered, when the file cannot be read.
 bool replyFile(QWebEngineUrlRequestJob* job, const std::string& dosPath, const FileHandle& handle) {
     std::unique_ptr<QIODevice> file = deviceOf(handle);
     if (!file) return false;
-    const QByteArray type = contentType(dosPath, *file);
-    if (type.startsWith("text/html") || type.startsWith("text/css")) file = withFolderUrls(*file);
-    reply(job, type, std::move(file));
+    const std::string_view name = mediaTypeOf(dosPath);
+    Text answer{{name.data(), static_cast<qsizetype>(name.size())}, std::move(file)};
+    if (name.starts_with("text/")) answer = readText(answer.type, *answer.device);
+    reply(job, answer.type, std::move(answer.device));
     return true;
 }
 

@@ -23,6 +23,9 @@ constexpr std::array<Entry, 23> mediaTypes = {{
 
 constexpr std::size_t searchedForCharset = 1024;
 
+/// As the Encoding Standard of the WHATWG has them.
+constexpr std::array<std::string_view, 3> namesOf1253 = {"windows-1253", "cp1253", "x-cp1253"};
+
 }  // namespace
 
 std::string extensionOf(std::string_view path) {
@@ -38,11 +41,18 @@ std::string_view mediaTypeOf(std::string_view path) {
     return found == mediaTypes.end() ? "application/octet-stream" : found->second;
 }
 
-bool declaresCharset(std::string_view head) {
+bool isInCodePage1253(std::string_view head) {
     if (head.starts_with("\xEF\xBB\xBF") || head.starts_with("\xFF\xFE") || head.starts_with("\xFE\xFF")) {
-        return true;
+        return false;
     }
-    return toLower(head.substr(0, searchedForCharset)).find("charset=") != std::string::npos;
+    constexpr std::string_view declaration = "charset=";
+    const std::string searched = toLower(head.substr(0, searchedForCharset));
+    const std::size_t found = searched.find(declaration);
+    if (found == searched.npos) return true;
+    const std::size_t name = searched.find_first_not_of("\"' ", found + declaration.size());
+    return name != searched.npos && std::ranges::any_of(namesOf1253, [&](std::string_view one) {
+               return std::string_view(searched).substr(name).starts_with(one);
+           });
 }
 
 }  // namespace platform

@@ -12,8 +12,8 @@ std::string extensionOf(std::string_view path);
 /// "application/octet-stream".
 std::string_view mediaTypeOf(std::string_view path);
 
-/// Whether the first bytes of a page say in which character set it is written: by a byte order mark or
-/// within the first kilobyte, where browsers look for it.
-bool declaresCharset(std::string_view head);
+/// Whether a text that begins so is in code page 1253: it says so, or does not say in which character set it
+/// is written. It can do so by a byte order mark, or within the first kilobyte, where browsers look for it.
+bool isInCodePage1253(std::string_view head);
 
 }  // namespace platform

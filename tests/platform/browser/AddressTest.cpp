@@ -75,12 +75,16 @@ TEST(FileType, GoesByExtension) {
     EXPECT_EQ(mediaTypeOf("D:\\x.exe"), "application/octet-stream");
 }
 
-TEST(FileType, SeesACharsetInTheFirstKilobyteOnly) {
-    const std::string meta = "<META CONTENT=\"text/html; CharSet=utf-8\">";
-    EXPECT_TRUE(declaresCharset(meta));
-    EXPECT_TRUE(declaresCharset("\xEF\xBB\xBF<HTML>"));
-    EXPECT_FALSE(declaresCharset("<HTML>"));
-    EXPECT_FALSE(declaresCharset(std::string(1020, ' ') + meta));
+TEST(FileType, IsInCodePage1253UnlessTheFirstKilobyteSaysOtherwise) {
+    const std::string utf8 = "<META CONTENT=\"text/html; CharSet=utf-8\">";
+    for (const std::string& head :
+         {std::string("<HTML>"), std::string(1020, ' ') + utf8, std::string("<META CHARSET='Windows-1253'>"),
+          std::string("<META CONTENT=\"text/html; charset= cp1253\">")}) {
+        EXPECT_TRUE(isInCodePage1253(head)) << head;
+    }
+    for (const std::string& head : {utf8, std::string("\xEF\xBB\xBF<HTML>"), std::string("<META CHARSET=")}) {
+        EXPECT_FALSE(isInCodePage1253(head)) << head;
+    }
 }
 
 // What the engine would make of "01" and of Greek letters in place of a host is no folder any more.

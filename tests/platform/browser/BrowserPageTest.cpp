@@ -182,6 +182,18 @@ TEST_F(BrowserMachine, GivesTheEngineOnlyTheLastAddressOfOneStepOfTheProgram) {
     EXPECT_EQ(title(), "3");
 }
 
+// Modules are always read as UTF-8; other scripts do not say in which character set they are.
+TEST_F(BrowserMachine, ReadsScriptsInBothCharacterSets) {
+    write("D:\\old.js", "document.write('ώς ');");
+    writeBytes("D:\\new.js", "document.write('ώς ');");
+    writeBytes("D:\\module.js", "document.body.append('ώς');");
+    write("D:\\a.htm", page1253 +
+                           "<BODY><SCRIPT SRC=\"old.js\"></SCRIPT><SCRIPT SRC=\"new.js\"></SCRIPT>"
+                           "<SCRIPT TYPE=\"module\" SRC=\"module.js\"></SCRIPT></BODY>");
+    open("D:\\a.htm");
+    EXPECT_EQ(text(), "ώς ώς ώς");
+}
+
 TEST_F(BrowserMachine, OpensNewWindowsInTheSameView) {
     write("D:\\a.htm", "<A HREF=\"b.htm\" TARGET=\"_blank\">b</A>");
     write("D:\\b.htm", "<TITLE>b</TITLE>");
