@@ -8,11 +8,11 @@
 #include "platform/browser/BrowserPolicy.h"
 #include "platform/browser/DosUrl.h"
 #include "platform/browser/EngineLibrary.h"
+#include "platform/browser/FillingInSight.h"
 #include "platform/browser/FolderAddresses.h"
 #include "platform/browser/RequestPolicy.h"
 #include "platform/components/ComponentLibrary.h"
 #include "platform/machine/Machine.h"
-#include "platform/qt/Filling.h"
 #include "platform/qt/QtChild.h"
 #include "platform/qt/WindowTable.h"
 
@@ -80,7 +80,7 @@ void WebBrowserComponent::makeEngine() {
     engine_ = platform::makeEngine(area_.get(),
                                    {[this](const PageRequest& request) { return passes(request); }, send});
     engine_->setTextSize(textSize_);
-    makeQtChild<Filling>(*area_, &engine_->widget());
+    makeQtChild<FillingInSight>(*area_, &engine_->widget());
     area_->setFocusProxy(&engine_->widget());
 }
 

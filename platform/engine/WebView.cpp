@@ -106,9 +106,7 @@ void WebView::passFocusOn() {
     QWidget* const focus = QApplication::focusWidget();
     if (!focus || !isAncestorOf(focus) || isInSight(*this)) return;
     if (!focusNextInSight(*focus, !(QApplication::keyboardModifiers() & Qt::ShiftModifier))) {
-        // The window of the component lies between.
-        const QWidget* const component = parentWidget()->parentWidget();
-        if (QWidget* const around = component->parentWidget()) around->setFocus(Qt::OtherFocusReason);
+        focusAroundComponent(*parentWidget());
     }
 }
 

@@ -45,4 +45,11 @@ bool focusNextInSight(QWidget& from, bool forward) {
     return false;
 }
 
+void focusAroundComponent(const QWidget& area) {
+    const QWidget* const component = area.parentWidget();
+    if (QWidget* const around = component ? component->parentWidget() : nullptr) {
+        around->setFocus(Qt::OtherFocusReason);
+    }
+}
+
 }  // namespace platform

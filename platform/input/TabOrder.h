@@ -16,4 +16,8 @@ bool isInSight(const QWidget& widget);
 /// does. False when there is no other.
 bool focusNextInSight(QWidget& from, bool forward);
 
+/// Gives the focus to the window around a component, from the widget `area` that fills the component's
+/// window.
+void focusAroundComponent(const QWidget& area);
+
 }  // namespace platform
