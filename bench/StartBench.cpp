@@ -91,9 +91,9 @@ void measureReturn(benchmark::State& state, const std::string& command) {
 }
 
 void OpeningOfAPage(benchmark::State& state) { measureReturn(state, firstSection); }
-BENCHMARK(OpeningOfAPage)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(15);
+BENCHMARK(OpeningOfAPage)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(41);
 
 void BackToAPage(benchmark::State& state) { measureReturn(state, back); }
-BENCHMARK(BackToAPage)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(15);
+BENCHMARK(BackToAPage)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(41);
 
 }  // namespace

@@ -27,6 +27,9 @@ namespace {
 
 constexpr std::uint32_t kStartUpWaitMs = 2000;
 constexpr std::size_t kMaxDirectory = 256;
+constexpr int kEnoughBitsPerPixel = 16;
+/// On a screen that is no larger in either direction the main frame opens maximised.
+constexpr CSize kSmallScreen{640, 480};
 
 std::optional<std::string> askForFolder(FolderPurpose purpose) {
     CFindFolderDlg chooser(purpose);
@@ -36,6 +39,14 @@ std::optional<std::string> askForFolder(FolderPurpose purpose) {
 CRect screenArea() {
     const ScreenConfig& screen = machine().screen();
     return CRect::at(screen.left, screen.top, screen.width, screen.height);
+}
+
+/// The warning for a screen of so many bits per pixel; empty when it shows enough colours.
+std::string colourDepthWarning(int bitsPerPixel) {
+    if (bitsPerPixel >= kEnoughBitsPerPixel) return {};
+    return std::string(LoadString(IDS_SCREEN_SHOWS_ONLY))
+        .append(bitsPerPixel == 8 ? "256" : "16")
+        .append(LoadString(IDS_SO_MANY_COLOURS));
 }
 
 }  // namespace
@@ -100,12 +111,13 @@ void CKalyxoApp::addDocTemplate() {
 }
 
 void CKalyxoApp::chooseFirstShow() {
-    m_nCmdShow = IsSmallScreen({machine().screen().width, machine().screen().height}) ? SW_SHOWMAXIMIZED
-                                                                                      : SW_SHOWNORMAL;
+    const ScreenConfig& screen = machine().screen();
+    const bool isSmall = screen.width <= kSmallScreen.cx || screen.height <= kSmallScreen.cy;
+    m_nCmdShow = isSmall ? SW_SHOWMAXIMIZED : SW_SHOWNORMAL;
 }
 
 void CKalyxoApp::warnOfFewColours() {
-    const std::string warning = ColourDepthWarning(machine().screen().bitsPerPixel);
+    const std::string warning = colourDepthWarning(machine().screen().bitsPerPixel);
     if (!warning.empty()) AfxMessageBox(warning);
 }
 
@@ -119,14 +131,6 @@ bool CKalyxoApp::PreTranslateMessage(const MSG& message) {
         return true;
     }
     return CWinApp::PreTranslateMessage(message);
-}
-
-std::string ColourDepthWarning(int bitsPerPixel) {
-    constexpr int kEnough = 16;
-    if (bitsPerPixel >= kEnough) return {};
-    return std::string(LoadString(IDS_SCREEN_SHOWS_ONLY))
-        .append(bitsPerPixel == 8 ? "256" : "16")
-        .append(LoadString(IDS_SO_MANY_COLOURS));
 }
 
 }  // namespace kalyxo

@@ -35,10 +35,4 @@ class CKalyxoApp : public platform::CWinApp, public ProgramState {
     std::string m_strGivenDataFolder;
 };
 
-/// The warning for a screen of so many bits per pixel; empty when it shows enough colours.
-std::string ColourDepthWarning(int bitsPerPixel);
-
-/// Whether the main frame opens maximised because the screen is small.
-constexpr bool IsSmallScreen(platform::CSize screen) { return screen.cx <= 640 || screen.cy <= 480; }
-
 }  // namespace kalyxo

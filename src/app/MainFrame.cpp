@@ -18,9 +18,20 @@ using namespace platform;
 
 namespace {
 
+constexpr CSize kMinSize{640, 480};
+/// By which a maximised window is larger than the screen, its two borders.
+constexpr int kMaximisedBorders = 8;
+
 /// The distance between two saved sides. They may be any numbers, so the difference may wrap around.
 int between(int from, int to) {
     return static_cast<int>(static_cast<unsigned>(to) - static_cast<unsigned>(from));
+}
+
+/// The rectangle of a frame, enlarged to the minimum size where it is smaller; its corner stays.
+CRect withMinSize(const CRect& frame, CSize maximised) {
+    const int width = std::max(frame.Width(), std::min(kMinSize.cx, maximised.cx - kMaximisedBorders));
+    const int height = std::max(frame.Height(), std::min(kMinSize.cy, maximised.cy - kMaximisedBorders));
+    return CRect::at(frame.left, frame.top, width, height);
 }
 
 }  // namespace
@@ -70,14 +81,8 @@ void CMainFrame::OnSize(UINT type, int width, int height) {
 void CMainFrame::keepMinSize() {
     const CRect frame = GetWindowRect();
     const CRect enlarged =
-        WithMinFrameSize(frame, {machine().metric(SM_CXMAXIMIZED), machine().metric(SM_CYMAXIMIZED)});
+        withMinSize(frame, {machine().metric(SM_CXMAXIMIZED), machine().metric(SM_CYMAXIMIZED)});
     if (enlarged != frame) MoveWindow(enlarged);
-}
-
-CRect WithMinFrameSize(const CRect& frame, CSize maximised) {
-    const int width = std::max(frame.Width(), std::min(640, maximised.cx - 8));
-    const int height = std::max(frame.Height(), std::min(480, maximised.cy - 8));
-    return CRect::at(frame.left, frame.top, width, height);
 }
 
 /// The layout saved is that of before the frame has covered the screen.

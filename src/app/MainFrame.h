@@ -23,8 +23,4 @@ class CMainFrame : public platform::CFrameWnd {
     void keepLayout();
 };
 
-/// The rectangle of a frame, enlarged to the minimum size where it is smaller; its corner stays. `maximised`
-/// is the size of a maximised window.
-platform::CRect WithMinFrameSize(const platform::CRect& frame, platform::CSize maximised);
-
 }  // namespace kalyxo

@@ -66,6 +66,15 @@ FileOnDisk readFile(const FileSystem& files, std::string_view path) {
     }
 }
 
+/// Creates the folders named in a file path; those that are there already stay.
+void CreatePathFolders(const FileSystem& files, std::string_view path) {
+    const std::size_t root = path.find('\\');
+    if (root == path.npos) return;
+    for (std::size_t end = path.find('\\', root + 1); end != path.npos; end = path.find('\\', end + 1)) {
+        files.createFolder(path.substr(0, end));
+    }
+}
+
 }  // namespace
 
 std::optional<BookmarkArray> ReadBookmarks(std::string_view bytes) {
@@ -177,14 +186,6 @@ std::string BookmarkFile::firstName(std::string_view ending,
     for (int number = 2; !mayTake(name); ++number)
         name = m_path + std::string(ending) + std::to_string(number);
     return name;
-}
-
-void CreatePathFolders(const FileSystem& files, std::string_view path) {
-    const std::size_t root = path.find('\\');
-    if (root == path.npos) return;
-    for (std::size_t end = path.find('\\', root + 1); end != path.npos; end = path.find('\\', end + 1)) {
-        files.createFolder(path.substr(0, end));
-    }
 }
 
 }  // namespace kalyxo

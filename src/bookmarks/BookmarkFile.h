@@ -62,7 +62,4 @@ class BookmarkFile {
     std::optional<std::string> m_loaded;  ///< the bytes of the file when it was loaded
 };
 
-/// Creates the folders named in a file path; those that are there already stay.
-void CreatePathFolders(const platform::FileSystem& files, std::string_view path);
-
 }  // namespace kalyxo

@@ -21,12 +21,14 @@ PALETTEENTRY entryAt(std::span<const std::byte> table, std::size_t index) {
     return {part(2), part(1), part(0), 0};
 }
 
-}  // namespace
-
+/// The number of colours that follow a bitmap's header. With more than 8 bits a pixel there are none, unless
+/// the header says otherwise.
 std::uint32_t ColourCount(const BITMAPINFOHEADER& header) {
     if (header.biClrUsed != 0) return header.biClrUsed;
     return header.biBitCount <= kMaxIndexedBits ? 1U << header.biBitCount : 0;
 }
+
+}  // namespace
 
 std::optional<std::vector<PALETTEENTRY>> CreatePaletteFromHeader(std::span<const std::byte> bitmap,
                                                                  std::uint32_t& colourCount) {

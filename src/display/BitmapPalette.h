@@ -10,10 +10,6 @@
 
 namespace kalyxo {
 
-/// The number of colours that follow a bitmap's header. With more than 8 bits a pixel there are none, unless
-/// the header says otherwise.
-std::uint32_t ColourCount(const platform::BITMAPINFOHEADER& header);
-
 /// The palette of a bitmap that begins with a header of 40 bytes; its size is stored in `colourCount`.
 /// Nothing, with a count of 0, when the bitmap has no palette or its colour table is cut short.
 std::optional<std::vector<platform::PALETTEENTRY>> CreatePaletteFromHeader(std::span<const std::byte> bitmap,

@@ -33,9 +33,14 @@ constexpr COLORREF kGround = RGB(192, 192, 192);
 constexpr int kButtonStrip = 26;
 constexpr int kButtonFromBottom = 22;
 
-}  // namespace
+/// Where the parts of the dialog lie. It follows from the dialog's mode and the system's metrics.
+struct Layout {
+    CRect outer;    ///< on the screen
+    CRect browser;  ///< in the client area; may be wider, so that a scroll bar lies outside
+    CRect button;
+};
 
-EnlargedViewLayout LayOutEnlargedView(EnlargedViewMode mode) {
+Layout layOut(EnlargedViewMode mode) {
     const InnerSize inner = innerSize(mode);
     const Machine& system = machine();
     const CSize outer{inner.width + 2 * system.metric(SM_CXDLGFRAME),
@@ -47,6 +52,8 @@ EnlargedViewLayout LayOutEnlargedView(EnlargedViewMode mode) {
         CRect::at((outer.cx - kButton.cx) / 2, inner.height - kButtonFromBottom, kButton.cx, kButton.cy),
     };
 }
+
+}  // namespace
 
 const CRuntimeClass CEnlargedViewDlg::runtimeClass{"CEnlargedViewDlg"};
 
@@ -74,7 +81,7 @@ void CEnlargedViewDlg::DoDataExchange(CDataExchange& exchange) { DDX_Control(exc
 bool CEnlargedViewDlg::OnInitDialog() {
     const bool defaultFocus = CDialog::OnInitDialog();
     SetWindowText(m_strCaption);
-    const EnlargedViewLayout layout = LayOutEnlargedView(m_mode);
+    const Layout layout = layOut(m_mode);
     MoveWindow(layout.outer);
     m_ok.MoveWindow(layout.button);
     if (m_mode == EnlargedViewMode::enlargedView) m_strAddress += kEnlargedPage;

@@ -14,14 +14,6 @@ enum class EnlargedViewMode {
     plainPage,     ///< a page by its address
 };
 
-/// Where the parts of the dialog lie. It follows from the dialog's mode and the system's metrics.
-struct EnlargedViewLayout {
-    platform::CRect outer;    ///< on the screen
-    platform::CRect browser;  ///< in the client area; may be wider, so that a scroll bar lies outside
-    platform::CRect button;
-};
-EnlargedViewLayout LayOutEnlargedView(EnlargedViewMode mode);
-
 /// A window of its own for a page, closed by OK.
 class CEnlargedViewDlg : public platform::CDialog {
   public:

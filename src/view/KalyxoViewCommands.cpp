@@ -1,4 +1,5 @@
 #include "controls/contract/HostMessages.h"
+#include "formats/SectionTable.h"
 #include "platform/machine/Machine.h"
 #include "platform/text/CodePage1253.h"
 #include "platform/windows/MessageMap.h"
@@ -186,10 +187,9 @@ bool CKalyxoView::OnItemChosen(std::int32_t itemCode) {
 }
 
 bool CKalyxoView::OnElementChosen(std::int16_t elementKey) {
-    constexpr std::int16_t kElementsAndCompounds = 6;
     const std::optional<std::int32_t> page = m_elements.PageOf(elementKey);
     if (m_panes.Mode() != ContentMode::PeriodicTable || !page) return true;
-    m_navigator.OpenSection(kElementsAndCompounds, 0);
+    m_navigator.OpenSection(formats::sectionByKey("elemcomp")->code, 0);
     ShowItem(*page, 0);
     return true;
 }

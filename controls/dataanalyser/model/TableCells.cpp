@@ -16,6 +16,12 @@ using namespace platform::literals;
 constexpr std::string_view kelvin = "K";
 constexpr std::string_view celsius = "°C"_gr;
 
+/// The unit in which a column is shown, empty when it has none.
+std::string shownUnit(const formats::DataColumn& column, TemperatureUnit unit) {
+    if (!isTemperature(column)) return column.unit;
+    return std::string(unit == TemperatureUnit::kelvin ? kelvin : celsius);
+}
+
 /// The number that converts the column's values into the unit shown, when it is added to them.
 double shift(const formats::DataColumn& column, TemperatureUnit unit) {
     if (!isTemperature(column) || shownUnit(column, unit) == column.unit) return 0;
@@ -31,11 +37,6 @@ int decimalsOf(std::string_view text) {
 
 bool isTemperature(const formats::DataColumn& column) {
     return column.isNumber() && (column.unit == kelvin || column.unit == celsius);
-}
-
-std::string shownUnit(const formats::DataColumn& column, TemperatureUnit unit) {
-    if (!isTemperature(column)) return column.unit;
-    return std::string(unit == TemperatureUnit::kelvin ? kelvin : celsius);
 }
 
 std::string heading(const formats::DataColumn& column, TemperatureUnit unit) {

@@ -14,9 +14,6 @@ enum class TemperatureUnit : std::uint8_t { kelvin, celsius };
 /// Whether a column holds temperatures. These are shown in the unit that the reader has chosen.
 bool isTemperature(const formats::DataColumn& column);
 
-/// The unit in which a column is shown, empty when it has none.
-std::string shownUnit(const formats::DataColumn& column, TemperatureUnit unit);
-
 /// The heading of a column with its unit, in code page 1253.
 std::string heading(const formats::DataColumn& column, TemperatureUnit unit);
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "tools/contentc/source/FileMessages.h"
 #include "tools/contentc/source/Layers.h"
@@ -12,13 +14,37 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// A folder of the sources and the extensions of the files that are taken from it.
+struct SourceFolderUse {
+    std::string_view name;
+    std::vector<std::string_view> extensions;
+    /// Whether the files lie in folders below it.
+    bool hasFolders = false;
+};
+
+const std::vector<SourceFolderUse>& sourceFolderUses() {
+    static const std::vector<SourceFolderUse> uses{
+        {"pages", {".md"}, true},
+        {"glossary", {".md"}},
+        {"pictures", {".svg", ".png", ".jpg", ".bmp"}},
+        {"molecules", {".mol"}},
+        {"videos",
+         {".webm", ".mp4", ".mov", ".avi", ".mkv", ".ogv", ".mpg", ".mpeg", ".json", ".awk", ".sh"}},
+        {"datasets", {".data"}},
+        {"words", {".txt"}},
+        {"templates", {".html"}},
+        {"tools", {".js", ".css", ".txt"}, true},
+    };
+    return uses;
+}
+
 bool takes(const SourceFolderUse& use, const fs::path& file) {
     return std::ranges::find(use.extensions, takenExtension(file)) != use.extensions.end();
 }
 
 /// Where a file of this kind is taken from; null when it is taken from nowhere.
 const SourceFolderUse* placeOf(const fs::path& file) {
-    const auto uses = sourceFolderUses();
+    const auto& uses = sourceFolderUses();
     const auto use = std::ranges::find_if(
         uses, [&file](const SourceFolderUse& candidate) { return takes(candidate, file); });
     return use == uses.end() ? nullptr : &*use;
@@ -125,22 +151,6 @@ class IgnoredFilesReport {
 };
 
 }  // namespace
-
-std::span<const SourceFolderUse> sourceFolderUses() {
-    static const std::vector<SourceFolderUse> uses{
-        {"pages", {".md"}, true},
-        {"glossary", {".md"}},
-        {"pictures", {".svg", ".png", ".jpg", ".bmp"}},
-        {"molecules", {".mol"}},
-        {"videos",
-         {".webm", ".mp4", ".mov", ".avi", ".mkv", ".ogv", ".mpg", ".mpeg", ".json", ".awk", ".sh"}},
-        {"datasets", {".data"}},
-        {"words", {".txt"}},
-        {"templates", {".html"}},
-        {"tools", {".js", ".css", ".txt"}, true},
-    };
-    return uses;
-}
 
 bool isFolder(const fs::path& path) {
     std::error_code failed;

@@ -1,25 +1,12 @@
 #pragma once
 
 #include <filesystem>
-#include <span>
-#include <string_view>
 #include <system_error>
 #include <vector>
 
 #include "tools/contentc/source/Diagnostics.h"
 
 namespace contentc {
-
-/// A folder of the sources and the extensions of the files that are taken from it.
-struct SourceFolderUse {
-    std::string_view name;
-    std::vector<std::string_view> extensions;
-    /// Whether the files lie in folders below it.
-    bool hasFolders = false;
-};
-
-/// The folders of the sources.
-std::span<const SourceFolderUse> sourceFolderUses();
 
 /// Whether there is such a folder, or anything of this name; also when the system fails to tell, so that
 /// reading it tells the reason.

@@ -1,6 +1,7 @@
 #include "tools/contentc/source/PictureSizes.h"
 
 #include <charconv>
+#include <string_view>
 
 namespace contentc {
 namespace {
@@ -46,9 +47,9 @@ PictureSize sizeOfSvg(std::string_view bytes) {
     return {attribute(tag, "width"), attribute(tag, "height")};
 }
 
-}  // namespace
-
-std::optional<PictureSize> pictureSize(std::string_view bytes) {
+/// The size that a drawing (SVG) names, or that a PNG or JPEG file has, by the file's bytes; 0 × 0 when they
+/// tell none.
+PictureSize pictureSize(std::string_view bytes) {
     PictureSize size;
     if (bytes.starts_with("\x89PNG")) {
         size = sizeOfPng(bytes);
@@ -57,15 +58,16 @@ std::optional<PictureSize> pictureSize(std::string_view bytes) {
     } else {
         size = sizeOfSvg(bytes);
     }
-    if (size.width <= 0 || size.height <= 0) return std::nullopt;
+    if (size.width <= 0 || size.height <= 0) return {};
     return size;
 }
+
+}  // namespace
 
 PictureSizes readPictureSizes(const SourceTree& tree) {
     PictureSizes sizes;
     for (const auto* files : {&tree.drawings, &tree.drawnDrawings, &tree.pictures}) {
-        for (const SourceFile& file : *files)
-            sizes.try_emplace(file.name(), pictureSize(file.bytes).value_or(PictureSize{}));
+        for (const SourceFile& file : *files) sizes.try_emplace(file.name(), pictureSize(file.bytes));
     }
     return sizes;
 }

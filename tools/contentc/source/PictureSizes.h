@@ -2,9 +2,7 @@
 
 #include <functional>
 #include <map>
-#include <optional>
 #include <string>
-#include <string_view>
 
 #include "tools/contentc/source/SourceTree.h"
 
@@ -21,10 +19,6 @@ struct PictureSize {
 /// The pictures of the sources by file name, such as `ph-scale.svg`. The size of one that cannot be read is 0
 /// × 0.
 using PictureSizes = std::map<std::string, PictureSize, std::less<>>;
-
-/// The size that a drawing (SVG) names, or that a PNG or JPEG file has, by the file's bytes. Nothing when
-/// they tell none.
-std::optional<PictureSize> pictureSize(std::string_view bytes);
 
 /// The sizes of all pictures of the sources.
 PictureSizes readPictureSizes(const SourceTree& tree);
