@@ -54,15 +54,14 @@ void setEngineFlags() {
 }
 
 bool hasGraphicsCard(const std::string& devices) {
-    // Not with name filters, which are regular expressions and would load their library.
-    const auto has = [&](const char* in, const char* start) {
-        const QDir folder(QString::fromStdString(devices + in));
-        const QStringList files = folder.entryList(QDir::System | QDir::AllEntries | QDir::NoDotAndDotDot);
-        return std::ranges::any_of(
-            files, [start](const QString& file) { return file.startsWith(QLatin1String(start)); });
-    };
-    // Of the kernel's own drivers, of NVIDIA's, and of Windows around a virtual machine.
-    return has("/dri", "renderD") || has("", "nvidia0") || has("", "dxg");
+    const QDir folder(QString::fromStdString(devices));
+    // Not with a name filter, which is a regular expression and would load the library for them.
+    const QStringList drivers =
+        QDir(folder.filePath(QStringLiteral("dri"))).entryList(QDir::System | QDir::Files);
+    const bool isKernelDriver = std::ranges::any_of(
+        drivers, [](const QString& file) { return file.startsWith(QLatin1StringView("renderD")); });
+    // The other two: NVIDIA's driver, and Windows around a virtual machine.
+    return isKernelDriver || folder.exists(QStringLiteral("nvidia0")) || folder.exists(QStringLiteral("dxg"));
 }
 
 void letEngineFind(const std::vector<std::string>& hosts) {
