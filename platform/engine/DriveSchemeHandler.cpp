@@ -57,9 +57,9 @@ bool isFrame(QWebEngineUrlRequestJob& job) {
 
 /// Pages and plain texts are in the machine's code page unless they say otherwise. Scripts and style sheets
 /// hardly ever say, and scripts that are modules are always in UTF-8.
-bool isInUtf8(const QByteArray& type, const QByteArray& text) {
-    return type == "text/javascript" || type == "text/css" ? text.isValidUtf8()
-                                                           : !isInCodePage1253(text.toStdString());
+bool isInUtf8(const QByteArray& type, const std::string& text) {
+    return type == "text/javascript" || type == "text/css" ? QUtf8StringView(text).isValidUtf8()
+                                                           : !isInCodePage1253(text);
 }
 
 /// A text file as the engine is to read it.
@@ -71,9 +71,8 @@ struct Text {
 /// Gives it the URLs of FolderAddresses.h, and brings it from the code page into UTF-8, since the engine
 /// loads the tables of all its encodings for that one.
 Text readText(QByteArray type, QIODevice& file) {
-    const QByteArray read = file.read(maxTextLength);
-    std::string text = read.toStdString();
-    const bool isConverted = !isInUtf8(type, read);
+    std::string text = file.read(maxTextLength).toStdString();
+    const bool isConverted = !isInUtf8(type, text);
     if (type == "text/html" || type == "text/css") {
         text = folderUrls(std::move(text), BrowserPolicy::instance().allowedFolders());
     }
