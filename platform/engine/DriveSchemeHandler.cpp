@@ -57,9 +57,9 @@ bool isFrame(QWebEngineUrlRequestJob& job) {
 
 /// Pages and plain texts are in the machine's code page unless they say otherwise. Scripts and style sheets
 /// hardly ever say, and scripts that are modules are always in UTF-8.
-bool isInUtf8(const QByteArray& type, const std::string& text) {
-    return type == "text/javascript" || type == "text/css" ? QUtf8StringView(text).isValidUtf8()
-                                                           : !isInCodePage1253(text);
+bool isInCodePage(const QByteArray& type, const std::string& text) {
+    return type == "text/javascript" || type == "text/css" ? !QUtf8StringView(text).isValidUtf8()
+                                                           : isInCodePage1253(text);
 }
 
 /// A text file as the engine is to read it.
@@ -72,7 +72,7 @@ struct Text {
 /// loads the tables of all its encodings for that one.
 Text readText(QByteArray type, QIODevice& file) {
     std::string text = file.read(maxTextLength).toStdString();
-    const bool isConverted = !isInUtf8(type, text);
+    const bool isConverted = isInCodePage(type, text);
     if (type == "text/html" || type == "text/css") {
         text = folderUrls(std::move(text), BrowserPolicy::instance().allowedFolders());
     }

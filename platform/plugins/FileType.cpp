@@ -26,6 +26,21 @@ constexpr std::size_t searchedForCharset = 1024;
 /// As the Encoding Standard of the WHATWG has them.
 constexpr std::array<std::string_view, 3> namesOf1253 = {"windows-1253", "cp1253", "x-cp1253"};
 
+/// The name that a META tag gives; empty when there is none. Other tags name the character set of the file
+/// that they lead to.
+std::string declaredCharset(const std::string& lowerCase) {
+    constexpr std::string_view declaration = "charset=";
+    for (std::size_t tag = lowerCase.find("<meta"); tag != lowerCase.npos;
+         tag = lowerCase.find("<meta", tag + 1)) {
+        const std::size_t found = lowerCase.find(declaration, tag);
+        if (found > lowerCase.find('>', tag)) continue;
+        const std::size_t begin =
+            std::min(lowerCase.find_first_not_of("\"' ", found + declaration.size()), lowerCase.size());
+        return lowerCase.substr(begin, lowerCase.find_first_of("\"' ;/>", begin) - begin);
+    }
+    return {};
+}
+
 }  // namespace
 
 std::string extensionOf(std::string_view path) {
@@ -45,14 +60,9 @@ bool isInCodePage1253(std::string_view head) {
     if (head.starts_with("\xEF\xBB\xBF") || head.starts_with("\xFF\xFE") || head.starts_with("\xFE\xFF")) {
         return false;
     }
-    constexpr std::string_view declaration = "charset=";
     const std::string searched = toLower(head.substr(0, searchedForCharset));
-    const std::size_t found = searched.find(declaration);
-    if (found == searched.npos) return true;
-    const std::size_t name = searched.find_first_not_of("\"' ", found + declaration.size());
-    return name != searched.npos && std::ranges::any_of(namesOf1253, [&](std::string_view one) {
-               return std::string_view(searched).substr(name).starts_with(one);
-           });
+    const std::string charset = declaredCharset(searched);
+    return charset.empty() || std::ranges::find(namesOf1253, charset) != namesOf1253.end();
 }
 
 }  // namespace platform

@@ -13,7 +13,8 @@ std::string extensionOf(std::string_view path);
 std::string_view mediaTypeOf(std::string_view path);
 
 /// Whether a text that begins so is in code page 1253: it says so, or does not say in which character set it
-/// is written. It can do so by a byte order mark, or within the first kilobyte, where browsers look for it.
+/// is written. It can do so by a byte order mark, or by a META tag within the first kilobyte, where browsers
+/// look for it.
 bool isInCodePage1253(std::string_view head);
 
 }  // namespace platform

@@ -28,7 +28,7 @@ namespace {
 constexpr std::uint32_t kStartUpWaitMs = 2000;
 constexpr std::size_t kMaxDirectory = 256;
 constexpr int kEnoughBitsPerPixel = 16;
-/// On a screen that is no larger in either direction the main frame opens maximised.
+/// On a screen that is no wider or no higher than this the main frame opens maximised.
 constexpr CSize kSmallScreen{640, 480};
 
 std::optional<std::string> askForFolder(FolderPurpose purpose) {

@@ -79,10 +79,12 @@ TEST(FileType, IsInCodePage1253UnlessTheFirstKilobyteSaysOtherwise) {
     const std::string utf8 = "<META CONTENT=\"text/html; CharSet=utf-8\">";
     for (const std::string& head :
          {std::string("<HTML>"), std::string(1020, ' ') + utf8, std::string("<META CHARSET='Windows-1253'>"),
-          std::string("<META CONTENT=\"text/html; charset= cp1253\">")}) {
+          std::string("<META CONTENT=\"text/html; charset= cp1253\">"), std::string("<META CHARSET="),
+          std::string("<META NAME=x><SCRIPT CHARSET=utf-8 SRC=x.js></SCRIPT>")}) {
         EXPECT_TRUE(isInCodePage1253(head)) << head;
     }
-    for (const std::string& head : {utf8, std::string("\xEF\xBB\xBF<HTML>"), std::string("<META CHARSET=")}) {
+    for (const std::string& head :
+         {utf8, "<META NAME=x><META CHARSET=utf-8/>" + utf8, std::string("\xEF\xBB\xBF<HTML>")}) {
         EXPECT_FALSE(isInCodePage1253(head)) << head;
     }
 }
